@@ -1,0 +1,53 @@
+# One static library a layer. What a layer may include is what it links; tests/architecture checks
+# the same rule by reading the includes.
+
+# drafton_layer(<target> FOLDER <dir> [SHARED] LINKS <targets...>)
+# Collects the sources of one folder. Include paths start at the top of the tree, so that an include
+# line always names the layer that it reaches into.
+function(drafton_layer target)
+  cmake_parse_arguments(ARG "SHARED" "FOLDER" "LINKS;SOURCES" ${ARGN})
+  if(ARG_SOURCES)
+    set(sources ${ARG_SOURCES})
+  else()
+    file(GLOB sources CONFIGURE_DEPENDS ${ARG_FOLDER}/*.cpp ${ARG_FOLDER}/*.h)
+  endif()
+  if(ARG_SHARED)
+    add_library(${target} SHARED ${sources})
+  else()
+    add_library(${target} STATIC ${sources})
+  endif()
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  # What is exported is said where it is declared or, for the module, in its version script; the
+  # shared libraries publish all that their headers declare.
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
+  target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# drafton_test(<name> [FOLDER <dir>] LINKS <targets...> [ENV <name=value>...])
+# One test program for one folder of tests.
+function(drafton_test name)
+  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "LINKS;SOURCES;ENV;LABELS" ${ARGN})
+  if(NOT ARG_FOLDER)
+    set(ARG_FOLDER ${CMAKE_CURRENT_SOURCE_DIR})
+  endif()
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 600)
+  endif()
+  if(ARG_SOURCES)
+    set(sources ${ARG_SOURCES})
+  else()
+    file(GLOB sources CONFIGURE_DEPENDS ${ARG_FOLDER}/*.cpp)
+  endif()
+  add_executable(${name} ${sources})
+  # The program exports the host's functions, as a real host's executable does.
+  set_target_properties(${name} PROPERTIES ENABLE_EXPORTS ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE
+    TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
+    SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+    BINARY_DIR="${CMAKE_BINARY_DIR}/bin")
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ARG_ENV}" LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT})
+endfunction()
