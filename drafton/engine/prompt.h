@@ -1,0 +1,107 @@
+// What a command asks for, and what it gets.
+#pragma once
+
+#include "frame/string.h"
+
+#include "drawing/ge_point3d.h"
+
+#include <optional>
+#include <type_traits>
+
+namespace drafton {
+
+/// The numbers that a prompt accepts. Others are answered with a message and the prompt again.
+enum class NumberRange { kAny, kNotZero, kNotNegative, kPositive };
+
+// Prompts hold views and plain values only: they are built inside `co_await` expressions, where the
+// compiler's treatment of temporaries with a destructor is not to be relied on. The texts are
+// copied before the command is suspended, so a local OdString may stand behind a view.
+//
+// `text` is the bare question ("Specify next point"); keywords, default and colon are added:
+//   Specify next point or [Close/Undo] <10.0>:
+// `keywords` are separated by blanks; the capitals of each are its abbreviation ("Close Undo",
+// "eXit", "2P 3P"). Empty input (Enter) gives the default if there is one, else an empty answer if
+// `allowEmpty`, else a message and the prompt again.
+
+struct PointPrompt {
+  QStringView text;
+  QStringView keywords = {};
+  /// From here polar and distance input is measured, and the window draws a rubber band. Relative
+  /// input (`@`) is measured from the document's last point.
+  std::optional<OdGePoint3d> base = {};
+  bool allowEmpty = false;
+};
+
+/// A number, or a point whose distance from `base` counts (without a base, two points).
+struct DistancePrompt {
+  QStringView text;
+  QStringView keywords = {};
+  std::optional<OdGePoint3d> base = {};
+  std::optional<double> defaultValue = {};
+  NumberRange range = NumberRange::kAny;
+  bool allowEmpty = false;
+};
+
+/// Degrees, or a point seen from `base` (without a base, two points). Default and answer are in
+/// radians.
+struct AnglePrompt {
+  QStringView text;
+  QStringView keywords = {};
+  std::optional<OdGePoint3d> base = {};
+  std::optional<double> defaultValue = {};
+  bool allowEmpty = false;
+};
+
+struct IntegerPrompt {
+  QStringView text;
+  QStringView keywords = {};
+  std::optional<int> defaultValue = {};
+  NumberRange range = NumberRange::kAny;
+  bool allowEmpty = false;
+};
+
+struct RealPrompt {
+  QStringView text;
+  QStringView keywords = {};
+  std::optional<double> defaultValue = {};
+  NumberRange range = NumberRange::kAny;
+  bool allowEmpty = false;
+};
+
+struct StringPrompt {
+  QStringView text;
+  /// A blank belongs to the text and only Enter ends it. Without it a text with blanks is put in
+  /// double quotes. In both forms one pair of quotes around the whole text is taken off.
+  bool allowBlanks = false;
+  std::optional<QStringView> defaultValue = {};
+  bool allowEmpty = false;
+};
+
+struct KeywordPrompt {
+  QStringView text;
+  QStringView keywords;
+  /// A keyword of the list; empty for none.
+  QStringView defaultValue = {};
+  bool allowEmpty = false;
+};
+
+static_assert(std::is_trivially_destructible_v<PointPrompt> &&
+              std::is_trivially_destructible_v<DistancePrompt> &&
+              std::is_trivially_destructible_v<StringPrompt>);
+
+/// The answer to a prompt. There is none for a cancelled prompt: the command ends there.
+template <class T>
+struct Answer {
+  enum class Kind { kValue, kKeyword, kEmpty };
+
+  Kind kind = Kind::kEmpty;
+  T value{};
+  /// The chosen keyword as it stands in the prompt's list, such as "Close".
+  OdString keyword;
+
+  bool isValue() const { return kind == Kind::kValue; }
+  bool isEmpty() const { return kind == Kind::kEmpty; }
+  bool is(QStringView word) const { return kind == Kind::kKeyword && keyword == word; }
+};
+
+} // namespace drafton
