@@ -1,0 +1,50 @@
+// The root of one catalog file.
+#pragma once
+
+#include "catalog/group.h"
+#include "catalog/palette_loader.h"
+
+namespace tc {
+
+/// A group tree, the loaders of palette files, and the palettes that they brought in.
+class OdTcCatalog : public OdTcCatalogItem {
+  ODRX_DECLARE_MEMBERS(OdTcCatalog);
+
+ public:
+  /// Keeps a reference to an object that found this catalog as its root.
+  virtual void registerItem(OdTcPersist* item) = 0;
+  virtual OdString path() const = 0;
+  virtual OdString palettesFolder() const = 0;
+  /// Writes the catalog file, not those of the palettes. A file failure raises OdFileError.
+  virtual bool save(const OdString& path) = 0;
+  virtual bool save() = 0;
+  virtual OdTcEnumPtr<OdTcCatalogItem> groupsEnum() const = 0;
+  virtual OdTcEnumPtr<OdTcToolPalette> palettesEnum() const = 0;
+  virtual OdTcEnumPtr<OdTcCatalogItem> loadersEnum() const = 0;
+  /// A loaded palette, or null. Borrowed.
+  virtual OdTcToolPalette* findPalette(const OdString& id) const = 0;
+  virtual OdTcToolPalette* findPaletteByName(const OdString& name) const = 0;
+  /// The first soft reference to the palette in the groups, depth first, or null.
+  virtual OdTcPaletteSoftRef* findInGroups(const OdTcCatalogItem* palette) const = 0;
+  /// Moves the group or palette of that id to the catalog's top level; false if it is not here.
+  virtual bool moveToGroup(const OdString& id) = 0;
+  /// The palette of that id, loaded through its loader if it is not here yet; null if unknown.
+  virtual OdTcToolPalette* loadPalette(const OdString& id) = 0;
+  virtual bool unloadPalette(const OdString& id) = 0;
+  virtual bool isDefault() const = 0;
+  virtual void setDefault(bool isDefault) = 0;
+  /// Reads the catalog file and its palettes; false if it is missing or cannot be read. The path is
+  /// kept in both cases.
+  virtual bool load(const OdString& path) = 0;
+
+  /// Gives the palette its place and file path in this catalog and takes it in.
+  virtual void addPalette(OdTcToolPalette* palette) = 0;
+  virtual OdTcGroupList* groups() const = 0;
+  virtual OdTcPaletteLoaderList* loaders() const = 0;
+  virtual OdString fileRevision() const = 0;
+  /// True if the file was there but could not be read.
+  virtual bool isUnread() const = 0;
+};
+using OdTcCatalogPtr = OdSmartPtr<OdTcCatalog>;
+
+} // namespace tc

@@ -1,0 +1,48 @@
+// The content of a palette and its file.
+#pragma once
+
+#include "module/catalog_item.h"
+
+namespace tc {
+
+class OdTcPaletteUi;
+class OdTcTool;
+class OdTcToolList;
+
+/// Holds the tools of one palette, its display settings and its path. Root element `Palette`.
+class OdTcDatabase : public OdTcCatalogItem {
+  ODRX_DECLARE_MEMBERS(OdTcDatabase);
+
+ public:
+  /// Appends the tool, tells the reactors and marks the database modified.
+  virtual void addTool(OdTcTool* tool) = 0;
+  /// Removes the tool and the first such id of the order; false if there is none.
+  virtual bool removeTool(const OdString& id) = 0;
+  virtual OdTcToolList* tools() const = 0;
+  virtual OdTcPaletteUi* getUi() const = 0;
+
+  /// Reads the file of that path; false, without a message, if it cannot be read. The path is kept
+  /// in both cases.
+  virtual bool load(const OdString& path) = 0;
+  /// Makes `path` the database's own and writes it. A file failure raises OdFileError.
+  virtual bool saveAs(const OdString& path) = 0;
+  virtual bool save() = 0;
+  /// Writes a new file at `path` and goes back to the own path, unless the write fails.
+  virtual bool saveCopy(const OdString& path) = 0;
+  /// Keeps a reference to an object that found this database as its root.
+  virtual void attachObject(OdTcPersist* object) = 0;
+  virtual int attachedCount() const = 0;
+
+  virtual OdString getPath() const = 0;
+  virtual void setPath(const OdString& path) = 0;
+  virtual OdString fileRevision() const = 0;
+  virtual bool isExporting() const = 0;
+  virtual void setExporting(bool exporting) = 0;
+  virtual std::int32_t paletteStyle() const = 0;
+  /// True if the file at the path was there but could not be read (whole): automatic saving leaves
+  /// it alone.
+  virtual bool isUnread() const = 0;
+};
+using OdTcDatabasePtr = OdSmartPtr<OdTcDatabase>;
+
+} // namespace tc

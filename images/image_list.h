@@ -1,0 +1,25 @@
+// The pictures of an item.
+#pragma once
+
+#include "images/image.h"
+#include "module/enum.h"
+
+namespace tc {
+
+/// Element `Images`.
+class OdTcImageList : public OdTcPersist {
+  ODRX_DECLARE_MEMBERS(OdTcImageList);
+
+ public:
+  virtual void add(OdTcImage* image) = 0;
+  /// Forgets the pictures; with `deleteFiles`, their files go as well.
+  virtual void removeAll(bool deleteFiles) = 0;
+  virtual OdTcEnumPtr<OdTcImage> enumImages() const = 0;
+  /// The first picture of that size, or null. Borrowed.
+  virtual OdTcImage* findBySize(std::int32_t sizeKind) const = 0;
+  virtual int count() const = 0;
+  virtual std::uint32_t options() const = 0;
+};
+using OdTcImageListPtr = OdSmartPtr<OdTcImageList>;
+
+} // namespace tc

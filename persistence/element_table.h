@@ -1,0 +1,36 @@
+// The table from element name to class.
+#pragma once
+
+#include "module/persist.h"
+
+#include <QHash>
+
+namespace tc {
+
+/// Makes the object of an element. The container knows no class: its rows are handed in by the
+/// composition root.
+class OdTcElementTable {
+ public:
+  /// Makes a new object with a reference count of 1.
+  using Creator = OdTcPersist* (*)();
+  using Builder = void (*)(OdTcElementTable& table);
+
+  /// The table of the process, built by the builder at the first lookup and kept from then on.
+  static OdTcElementTable& instance();
+  /// Says who builds the table. To be called before the first lookup.
+  static void setBuilder(Builder builder);
+
+  /// Enters a row; a later row of the same name takes the place of the earlier one.
+  void add(const OdString& element, Creator creator);
+  bool contains(const OdString& element) const;
+  /// A new object, or null if the name (compared exactly) is not in the table.
+  OdTcPersistPtr create(const OdString& element) const;
+  /// The names in the order in which they were first entered.
+  const QStringList& names() const { return m_names; }
+
+ private:
+  QHash<OdString, Creator> m_creators;
+  QStringList m_names;
+};
+
+} // namespace tc

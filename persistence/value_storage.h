@@ -1,0 +1,22 @@
+// Values that the host keeps for the module: configured folders.
+#pragma once
+
+#include "module/persist_impl.h"
+
+namespace tc {
+
+/// Reads the configured folders from the host's application object. Without a host, or without the
+/// setting, each is empty.
+class OdTcValueStorageImpl : public OdTcPersistImpl<OdTcPersist> {
+ public:
+  /// The setting `ToolPaletteDir`: folders separated by ";".
+  OdString toolPaletteFolders() const;
+  /// The setting `Shx`: folders of fonts.
+  OdString fontFolders() const;
+
+  /// The storage of the process; null before the module's start and after its stop.
+  static OdTcValueStorageImpl* instance();
+  static void setInstance(const OdSmartPtr<OdTcValueStorageImpl>& storage);
+};
+
+} // namespace tc
