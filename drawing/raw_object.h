@@ -1,0 +1,47 @@
+// Objects of classes that the database does not know.
+#pragma once
+
+#include "drawing/entity.h"
+
+/// An object that is kept and written back as the file had it.
+class OdDbRawObject : public OdDbObject {
+  ODRX_DECLARE_MEMBERS(OdDbRawObject);
+
+ public:
+  OdDbRawObject() = default;
+  /// `name` is the name of the class in files.
+  explicit OdDbRawObject(QByteArray name)
+    : m_name(std::move(name)) {}
+
+  const char* dxfName() const override { return m_name.constData(); }
+  void assignFrom(const OdDbObject& other) override;
+
+ protected:
+  OdDbObjectPtr newInstance() const override { return odrxMake<OdDbRawObject>(m_name); }
+
+ private:
+  QByteArray m_name;
+};
+
+/// An entity that is kept and written back as the file had it, but for the common properties.
+class OdDbRawEntity : public OdDbEntity {
+  ODRX_DECLARE_MEMBERS(OdDbRawEntity);
+
+ public:
+  OdDbRawEntity() = default;
+  explicit OdDbRawEntity(QByteArray name)
+    : m_name(std::move(name)) {}
+
+  const char* dxfName() const override { return m_name.constData(); }
+  void assignFrom(const OdDbObject& other) override;
+  /// Unknown: false.
+  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  /// Not possible: false.
+  bool transformBy(const OdGeMatrix3d& transform) override;
+
+ protected:
+  OdDbObjectPtr newInstance() const override { return odrxMake<OdDbRawEntity>(m_name); }
+
+ private:
+  QByteArray m_name;
+};
