@@ -1,0 +1,48 @@
+// What a command of the catalog tool is.
+#pragma once
+
+#include "frame/string.h"
+
+#include <QTextStream>
+
+namespace tpal {
+
+/// Stable exit codes, for scripts.
+enum ExitCode {
+  kOk = 0,
+  kFindings = 1, ///< the check found something, or something was left out
+  kUsage = 2,    ///< the command line is wrong
+  kFailed = 3,   ///< a catalog cannot be read or written
+};
+
+/// A parsed command line.
+struct Arguments {
+  QStringList folders;
+  OdString to;       ///< --to
+  bool json = false; ///< --json
+};
+
+/// Where a command writes.
+struct Console {
+  QTextStream& out;
+  QTextStream& err;
+};
+
+/// One command of the tool.
+struct Command {
+  const char* name;
+  const char* synopsis;
+  const char* description;
+  bool takesTo;
+  bool severalFolders;
+  ExitCode (*run)(const Arguments& arguments, Console& console);
+};
+
+ExitCode listCommand(const Arguments& arguments, Console& console);
+ExitCode checkCommand(const Arguments& arguments, Console& console);
+ExitCode resaveCommand(const Arguments& arguments, Console& console);
+
+/// Runs the tool with its arguments (without the program's name).
+ExitCode runTool(const QStringList& arguments, Console& console);
+
+} // namespace tpal

@@ -1,0 +1,70 @@
+// The smallest of hosts: it keeps what the module's libraries have to say.
+#pragma once
+
+#include "host/application.h"
+#include "host/messages.h"
+#include "host/services.h"
+
+namespace tpal {
+
+/// The catalog tool is a host without documents, commands or windows. What the libraries print is
+/// kept until it is taken, so that it can stand in a report.
+class ConsoleHost {
+ public:
+  static ConsoleHost& instance();
+
+  /// The lines printed since the last call, without the line breaks around them.
+  QStringList takeMessages();
+  /// The `ToolPaletteDir` setting, which the macro for the samples folder expands to.
+  void setToolPaletteFolders(const QStringList& folders);
+
+  IHostServices* services() { return &m_services; }
+  IHostApplication* application() { return &m_application; }
+
+ private:
+  /// A component that lives as long as the process: its counts mean nothing.
+  template <class T>
+  class Permanent : public T {
+   public:
+    unsigned long addRef() override { return 1; }
+    unsigned long release() override { return 1; }
+  };
+
+  class Messages : public Permanent<IHostMessages> {
+   public:
+    bool queryInterface(KVInterfaceId id, void** out) override;
+    void print(const OdString& text) override;
+    void messageBox(const OdString& text, const OdString& caption) override;
+    bool messageBoxWithCheckBox(const OdString& identifier, const OdString& text,
+                                const OdString& caption, unsigned style) override;
+    QStringList lines;
+  };
+
+  class Services : public Permanent<IHostServices> {
+   public:
+    explicit Services(Messages* messages) : m_messages(messages) {}
+    bool queryInterface(KVInterfaceId id, void** out) override;
+    IHostDocumentManager* documentManager() override { return nullptr; }
+    IHostEditorEvents* editorEvents() override { return nullptr; }
+    HostEdCompletion::Registry* completionRegistry() override { return nullptr; }
+
+   private:
+    Messages* m_messages;
+  };
+
+  class Application : public IHostApplication {
+   public:
+    bool setting(const OdString& name, OdString& out) override;
+    OdString userDataFolder() override;
+    KVPtr<IProfile> profile() override { return nullptr; }
+    void addPropReactor(const OdString&, IPropReactor*) override {}
+    void removePropReactor(const OdString&, IPropReactor*) override {}
+    OdString toolPaletteFolders;
+  };
+
+  Messages m_messages;
+  Services m_services{&m_messages};
+  Application m_application;
+};
+
+} // namespace tpal

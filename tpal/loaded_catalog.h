@@ -1,0 +1,50 @@
+// Catalogs as the tool's commands see them.
+#pragma once
+
+#include "catalog/catalog.h"
+#include "catalog/tool.h"
+#include "catalog/tool_palette.h"
+
+#include <optional>
+#include <vector>
+
+namespace tpal {
+
+/// Registers the module's classes for as long as it lives.
+class ModuleClasses {
+ public:
+  ModuleClasses();
+  ~ModuleClasses();
+  ModuleClasses(const ModuleClasses&) = delete;
+  ModuleClasses& operator=(const ModuleClasses&) = delete;
+};
+
+/// A catalog read from a folder, with what the libraries had to say about it.
+struct LoadedCatalog {
+  OdString file;       ///< the catalog file
+  tc::OdTcCatalogPtr catalog;
+  QStringList messages;
+  bool isRead = false; ///< false if the file is missing or could not be read
+};
+
+/// Reads the catalog of a folder.
+LoadedCatalog loadCatalog(const OdString& folder);
+
+/// What a tool does, in short.
+struct ToolSummary {
+  OdString kind;    ///< "command", "block", "hatch", "raster", "text", "separator", ...
+  OdString command; ///< the macro, block name, pattern or file
+};
+ToolSummary summarize(const tc::OdTcTool& tool);
+
+/// The palettes and tools of a catalog, in storage order.
+std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog);
+std::vector<tc::OdTcTool*> toolsOf(const tc::OdTcToolPalette& palette);
+
+/// Walks an enumerator to its end.
+template <class T, class F>
+void forEach(const tc::OdTcEnumPtr<T>& items, F f) {
+  while (T* item = items->next()) f(item);
+}
+
+} // namespace tpal
