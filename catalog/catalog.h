@@ -44,6 +44,8 @@ class OdTcCatalog : public OdTcCatalogItem {
   virtual OdString fileRevision() const = 0;
   /// True if the file was there but could not be read.
   virtual bool isUnread() const = 0;
+  /// Why, in words for the user; empty if all is well.
+  virtual OdString readProblem() const = 0;
 };
 using OdTcCatalogPtr = OdSmartPtr<OdTcCatalog>;
 

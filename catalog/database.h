@@ -42,6 +42,8 @@ class OdTcDatabase : public OdTcCatalogItem {
   /// True if the file at the path was there but could not be read (whole): automatic saving leaves
   /// it alone.
   virtual bool isUnread() const = 0;
+  /// Why, in words for the user; empty if all is well.
+  virtual OdString readProblem() const = 0;
 };
 using OdTcDatabasePtr = OdSmartPtr<OdTcDatabase>;
 

@@ -1,0 +1,162 @@
+#include "tpal/finding.h"
+
+#include "catalog/database.h"
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "images/image_list.h"
+#include "persistence/path_operations.h"
+#include "properties/property_bag.h"
+#include "tools/action_agent.h"
+
+#include <QHash>
+
+namespace tpal {
+namespace {
+
+struct KindText {
+  FindingKind kind;
+  const char* code;
+  const char* word;
+};
+
+constexpr KindText kKindTexts[] = {
+    {FindingKind::kMissingCatalog, "C001", "missing-catalog"},
+    {FindingKind::kUnreadableCatalog, "C002", "unreadable-catalog"},
+    {FindingKind::kMissingPalette, "C101", "missing-palette"},
+    {FindingKind::kUnreadablePalette, "C102", "unreadable-palette"},
+    {FindingKind::kDanglingReference, "C103", "dangling-reference"},
+    {FindingKind::kDuplicateId, "C104", "duplicate-id"},
+    {FindingKind::kToolWithoutAgent, "C105", "tool-without-agent"},
+    {FindingKind::kUnresolvedPath, "C106", "unresolved-path"},
+    {FindingKind::kMissingPicture, "C107", "missing-picture"},
+};
+
+const KindText& textOf(FindingKind kind) {
+  for (const KindText& row : kKindTexts)
+    if (row.kind == kind) return row;
+  throw OdError(eInvalidInput);
+}
+
+/// Looks a catalog over, one question at a time.
+class Examination {
+ public:
+  explicit Examination(const LoadedCatalog& loaded)
+    : m_catalog(*loaded.catalog), m_catalogFile(loaded.file) {}
+
+  std::vector<Finding> run() {
+    noteId(m_catalog, m_catalogFile);
+    checkLoaders();
+    forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) { checkGroup(*group); });
+    for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog)) checkPalette(*palette);
+    return std::move(m_findings);
+  }
+
+ private:
+  void add(FindingKind kind, const OdString& file, const OdString& text) {
+    m_findings.push_back({kind, file, text});
+  }
+
+  void noteId(const tc::OdTcCatalogItem& item, const OdString& file) {
+    const auto known = m_ids.constFind(item.id());
+    if (known != m_ids.constEnd())
+      add(FindingKind::kDuplicateId, file,
+          QStringLiteral("the id %1 of \"%2\" is also that of \"%3\"")
+              .arg(item.id(), item.name(), *known));
+    else
+      m_ids.insert(item.id(), item.name());
+  }
+
+  void checkLoaders() {
+    forEach(m_catalog.loadersEnum(), [&](tc::OdTcCatalogItem* item) {
+      const auto* loader = odrxCast<tc::OdTcPaletteLoader>(item);
+      const OdString path = tc::combinePath(tc::expandedStoredPath(loader->getHref()),
+                                            m_catalogFile);
+      const OdString file = odpath::isRelative(tc::expandedStoredPath(loader->getHref()))
+                                ? path
+                                : tc::expandedStoredPath(loader->getHref());
+      if (!odrxSystemServices()->fileExists(file))
+        add(FindingKind::kMissingPalette, m_catalogFile,
+            QStringLiteral("palette \"%1\": there is no file %2").arg(loader->name(), file));
+    });
+  }
+
+  void checkGroup(const tc::OdTcCatalogItem& group) {
+    noteId(group, m_catalogFile);
+    forEach(group.children(), [&](tc::OdTcCatalogItem* child) {
+      const auto* reference = odrxCast<tc::OdTcPaletteSoftRef>(child);
+      if (!reference)
+        checkGroup(*child);
+      else if (!reference->resolve())
+        add(FindingKind::kDanglingReference, m_catalogFile,
+            QStringLiteral("group \"%1\" refers to the palette %2, which is not here")
+                .arg(group.name(), reference->id()));
+    });
+  }
+
+  void checkPalette(const tc::OdTcToolPalette& palette) {
+    const OdString file = palette.getPath();
+    if (palette.getDatabase()->isUnread()) {
+      add(FindingKind::kUnreadablePalette, file,
+          QStringLiteral("the file cannot be read: %1").arg(palette.getDatabase()->readProblem()));
+      return;
+    }
+    noteId(palette, file);
+    for (const tc::OdTcTool* tool : toolsOf(palette)) checkTool(*tool, file);
+  }
+
+  void checkTool(const tc::OdTcTool& tool, const OdString& file) {
+    noteId(tool, file);
+    const tc::OdTcToolActionAgent* const agent = tool.getActionAgent();
+    if (!agent && tool.isRegular())
+      add(FindingKind::kToolWithoutAgent, file,
+          QStringLiteral("tool \"%1\" does nothing").arg(tool.name()));
+    if (agent) checkSource(tool, *agent, file);
+    checkPictures(tool, file);
+  }
+
+  void checkSource(const tc::OdTcTool& tool, const tc::OdTcToolActionAgent& agent,
+                   const OdString& file) {
+    const tc::OdTcPropertyBag* const bag = agent.properties();
+    const tc::OdTcProperty* const source =
+        bag ? bag->findByName(QStringLiteral("Insert.Source file")) : nullptr;
+    if (!source) return;
+    const OdString path = source->getValue().toString();
+    if (path.isEmpty() || odpath::isRelative(path)) return; // relative to whatever drawing is open
+    if (!odrxSystemServices()->fileExists(path))
+      add(FindingKind::kUnresolvedPath, file,
+          QStringLiteral("tool \"%1\": there is no file %2").arg(tool.name(), path));
+  }
+
+  void checkPictures(const tc::OdTcTool& tool, const OdString& file) {
+    const tc::OdTcImageList* const images = tool.images();
+    if (!images) return;
+    forEach(images->enumImages(), [&](tc::OdTcImage* image) {
+      if (image->src().isEmpty() || image->isResource()) return;
+      const OdString path = tc::combinePath(image->src(), file);
+      if (!odrxSystemServices()->fileExists(path))
+        add(FindingKind::kMissingPicture, file,
+            QStringLiteral("tool \"%1\": there is no picture %2").arg(tool.name(), path));
+    });
+  }
+
+  const tc::OdTcCatalog& m_catalog;
+  OdString m_catalogFile;
+  QHash<OdString, OdString> m_ids;
+  std::vector<Finding> m_findings;
+};
+
+} // namespace
+
+OdString codeOf(FindingKind kind) { return QLatin1String(textOf(kind).code); }
+OdString wordOf(FindingKind kind) { return QLatin1String(textOf(kind).word); }
+
+std::vector<Finding> examine(const LoadedCatalog& loaded) {
+  if (loaded.isRead) return Examination(loaded).run();
+  const bool isThere = odrxSystemServices()->fileExists(loaded.file);
+  return {{isThere ? FindingKind::kUnreadableCatalog : FindingKind::kMissingCatalog, loaded.file,
+           isThere ? QStringLiteral("the file cannot be read: %1")
+                         .arg(loaded.catalog->readProblem())
+                   : QStringLiteral("there is no such file")}};
+}
+
+} // namespace tpal

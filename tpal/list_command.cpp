@@ -1,0 +1,116 @@
+// tpal list: the tree of catalogs, groups, palettes and tools.
+#include "tpal/command.h"
+#include "tpal/loaded_catalog.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+namespace tpal {
+namespace {
+
+/// The tree as JSON: the one form from which the text is printed as well.
+QJsonObject nodeOf(const char* type, const tc::OdTcCatalogItem& item) {
+  return {{QStringLiteral("type"), QLatin1String(type)},
+          {QStringLiteral("name"), item.name()},
+          {QStringLiteral("id"), item.id()}};
+}
+
+QJsonObject paletteNode(const tc::OdTcToolPalette& palette) {
+  QJsonArray tools;
+  for (const tc::OdTcTool* tool : toolsOf(palette)) {
+    const ToolSummary summary = summarize(*tool);
+    QJsonObject node = nodeOf("tool", *tool);
+    node.insert(QStringLiteral("kind"), summary.kind);
+    node.insert(QStringLiteral("command"), summary.command);
+    tools.append(node);
+  }
+  QJsonObject node = nodeOf("palette", palette);
+  node.insert(QStringLiteral("file"), palette.getPath());
+  node.insert(QStringLiteral("children"), tools);
+  return node;
+}
+
+class TreeBuilder {
+ public:
+  explicit TreeBuilder(const tc::OdTcCatalog& catalog) : m_catalog(catalog) {}
+
+  QJsonObject build(const OdString& file) {
+    QJsonArray children;
+    forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) {
+      children.append(groupNode(*group));
+    });
+    for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog))
+      if (!m_grouped.contains(palette->id())) children.append(paletteNode(*palette));
+    QJsonObject node = nodeOf("catalog", m_catalog);
+    node.insert(QStringLiteral("file"), file);
+    node.insert(QStringLiteral("children"), children);
+    return node;
+  }
+
+ private:
+  QJsonObject groupNode(const tc::OdTcCatalogItem& group) {
+    QJsonArray children;
+    forEach(group.children(), [&](tc::OdTcCatalogItem* child) {
+      const auto* reference = odrxCast<tc::OdTcPaletteSoftRef>(child);
+      if (!reference) {
+        children.append(groupNode(*child));
+      } else if (const tc::OdTcToolPalette* palette = reference->resolve()) {
+        m_grouped.insert(palette->id());
+        children.append(paletteNode(*palette));
+      } else {
+        children.append(nodeOf("missing palette", *reference));
+      }
+    });
+    QJsonObject node = nodeOf("group", group);
+    node.insert(QStringLiteral("children"), children);
+    return node;
+  }
+
+  const tc::OdTcCatalog& m_catalog;
+  QSet<OdString> m_grouped;
+};
+
+void print(QTextStream& out, const QJsonObject& node, int depth) {
+  const OdString type = node[QStringLiteral("type")].toString();
+  out << OdString(depth * 2, u' ');
+  if (type == QLatin1String("tool")) {
+    out << node[QStringLiteral("name")].toString() << "  ["
+        << node[QStringLiteral("kind")].toString() << "]";
+    OdString command = node[QStringLiteral("command")].toString();
+    command.replace(u'\n', QLatin1String("\\n")).replace(u'\r', QLatin1String("\\r"));
+    if (!command.isEmpty()) out << "  " << command;
+  } else {
+    const OdString name = node[QStringLiteral("name")].toString();
+    out << type << "  " << (name.isEmpty() ? node[QStringLiteral("id")].toString() : name);
+    if (type == QLatin1String("catalog")) out << "  " << node[QStringLiteral("file")].toString();
+  }
+  out << "\n";
+  const QJsonArray children = node[QStringLiteral("children")].toArray();
+  for (const QJsonValue& child : children) print(out, child.toObject(), depth + 1);
+}
+
+} // namespace
+
+ExitCode listCommand(const Arguments& arguments, Console& console) {
+  const ModuleClasses classes;
+  ExitCode result = kOk;
+  QJsonArray trees;
+  for (const OdString& folder : arguments.folders) {
+    const LoadedCatalog loaded = loadCatalog(folder);
+    for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
+    if (!loaded.isRead) {
+      result = kFailed;
+      continue;
+    }
+    trees.append(TreeBuilder(*loaded.catalog).build(loaded.file));
+  }
+  if (arguments.json)
+    console.out << OdString::fromUtf8(QJsonDocument(trees).toJson());
+  else
+    for (const QJsonValue& tree : trees) print(console.out, tree.toObject(), 0);
+  return result;
+}
+
+} // namespace tpal

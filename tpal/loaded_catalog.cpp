@@ -1,0 +1,95 @@
+#include "tpal/loaded_catalog.h"
+
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "module/entry/class_table.h"
+#include "persistence/path_operations.h"
+#include "properties/property_bag.h"
+#include "tools/action_agent.h"
+#include "tpal/console_host.h"
+
+#include <algorithm>
+
+namespace tpal {
+
+ModuleClasses::ModuleClasses() { tc::registerModuleClasses(nullptr); }
+ModuleClasses::~ModuleClasses() { tc::unregisterModuleClasses(); }
+
+LoadedCatalog loadCatalog(const OdString& folder) {
+  LoadedCatalog result;
+  const OdString stored = odpath::fromPlatform(folder);
+  result.file = (stored.endsWith(u'\\') ? stored.chopped(1) : stored) + u'\\' +
+                OdString::fromUtf16(tc::kCatalogFileName);
+  result.catalog = tc::OdTcCatalog::createObject();
+  ConsoleHost::instance().takeMessages();
+  if (!odrxSystemServices()->fileExists(result.file)) {
+    result.messages << QStringLiteral("%1: there is no such file").arg(result.file);
+    return result;
+  }
+  result.isRead = result.catalog->load(result.file) && !result.catalog->isUnread();
+  result.messages = ConsoleHost::instance().takeMessages();
+  return result;
+}
+
+namespace {
+
+/// Which of an agent's own properties say what the tool does, by kind.
+struct KindRow {
+  const char* element;
+  const char* kind;
+  std::initializer_list<const char16_t*> properties;
+};
+
+const KindRow kKinds[] = {
+    {"Command", "command", {u"Command.Command string"}},
+    {"Block", "block", {u"Insert.Name", u"Insert.Source file"}},
+    {"Hatch", "hatch", {u"Sample.Pattern name", u"Sample.Gradient name"}},
+    {"Raster", "raster", {u"Insert.Source file"}},
+    {"VisualStyle", "visual style", {}},
+    {"Light", "light", {}},
+    {"MLeader", "multileader", {}},
+    {"Table", "table", {}},
+};
+
+OdString typeWithoutAgent(std::uint32_t type) {
+  switch (type) {
+  case tc::OdTcTool::kText: return QStringLiteral("text");
+  case tc::OdTcTool::kSeparator: return QStringLiteral("separator");
+  default: return QStringLiteral("none");
+  }
+}
+
+} // namespace
+
+ToolSummary summarize(const tc::OdTcTool& tool) {
+  const tc::OdTcToolActionAgent* const agent = tool.getActionAgent();
+  if (!agent) return {typeWithoutAgent(tool.getToolType()), {}};
+  const OdString element = agent->elementName();
+  const auto* row = std::find_if(std::begin(kKinds), std::end(kKinds), [&](const KindRow& r) {
+    return element == QLatin1String(r.element);
+  });
+  if (row == std::end(kKinds)) return {element, agent->commandString()};
+  QStringList parts;
+  for (const char16_t* name : row->properties) {
+    const tc::OdTcProperty* property =
+        agent->properties() ? agent->properties()->findByName(OdString::fromUtf16(name)) : nullptr;
+    if (!property || !property->isVisible()) continue;
+    const OdString value = property->getValue().toString();
+    if (!value.isEmpty()) parts << value;
+  }
+  return {QLatin1String(row->kind), parts.join(QLatin1String(" from "))};
+}
+
+std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog) {
+  std::vector<tc::OdTcToolPalette*> palettes;
+  forEach(catalog.palettesEnum(), [&](tc::OdTcToolPalette* p) { palettes.push_back(p); });
+  return palettes;
+}
+
+std::vector<tc::OdTcTool*> toolsOf(const tc::OdTcToolPalette& palette) {
+  std::vector<tc::OdTcTool*> tools;
+  forEach(palette.enumTools(), [&](tc::OdTcTool* t) { tools.push_back(t); });
+  return tools;
+}
+
+} // namespace tpal
