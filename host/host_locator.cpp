@@ -32,10 +32,15 @@ OdModuleHandle moduleOfKvAcApp() {
   return get ? get() : nullptr;
 }
 
+OdModuleHandle namedModule(const char16_t* name) {
+  return name ? g_directory->loadedModule(OdString::fromUtf16(name))
+              : g_directory->mainExecutable();
+}
+
 OdModuleHandle commandModule() {
   if (const auto name = exportOf<hostexport::GetMainDllName>(g_directory->mainExecutable(),
                                                              hostexport::kGetMainDllName))
-    return g_directory->loadedModule(OdString::fromUtf16(name()));
+    if (OdModuleHandle named = namedModule(name())) return named;
   if (OdModuleHandle view = g_directory->loadedModule(QStringLiteral("hbview"))) return view;
   return moduleOfKvAcApp();
 }
@@ -107,8 +112,10 @@ IHostApplication* application() {
 KVPtr<IProfile> profileSection(const OdString& name, bool create) {
   IHostApplication* const app = application();
   const KVPtr<IProfile> root = app ? app->profile() : nullptr;
-  return root ? root->openSection(name, create) : nullptr;
+  return root ? root->openSection(ownText(name), create) : nullptr;
 }
+
+OdString ownText(const OdString& text) { return OdString(text.constData(), text.size()); }
 
 OdString translate(const OdString& text) {
   OdString translated;
@@ -117,7 +124,8 @@ OdString translate(const OdString& text) {
 }
 
 void print(const OdString& text) {
-  if (const KVPtr<IHostMessages> messages = service<IHostMessages>()) messages->print(text);
+  if (const KVPtr<IHostMessages> messages = service<IHostMessages>())
+    messages->print(ownText(text));
 }
 
 OdString commandRouteMap() {

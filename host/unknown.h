@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 /// The identity of an interface: its name, which never changes.
@@ -29,11 +30,17 @@ class KVPtr {
  public:
   KVPtr() = default;
   KVPtr(std::nullptr_t) {}
-  KVPtr(T* object) : m_object(object) {
+  KVPtr(T* object)
+    : m_object(object) {
     if (m_object) m_object->addRef();
   }
-  KVPtr(const KVPtr& other) : KVPtr(other.m_object) {}
-  KVPtr(KVPtr&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+  KVPtr(const KVPtr& other)
+    : KVPtr(other.m_object) {}
+  template <class U>
+  requires std::is_convertible_v<U*, T*> KVPtr(const KVPtr<U>& other)
+    : KVPtr(static_cast<T*>(other.get())) {}
+  KVPtr(KVPtr&& other) noexcept
+    : m_object(std::exchange(other.m_object, nullptr)) {}
   ~KVPtr() { reset(); }
   KVPtr& operator=(KVPtr other) noexcept {
     std::swap(m_object, other.m_object);
