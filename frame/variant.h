@@ -31,6 +31,7 @@ class OdVariant {
 
   OdVariant() = default;
   OdVariant(const OdString& text) : m_type(kString), m_value(text) {}
+  OdVariant(OdString&& text) : m_type(kString), m_value(std::move(text)) {}
   OdVariant(const char16_t* text) : OdVariant(OdString::fromUtf16(text)) {}
   OdVariant(bool value) : m_type(kBool), m_value(std::int64_t{value}) {}
   OdVariant(std::uint8_t value) : m_type(kUInt8), m_value(std::int64_t{value}) {}

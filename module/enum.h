@@ -31,7 +31,8 @@ class OdTcEnumImpl : public OdTcEnum<T> {
  public:
   /// `holder` keeps `container` alive.
   OdTcEnumImpl(const OdRxObject* holder, const Container& container)
-    : m_holder(const_cast<OdRxObject*>(holder)), m_container(container) {}
+    : m_holder(const_cast<OdRxObject*>(holder))
+    , m_container(container) {}
 
   T* next() override {
     if (m_position >= m_container.size()) return nullptr;

@@ -56,9 +56,7 @@ class OdTcPersistImpl : public T {
   bool readField(const OdString&, const OdVariant&) override { return false; }
 
  private:
-  bool hasRoot() const {
-    return m_owner && m_owner != static_cast<const OdTcPersist*>(this);
-  }
+  bool hasRoot() const { return m_owner && m_owner != static_cast<const OdTcPersist*>(this); }
 
   // Nearly all objects live without a tag, and there are many objects.
   std::unique_ptr<OdString> m_tag;

@@ -7,8 +7,8 @@ namespace tc {
 
 class OdTcImageList;
 
-/// The shared record of an item. It stands this low because every item has one; what it does is told
-/// in properties/properties_impl.h.
+/// The shared record of an item. It stands this low because every item has one; what it does is
+/// told in properties/properties_impl.h.
 class OdTcProperties : public OdTcPersist {
   ODRX_DECLARE_MEMBERS(OdTcProperties);
 

@@ -52,6 +52,9 @@ class OdTcFiler : public OdRxObject {
   virtual bool isConverted() const = 0;
 
   virtual OdTcPersist* currentObject() const = 0;
+  /// An empty map that the innermost object on the stack may fill and walk while it is read. One map
+  /// for each level of the stack serves the whole file.
+  virtual OdTcFieldMap& scratchMap() = 0;
   /// Goes on to the next sibling of `current`; false if there is none.
   virtual bool advance() = 0;
   virtual bool atEnd() const = 0;

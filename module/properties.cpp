@@ -1,0 +1,7 @@
+#include "module/properties.h"
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcProperties, OdTcPersist, "OdTcProperties");
+
+} // namespace tc
