@@ -96,9 +96,9 @@ int main(int argc, char** argv) {
   benchmark::RegisterBenchmark("bare save", bareSave, saved, fixture.folder.filePath("bare.xml"))
       ->Unit(benchmark::kMillisecond);
   benchmark::RegisterBenchmark("save", savePalette, palette.get())->Unit(benchmark::kMillisecond);
-  return bench::run(argc, argv,
-                    {{"loading 100 palettes of 100 tools / bare parse", "load", "bare parse", 1.5},
-                     {"saving a palette of 1,000 tools / bare build and print", "save", "bare save",
-                      1.5}},
-                    {{"memory after loading / bytes read", memoryPerByte(fixture), 1.5}});
+  return bench::run(
+      argc, argv,
+      {{"loading 100 palettes of 100 tools / bare parse", "load", "bare parse", 1.5},
+       {"saving a palette of 1,000 tools / bare build and print", "save", "bare save", 1.5}},
+      {{"memory after loading / bytes read", memoryPerByte(fixture), 1.5}});
 }

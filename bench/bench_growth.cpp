@@ -9,7 +9,9 @@ namespace {
 
 /// A palette of one size, saved in a folder of its own.
 struct Size {
-  explicit Size(int count) : tools(count), palette(bench::makePalette(QStringLiteral("P"), count)) {
+  explicit Size(int count)
+    : tools(count)
+    , palette(bench::makePalette(QStringLiteral("P"), count)) {
     path = folder.path() + QStringLiteral("/palette.dtc");
     palette->saveAs(path);
     const auto all = palette->enumTools();

@@ -18,14 +18,13 @@ void setUp(const QString& folder, bool withModule) {
   QStringList names{QStringLiteral("drafton"), QStringLiteral("libodframe.so"),
                     QStringLiteral("liboddrawing.so")};
   if (withModule) names << QStringLiteral("ToolPaletteManager.so");
-  for (const QString& name : names)
-    QFile::copy(bin + u'/' + name, folder + u'/' + name);
+  for (const QString& name : names) QFile::copy(bin + u'/' + name, folder + u'/' + name);
 }
 
 void start(benchmark::State& state, const QString& folder) {
   const QStringList arguments{QStringLiteral("batch"), QStringLiteral("--profile"),
-                              folder + QStringLiteral("/profile.ini"),
-                              QStringLiteral("--catalogs"), folder + QStringLiteral("/catalogs")};
+                              folder + QStringLiteral("/profile.ini"), QStringLiteral("--catalogs"),
+                              folder + QStringLiteral("/catalogs")};
   for (auto _ : state) {
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());

@@ -3,6 +3,8 @@
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "module/entry/class_table.h"
+#include "module/entry/element_rows.h"
+#include "persistence/element_table.h"
 #include "persistence/path_operations.h"
 #include "tools/action_agent.h"
 
@@ -11,7 +13,10 @@
 
 namespace bench {
 
-Classes::Classes() { tc::registerModuleClasses(nullptr); }
+Classes::Classes() {
+  tc::registerModuleClasses();
+  tc::OdTcElementTable::setBuilder(tc::enterElementRows);
+}
 Classes::~Classes() { tc::unregisterModuleClasses(); }
 
 tc::OdTcToolPalettePtr makePalette(const OdString& name, int tools) {

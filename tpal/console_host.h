@@ -42,7 +42,8 @@ class ConsoleHost {
 
   class Services : public Permanent<IHostServices> {
    public:
-    explicit Services(Messages* messages) : m_messages(messages) {}
+    explicit Services(Messages* messages)
+      : m_messages(messages) {}
     bool queryInterface(KVInterfaceId id, void** out) override;
     IHostDocumentManager* documentManager() override { return nullptr; }
     IHostEditorEvents* editorEvents() override { return nullptr; }

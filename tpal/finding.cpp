@@ -41,7 +41,8 @@ const KindText& textOf(FindingKind kind) {
 class Examination {
  public:
   explicit Examination(const LoadedCatalog& loaded)
-    : m_catalog(*loaded.catalog), m_catalogFile(loaded.file) {}
+    : m_catalog(*loaded.catalog)
+    , m_catalogFile(loaded.file) {}
 
   std::vector<Finding> run() {
     noteId(m_catalog, m_catalogFile);
@@ -69,8 +70,8 @@ class Examination {
   void checkLoaders() {
     forEach(m_catalog.loadersEnum(), [&](tc::OdTcCatalogItem* item) {
       const auto* loader = odrxCast<tc::OdTcPaletteLoader>(item);
-      const OdString path = tc::combinePath(tc::expandedStoredPath(loader->getHref()),
-                                            m_catalogFile);
+      const OdString path =
+          tc::combinePath(tc::expandedStoredPath(loader->getHref()), m_catalogFile);
       const OdString file = odpath::isRelative(tc::expandedStoredPath(loader->getHref()))
                                 ? path
                                 : tc::expandedStoredPath(loader->getHref());
@@ -154,9 +155,9 @@ std::vector<Finding> examine(const LoadedCatalog& loaded) {
   if (loaded.isRead) return Examination(loaded).run();
   const bool isThere = odrxSystemServices()->fileExists(loaded.file);
   return {{isThere ? FindingKind::kUnreadableCatalog : FindingKind::kMissingCatalog, loaded.file,
-           isThere ? QStringLiteral("the file cannot be read: %1")
-                         .arg(loaded.catalog->readProblem())
-                   : QStringLiteral("there is no such file")}};
+           isThere
+               ? QStringLiteral("the file cannot be read: %1").arg(loaded.catalog->readProblem())
+               : QStringLiteral("there is no such file")}};
 }
 
 } // namespace tpal

@@ -34,13 +34,13 @@ QJsonObject paletteNode(const tc::OdTcToolPalette& palette) {
 
 class TreeBuilder {
  public:
-  explicit TreeBuilder(const tc::OdTcCatalog& catalog) : m_catalog(catalog) {}
+  explicit TreeBuilder(const tc::OdTcCatalog& catalog)
+    : m_catalog(catalog) {}
 
   QJsonObject build(const OdString& file) {
     QJsonArray children;
-    forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) {
-      children.append(groupNode(*group));
-    });
+    forEach(m_catalog.groupsEnum(),
+            [&](tc::OdTcCatalogItem* group) { children.append(groupNode(*group)); });
     for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog))
       if (!m_grouped.contains(palette->id())) children.append(paletteNode(*palette));
     QJsonObject node = nodeOf("catalog", m_catalog);

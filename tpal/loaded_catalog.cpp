@@ -3,6 +3,8 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "module/entry/class_table.h"
+#include "module/entry/element_rows.h"
+#include "persistence/element_table.h"
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
 #include "tools/action_agent.h"
@@ -12,7 +14,10 @@
 
 namespace tpal {
 
-ModuleClasses::ModuleClasses() { tc::registerModuleClasses(nullptr); }
+ModuleClasses::ModuleClasses() {
+  tc::registerModuleClasses();
+  tc::OdTcElementTable::setBuilder(tc::enterElementRows);
+}
 ModuleClasses::~ModuleClasses() { tc::unregisterModuleClasses(); }
 
 LoadedCatalog loadCatalog(const OdString& folder) {
@@ -53,9 +58,12 @@ const KindRow kKinds[] = {
 
 OdString typeWithoutAgent(std::uint32_t type) {
   switch (type) {
-  case tc::OdTcTool::kText: return QStringLiteral("text");
-  case tc::OdTcTool::kSeparator: return QStringLiteral("separator");
-  default: return QStringLiteral("none");
+  case tc::OdTcTool::kText:
+    return QStringLiteral("text");
+  case tc::OdTcTool::kSeparator:
+    return QStringLiteral("separator");
+  default:
+    return QStringLiteral("none");
   }
 }
 

@@ -21,7 +21,7 @@ class ModuleClasses {
 
 /// A catalog read from a folder, with what the libraries had to say about it.
 struct LoadedCatalog {
-  OdString file;       ///< the catalog file
+  OdString file; ///< the catalog file
   tc::OdTcCatalogPtr catalog;
   QStringList messages;
   bool isRead = false; ///< false if the file is missing or could not be read

@@ -51,23 +51,26 @@ QString Workbench::write(const QString& name, const QByteArray& bytes) const {
 
 QString Workbench::writeCatalog(const QString& name, const QList<ToolText>& tools) const {
   const QString palette = freshId();
-  QString text = QStringLiteral("<Palette><ItemID idValue=\"%1\"/><Properties><ItemName>Palette</ItemName>"
-                                "</Properties><Tools>")
-                     .arg(palette);
+  QString text =
+      QStringLiteral("<Palette><ItemID idValue=\"%1\"/><Properties><ItemName>Palette</ItemName>"
+                     "</Properties><Tools>")
+          .arg(palette);
   for (const ToolText& tool : tools)
-    text += QStringLiteral("<Tool><ItemID idValue=\"%1\"/><Properties><ItemName>%2</ItemName></Properties>"
-                           "<ToolType>1</ToolType><Data><Command Macro=\"%3\"/></Data></Tool>")
+    text += QStringLiteral(
+                "<Tool><ItemID idValue=\"%1\"/><Properties><ItemName>%2</ItemName></Properties>"
+                "<ToolType>1</ToolType><Data><Command Macro=\"%3\"/></Data></Tool>")
                 .arg(freshId(), tool.name, tool.macro.toHtmlEscaped());
   text += QStringLiteral("</Tools></Palette>");
   write(name + QStringLiteral("/Palettes/palette.dtc"), text.toUtf8());
-  write(name + QStringLiteral("/DrfTcCatalog.dtc"),
-        QStringLiteral("<Catalog><ItemID idValue=\"%1\"/><Palettes><Palette><ItemID idValue=\"%2\"/>"
-                       "<Url href=\"Palettes\\palette.dtc\"/></Palette></Palettes>"
-                       "<Groups><ToolPaletteGroup><ItemID idValue=\"%3\"/>"
-                       "<Contents><ToolPalette ID=\"%2\"/></Contents></ToolPaletteGroup></Groups>"
-                       "</Catalog>")
-            .arg(freshId(), palette, freshId())
-            .toUtf8());
+  write(
+      name + QStringLiteral("/DrfTcCatalog.dtc"),
+      QStringLiteral("<Catalog><ItemID idValue=\"%1\"/><Palettes><Palette><ItemID idValue=\"%2\"/>"
+                     "<Url href=\"Palettes\\palette.dtc\"/></Palette></Palettes>"
+                     "<Groups><ToolPaletteGroup><ItemID idValue=\"%3\"/>"
+                     "<Contents><ToolPalette ID=\"%2\"/></Contents></ToolPaletteGroup></Groups>"
+                     "</Catalog>")
+          .arg(freshId(), palette, freshId())
+          .toUtf8());
   return path(name);
 }
 

@@ -12,8 +12,8 @@ TEST(CatalogFolders, AChangeAtRunTimeReloads) {
       QStringLiteral("first"), {{QStringLiteral("Line"), QStringLiteral("_LINE 0,0 1,0;")}});
   const QString second = bench.writeCatalog(
       QStringLiteral("second"), {{QStringLiteral("Dot"), QStringLiteral("_CIRCLE 0,0 1")}});
-  const RunResult run = bench.batch(
-      first, "SETTING ToolPaletteDir \"" + second.toUtf8() + "\"\nTOOL:Dot\n");
+  const RunResult run =
+      bench.batch(first, "SETTING ToolPaletteDir \"" + second.toUtf8() + "\"\nTOOL:Dot\n");
   ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
   EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
 }

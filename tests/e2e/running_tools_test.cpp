@@ -7,9 +7,8 @@ namespace {
 
 TEST(RunningATool, ItsMacroDraws) {
   const Workbench bench;
-  const QString catalog =
-      bench.writeCatalog(QStringLiteral("c"), {{QStringLiteral("Line"),
-                                                QStringLiteral("^C^C_LINE 0,0 100,0 ^M")}});
+  const QString catalog = bench.writeCatalog(
+      QStringLiteral("c"), {{QStringLiteral("Line"), QStringLiteral("^C^C_LINE 0,0 100,0 ^M")}});
   const RunResult run = bench.batch(catalog, "TOOL:Line\n");
   ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
   const QJsonArray entities = bench.entities();
@@ -20,9 +19,8 @@ TEST(RunningATool, ItsMacroDraws) {
 
 TEST(RunningATool, PausesForTheUserWhereTheMacroSaysSo) {
   const Workbench bench;
-  const QString catalog =
-      bench.writeCatalog(QStringLiteral("c"), {{QStringLiteral("Circle"),
-                                                QStringLiteral("^C^C_CIRCLE \\5")}});
+  const QString catalog = bench.writeCatalog(
+      QStringLiteral("c"), {{QStringLiteral("Circle"), QStringLiteral("^C^C_CIRCLE \\5")}});
   const RunResult run = bench.batch(catalog, "TOOL:Circle\n7,8\n");
   ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
   const QJsonArray entities = bench.entities();
@@ -34,9 +32,8 @@ TEST(RunningATool, PausesForTheUserWhereTheMacroSaysSo) {
 TEST(RunningATool, ASecondOneInTheDocumentCancelsTheFirstAndRunsOn) {
   const Workbench bench;
   const QString catalog = bench.writeCatalog(
-      QStringLiteral("c"),
-      {{QStringLiteral("First"), QStringLiteral("^C^C_LINE 0,0 \\")},
-       {QStringLiteral("Second"), QStringLiteral("_CIRCLE \\3")}});
+      QStringLiteral("c"), {{QStringLiteral("First"), QStringLiteral("^C^C_LINE 0,0 \\")},
+                            {QStringLiteral("Second"), QStringLiteral("_CIRCLE \\3")}});
   const RunResult run = bench.batch(catalog, "TOOL:First\nTOOL:Second\n1,2\n");
   ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
   EXPECT_EQ(bench.count(QStringLiteral("LINE")), 0);
