@@ -1,0 +1,91 @@
+#include "tpal/tool_fixture.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+class CheckCommand : public ToolFixture {
+ protected:
+  /// The codes that the check of the catalog gives, in order.
+  QStringList codes() {
+    const int exitCode =
+        run({QStringLiteral("check"), path(QStringLiteral("c")), QStringLiteral("--json")});
+    QStringList result;
+    const QJsonArray rows = QJsonDocument::fromJson(out().toUtf8()).array();
+    for (const QJsonValue& row : rows) result << row[QStringLiteral("code")].toString();
+    EXPECT_EQ(exitCode, result.isEmpty() ? tpal::kOk : tpal::kFindings);
+    return result;
+  }
+};
+
+TEST_F(CheckCommand, FindsNothingInASoundCatalog) {
+  writeCatalog(tool("{1}", "Line", "<Command Macro=\"_LINE\"/>"));
+  EXPECT_EQ(codes(), QStringList());
+}
+
+TEST_F(CheckCommand, NamesAMissingCatalog) {
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C001")});
+}
+
+TEST_F(CheckCommand, NamesACatalogThatCannotBeRead) {
+  write(QStringLiteral("c/DrfTcCatalog.dtc"), "<Catalog><Groups>");
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C002")});
+}
+
+TEST_F(CheckCommand, NamesAMissingPaletteFileAndTheReferenceToIt) {
+  writeCatalog({});
+  QFile::remove(path(QStringLiteral("c/Palettes/p.dtc")));
+  EXPECT_EQ(codes(), (QStringList{QStringLiteral("C101"), QStringLiteral("C103")}));
+}
+
+TEST_F(CheckCommand, NamesAPaletteFileThatCannotBeRead) {
+  writeCatalog({});
+  write(QStringLiteral("c/Palettes/p.dtc"), "not XML at all");
+  EXPECT_TRUE(codes().contains(QStringLiteral("C102")));
+}
+
+TEST_F(CheckCommand, NamesADanglingReference) {
+  writeCatalog({}, "<ToolPalette ID=\"{P}\"/><ToolPalette ID=\"{nobody}\"/>");
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C103")});
+  EXPECT_TRUE(out().contains(QStringLiteral("{nobody}")));
+}
+
+TEST_F(CheckCommand, NamesAnIdThatStandsTwice) {
+  writeCatalog(tool("{1}", "One", "<Command Macro=\"_LINE\"/>") +
+               tool("{1}", "Two", "<Command Macro=\"_LINE\"/>"));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C104")});
+}
+
+TEST_F(CheckCommand, NamesAToolThatDoesNothing) {
+  writeCatalog(tool("{1}", "Idle", ""));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C105")});
+}
+
+TEST_F(CheckCommand, NamesASourceFileThatIsNotThere) {
+  writeCatalog(tool("{1}", "Door",
+                    "<Block><BlockType>1</BlockType><BlockName>D</BlockName>"
+                    "<SourceFile>C:\\nowhere\\doors.dxf</SourceFile></Block>"));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C106")});
+}
+
+TEST_F(CheckCommand, NamesAPictureThatIsNotThere) {
+  write(
+      QStringLiteral("c/DrfTcCatalog.dtc"),
+      "<Catalog><Palettes><Palette><Url href=\"Palettes\\p.dtc\"/></Palette></Palettes></Catalog>");
+  write(QStringLiteral("c/Palettes/p.dtc"),
+        "<Palette><Tools><Tool><Properties><ItemName>T</ItemName><Images option=\"0\">"
+        "<Image cx=\"32\" cy=\"32\" src=\"\\Images\\gone.png\"/></Images></Properties>"
+        "<ToolType>1</ToolType><Data><Command Macro=\"_LINE\"/></Data></Tool></Tools></Palette>");
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C107")});
+}
+
+TEST_F(CheckCommand, PrintsOneLineForEachFinding) {
+  EXPECT_EQ(run({QStringLiteral("check"), path(QStringLiteral("a")), path(QStringLiteral("b"))}),
+            tpal::kFindings);
+  EXPECT_EQ(out().count(u'\n'), 2);
+  EXPECT_EQ(out().count(QStringLiteral(": C001 missing-catalog: ")), 2);
+}
+
+} // namespace

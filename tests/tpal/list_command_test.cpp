@@ -1,0 +1,56 @@
+#include "tpal/tool_fixture.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+using ListCommand = ToolFixture;
+
+TEST_F(ListCommand, ShowsGroupsPalettesAndToolsWithWhatTheyDo) {
+  writeCatalog(tool("{1}", "Line", "<Command Macro=\"_LINE 0,0 1,0;\"/>"));
+  ASSERT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kOk)
+      << qPrintable(err());
+  const QStringList lines = out().split(u'\n');
+  ASSERT_GE(lines.size(), 4);
+  EXPECT_TRUE(lines[0].startsWith(QStringLiteral("catalog  Cat  ")));
+  EXPECT_EQ(lines[1], QStringLiteral("  group  G"));
+  EXPECT_EQ(lines[2], QStringLiteral("    palette  P"));
+  EXPECT_EQ(lines[3], QStringLiteral("      Line  [command]  _LINE 0,0 1,0;"));
+}
+
+TEST_F(ListCommand, ShowsAPaletteOfNoGroupBehindTheGroups) {
+  writeCatalog({}, {});
+  ASSERT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kOk);
+  EXPECT_EQ(out().split(u'\n')[2], QStringLiteral("  palette  P"));
+}
+
+TEST_F(ListCommand, GivesTheSameTreeAsJson) {
+  writeCatalog(tool("{1}", "Line", "<Command Macro=\"_LINE\"/>"));
+  ASSERT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c")), QStringLiteral("--json")}),
+            tpal::kOk);
+  const QJsonObject catalog = QJsonDocument::fromJson(out().toUtf8()).array()[0].toObject();
+  const QJsonValue line = catalog[QStringLiteral("children")][0][QStringLiteral("children")][0]
+                                 [QStringLiteral("children")][0];
+  EXPECT_EQ(line[QStringLiteral("name")].toString(), QStringLiteral("Line"));
+  EXPECT_EQ(line[QStringLiteral("kind")].toString(), QStringLiteral("command"));
+  EXPECT_EQ(line[QStringLiteral("command")].toString(), QStringLiteral("_LINE"));
+}
+
+TEST_F(ListCommand, NamesACatalogThatIsNotThereAndGoesOnWithTheNext) {
+  writeCatalog({});
+  EXPECT_EQ(
+      run({QStringLiteral("list"), path(QStringLiteral("nowhere")), path(QStringLiteral("c"))}),
+      tpal::kFailed);
+  EXPECT_TRUE(err().contains(QStringLiteral("nowhere")));
+  EXPECT_TRUE(out().contains(QStringLiteral("catalog  Cat")));
+}
+
+TEST_F(ListCommand, EndsOnAGroupThatNamesItself) {
+  writeCatalog({}, "<ToolPalette ID=\"{G}\"/>");
+  EXPECT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kOk);
+  EXPECT_TRUE(out().contains(QStringLiteral("missing palette  {G}")));
+}
+
+} // namespace

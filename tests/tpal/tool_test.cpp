@@ -1,0 +1,45 @@
+#include "tpal/tool_fixture.h"
+
+namespace {
+
+using Tool = ToolFixture;
+
+TEST_F(Tool, ExplainsItself) {
+  EXPECT_EQ(run({QStringLiteral("--help")}), tpal::kOk);
+  for (const char* word : {"list", "check", "resave", "--json", "Exit codes"})
+    EXPECT_TRUE(out().contains(QLatin1String(word))) << word;
+}
+
+TEST_F(Tool, TellsItsVersion) {
+  EXPECT_EQ(run({QStringLiteral("--version")}), tpal::kOk);
+  EXPECT_TRUE(out().startsWith(QStringLiteral("tpal ")));
+}
+
+struct WrongUsage {
+  QStringList arguments;
+  const char* complaint;
+};
+
+class ToolUsage : public ToolFixture, public testing::WithParamInterface<WrongUsage> {};
+
+TEST_P(ToolUsage, IsToldWhenItIsWrong) {
+  EXPECT_EQ(run(GetParam().arguments), tpal::kUsage);
+  EXPECT_TRUE(err().contains(QLatin1String(GetParam().complaint))) << qPrintable(err());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Wrong, ToolUsage,
+    testing::Values(
+        WrongUsage{{}, "a command is missing"},
+        WrongUsage{{QStringLiteral("paint")}, "unknown command paint"},
+        WrongUsage{{QStringLiteral("list")}, "a folder is missing"},
+        WrongUsage{{QStringLiteral("list"), QStringLiteral("--fast")}, "unknown option --fast"},
+        WrongUsage{{QStringLiteral("check"), QStringLiteral("x"), QStringLiteral("--to"),
+                    QStringLiteral("y")},
+                   "unknown option --to"},
+        WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("y")},
+                   "one folder only"},
+        WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("--to")},
+                   "--to needs a folder"}));
+
+} // namespace
