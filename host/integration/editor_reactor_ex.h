@@ -1,0 +1,39 @@
+// Tells a dialog that the inspector's values are to be read again.
+#pragma once
+
+#include "frame/rx_members.h"
+#include "host/editor_reactor.h"
+
+namespace tc {
+
+/// Shows values that can change behind its back.
+class IRefreshSink {
+ public:
+  virtual void refreshProperties() = 0;
+
+ protected:
+  ~IRefreshSink() = default;
+};
+
+/// Hears of the host's request to read the properties again. Whoever makes one adds it to the
+/// host's editor events and takes it out again.
+class TcEditorReactorEx final : public HostEditorReactor {
+ public:
+  /// The sink is not owned; null tells nobody.
+  void setSink(IRefreshSink* sink) { m_sink = sink; }
+
+  /// The host changes the variable "RefreshProperties" to ask for it.
+  void sysVarChanged(OdDbDatabase* database, const OdString& name) override;
+
+  OdRxClass* isA() const override { return g_pDesc; }
+  static OdRxClass* desc() { return g_pDesc; }
+  static void rxInit(OdRxModule* application);
+  static void rxUninit();
+
+ private:
+  static OdRxClass* g_pDesc;
+
+  IRefreshSink* m_sink = nullptr;
+};
+
+} // namespace tc
