@@ -3,19 +3,21 @@
 
 #include "frame/string.h"
 
-#include <functional>
 #include <memory>
 #include <string_view>
 
 namespace tc {
 
 class OdTcCatalogItem;
+class OdTcCatalogItemReactor;
 
 /// Tells which item is selected in the window.
 class ITcUiSelection {
  public:
   static constexpr std::string_view kId = "ITcUiSelection";
   virtual OdTcCatalogItem* selectedItem() const = 0;
+  /// What hears of changes of the items that are shown.
+  virtual OdTcCatalogItemReactor* itemReactor() = 0;
 
  protected:
   ~ITcUiSelection() = default;
@@ -26,7 +28,8 @@ class ITcUiPaletteSet {
  public:
   virtual ~ITcUiPaletteSet() = default;
 
-  /// Gives the part of the window that has the interface `id`; false if no part has it.
+  /// Gives the part of the window that has the interface `id`; false, and null in `out`, if no part
+  /// has it.
   virtual bool queryInterface(std::string_view id, void** out) = 0;
   virtual bool isVisible() const = 0;
   /// Shows the window.
@@ -41,8 +44,24 @@ class ITcUiPaletteSet {
   static void setInstance(std::unique_ptr<ITcUiPaletteSet> window);
 };
 
-/// Makes the palette window for the host at hand: one of widgets if the host offers window services,
-/// else one without a window.
+/// The part of the open window that has the interface T; null without one.
+template <class T>
+T* paletteSetPart() {
+  ITcUiPaletteSet* const window = ITcUiPaletteSet::instance();
+  void* part = nullptr;
+  return window && window->queryInterface(T::kId, &part) ? static_cast<T*>(part) : nullptr;
+}
+
+/// Makes the palette window for the host at hand, shown: one of widgets if the host offers window
+/// services, else one without a window.
 std::unique_ptr<ITcUiPaletteSet> makePaletteSet();
+
+/// The flag "ToolPalettes visible": what the user asked for last, by command or by the window's
+/// close button. False at the module's start.
+bool isPaletteSetShown();
+/// Sets the flag and records it among the commands that the host runs at its next start.
+void setPaletteSetShown(bool shown);
+/// Clears the flag and leaves the record alone.
+void clearPaletteSetShown();
 
 } // namespace tc
