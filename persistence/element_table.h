@@ -17,12 +17,14 @@ class OdTcElementTable {
 
   /// The table of the process, built by the builder at the first lookup and kept from then on.
   static OdTcElementTable& instance();
-  /// Says who builds the table. To be called before the first lookup.
+  /// Says who builds the table. Another builder than the one before begins a new table.
   static void setBuilder(Builder builder);
 
   /// Enters a row; a later row of the same name takes the place of the earlier one.
   void add(const OdString& element, Creator creator);
   bool contains(const OdString& element) const;
+  /// What makes the object of that element, or null if the name is not in the table.
+  Creator creatorOf(const OdString& element) const;
   /// A new object, or null if the name (compared exactly) is not in the table.
   OdTcPersistPtr create(const OdString& element) const;
   /// The names in the order in which they were first entered.

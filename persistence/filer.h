@@ -16,9 +16,11 @@ namespace tc {
 class OdTcFiler : public OdRxObject {
  public:
   /// Opens a catalog document and reads `root` from it, or writes `root` into a new one. False if
-  /// nothing was read: see problem().
+  /// the document cannot be read: see problem(). A failing stream or a field of the wrong class is
+  /// such a problem, no exception.
   virtual bool openCatalog(OdStreamBuf* stream, OdTcPersist* root, bool saving) = 0;
-  /// The same for a palette document; `root` is an OdTcDatabase.
+  /// The same for a palette document; `root` is an OdTcDatabase, any other object raises
+  /// OdError_NotThatKindOfClass. A document without a palette is told to the user in a message box.
   virtual bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool saving) = 0;
 
   virtual void pushObject(OdTcPersist* object) = 0;
@@ -52,15 +54,15 @@ class OdTcFiler : public OdRxObject {
   virtual bool isConverted() const = 0;
 
   virtual OdTcPersist* currentObject() const = 0;
-  /// An empty map that the innermost object on the stack may fill and walk while it is read. One map
-  /// for each level of the stack serves the whole file.
+  /// An empty map that the innermost object on the stack may fill and walk while it is read. One
+  /// map for each level of the stack serves the whole file.
   virtual OdTcFieldMap& scratchMap() = 0;
   /// Goes on to the next sibling of `current`; false if there is none.
   virtual bool advance() = 0;
   virtual bool atEnd() const = 0;
 
-  /// Why the document could not be read, or could not be read whole, in words for the user; empty if
-  /// all is well.
+  /// Why the document could not be read, or could not be read whole, in words for the user; empty
+  /// if all is well.
   virtual OdString problem() const = 0;
 };
 using OdTcFilerPtr = OdSmartPtr<OdTcFiler>;

@@ -1,0 +1,39 @@
+// Looks at the bytes of a document before the parser does.
+#pragma once
+
+#include "frame/string.h"
+
+namespace tc {
+
+/// What may be given to the parser.
+struct OdTcCheckedDocument {
+  /// Valid UTF-8 without NUL, well-formed as far as nesting, tags, quotes and character references
+  /// go. Empty if the document is refused.
+  QByteArray text;
+  /// Why the document cannot be parsed, with line and column, in words for the user.
+  OdString refusal;
+  /// What was not taken as it stands, in words for the user; empty if all of it was.
+  OdString remark;
+};
+
+/// Elements nested deeper than this are refused: the parser, the reader, the printer and all that
+/// walks the document recurse, and no stack is without end. Palettes of the field go to some 30.
+inline constexpr int kMaxElementDepth = 256;
+/// More attributes than this on one element are refused: the parser compares each attribute with
+/// all before it. The richest element of the field has below 100.
+inline constexpr int kMaxAttributes = 512;
+/// Larger documents are refused.
+inline constexpr qsizetype kMaxDocumentBytes = qsizetype{1} << 30;
+
+/// Checks a document in one linear walk that reads tags exactly as the parser does.
+///
+/// - UTF-16, UTF-32, NUL bytes, an empty text and broken markup are refused.
+/// - Bytes that are no UTF-8 become U+FFFD each, as do references to characters that do not exist
+///   (`&#0;`, `&#xFFFFFFFF;`), with a remark.
+/// - References to unknown entities, and an ampersand that begins no reference, stand for
+/// themselves;
+///   the former with a remark.
+/// - What follows the last element is left out, with a remark.
+OdTcCheckedDocument checkDocument(QByteArray bytes);
+
+} // namespace tc

@@ -1,0 +1,72 @@
+// Walks the markup of a document without a stack.
+#pragma once
+
+#include "frame/string.h"
+
+#include <string_view>
+#include <vector>
+
+namespace tc {
+
+/// Reads tags, comments, CDATA sections and declarations as the parser does, and stops at the first
+/// thing that the parser would stumble over. What it has passed can be parsed in bounded depth.
+class OdTcDocumentScanner {
+ public:
+  struct Remark {
+    qsizetype offset;
+    OdString text;
+  };
+
+  /// `text` is valid UTF-8 without NUL.
+  explicit OdTcDocumentScanner(const QByteArray& text);
+
+  /// False if the document is not well-formed: see failure() and failedAt().
+  bool scan();
+  const OdString& failure() const { return m_failure; }
+  qsizetype failedAt() const { return m_failedAt; }
+  /// At most one of each kind: the first.
+  const std::vector<Remark>& remarks() const { return m_remarks; }
+  /// The text with its references put right and without what follows the last element.
+  QByteArray takeText();
+
+ private:
+  bool fail(const char* at, const OdString& why);
+  void remark(const char* at, bool& done, const OdString& text);
+
+  bool scanMarkup();
+  bool scanContent();
+  bool scanElement();
+  bool scanEndTag();
+  bool scanAttributes(std::string_view name);
+  bool scanAttribute(std::string_view element);
+  bool cutDeclaration();
+  bool scanPast(std::string_view what, std::size_t from, const OdString& unfinished);
+  std::string_view scanName();
+
+  bool startsWith(std::string_view what) const;
+  void skipBlanks();
+  /// Looks at the references in a text or an attribute value.
+  void checkReferences(const char* from, const char* to);
+  const char* checkReference(const char* at, const char* to);
+  const char* checkNumber(const char* at, const char* to);
+  void replace(const char* at, const char* end, std::string_view by);
+
+  const QByteArray& m_text;
+  const char* const m_begin;
+  const char* const m_end;
+  const char* m_at;
+  std::vector<std::string_view> m_open;
+  bool m_hasElement = false;
+
+  // The mended text, as far as there was anything to mend; the rest is copied at the end.
+  QByteArray m_mended;
+  const char* m_copied;
+
+  OdString m_failure;
+  qsizetype m_failedAt = 0;
+  std::vector<Remark> m_remarks;
+  bool m_saidNumber = false;
+  bool m_saidEntity = false;
+};
+
+} // namespace tc

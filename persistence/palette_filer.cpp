@@ -1,0 +1,89 @@
+#include "persistence/palette_filer.h"
+
+#include "host/host_locator.h"
+
+namespace tc {
+namespace {
+
+struct CreateInfoName {
+  const char* parent;
+  const char16_t* name;
+};
+constexpr CreateInfoName kCreateInfoNames[] = {
+    {"Layer", u"LayerCreateInfo"},         {"Color", u"ColorCreateInfo"},
+    {"Textstyle", u"TextStyleCreateInfo"}, {"Linetype", u"LineTypeCreateInfo"},
+    {"Dimstyle", u"DimStyleCreateInfo"},
+};
+
+/// Raises OdError_NotThatKindOfClass unless the object is a palette's database. The class stands in
+/// a higher layer, so it is known here by name.
+void requireDatabase(const OdTcPersist* root) {
+  const OdString wanted = QStringLiteral("OdTcDatabase");
+  if (root && root->isKindOf(odrxFindClass(wanted))) return;
+  throw OdError_NotThatKindOfClass(root ? root->elementName() : QStringLiteral("(null)"), wanted);
+}
+
+void showUnreadable() {
+  if (const KVPtr<IHostMessages> messages = host::service<IHostMessages>())
+    messages->messageBox(host::translate(QStringLiteral("Error while reading tool palette file.")),
+                         host::translate(QStringLiteral("Tool Palettes")));
+}
+
+} // namespace
+
+bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersist* root,
+                                                 bool saving) {
+  if (saving) return writeRoot(stream, root);
+  requireDatabase(root);
+  m_root = root;
+  const bool found = parse(stream) && findPalette();
+  const bool done = found && read();
+  report();
+  if (!found) showUnreadable();
+  return done;
+}
+
+bool OdTcPalettePropertiesFilerImpl::findPalette() {
+  m_parent = findElement("Palette");
+  if (!m_parent) return failed(host::translate(QStringLiteral("it holds no palette")));
+  m_current = m_parent->FirstChildElement();
+  return m_current || failed(host::translate(QStringLiteral("its palette is empty")));
+}
+
+bool OdTcPalettePropertiesFilerImpl::read() {
+  m_skipNames << QStringLiteral("Palette");
+  const bool done = readRoot(m_root) && readBesideContent();
+  m_skipNames.clear();
+  return done;
+}
+
+bool OdTcPalettePropertiesFilerImpl::readBesideContent() {
+  const TiXmlElement* const content = findElement("PaletteContent");
+  if (!content) return true;
+  m_converted = true;
+  m_parent = content->NextSiblingElement();
+  m_current = m_parent ? m_parent->FirstChildElement() : nullptr;
+  if (!m_current) return true;
+  m_skipNames << QStringLiteral("Image") << QStringLiteral("Tool");
+  return readRoot(m_root);
+}
+
+OdString OdTcPalettePropertiesFilerImpl::tableName(const TiXmlElement& element,
+                                                   const OdString& name) const {
+  if (name != QLatin1String("CreateInfo") || !element.Parent()) return name;
+  for (const CreateInfoName& row : kCreateInfoNames)
+    if (element.Parent()->ValueStr() == row.parent) return OdString::fromUtf16(row.name);
+  return name;
+}
+
+OdTcNumberForm OdTcPalettePropertiesFilerImpl::numberForm(const OdString& name) const {
+  return name == QLatin1String("mRGB") ? OdTcNumberForm::kSigned : OdTcNumberForm::kUnsigned;
+}
+
+void OdTcPalettePropertiesFilerImpl::writeAttributes(const OdTcFieldMap& map) {
+  for (const auto& [name, value] : map) writeAttribute(name, value);
+}
+
+OdTcFilerPtr makePaletteFiler() { return odrxMake<OdTcPalettePropertiesFilerImpl>(); }
+
+} // namespace tc

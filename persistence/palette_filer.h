@@ -1,0 +1,35 @@
+// The filer of palette documents.
+#pragma once
+
+#include "persistence/filer_base.h"
+
+namespace tc {
+
+/// Links objects to their palette's database, and writes 32-bit numbers without a sign, but for
+/// colours. Reads palettes exported by AutoCAD as well, in which `CreateInfo` means something else
+/// in each parent.
+class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
+ public:
+  bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool saving) override;
+  void writeAttributes(const OdTcFieldMap& map) override;
+
+ protected:
+  OdString tableName(const TiXmlElement& element, const OdString& name) const override;
+  bool isSkipped(const OdString& name) const override { return m_skipNames.contains(name); }
+  void link(OdTcPersist* object, OdTcPersist* owner) override {
+    object->setOwnerInDatabase(owner, OdString());
+  }
+  OdTcNumberForm numberForm(const OdString& name) const override;
+
+ private:
+  /// Puts the cursor on the palette's first child; false, with the problem kept, if there is none.
+  bool findPalette();
+  bool read();
+  /// Reads what stands beside the content of a palette that another program exported.
+  bool readBesideContent();
+
+  OdTcPersistPtr m_root;
+  QStringList m_skipNames;
+};
+
+} // namespace tc

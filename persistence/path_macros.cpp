@@ -1,0 +1,39 @@
+#include "persistence/path_macros.h"
+
+#include "frame/system_services.h"
+#include "persistence/path_operations.h"
+#include "persistence/value_storage.h"
+
+namespace tc {
+namespace {
+
+struct Source {
+  const char16_t* macro;
+  QStringList (*values)(const OdTcValueStorageImpl& storage);
+};
+// In ascending order of macro text.
+constexpr Source kSources[] = {
+    {u"%ShxFolder%", [](const OdTcValueStorageImpl& s) { return splitPathList(s.fontFolders()); }},
+    {u"%UserProfileFolder%",
+     [](const OdTcValueStorageImpl&) {
+       return QStringList(odrxSystemServices()->userProfileFolder());
+     }},
+    {u"%UserProfileSamplesFolder%",
+     [](const OdTcValueStorageImpl& s) { return QStringList(s.toolPaletteFolders()); }},
+};
+
+} // namespace
+
+std::optional<std::vector<OdTcPathMacro>> pathMacros() {
+  if (odrxSystemServices()->userProfileFolder().isEmpty()) return std::nullopt;
+  const auto storage = odrxMake<OdTcValueStorageImpl>();
+  std::vector<OdTcPathMacro> macros;
+  for (const Source& source : kSources) {
+    QStringList values = source.values(*storage);
+    values.removeAll(OdString());
+    macros.push_back({OdString::fromUtf16(source.macro), values});
+  }
+  return macros;
+}
+
+} // namespace tc

@@ -1,0 +1,21 @@
+// The macros that stand for folders of this machine.
+#pragma once
+
+#include "frame/string.h"
+
+#include <optional>
+#include <vector>
+
+namespace tc {
+
+struct OdTcPathMacro {
+  OdString text;
+  /// The folders that it stands for; the first one is what it expands to.
+  QStringList values;
+};
+
+/// All macros in ascending order of text, with the values of this moment; nothing if the user's
+/// folder is unknown. A setting that is not there, or empty, is no value: every path holds it.
+std::optional<std::vector<OdTcPathMacro>> pathMacros();
+
+} // namespace tc

@@ -1,0 +1,155 @@
+#include "persistence/path_operations.h"
+
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "host/host_locator.h"
+#include "persistence/path_macros.h"
+
+namespace tc {
+namespace {
+
+constexpr QChar kSeparator(u'\\');
+
+bool isSeparator(QChar c) { return c == u'\\' || c == u'/'; }
+
+/// `text` with the first `what` replaced; nothing if it is not there.
+std::optional<OdString> withFirstReplaced(const OdString& text, const OdString& what,
+                                          const OdString& by) {
+  const qsizetype at = text.indexOf(what);
+  if (at < 0) return std::nullopt;
+  OdString result = text;
+  return result.replace(at, what.size(), by);
+}
+
+OdString inFolder(const OdString& folder, const OdString& name) {
+  return folder + kSeparator + name;
+}
+
+QStringList segmentsOf(const OdString& path) {
+  OdString text = path;
+  text.replace(u'/', kSeparator);
+  while (text.size() > 1 && text.endsWith(kSeparator)) text.chop(1);
+  return text.split(kSeparator);
+}
+
+} // namespace
+
+bool expandPath(const OdString& in, OdString& out) {
+  const auto macros = pathMacros();
+  if (!macros) return false;
+  for (const OdTcPathMacro& macro : *macros) {
+    if (macro.values.isEmpty()) continue;
+    if (const auto expanded = withFirstReplaced(in, macro.text, macro.values.first())) {
+      out = *expanded;
+      return true;
+    }
+  }
+  return false;
+}
+
+bool collapsePath(const OdString& in, OdString& out) {
+  const auto macros = pathMacros();
+  if (!macros) return false;
+  for (const OdTcPathMacro& macro : *macros)
+    for (const OdString& value : macro.values)
+      if (const auto collapsed = withFirstReplaced(in, value, macro.text)) {
+        out = *collapsed;
+        return true;
+      }
+  return false;
+}
+
+OdString expandedStoredPath(const OdString& stored) {
+  if (!stored.startsWith(u'%')) return stored;
+  const auto macros = pathMacros();
+  if (!macros) return stored;
+  for (const OdTcPathMacro& macro : *macros)
+    if (!macro.values.isEmpty() && stored.startsWith(macro.text))
+      return macro.values.first() + stored.mid(macro.text.size());
+  return stored;
+}
+
+OdString collapsedStoredPath(const OdString& path) {
+  OdString collapsed;
+  // A folder that is met in mid-path, or is not the first of its macro, would not come back.
+  return collapsePath(path, collapsed) && expandedStoredPath(collapsed) == path ? collapsed : path;
+}
+
+OdString combinePath(const OdString& relative, const OdString& baseFile) {
+  const auto found = std::find_if(baseFile.crbegin(), baseFile.crend(), isSeparator);
+  if (found == baseFile.crend()) return relative;
+  const OdString folder = baseFile.left(std::distance(found, baseFile.crend()) - 1);
+  OdString result = folder;
+  if (relative != QLatin1String(".") && relative != QLatin1String(".\\")) {
+    if (relative.isEmpty() || !isSeparator(relative.front())) result += kSeparator;
+    result += relative;
+  }
+  normalizePath(result);
+  return result;
+}
+
+void normalizePath(OdString& path) {
+  const OdString here = QStringLiteral("\\.\\");
+  const OdString above = QStringLiteral("\\..\\");
+  for (qsizetype at = path.indexOf(here); at >= 0; at = path.indexOf(here, at))
+    path.remove(at, here.size() - 1);
+  for (qsizetype at = path.indexOf(above); at > 0; at = path.indexOf(above, at)) {
+    const qsizetype before = path.lastIndexOf(kSeparator, at - 1);
+    if (before < 0) break;
+    path.remove(before + 1, at + above.size() - before - 1);
+    at = before;
+  }
+}
+
+void cleanFileName(OdString& name) {
+  const OdString forbidden = QStringLiteral("\\<>/?:;*|,='\"");
+  name.removeIf([&](QChar c) { return forbidden.contains(c); });
+}
+
+QStringList splitPathList(const OdString& text) {
+  if (!text.contains(u';')) return {text};
+  return text.split(u';', Qt::SkipEmptyParts);
+}
+
+bool isRelativePath(const OdString& path) { return odpath::isRelative(path); }
+
+bool makeRelativePath(const OdString& path, const OdString& folder, OdString& out) {
+  if (path.isEmpty() || folder.isEmpty()) return false;
+  const QStringList target = segmentsOf(path);
+  const QStringList base = segmentsOf(folder);
+  qsizetype shared = 0;
+  while (shared < target.size() && shared < base.size() && target[shared] == base[shared]) ++shared;
+  // Paths that begin with a separator share the empty text before it, which is no beginning.
+  if (shared == 0 || target.mid(0, shared).join(OdString()).isEmpty()) return false;
+  QStringList steps(base.size() - shared, QStringLiteral(".."));
+  steps << target.mid(shared);
+  out = steps.isEmpty() ? QStringLiteral(".") : steps.join(kSeparator);
+  return true;
+}
+
+OdString baseFolder() {
+  IHostApplication* const application = host::application();
+  const OdString user = application ? application->userDataFolder() : OdString();
+  return inFolder(user, QStringLiteral("ToolPalette"));
+}
+
+OdString defaultCatalogFile() {
+  return inFolder(baseFolder(), OdString::fromUtf16(kCatalogFileName));
+}
+
+OdString defaultPalettesFolder() { return inFolder(baseFolder(), QStringLiteral("Palettes")); }
+
+OdString defaultImagesFolder() {
+  return inFolder(defaultPalettesFolder(), QStringLiteral("Images"));
+}
+
+OdString palettesFolderOf(const OdString& catalogFile) {
+  const OdString name = QStringLiteral("Palettes");
+  const OdString parent = odpath::folderOf(catalogFile);
+  const OdString folder = parent.isEmpty() ? name : inFolder(parent, name);
+  OdRxSystemServices* const services = odrxSystemServices();
+  if (!services->folderExists(folder)) services->createFolder(folder);
+  return folder;
+}
+
+} // namespace tc

@@ -1,0 +1,29 @@
+// Texts of objects as the parser and the printer of documents need them.
+#pragma once
+
+#include "frame/variant.h"
+
+#include <string>
+
+namespace tc {
+
+/// How 32-bit numbers are written.
+enum class OdTcNumberForm { kSigned, kUnsigned };
+
+/// The text form of a value: texts as they are, bool as "-1" and "0", whole numbers in decimal (of
+/// a 64-bit number the low 32 bits), reals with six significant digits. Values marked as array or
+/// by reference, objects and void have none.
+OdString valueText(const OdVariant& value, OdTcNumberForm form);
+
+/// UTF-8 of a text. A NUL, which no document can hold, becomes U+FFFD.
+std::string toUtf8(const OdString& text);
+OdString fromUtf8(const std::string& bytes);
+
+/// `utf8` so that the printer gives it back as it is: the printer takes "&#x" in a text for a
+/// reference that somebody has written on purpose and leaves it alone.
+std::string guardedForPrinter(std::string utf8);
+
+/// True if the parser would take the text for white space between elements and forget it.
+bool isLostOnParsing(const std::string& utf8);
+
+} // namespace tc
