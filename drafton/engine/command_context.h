@@ -5,7 +5,7 @@
 #include "host/command.h"
 #include "host/variables.h"
 
-#include <stdexcept>
+#include <exception>
 
 class OdDbDatabase;
 
@@ -27,10 +27,16 @@ class CommandFailure : public std::exception {
   OdString m_message;
 };
 
+/// Ends a command as cancelled, because the user chose that at a prompt.
+class CommandCancelled : public std::exception {
+ public:
+  const char* what() const noexcept override { return "the command was cancelled"; }
+};
+
 /// One run of a command. It lives as long as the command's coroutine.
 class CommandContext {
  public:
-  CommandContext(Engine& engine, Document& document, CommandInput& input, OdString name,
+  CommandContext(Engine& engine, Document* document, CommandInput& input, OdString name,
                  KVPtr<IMemParam> parameters)
     : m_engine(engine)
     , m_document(document)
@@ -41,7 +47,8 @@ class CommandContext {
   CommandContext& operator=(const CommandContext&) = delete;
 
   Engine& engine() const { return m_engine; }
-  Document& document() const { return m_document; }
+  /// These raise CommandFailure for a command that runs without a document.
+  Document& document() const;
   OdDbDatabase& database() const;
   CommandInput& input() const { return m_input; }
   /// The variables as this document sees them.
@@ -65,7 +72,7 @@ class CommandContext {
 
  private:
   Engine& m_engine;
-  Document& m_document;
+  Document* m_document;
   CommandInput& m_input;
   OdString m_name;
   KVPtr<IMemParam> m_parameters;

@@ -43,11 +43,24 @@ class CommandInput {
 
  private:
   friend class CommandProcessor;
-  template <class T>
-  Answer<T> take();
 
-  /// What is asked now, if anything; the processor feeds it with typed words.
+  template <class T, class Prompt>
+  Awaiter<T> ask(const Prompt& prompt) {
+    m_request.emplace(prompt);
+    m_isNew = true;
+    return Awaiter<T>(*this);
+  }
+  template <class T>
+  Answer<T> take() {
+    const Answer<T> answer = m_request->answer<T>();
+    m_request.reset();
+    return answer;
+  }
+
+  // What is asked now, if anything; the processor feeds it with typed words and goes on with the
+  // waiting command when it is answered.
   std::optional<InputRequest> m_request;
+  bool m_isNew = false; // not shown yet
   std::coroutine_handle<> m_waiting;
 };
 

@@ -3,7 +3,7 @@
 
 #include "frame/string.h"
 
-#include "drawing/ge_point3d.h"
+#include "drawing/geometry.h"
 
 #include <optional>
 #include <type_traits>

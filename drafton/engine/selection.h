@@ -4,7 +4,7 @@
 #include "drafton/engine/command_context.h"
 #include "drafton/engine/task.h"
 
-#include "drawing/object_id.h"
+#include "drawing/object.h"
 
 #include <vector>
 

@@ -1,0 +1,95 @@
+#include "drafton/batch/batch_options.h"
+
+namespace drafton {
+namespace {
+
+/// An option that takes a value.
+struct ValueOption {
+  const char16_t* name;
+  void (*store)(BatchOptions& options, const OdString& value);
+};
+
+constexpr ValueOption kOptions[] = {
+    {u"--catalogs", [](BatchOptions& o, const OdString& value) { o.catalogs = value; }},
+    {u"--profile", [](BatchOptions& o, const OdString& value) { o.profile = value; }},
+    {u"--script", [](BatchOptions& o, const OdString& value) { o.script = value; }},
+    {u"--out", [](BatchOptions& o, const OdString& value) { o.out = value; }},
+};
+
+BatchArguments wrong(const OdString& error) {
+  return {.wish = BatchArguments::Wish::kWrong, .options = {}, .error = error};
+}
+
+const ValueOption* findOption(QStringView name) {
+  for (const ValueOption& option : kOptions)
+    if (name == QStringView(option.name)) return &option;
+  return nullptr;
+}
+
+} // namespace
+
+BatchArguments parseArguments(const QStringList& arguments) {
+  BatchArguments result;
+  for (const OdString& argument : arguments) {
+    if (argument == QLatin1String("--help") || argument == QLatin1String("-h"))
+      return {.wish = BatchArguments::Wish::kHelp, .options = {}, .error = {}};
+    if (argument == QLatin1String("--version"))
+      return {.wish = BatchArguments::Wish::kVersion, .options = {}, .error = {}};
+  }
+  if (arguments.isEmpty()) return {.wish = BatchArguments::Wish::kHelp, .options = {}, .error = {}};
+  if (arguments.first() != QLatin1String("batch"))
+    return wrong(QStringLiteral("'%1' is not known; use 'drafton batch'").arg(arguments.first()));
+  bool onlyNames = false;
+  for (qsizetype i = 1; i < arguments.size(); ++i) {
+    const OdString& argument = arguments[i];
+    if (!onlyNames && argument == QLatin1String("--")) {
+      onlyNames = true;
+    } else if (!onlyNames && argument.startsWith(QLatin1String("--"))) {
+      const qsizetype equals = argument.indexOf(u'=');
+      const OdString name = equals < 0 ? argument : argument.left(equals);
+      const ValueOption* const option = findOption(name);
+      if (!option) return wrong(QStringLiteral("unknown option %1").arg(name));
+      if (equals < 0 && i + 1 >= arguments.size())
+        return wrong(QStringLiteral("%1 needs a value").arg(name));
+      option->store(result.options, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
+    } else if (!onlyNames && argument.size() > 1 && argument.startsWith(u'-')) {
+      return wrong(QStringLiteral("unknown option %1").arg(argument));
+    } else if (!result.options.drawing.isEmpty()) {
+      return wrong(
+          QStringLiteral("more than one drawing: %1 and %2").arg(result.options.drawing, argument));
+    } else if (argument.isEmpty()) {
+      return wrong(QStringLiteral("the name of the drawing is empty"));
+    } else {
+      result.options.drawing = argument;
+    }
+  }
+  return result;
+}
+
+OdString helpText() {
+  return QStringLiteral(
+      "Usage: drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
+      "                     [--out FILE.dxf] [DRAWING.dxf]\n"
+      "\n"
+      "Runs Drafton without a window. The lines of the script, or of standard input, are\n"
+      "typed into the command line; each is followed by Enter. What the command line shows\n"
+      "goes to standard output, errors go to standard error.\n"
+      "\n"
+      "  DRAWING.dxf      the drawing to open; without it a new one\n"
+      "  --catalogs DIRS  the folders of tool palette catalogs for this run, separated by ;\n"
+      "  --profile FILE   the settings file; without it the user's own\n"
+      "  --script FILE    the script; without it, or with -, standard input\n"
+      "  --out FILE.dxf   saves the active drawing there at the end, unless the script failed\n"
+      "  --help           shows this text\n"
+      "  --version        shows the version\n"
+      "\n"
+      "In a script a blank ends a word, an empty line is Enter, ^C cancels, and a text with\n"
+      "blanks can stand in double quotes. The line TOOL:<name> runs the tool of that name. A\n"
+      "line that begins with # while no command waits is a comment. The script ends at the\n"
+      "first command that is unknown or fails, or that still waits at its end.\n"
+      "\n"
+      "Exit codes: 0 all was done, 1 the script failed, 2 wrong arguments, 3 a drawing cannot\n"
+      "be opened or saved.\n");
+}
+
+} // namespace drafton

@@ -1,0 +1,159 @@
+#include "drafton/batch/batch_run.h"
+
+#include "drafton/batch/batch_console.h"
+#include "drafton/batch/script_source.h"
+#include "frame/file_path.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace drafton {
+namespace {
+
+constexpr const char16_t* kModule = u"ToolPaletteManager";
+
+void printTo(std::FILE* file, const OdString& text) {
+  const QByteArray bytes = text.toUtf8();
+  std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
+}
+
+OdString defaultProfile() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+         QLatin1String("/drafton/drafton.ini");
+}
+
+/// One run from its options to its exit code.
+class BatchRun {
+ public:
+  BatchRun(const BatchOptions& options, const OdString& programFolder)
+    : m_options(options)
+    , m_programFolder(programFolder) {}
+
+  int run();
+
+ private:
+  bool openScript();
+  int runScript(Engine& engine, ScriptSource& script);
+  bool openDrawing(Engine& engine);
+  bool saveDrawing(Engine& engine);
+  int failWith(int code, const OdString& text);
+
+  BatchOptions m_options;
+  OdString m_programFolder;
+  BatchConsole m_console{stdout};
+  QFile m_script;
+};
+
+int BatchRun::failWith(int code, const OdString& text) {
+  // What was shown before the failure stands before it, wherever both go.
+  m_console.flush();
+  printTo(stderr, QLatin1String("drafton: ") + text + u'\n');
+  return code;
+}
+
+bool BatchRun::openScript() {
+  if (m_options.script.isEmpty() || m_options.script == QLatin1String("-"))
+    return m_script.open(stdin, QIODevice::ReadOnly);
+  m_script.setFileName(m_options.script);
+  return !QFileInfo(m_options.script).isDir() && m_script.open(QIODevice::ReadOnly);
+}
+
+bool BatchRun::openDrawing(Engine& engine) {
+  if (m_options.drawing.isEmpty()) {
+    engine.documents().newDocument();
+    return true;
+  }
+  try {
+    engine.documents().open(odpath::fromPlatform(QFileInfo(m_options.drawing).absoluteFilePath()));
+    return true;
+  } catch (const OdFileError& error) {
+    failWith(kExitDrawing,
+             translated(u"%1 cannot be opened: %2").arg(m_options.drawing, error.reason()));
+    return false;
+  }
+}
+
+bool BatchRun::saveDrawing(Engine& engine) {
+  Document* const document = engine.documents().current();
+  if (!document) {
+    failWith(kExitDrawing, translated(u"%1 is not saved: no drawing is open").arg(m_options.out));
+    return false;
+  }
+  const OdString path = odpath::fromPlatform(QFileInfo(m_options.out).absoluteFilePath());
+  if (const QStringList lost = document->lostBySaving(); !lost.isEmpty()) {
+    failWith(kExitDrawing,
+             translated(u"%1 is not saved: %2 holds content that Drafton cannot write (%3). The "
+                        u"command SaveAs saves without it.")
+                 .arg(m_options.out, document->name(), lost.join(QStringLiteral(", "))));
+    return false;
+  }
+  try {
+    document->save(path);
+  } catch (const OdFileError& error) {
+    failWith(kExitDrawing, translated(u"%1 is not saved: %2").arg(m_options.out, error.reason()));
+    return false;
+  }
+  return true;
+}
+
+int BatchRun::runScript(Engine& engine, ScriptSource& script) {
+  while (!script.hasFailed() && !engine.isExiting() && script.waitForInput()) engine.run();
+  QStringList waiting;
+  for (const auto& document : engine.documents().documents())
+    waiting << document->processor().runningCommands();
+  waiting << engine.currentProcessor().runningCommands();
+  if (!script.hasFailed() && !waiting.isEmpty())
+    script.fail(translated(u"The script ends while %1 waits for input.").arg(waiting.first()));
+  engine.cancelAll();
+  if (script.hasFailed())
+    return failWith(kExitScriptFailed,
+                    (m_options.script.isEmpty() ? QStringLiteral("script") : m_options.script) +
+                        QLatin1String(", ") + script.failure());
+  return kExitOk;
+}
+
+int BatchRun::run() {
+  if (!openScript())
+    return failWith(
+        kExitScriptFailed,
+        translated(u"%1 cannot be read: %2").arg(m_options.script, m_script.errorString()));
+  ScriptSource script(m_script);
+  EngineOptions options;
+  options.settingsFile = m_options.profile.isEmpty() ? defaultProfile() : m_options.profile;
+  options.programFolder = m_programFolder;
+  Engine engine(std::move(options), m_console, &script);
+  script.setEngine(engine);
+  if (m_options.catalogs)
+    engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
+  if (!openDrawing(engine)) return kExitDrawing;
+  engine.loadModule(OdString::fromUtf16(kModule));
+  engine.runStartupCommands();
+  m_console.setTroubleHandler([&](const OdString& text) { script.fail(text); });
+  const int code = runScript(engine, script);
+  m_console.setTroubleHandler({});
+  if (code == kExitOk && !m_options.out.isEmpty() && !saveDrawing(engine)) return kExitDrawing;
+  return code;
+}
+
+} // namespace
+
+int runProgram(const QStringList& arguments, const OdString& programFolder) {
+  const BatchArguments parsed = parseArguments(arguments);
+  switch (parsed.wish) {
+  case BatchArguments::Wish::kHelp:
+    printTo(stdout, helpText());
+    return kExitOk;
+  case BatchArguments::Wish::kVersion:
+    printTo(stdout, QStringLiteral("drafton " DRAFTON_VERSION "\n"));
+    return kExitOk;
+  case BatchArguments::Wish::kWrong:
+    printTo(stderr, QStringLiteral("drafton: %1\nTry 'drafton --help'.\n").arg(parsed.error));
+    return kExitUsage;
+  case BatchArguments::Wish::kRun:
+    break;
+  }
+  return BatchRun(parsed.options, programFolder).run();
+}
+
+} // namespace drafton

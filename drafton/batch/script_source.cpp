@@ -1,0 +1,59 @@
+#include "drafton/batch/script_source.h"
+
+#include <QIODevice>
+
+namespace drafton {
+namespace {
+
+constexpr qint64 kPieceBytes = 1 << 16;
+constexpr qsizetype kShownText = 200;
+
+} // namespace
+
+bool ScriptSource::readPiece(OdString& piece, bool& endsLine) {
+  QByteArray bytes = m_device.readLine(kPieceBytes);
+  if (bytes.isEmpty()) return false;
+  // A piece that is no whole line could part a caret from its letter.
+  if (bytes.endsWith('^')) bytes += m_device.read(1);
+  endsLine = bytes.endsWith('\n') || m_device.atEnd();
+  if (bytes.endsWith('\n')) bytes.chop(1);
+  if (bytes.endsWith('\r') && endsLine) bytes.chop(1);
+  piece = m_decoder.decode(bytes);
+  return true;
+}
+
+bool ScriptSource::waitForInput() {
+  OdString piece;
+  bool endsLine = false;
+  if (m_hasFailed || m_engine->isExiting() || !readPiece(piece, endsLine)) return false;
+  const bool startsLine = !std::exchange(m_inLine, !endsLine);
+  if (startsLine) {
+    ++m_lineNumber;
+    m_lineText = piece.left(kShownText);
+    if (endsLine && takeWholeLine(piece)) return true;
+  }
+  m_engine->type(piece);
+  if (endsLine) m_engine->type(QStringLiteral("\n"));
+  return true;
+}
+
+/// True for a line that is not typed: a comment, or a tool.
+bool ScriptSource::takeWholeLine(const OdString& line) {
+  if (line.startsWith(u'#') && !m_engine->currentProcessor().isBusy()) return true;
+  if (!line.startsWith(QLatin1String("TOOL:"))) return false;
+  if (!m_engine->completion().runOffer(QStringLiteral("tools"), line))
+    fail(translated(u"There is no tool \"%1\".").arg(line.mid(5).left(kShownText)));
+  return true;
+}
+
+void ScriptSource::fail(const OdString& reason) {
+  if (m_hasFailed) return;
+  m_hasFailed = true;
+  m_reason = reason;
+}
+
+OdString ScriptSource::failure() const {
+  return translated(u"line %1: %2\n%3").arg(m_lineNumber).arg(m_lineText, m_reason);
+}
+
+} // namespace drafton

@@ -1,0 +1,44 @@
+// The script of a run without a window.
+#pragma once
+
+#include "drafton/engine/engine.h"
+
+#include <QStringDecoder>
+
+class QIODevice;
+
+namespace drafton {
+
+/// Types a script into an engine, line by line. A line is read in pieces, so that one without end
+/// costs no memory.
+class ScriptSource : public InputSource {
+ public:
+  /// `device` is open and is read to its end.
+  explicit ScriptSource(QIODevice& device)
+    : m_device(device) {}
+
+  void setEngine(Engine& engine) { m_engine = &engine; }
+  /// Types the next piece, at most one line. False at the end of the script and after a failure.
+  bool waitForInput() override;
+
+  /// Ends the script at the current line.
+  void fail(const OdString& reason);
+  bool hasFailed() const { return m_hasFailed; }
+  /// "line 3: LINE x,y" and the reason of the failure.
+  OdString failure() const;
+
+ private:
+  bool readPiece(OdString& piece, bool& endsLine);
+  bool takeWholeLine(const OdString& line);
+
+  QIODevice& m_device;
+  Engine* m_engine = nullptr;
+  QStringDecoder m_decoder{QStringDecoder::Utf8};
+  bool m_inLine = false;
+  qint64 m_lineNumber = 0;
+  OdString m_lineText; // the beginning of the line, for messages
+  bool m_hasFailed = false;
+  OdString m_reason;
+};
+
+} // namespace drafton

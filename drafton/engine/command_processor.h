@@ -1,0 +1,90 @@
+// The command line of one document: typed keys in, running commands, prompts out.
+#pragma once
+
+#include "drafton/engine/command_registry.h"
+#include "drafton/engine/key_queue.h"
+#include "host/document.h"
+#include "host/user_input.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace drafton {
+
+/// Takes up keys, runs commands and feeds them.
+///
+/// Drafton's own commands are coroutines: one that waits for input is suspended, and nothing of it
+/// is on the stack. Commands of modules are plain functions that ask for input synchronously; while
+/// one waits, keys are taken up from within it. A command can run another one inside it. Of nested
+/// commands only the innermost can wait, all others stand on the stack.
+class CommandProcessor : public IHostCommandInput, public IHostUserInput {
+ public:
+  /// Without a document only commands that need none can run.
+  CommandProcessor(Engine& engine, Document* document);
+  CommandProcessor(const CommandProcessor&) = delete;
+  CommandProcessor& operator=(const CommandProcessor&) = delete;
+  ~CommandProcessor();
+
+  void sendText(const OdString& text) override;
+  Result getString(unsigned flags, const OdString& prompt, OdString& out) override;
+
+  /// Takes up one key: from sent text, then from the keyboard. False if there is none.
+  bool step();
+  /// As `^C` by the user: ends all running commands and forgets the rest of what was sent.
+  void cancel();
+  /// Takes up the cancels that stand in front of the sent text. A lock on the document needs this:
+  /// what is changed under it must not belong to a command that is about to be taken back.
+  void takePendingCancels();
+  /// Runs a command to its end, inside the running one if there is one. False if there is no such
+  /// command, or it was cancelled or failed.
+  bool run(const OdString& name, IMemParam* parameters);
+  /// A click into the drawing: answers a prompt for a point, distance or angle. False if none
+  /// waits.
+  bool givePoint(const OdGePoint3d& point);
+
+  bool isBusy() const { return !m_frames.empty(); }
+  /// True if the innermost command waits for input.
+  bool isWaiting() const { return request() != nullptr; }
+  /// The names of the running commands, outermost first.
+  QStringList runningCommands() const;
+  /// What is asked now; null if nothing is.
+  const InputRequest* request() const;
+  /// Takes over the sent text that `other` has not taken up yet.
+  void takeTextFrom(CommandProcessor& other);
+
+ private:
+  struct Frame;
+  enum class Outcome { kEnded, kCancelled, kFailed };
+
+  std::optional<Key> nextKey(bool& fromKeyboard);
+  void handle(const Key& key);
+  void addToWord(QChar c);
+  bool blankBelongsToWord() const;
+  void endWord();
+  void takeCommandWord(const OdString& word);
+  void takeAnswer(const OdString& word);
+  void settleAnswer(InputRequest::Outcome outcome);
+  void showPrompt(Frame& frame);
+  void cancelCommands();
+  void dropText();
+
+  bool start(const RegisteredCommandPtr& command, IMemParam* parameters, bool* succeeded);
+  void runBody(Frame& frame);
+  int runModuleCommand(Frame& frame);
+  void resume(Frame& frame, const std::function<void()>& step);
+  void finish(Outcome outcome, const OdString& message);
+  void closeUndoStep(const Frame& frame, Outcome outcome);
+  void waitWhile(const std::function<bool()>& pending);
+  void trouble(const OdString& text);
+
+  Engine& m_engine;
+  Document* m_document;
+  KeyQueue m_sent;
+  bool m_paused = false;
+  OdString m_word;
+  bool m_wordTooLong = false;
+  std::vector<std::unique_ptr<Frame>> m_frames; // innermost last
+};
+
+} // namespace drafton

@@ -1,0 +1,94 @@
+#include "drafton/engine/command_registry.h"
+
+#include "drafton/engine/engine.h"
+
+namespace drafton {
+namespace {
+
+struct Alias {
+  const char16_t* alias;
+  const char16_t* command;
+};
+
+constexpr Alias kAliases[] = {
+    {u"A", u"ARC"},
+    {u"C", u"CIRCLE"},
+    {u"CO", u"COPY"},
+    {u"CP", u"COPY"},
+    {u"DT", u"TEXT"},
+    {u"E", u"ERASE"},
+    {u"L", u"LINE"},
+    {u"LA", u"LAYER"},
+    {u"M", u"MOVE"},
+    {u"NEW", u"NewDocument"},
+    {u"OPEN", u"OpenDocument"},
+    {u"PL", u"PLINE"},
+    {u"QUIT", u"Exit"},
+    {u"REC", u"RECTANG"},
+    {u"T", u"TEXT"},
+    {u"U", u"UNDO"},
+    {u"Z", u"ZOOM"},
+    {u"CLOSE", u"CloseDocument"},
+};
+
+} // namespace
+
+void CommandRegistry::add(RegisteredCommand command) {
+  command.owner = m_owners.current();
+  const auto added = std::make_shared<const RegisteredCommand>(std::move(command));
+  m_commands.push_back(added);
+  m_byName.insert(added->name.toUpper(), added);
+}
+
+void CommandRegistry::add(std::span<const NativeCommand> table) {
+  for (const NativeCommand& row : table)
+    add({.name = OdString::fromUtf16(row.name),
+         .group = QStringLiteral("DRAFTON"),
+         .flags = row.flags,
+         .body = row.body});
+}
+
+RegisteredCommandPtr CommandRegistry::find(const OdString& name) const {
+  return m_byName.value(name.toUpper());
+}
+
+RegisteredCommandPtr CommandRegistry::findTyped(const OdString& word) const {
+  OdString name = word;
+  for (;;) {
+    if (RegisteredCommandPtr found = find(name)) return found;
+    if (name.isEmpty() || !QStringLiteral("_.'").contains(name[0])) break;
+    name = name.mid(1);
+  }
+  for (const Alias& row : kAliases)
+    if (name.compare(QStringView(row.alias), Qt::CaseInsensitive) == 0)
+      return find(OdString::fromUtf16(row.command));
+  return nullptr;
+}
+
+QStringList CommandRegistry::namesIn(const OdString& group) const {
+  QStringList names;
+  for (const RegisteredCommandPtr& command : m_commands)
+    if (command->group == group) names << command->name;
+  return names;
+}
+
+void CommandRegistry::drop(int owner) {
+  std::erase_if(m_commands, [owner](const auto& command) { return command->owner == owner; });
+  m_byName.clear();
+  for (const RegisteredCommandPtr& command : m_commands)
+    m_byName.insert(command->name.toUpper(), command);
+}
+
+void CommandFactory::registerCommand(const OdString& name, CmdCreator creator,
+                                     const OdString& group, unsigned flags) {
+  if (Engine* const engine = Engine::current(); engine && creator)
+    engine->commands().add({.name = name, .group = group, .flags = flags, .creator = creator});
+}
+
+void CommandFactory::registerFunction(const OdString& group, const OdString& name, unsigned flags,
+                                      CmdFunction function) {
+  if (Engine* const engine = Engine::current(); engine && function)
+    engine->commands().add({.name = name, .group = group, .flags = flags, .function = function});
+}
+
+} // namespace drafton

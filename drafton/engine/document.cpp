@@ -1,0 +1,72 @@
+#include "drafton/engine/document.h"
+
+#include "drafton/engine/engine.h"
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+
+namespace drafton {
+
+Document::Document(Engine& engine, OdDbDatabasePtr database, OdString name)
+  : m_engine(engine)
+  , m_database(std::move(database))
+  , m_name(std::move(name))
+  , m_variables(engine, this)
+  , m_processor(engine, this) {
+  m_database->addReactor(this);
+}
+
+Document::~Document() { m_database->removeReactor(this); }
+
+OdString Document::name() const {
+  const OdString file = m_database->fileName();
+  return file.isEmpty() ? m_name : odpath::fileNameOf(file);
+}
+
+void Document::beginClosing() { m_isClosing = true; }
+
+void Document::headerSysVarChanged(const OdDbDatabase&, const OdString& name) {
+  m_engine.events().fire([&](HostEditorReactor& r) { r.sysVarChanged(m_database.get(), name); });
+}
+
+bool Document::lock(const OdString& name) {
+  if (m_isClosing) return false;
+  if (m_locks++ > 0) return true;
+  // Changes under the lock must not go away with a command that is about to be cancelled.
+  m_processor.takePendingCancels();
+  if (m_processor.isBusy()) return true;
+  m_database->startUndoRecord(name);
+  m_hasLockStep = true;
+  return true;
+}
+
+void Document::unlock() {
+  if (m_locks == 0 || --m_locks > 0) return;
+  if (std::exchange(m_hasLockStep, false)) m_database->endUndoRecord();
+  m_database->deliverChanges();
+}
+
+void Document::save(const OdString& path) {
+  if (!lostBySaving().isEmpty() && !this->path().isEmpty() && odpath::samePlace(path, this->path()))
+    throw CommandFailure(
+        translated(u"%1 holds content that Drafton cannot write (%2): saving over it would lose "
+                   u"it. Save the drawing under another name.")
+            .arg(path, lostBySaving().join(QStringLiteral(", "))));
+  keepBackup(path);
+  m_database->writeFile(path);
+  m_database->setFileName(path);
+  m_database->setSaved();
+}
+
+void Document::keepBackup(const OdString& path) {
+  OdVariant keep;
+  OdRxSystemServices* const files = odrxSystemServices();
+  if (!m_variables.get(QStringLiteral("ISAVEBAK"), keep) || !keep.toBool()) return;
+  if (!files->fileExists(path)) return;
+  const OdString backup = path.left(path.size() - odpath::fileNameOf(path).size()) +
+                          odpath::titleOf(path) + QLatin1String(".bak");
+  if (odpath::samePlace(backup, path)) return;
+  if (files->fileExists(backup)) files->removeFile(backup);
+  files->copyFile(path, backup);
+}
+
+} // namespace drafton

@@ -1,0 +1,59 @@
+#include "drafton/engine/exports.h"
+
+#include "drafton/engine/engine.h"
+#include "drafton/engine/mem_param.h"
+#include "frame/dynamic_library.h"
+#include "host/exports.h"
+
+#include <QtGlobal>
+
+using drafton::Engine;
+
+namespace {
+
+// Nothing is thrown through a function with C linkage, and none of these can fail.
+
+void* hostServices() {
+  Engine* const engine = Engine::current();
+  return engine ? static_cast<IHostServices*>(&engine->services()) : nullptr;
+}
+
+} // namespace
+
+extern "C" {
+
+Q_DECL_EXPORT OdModuleHandle GetMainDllInstance() { return oddynlib::mainExecutable(); }
+
+/// The program itself; the system's loader knows it by the empty name.
+Q_DECL_EXPORT const char16_t* GetMainDllNameW() { return u""; }
+
+Q_DECL_EXPORT hostexport::HostObjectGetter get_host_funcptr(int index) {
+  return index == hostexport::kServicesIndex ? &hostServices : nullptr;
+}
+
+Q_DECL_EXPORT void new_ICmdFactory(ICmdFactory** factory) {
+  *factory = Engine::current() ? new drafton::CommandFactory : nullptr;
+}
+
+Q_DECL_EXPORT void new_MemParam(IMemParam** parameters) { *parameters = new drafton::MemParam; }
+
+Q_DECL_EXPORT IHostApplication* GetApp() {
+  Engine* const engine = Engine::current();
+  return engine ? &engine->application() : nullptr;
+}
+
+Q_DECL_EXPORT bool Supp_Translate(const OdString& text, OdString& out) {
+  return drafton::Translator::instance().translate(text, out);
+}
+
+Q_DECL_EXPORT bool hostGetCmdRouteMap(OdString& out) {
+  Engine* const engine = Engine::current();
+  const OdString path = engine ? engine->commandRouteMap() : OdString();
+  if (path.isEmpty()) return false;
+  out = path;
+  return true;
+}
+
+} // extern "C"
+
+void drafton::keepHostExports() {}

@@ -1,0 +1,208 @@
+#include "drafton/engine/input_request.h"
+
+#include "drafton/engine/translator.h"
+
+#include <cmath>
+
+namespace drafton {
+namespace {
+
+/// What a prompt of each kind says to input that it cannot use, and to none.
+struct KindTexts {
+  InputRequest::Kind kind;
+  const char16_t* invalid;
+  const char16_t* missing;
+};
+
+using Kind = InputRequest::Kind;
+
+constexpr KindTexts kTexts[] = {
+    {Kind::kPoint, u"Invalid point.", u"A point is needed."},
+    {Kind::kDistance, u"Invalid distance: a number or a point is needed.",
+     u"A distance is needed: a number or a point."},
+    {Kind::kAngle, u"Invalid angle: degrees or a point are needed.",
+     u"An angle is needed: degrees or a point."},
+    {Kind::kInteger, u"Invalid whole number.", u"A whole number is needed."},
+    {Kind::kReal, u"Invalid number.", u"A number is needed."},
+    {Kind::kString, u"Invalid text.", u"A text is needed."},
+    {Kind::kKeyword, u"Invalid option.", u"An option is needed."},
+};
+
+struct RangeText {
+  NumberRange range;
+  const char16_t* refusal;
+};
+
+constexpr RangeText kRanges[] = {
+    {NumberRange::kNotZero, u"The value must not be zero."},
+    {NumberRange::kNotNegative, u"The value must not be negative."},
+    {NumberRange::kPositive, u"The value must be greater than zero."},
+};
+
+const KindTexts& textsOf(Kind kind) {
+  for (const KindTexts& row : kTexts)
+    if (row.kind == kind) return row;
+  return kTexts[0];
+}
+
+OdString unquoted(const OdString& word) {
+  const bool quoted = word.size() >= 2 && word.startsWith(u'"') && word.endsWith(u'"');
+  return quoted ? word.mid(1, word.size() - 2) : word;
+}
+
+} // namespace
+
+InputRequest::InputRequest(const PointPrompt& prompt)
+  : InputRequest(Kind::kPoint, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_base = prompt.base;
+}
+
+InputRequest::InputRequest(const DistancePrompt& prompt)
+  : InputRequest(Kind::kDistance, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_base = prompt.base;
+  m_range = prompt.range;
+  if (!prompt.defaultValue) return;
+  m_default = *prompt.defaultValue;
+  m_shownDefault = shownReal(*prompt.defaultValue);
+}
+
+InputRequest::InputRequest(const AnglePrompt& prompt)
+  : InputRequest(Kind::kAngle, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_base = prompt.base;
+  if (!prompt.defaultValue) return;
+  m_default = *prompt.defaultValue;
+  m_shownDefault = shownAngle(*prompt.defaultValue);
+}
+
+InputRequest::InputRequest(const IntegerPrompt& prompt)
+  : InputRequest(Kind::kInteger, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_range = prompt.range;
+  if (!prompt.defaultValue) return;
+  m_default = *prompt.defaultValue;
+  m_shownDefault = OdString::number(*prompt.defaultValue);
+}
+
+InputRequest::InputRequest(const RealPrompt& prompt)
+  : InputRequest(Kind::kReal, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_range = prompt.range;
+  if (!prompt.defaultValue) return;
+  m_default = *prompt.defaultValue;
+  m_shownDefault = shownReal(*prompt.defaultValue);
+}
+
+InputRequest::InputRequest(const StringPrompt& prompt)
+  : InputRequest(Kind::kString, prompt.text, {}, prompt.allowEmpty) {
+  m_allowBlanks = prompt.allowBlanks;
+  if (!prompt.defaultValue) return;
+  m_shownDefault = prompt.defaultValue->toString();
+  m_default = m_shownDefault;
+}
+
+InputRequest::InputRequest(const KeywordPrompt& prompt)
+  : InputRequest(Kind::kKeyword, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  m_shownDefault = prompt.defaultValue.toString();
+}
+
+InputRequest::InputRequest(const OdString& prompt, bool allowBlanks)
+  : InputRequest(Kind::kPlainText, prompt, {}, true) {
+  m_allowBlanks = allowBlanks;
+}
+
+OdString InputRequest::shown() const {
+  if (m_kind == Kind::kPlainText) return m_text;
+  if (m_firstPoint) return translated(u"Specify second point") + QStringLiteral(": ");
+  OdString text = translated(m_text);
+  if (!m_keywords.isEmpty())
+    text += (m_kind == Kind::kKeyword ? QStringLiteral(" [%1]") : QStringLiteral(" or [%1]"))
+                .arg(m_keywords.shown());
+  if (!m_shownDefault.isEmpty()) text += QStringLiteral(" <%1>").arg(m_shownDefault);
+  return text + QStringLiteral(": ");
+}
+
+bool InputRequest::takesPoints() const {
+  return m_kind == Kind::kPoint || m_kind == Kind::kDistance || m_kind == Kind::kAngle;
+}
+
+bool InputRequest::isInRange(double value) const {
+  switch (m_range) {
+  case NumberRange::kAny:
+    return true;
+  case NumberRange::kNotZero:
+    return value != 0;
+  case NumberRange::kNotNegative:
+    return value >= 0;
+  case NumberRange::kPositive:
+    return value > 0;
+  }
+  return true;
+}
+
+InputRequest::Outcome InputRequest::refuse(OdString message) {
+  m_message = std::move(message);
+  return Outcome::kAgain;
+}
+
+InputRequest::Outcome InputRequest::acceptValue(Value value) {
+  m_value = std::move(value);
+  return Outcome::kAnswered;
+}
+
+InputRequest::Outcome InputRequest::acceptNumber(double value) {
+  if (isInRange(value)) return acceptValue(value);
+  for (const RangeText& row : kRanges)
+    if (row.range == m_range) return refuse(translated(row.refusal));
+  return Outcome::kAgain;
+}
+
+InputRequest::Outcome InputRequest::acceptEmpty() {
+  if (m_kind == Kind::kKeyword && !m_shownDefault.isEmpty()) {
+    m_keyword = m_shownDefault;
+    return Outcome::kAnswered;
+  }
+  if (m_default.index() != 0 && !m_firstPoint) return acceptValue(m_default);
+  if (m_allowEmpty && !m_firstPoint) return Outcome::kAnswered;
+  return refuse(translated(textsOf(m_kind).missing));
+}
+
+InputRequest::Outcome InputRequest::accept(const OdString& word, const OdGePoint3d& last) {
+  if (m_kind == Kind::kPlainText) return acceptValue(word);
+  if (word.isEmpty()) return acceptEmpty();
+  if (const std::optional<OdString> keyword = m_keywords.match(word)) {
+    m_keyword = *keyword;
+    return Outcome::kAnswered;
+  }
+  if (m_kind == Kind::kString) return acceptValue(unquoted(word));
+  if (m_kind == Kind::kInteger) {
+    const std::optional<int> number = parseInteger(word);
+    if (!number) return refuse(translated(textsOf(m_kind).invalid));
+    const Outcome outcome = acceptNumber(*number);
+    if (outcome == Outcome::kAnswered) m_value = *number;
+    return outcome;
+  }
+  if (m_kind != Kind::kPoint && m_kind != Kind::kKeyword && !m_firstPoint) {
+    const std::optional<double> number =
+        m_kind == Kind::kAngle ? parseAngle(word) : parseReal(word);
+    if (number) return acceptNumber(*number);
+  }
+  if (takesPoints())
+    if (const std::optional<OdGePoint3d> point = parsePoint(word, {last, base()}))
+      return acceptPoint(*point);
+  return refuse(translated(textsOf(m_kind).invalid));
+}
+
+InputRequest::Outcome InputRequest::acceptPoint(const OdGePoint3d& point) {
+  if (!takesPoints()) return refuse(translated(textsOf(m_kind).invalid));
+  m_answeredPoint = point;
+  if (m_kind == Kind::kPoint) return acceptValue(point);
+  const std::optional<OdGePoint3d> from = base();
+  if (!from) {
+    m_firstPoint = point;
+    return Outcome::kMore;
+  }
+  const OdGeVector3d offset = point - *from;
+  if (m_kind == Kind::kDistance) return acceptNumber(offset.length());
+  if (offset.x == 0 && offset.y == 0) return refuse(translated(u"The two points must differ."));
+  return acceptValue(odgeNormalAngle(std::atan2(offset.y, offset.x)));
+}
+
+} // namespace drafton

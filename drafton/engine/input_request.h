@@ -1,0 +1,99 @@
+// One question of a command, and how typed words answer it.
+#pragma once
+
+#include "drafton/engine/keyword_list.h"
+#include "drafton/engine/prompt.h"
+#include "drafton/engine/value_parser.h"
+
+#include <variant>
+
+namespace drafton {
+
+/// A prompt that waits for its answer.
+class InputRequest {
+ public:
+  enum class Kind { kPoint, kDistance, kAngle, kInteger, kReal, kString, kKeyword, kPlainText };
+  /// An answer of any kind: the point, the number, the text; a keyword beside it.
+  using Value = std::variant<std::monostate, OdGePoint3d, double, int, OdString>;
+
+  explicit InputRequest(const PointPrompt& prompt);
+  explicit InputRequest(const DistancePrompt& prompt);
+  explicit InputRequest(const AnglePrompt& prompt);
+  explicit InputRequest(const IntegerPrompt& prompt);
+  explicit InputRequest(const RealPrompt& prompt);
+  explicit InputRequest(const StringPrompt& prompt);
+  explicit InputRequest(const KeywordPrompt& prompt);
+  /// A text that a module asks for: the prompt is shown as it stands and the text is given as it
+  /// was typed.
+  InputRequest(const OdString& prompt, bool allowBlanks);
+
+  Kind kind() const { return m_kind; }
+  /// True if a blank belongs to the answer.
+  bool takesBlanks() const { return m_allowBlanks; }
+  /// True if a word in double quotes may hold blanks.
+  bool takesQuotes() const { return m_kind == Kind::kString; }
+  /// The prompt as it is shown.
+  OdString shown() const;
+  const KeywordList& keywords() const { return m_keywords; }
+  /// From where the window draws its rubber band.
+  std::optional<OdGePoint3d> base() const { return m_firstPoint ? m_firstPoint : m_base; }
+
+  enum class Outcome {
+    kAnswered,
+    kAgain, ///< not accepted: message() tells why
+    kMore,  ///< a first point was taken, the second is wanted
+  };
+  /// Takes one typed word; `word` is empty for Enter alone. `last` is the document's last point.
+  Outcome accept(const OdString& word, const OdGePoint3d& last);
+  /// Takes a point that was clicked.
+  Outcome acceptPoint(const OdGePoint3d& point);
+  const OdString& message() const { return m_message; }
+
+  /// The answer once it is there.
+  template <class T>
+  Answer<T> answer() const {
+    Answer<T> result;
+    if (!m_keyword.isEmpty()) {
+      result.kind = Answer<T>::Kind::kKeyword;
+      result.keyword = m_keyword;
+    } else if (const T* value = std::get_if<T>(&m_value)) {
+      result.kind = Answer<T>::Kind::kValue;
+      result.value = *value;
+    }
+    return result;
+  }
+  /// The point that was given as the answer, if it was one.
+  std::optional<OdGePoint3d> answeredPoint() const { return m_answeredPoint; }
+
+ private:
+  InputRequest(Kind kind, QStringView text, QStringView keywords, bool allowEmpty)
+    : m_kind(kind)
+    , m_text(text.toString())
+    , m_keywords(keywords)
+    , m_allowEmpty(allowEmpty) {}
+
+  Outcome refuse(OdString message);
+  Outcome acceptEmpty();
+  Outcome acceptNumber(double value);
+  Outcome acceptValue(Value value);
+  bool takesPoints() const;
+  bool isInRange(double value) const;
+
+  Kind m_kind;
+  OdString m_text;
+  KeywordList m_keywords;
+  std::optional<OdGePoint3d> m_base;
+  std::optional<OdGePoint3d> m_firstPoint;
+  NumberRange m_range = NumberRange::kAny;
+  bool m_allowBlanks = false;
+  bool m_allowEmpty = false;
+  Value m_default;
+  OdString m_shownDefault;
+
+  Value m_value;
+  OdString m_keyword;
+  std::optional<OdGePoint3d> m_answeredPoint;
+  OdString m_message;
+};
+
+} // namespace drafton
