@@ -5,10 +5,18 @@
 
 #include <QImage>
 
+class QPainter;
+
 namespace tc {
 
 /// Size kinds and their pixels: 0 and 1 are 16, 2 is 24, 3 is 32, 4 is 64; any other counts as 16.
-enum class OdTcSizeKind : std::int32_t { kNone = 0, kSmall = 1, kMedium = 2, kNormal = 3, kLarge = 4 };
+enum class OdTcSizeKind : std::int32_t {
+  kNone = 0,
+  kSmall = 1,
+  kMedium = 2,
+  kNormal = 3,
+  kLarge = 4
+};
 
 /// Knows where a picture comes from, a file beside the palette or a named resource of the program,
 /// and keeps it once it is decoded. Element `Image`.
@@ -31,6 +39,23 @@ class OdTcImage : public OdTcPersist {
   virtual void releaseBitmap() = 0;
   /// True if the picture lies in the program's button resources.
   virtual bool isResource() const = 0;
+
+  /// Takes the picture of a file, scaled to the size kind, and names it after the file; a name that
+  /// the palette's folder has already is replaced by a fresh one. False, with nothing changed, if
+  /// the file cannot be read.
+  virtual bool setSrcFromFile(const OdString& path) = 0;
+  /// Saves the picture in a format by its code: 1 bmp, 2 wmf, 3 ico, 4 emf, 5 jpeg, 6 png, 7 gif,
+  /// 8 tiff, -1 by the path's extension, any other png. A path without an extension gets the
+  /// format's. False if there is no picture or it cannot be saved.
+  virtual bool saveTo(const OdString& path, std::int32_t format) = 0;
+  /// Takes the picture of a file as it is and remembers the path; false if it cannot be read.
+  virtual bool loadFromFile(const OdString& path) = 0;
+  /// Draws the picture at its own size and gives it up again.
+  virtual void draw(QPainter* painter, int x, int y, int width, int height) = 0;
+  /// A new image of another size kind, with the picture scaled to it.
+  virtual OdSmartPtr<OdTcImage> cloneAtSize(std::int32_t kind) = 0;
+  /// The stored path of the picture's file; empty if it is not known.
+  virtual OdString fullPath() const = 0;
 };
 using OdTcImagePtr = OdSmartPtr<OdTcImage>;
 

@@ -19,6 +19,10 @@ class OdTcImageList : public OdTcPersist {
   virtual OdTcImage* findBySize(std::int32_t sizeKind) const = 0;
   virtual int count() const = 0;
   virtual std::uint32_t options() const = 0;
+  /// Replaces the pictures by those of a file in the three sizes that every item has: 16, 32 and 64
+  /// pixels. The files of the former ones go. False, with an empty list, if the file cannot be
+  /// read.
+  virtual bool setFromFile(const OdString& path) = 0;
 };
 using OdTcImageListPtr = OdSmartPtr<OdTcImageList>;
 

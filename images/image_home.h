@@ -1,0 +1,33 @@
+// How an image learns where its palette's file lies.
+#pragma once
+
+#include "frame/string.h"
+
+namespace tc {
+
+class OdTcDatabase;
+
+/// What an image asks of the palette that it belongs to. Palettes stand above images, so the
+/// functions are handed in from there when the classes are put together; until then no image has a
+/// file.
+struct OdTcImageHome {
+  /// The stored path of the palette's file; empty if it has none.
+  OdString (*pathOf)(const OdTcDatabase* database) = nullptr;
+  /// True while the palette is being written to another place.
+  bool (*isExporting)(const OdTcDatabase* database) = nullptr;
+};
+
+void setImageHome(const OdTcImageHome& home);
+
+/// The path of the palette's file, or empty.
+OdString imageHomePath(const OdTcDatabase* database);
+/// The stored path of a picture under a palette: beside its file or, while it is exported, in a
+/// folder named after the new file. Empty without a palette or its path.
+OdString imageFilePath(const OdTcDatabase* database, const OdString& src);
+/// `src` joined to the folder of a palette file.
+OdString imagePathBeside(const OdString& palettePath, const OdString& src);
+/// True if the picture lies in the folder of the palette file or below. A `src` from a file can
+/// lead anywhere; nothing is written or deleted outside.
+bool isBelowPalette(const OdString& palettePath, const OdString& imagePath);
+
+} // namespace tc

@@ -1,0 +1,262 @@
+#include "images/image_impl.h"
+
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "host/host_locator.h"
+#include "host/icon_service.h"
+#include "images/image_home.h"
+#include "images/picture_file.h"
+#include "persistence/filer.h"
+#include "persistence/path_operations.h"
+
+#include <QPainter>
+
+#include <vector>
+
+namespace tc {
+namespace {
+
+constexpr QStringView kButtonResources = u"%ProgramBtnRes%";
+constexpr QStringView kForeignButtons = u"acadbtn.xmx";
+constexpr QStringView kExchangeExtension = u".xtp";
+
+/// The paths of the palette files that images were read from; number 0 stands for none.
+class Homes {
+ public:
+  std::uint32_t numberOf(const OdString& path) {
+    if (path.isEmpty()) return 0;
+    // Images come in runs from one file, so the last path is nearly always the one.
+    for (std::size_t i = m_paths.size(); i-- > 0;)
+      if (m_paths[i] == path) return static_cast<std::uint32_t>(i + 1);
+    m_paths.push_back(path);
+    return static_cast<std::uint32_t>(m_paths.size());
+  }
+  OdString path(std::uint32_t number) const {
+    return number == 0 ? OdString() : m_paths[number - 1];
+  }
+
+ private:
+  std::vector<OdString> m_paths;
+};
+Homes g_homes;
+
+QImage scaledTo(const QImage& picture, int width, int height) {
+  return picture.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+struct OdTcImageImpl::Decoded {
+  QImage bitmap;
+  OdString fullPath;
+};
+
+OdTcImageImpl::Decoded& OdTcImageImpl::decoded() {
+  if (!m_decoded) m_decoded = std::make_unique<Decoded>();
+  return *m_decoded;
+}
+
+void OdTcImageImpl::setSizeKind(std::int32_t kind) {
+  m_sizeKind = kind;
+  m_cx = m_cy = static_cast<std::uint32_t>(pixelsOfKind(kind));
+}
+
+void OdTcImageImpl::setResource(const OdString& src, const OdString& resource) {
+  m_src = src;
+  m_resource = resource;
+  m_decoded.reset();
+}
+
+void OdTcImageImpl::setSize(std::uint32_t cx, std::uint32_t cy) {
+  m_cx = cx;
+  m_cy = cy;
+}
+
+bool OdTcImageImpl::isResource() const {
+  const OdString library = src();
+  return library == kButtonResources || library == kForeignButtons;
+}
+
+QImage OdTcImageImpl::resourcePicture() const {
+  OdString name = resource();
+  if (name.contains(QLatin1String("RCDATA"))) name = name.mid(name.lastIndexOf(u'_') + 1).toLower();
+  const KVPtr<IHostIconService> icons = host::service<IHostIconService>();
+  if (!icons || name.isEmpty()) return {};
+  const QImage icon = icons->icon(name, pixelsOfKind(m_sizeKind));
+  const int width = static_cast<int>(m_cx), height = static_cast<int>(m_cy);
+  if (icon.isNull() || width <= 0 || height <= 0 || icon.size() == QSize(width, height))
+    return icon;
+  return scaledTo(icon, width, height);
+}
+
+QImage OdTcImageImpl::getBitmap() {
+  if (m_decoded && !m_decoded->bitmap.isNull()) return m_decoded->bitmap;
+  QImage picture;
+  if (isResource())
+    picture = resourcePicture();
+  else if (const OdString path = fullPath(); !path.isEmpty())
+    picture = loadPicture(path);
+  if (!picture.isNull()) decoded().bitmap = picture;
+  return picture;
+}
+
+void OdTcImageImpl::releaseBitmap() {
+  if (!m_decoded) return;
+  m_decoded->bitmap = QImage();
+  if (m_decoded->fullPath.isEmpty()) m_decoded.reset();
+}
+
+OdString OdTcImageImpl::fullPath() const {
+  OdRxSystemServices* const system = odrxSystemServices();
+  if (m_decoded && !m_decoded->fullPath.isEmpty() && system->fileExists(m_decoded->fullPath))
+    return m_decoded->fullPath;
+  if (m_src.isEmpty() || isResource()) return {};
+  for (const OdString& path :
+       {imagePathBeside(g_homes.path(m_home), src()), imageFilePath(database(), src())})
+    if (!path.isEmpty() && system->fileExists(path)) return path;
+  return {};
+}
+
+void OdTcImageImpl::setBitmap(const QImage& bitmap, const OdString& src) {
+  m_decoded.reset();
+  decoded().bitmap = bitmap;
+  m_src = src;
+  m_resource = OdString();
+  m_home = 0;
+  m_format = kPngFormat;
+}
+
+OdString OdTcImageImpl::freeName(const OdString& name, const OdString& label) const {
+  const OdString path = imageFilePath(database(), name);
+  return !path.isEmpty() && odrxSystemServices()->fileExists(path) ? uniquePictureName(label)
+                                                                   : name;
+}
+
+bool OdTcImageImpl::setSrcFromFile(const OdString& path) {
+  const QImage loaded = loadPicture(path);
+  if (loaded.isNull()) return false;
+  const int pixels = pixelsOfKind(m_sizeKind);
+  setBitmap(scaledTo(loaded, pixels, pixels),
+            freeName(titledPictureName(odpath::titleOf(path), m_sizeKind),
+                     QStringLiteral("Raster tool instrument")));
+  return true;
+}
+
+bool OdTcImageImpl::saveTo(const OdString& path, std::int32_t format) {
+  const QImage picture = getBitmap();
+  if (picture.isNull()) return false;
+  const OdString own = odpath::extensionOf(path);
+  const OdString extension = format == -1 && !own.isEmpty() ? own : formatExtension(format);
+  const OdString target = own.isEmpty() ? path + u'.' + extension : path;
+  if (!savePicture(picture, target, extension)) return false;
+  decoded().fullPath = target;
+  return true;
+}
+
+bool OdTcImageImpl::loadFromFile(const OdString& path) {
+  const QImage picture = loadPicture(path);
+  if (picture.isNull()) return false;
+  decoded().bitmap = picture;
+  m_decoded->fullPath = path;
+  return true;
+}
+
+void OdTcImageImpl::draw(QPainter* painter, int x, int y, int width, int height) {
+  if (const QImage picture = getBitmap(); painter && !picture.isNull())
+    painter->drawImage(x, y, picture, 0, 0, width, height);
+  releaseBitmap();
+}
+
+OdTcImagePtr OdTcImageImpl::cloneAtSize(std::int32_t kind) {
+  auto copy = odrxMake<OdTcImageImpl>();
+  copy->setSizeKind(kind);
+  if (isResource()) {
+    copy->m_src = m_src;
+    copy->m_resource = m_resource;
+    return copy;
+  }
+  const int pixels = pixelsOfKind(kind);
+  if (const QImage picture = getBitmap(); !picture.isNull())
+    copy->setBitmap(scaledTo(picture, pixels, pixels),
+                    uniquePictureName(QStringLiteral("Block tool instrument")));
+  copy->m_resource = m_resource;
+  return copy;
+}
+
+// --- files
+
+bool OdTcImageImpl::readElements(OdTcFiler* filer) {
+  const bool isRead = OdTcPersistImpl::readElements(filer);
+  resolveAfterReading();
+  return isRead;
+}
+
+void OdTcImageImpl::resolveAfterReading() {
+  if (m_src.isEmpty() || !owner()) return;
+  const OdString palette = imageHomePath(database());
+  const qsizetype at = palette.indexOf(kExchangeExtension);
+  if (at < 0) {
+    m_home = g_homes.numberOf(palette);
+    return;
+  }
+  // Pictures of an exchange file lie in the folder that is named like it.
+  const OdString path = combinePath(src(), palette.left(at) + u'\\');
+  if (isResource() || !odrxSystemServices()->fileExists(path)) return;
+  decoded().fullPath = path;
+  if (const OdString name = src(); !name.startsWith(u'\\')) m_src = u'\\' + name;
+}
+
+void OdTcImageImpl::saveBesidePalette() {
+  if (m_src.isEmpty() || isResource()) return;
+  const OdString palette = imageHomePath(database());
+  const OdString path = imageFilePath(database(), src());
+  if (path.isEmpty() || !isBelowPalette(palette, path)) return;
+  // A picture that is not decoded and stays where it was read from needs no look at the disk.
+  if (!m_decoded && path == imagePathBeside(g_homes.path(m_home), src())) return;
+  OdRxSystemServices* const system = odrxSystemServices();
+  if (system->fileExists(path) || getBitmap().isNull()) return;
+  if (const OdString folder = odpath::folderOf(path); system->createFolder(folder))
+    saveTo(path, kPngFormat);
+}
+
+void OdTcImageImpl::writeFields(OdTcFiler* filer) {
+  saveBesidePalette();
+  filer->writeAttribute(QStringLiteral("cx"), OdString::number(m_cx));
+  filer->writeAttribute(QStringLiteral("cy"), OdString::number(m_cy));
+  if (!m_src.isEmpty()) filer->writeAttribute(QStringLiteral("src"), src());
+  if (!m_resource.isEmpty()) filer->writeAttribute(QStringLiteral("resource"), resource());
+  releaseBitmap();
+}
+
+bool OdTcImageImpl::readField(const OdString& name, const OdVariant& value) {
+  const OdString text = value.toString();
+  if (name == QLatin1String("cx")) {
+    m_cx = static_cast<std::uint32_t>(odParseUInt(text));
+    // The size kind has no place of its own in the file.
+    m_sizeKind = kindOfPixels(m_cx);
+  } else if (name == QLatin1String("cy")) {
+    m_cy = static_cast<std::uint32_t>(odParseUInt(text));
+  } else if (name == QLatin1String("src")) {
+    m_src = text;
+  } else if (name == QLatin1String("resource")) {
+    m_resource = text;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+OdRxObjectPtr OdTcImageImpl::clone() const {
+  auto copy = odrxMake<OdTcImageImpl>();
+  copy->m_src = m_src;
+  copy->m_resource = m_resource;
+  if (m_decoded) copy->m_decoded = std::make_unique<Decoded>(*m_decoded);
+  copy->m_cx = m_cx;
+  copy->m_cy = m_cy;
+  copy->m_sizeKind = m_sizeKind;
+  copy->m_home = m_home;
+  copy->m_format = m_format;
+  return copy;
+}
+
+} // namespace tc

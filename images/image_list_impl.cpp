@@ -1,0 +1,75 @@
+#include "images/image_list_impl.h"
+
+#include "frame/system_services.h"
+#include "images/image_home.h"
+#include "images/image_impl.h"
+#include "images/picture_file.h"
+#include "module/persist_cast.h"
+#include "persistence/filer.h"
+#include "properties/owned_part.h"
+
+namespace tc {
+
+void OdTcImageListImpl::add(OdTcImage* image) {
+  if (image) m_images.push_back(adoptPart(OdTcImagePtr(image), this));
+}
+
+void OdTcImageListImpl::removeAll(bool deleteFiles) {
+  if (deleteFiles) {
+    const OdString palette = imageHomePath(database());
+    for (const OdTcImagePtr& image : m_images) {
+      const OdString path = image->isResource() ? OdString() : image->fullPath();
+      if (isBelowPalette(palette, path)) odrxSystemServices()->removeFile(path);
+    }
+  }
+  m_images.clear();
+}
+
+OdTcEnumPtr<OdTcImage> OdTcImageListImpl::enumImages() const {
+  using Enum = OdTcEnumImpl<OdTcImage, std::vector<OdTcImagePtr>>;
+  return odrxMake<Enum>(this, m_images);
+}
+
+OdTcImage* OdTcImageListImpl::findBySize(std::int32_t sizeKind) const {
+  for (const OdTcImagePtr& image : m_images)
+    if (image->sizeKind() == sizeKind) return image;
+  return nullptr;
+}
+
+bool OdTcImageListImpl::setFromFile(const OdString& path) {
+  removeAll(true);
+  for (const std::int32_t kind : {1, 3, 4}) {
+    auto image = odrxMake<OdTcImageImpl>();
+    // The owner comes first: the picture's name depends on what the palette's folder has.
+    image->setOwner(this);
+    image->setSizeKind(kind);
+    if (!image->setSrcFromFile(path)) return false;
+    m_images.push_back(image);
+  }
+  return true;
+}
+
+void OdTcImageListImpl::writeFields(OdTcFiler* filer) {
+  filer->writeAttribute(QStringLiteral("option"), OdString::number(m_options));
+  for (const OdTcImagePtr& image : m_images) filer->writeObject(image);
+}
+
+bool OdTcImageListImpl::readField(const OdString& name, const OdVariant& value) {
+  if (name == QLatin1String("Image"))
+    add(persistCast<OdTcImage>(value));
+  else if (name == QLatin1String("option"))
+    m_options = static_cast<std::uint32_t>(odParseUInt(value.toString()));
+  else
+    return false;
+  return true;
+}
+
+OdRxObjectPtr OdTcImageListImpl::clone() const {
+  auto copy = odrxMake<OdTcImageListImpl>();
+  copy->m_options = m_options;
+  copy->m_images.reserve(m_images.size());
+  for (const OdTcImagePtr& image : m_images) copy->m_images.push_back(clonePart(image, copy));
+  return copy;
+}
+
+} // namespace tc

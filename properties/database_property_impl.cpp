@@ -1,0 +1,277 @@
+#include "properties/database_property_impl.h"
+
+#include "drawing/database.h"
+#include "drawing/entity.h"
+#include "host/host_locator.h"
+#include "module/catalog_item.h"
+#include "module/persist_cast.h"
+#include "persistence/filer.h"
+#include "properties/color_value.h"
+#include "properties/owned_part.h"
+#include "properties/property_basic_info_impl.h"
+#include "properties/stored_field.h"
+
+namespace tc {
+
+/// The property as the host sees it. It has no count of its own: the property's two operations of
+/// these names give nothing back, and so cannot be the host's themselves.
+class OdTcDatabasePropertyImpl::Component final : public IKVUnknown {
+ public:
+  static constexpr KVInterfaceId kPropertyId = "OdTcDatabaseProperty";
+
+  explicit Component(OdTcDatabasePropertyImpl& property)
+    : m_property(property) {}
+
+  bool queryInterface(KVInterfaceId id, void** out) override {
+    *out = id == IKVUnknown::kId ? static_cast<void*>(static_cast<IKVUnknown*>(this))
+           : id == kPropertyId   ? static_cast<void*>(&m_property)
+                                 : nullptr;
+    if (*out) addRef();
+    return *out != nullptr;
+  }
+  unsigned long addRef() override {
+    m_property.OdRxObject::addRef();
+    return static_cast<unsigned long>(m_property.numRefs());
+  }
+  unsigned long release() override {
+    const auto left = static_cast<unsigned long>(m_property.numRefs() - 1);
+    m_property.OdRxObject::release();
+    return left;
+  }
+
+ private:
+  OdTcDatabasePropertyImpl& m_property;
+};
+
+/// What only a run or the inspector needs.
+struct OdTcDatabasePropertyImpl::Extras {
+  CurrentValue saved;
+  std::unique_ptr<Component> component;
+};
+
+OdTcDatabasePropertyImpl::OdTcDatabasePropertyImpl() = default;
+OdTcDatabasePropertyImpl::~OdTcDatabasePropertyImpl() = default;
+
+OdTcDatabasePropertyImpl::Extras& OdTcDatabasePropertyImpl::extras() {
+  if (!m_extras) m_extras = std::make_unique<Extras>();
+  return *m_extras;
+}
+
+IKVUnknown* OdTcDatabasePropertyImpl::component() {
+  Extras& more = extras();
+  if (!more.component) more.component = std::make_unique<Component>(*this);
+  return more.component.get();
+}
+
+OdTcDatabasePropertyImpl* OdTcDatabasePropertyImpl::fromComponent(IKVUnknown* component) {
+  void* found = nullptr;
+  if (!component || !component->queryInterface(Component::kPropertyId, &found)) return nullptr;
+  auto* const property = static_cast<OdTcDatabasePropertyImpl*>(found);
+  component->release();
+  return property;
+}
+
+OdString OdTcDatabasePropertyImpl::elementName() const { return staticName(kind().element); }
+
+OdString OdTcDatabasePropertyImpl::getDisplayName() const {
+  const QStringView label = kind().label;
+  return label.isEmpty() ? OdString() : host::translate(label.toString());
+}
+
+// --- records
+
+OdTcPropertyBasicInfo* OdTcDatabasePropertyImpl::getBasicInfo() const {
+  if (!m_basicInfo)
+    m_basicInfo =
+        adoptPart(OdTcPropertyBasicInfoPtr(odrxMake<OdTcPropertyBasicInfoImpl>()), self());
+  return m_basicInfo;
+}
+
+OdTcPropertyCreateInfo* OdTcDatabasePropertyImpl::getCreateInfo() const {
+  if (!m_createInfo && kind().makeCreateInfo)
+    m_createInfo = adoptPart(kind().makeCreateInfo(), self());
+  return m_createInfo;
+}
+
+OdTcPropertyCreateInfoBase* OdTcDatabasePropertyImpl::createInfo() const {
+  return static_cast<OdTcPropertyCreateInfoBase*>(m_createInfo.get());
+}
+
+OdTcRecordCreateInfo* OdTcDatabasePropertyImpl::recordInfo() const {
+  return kind().record ? static_cast<OdTcRecordCreateInfo*>(m_createInfo.get()) : nullptr;
+}
+
+void OdTcDatabasePropertyImpl::setCreateInfo(const OdTcPropertyCreateInfoPtr& info) {
+  m_createInfo = adoptPart(info, this);
+}
+
+bool OdTcDatabasePropertyImpl::hasColor() const {
+  return kind().makeCreateInfo && !kind().record && m_createInfo && !createInfo()->isEmpty();
+}
+
+OdCmColor OdTcDatabasePropertyImpl::color() const {
+  return hasColor() ? static_cast<OdTcColorPropertyCreateInfoImpl*>(m_createInfo.get())->color()
+                    : OdCmColor();
+}
+
+void OdTcDatabasePropertyImpl::setColor(const OdCmColor& color) {
+  auto info = odrxMake<OdTcColorPropertyCreateInfoImpl>();
+  info->setColor(color);
+  setCreateInfo(info);
+  getBasicInfo()->setUnspecified(false);
+}
+
+OdString OdTcDatabasePropertyImpl::text() const {
+  return m_basicInfo ? m_basicInfo->value().toString() : OdString();
+}
+
+void OdTcDatabasePropertyImpl::setText(const OdString& text) {
+  getBasicInfo()->setValue(text);
+  m_basicInfo->setUnspecified(false);
+}
+
+OdTcSymbolTableRecord* OdTcDatabasePropertyImpl::record() const {
+  return recordInfo() ? recordInfo()->record() : nullptr;
+}
+
+void OdTcDatabasePropertyImpl::takeRecord(OdDbObjectId id) {
+  const OdTcSymbolTableRecordPtr snapshot = kind().record->makeRecord();
+  snapshot->takeFrom(id);
+  const OdTcPropertyCreateInfoPtr info = kind().makeCreateInfo();
+  static_cast<OdTcRecordCreateInfo*>(info.get())->setRecord(snapshot);
+  setCreateInfo(info);
+  setText(snapshot->recordName());
+}
+
+OdDbObjectId OdTcDatabasePropertyImpl::recordIn(OdDbDatabase* database) const {
+  const RecordInfoKind* const info = kind().record;
+  if (!info) return {};
+  if (const OdTcSymbolTableRecord* const snapshot = record();
+      snapshot && !snapshot->recordName().isEmpty())
+    return ensureRecord(database, snapshot);
+  // Without a snapshot the name alone can lead to a record that the drawing has.
+  if (text().isEmpty()) return {};
+  const OdDbObjectId table = info->makeRecord()->tableId(database);
+  return table.openAs<OdDbSymbolTable>()->getAt(text());
+}
+
+// --- a run
+
+bool OdTcDatabasePropertyImpl::hasSavedValue() const {
+  return m_extras && m_extras->saved.index() != 0;
+}
+
+void OdTcDatabasePropertyImpl::applyToDatabase(OdDbDatabase* database) {
+  const GeneralPropertyKind& row = kind();
+  if (m_frozen || !database || !row.current) return;
+  if (m_basicInfo && m_basicInfo->isUnspecified()) return;
+  const CurrentValue wanted = row.wanted(*this, *database);
+  if (wanted.index() == 0) return;
+  // Only what is imposed is put back. A tool that changes the current layer with its own command
+  // shall not have that undone at its end.
+  extras().saved = row.current(*database);
+  row.setCurrent(*database, wanted);
+}
+
+void OdTcDatabasePropertyImpl::restoreToDatabase(OdDbDatabase* database) {
+  if (m_frozen || !database || !hasSavedValue()) return;
+  const CurrentValue saved = std::exchange(m_extras->saved, CurrentValue());
+  if (!m_extras->component) m_extras.reset();
+  // The record that was current can be gone by now: the drawing then keeps what it has.
+  if (const auto* const id = std::get_if<OdDbObjectId>(&saved); id && !id->isValid()) return;
+  if (const auto* const style = std::get_if<CurrentPlotStyle>(&saved);
+      style && style->type == OdDb::kPlotStyleNameById && !style->id.isValid())
+    return;
+  kind().setCurrent(*database, saved);
+}
+
+bool OdTcDatabasePropertyImpl::captureFromObject(const OdDbObject* object) {
+  const auto* const entity = odrxCast<OdDbEntity>(object);
+  if (!entity || !kind().capture) return false;
+  kind().capture(*this, *entity);
+  return true;
+}
+
+// --- an editor
+
+OdVariant OdTcDatabasePropertyImpl::getValue() const {
+  const GeneralPropertyKind& row = kind();
+  const bool usesCurrent = m_offersCurrent && m_basicInfo && m_basicInfo->isUnspecified();
+  if (row.makeCreateInfo && !row.record)
+    return colorToVariant(usesCurrent ? useCurrentColor() : color());
+  if (usesCurrent) return useCurrentText();
+  const OdTcSymbolTableRecord* const snapshot = record();
+  const OdString stored =
+      snapshot && !snapshot->recordName().isEmpty() ? snapshot->recordName() : text();
+  for (const QStringView word : row.words)
+    if (stored == word) return host::translate(stored);
+  return stored;
+}
+
+void OdTcDatabasePropertyImpl::setValue(const OdVariant& value) {
+  const GeneralPropertyKind& row = kind();
+  if (row.makeCreateInfo && !row.record) {
+    const std::optional<OdCmColor> color = colorFromVariant(value);
+    if (!color) return;
+    if (isUseCurrentColor(*color))
+      getBasicInfo()->setUnspecified(true);
+    else
+      setColor(*color);
+  } else if (const OdString text = value.toString(); text == useCurrentText()) {
+    getBasicInfo()->setUnspecified(true);
+  } else {
+    OdString stored = text;
+    for (const QStringView word : row.words)
+      if (text == host::translate(word.toString())) stored = word.toString();
+    // A snapshot of another record has nothing to say any more.
+    const OdTcSymbolTableRecord* const snapshot = record();
+    if (snapshot && snapshot->recordName() != stored) m_createInfo = nullptr;
+    setText(stored);
+  }
+  tellOwnerItem();
+}
+
+void OdTcDatabasePropertyImpl::tellOwnerItem() {
+  for (OdTcPersist* above = owner(); above; above = above->owner()) {
+    if (auto* const item = dynamic_cast<OdTcCatalogItem*>(above)) {
+      item->setModified();
+      return;
+    }
+    if (above == above->owner()) return;
+  }
+}
+
+// --- files
+
+void OdTcDatabasePropertyImpl::writeFields(OdTcFiler* filer) {
+  // A property that nobody touched does not get records for good just because it is written.
+  filer->writeObject(m_basicInfo ? m_basicInfo
+                                 : OdTcPropertyBasicInfoPtr(odrxMake<OdTcPropertyBasicInfoImpl>()));
+  if (m_createInfo && !createInfo()->isEmpty()) filer->writeObject(m_createInfo);
+}
+
+bool OdTcDatabasePropertyImpl::readField(const OdString& name, const OdVariant& value) {
+  const GeneralPropertyKind& row = kind();
+  if (name == QLatin1String("BasicPropInfo")) {
+    m_basicInfo = adoptPart(persistCast<OdTcPropertyBasicInfo>(value), this);
+    return true;
+  }
+  if (!row.makeCreateInfo || !value.isObject()) return false;
+  // The element has the name of its class in our files, and a common one in those of others.
+  const QStringView own = row.record ? row.record->element : QStringView(u"ColorCreateInfo");
+  if (name != own && name != QLatin1String("CreateInfo")) return false;
+  auto* const info = dynamic_cast<OdTcPropertyCreateInfoBase*>(value.object());
+  if (!info || info->elementName() != own)
+    throw OdError_NotThatKindOfClass(info ? info->elementName() : name, own.toString());
+  setCreateInfo(OdTcPropertyCreateInfoPtr(info));
+  return true;
+}
+
+void OdTcDatabasePropertyImpl::copyTo(OdTcDatabasePropertyImpl& copy) const {
+  copy.m_basicInfo = clonePart(m_basicInfo, &copy);
+  copy.m_createInfo = clonePart(m_createInfo, &copy);
+  copy.m_offersCurrent = m_offersCurrent;
+  copy.m_frozen = m_frozen;
+}
+
+} // namespace tc
