@@ -1,0 +1,24 @@
+// Putting new entities into the drawing as its current values say.
+#pragma once
+
+#include "drawing/database.h"
+
+namespace drafton {
+
+/// The block into which commands draw: the model space, or the paper space while a layout is shown.
+OdDbObjectId currentSpaceId(const OdDbDatabase& database);
+
+/// Appends an entity that has its properties already.
+OdDbObjectId addToCurrentSpace(OdDbDatabase& database, OdDbEntity& entity);
+
+/// Appends an entity with the current layer, colour and so on.
+OdDbObjectId addNewEntity(OdDbDatabase& database, OdDbEntity& entity);
+
+/// As addNewEntity, for entities that stand up by the current thickness.
+template <class Entity>
+OdDbObjectId addNewThickEntity(OdDbDatabase& database, Entity& entity) {
+  entity.setThickness(database.sysVarReal("THICKNESS"));
+  return addNewEntity(database, entity);
+}
+
+} // namespace drafton
