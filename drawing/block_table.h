@@ -43,15 +43,13 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   /// The objects that stand around the entities in files, with their own handles.
   OdDbObjectId blockBeginId() const { return m_block.begin; }
   OdDbObjectId blockEndId() const { return m_block.end; }
+  /// Sets these two, once, when the block gets into its drawing.
+  void setBounds(OdDbObjectId begin, OdDbObjectId end);
+  /// Makes those of the two that are missing.
+  void ensureBounds();
+  /// Takes over what was read with the beginning of the block.
+  void takeBegin(const OdDbBlockTableRecord& read);
 
- protected:
-  void dxfOutFields(OdDbDxfOut& out) const override;
-
- private:
-  friend class OdDbDatabase;
-  friend class OdDbUndo;
-  friend class OdDbBlockBegin;
-  friend class OdDbDxfBlocks;
   struct Data {
     OdGePoint3d origin;
     OdString comments, xrefPath;
@@ -59,6 +57,17 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
     int units = 0;
     int blockFlags = 0;
   };
+  /// What stands with the beginning of the block in files.
+  bool dxfInBegin(const OdDbDxfTag& tag, OdDbDxfIn& in);
+  void dxfOutBegin(OdDbDxfOut& out) const;
+
+ protected:
+  void dxfOutFields(OdDbDxfOut& out) const override;
+  void enteredDatabase() override;
+
+ private:
+  friend class OdDbDatabase;
+  friend class OdDbUndo;
   Data m_block;
   std::vector<OdDbObjectId> m_entities;
 };

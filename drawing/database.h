@@ -120,15 +120,14 @@ class OdDbDatabase : public OdRxObject {
   void setCurrentTextStyle(OdDbObjectId style);
   OdDbObjectId currentDimStyle() const;
   void setCurrentDimStyle(OdDbObjectId style);
-  /// Loads the variables of a dimension style into the drawing's own.
-  void setDimstyleData(OdDbObjectId style);
 
   // --- undo (drawing/undo.cpp)
 
   /// Starts a step. Everything that changes until the next mark is undone at once. A step in which
   /// nothing changes leaves no trace. The first change behind an undo forgets what could be redone.
   void startUndoRecord(const OdString& name);
-  /// Without a mark nothing is kept for undo; this stops keeping until the next mark.
+  /// Ends the step. Before the first mark nothing is kept for undo; changes between steps are a
+  /// step without a name.
   void endUndoRecord();
   bool hasUndo() const;
   bool hasRedo() const;

@@ -7,7 +7,14 @@
 
 /// Objects by name. Names are compared exactly.
 class OdDbDictionary : public OdDbObject {
-  ODDB_CONCRETE(OdDbDictionary, "DICTIONARY")
+  ODRX_DECLARE_MEMBERS(OdDbDictionary);
+
+ public:
+  OdDbDictionary();
+  /// `withDefault` makes the class that answers unknown names with an object of its own.
+  explicit OdDbDictionary(bool withDefault);
+  const char* dxfName() const override;
+  void assignFrom(const OdDbObject& other) override;
 
   struct Entry {
     OdString name;
@@ -26,11 +33,31 @@ class OdDbDictionary : public OdDbObject {
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
 
+ protected:
+  OdDbObjectPtr newInstance() const override;
+
  private:
   std::vector<Entry> m_entries;
-  int m_hardOwner = -1, m_cloning = 1;
+  bool m_withDefault = false;
+  int m_hardOwner = -1, m_cloning = -1; ///< -1: not in the file
   // The code of the entries' references: 350 soft, 360 hard.
   int m_entryCode = 350;
   OdString m_pendingName;
 };
 using OdDbDictionaryPtr = OdSmartPtr<OdDbDictionary>;
+
+/// A text under a name: the place of variables that came after the header's.
+class OdDbDictionaryVar : public OdDbObject {
+  ODDB_CONCRETE(OdDbDictionaryVar, "DICTIONARYVAR")
+
+  const OdString& value() const { return m_value; }
+  void setValue(const OdString& value);
+
+  bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
+  void dxfOut(OdDbDxfOut& out) const override;
+
+ private:
+  int m_schema = 0;
+  OdString m_value;
+};
+using OdDbDictionaryVarPtr = OdSmartPtr<OdDbDictionaryVar>;

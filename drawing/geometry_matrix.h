@@ -30,7 +30,9 @@ class OdGeMatrix3d {
   OdGeMatrix3d operator*(const OdGeMatrix3d& first) const;
   OdGePoint3d operator*(const OdGePoint3d& p) const;
   OdGeVector3d operator*(const OdGeVector3d& v) const;
-  double operator()(int row, int column) const { return m_rows[row][column]; }
+  double operator()(int row, int column) const {
+    return m_rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+  }
 
   double det() const;
   /// Raises OdError(eInvalidInput) for a transformation that cannot be undone.

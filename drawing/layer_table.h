@@ -37,9 +37,9 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
 
  protected:
   void dxfOutFields(OdDbDxfOut& out) const override;
+  void enteredDatabase() override;
 
  private:
-  friend class OdDbDatabase;
   struct Data {
     OdCmColor color = OdCmColor::fromColorIndex(OdCmColor::kACIforeground);
     OdDbObjectId linetype, plotStyle;

@@ -55,7 +55,7 @@ class OdDbLinetypeTableRecord : public OdDbSymbolTableRecord {
     OdString text;
     std::uint16_t shapeNumber = 0;
     bool ucsOriented = false;
-    int extraFlags = 0;
+    std::uint8_t typeBits = 0; ///< as the file has them
   };
   struct Data {
     OdString comments;

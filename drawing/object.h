@@ -54,6 +54,8 @@ class OdDbObject : public OdRxObject {
   virtual void dxfInEnd(OdDbDxfIn&) {}
   /// Writes the object behind its handle and owner: subclass by subclass.
   virtual void dxfOut(OdDbDxfOut& out) const;
+  /// Writes the extended data that the class understands.
+  virtual void dxfOutXData(OdDbDxfOut&) const {}
   /// Tags of the object that nobody understood, or null.
   const OdDbDxfResidue* residue() const { return m_residue.get(); }
   OdDbDxfResidue& editResidue();
@@ -63,6 +65,8 @@ class OdDbObject : public OdRxObject {
   ~OdDbObject() override;
   /// Called first by every setter: checks that the object may be changed and keeps its state.
   void assertWriteEnabled();
+  /// Called when a new object was put into a drawing by a program, not by a file.
+  virtual void enteredDatabase() {}
   /// A fresh object of the same class.
   virtual OdDbObjectPtr newInstance() const = 0;
 

@@ -3,6 +3,8 @@
 
 #include "drawing/entity.h"
 
+#include <vector>
+
 /// An object that is kept and written back as the file had it.
 class OdDbRawObject : public OdDbObject {
   ODRX_DECLARE_MEMBERS(OdDbRawObject);
@@ -34,6 +36,11 @@ class OdDbRawEntity : public OdDbEntity {
 
   const char* dxfName() const override { return m_name.constData(); }
   void assignFrom(const OdDbObject& other) override;
+  /// Raises OdError(eNotApplicable): what such an entity refers to cannot be told.
+  OdRxObjectPtr clone() const override;
+  /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
+  const std::vector<OdDbObjectId>& followers() const { return m_followers; }
+  void addFollower(OdDbObjectId id) { m_followers.push_back(id); }
   /// Unknown: false.
   bool getGeomExtents(OdGeExtents3d& extents) const override;
   /// Not possible: false.
@@ -44,4 +51,5 @@ class OdDbRawEntity : public OdDbEntity {
 
  private:
   QByteArray m_name;
+  std::vector<OdDbObjectId> m_followers;
 };

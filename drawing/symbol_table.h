@@ -32,8 +32,8 @@ class OdDbSymbolTableRecord : public OdDbObject {
   OdDbSymbolTableRecord();
   void setFlag(int bit, bool on);
   bool hasFlag(int bit) const { return m_flags & bit; }
-  /// Writes the fields behind name and flags.
-  virtual void dxfOutFields(OdDbDxfOut&) const {}
+  /// Writes the fields behind the name; the flags here.
+  virtual void dxfOutFields(OdDbDxfOut& out) const;
 
  private:
   OdString m_name;
@@ -74,9 +74,9 @@ class OdDbSymbolTable : public OdDbObject {
  private:
   friend class OdDbDatabase;
   friend class OdDbSymbolTableRecord;
+  friend class OdDbObject;
   friend class OdDbUndo;
   void attach(OdDbObjectId id);
-  void detachLast();
   void renamed() { m_indexed = false; }
 
   std::vector<OdDbObjectId> m_records;

@@ -48,6 +48,7 @@ class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
   const char* dxfSubclass() const override { return "AcDbTextStyleTableRecord"; }
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
+  void dxfOutXData(OdDbDxfOut& out) const override;
 
  protected:
   void dxfOutFields(OdDbDxfOut& out) const override;
@@ -60,6 +61,7 @@ class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
     OdDbFontDescriptor font;
   };
   Data m_style;
+  bool m_inFontData = false; ///< while reading
 };
 
 /// The drawing's text styles.

@@ -1,0 +1,72 @@
+// The classes of the drawing database, and their registration.
+#include "drawing/arc.h"
+#include "drawing/circle.h"
+#include "drawing/database.h"
+#include "drawing/line.h"
+#include "drawing/polyline.h"
+#include "drawing/raw_object.h"
+#include "drawing/text.h"
+
+#define CLASS(Class, Parent) ODRX_DEFINE_MEMBERS(Class, Parent, #Class)
+
+CLASS(OdDbObject, OdRxObject);
+CLASS(OdDbEntity, OdDbObject);
+CLASS(OdDbLine, OdDbEntity);
+CLASS(OdDbCircle, OdDbEntity);
+CLASS(OdDbArc, OdDbEntity);
+CLASS(OdDbPolyline, OdDbEntity);
+CLASS(OdDbText, OdDbEntity);
+CLASS(OdDbRawEntity, OdDbEntity);
+CLASS(OdDbRawObject, OdDbObject);
+CLASS(OdDbDictionary, OdDbObject);
+CLASS(OdDbDictionaryVar, OdDbObject);
+CLASS(OdDbSymbolTableRecord, OdDbObject);
+CLASS(OdDbLayerTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbLinetypeTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbTextStyleTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbDimStyleTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbBlockTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbViewTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbViewportTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbUCSTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbRegAppTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbSymbolTable, OdDbObject);
+CLASS(OdDbLayerTable, OdDbSymbolTable);
+CLASS(OdDbLinetypeTable, OdDbSymbolTable);
+CLASS(OdDbTextStyleTable, OdDbSymbolTable);
+CLASS(OdDbDimStyleTable, OdDbSymbolTable);
+CLASS(OdDbBlockTable, OdDbSymbolTable);
+CLASS(OdDbViewTable, OdDbSymbolTable);
+CLASS(OdDbViewportTable, OdDbSymbolTable);
+CLASS(OdDbUCSTable, OdDbSymbolTable);
+CLASS(OdDbRegAppTable, OdDbSymbolTable);
+CLASS(OdDbDatabase, OdRxObject);
+
+#undef CLASS
+
+namespace {
+
+template <class Class>
+void add() {
+  if constexpr (!std::is_abstract_v<Class>) Class::s_factory = odrxFactory<Class>;
+  Class::rxInit();
+}
+
+template <class... Classes>
+void addAll() {
+  (add<Classes>(), ...);
+}
+
+/// Registers the classes when the library is loaded, bases before what derives from them.
+const bool g_registered = [] {
+  addAll<OdDbObject, OdDbEntity, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline, OdDbText,
+         OdDbRawEntity, OdDbRawObject, OdDbDictionary, OdDbDictionaryVar, OdDbSymbolTableRecord,
+         OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbTextStyleTableRecord,
+         OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbViewTableRecord,
+         OdDbViewportTableRecord, OdDbUCSTableRecord, OdDbRegAppTableRecord, OdDbSymbolTable,
+         OdDbLayerTable, OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable, OdDbBlockTable,
+         OdDbViewTable, OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable, OdDbDatabase>();
+  return true;
+}();
+
+} // namespace

@@ -1,0 +1,182 @@
+#include "drawing/database_data.h"
+
+OdDbStub& OdDbDatabaseData::stubFor(OdDbDatabase& database, OdDbHandle handle) {
+  OdDbStub*& entry = byHandle[handle];
+  if (!entry) {
+    entry = &stubs.emplace_back();
+    entry->handle = handle;
+    entry->database = &database;
+  }
+  return *entry;
+}
+
+void OdDbDatabaseData::noteChange(OdDbStub& stub) {
+  modified = true;
+  if (stub.changePending || reactors.empty()) return;
+  stub.changePending = true;
+  changed.push_back(&stub);
+}
+
+OdDbDatabase::OdDbDatabase()
+  : m_data(std::make_unique<OdDbDatabaseData>(*this)) {
+  m_data->vars.resize(oddbHeaderVars().size());
+  m_data->varPresent.resize(oddbHeaderVars().size());
+}
+
+OdDbDatabase::~OdDbDatabase() {
+  m_data->tell([&](OdDbDatabaseReactor& r) { r.goodbye(*this); });
+  m_data->undo.clear();
+  // Whoever still holds an object keeps it, but it belongs to no drawing any more.
+  for (OdDbStub& stub : m_data->stubs) {
+    if (!stub.object) continue;
+    stub.object->m_stub = nullptr;
+    stub.object->m_owner = {};
+    stub.object = nullptr;
+  }
+}
+
+OdDbObjectId OdDbDatabase::addObject(OdDbObject* object, OdDbObjectId owner, OdDbHandle handle) {
+  if (object->m_stub)
+    throw OdDbError(eAlreadyInDatabase,
+                    QStringLiteral("%1 %2 is in a drawing already")
+                        .arg(QLatin1String(object->dxfName()), object->handle().ascii()));
+  OdDbDatabaseData& d = *m_data;
+  d.undo.willAppend();
+  const bool isNew = handle.isNull();
+  if (isNew) {
+    // References to nothing may stand under handles that the file never gave out.
+    while (d.byHandle.contains(d.handseed)) ++d.handseed;
+    handle = d.handseed++;
+  } else if (handle >= d.handseed) {
+    d.handseed = handle + 1;
+  }
+  OdDbStub& stub = d.stubFor(*this, handle);
+  stub.object = object;
+  stub.writeEnabled = true;
+  object->m_stub = &stub;
+  object->m_owner = owner;
+  const OdDbObjectId id(&stub);
+  const OdDbObject* const container = owner.stub() ? owner.stub()->object.get() : nullptr;
+  if (auto* block = odrxCast<OdDbBlockTableRecord>(container)) {
+    // The bounds of a block come to its drawing before or after its entities, outside of the list.
+    if (std::string_view(object->dxfName()) != "BLOCK" &&
+        std::string_view(object->dxfName()) != "ENDBLK")
+      block->m_entities.push_back(id);
+  } else if (auto* table = odrxCast<OdDbSymbolTable>(container)) {
+    table->attach(id);
+  } else if (!odrxCast<OdDbEntity>(object) && !odrxCast<OdDbSymbolTable>(object)) {
+    d.objects.push_back(id);
+  }
+  d.modified = true;
+  d.undo.appended(stub);
+  if (isNew) object->enteredDatabase();
+  d.tell([&](OdDbDatabaseReactor& r) { r.objectAppended(*this, id); });
+  return id;
+}
+
+const OdString& OdDbDatabase::fileName() const { return m_data->fileName; }
+void OdDbDatabase::setFileName(const OdString& path) { m_data->fileName = path; }
+const QStringList& OdDbDatabase::unknownContent() const { return m_data->unknownContent; }
+const QStringList& OdDbDatabase::readNotes() const { return m_data->readNotes; }
+OdDb::DwgVersion OdDbDatabase::originalFileVersion() const { return m_data->version; }
+bool OdDbDatabase::isModified() const { return m_data->modified; }
+void OdDbDatabase::setSaved() { m_data->modified = false; }
+
+using Data = OdDbDatabaseData;
+OdDbObjectId OdDbDatabase::getBlockTableId() const { return m_data->tables[Data::kBlocks]; }
+OdDbObjectId OdDbDatabase::getLayerTableId() const { return m_data->tables[Data::kLayers]; }
+OdDbObjectId OdDbDatabase::getLinetypeTableId() const { return m_data->tables[Data::kLinetypes]; }
+OdDbObjectId OdDbDatabase::getTextStyleTableId() const { return m_data->tables[Data::kTextStyles]; }
+OdDbObjectId OdDbDatabase::getDimStyleTableId() const { return m_data->tables[Data::kDimStyles]; }
+OdDbObjectId OdDbDatabase::getViewTableId() const { return m_data->tables[Data::kViews]; }
+OdDbObjectId OdDbDatabase::getViewportTableId() const { return m_data->tables[Data::kViewports]; }
+OdDbObjectId OdDbDatabase::getUCSTableId() const { return m_data->tables[Data::kUcss]; }
+OdDbObjectId OdDbDatabase::getRegAppTableId() const { return m_data->tables[Data::kRegApps]; }
+OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const { return m_data->rootDictionary; }
+OdDbObjectId OdDbDatabase::getModelSpaceId() const { return m_data->modelSpace; }
+OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return m_data->paperSpace; }
+OdDbObjectId OdDbDatabase::getLayerZeroId() const { return m_data->layerZero; }
+OdDbObjectId OdDbDatabase::getLinetypeByLayerId() const { return m_data->byLayer; }
+OdDbObjectId OdDbDatabase::getLinetypeByBlockId() const { return m_data->byBlock; }
+OdDbObjectId OdDbDatabase::getLinetypeContinuousId() const { return m_data->continuous; }
+
+OdDbObjectId OdDbDatabase::getPlotStyleNameDictionaryId() const {
+  const OdDbDictionaryPtr root = m_data->rootDictionary.openObject();
+  return root ? root->getAt(QStringLiteral("ACAD_PLOTSTYLENAME")) : OdDbObjectId();
+}
+
+OdDbObjectId OdDbDatabase::getOdDbObjectId(OdDbHandle handle) const {
+  const auto at = m_data->byHandle.constFind(handle);
+  return at != m_data->byHandle.cend() && at.value()->object ? OdDbObjectId(at.value())
+                                                             : OdDbObjectId();
+}
+
+std::size_t OdDbDatabase::approxNumObjects() const {
+  return static_cast<std::size_t>(
+      std::count_if(m_data->stubs.begin(), m_data->stubs.end(),
+                    [](const OdDbStub& stub) { return stub.object && !stub.erased; }));
+}
+
+OdDbHandle OdDbDatabase::handseed() const { return m_data->handseed; }
+
+OdGeExtents3d OdDbDatabase::extents() const {
+  return getModelSpaceId().openAs<OdDbBlockTableRecord>()->extents();
+}
+
+void OdDbDatabase::startUndoRecord(const OdString& name) {
+  deliverChanges();
+  m_data->undo.start(name);
+}
+
+void OdDbDatabase::endUndoRecord() {
+  deliverChanges();
+  m_data->undo.end();
+}
+
+bool OdDbDatabase::hasUndo() const { return m_data->undo.undoName(); }
+bool OdDbDatabase::hasRedo() const { return m_data->undo.redoName(); }
+
+OdString OdDbDatabase::undoName() const {
+  const OdString* name = m_data->undo.undoName();
+  return name ? *name : OdString();
+}
+
+OdString OdDbDatabase::redoName() const {
+  const OdString* name = m_data->undo.redoName();
+  return name ? *name : OdString();
+}
+
+std::size_t OdDbDatabase::undoDepth() const { return m_data->undo.depth(); }
+
+bool OdDbDatabase::undo() {
+  const bool done = m_data->undo.undo();
+  deliverChanges();
+  return done;
+}
+
+bool OdDbDatabase::redo() {
+  const bool done = m_data->undo.redo();
+  deliverChanges();
+  return done;
+}
+
+void OdDbDatabase::abandonUndoRecord() {
+  m_data->undo.abandon();
+  deliverChanges();
+}
+
+void OdDbDatabase::clearUndo() { m_data->undo.clear(); }
+
+void OdDbDatabase::addReactor(OdDbDatabaseReactor* reactor) { m_data->reactors.push_back(reactor); }
+
+void OdDbDatabase::removeReactor(OdDbDatabaseReactor* reactor) {
+  std::erase(m_data->reactors, reactor);
+}
+
+void OdDbDatabase::deliverChanges() {
+  for (OdDbStub* stub : std::exchange(m_data->changed, {})) {
+    stub->changePending = false;
+    if (stub->object && !stub->erased)
+      m_data->tell([&](OdDbDatabaseReactor& r) { r.objectModified(*this, OdDbObjectId(stub)); });
+  }
+}

@@ -1,0 +1,23 @@
+// Texts and code pages of files.
+#pragma once
+
+#include "frame/string.h"
+
+#include <QByteArray>
+
+#include <string_view>
+
+namespace oddxf {
+
+/// The name under which the platform knows a code page of $DWGCODEPAGE ("ANSI_1252").
+QByteArray encodingOf(std::string_view codePage);
+/// Turns \U+XXXX, by which older files tell characters outside of their code page, into these.
+OdString withoutEscapes(const OdString& text);
+/// Control characters as ^J and the like, since a line break would end the value.
+OdString oneLine(const OdString& text);
+/// Adds a tag as the lines that the writer writes.
+void addLines(QByteArray& lines, int code, std::string_view value);
+/// Adds the line of a group code.
+void addCode(QByteArray& lines, int code);
+
+} // namespace oddxf

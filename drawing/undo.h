@@ -1,0 +1,76 @@
+// The steps that can be taken back. Not for use outside of the library.
+#pragma once
+
+#include "drawing/header_vars.h"
+#include "drawing/stub.h"
+
+#include <vector>
+
+/// Keeps what changes were made in each step, and plays them backwards and forwards.
+///
+/// A change holds the state on the other side of itself: playing it exchanges that state with the
+/// drawing's, so that the same change serves undo and redo.
+class OdDbUndo {
+ public:
+  explicit OdDbUndo(OdDbDatabase& database)
+    : m_database(database) {}
+
+  void start(const OdString& name);
+  void end();
+  bool undo();
+  bool redo();
+  void abandon();
+  void clear();
+  const OdString* undoName() const;
+  const OdString* redoName() const;
+  std::size_t depth() const;
+
+  /// Called before an object's data change.
+  void willModify(OdDbStub& stub);
+  /// Called before a new object gets its handle.
+  void willAppend();
+  /// Called when a new object is in the drawing and in its container.
+  void appended(OdDbStub& stub);
+  void willErase(OdDbStub& stub);
+  void willSetVar(int index);
+
+ private:
+  struct Modified {
+    OdDbStub* stub;
+    OdDbObjectPtr state;
+  };
+  struct Appended {
+    OdDbStub* stub;
+    OdDbObjectPtr detached; ///< the object while the step is undone
+    bool listed = false;    ///< it stood in the list of its container
+  };
+  struct Erased {
+    OdDbStub* stub;
+  };
+  struct VarSet {
+    int index;
+    OdDbVarValue value;
+    bool present;
+  };
+  using Change = std::variant<Modified, Appended, Erased, VarSet>;
+  struct Step {
+    OdString name;
+    std::uint64_t handseed;
+    std::vector<Change> changes;
+  };
+
+  Step* step();
+  void play(Step& step, bool backwards);
+  void play(Modified& change, bool backwards);
+  void play(Appended& change, bool backwards);
+  void play(Erased& change, bool backwards);
+  void play(VarSet& change, bool backwards);
+
+  OdDbDatabase& m_database;
+  std::vector<Step> m_done, m_undone;
+  OdString m_nextName;
+  // Numbers of steps are never used twice, so that an object's stamp cannot be mistaken.
+  std::uint32_t m_stamp = 0;
+  bool m_enabled = false;
+  bool m_open = false;
+};
