@@ -97,7 +97,7 @@ bool OdTcDocumentScanner::scan() {
     if (m_at == m_end || *m_at != '<') break;
     if (!scanMarkup()) return false;
   }
-  if (!m_hasElement) return fail(m_at, tr(QStringLiteral("this is no XML: there is no element")));
+  if (m_deepest == 0) return fail(m_at, tr(QStringLiteral("this is no XML: there is no element")));
   bool said = false;
   if (m_at != m_end)
     remark(m_at, said, tr(QStringLiteral("the text that follows the last element is left out")));
@@ -185,7 +185,7 @@ bool OdTcDocumentScanner::scanElement() {
   if (m_open.size() >= static_cast<std::size_t>(kMaxElementDepth))
     return fail(m_at,
                 tr(QStringLiteral("elements are nested more than %1 deep")).arg(kMaxElementDepth));
-  m_hasElement = true;
+  m_deepest = std::max(m_deepest, static_cast<int>(m_open.size()) + 1);
   ++m_at;
   return scanAttributes(scanName());
 }

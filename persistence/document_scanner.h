@@ -24,6 +24,8 @@ class OdTcDocumentScanner {
   bool scan();
   const OdString& failure() const { return m_failure; }
   qsizetype failedAt() const { return m_failedAt; }
+  /// How many elements stood in one another at most.
+  int deepest() const { return m_deepest; }
   /// At most one of each kind: the first.
   const std::vector<Remark>& remarks() const { return m_remarks; }
   /// The text with its references put right and without what follows the last element.
@@ -56,7 +58,7 @@ class OdTcDocumentScanner {
   const char* const m_end;
   const char* m_at;
   std::vector<std::string_view> m_open;
-  bool m_hasElement = false;
+  int m_deepest = 0;
 
   // The mended text, as far as there was anything to mend; the rest is copied at the end.
   QByteArray m_mended;

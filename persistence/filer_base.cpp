@@ -53,6 +53,17 @@ OdString textOf(const TiXmlElement& element) {
   return text;
 }
 
+/// `utf8` so that the printer gives it back as it is. Some builds of the library let references in
+/// a text pass, others escape every ampersand.
+std::string guardedForPrinter(std::string utf8) {
+  static const bool passesReferences = [] {
+    std::string printed;
+    TiXmlBase::EncodeString("&#x41;", &printed);
+    return printed == "&#x41;";
+  }();
+  return passesReferences ? withReferencesEscaped(std::move(utf8)) : utf8;
+}
+
 bool hasAttributes(const TiXmlElement& element) { return element.FirstAttribute() != nullptr; }
 
 /// The node that a walk in document order meets next; null at the end.

@@ -56,10 +56,16 @@ std::string toUtf8(const OdString& text) {
 }
 
 OdString fromUtf8(const std::string& bytes) {
-  return OdString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  std::string_view rest = bytes;
+  // Qt takes a byte-order mark for the beginning of a file, but in a text it is a character.
+  qsizetype marks = 0;
+  for (; rest.starts_with(kMark); ++marks) rest.remove_prefix(kMark.size());
+  const auto text = OdString::fromUtf8(rest.data(), static_cast<qsizetype>(rest.size()));
+  return marks == 0 ? text : OdString(marks, QChar(QChar::ByteOrderMark)) + text;
 }
 
-std::string guardedForPrinter(std::string utf8) {
+std::string withReferencesEscaped(std::string utf8) {
   constexpr std::string_view kReference = "&#x";
   constexpr std::string_view kGuarded = "&#x26;#x";
   std::size_t at = utf8.find(kReference);

@@ -19,9 +19,9 @@ OdString valueText(const OdVariant& value, OdTcNumberForm form);
 std::string toUtf8(const OdString& text);
 OdString fromUtf8(const std::string& bytes);
 
-/// `utf8` so that the printer gives it back as it is: the printer takes "&#x" in a text for a
-/// reference that somebody has written on purpose and leaves it alone.
-std::string guardedForPrinter(std::string utf8);
+/// `utf8` with each "&#x" written as a reference, for a printer that takes it for a reference which
+/// somebody has written on purpose and leaves it alone.
+std::string withReferencesEscaped(std::string utf8);
 
 /// True if the parser would take the text for white space between elements and forget it.
 bool isLostOnParsing(const std::string& utf8);

@@ -1,0 +1,268 @@
+#include "persistence/stored_record.h"
+#include "support/test_host.h"
+
+#include <gtest/gtest.h>
+
+using namespace tc;
+using namespace tc::test;
+
+namespace {
+
+std::string catalogLog(const char* content) {
+  const Reading reading = readCatalog(QByteArray("<Catalog>") + content + "</Catalog>");
+  return reading.isRead ? reading.root->log().toStdString() : "not read";
+}
+
+std::string paletteLog(const char* content) {
+  const Reading reading = readPalette(QByteArray("<Palette>") + content + "</Palette>");
+  return reading.isRead ? reading.root->log().toStdString() : "not read";
+}
+
+class FilerReading : public testing::Test {
+ protected:
+  void SetUp() override { testhost::host().reset(); }
+};
+
+TEST_F(FilerReading, LeavesTheRootsOwnAttributesAlone) {
+  const Reading reading =
+      readCatalog("<Catalog Revision=\"9.0\" option=\"4\"><ItemID idValue=\"x\"/></Catalog>");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_EQ(reading.root->log(), QStringLiteral("idValue=x"));
+}
+
+TEST_F(FilerReading, DeliversAttributesAndTextOfOneElementTogether) {
+  EXPECT_EQ(catalogLog("<Url href=\"a\">text</Url>"), "Url=text href=a");
+}
+
+TEST_F(FilerReading, ReadsOnlyTheAttributesOfAnObjectsElement) {
+  EXPECT_EQ(catalogLog("<Box b=\"2\">text</Box>"), "Box{b=2}");
+}
+
+TEST_F(FilerReading, DeliversAttributesInAscendingOrderOfName) {
+  EXPECT_EQ(catalogLog("<V b=\"2\" c=\"3\" B=\"1\" a=\"0\"/>"), "B=1 a=0 b=2 c=3");
+  EXPECT_EQ(catalogLog("<Box b=\"2\" c=\"3\" a=\"1\"/>"), "Box{a=1 b=2 c=3}");
+}
+
+TEST_F(FilerReading, PassesRepeatedElementsOneAtATime) {
+  EXPECT_EQ(catalogLog("<ID>a</ID><ID>b</ID><ID>a</ID>"), "ID=a ID=b ID=a");
+}
+
+TEST_F(FilerReading, EndsAtAnEmptyElementWithoutClass) {
+  EXPECT_EQ(catalogLog("<ID>a</ID><Empty/><ID>b</ID>"), "ID=a");
+  EXPECT_EQ(catalogLog("<ID>a</ID><Empty></Empty><ID>b</ID>"), "ID=a");
+  EXPECT_EQ(catalogLog("<ID>a</ID><Empty><ID>inner</ID></Empty><ID>b</ID>"), "ID=a");
+}
+
+TEST_F(FilerReading, EndsOnlyTheParentOfAnEmptyElement) {
+  EXPECT_EQ(catalogLog("<Box><ID>a</ID><Empty/><ID>lost</ID></Box><ID>b</ID>"), "Box{ID=a} ID=b");
+}
+
+TEST_F(FilerReading, GoesOnAfterAnEmptyElementWithClass) {
+  EXPECT_EQ(catalogLog("<Box/><ID>b</ID>"), "Box{} ID=b");
+}
+
+TEST_F(FilerReading, ReadsEverySiblingAfterAnObject) {
+  EXPECT_EQ(catalogLog("<Box><Node n=\"1\"/><Node n=\"2\"/></Box><Box/><ID>x</ID>"),
+            "Box{Node{n=1} Node{n=2}} Box{} ID=x");
+}
+
+TEST_F(FilerReading, TellsElementNamesApartByCase) {
+  EXPECT_EQ(catalogLog("<box>b</box><Box/>"), "box=b Box{}");
+}
+
+TEST_F(FilerReading, PassesOverUnknownSubtreesWithText) {
+  EXPECT_EQ(catalogLog("<Big>t<Box><Node/></Box></Big><ID>x</ID>"), "Big=t ID=x");
+}
+
+TEST_F(FilerReading, KeepsWhiteSpaceInTexts) {
+  EXPECT_EQ(catalogLog("<T>  a \n\t b  </T>"), "T=  a \n\t b  ");
+  EXPECT_EQ(catalogLog("<T v=\"  a \n b \"/>"), "v=  a \n b ");
+}
+
+TEST_F(FilerReading, JoinsATextThatCommentsAndSectionsPart) {
+  EXPECT_EQ(catalogLog("<T><!-- c -->a<![CDATA[<b>]]>c<!-- d --></T>"), "T=a<b>c");
+}
+
+TEST_F(FilerReading, ReadsAFileWithDeclarationCommentAndDoctypeAlike) {
+  const Reading reading = readCatalog("\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n"
+                                      "<!DOCTYPE Catalog>\r\n<!-- made by hand -->\r\n"
+                                      "<Catalog><ID>x</ID></Catalog>\r\n");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_EQ(reading.problem, OdString());
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=x"));
+}
+
+TEST_F(FilerReading, FindsTheFirstCatalogDepthFirst) {
+  const Reading reading = readCatalog("<A><B><C/></B><D><Catalog><ID>1</ID></Catalog></D>"
+                                      "<Catalog><ID>2</ID></Catalog></A>");
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=1"));
+}
+
+TEST_F(FilerReading, FindsACatalogBehindTheFirstRoot) {
+  const Reading reading = readCatalog("<A><B/></A><Catalog><ID>2</ID></Catalog>");
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=2"));
+}
+
+TEST_F(FilerReading, FailsWithoutACatalog) {
+  const Reading reading = readCatalog("<catalog><ID>1</ID></catalog>");
+  EXPECT_FALSE(reading.isRead);
+  EXPECT_EQ(reading.problem, QStringLiteral("it holds no catalog"));
+  EXPECT_TRUE(reading.root->fields.empty());
+}
+
+TEST_F(FilerReading, ReadsACatalogWithoutChildren) {
+  EXPECT_EQ(catalogLog(""), "");
+  EXPECT_TRUE(readCatalog("<Catalog/>").isRead);
+}
+
+TEST_F(FilerReading, SetsTheOwnerBeforeAnObjectIsRead) {
+  const Reading reading = readCatalog("<Catalog><Box><Node/></Box></Catalog>");
+  Record* const box = reading.root->child(QStringLiteral("Box"));
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->owner(), reading.root.get());
+  EXPECT_EQ(box->child(QStringLiteral("Node"))->owner(), box);
+}
+
+TEST_F(FilerReading, RequiresADatabaseAsRootOfAPalette) {
+  useRecords();
+  const auto stream = odrxMake<OdMemoryStream>(QByteArray("<Palette><ID>1</ID></Palette>"));
+  EXPECT_THROW(makePaletteFiler()->openPalette(stream, odrxMake<Record>(), false),
+               OdError_NotThatKindOfClass);
+}
+
+TEST_F(FilerReading, ReadsAPlainPaletteInOnePass) {
+  const Reading reading = readPalette("<Palette><ID>1</ID><Tool t=\"1\"/></Palette>");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_FALSE(reading.isConverted);
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=1 Tool{t=1}"));
+  EXPECT_TRUE(testhost::host().log.isEmpty());
+}
+
+TEST_F(FilerReading, NeverMakesALoaderInAPalette) {
+  EXPECT_EQ(paletteLog("<Palette ID=\"p\"/><Box/>"), "ID=p Box{}");
+}
+
+TEST_F(FilerReading, ReadsWhatStandsBesideThePaletteContent) {
+  const Reading reading =
+      readPalette("<ToolPaletteExport><Data><PaletteContent>"
+                  "<Palette><ID>1</ID><Tool t=\"1\"/><Image cx=\"16\"/></Palette></PaletteContent>"
+                  "<PaletteUI><CAdUiPalette PaletteStyle=\"1\"/><Box b=\"1\"><Tool t=\"2\"/></Box>"
+                  "<Image cx=\"32\"/></PaletteUI></Data></ToolPaletteExport>");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_TRUE(reading.isConverted);
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=1 Tool{t=1} Image{cx=16} "
+                                                "PaletteStyle=1 Box{b=1 t=2} cx=32"));
+}
+
+TEST_F(FilerReading, StopsQuietlyAtAPaletteContentWithoutSibling) {
+  const Reading reading =
+      readPalette("<X><PaletteContent><Palette><ID>1</ID></Palette></PaletteContent></X>");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_EQ(reading.problem, OdString());
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=1"));
+}
+
+struct CreateInfoCase {
+  const char* parent;
+  const char* made;
+};
+class CreateInfoRule : public testing::TestWithParam<CreateInfoCase> {};
+
+TEST_P(CreateInfoRule, LooksAtTheParentInPalettes) {
+  const std::string parent = GetParam().parent;
+  const std::string text =
+      "<Palette><" + parent + "><CreateInfo a=\"1\"/></" + parent + "></Palette>";
+  const Reading reading = readPalette(QByteArray::fromStdString(text));
+  Record* const owner = reading.root->child(OdString::fromStdString(parent));
+  ASSERT_NE(owner, nullptr);
+  Record* const info = owner->child(QStringLiteral("CreateInfo"));
+  ASSERT_NE(info, nullptr);
+  EXPECT_EQ(info->elementName().toStdString(), GetParam().made);
+  EXPECT_EQ(info->log(), QStringLiteral("a=1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Parents, CreateInfoRule,
+                         testing::Values(CreateInfoCase{"Layer", "LayerCreateInfo"},
+                                         CreateInfoCase{"Color", "ColorCreateInfo"},
+                                         CreateInfoCase{"Textstyle", "TextStyleCreateInfo"},
+                                         CreateInfoCase{"Linetype", "LineTypeCreateInfo"},
+                                         CreateInfoCase{"Dimstyle", "DimStyleCreateInfo"}),
+                         [](const auto& c) { return std::string(c.param.parent); });
+
+TEST_F(FilerReading, LeavesCreateInfoAValueElsewhereAndInCatalogs) {
+  EXPECT_EQ(paletteLog("<Box><CreateInfo a=\"1\"/></Box>"), "Box{a=1}");
+  EXPECT_EQ(catalogLog("<Layer><CreateInfo a=\"1\"/></Layer>"), "Layer{a=1}");
+}
+
+TEST_F(FilerReading, ShowsAMessageForADocumentWithoutPalette) {
+  for (const char* text : {"<Other/>", "<Palette/>", "<Palette>text</Palette>", "no xml", ""}) {
+    testhost::host().reset();
+    const Reading reading = readPalette(text);
+    EXPECT_FALSE(reading.isRead) << text;
+    EXPECT_TRUE(reading.root->fields.empty()) << text;
+    ASSERT_EQ(testhost::host().log.size(), 2) << text;
+    // The file goes by name before the message that names nothing.
+    EXPECT_TRUE(testhost::host().log[0].contains(QStringLiteral("C:\\here\\file.dtc"))) << text;
+    EXPECT_TRUE(testhost::host().log[0].contains(reading.problem)) << text;
+    EXPECT_TRUE(
+        testhost::host().log[1].contains(QStringLiteral("Error while reading tool palette file.")))
+        << text;
+  }
+}
+
+TEST_F(FilerReading, ReportsACatalogByName) {
+  const Reading reading = readCatalog("<Catalog><A></Catalog>");
+  EXPECT_FALSE(reading.isRead);
+  ASSERT_EQ(testhost::host().log.size(), 1);
+  EXPECT_TRUE(testhost::host().log[0].contains(QStringLiteral("file.dtc")));
+}
+
+TEST_F(FilerReading, KeepsQuietWithoutAHost) {
+  testhost::host().switchOff(testhost::kServices);
+  EXPECT_FALSE(readPalette("<Other/>").isRead);
+  EXPECT_TRUE(testhost::host().log.isEmpty());
+}
+
+class BrokenStream : public OdMemoryStream {
+ public:
+  BrokenStream()
+    : OdMemoryStream(QByteArray("<Catalog/>")) {}
+  void getBytes(void*, std::uint32_t) override {
+    throw OdFileError(eFileAccess, QStringLiteral("disk"), QStringLiteral("the disk is gone"));
+  }
+};
+
+TEST_F(FilerReading, TakesAFailingStreamForAProblem) {
+  const OdTcFilerPtr filer = makeCatalogFiler();
+  EXPECT_FALSE(filer->openCatalog(odrxMake<BrokenStream>(), odrxMake<Record>(), false));
+  EXPECT_EQ(filer->problem(), QStringLiteral("the disk is gone"));
+}
+
+class Choosy : public Record {
+ public:
+  bool readField(const OdString& name, const OdVariant& value) override {
+    if (name == QLatin1String("Box")) value.objectAs<RootRecord>();
+    return Record::readField(name, value);
+  }
+};
+
+TEST_F(FilerReading, EndsAtAnObjectOfTheWrongClass) {
+  useRecords();
+  const auto root = odrxMake<Choosy>();
+  const OdTcFilerPtr filer = makeCatalogFiler();
+  const auto stream =
+      odrxMake<OdMemoryStream>(QByteArray("<Catalog><ID>1</ID><Box/><ID>2</ID></Catalog>"));
+  EXPECT_FALSE(filer->openCatalog(stream, root, false));
+  EXPECT_TRUE(filer->problem().contains(QStringLiteral("OdTcDatabase")));
+  EXPECT_EQ(root->log(), QStringLiteral("ID=1"));
+  EXPECT_EQ(filer->currentObject(), nullptr);
+}
+
+TEST_F(FilerReading, OffersTheOtherKindOfDocumentNowhere) {
+  useRecords();
+  const auto stream = odrxMake<OdMemoryStream>(QByteArray("<Catalog/>"));
+  EXPECT_FALSE(makeCatalogFiler()->openPalette(stream, odrxMake<RootRecord>(), false));
+  EXPECT_FALSE(makePaletteFiler()->openCatalog(stream, odrxMake<RootRecord>(), false));
+}
+
+} // namespace
