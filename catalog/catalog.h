@@ -7,6 +7,8 @@
 namespace tc {
 
 /// A group tree, the loaders of palette files, and the palettes that they brought in.
+///
+/// `children` are the palettes; the groups have an enumerator of their own.
 class OdTcCatalog : public OdTcCatalogItem {
   ODRX_DECLARE_MEMBERS(OdTcCatalog);
 

@@ -17,7 +17,7 @@ class OdTcTool : public OdTcCatalogItem {
 
  public:
   /// Kinds of entry. Only a regular tool can run.
-  enum Type : std::uint32_t { kNone = 0, kRegular = 1, kText = 3, kSeparator = 4 };
+  enum Type : std::uint32_t { kNoType = 0, kRegular = 1, kText = 3, kSeparator = 4 };
 
   /// Marks nothing as modified.
   virtual void setToolType(std::uint32_t type) = 0;

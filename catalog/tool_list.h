@@ -3,11 +3,19 @@
 
 #include "module/list.h"
 
+#include <functional>
+
 namespace tc {
+
+class OdTcTool;
 
 /// Element `Tools`.
 class OdTcToolList : public OdTcList {
   ODRX_DECLARE_MEMBERS(OdTcToolList);
+
+ public:
+  /// Removes the tools that the function picks, whatever other tools have their ids.
+  virtual void removeWhere(const std::function<bool(const OdTcTool&)>& isUnwanted) = 0;
 };
 using OdTcToolListPtr = OdSmartPtr<OdTcToolList>;
 

@@ -34,6 +34,8 @@ class OdTcToolPalette : public OdTcCatalogItem {
   virtual void setExporting(bool exporting) = 0;
   /// True if a group holds a reference to this palette.
   virtual bool isReferenced() const = 0;
+  /// Tells the palette's reactors that it is about to leave its catalog.
+  virtual void announceRemoval() = 0;
   virtual bool load(const OdString& path) = 0;
   virtual bool saveAs(const OdString& path) = 0;
   virtual bool save() = 0;

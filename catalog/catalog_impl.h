@@ -1,0 +1,88 @@
+#pragma once
+
+#include "catalog/catalog.h"
+#include "catalog/tool_palette.h"
+#include "module/catalog_item_impl.h"
+#include "module/item_index.h"
+
+#include <vector>
+
+namespace tc {
+
+class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
+ public:
+  OdTcCatalogImpl();
+  ~OdTcCatalogImpl() override;
+
+  void registerItem(OdTcPersist* item) override;
+  OdString path() const override { return m_path; }
+  OdString palettesFolder() const override;
+  /// A save that fails leaves the path and the loaders as they were.
+  bool save(const OdString& path) override;
+  /// False for a catalog that never had a path.
+  bool save() override { return !m_path.isEmpty() && save(OdString(m_path)); }
+  OdTcEnumPtr<OdTcCatalogItem> groupsEnum() const override { return m_groups->items(); }
+  OdTcEnumPtr<OdTcToolPalette> palettesEnum() const override;
+  OdTcEnumPtr<OdTcCatalogItem> loadersEnum() const override { return m_loaders->items(); }
+  OdTcToolPalette* findPalette(const OdString& id) const override;
+  OdTcToolPalette* findPaletteByName(const OdString& name) const override;
+  OdTcPaletteSoftRef* findInGroups(const OdTcCatalogItem* palette) const override;
+  bool moveToGroup(const OdString& id) override;
+  OdTcToolPalette* loadPalette(const OdString& id) override;
+  bool unloadPalette(const OdString& id) override;
+  bool isDefault() const override { return m_isDefault; }
+  void setDefault(bool isDefault) override { m_isDefault = isDefault; }
+  bool load(const OdString& path) override;
+  void addPalette(OdTcToolPalette* palette) override;
+  OdTcGroupList* groups() const override { return m_groups; }
+  OdTcPaletteLoaderList* loaders() const override { return m_loaders; }
+  OdString fileRevision() const override { return m_fileRevision; }
+  bool isUnread() const override { return !m_readProblem.isEmpty(); }
+  OdString readProblem() const override { return m_readProblem; }
+
+  /// Takes palettes and groups; false for anything else, and for what is here already.
+  bool addItem(OdTcCatalogItem* item) override;
+  /// Removes a palette with its file, or a group of the top level. A file outside the catalog's
+  /// folder is never deleted.
+  bool removeItem(const OdString& id) override;
+  bool findItem(const OdString& id) const override;
+  OdTcEnumPtr<OdTcCatalogItem> children() const override;
+  bool isContainer(const OdString& name) const override;
+  OdTcCatalog* catalog() const override { return const_cast<OdTcCatalogImpl*>(this); }
+  void noteInCatalog(OdTcPersist* object) override { registerItem(object); }
+
+  OdString elementName() const override { return QStringLiteral("Catalog"); }
+  void writeFields(OdTcFiler* filer) override;
+  bool readField(const OdString& name, const OdVariant& value) override;
+  /// An item like this one, without a path, palettes and groups: two catalogs over the same files
+  /// would undo each other's work.
+  OdTcCatalogItemPtr clone(bool deep) const override;
+  OdRxObjectPtr clone() const override { return clone(true); }
+
+ private:
+  friend class CatalogSave;
+  using Palettes = std::vector<OdTcToolPalettePtr>;
+
+  void clearContent();
+  void takeIn(OdTcToolPalette* palette);
+  void markReferenced();
+  void removePalette(qsizetype position);
+  void removePaletteFile(const OdTcToolPalette& palette) const;
+  bool unregister(const OdTcPersist* item);
+  void removeReferences(const OdString& id);
+  OdString pathFor(const OdTcToolPalette& palette) const;
+
+  // Declared first, to be released last: with it in place, nothing below dies inside something
+  // else.
+  std::vector<OdTcPersistPtr> m_registered;
+  OdSmartPtr<OdTcPaletteLoaderList> m_loaders;
+  Palettes m_palettes;
+  OdTcItemIndex m_paletteIndex;
+  OdSmartPtr<OdTcGroupList> m_groups;
+  OdString m_fileRevision;
+  OdString m_path;
+  OdString m_readProblem;
+  bool m_isDefault = false;
+};
+
+} // namespace tc

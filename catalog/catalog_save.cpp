@@ -1,0 +1,77 @@
+#include "catalog/catalog_save.h"
+
+#include "catalog/database.h"
+#include "catalog/inside_folder.h"
+#include "catalog/palette_loader_impl.h"
+#include "catalog/write_file.h"
+#include "frame/file_path.h"
+#include "persistence/path_operations.h"
+#include "persistence/unread_original.h"
+
+namespace tc {
+
+CatalogSave::CatalogSave(OdTcCatalogImpl& catalog, const OdString& path)
+  : m_catalog(catalog)
+  , m_path(path)
+  , m_formerPath(catalog.m_path) {}
+
+CatalogSave::~CatalogSave() {
+  if (m_isDone) return;
+  m_catalog.m_path = m_formerPath;
+  for (const OdTcPaletteLoaderPtr& loader : m_added) {
+    m_catalog.m_loaders->remove(loader->id());
+    m_catalog.unregister(loader);
+  }
+  for (const Renamed& renamed : m_renamed) {
+    renamed.loader->properties()->setName(renamed.name);
+    renamed.loader->properties()->setDescription(renamed.description);
+  }
+  for (const OdTcToolPalettePtr& palette : m_placed) palette->getDatabase()->setPath(OdString());
+}
+
+bool CatalogSave::run() {
+  if (m_catalog.isUnread() && odpath::samePlace(m_path, m_formerPath)) keepUnreadOriginal(m_path);
+  m_catalog.m_path = m_path;
+  for (const OdTcToolPalettePtr& palette : m_catalog.m_palettes)
+    if (!palette->isDeleted()) updateLoader(*palette);
+  m_isDone = writeFile(m_path, creationFor(m_path), *makeCatalogFiler(), &m_catalog,
+                       &OdTcFiler::openCatalog);
+  return m_isDone;
+}
+
+void CatalogSave::updateLoader(OdTcToolPalette& palette) {
+  OdTcCatalogItem* const loader = m_catalog.m_loaders->find(palette.id());
+  if (!loader) {
+    addLoader(palette);
+    return;
+  }
+  const OdString name = palette.name();
+  const OdString description = palette.description();
+  if (loader->name() == name && loader->description() == description) return;
+  m_renamed.push_back({OdTcPaletteLoaderPtr(loader), loader->name(), loader->description()});
+  loader->properties()->setName(name);
+  loader->properties()->setDescription(description);
+}
+
+void CatalogSave::addLoader(OdTcToolPalette& palette) {
+  if (palette.getPath().isEmpty()) {
+    palette.getDatabase()->setPath(m_catalog.pathFor(palette));
+    m_placed.emplace_back(&palette);
+  }
+  const auto loader = odrxMake<OdTcPaletteLoaderImpl>();
+  loader->setId(palette.id());
+  loader->properties()->setName(palette.name());
+  loader->properties()->setDescription(palette.description());
+  loader->setHref(hrefFor(palette.getPath()));
+  m_catalog.m_loaders->add(loader);
+  m_added.emplace_back(loader);
+}
+
+OdString CatalogSave::hrefFor(const OdString& file) const {
+  const OdString folder = odpath::folderOf(m_path);
+  OdString relative;
+  if (isInsideFolder(file, folder) && makeRelativePath(file, folder, relative)) return relative;
+  return collapsedStoredPath(file);
+}
+
+} // namespace tc

@@ -1,0 +1,40 @@
+// One save of a catalog.
+#pragma once
+
+#include "catalog/catalog_impl.h"
+
+namespace tc {
+
+/// Brings a catalog's loaders up to date for a save to `path`, and takes everything back at its end
+/// unless the save went through.
+class CatalogSave {
+ public:
+  CatalogSave(OdTcCatalogImpl& catalog, const OdString& path);
+  CatalogSave(const CatalogSave&) = delete;
+  CatalogSave& operator=(const CatalogSave&) = delete;
+  ~CatalogSave();
+
+  /// Updates the loaders and writes the file. False if the filer fails; OdFileError for the file.
+  bool run();
+
+ private:
+  struct Renamed {
+    OdTcPaletteLoaderPtr loader;
+    OdString name;
+    OdString description;
+  };
+
+  void updateLoader(OdTcToolPalette& palette);
+  void addLoader(OdTcToolPalette& palette);
+  OdString hrefFor(const OdString& file) const;
+
+  OdTcCatalogImpl& m_catalog;
+  OdString m_path;
+  OdString m_formerPath;
+  bool m_isDone = false;
+  std::vector<OdTcPaletteLoaderPtr> m_added;
+  std::vector<Renamed> m_renamed;
+  std::vector<OdTcToolPalettePtr> m_placed;
+};
+
+} // namespace tc

@@ -1,0 +1,40 @@
+#include "catalog/configured_folders.h"
+
+#include "frame/file_path.h"
+#include "persistence/path_operations.h"
+#include "persistence/value_storage.h"
+
+#include <QSet>
+
+namespace tc {
+
+OdString catalogKey(const OdString& path) {
+  OdString key = odpath::fromPlatform(path);
+  // A path on another machine begins with two separators, and keeps them.
+  const qsizetype start = key.startsWith(QLatin1String("\\\\")) ? 1 : 0;
+  for (qsizetype at; (at = key.indexOf(QLatin1String("\\\\"), start)) >= 0;) key.remove(at, 1);
+  normalizePath(key);
+  return key;
+}
+
+OdString catalogKeyOfFolder(const OdString& folder) {
+  return catalogKey(folder + u'\\' + OdString::fromUtf16(kCatalogFileName));
+}
+
+QStringList configuredCatalogFiles() {
+  const OdTcValueStorageImpl* const storage = OdTcValueStorageImpl::instance();
+  const QStringList folders = splitPathList(storage ? storage->toolPaletteFolders() : OdString());
+  QStringList files;
+  QSet<OdString> known;
+  for (const OdString& part : folders) {
+    const OdString folder = part.trimmed();
+    if (folder.isEmpty() && folders.size() > 1) continue;
+    const OdString file = catalogKeyOfFolder(folder);
+    if (known.contains(file)) continue;
+    known.insert(file);
+    files << file;
+  }
+  return files;
+}
+
+} // namespace tc

@@ -1,0 +1,153 @@
+#include "catalog/database_impl.h"
+
+#include "catalog/owner_link.h"
+#include "catalog/palette_ui_impl.h"
+#include "catalog/read_file.h"
+#include "catalog/tool.h"
+#include "catalog/tool_list_impl.h"
+#include "catalog/write_file.h"
+#include "frame/file_path.h"
+#include "module/persist_cast.h"
+#include "persistence/unread_original.h"
+
+namespace tc {
+namespace {
+
+const OdString& newFileRevision() {
+  static const OdString revision = QStringLiteral("8.0");
+  return revision;
+}
+
+} // namespace
+
+OdTcDatabaseImpl::OdTcDatabaseImpl()
+  : m_fileRevision(newFileRevision())
+  , m_tools(odrxMake<OdTcToolListImpl>())
+  , m_ui(odrxMake<OdTcPaletteUiImpl>()) {
+  m_tools->setOwnerQuiet(this);
+  m_ui->setOwnerQuiet(this);
+}
+
+OdTcDatabaseImpl::~OdTcDatabaseImpl() {
+  for (OdTcPersist* object : m_attached) forgetOwner(object, this);
+  forgetOwner(m_tools, this);
+  forgetOwner(m_ui, this);
+}
+
+void OdTcDatabaseImpl::addTool(OdTcTool* tool) {
+  m_tools->add(tool);
+  notifyAdded(tool);
+  setModified();
+}
+
+bool OdTcDatabaseImpl::removeTool(const OdString& id) {
+  if (!m_tools->remove(id)) return false;
+  m_ui->uiProperties()->catalogView()->toolOrder()->removeFirst(id);
+  setModified();
+  return true;
+}
+
+bool OdTcDatabaseImpl::isModified() const {
+  for (int i = 0; i < m_tools->count(); ++i)
+    if (m_tools->at(i)->isModified()) return true;
+  return OdTcCatalogItemImplBase::isModified();
+}
+
+void OdTcDatabaseImpl::attachObject(OdTcPersist* object) {
+  if (object && object != this) m_attached.emplace_back(object);
+}
+
+void OdTcDatabaseImpl::setPath(const OdString& path) {
+  // What could not be read stays behind at the old place.
+  if (!odpath::samePlace(path, m_path)) m_readProblem.clear();
+  m_path = path;
+}
+
+bool OdTcDatabaseImpl::load(const OdString& path) {
+  m_path = path;
+  m_readProblem.clear();
+  if (!odrxSystemServices()->fileExists(path)) return false;
+  const ReadOutcome outcome = readFile(path, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+  m_readProblem = outcome.problem;
+  return outcome.isRead;
+}
+
+bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation) {
+  return tc::writeFile(m_path, creation, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+}
+
+void OdTcDatabaseImpl::keepOriginalAt(const OdString& path, const OdString& ownPath) const {
+  if (isUnread() && odpath::samePlace(path, ownPath)) keepUnreadOriginal(path);
+}
+
+bool OdTcDatabaseImpl::saveAs(const OdString& path) {
+  // Objects that a save leaves behind are as they were unless it went through.
+  struct FormerPath {
+    OdString& path;
+    OdString former;
+    bool isDone = false;
+    ~FormerPath() {
+      if (!isDone) path = former;
+    }
+  } guard{m_path, m_path};
+
+  keepOriginalAt(path, m_path);
+  m_path = path;
+  if (!writeFile(creationFor(path))) return false;
+  guard.isDone = true;
+  m_attached = {};
+  m_readProblem.clear();
+  return true;
+}
+
+bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(m_path); }
+
+bool OdTcDatabaseImpl::saveCopy(const OdString& path) {
+  const OdString former = m_path;
+  keepOriginalAt(path, former);
+  // Pictures are written beside the path that is in force. A failed copy leaves its path behind,
+  // as it always did.
+  m_path = path;
+  if (!writeFile(Oda::kCreateAlways)) return false;
+  m_path = former;
+  return true;
+}
+
+void OdTcDatabaseImpl::writeFields(OdTcFiler* filer) {
+  OdTcCatalogItemImplBase::writeFields(filer);
+  filer->writeAttribute(QStringLiteral("FileRevision"), m_fileRevision);
+  filer->writeObject(m_tools);
+  filer->writeObject(m_ui);
+}
+
+bool OdTcDatabaseImpl::readField(const OdString& name, const OdVariant& value) {
+  if (name == QLatin1String("idValue")) m_hasStoredId = true;
+  if (OdTcCatalogItemImplBase::readField(name, value)) return true;
+  if (name == QLatin1String("FileRevision"))
+    m_fileRevision = value.toString();
+  else if (name == QLatin1String("Tools"))
+    m_tools = value.objectAs<OdTcToolList>();
+  else if (name == QLatin1String("PaletteUI"))
+    m_ui = persistCast<OdTcPaletteUi>(value);
+  else if (name == QLatin1String("PaletteStyle"))
+    m_paletteStyle = value.toInt32(); // foreign files have it; nothing writes it
+  else if (name == QLatin1String("CAcTcUiToolPalette"))
+    return m_ui->readField(name, value); // a foreign palette has it directly below its root
+  else
+    return false;
+  return true;
+}
+
+OdTcCatalogItemPtr OdTcDatabaseImpl::clone(bool) const {
+  const auto copy = odrxMake<OdTcDatabaseImpl>();
+  copyItemTo(*copy);
+  copy->m_path = m_path;
+  copy->m_fileRevision = m_fileRevision;
+  copy->m_tools = m_tools->clone();
+  copy->m_tools->setOwnerQuiet(copy);
+  copy->m_ui.attach(static_cast<OdTcPaletteUi*>(m_ui->clone().detach()));
+  copy->m_ui->setOwnerQuiet(copy);
+  return copy;
+}
+
+} // namespace tc

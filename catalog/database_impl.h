@@ -1,0 +1,68 @@
+#pragma once
+
+#include "catalog/database.h"
+#include "catalog/palette_ui.h"
+#include "catalog/tool_list.h"
+#include "frame/system_services.h"
+#include "module/catalog_item_impl.h"
+
+#include <vector>
+
+namespace tc {
+
+class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
+ public:
+  OdTcDatabaseImpl();
+  ~OdTcDatabaseImpl() override;
+
+  void addTool(OdTcTool* tool) override;
+  bool removeTool(const OdString& id) override;
+  OdTcToolList* tools() const override { return m_tools; }
+  OdTcPaletteUi* getUi() const override { return m_ui; }
+
+  /// A file that is there but cannot be read is reported on the command line.
+  bool load(const OdString& path) override;
+  bool saveAs(const OdString& path) override;
+  bool save() override;
+  bool saveCopy(const OdString& path) override;
+  void attachObject(OdTcPersist* object) override;
+  int attachedCount() const override { return static_cast<int>(m_attached.size()); }
+
+  OdString getPath() const override { return m_path; }
+  void setPath(const OdString& path) override;
+  OdString fileRevision() const override { return m_fileRevision; }
+  bool isExporting() const override { return m_isExporting; }
+  void setExporting(bool exporting) override { m_isExporting = exporting; }
+  std::int32_t paletteStyle() const override { return m_paletteStyle; }
+  bool isUnread() const override { return !m_readProblem.isEmpty(); }
+  OdString readProblem() const override { return m_readProblem; }
+  /// True if the id was read from the file.
+  bool hasStoredId() const { return m_hasStoredId; }
+
+  /// True if a tool or the database itself was changed. Saving does not take it back.
+  bool isModified() const override;
+  OdTcDatabase* database() const override { return const_cast<OdTcDatabaseImpl*>(this); }
+  void noteInDatabase(OdTcPersist* object) override { attachObject(object); }
+
+  OdString elementName() const override { return QStringLiteral("Palette"); }
+  void writeFields(OdTcFiler* filer) override;
+  bool readField(const OdString& name, const OdVariant& value) override;
+  OdTcCatalogItemPtr clone(bool deep) const override;
+  OdRxObjectPtr clone() const override { return clone(true); }
+
+ private:
+  bool writeFile(Oda::FileCreationDisposition creation);
+  void keepOriginalAt(const OdString& path, const OdString& ownPath) const;
+
+  OdString m_path;
+  OdString m_fileRevision;
+  OdTcToolListPtr m_tools;
+  std::int32_t m_paletteStyle = 0;
+  std::vector<OdTcPersistPtr> m_attached;
+  OdSmartPtr<OdTcPaletteUi> m_ui;
+  OdString m_readProblem;
+  bool m_isExporting = false;
+  bool m_hasStoredId = false;
+};
+
+} // namespace tc

@@ -1,0 +1,74 @@
+#include "catalog/group_lists_impl.h"
+
+#include "catalog/owner_link.h"
+#include "catalog/tool_palette.h"
+
+namespace tc {
+namespace {
+
+const OdString& groupElement() {
+  static const OdString name = QStringLiteral("ToolPaletteGroup");
+  return name;
+}
+
+const OdString& referenceElement() {
+  static const OdString name = QStringLiteral("ToolPalette");
+  return name;
+}
+
+/// Releases items in a loop: what they release in their turn only joins the queue.
+void releaseInTurn(std::vector<OdTcCatalogItemPtr> items) {
+  static auto& queue = *new std::vector<OdTcCatalogItemPtr>;
+  static bool isReleasing = false;
+  for (OdTcCatalogItemPtr& item : items) queue.push_back(std::move(item));
+  if (isReleasing) return;
+  isReleasing = true;
+  while (!queue.empty()) {
+    const OdTcCatalogItemPtr next = std::move(queue.back());
+    queue.pop_back();
+  }
+  isReleasing = false;
+}
+
+} // namespace
+
+OdTcGroupContentListImpl::~OdTcGroupContentListImpl() {
+  std::vector<OdTcCatalogItemPtr> items = itemVector();
+  clearItems();
+  for (OdTcCatalogItem* item : items) forgetOwner(item, owner());
+  releaseInTurn(std::move(items));
+}
+
+void OdTcGroupContentListImpl::writeItem(OdTcFiler* filer, OdTcCatalogItem* item) {
+  const auto* const reference = odrxCast<OdTcPaletteSoftRef>(item);
+  if (!reference)
+    filer->writeObject(item);
+  else if (reference->resolve())
+    filer->writeElementAttribute(referenceElement(), QStringLiteral("ID"), reference->id());
+}
+
+OdRxObjectPtr OdTcGroupContentListImpl::clone() const {
+  const auto copy = odrxMake<OdTcGroupContentListImpl>();
+  for (const OdTcCatalogItemPtr& item : itemVector()) copy->appendShared(item);
+  return copy;
+}
+
+bool OdTcGroupContentListImpl::acceptsElement(const OdString& element) const {
+  return element == groupElement() || element == referenceElement();
+}
+
+OdTcGroupListImpl::~OdTcGroupListImpl() {
+  for (const OdTcGroupPtr& group : itemVector()) forgetOwner(group, owner());
+}
+
+OdRxObjectPtr OdTcGroupListImpl::clone() const {
+  const auto copy = odrxMake<OdTcGroupListImpl>();
+  for (const OdTcGroupPtr& group : itemVector()) copy->appendShared(group);
+  return copy;
+}
+
+bool OdTcGroupListImpl::acceptsElement(const OdString& element) const {
+  return element == groupElement();
+}
+
+} // namespace tc

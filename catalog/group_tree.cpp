@@ -1,0 +1,52 @@
+#include "catalog/group_tree.h"
+
+#include "catalog/catalog.h"
+#include "catalog/tool_palette.h"
+
+namespace tc {
+
+bool removeFromSubtree(OdTcList* list, const OdString& id) {
+  const bool isHere = list->remove(id);
+  std::vector<OdTcList*> lists = {list};
+  while (!lists.empty()) {
+    OdTcList* const current = lists.back();
+    lists.pop_back();
+    for (int i = 0; i < current->count(); ++i) {
+      const auto* group = odrxCast<OdTcGroup>(current->at(i));
+      if (!group) continue;
+      group->contents()->remove(id);
+      lists.push_back(group->contents());
+    }
+  }
+  return isHere;
+}
+
+bool isReferencedInSubtree(const OdTcList* list, const OdString& id) {
+  return findDepthFirst(const_cast<OdTcList*>(list), [&](OdTcCatalogItem* item, OdTcList*) {
+    return item->isKindOf(OdTcPaletteSoftRef::desc()) && item->id() == id;
+  });
+}
+
+QSet<OdString> referencedIds(OdTcList* list) {
+  QSet<OdString> ids;
+  findDepthFirst(list, [&](OdTcCatalogItem* item, OdTcList*) {
+    if (item->isKindOf(OdTcPaletteSoftRef::desc())) ids.insert(item->id());
+    return false;
+  });
+  return ids;
+}
+
+void updateReferenced(OdTcCatalog* catalog, OdTcCatalogItem* removed) {
+  if (!catalog) return;
+  QSet<OdString> lost;
+  if (const auto* group = odrxCast<OdTcGroup>(removed))
+    lost = referencedIds(group->contents());
+  else if (removed->isKindOf(OdTcPaletteSoftRef::desc()))
+    lost.insert(removed->id());
+  if (lost.isEmpty()) return;
+  lost -= referencedIds(catalog->groups());
+  for (const OdString& id : lost)
+    if (OdTcToolPalette* const palette = catalog->findPalette(id)) palette->setReferenced(false);
+}
+
+} // namespace tc

@@ -1,0 +1,42 @@
+// Walks through groups in groups.
+#pragma once
+
+#include "catalog/group.h"
+
+#include <QSet>
+
+#include <vector>
+
+namespace tc {
+
+/// The first item of the list and of the groups in it, depth first, a group before its contents,
+/// for which `isWanted(item, itsList)` holds; null if there is none. Depth costs no stack.
+template <class Predicate>
+OdTcCatalogItem* findDepthFirst(OdTcList* list, Predicate isWanted) {
+  struct Place {
+    OdTcList* list;
+    int next;
+  };
+  std::vector<Place> path;
+  if (list) path.push_back({list, 0});
+  while (!path.empty()) {
+    OdTcList* const current = path.back().list;
+    if (path.back().next >= current->count()) {
+      path.pop_back();
+      continue;
+    }
+    OdTcCatalogItem* const item = current->at(path.back().next++);
+    if (isWanted(item, current)) return item;
+    if (const auto* group = odrxCast<OdTcGroup>(item)) path.push_back({group->contents(), 0});
+  }
+  return nullptr;
+}
+
+/// The ids to which soft references in the list and in the groups in it refer.
+QSet<OdString> referencedIds(OdTcList* list);
+
+/// Brings the referenced flags of palettes in line after `removed`, a soft reference or a group,
+/// has left the groups of `catalog` (may be null).
+void updateReferenced(OdTcCatalog* catalog, OdTcCatalogItem* removed);
+
+} // namespace tc

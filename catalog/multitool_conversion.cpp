@@ -1,0 +1,72 @@
+#include "catalog/multitool_conversion.h"
+
+#include "catalog/command_route_map.h"
+#include "catalog/import_prompt.h"
+#include "catalog/tool_impl.h"
+#include "host/command_menu.h"
+#include "images/image_list.h"
+#include "module/properties.h"
+#include "tools/action_agent.h"
+
+#include <optional>
+
+namespace tc {
+namespace {
+
+/// The pictures of a converted tool: the host's button at two sizes.
+constexpr OdTcSizeKind kSizes[] = {OdTcSizeKind::kNormal, OdTcSizeKind::kLarge};
+
+std::optional<HostMenuEntry> findCommand(const OdString& name) {
+  const KVPtr<IHostCommandMenu> menu = host::service<IHostCommandMenu>();
+  const int count = menu ? menu->count() : 0;
+  for (int i = 0; i < count; ++i) {
+    HostMenuEntry entry = menu->entry(i);
+    if (entry.isCommand && entry.commandName.compare(name, Qt::CaseInsensitive) == 0) return entry;
+  }
+  return std::nullopt;
+}
+
+OdString nameOf(const HostMenuEntry& command) {
+  if (!command.label.isEmpty()) return command.label;
+  OdString tip = command.shortText;
+  tip.remove(u'&');
+  return tip.isEmpty() ? host::translate(command.commandName) : tip;
+}
+
+void addButtonImages(OdTcToolImpl& tool, const OdString& button) {
+  OdSmartPtr<OdTcImageList> images(tool.images());
+  if (!images) {
+    images = OdTcImageList::createObject();
+    images->setOwner(tool.properties());
+    tool.setImages(images);
+  }
+  for (const OdTcSizeKind size : kSizes) {
+    const OdTcImagePtr image = OdTcImage::createObject();
+    image->setSizeKind(static_cast<std::int32_t>(size));
+    image->setResource(QStringLiteral("%ProgramBtnRes%"), button);
+    images->add(image);
+  }
+}
+
+} // namespace
+
+void convertMultitool(OdTcToolImpl& tool) {
+  showImportPrompt(kMultitoolPrompt);
+  const OdString wanted = addSelectedCommand(tool.customData()->className());
+  if (wanted.isEmpty()) return;
+  const std::optional<HostMenuEntry> command = findCommand(wanted);
+  if (!command) return;
+
+  tool.setToolType(OdTcTool::kRegular);
+  tool.setName(nameOf(*command));
+  tool.dropForeignRecords();
+  if (!tool.getActionAgent()) {
+    const OdSmartPtr<OdTcToolCommand> agent = OdTcToolCommand::createObject();
+    agent->setCommandString(command->macro);
+    tool.setActionAgent(agent);
+  }
+  addButtonImages(tool, command->commandName);
+  host::print(formatText(stringText(StringId::kMultitoolConverted), tool.name()));
+}
+
+} // namespace tc

@@ -1,0 +1,208 @@
+#include "catalog/palette_manager_impl.h"
+
+#include "catalog/configured_folders.h"
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "host/host_locator.h"
+#include "module/string_table.h"
+#include "persistence/path_operations.h"
+
+namespace tc {
+namespace {
+
+const OdString& watchedSetting() {
+  static const OdString name = QStringLiteral("ToolPaletteDir");
+  return name;
+}
+
+bool isDefaultFile(const OdString& path) { return odpath::samePlace(path, defaultCatalogFile()); }
+
+void reportMissing(const OdString& path) {
+  host::print(
+      formatText(host::translate(QStringLiteral("\nError: cannot find catalog file: %s")), path));
+}
+
+/// Walks the map by its keys, so that a catalog may go while it is walked.
+class CatalogEnumImpl : public OdTcPaletteManager::CatalogEnum {
+ public:
+  CatalogEnumImpl(const OdTcPaletteManagerImpl* manager,
+                  const OdTcPaletteManagerImpl::CatalogMap& catalogs)
+    : m_manager(const_cast<OdTcPaletteManagerImpl*>(manager))
+    , m_catalogs(catalogs) {}
+
+  bool next(OdString& path, OdTcCatalog*& catalog) override {
+    const auto at = m_started ? m_catalogs.upper_bound(m_last) : m_catalogs.begin();
+    if (at == m_catalogs.end()) return false;
+    m_started = true;
+    m_last = at->first;
+    path = at->first;
+    catalog = at->second;
+    return true;
+  }
+  void reset() override { m_started = false; }
+
+ private:
+  OdTcPaletteManagerPtr m_manager;
+  const OdTcPaletteManagerImpl::CatalogMap& m_catalogs;
+  OdString m_last;
+  bool m_started = false;
+};
+
+} // namespace
+
+OdTcPaletteManagerImpl::OdTcPaletteManagerImpl()
+  : m_imageExtensions({QStringLiteral("bmp"), QStringLiteral("jpeg"), QStringLiteral("tiff"),
+                       QStringLiteral("jpg"), QStringLiteral("png")})
+  , m_drawingExtensions({QStringLiteral("dwg"), QStringLiteral("dxf"), QStringLiteral("dwf")})
+  , m_watcher(kvMake<TcCfgChangeReactor>(this))
+  , m_watched(host::application()) {
+  if (m_watched) m_watched->addPropReactor(watchedSetting(), m_watcher.get());
+}
+
+OdTcPaletteManagerImpl::~OdTcPaletteManagerImpl() {
+  // The host may have gone, or another one come, since the watcher was subscribed.
+  if (m_watched && m_watched == host::application())
+    m_watched->removePropReactor(watchedSetting(), m_watcher.get());
+  m_watcher->disconnect();
+}
+
+template <class Notify>
+void OdTcPaletteManagerImpl::notify(Notify call) const {
+  // A reactor may take itself off the list while it is told.
+  const std::vector<OdTcPaletteManagerReactor*> reactors = m_reactors;
+  for (OdTcPaletteManagerReactor* reactor : reactors) call(*reactor);
+}
+
+void OdTcPaletteManagerImpl::addReactor(OdTcPaletteManagerReactor* reactor) {
+  if (reactor) m_reactors.push_back(reactor);
+}
+
+void OdTcPaletteManagerImpl::removeReactor(OdTcPaletteManagerReactor* reactor) {
+  const auto at = std::find(m_reactors.begin(), m_reactors.end(), reactor);
+  if (at != m_reactors.end()) m_reactors.erase(at);
+}
+
+bool OdTcPaletteManagerImpl::openCatalog(const OdString& path) {
+  const OdString key = catalogKey(path);
+  const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
+  if (!catalog->load(key)) {
+    catalog->setId(odrxSystemServices()->createGuid());
+    catalog->setName(host::translate(QStringLiteral("Tool Palettes")));
+  }
+  if (isDefaultFile(key)) catalog->setDefault(true);
+  OdTcCatalogPtr& entry = m_catalogs[key];
+  if (entry && m_active == entry.get()) m_active = nullptr;
+  entry = catalog;
+  notify([&](OdTcPaletteManagerReactor& r) { r.catalogAdded(catalog); });
+  if (catalog->isDefault()) m_active = catalog;
+  return true;
+}
+
+bool OdTcPaletteManagerImpl::addCatalog(const OdString& path) {
+  if (!openCatalog(path)) return false;
+  m_catalogs[catalogKey(path)]->setId(odrxSystemServices()->createGuid());
+  return true;
+}
+
+bool OdTcPaletteManagerImpl::removeCatalog(const OdString& path) {
+  const auto at = m_catalogs.find(catalogKey(path));
+  if (at == m_catalogs.end()) return false;
+  // The catalog outlives its notice, whatever a reactor does to the map.
+  const OdTcCatalogPtr catalog = at->second;
+  notify([&](OdTcPaletteManagerReactor& r) { r.catalogRemoved(catalog); });
+  m_catalogs.erase(catalogKey(path));
+  if (m_active == catalog.get()) m_active = defaultCatalog();
+  return true;
+}
+
+void OdTcPaletteManagerImpl::loadCatalogs() {
+  for (const OdString& path : configuredCatalogFiles()) {
+    if (odrxSystemServices()->fileExists(path) || isDefaultFile(path))
+      openCatalog(path);
+    else
+      reportMissing(path);
+  }
+}
+
+void OdTcPaletteManagerImpl::reloadCatalogs() {
+  const QStringList files = configuredCatalogFiles();
+  bool isChanged = false;
+
+  const QSet<OdString> configured(files.begin(), files.end());
+  QStringList gone;
+  for (const auto& [path, catalog] : m_catalogs)
+    if (!configured.contains(catalogKeyOfFolder(odpath::folderOf(path)))) gone << path;
+  for (const OdString& path : gone) {
+    removeCatalog(path);
+    isChanged = true;
+  }
+
+  for (const OdString& path : files) {
+    const bool isDefault = isDefaultFile(path);
+    if (!odrxSystemServices()->fileExists(path)) {
+      if (isDefault) continue;
+      reportMissing(path);
+      isChanged = true;
+      continue;
+    }
+    if (isDefault || m_catalogs.count(path)) continue;
+    addCatalog(path);
+    isChanged = true;
+  }
+
+  if (m_catalogs.empty()) m_active = nullptr;
+  if (isChanged) notify([](OdTcPaletteManagerReactor& r) { r.catalogsChanged(); });
+}
+
+void OdTcPaletteManagerImpl::saveAll() {
+  const CatalogMap catalogs = m_catalogs;
+  for (const auto& [path, catalog] : catalogs) {
+    if (catalog->isUnread()) {
+      host::print(formatText(host::translate(QStringLiteral(
+                                 "\nThe catalog file %s could not be read, and is left as it is.")),
+                             path));
+      continue;
+    }
+    try {
+      catalog->save(path);
+    } catch (const OdFileError& error) {
+      host::print(formatText(host::translate(QStringLiteral("\nCannot save the catalog: %s")),
+                             error.description()));
+    }
+  }
+}
+
+OdSmartPtr<OdTcPaletteManager::CatalogEnum> OdTcPaletteManagerImpl::catalogsEnum() const {
+  return odrxMake<CatalogEnumImpl>(this, m_catalogs);
+}
+
+void OdTcPaletteManagerImpl::openConfiguration() {
+  if (!m_openFlag) return;
+  const KVPtr<IProfile> section = host::profileSection(QStringLiteral("cmddata"));
+  m_configuration =
+      section ? section->openSection(QStringLiteral("ToolPaletteManager"), true) : nullptr;
+}
+
+OdString OdTcPaletteManagerImpl::palettesFolder(const OdTcCatalog* catalog) const {
+  return catalog ? catalog->palettesFolder() : defaultPalettesFolder();
+}
+
+OdString OdTcPaletteManagerImpl::imagesFolder(const OdTcCatalog* catalog) const {
+  return palettesFolder(catalog) + QLatin1String("\\Images");
+}
+
+OdTcCatalog* OdTcPaletteManagerImpl::defaultCatalog() const {
+  for (const auto& [path, catalog] : m_catalogs)
+    if (catalog->isDefault()) return catalog;
+  return nullptr;
+}
+
+bool OdTcPaletteManagerImpl::isImageExtension(const OdString& extension) const {
+  return m_imageExtensions.contains(extension.toLower());
+}
+
+bool OdTcPaletteManagerImpl::isDrawingExtension(const OdString& extension) const {
+  return m_drawingExtensions.contains(extension.toLower());
+}
+
+} // namespace tc

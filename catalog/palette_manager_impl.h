@@ -1,0 +1,70 @@
+#pragma once
+
+#include "catalog/catalog.h"
+#include "catalog/cfg_change_reactor.h"
+#include "catalog/palette_manager.h"
+
+#include "host/application.h"
+
+#include <map>
+#include <vector>
+
+namespace tc {
+
+/// Owns the catalogs, one for each file.
+///
+/// A catalog is kept under the path of its file in one form (see catalogKey), so that a folder that
+/// is configured twice in two ways of writing gives one catalog and not two that save over each
+/// other.
+class OdTcPaletteManagerImpl : public OdTcPaletteManager {
+ public:
+  using CatalogMap = std::map<OdString, OdTcCatalogPtr>;
+
+  OdTcPaletteManagerImpl();
+  ~OdTcPaletteManagerImpl() override;
+
+  void addReactor(OdTcPaletteManagerReactor* reactor) override;
+  void removeReactor(OdTcPaletteManagerReactor* reactor) override;
+  OdTcCatalog* activeCatalog() const override { return m_active; }
+  void loadCatalogs() override;
+  bool addCatalog(const OdString& path) override;
+  bool removeCatalog(const OdString& path) override;
+  OdSmartPtr<CatalogEnum> catalogsEnum() const override;
+  /// Catalogs whose file could not be read are passed over, since nobody asked for just them to be
+  /// saved. A failure is told on the command line, and the others are saved all the same.
+  void saveAll() override;
+  std::uint32_t viewSetting() const override { return m_viewSetting; }
+  void setViewSetting(std::uint32_t setting) override { m_viewSetting = setting; }
+  void resetFlag() override { m_flag = false; }
+  void openConfiguration() override;
+  OdString palettesFolder(const OdTcCatalog* catalog) const override;
+  OdString imagesFolder(const OdTcCatalog* catalog) const override;
+  OdTcCatalog* defaultCatalog() const override;
+  void reloadCatalogs() override;
+  bool openCatalog(const OdString& path) override;
+  bool isImageExtension(const OdString& extension) const override;
+  bool isDrawingExtension(const OdString& extension) const override;
+
+  /// Says whether openConfiguration is to open the node, and the node that it opened.
+  void setOpenFlag(bool open) { m_openFlag = open; }
+  IProfile* configuration() const { return m_configuration.get(); }
+  bool flag() const { return m_flag; }
+
+ private:
+  template <class Notify>
+  void notify(Notify call) const;
+
+  CatalogMap m_catalogs;
+  OdTcCatalog* m_active = nullptr;
+  std::uint32_t m_viewSetting = 3;
+  std::vector<OdTcPaletteManagerReactor*> m_reactors;
+  bool m_flag = false;
+  KVPtr<IProfile> m_configuration;
+  bool m_openFlag = false;
+  QStringList m_imageExtensions;
+  QStringList m_drawingExtensions;
+  KVPtr<TcCfgChangeReactor> m_watcher;
+  IHostApplication* m_watched = nullptr;
+};
+
+} // namespace tc

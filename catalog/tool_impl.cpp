@@ -1,0 +1,89 @@
+#include "catalog/tool_impl.h"
+
+#include "catalog/multitool_conversion.h"
+#include "catalog/owner_link.h"
+#include "host/host_locator.h"
+#include "persistence/filer.h"
+#include "properties/property.h"
+#include "tools/action_agent.h"
+
+namespace tc {
+
+OdTcToolImpl::~OdTcToolImpl() {
+  leaveGuard();
+  forgetOwner(m_data, this);
+}
+
+OdTcToolData* OdTcToolImpl::getData() const {
+  if (!m_data) {
+    m_data = OdTcToolData::createObject();
+    m_data->setOwner(const_cast<OdTcToolImpl*>(this));
+  }
+  return m_data;
+}
+
+OdTcToolActionAgent* OdTcToolImpl::getActionAgent() const {
+  return m_data ? m_data->actionAgent() : nullptr;
+}
+
+bool OdTcToolImpl::applyToAgent(OdRxObject* object) {
+  OdTcToolActionAgent* const agent = getActionAgent();
+  if (!object || !agent) return false;
+  return agent->onPropertyChanged(OdTcPropertyPtr(object));
+}
+
+bool OdTcToolImpl::updateAgent() {
+  OdTcToolActionAgent* const agent = getActionAgent();
+  return agent && agent->refreshImages(host::curDocument());
+}
+
+OdTcToolImpl::ForeignRecords& OdTcToolImpl::foreign() {
+  if (!m_foreign) m_foreign = std::make_unique<ForeignRecords>();
+  return *m_foreign;
+}
+
+void OdTcToolImpl::writeFields(OdTcFiler* filer) {
+  OdTcCatalogItemImplBase::writeFields(filer);
+  // As text: the filers differ in how they write 32-bit numbers, and a type is unsigned in both.
+  filer->writeElement(QStringLiteral("ToolType"), OdString::number(m_toolType));
+  if (flyout()) filer->writeObject(flyout());
+  filer->writeObject(getData());
+}
+
+bool OdTcToolImpl::readOwnField(const OdString& name, const OdVariant& value) {
+  if (name == QLatin1String("ToolType"))
+    m_toolType = static_cast<std::uint32_t>(odParseUInt(value.toString()));
+  else if (name == QLatin1String("CustomData"))
+    foreign().customData = value.objectAs<OdTcToolCustomData>();
+  else if (name == QLatin1String("Flyout"))
+    foreign().flyout = value.objectAs<OdTcToolFlyout>();
+  else if (name == QLatin1String("StockToolRef"))
+    value.objectAs<OdTcStockToolRef>();
+  else if (name == QLatin1String("Data"))
+    m_data = value.objectAs<OdTcToolData>();
+  else
+    return false;
+  return true;
+}
+
+bool OdTcToolImpl::readField(const OdString& name, const OdVariant& value) {
+  if (OdTcCatalogItemImplBase::readField(name, value)) return true;
+  if (!readOwnField(name, value)) return false;
+  if (customData() && flyout()) convertMultitool(*this);
+  return true;
+}
+
+OdTcCatalogItemPtr OdTcToolImpl::clone(bool) const {
+  const auto copy = odrxMake<OdTcToolImpl>();
+  copyItemTo(*copy);
+  copy->m_toolType = m_toolType;
+  if (customData()) copy->foreign().customData = customData()->clone();
+  if (flyout()) copy->foreign().flyout = flyout()->clone();
+  if (m_data) {
+    copy->m_data = m_data->clone();
+    copy->m_data->setOwner(copy);
+  }
+  return copy;
+}
+
+} // namespace tc

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "catalog/tool.h"
+#include "catalog/tool_list.h"
+#include "module/list_impl.h"
+
+namespace tc {
+
+class OdTcToolListImpl : public OdTcListImplBase<OdTcToolList, OdTcTool> {
+ public:
+  ~OdTcToolListImpl() override;
+
+  /// The tool's owner is the list. The catalog takes no note of tools: a tool lives as long as its
+  /// palette has it.
+  void add(OdTcCatalogItem* item) override;
+  /// Also deletes the tool's pictures, unless the tool is marked as sharing them.
+  bool remove(const OdString& id) override;
+  void removeWhere(const std::function<bool(const OdTcTool&)>& isUnwanted) override;
+
+  OdString elementName() const override { return QStringLiteral("Tools"); }
+  /// Clones each tool.
+  OdRxObjectPtr clone() const override;
+
+ protected:
+  bool acceptsElement(const OdString& element) const override;
+  OdTcPersist* ownerOfItems() const override { return const_cast<OdTcToolListImpl*>(this); }
+
+ private:
+  void dropImages(OdTcTool& tool) const;
+};
+
+} // namespace tc
