@@ -51,6 +51,9 @@ struct OdTcImageImpl::Decoded {
   OdString fullPath;
 };
 
+OdTcImageImpl::OdTcImageImpl() = default;
+OdTcImageImpl::~OdTcImageImpl() = default;
+
 OdTcImageImpl::Decoded& OdTcImageImpl::decoded() {
   if (!m_decoded) m_decoded = std::make_unique<Decoded>();
   return *m_decoded;

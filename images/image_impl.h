@@ -12,6 +12,9 @@ namespace tc {
 /// Kept small: every tool has three or four, of which few are ever decoded.
 class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
  public:
+  OdTcImageImpl();
+  ~OdTcImageImpl() override;
+
   OdString elementName() const override { return QStringLiteral("Image"); }
 
   std::int32_t sizeKind() const override { return m_sizeKind; }

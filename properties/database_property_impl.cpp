@@ -3,11 +3,11 @@
 #include "drawing/database.h"
 #include "drawing/entity.h"
 #include "host/host_locator.h"
-#include "module/catalog_item.h"
 #include "module/persist_cast.h"
 #include "persistence/filer.h"
 #include "properties/color_value.h"
 #include "properties/owned_part.h"
+#include "properties/owner_item.h"
 #include "properties/property_basic_info_impl.h"
 #include "properties/stored_field.h"
 
@@ -228,17 +228,7 @@ void OdTcDatabasePropertyImpl::setValue(const OdVariant& value) {
     if (snapshot && snapshot->recordName() != stored) m_createInfo = nullptr;
     setText(stored);
   }
-  tellOwnerItem();
-}
-
-void OdTcDatabasePropertyImpl::tellOwnerItem() {
-  for (OdTcPersist* above = owner(); above; above = above->owner()) {
-    if (auto* const item = dynamic_cast<OdTcCatalogItem*>(above)) {
-      item->setModified();
-      return;
-    }
-    if (above == above->owner()) return;
-  }
+  markOwnerItemModified(this);
 }
 
 // --- files

@@ -81,7 +81,6 @@ class OdTcDatabasePropertyImpl : public OdTcPropertyImplBase<OdTcDatabasePropert
   OdTcPropertyCreateInfoBase* createInfo() const;
   OdTcRecordCreateInfo* recordInfo() const;
   void setCreateInfo(const OdTcPropertyCreateInfoPtr& info);
-  void tellOwnerItem();
 
   mutable OdTcPropertyBasicInfoPtr m_basicInfo;
   mutable OdTcPropertyCreateInfoPtr m_createInfo;

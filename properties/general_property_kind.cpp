@@ -130,11 +130,6 @@ void captureTransparency(Property& property, const OdDbEntity& entity) {
                                        : OdString::number(value.percent()));
 }
 
-void setDimStyle(OdDbDatabase& database, const CurrentValue& value) {
-  const OdDbObjectId style = std::get<OdDbObjectId>(value);
-  database.setCurrentDimStyle(style);
-  database.setDimstyleData(style);
-}
 void setPlotStyle(OdDbDatabase& database, const CurrentValue& value) {
   const auto& style = std::get<CurrentPlotStyle>(value);
   database.setCurrentPlotStyle(style.type, style.id);
@@ -212,7 +207,7 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      &kDimStyleInfo,
      {},
      get<&Db::currentDimStyle>,
-     setDimStyle,
+     set<OdDbObjectId, &Db::setCurrentDimStyle>,
      wantedRecord},
     // Kept for the files' sake: it has no label and drives nothing.
     {u"Tablestyle", {}},

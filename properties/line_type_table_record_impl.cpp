@@ -2,6 +2,7 @@
 
 #include "drawing/database.h"
 #include "frame/file_path.h"
+#include "host/host_locator.h"
 #include "properties/general_properties.h"
 #include "properties/line_type_element_impl.h"
 #include "properties/property_reference_impl.h"
@@ -40,7 +41,7 @@ OdDbObjectId findStyle(const OdDbTextStyleTable& table, const OdTcTextStyleValue
 OdString freeStyleName(const OdDbTextStyleTable& table, const OdTcTextStyleTableRecordImpl& style) {
   OdString name = style.recordName();
   if (name.isEmpty()) name = odpath::titleOf(style.values().fontOrShapeFile);
-  if (name.isEmpty()) name = QStringLiteral("Style");
+  if (name.isEmpty()) name = host::ownText(QStringLiteral("Style"));
   OdString free = name;
   for (int n = 1; table.has(free); ++n) free = QStringLiteral("%1_%2").arg(name).arg(n);
   return free;
