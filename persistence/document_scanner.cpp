@@ -121,6 +121,11 @@ bool OdTcDocumentScanner::scanContent() {
   return scanMarkup();
 }
 
+bool OdTcDocumentScanner::failUnclosed() {
+  return fail(m_end,
+              tr(QStringLiteral("the element \"%1\" is not closed")).arg(shortName(m_open.back())));
+}
+
 bool OdTcDocumentScanner::scanMarkup() {
   if (startsWith("</")) return scanEndTag();
   if (m_end - m_at >= 5 && qstrnicmp(m_at, "<?xml", 5) == 0) return cutDeclaration();
@@ -169,6 +174,7 @@ bool OdTcDocumentScanner::scanEndTag() {
   if (m_open.empty())
     return fail(start,
                 tr(QStringLiteral("\"%1\" is closed but was not opened")).arg(shortName(name)));
+  if (m_at == m_end) return failUnclosed();
   if (name != m_open.back())
     return fail(start, tr(QStringLiteral("the element \"%1\" is closed as \"%2\""))
                            .arg(shortName(m_open.back()), shortName(name)));

@@ -33,6 +33,7 @@ class OdTcDocumentScanner {
 
  private:
   bool fail(const char* at, const OdString& why);
+  bool failUnclosed();
   void remark(const char* at, bool& done, const OdString& text);
 
   bool scanMarkup();

@@ -99,9 +99,10 @@ QByteArray writePalette(const Record::Writer& writer) {
 }
 
 void useRecords() {
-  if (RootRecord::desc()) return;
-  OdTcPersist::rxInit();
-  RootRecord::rxInit();
+  if (!RootRecord::desc()) {
+    OdTcPersist::rxInit();
+    RootRecord::rxInit();
+  }
   OdTcElementTable::setBuilder(
       &buildTable<kBox, kNode, kImage, kTool, kPalette, kColor, kLayer, kTextstyle, kLinetype,
                   kDimstyle, kColorCreateInfo, kLayerCreateInfo, kTextStyleCreateInfo,

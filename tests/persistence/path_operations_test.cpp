@@ -1,0 +1,282 @@
+#include "persistence/path_operations.h"
+
+#include "host/host_locator.h"
+#include "persistence/value_storage.h"
+#include "support/failing_services.h"
+#include "support/test_host.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace tc;
+
+namespace {
+
+/// System services with a user's folder of the test's choice.
+class UserFolder : public testhost::FailingServices {
+ public:
+  OdString folder = QStringLiteral("C:\\Users\\me");
+  OdString userProfileFolder() override { return folder; }
+};
+
+class Paths : public testing::Test {
+ protected:
+  void SetUp() override {
+    testhost::host().reset();
+    host::setModuleDirectory(nullptr); // forgets the application that an earlier test had
+    testhost::host().application.userFolder = QStringLiteral("C:\\Users\\me\\data");
+  }
+  static void withoutHost() {
+    testhost::host().switchOff(testhost::kApplication);
+    host::setModuleDirectory(nullptr);
+  }
+  static void set(const char* name, const char16_t* value) {
+    testhost::host().application.settings[QString::fromLatin1(name)] = OdString::fromUtf16(value);
+  }
+  static std::string expanded(const char16_t* in) {
+    OdString out = QStringLiteral("(unchanged)");
+    const bool done = expandPath(OdString::fromUtf16(in), out);
+    return (done ? "+" : "-") + out.toStdString();
+  }
+  static std::string collapsed(const char16_t* in) {
+    OdString out = QStringLiteral("(unchanged)");
+    const bool done = collapsePath(OdString::fromUtf16(in), out);
+    return (done ? "+" : "-") + out.toStdString();
+  }
+
+  UserFolder m_services;
+};
+
+TEST_F(Paths, ExpandTheUsersFolder) {
+  EXPECT_EQ(expanded(u"%UserProfileFolder%\\x"), "+C:\\Users\\me\\x");
+  EXPECT_EQ(expanded(u"a %UserProfileFolder% b"), "+a C:\\Users\\me b");
+}
+
+TEST_F(Paths, ExpandTheFirstMacroInOrderOfText) {
+  set("Shx", u"C:\\f1;C:\\f2");
+  EXPECT_EQ(expanded(u"%UserProfileFolder%\\%ShxFolder%"), "+%UserProfileFolder%\\C:\\f1");
+}
+
+TEST_F(Paths, ExpandTheSamplesFolderAsOneText) {
+  set("ToolPaletteDir", u"C:\\a;C:\\b");
+  EXPECT_EQ(expanded(u"%UserProfileSamplesFolder%\\x"), "+C:\\a;C:\\b\\x");
+}
+
+TEST_F(Paths, StayWithoutAMacro) {
+  EXPECT_EQ(expanded(u"C:\\x"), "-(unchanged)");
+  EXPECT_EQ(expanded(u"%userprofilefolder%\\x"), "-(unchanged)");
+  EXPECT_EQ(expanded(u"%ProgramBtnRes%"), "-(unchanged)");
+}
+
+TEST_F(Paths, PassOverAMacroWithoutValue) {
+  EXPECT_EQ(expanded(u"%ShxFolder%\\%UserProfileFolder%"), "+%ShxFolder%\\C:\\Users\\me");
+  EXPECT_EQ(collapsed(u"D:\\x"), "-(unchanged)");
+  set("Shx", u"");
+  set("ToolPaletteDir", u"");
+  EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "-(unchanged)");
+  EXPECT_EQ(collapsed(u"D:\\x"), "-(unchanged)");
+}
+
+TEST_F(Paths, CollapseTheFirstFolderThatIsMet) {
+  set("Shx", u"C:\\f1;C:\\f2");
+  EXPECT_EQ(collapsed(u"C:\\f2\\a.shx"), "+%ShxFolder%\\a.shx");
+  EXPECT_EQ(collapsed(u"C:\\Users\\me\\a"), "+%UserProfileFolder%\\a");
+  EXPECT_EQ(collapsed(u"x C:\\Users\\me y"), "+x %UserProfileFolder% y");
+  EXPECT_EQ(collapsed(u"c:\\users\\me\\a"), "-(unchanged)");
+}
+
+TEST_F(Paths, StayWithoutAUsersFolder) {
+  m_services.folder.clear();
+  set("Shx", u"C:\\f1");
+  EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "-(unchanged)");
+  EXPECT_EQ(collapsed(u"C:\\f1\\x"), "-(unchanged)");
+}
+
+TEST_F(Paths, StayWithoutAHost) {
+  set("Shx", u"C:\\f1");
+  withoutHost();
+  EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "-(unchanged)");
+  EXPECT_EQ(expanded(u"%UserProfileFolder%\\x"), "+C:\\Users\\me\\x");
+}
+
+TEST_F(Paths, OfFilesExpandOnlyFromTheirStart) {
+  EXPECT_EQ(expandedStoredPath(QStringLiteral("%UserProfileFolder%\\x")),
+            QStringLiteral("C:\\Users\\me\\x"));
+  EXPECT_EQ(expandedStoredPath(QStringLiteral("a\\%UserProfileFolder%\\x")),
+            QStringLiteral("a\\%UserProfileFolder%\\x"));
+  EXPECT_EQ(expandedStoredPath(QStringLiteral("%Other%\\x")), QStringLiteral("%Other%\\x"));
+  EXPECT_EQ(expandedStoredPath(OdString()), OdString());
+}
+
+TEST_F(Paths, OfFilesCollapseOnlyToWhatComesBack) {
+  set("Shx", u"C:\\f1;C:\\f2");
+  for (const char16_t* path : {u"C:\\Users\\me\\x", u"C:\\f1\\x", u"C:\\f2\\x", u"D:\\x",
+                               u"D:\\C:\\Users\\me\\x", u"", u"%ShxFolder"}) {
+    const OdString text = OdString::fromUtf16(path);
+    EXPECT_EQ(expandedStoredPath(collapsedStoredPath(text)), text);
+  }
+  EXPECT_EQ(collapsedStoredPath(QStringLiteral("C:\\Users\\me\\x")),
+            QStringLiteral("%UserProfileFolder%\\x"));
+  EXPECT_EQ(collapsedStoredPath(QStringLiteral("D:\\C:\\Users\\me\\x")),
+            QStringLiteral("D:\\C:\\Users\\me\\x"));
+}
+
+struct Pair {
+  const char16_t* in;
+  const char* out;
+};
+
+TEST_F(Paths, AreNormalised) {
+  const Pair cases[] = {
+      {u"C:\\a\\b\\..\\c", "C:\\a\\c"},
+      {u"\\..\\a", "\\..\\a"},
+      {u"C:\\a\\.\\b", "C:\\a\\b"},
+      {u"C:\\a\\.\\.\\.\\b", "C:\\a\\b"},
+      {u"C:\\a\\b\\c\\..\\..\\d", "C:\\a\\d"},
+      {u"C:\\a\\..\\b\\..\\c", "C:\\c"},
+      {u"C:\\..\\a", "C:\\..\\a"},
+      {u"a\\..\\b", "a\\..\\b"},
+      {u"C:\\a\\..", "C:\\a\\.."},
+      {u"C:\\a..\\..b\\c", "C:\\a..\\..b\\c"},
+      {u"\\a\\..\\..\\b", "\\..\\b"},
+      {u"\\\\srv\\share\\..\\x", "\\\\srv\\x"},
+      {u"", ""},
+  };
+  for (const Pair& c : cases) {
+    OdString path = OdString::fromUtf16(c.in);
+    normalizePath(path);
+    EXPECT_EQ(path.toStdString(), c.out) << OdString::fromUtf16(c.in).toStdString();
+  }
+}
+
+TEST_F(Paths, AreNormalisedInReasonableTimeWhateverTheirLength) {
+  OdString path = QStringLiteral("C:") + QStringLiteral("\\a\\..").repeated(20000) +
+                  QStringLiteral("\\.").repeated(20000) + QStringLiteral("\\x");
+  normalizePath(path);
+  EXPECT_EQ(path, QStringLiteral("C:\\x"));
+}
+
+struct Combination {
+  const char16_t* relative;
+  const char16_t* base;
+  const char* result;
+};
+
+TEST_F(Paths, AreCombinedWithTheFolderOfABaseFile) {
+  const Combination cases[] = {
+      {u"x.png", u"", "x.png"},
+      {u"x.png", u"file.dtc", "x.png"},
+      {u".", u"C:\\a\\file.dtc", "C:\\a"},
+      {u".\\", u"C:\\a\\file.dtc", "C:\\a"},
+      {u"x.png", u"C:\\a\\file.dtc", "C:\\a\\x.png"},
+      {u"\\x.png", u"C:\\a\\file.dtc", "C:\\a\\x.png"},
+      {u"/x.png", u"C:\\a\\file.dtc", "C:\\a/x.png"},
+      {u"x.png", u"C:/a/file.dtc", "C:/a\\x.png"},
+      {u"x.png", u"C:\\a/file.dtc", "C:\\a\\x.png"},
+      {u".\\Images\\x.png", u"C:\\a\\file.dtc", "C:\\a\\Images\\x.png"},
+      {u"..\\x.png", u"C:\\a\\b\\file.dtc", "C:\\a\\x.png"},
+      {u"", u"C:\\a\\file.dtc", "C:\\a\\"},
+  };
+  for (const Combination& c : cases)
+    EXPECT_EQ(
+        combinePath(OdString::fromUtf16(c.relative), OdString::fromUtf16(c.base)).toStdString(),
+        c.result);
+}
+
+TEST_F(Paths, LoseWhatNoFileNameHolds) {
+  const Pair cases[] = {{u"a/b:c", "abc"},
+                        {u"\\<>/?:;*|,='\"", ""},
+                        {u"K\u00fcche 1.2", "K\xC3\xBC"
+                                            "che 1.2"}};
+  for (const Pair& c : cases) {
+    OdString name = OdString::fromUtf16(c.in);
+    cleanFileName(name);
+    EXPECT_EQ(name.toStdString(), c.out);
+  }
+}
+
+TEST_F(Paths, AreSplitAtSemicolons) {
+  const auto split = [](const char16_t* text) {
+    return splitPathList(OdString::fromUtf16(text)).join(u'|').toStdString();
+  };
+  EXPECT_EQ(split(u"a;;b"), "a|b");
+  EXPECT_EQ(split(u";b;a;"), "b|a");
+  EXPECT_EQ(split(u" a ; b "), " a | b ");
+  EXPECT_EQ(splitPathList(QStringLiteral("a")), QStringList(QStringLiteral("a")));
+  EXPECT_EQ(splitPathList(OdString()), QStringList(OdString()));
+  EXPECT_TRUE(splitPathList(QStringLiteral(";")).isEmpty());
+}
+
+TEST_F(Paths, AreRelativeWithoutSeparatorOrDrive) {
+  for (const char* path : {"a", "a\\b", "..\\a", ""})
+    EXPECT_TRUE(isRelativePath(QString::fromLatin1(path))) << path;
+  for (const char* path : {"C:\\a", "\\a", "/a", "\\\\srv\\a", "c:a"})
+    EXPECT_FALSE(isRelativePath(QString::fromLatin1(path))) << path;
+}
+
+TEST_F(Paths, AreMadeRelativeSegmentBySegment) {
+  const Combination cases[] = {
+      {u"C:\\a\\b\\c.dtc", u"C:\\a", "b\\c.dtc"},
+      {u"C:\\a\\b\\c.dtc", u"C:\\a\\", "b\\c.dtc"},
+      {u"C:\\a\\c.dtc", u"C:\\a\\b\\d", "..\\..\\c.dtc"},
+      {u"C:\\ab\\c.dtc", u"C:\\a", "..\\ab\\c.dtc"},
+      {u"C:\\a", u"C:\\a", "."},
+      {u"\\home\\a\\c", u"/home/b", "..\\a\\c"},
+      {u"D:\\c", u"C:\\a", "(none)"},
+      {u"\\a\\c", u"\\b", "(none)"},
+      {u"", u"C:\\a", "(none)"},
+      {u"C:\\a", u"", "(none)"},
+  };
+  for (const Combination& c : cases) {
+    OdString out;
+    const bool done =
+        makeRelativePath(OdString::fromUtf16(c.relative), OdString::fromUtf16(c.base), out);
+    EXPECT_EQ(done ? out.toStdString() : "(none)", c.result);
+  }
+}
+
+TEST_F(Paths, OfTheModulesOwnFoldersFollowTheUsersData) {
+  EXPECT_EQ(baseFolder(), QStringLiteral("C:\\Users\\me\\data\\ToolPalette"));
+  EXPECT_EQ(defaultCatalogFile(),
+            QStringLiteral("C:\\Users\\me\\data\\ToolPalette\\DrfTcCatalog.dtc"));
+  EXPECT_EQ(defaultPalettesFolder(), QStringLiteral("C:\\Users\\me\\data\\ToolPalette\\Palettes"));
+  EXPECT_EQ(defaultImagesFolder(),
+            QStringLiteral("C:\\Users\\me\\data\\ToolPalette\\Palettes\\Images"));
+}
+
+TEST_F(Paths, OfACatalogsPalettesAreMadeWhenTheyAreAskedFor) {
+  QTemporaryDir temporary;
+  const OdString folder = temporary.path();
+  EXPECT_EQ(palettesFolderOf(folder + QStringLiteral("\\DrfTcCatalog.dtc")),
+            folder + QStringLiteral("\\Palettes"));
+  EXPECT_TRUE(QDir(folder + QStringLiteral("/Palettes")).exists());
+}
+
+TEST_F(Paths, OfACatalogWithoutFolderAreTheNameAlone) {
+  m_services.deniedFolder = QStringLiteral("Palettes");
+  EXPECT_EQ(palettesFolderOf(QStringLiteral("DrfTcCatalog.dtc")), QStringLiteral("Palettes"));
+}
+
+TEST_F(Paths, AreConfiguredInTheHost) {
+  const auto storage = odrxMake<OdTcValueStorageImpl>();
+  EXPECT_EQ(storage->toolPaletteFolders(), OdString());
+  set("ToolPaletteDir", u"C:\\a;C:\\b");
+  set("Shx", u"C:\\f");
+  EXPECT_EQ(storage->toolPaletteFolders(), QStringLiteral("C:\\a;C:\\b"));
+  EXPECT_EQ(storage->fontFolders(), QStringLiteral("C:\\f"));
+  withoutHost();
+  EXPECT_EQ(storage->fontFolders(), OdString());
+}
+
+TEST_F(Paths, StorageIsThereBetweenStartAndStop) {
+  EXPECT_EQ(OdTcValueStorageImpl::instance(), nullptr);
+  const auto storage = odrxMake<OdTcValueStorageImpl>();
+  OdTcValueStorageImpl::setInstance(storage);
+  EXPECT_EQ(OdTcValueStorageImpl::instance(), storage.get());
+  OdTcValueStorageImpl::setInstance(nullptr);
+  EXPECT_EQ(OdTcValueStorageImpl::instance(), nullptr);
+}
+
+} // namespace
