@@ -14,8 +14,9 @@ struct OdDbRawSection {
 
 /// One place in the order of the header's variables.
 struct OdDbHeaderEntry {
-  int known = -1;  ///< the row of the table, or -1
-  QByteArray tags; ///< the lines of a variable that the table does not know
+  int known = -1;        ///< the row of the table, or -1
+  std::int16_t code = 0; ///< the group code in the file, or 0
+  QByteArray tags;       ///< the lines of a variable that the table does not know
 };
 
 struct OdDbDatabaseData {

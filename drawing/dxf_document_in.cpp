@@ -249,6 +249,8 @@ void OdDbDxfReader::readHeader() {
       continue;
     }
     const auto i = static_cast<std::size_t>(entry->known);
+    // Some variables changed their code between versions.
+    if (entry->code == 0) entry->code = static_cast<std::int16_t>(tag.code);
     OdDbVarValue& value = m_data.vars[i];
     m_data.varPresent[i] = true;
     switch (vars[i].type) {
@@ -476,7 +478,7 @@ void OdDbDxfReader::readEntity(OdDbObjectId block) {
         QStringLiteral("a %1 of this version cannot be taken over").arg(latin(name.substr(0, 40))));
   if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
   if (follows && m_parent) {
-    m_in.enter(*entity, m_parent->objectId());
+    m_in.enterFollower(*entity, m_parent->objectId());
     m_parent->addFollower(entity->objectId());
     if (name == "SEQEND") m_parent = nullptr;
     return;

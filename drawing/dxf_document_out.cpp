@@ -50,43 +50,44 @@ class Writer {
       if (entry.known < 0) {
         m_out.kept(entry.tags);
       } else {
-        variable(static_cast<std::size_t>(entry.known));
+        variable(static_cast<std::size_t>(entry.known), entry.code);
         written[static_cast<std::size_t>(entry.known)] = true;
       }
     }
     for (std::size_t i = 0; i < written.size(); ++i)
-      if (!written[i]) variable(i);
+      if (!written[i]) variable(i, 0);
     m_out.endSection();
   }
 
-  void variable(std::size_t index) {
+  void variable(std::size_t index, int codeInFile) {
     const V& row = oddbHeaderVars()[index];
     const std::string_view name = row.name;
+    const int code = codeInFile != 0 ? codeInFile : row.code;
     if (name == "ACADVER" || oddbHeaderVarSince(row) > m_out.version()) return;
     const bool isSeed = name == "HANDSEED";
     if (!m_data.varPresent[index] && !isSeed) return;
     m_out.raw(9, std::string("$").append(name));
     const OdDbVarValue& value = m_data.vars[index];
     if (isSeed) {
-      m_out.handle(row.code, m_data.handseed);
+      m_out.handle(code, m_data.handseed);
     } else if (const auto* whole = std::get_if<std::int64_t>(&value)) {
-      m_out.integer(row.code, *whole);
+      m_out.integer(code, *whole);
     } else if (const auto* real = std::get_if<double>(&value)) {
-      m_out.real(row.code, *real);
+      m_out.real(code, *real);
     } else if (const auto* text = std::get_if<OdString>(&value)) {
-      m_out.text(row.code, *text);
+      m_out.text(code, *text);
     } else if (const auto* point = std::get_if<OdGePoint3d>(&value)) {
       if (row.type == V::kPoint2d)
-        m_out.point2d(row.code, {point->x, point->y});
+        m_out.point2d(code, {point->x, point->y});
       else
-        m_out.point(row.code, *point);
+        m_out.point(code, *point);
     } else if (const auto* color = std::get_if<OdCmColor>(&value)) {
-      m_out.integer(row.code, color->colorIndex());
+      m_out.integer(code, color->colorIndex());
     } else if (const auto* id = std::get_if<OdDbObjectId>(&value)) {
       if (row.type == V::kHandle)
-        m_out.reference(row.code, *id);
+        m_out.reference(code, *id);
       else
-        m_out.recordName(row.code, *id, row.preset);
+        m_out.recordName(code, *id, row.preset);
     }
   }
 
@@ -110,6 +111,7 @@ class Writer {
     const auto table = m_database.getBlockTableId().openAs<OdDbBlockTable>();
     for (auto it = table->newIterator(); !it->done(); it->step()) {
       const OdSmartPtr<OdDbBlockTableRecord> block = it->getRecord();
+      m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
       const OdDbObjectPtr begin = block->blockBeginId().safeOpenObject();
       m_out.beginObject(*begin, "BLOCK", 5, block->objectId());
       begin->dxfOut(m_out);
@@ -130,6 +132,7 @@ class Writer {
 
   void entitiesOf(OdDbObjectId blockId) {
     const auto block = blockId.openAs<OdDbBlockTableRecord>();
+    m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
     for (const OdDbObjectId id : block->entityIds()) {
       if (!id.isValid()) continue;
       const OdDbObject& entity = *id.stub()->object;

@@ -142,7 +142,7 @@ void OdDbEntity::dxfInEnd(OdDbDxfIn&) {
 void OdDbEntity::dxfOut(OdDbDxfOut& out) const {
   const Common& c = m_common;
   out.subclass("AcDbEntity");
-  if (ownerId() == out.database().getPaperSpaceId()) out.integer(67, 1);
+  if (out.isPaperSpace()) out.integer(67, 1);
   out.recordName(8, c.layer, "0");
   if (!c.linetype.isNull() && c.linetype != out.database().getLinetypeByLayerId())
     out.recordName(6, c.linetype, "ByLayer");

@@ -265,3 +265,9 @@ bool OdDbDxfIn::readObject(OdDbObject& object, OdDbObjectId owner) {
   enter(object, owner);
   return true;
 }
+
+void OdDbDxfIn::enterFollower(OdDbObject& object, OdDbObjectId leader) {
+  enter(object, leader);
+  if (!m_namedOwner.isNull() && !m_plain)
+    object.m_owner = OdDbObjectId(&data().stubFor(m_database, m_namedOwner));
+}

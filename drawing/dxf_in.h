@@ -72,6 +72,9 @@ class OdDbDxfIn {
 
   /// Puts the object under its handle, or under a new one if that is missing or taken.
   void enter(OdDbObject& object, OdDbObjectId owner);
+  /// Puts what follows a polyline or an insert under its handle, outside of every list. Files name
+  /// the leader or its block as the owner, which is kept.
+  void enterFollower(OdDbObject& object, OdDbObjectId leader);
   /// Reads the tags without entering the object.
   void readTags(OdDbObject& object);
 

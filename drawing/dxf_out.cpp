@@ -29,7 +29,11 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
       m_utf8 ? QByteArray("UTF-8")
              : oddxf::encodingOf(view(database.sysVarText("DWGCODEPAGE").toLatin1()));
   m_encoder = QStringEncoder(codePage.constData());
-  if (!m_encoder.isValid()) m_encoder = QStringEncoder(QStringEncoder::Latin1);
+  m_codePageDecoder = QStringDecoder(codePage.constData());
+  if (!m_encoder.isValid()) {
+    m_encoder = QStringEncoder(QStringEncoder::Latin1);
+    m_codePageDecoder = QStringDecoder(QStringDecoder::Latin1);
+  }
   m_transcode = codePage != data.encoding && data.encoding != "ISO-8859-1";
   if (m_transcode) m_keptDecoder = QStringDecoder(data.encoding.constData());
 }
@@ -59,25 +63,30 @@ void OdDbDxfOut::text(int groupCode, const OdString& value) {
   if (m_utf8) {
     m_buffer.append(line.toUtf8());
   } else {
-    m_encoder.resetState();
-    const QByteArray whole = m_encoder.encode(line);
-    if (!m_encoder.hasError()) {
+    const QByteArray whole = inCodePage(line);
+    if (!whole.isEmpty() || line.isEmpty()) {
       m_buffer.append(whole);
     } else {
       // Character by character, so that only those outside of the code page are escaped.
-      for (const QChar c : line) {
-        m_encoder.resetState();
-        const QByteArray one = m_encoder.encode(QStringView(&c, 1));
-        if (m_encoder.hasError())
+      for (const QChar& c : line) {
+        if (const QByteArray one = inCodePage(QStringView(&c, 1)); !one.isEmpty())
+          m_buffer.append(one);
+        else
           m_buffer.append("\\U+").append(
               QByteArray::number(c.unicode(), 16).toUpper().rightJustified(4, '0'));
-        else
-          m_buffer.append(one);
       }
-      m_encoder.resetState();
     }
   }
   m_buffer.append('\n');
+}
+
+QByteArray OdDbDxfOut::inCodePage(QStringView text) {
+  m_encoder.resetState();
+  m_codePageDecoder.resetState();
+  const QByteArray bytes = m_encoder.encode(text);
+  // Encoders put something else in the place of what they lack, and not all of them tell.
+  const OdString back = m_codePageDecoder.decode(bytes);
+  return back == text ? bytes : QByteArray();
 }
 
 void OdDbDxfOut::integer(int groupCode, std::int64_t value) {

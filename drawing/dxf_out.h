@@ -19,6 +19,9 @@ class OdDbDxfOut {
 
   OdDb::DwgVersion version() const { return m_version; }
   const OdDbDatabase& database() const { return m_database; }
+  /// Entities on paper say so.
+  bool isPaperSpace() const { return m_paperSpace; }
+  void setPaperSpace(bool paper) { m_paperSpace = paper; }
 
   void raw(int code, std::string_view value);
   void text(int code, const OdString& value);
@@ -55,6 +58,8 @@ class OdDbDxfOut {
  private:
   void code(int code);
   void endSubclass();
+  /// The bytes in the code page of the file; empty if it lacks a character.
+  QByteArray inCodePage(QStringView text);
 
   const OdDbDatabase& m_database;
   OdDb::DwgVersion m_version;
@@ -62,7 +67,9 @@ class OdDbDxfOut {
   QByteArray m_buffer;
   QStringEncoder m_encoder;
   QStringDecoder m_keptDecoder;
+  QStringDecoder m_codePageDecoder;
   bool m_utf8, m_transcode;
+  bool m_paperSpace = false;
   const OdDbDxfResidue* m_residue = nullptr;
   std::string_view m_subclass;
 };

@@ -74,6 +74,7 @@ class OdDbObject : public OdRxObject {
   friend class OdDbDatabase;
   friend class OdDbUndo;
   friend class OdDbObjectId;
+  friend class OdDbDxfIn;
 
   OdDbStub* m_stub = nullptr;
   OdDbObjectId m_owner;

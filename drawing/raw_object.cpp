@@ -1,5 +1,7 @@
 #include "drawing/raw_object.h"
 
+#include "drawing/dxf_in.h"
+
 void OdDbRawObject::assignFrom(const OdDbObject& other) {
   OdDbObject::assignFrom(other);
   m_name = static_cast<const OdDbRawObject&>(other).m_name;
@@ -23,3 +25,9 @@ bool OdDbRawEntity::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbRawEntity::transformBy(const OdGeMatrix3d&) { return false; }
+
+bool OdDbRawEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  if (OdDbEntity::dxfInTag(tag, in)) return true;
+  // The end of a block is written with its marker by whoever writes the block.
+  return m_name == "ENDBLK" && tag.is(100, "AcDbBlockEnd");
+}

@@ -41,6 +41,7 @@ class OdDbRawEntity : public OdDbEntity {
   /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
   const std::vector<OdDbObjectId>& followers() const { return m_followers; }
   void addFollower(OdDbObjectId id) { m_followers.push_back(id); }
+  bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   /// Unknown: false.
   bool getGeomExtents(OdGeExtents3d& extents) const override;
   /// Not possible: false.
