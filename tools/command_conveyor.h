@@ -11,8 +11,8 @@ namespace tc {
 
 /// Insert a block, a whole drawing or an external reference.
 struct OdTcBlockRequest {
-  OdString name;
-  OdString sourceFile;
+  OdString name = {};
+  OdString sourceFile = {};
   double scale = 1.0;
   double rotation = 0.0; ///< radians
   bool askRotation = false;
@@ -25,8 +25,8 @@ struct OdTcBlockRequest {
 
 /// Attach a raster image.
 struct OdTcRasterRequest {
-  OdString name;
-  OdString path;
+  OdString name = {};
+  OdString path = {};
   double scale = 1.0;
   double rotation = 0.0; ///< radians
 };

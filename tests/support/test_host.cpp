@@ -40,8 +40,9 @@ void TestHost::reset() {
   m_off.clear();
   documents.closeAll();
   events.reactors.clear();
+  events.onAdd = events.onRemove = nullptr;
   completion.sources.clear();
-  completion.onRemove = nullptr;
+  completion.onRegister = completion.onRemove = nullptr;
   application.reactors.clear();
   application.settings.clear();
   application.userFolder.clear();

@@ -117,12 +117,14 @@ void TestEditorEvents::sysVarChanged(OdDbDatabase* database, const OdString& nam
 }
 
 void TestEditorEvents::addReactor(HostEditorReactor* reactor) {
+  if (onAdd) onAdd();
   reactors.push_back(reactor);
   note(QStringLiteral("addReactor ") +
        (reactor->isA() ? reactor->isA()->name() : QStringLiteral("(no class)")));
 }
 
 void TestEditorEvents::removeReactor(HostEditorReactor* reactor) {
+  if (onRemove) onRemove();
   const auto at = std::find(reactors.begin(), reactors.end(), reactor);
   note(at == reactors.end() ? QStringLiteral("removeReactor unknown")
                             : QStringLiteral("removeReactor"));
@@ -141,6 +143,7 @@ TestCompletionRegistry::offers(const OdString& source) {
 void TestCompletionRegistry::registerSource(const OdString& name,
                                             HostEdCompletion::Provider provider) {
   if (provider) {
+    if (onRegister) onRegister();
     sources[name] = std::move(provider);
     note(QStringLiteral("registerSource ") + name);
     return;

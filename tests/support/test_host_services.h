@@ -118,6 +118,8 @@ class TestDocumentManager : public IHostDocumentManager {
 class TestEditorEvents : public IHostEditorEvents {
  public:
   std::vector<HostEditorReactor*> reactors;
+  /// Called when a reactor is added or removed, before that is done.
+  std::function<void()> onAdd, onRemove;
 
   void commandWillStart(const OdString& name);
   void commandEnded(const OdString& name);
@@ -140,8 +142,8 @@ class TestEditorEvents : public IHostEditorEvents {
 class TestCompletionRegistry : public HostEdCompletion::Registry {
  public:
   QMap<OdString, HostEdCompletion::Provider> sources;
-  /// Called when a source is removed, before it goes.
-  std::function<void()> onRemove;
+  /// Called when a source is registered or removed, before that is done.
+  std::function<void()> onRegister, onRemove;
 
   /// All offers of a source, in order.
   std::vector<std::shared_ptr<HostEdCompletion::Entry>> offers(const OdString& source);

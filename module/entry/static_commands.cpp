@@ -1,0 +1,26 @@
+#include "module/entry/static_commands.h"
+
+#include "host/host_locator.h"
+#include "module/entry/tool_palettes_command.h"
+#include "tools/deferred_command.h"
+#include "tools/execute_tool_command.h"
+
+namespace tc {
+namespace {
+
+// The host keeps the names for longer than the library stays.
+OdString name(const char16_t* text) { return OdString::fromUtf16(text); }
+
+constexpr char16_t kGroup[] = u"HOST";
+
+} // namespace
+
+void registerStaticCommands() {
+  // Each registration has a factory of its own.
+  if (const KVPtr<ICmdFactory> factory = host::newCmdFactory())
+    factory->registerCommand(name(u"ToolPalettes"), &TcCmd::create, name(kGroup), 0);
+  if (const KVPtr<ICmdFactory> factory = host::newCmdFactory())
+    factory->registerFunction(name(kGroup), name(kExecuteToolCommand), 0, &executeToolCommand);
+}
+
+} // namespace tc

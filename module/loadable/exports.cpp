@@ -1,0 +1,23 @@
+// What a host finds in the library by name, and what happens while it is being loaded.
+#include "module/entry/static_commands.h"
+#include "module/entry/tool_palette_module.h"
+#include "module/export.h"
+
+extern "C" {
+
+TC_API void odrxCreateModuleObject(OdModuleHandle handle, OdRxModule** module) {
+  *module = tc::OdTcModule::instance(handle);
+}
+
+TC_API void odrxGetAPIVersion(unsigned* major, unsigned* majorMinor, unsigned* minor,
+                              unsigned* buildMinor) {
+  *major = 4;
+  *majorMinor = 3;
+  *minor = 1;
+  *buildMinor = 0;
+}
+
+} // extern "C"
+
+// The commands are there before anything else of the module runs.
+static const bool g_commandsAreRegistered = (tc::registerStaticCommands(), true);
