@@ -72,6 +72,7 @@ void Engine::run() {
   while (!m_isExiting && step()) m_documents.buryClosed();
   m_documents.buryClosed();
   m_isRunning = false;
+  m_settings->flush();
 }
 
 void Engine::cancelAll() {

@@ -1,8 +1,10 @@
 #include "drafton/engine/settings_store.h"
 
+#include "drafton/engine/ini_format.h"
 #include "drafton/engine/translator.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace drafton {
@@ -62,31 +64,9 @@ OdVariant decoded(const OdString& stored) {
   }
 }
 
-/// A name with the signs that separate names in the file written as %XX.
-OdString escaped(const OdString& name) {
-  if (name.isEmpty()) return QStringLiteral("%00");
-  OdString result;
-  for (const QChar c : name) {
-    if (c == u'/' || c == u'\\' || c == u'%')
-      result += QStringLiteral("%%1").arg(c.unicode(), 2, 16, QLatin1Char('0')).toUpper();
-    else
-      result += c;
-  }
-  return result;
-}
-
-OdString unescaped(const OdString& name) {
-  if (name == QLatin1String("%00")) return {};
-  OdString result = name;
-  result.replace(QLatin1String("%2F"), QLatin1String("/"));
-  result.replace(QLatin1String("%5C"), QLatin1String("\\"));
-  result.replace(QLatin1String("%25"), QLatin1String("%"));
-  return result;
-}
-
 OdString prefixOf(const SettingsStore::Section& section) {
   OdString prefix;
-  for (const OdString& name : section) prefix += escaped(name) + u'/';
+  for (const OdString& name : section) prefix += escapedIniName(name) + u'/';
   return prefix;
 }
 
@@ -104,63 +84,54 @@ OdString reasonNotToRead(const QFileInfo& file) {
 
 SettingsStore::SettingsStore(const OdString& path)
   : m_path(path) {
-  const QFileInfo info(path);
-  OdString reason = reasonNotToRead(info);
-  if (reason.isEmpty()) {
-    m_file = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    m_file->setFallbacksEnabled(false);
-    readFrom(*m_file);
-    if (m_file->status() != QSettings::NoError)
-      reason = translated(u"it holds lines that are no settings");
-    else if (info.exists() && !m_file->isWritable())
-      reason = translated(u"it cannot be written");
-  }
-  if (reason.isEmpty()) return;
-  m_file.reset();
-  m_problem = translated(u"The settings file %1 cannot be used: %2. Settings of this run are not "
-                         u"kept.")
-                  .arg(path, reason);
+  const OdString reason = read();
+  m_isWritable = reason.isEmpty();
+  if (!m_isWritable) refuse(reason);
 }
 
 SettingsStore::~SettingsStore() { flush(); }
 
-void SettingsStore::readFrom(QSettings& file) {
-  for (const OdString& key : file.allKeys()) {
-    const QVariant value = file.value(key);
-    // A text with commas that somebody typed into the file is read as a list.
-    const OdString text = value.typeId() == QMetaType::QStringList
-                              ? value.toStringList().join(QStringLiteral(", "))
-                              : value.toString();
-    m_values[key] = decoded(text);
-  }
+void SettingsStore::refuse(const OdString& reason) {
+  m_problem = translated(u"The settings file %1 cannot be used: %2. Settings of this run are not "
+                         u"kept.")
+                  .arg(m_path, reason);
+}
+
+/// Reads what can be read; gives the reason not to write the file, if there is one.
+OdString SettingsStore::read() {
+  const QFileInfo info(m_path);
+  const OdString reason = reasonNotToRead(info);
+  if (!reason.isEmpty() || !info.exists()) return reason;
+  QFile file(m_path);
+  if (!file.open(QIODevice::ReadOnly)) return file.errorString();
+  QSettings::SettingsMap found;
+  const bool isGood = readIni(file, found);
+  for (auto at = found.begin(); at != found.end(); ++at)
+    m_values[at.key()] = decoded(at.value().toString());
+  if (!isGood) return translated(u"it holds lines that are no settings");
+  return info.isWritable() ? OdString() : translated(u"it cannot be written");
 }
 
 bool SettingsStore::get(const Section& section, const OdString& key, OdVariant& out) const {
-  const auto at = m_values.find(prefixOf(section) + escaped(key));
+  const auto at = m_values.find(prefixOf(section) + escapedIniName(key));
   if (at == m_values.end()) return false;
   out = at->second;
   return true;
 }
 
 void SettingsStore::set(const Section& section, const OdString& key, const OdVariant& value) {
-  const OdString place = prefixOf(section) + escaped(key);
+  const OdString place = prefixOf(section) + escapedIniName(key);
   if (const auto at = m_values.find(place); at != m_values.end() && at->second == value) return;
   m_values[place] = value;
-  if (m_file) m_file->setValue(place, encoded(value));
-  changed(section, key);
+  m_pending[place] = encoded(value);
+  tell(section, key);
 }
 
 bool SettingsStore::remove(const Section& section, const OdString& key) {
-  const OdString place = prefixOf(section) + escaped(key);
+  const OdString place = prefixOf(section) + escapedIniName(key);
   if (m_values.erase(place) == 0) return false;
-  // Removing a key takes the keys below it along, which are a section's of the same name here.
-  if (m_file) {
-    m_file->remove(place);
-    for (auto below = m_values.lower_bound(place + u'/');
-         below != m_values.end() && below->first.startsWith(place + u'/'); ++below)
-      m_file->setValue(below->first, encoded(below->second));
-  }
-  changed(section, key);
+  m_pending[place] = std::nullopt;
+  tell(section, key);
   return true;
 }
 
@@ -170,7 +141,7 @@ QStringList SettingsStore::keys(const Section& section) const {
   for (auto at = m_values.lower_bound(prefix); at != m_values.end() && at->first.startsWith(prefix);
        ++at) {
     const OdString rest = at->first.mid(prefix.size());
-    if (!rest.contains(u'/')) result << unescaped(rest);
+    if (!rest.contains(u'/')) result << unescapedIniName(rest);
   }
   return result;
 }
@@ -184,19 +155,42 @@ bool SettingsStore::hasSection(const Section& section) const {
 
 void SettingsStore::makeSection(const Section& section) {
   OdString prefix;
-  for (const OdString& name : section) m_madeSections[prefix += escaped(name) + u'/'] = true;
+  for (const OdString& name : section) m_madeSections[prefix += escapedIniName(name) + u'/'] = true;
 }
 
-void SettingsStore::changed(const Section& section, const OdString& key) const {
+void SettingsStore::tell(const Section& section, const OdString& key) const {
   if (m_listener) m_listener((section + QStringList(key)).join(u'/'));
 }
 
 bool SettingsStore::flush() {
-  if (!m_file) return m_path.isEmpty();
-  m_file->sync();
-  if (m_file->status() == QSettings::NoError) return true;
-  m_problem = translated(u"The settings file %1 cannot be written.").arg(m_path);
-  return false;
+  if (!m_isWritable || m_pending.empty()) return m_problem.isEmpty();
+  // Somebody may have damaged the file meanwhile: it would be replaced by what can be read of it.
+  QFile current(m_path);
+  QSettings::SettingsMap kept;
+  if (current.open(QIODevice::ReadOnly) && !readIni(current, kept)) {
+    m_isWritable = false;
+    refuse(translated(u"it holds lines that are no settings"));
+    return false;
+  }
+  QSettings file(m_path, iniFormat());
+  for (const auto& [place, written] : m_pending) {
+    if (written) {
+      file.setValue(place, *written);
+      continue;
+    }
+    file.remove(place);
+    // That takes the keys of a section of the same name along.
+    for (auto below = kept.lowerBound(place + u'/');
+         below != kept.end() && below.key().startsWith(place + u'/'); ++below)
+      file.setValue(below.key(), below.value());
+  }
+  file.sync();
+  if (file.status() != QSettings::NoError) {
+    m_problem = translated(u"The settings file %1 cannot be written.").arg(m_path);
+    return false;
+  }
+  m_pending.clear();
+  return true;
 }
 
 } // namespace drafton

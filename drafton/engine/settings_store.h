@@ -3,11 +3,9 @@
 
 #include "frame/variant.h"
 
-#include <QSettings>
-
 #include <functional>
 #include <map>
-#include <memory>
+#include <optional>
 
 namespace drafton {
 
@@ -42,7 +40,7 @@ class SettingsStore {
   /// True if there is a key in the section or below it, or the section was made in this run.
   bool hasSection(const Section& section) const;
   void makeSection(const Section& section);
-  /// Hands changes to the file now. False if that fails; problem() says why.
+  /// Brings changes into the file. False if that fails; problem() says why.
   bool flush();
 
   /// Called behind every change of a value, with the path of the key ("CommandLine/completetools").
@@ -51,15 +49,17 @@ class SettingsStore {
   }
 
  private:
-  void readFrom(QSettings& file);
-  void changed(const Section& section, const OdString& key) const;
+  OdString read();
+  void tell(const Section& section, const OdString& key) const;
+  void refuse(const OdString& reason);
 
   OdString m_path;
   OdString m_problem;
   // Section and key with their signs escaped, joined by '/': the form of the file.
   std::map<OdString, OdVariant> m_values;
   std::map<OdString, bool> m_madeSections;
-  std::unique_ptr<QSettings> m_file;
+  std::map<OdString, std::optional<OdString>> m_pending; // not in the file yet; none: removed
+  bool m_isWritable = false;
   std::function<void(const OdString&)> m_listener;
 };
 

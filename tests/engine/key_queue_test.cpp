@@ -13,11 +13,21 @@ OdString keysOf(const char* text, KeyQueue::Meaning meaning) {
   OdString keys;
   while (const std::optional<Key> key = queue.take()) {
     switch (key->kind) {
-    case Key::Kind::kChar: keys += key->character; break;
-    case Key::Kind::kBlank: keys += u'_'; break;
-    case Key::Kind::kEnter: keys += u'E'; break;
-    case Key::Kind::kCancel: keys += u'X'; break;
-    case Key::Kind::kPause: keys += u'P'; break;
+    case Key::Kind::kChar:
+      keys += key->character;
+      break;
+    case Key::Kind::kBlank:
+      keys += u'_';
+      break;
+    case Key::Kind::kEnter:
+      keys += u'E';
+      break;
+    case Key::Kind::kCancel:
+      keys += u'X';
+      break;
+    case Key::Kind::kPause:
+      keys += u'P';
+      break;
     }
   }
   return keys;
@@ -32,20 +42,24 @@ struct MeaningRow {
 class KeyMeaning : public ::testing::TestWithParam<MeaningRow> {};
 
 constexpr MeaningRow kRows[] = {
-    {"a b", "a_b", "a_b"},       {"a\tb", "a_b", "a_b"},     {"^C^Cx", "XXx", "XXx"},
-    {"^cx", "Xx", "Xx"},         {"^M", "E", "E"},           {"^m", "E", "E"},
-    {"a;b", "aEb", "a;b"},       {"a\\b", "aPb", "a\\b"},    {"\n", "E", "E"},
-    {"\r\n", "E", "E"},          {"\r", "E", "E"},           {"\n\n", "EE", "EE"},
-    {"^", "^", "^"},             {"^x", "^x", "^x"},         {"^^C", "^X", "^X"},
-    {"\"q q\"", "\"q_q\"", "\"q_q\""},
+    {"a b", "a_b", "a_b"},   {"a\tb", "a_b", "a_b"},
+    {"^C^Cx", "XXx", "XXx"}, {"^cx", "Xx", "Xx"},
+    {"^M", "E", "E"},        {"^m", "E", "E"},
+    {"a;b", "aEb", "a;b"},   {"a\\b", "aPb", "a\\b"},
+    {"\n", "E", "E"},        {"\r\n", "E", "E"},
+    {"\r", "E", "E"},        {"\n\n", "EE", "EE"},
+    {"^", "^", "^"},         {"^x", "^x", "^x"},
+    {"^^C", "^X", "^X"},     {"\"q q\"", "\"q_q\"", "\"q_q\""},
 };
 
 TEST_P(KeyMeaning, OfAMacro) {
-  EXPECT_EQ(keysOf(GetParam().text, KeyQueue::Meaning::kMacro), OdString(QLatin1String(GetParam().macro)));
+  EXPECT_EQ(keysOf(GetParam().text, KeyQueue::Meaning::kMacro),
+            OdString(QLatin1String(GetParam().macro)));
 }
 
 TEST_P(KeyMeaning, OfTypedText) {
-  EXPECT_EQ(keysOf(GetParam().text, KeyQueue::Meaning::kTyped), OdString(QLatin1String(GetParam().typed)));
+  EXPECT_EQ(keysOf(GetParam().text, KeyQueue::Meaning::kTyped),
+            OdString(QLatin1String(GetParam().typed)));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, KeyMeaning, ::testing::ValuesIn(kRows));

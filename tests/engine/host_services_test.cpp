@@ -1,0 +1,171 @@
+#include "drafton/engine/host_services.h"
+
+#include "engine/support/engine_fixture.h"
+#include "frame/dynamic_library.h"
+#include "frame/file_path.h"
+#include "host/command_menu.h"
+#include "host/exports.h"
+#include "host/hatch_settings.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace drafton;
+
+namespace {
+
+class HostServicesTest : public EngineFixture {
+ protected:
+  template <class F>
+  F exported(const char* name) {
+    return oddynlib::function<F>(oddynlib::mainExecutable(), name);
+  }
+};
+
+} // namespace
+
+TEST_F(HostServicesTest, TheProgramExportsWhatModulesLookFor) {
+  const auto instance = exported<hostexport::GetMainDllInstance>(hostexport::kGetMainDllInstance);
+  ASSERT_TRUE(instance);
+  EXPECT_EQ(instance(), oddynlib::mainExecutable());
+  const auto name = exported<hostexport::GetMainDllName>(hostexport::kGetMainDllName);
+  ASSERT_TRUE(name);
+  EXPECT_EQ(oddynlib::loadedModule(OdString::fromUtf16(name())), oddynlib::mainExecutable());
+  const auto lead = exported<hostexport::GetHostFuncPtr>(hostexport::kGetHostFuncPtr);
+  ASSERT_TRUE(lead);
+  EXPECT_EQ(lead(1), nullptr);
+  EXPECT_EQ(lead(hostexport::kServicesIndex)(), static_cast<IHostServices*>(&engine().services()));
+  EXPECT_EQ(exported<hostexport::GetApp>(hostexport::kGetApp)(), &engine().application());
+  KVPtr<IMemParam> parameters;
+  exported<hostexport::NewMemParam>(hostexport::kNewMemParam)(parameters.out());
+  ASSERT_TRUE(parameters);
+  parameters->setValue(QStringLiteral("b"), 1);
+  parameters->setValue(QStringLiteral("a"), 2);
+  parameters->setValue(QStringLiteral("b"), 3);
+  EXPECT_EQ(parameters->names(), QStringList({QStringLiteral("b"), QStringLiteral("a")}));
+  OdVariant value;
+  EXPECT_TRUE(parameters->value(QStringLiteral("b"), value));
+  EXPECT_EQ(value, OdVariant(3));
+  EXPECT_FALSE(parameters->value(QStringLiteral("B"), value));
+}
+
+TEST_F(HostServicesTest, WithoutAnEngineTheExportsGiveNothing) {
+  stop();
+  EXPECT_EQ(exported<hostexport::GetApp>(hostexport::kGetApp)(), nullptr);
+  const auto lead = exported<hostexport::GetHostFuncPtr>(hostexport::kGetHostFuncPtr);
+  EXPECT_EQ(lead(hostexport::kServicesIndex)(), nullptr);
+  KVPtr<ICmdFactory> factory;
+  exported<hostexport::NewCmdFactory>(hostexport::kNewCmdFactory)(factory.out());
+  EXPECT_FALSE(factory);
+  EXPECT_EQ(odrxFindClass(QStringLiteral("HostEditorReactor")), nullptr);
+}
+
+TEST_F(HostServicesTest, TheReactorClassesAreRegistered) {
+  ASSERT_TRUE(HostEditorReactor::desc());
+  EXPECT_EQ(HostEditorReactor::desc()->parent(), OdEditorReactor::desc());
+}
+
+TEST_F(HostServicesTest, GivesItsServicesByIdentity) {
+  IHostServices* const services = &engine().services();
+  EXPECT_TRUE(kvQuery<IHostMessages>(services));
+  EXPECT_TRUE(kvQuery<IHostCommandMenu>(services));
+  EXPECT_TRUE(kvQuery<IProfile>(services));
+  EXPECT_FALSE(kvQuery<IRunContext>(services));
+  const KVPtr<IHostHatchSettings> hatch = kvQuery<IHostHatchSettings>(services);
+  ASSERT_TRUE(hatch);
+  OdVariant value;
+  hatch->set(QStringLiteral("hatch_type"), 2);
+  EXPECT_TRUE(kvQuery<IHostHatchSettings>(services)->get(QStringLiteral("hatch_type"), value));
+  EXPECT_EQ(value, OdVariant(2));
+  EXPECT_TRUE(hatch->get(QStringLiteral("hatch_pattern_file"), value));
+  EXPECT_FALSE(hatch->get(QStringLiteral("other"), value));
+}
+
+TEST_F(HostServicesTest, FindsCommandsWithoutRegardToCase) {
+  const auto commands = kvQuery<IHostCommandService>(&engine().services());
+  EXPECT_FALSE(commands->findCommand(QStringLiteral("NOSUCH")));
+  const KVPtr<IHostCommand> command = commands->findCommand(QStringLiteral("newdocument"));
+  ASSERT_TRUE(command);
+  EXPECT_TRUE(command->run(nullptr));
+  EXPECT_EQ(document().name(), QStringLiteral("Drawing2.dxf"));
+}
+
+TEST_F(HostServicesTest, EveryCommandOfTheMenuIsThere) {
+  const auto menu = kvQuery<IHostCommandMenu>(&engine().services());
+  for (int i = 0; i < menu->count(); ++i) {
+    const HostMenuEntry entry = menu->entry(i);
+    EXPECT_TRUE(entry.isCommand);
+    EXPECT_TRUE(engine().commands().find(entry.commandName)) << entry.commandName.toStdString();
+    EXPECT_EQ(entry.shortText.count(u'&'), 1);
+    EXPECT_TRUE(entry.macro.contains(entry.commandName));
+  }
+  EXPECT_FALSE(menu->entry(-1).isCommand);
+  EXPECT_FALSE(menu->entry(menu->count()).isCommand);
+}
+
+TEST_F(HostServicesTest, ATickedMessageIsNotShownAgain) {
+  const auto messages = kvQuery<IHostMessages>(&engine().services());
+  const OdString id = QStringLiteral("ToolPaletteManager\\MTMsg");
+  const auto show = [&] {
+    console().clear();
+    return messages->messageBoxWithCheckBox(id, QStringLiteral("text"), QStringLiteral("cap"), 0);
+  };
+  EXPECT_FALSE(show());
+  EXPECT_TRUE(console().shows(QStringLiteral("text")));
+  console().ticksBoxes = true;
+  EXPECT_TRUE(show());
+  EXPECT_TRUE(console().shows(QStringLiteral("text")));
+  EXPECT_TRUE(show());
+  EXPECT_FALSE(console().shows(QStringLiteral("text")));
+}
+
+TEST_F(HostServicesTest, WithoutACatalogueTextsStayAsTheyAre) {
+  OdString out;
+  const auto translate = exported<hostexport::Translate>(hostexport::kTranslate);
+  EXPECT_FALSE(translate(QStringLiteral("Tool Palettes"), out));
+  EXPECT_EQ(translated(u"Tool Palettes"), QStringLiteral("Tool Palettes"));
+  EXPECT_FALSE(Translator::instance().load(QStringLiteral("/nowhere.qm")));
+}
+
+TEST_F(HostServicesTest, TheRouteMapNamesCommandsThatAreThere) {
+  OdString path;
+  const auto routes = exported<hostexport::GetCmdRouteMap>(hostexport::kGetCmdRouteMap);
+  EXPECT_FALSE(routes(path)) << "there is no program folder";
+  restart({.settingsFile = {},
+           .userDataFolder = {},
+           .programFolder = odpath::fromPlatform(QStringLiteral(BINARY_DIR))});
+  ASSERT_TRUE(routes(path));
+  QFile file(odpath::toPlatform(path));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  int found = 0;
+  for (const QByteArray& line : file.readAll().split('\n')) {
+    const auto valueOf = [&](const char* attribute) {
+      const QByteArray start = QByteArray(attribute) + "=\"";
+      const qsizetype at = line.indexOf(start);
+      if (at < 0) return OdString();
+      const qsizetype from = at + start.size();
+      return OdString::fromUtf8(line.mid(from, line.indexOf('"', from) - from));
+    };
+    if (line.contains("OdRxClassInfo")) {
+      EXPECT_TRUE(odrxFindClass(valueOf("className"))) << line.constData();
+    }
+    if (!line.contains("StartCommand")) continue;
+    EXPECT_TRUE(engine().commands().find(valueOf("name"))) << line.constData();
+    ++found;
+  }
+  EXPECT_GE(found, 5);
+}
+
+TEST_F(HostServicesTest, StartupCommandsAreRunAndUnknownOnesNamed) {
+  QTemporaryDir folder;
+  const OdString file = folder.filePath(QStringLiteral("d.ini"));
+  {
+    SettingsStore store(file);
+    store.set({QStringLiteral("Startup")}, QStringLiteral("NewDocument"), QStringLiteral(""));
+    store.set({QStringLiteral("Startup")}, QStringLiteral("ToolPalettes"), QStringLiteral(""));
+  }
+  restart({.settingsFile = file, .userDataFolder = {}, .programFolder = {}});
+  engine().runStartupCommands();
+  EXPECT_EQ(document().name(), QStringLiteral("Drawing2.dxf"));
+  EXPECT_TRUE(console().shows(QStringLiteral("\"ToolPalettes\" is not known")));
+}

@@ -1,0 +1,133 @@
+#include "drafton/engine/selection.h"
+
+#include "drafton/engine/entity_outline.h"
+#include "drawing/arc.h"
+#include "drawing/circle.h"
+#include "drawing/line.h"
+#include "drawing/polyline.h"
+#include "engine/support/engine_fixture.h"
+
+using namespace drafton;
+
+namespace {
+
+Selection g_chosen;
+
+Task<> choose(CommandContext& context) { g_chosen = co_await selectObjects(context); }
+
+constexpr NativeCommand kChoose[] = {{u"CHOOSE", kNoUndoStep, choose}};
+
+/// A line from (0,0) to (10,0), a circle of radius 2 around (20,0), a line from (0,5) to (30,5) on
+/// the layer "Locked".
+class SelectionTest : public EngineFixture {
+ protected:
+  SelectionTest() {
+    engine().commands().add(kChoose);
+    g_chosen.clear();
+    m_line = add(odrxMake<OdDbLine>(OdGePoint3d{0, 0, 0}, OdGePoint3d{10, 0, 0}));
+    m_circle = add(odrxMake<OdDbCircle>(OdGePoint3d{20, 0, 0}, OdGeVector3d::zAxis(), 2.0));
+    m_locked = add(odrxMake<OdDbLine>(OdGePoint3d{0, 5, 0}, OdGePoint3d{30, 5, 0}));
+    const auto layer = odrxMake<OdDbLayerTableRecord>();
+    layer->setName(QStringLiteral("Locked"));
+    layer->setIsLocked(true);
+    const OdDbObjectId id =
+        database().getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(layer);
+    m_locked.openAs<OdDbEntity>(OdDb::kForWrite)->setLayer(id);
+  }
+  OdDbObjectId add(const OdDbEntityPtr& entity) {
+    return database()
+        .getModelSpaceId()
+        .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+        ->appendOdDbEntity(entity);
+  }
+  /// What is chosen by what is typed: "l" the line, "c" the circle, in order.
+  OdString chosenBy(const OdString& typed) {
+    type(QStringLiteral("CHOOSE ") + typed + QStringLiteral(" \n"));
+    type(QStringLiteral("^C"));
+    OdString result;
+    for (const OdDbObjectId& id : g_chosen)
+      result += id == m_line ? u'l' : id == m_circle ? u'c' : u'?';
+    g_chosen.clear();
+    return result;
+  }
+  OdDbObjectId m_line, m_circle, m_locked;
+};
+
+struct ChoiceRow {
+  const char* typed;
+  const char* chosen;
+};
+
+class Choices : public SelectionTest, public ::testing::WithParamInterface<ChoiceRow> {};
+
+constexpr ChoiceRow kChoices[] = {
+    {"all", "lc"},
+    {"last", "c"},
+    {"5,0", "l"},
+    {"5,0.05", "l"},
+    {"5,1 6,2", ""}, // an empty place, then a window with nothing in it
+    {"18,0", "c"},
+    {"20,0 20.5,0.5", ""}, // inside the circle is not on it
+    {"20,2", "c"},
+    {"w -1,-1 11,1", "l"},
+    {"w -1,-1 5,1", ""},
+    {"c 5,-1 6,1", "l"},
+    {"c 19.5,-0.5 20.5,0.5", ""},
+    {"c 5,-1 25,1", "lc"},
+    {"-1,-3 30,3", "lc"}, // to the right: a window
+    {"6,3 5,-3", "l"},    // to the left: crossing
+    {"10,5", ""},         // a locked layer; then the opposite corner is wanted
+    {"all r 5,0", "c"},
+    {"all r 5,0 a 5,0", "cl"},
+    {"all undo", ""},
+    {"5,0 all", "lc"},
+    {"5,0 5,0", "l"},
+};
+
+TEST_P(Choices, AreMade) {
+  EXPECT_EQ(chosenBy(OdString::fromLatin1(GetParam().typed)),
+            OdString::fromLatin1(GetParam().chosen))
+      << GetParam().typed << "\n"
+      << output().toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Choices, ::testing::ValuesIn(kChoices));
+
+} // namespace
+
+TEST_F(SelectionTest, PreviousIsWhatWasChosenLast) {
+  EXPECT_EQ(chosenBy(QStringLiteral("p")), QString());
+  EXPECT_EQ(chosenBy(QStringLiteral("5,0")), QStringLiteral("l"));
+  EXPECT_EQ(chosenBy(QStringLiteral("p")), QStringLiteral("l"));
+}
+
+TEST_F(SelectionTest, AnEntityIsNamedByItsHandle) {
+  const OdString handle = m_circle.getHandle().ascii();
+  EXPECT_EQ(chosenBy(QStringLiteral("h ") + handle), QStringLiteral("c"));
+  EXPECT_EQ(chosenBy(QStringLiteral("h FFFFFF")), QString());
+  EXPECT_EQ(chosenBy(QStringLiteral("h xyz")), QString());
+}
+
+TEST(EntityOutline, FollowsBulgesFromBothSides) {
+  const auto polyline = odrxMake<OdDbPolyline>();
+  polyline->addVertexAt(0, {0, 0}, 1);
+  polyline->addVertexAt(1, {10, 0});
+  // A half circle counterclockwise from left to right runs below.
+  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, -5, 0}), 0, 0.01);
+  EXPECT_GT(distanceTo(outlineOf(*polyline), {5, 5, 0}), 4);
+  polyline->setBulgeAt(0, -1);
+  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, 5, 0}), 0, 0.01);
+  polyline->setBulgeAt(0, 0);
+  polyline->setClosed(true);
+  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, 0, 0}), 0, 1e-9);
+}
+
+TEST(EntityOutline, AnArcIsOnlyItsArc) {
+  const auto arc = odrxMake<OdDbArc>(OdGePoint3d{}, OdGeVector3d::zAxis(), 10.0, 0.0, kOdaPi / 2);
+  EXPECT_NEAR(distanceTo(outlineOf(*arc), {0, 10, 0}), 0, 1e-9);
+  EXPECT_GT(distanceTo(outlineOf(*arc), {0, -10, 0}), 9);
+  OdGeExtents3d box;
+  box.addPoint({-20, -20, 0});
+  box.addPoint({-1, -1, 0});
+  EXPECT_FALSE(meetsBox(outlineOf(*arc), box));
+}
