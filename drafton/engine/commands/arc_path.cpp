@@ -23,7 +23,13 @@ double signedAngle(double angle) {
   return turned > kOdaPi ? turned - kTurn : turned;
 }
 
-OdGePoint3d turned(const OdGePoint3d& point, const OdGePoint3d& center, double angle) {
+/// An angle from 0 to a full turn; what is a full turn but for rounding is 0.
+double cleanAngle(double angle) {
+  const double turned = odgeNormalAngle(angle);
+  return kTurn - turned < kNoAngle ? 0 : turned;
+}
+
+OdGePoint3d turnedAbout(const OdGePoint3d& point, const OdGePoint3d& center, double angle) {
   const double dx = point.x - center.x;
   const double dy = point.y - center.y;
   const double c = std::cos(angle);
@@ -49,12 +55,14 @@ std::optional<CircularArc> circularArcOf(const ArcPath& path) {
   // From the middle of the chord the centre lies to the left by this part of the chord.
   const double left = (1 / path.bulge - path.bulge) / 4;
   CircularArc arc;
-  arc.center = {(path.start.x + path.end.x) / 2 - dy * left,
-                (path.start.y + path.end.y) / 2 + dx * left, path.start.z};
-  arc.radius = chord * (1 + path.bulge * path.bulge) / (4 * std::abs(path.bulge));
+  const OdGePoint3d middle{(path.start.x + path.end.x) / 2, (path.start.y + path.end.y) / 2,
+                           path.start.z};
+  arc.center =
+      path.center.value_or(OdGePoint3d{middle.x - dy * left, middle.y + dx * left, middle.z});
+  arc.radius = std::hypot(path.start.x - arc.center.x, path.start.y - arc.center.y);
   const bool ccw = path.bulge > 0;
-  arc.startAngle = odgeNormalAngle(directionOf(arc.center, ccw ? path.start : path.end));
-  arc.endAngle = odgeNormalAngle(directionOf(arc.center, ccw ? path.end : path.start));
+  arc.startAngle = cleanAngle(directionOf(arc.center, ccw ? path.start : path.end));
+  arc.endAngle = cleanAngle(directionOf(arc.center, ccw ? path.end : path.start));
   return arc;
 }
 
@@ -81,7 +89,10 @@ std::optional<ArcPath> arcAround(const OdGePoint3d& center, const OdGePoint3d& s
 
 std::optional<ArcPath> arcAroundByAngle(const OdGePoint3d& center, const OdGePoint3d& start,
                                         double includedAngle) {
-  return arcByAngle(start, turned(start, center, includedAngle), includedAngle);
+  std::optional<ArcPath> path =
+      arcByAngle(start, turnedAbout(start, center, includedAngle), includedAngle);
+  if (path) path->center = atHeightOf(center, start);
+  return path;
 }
 
 std::optional<ArcPath> arcAroundByChord(const OdGePoint3d& center, const OdGePoint3d& start,

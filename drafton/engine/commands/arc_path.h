@@ -15,6 +15,8 @@ namespace drafton {
 struct ArcPath {
   OdGePoint3d start, end;
   double bulge = 0;
+  /// Where the user gave it; otherwise it follows from the rest, but for the last digits.
+  std::optional<OdGePoint3d> center = {};
 
   double includedAngle() const { return 4 * std::atan(bulge); }
 };

@@ -36,6 +36,7 @@ void PolylineDraft::add(const ArcPath& piece) {
     made->setVertexAt(0, cornerOf(added.path, added.widths));
     made->addVertexAt(1, last.point, last.bulge, last.startWidth, last.endWidth);
     made->setElevation(m_start.z);
+    made->setPlinegen(m_database.sysVarInt("PLINEGEN") != 0);
     m_polyline = addNewThickEntity(m_database, *made);
   } else {
     const auto polyline = m_polyline.openAs<OdDbPolyline>(OdDb::kForWrite);

@@ -192,6 +192,7 @@ Task<void> rectangle(CommandContext& context) {
   for (const OdDbPolyline::Vertex& vertex : rectangleOutline(corner, sides, modes))
     outline->addVertexAt(outline->numVerts(), vertex.point, vertex.bulge);
   outline->setClosed(true);
+  outline->setPlinegen(context.database().sysVarInt("PLINEGEN") != 0);
   outline->setConstantWidth(modes.width);
   outline->setElevation(modes.elevation != 0 ? modes.elevation : corner.z);
   outline->setThickness(modes.thickness != 0 ? modes.thickness

@@ -1,0 +1,27 @@
+// Runs scripts of commands word by word.
+#pragma once
+
+#include "engine/commands/scripts.h"
+#include "engine/support/engine_fixture.h"
+
+class CommandFixture : public EngineFixture {
+ protected:
+  static QStringList wordsOf(const char16_t* text) {
+    return text ? OdString::fromUtf16(text).split(u'|') : QStringList();
+  }
+  void typeWords(const QStringList& words) {
+    for (const OdString& word : words) type(word + u'\n');
+  }
+  void runScript(const char16_t* words) { typeWords(wordsOf(words)); }
+
+  /// The question of the running command; null if none waits.
+  const drafton::InputRequest* request() { return document().processor().request(); }
+  bool isRunning() { return document().processor().isBusy(); }
+  QByteArray dxf() { return database().writeDxf(); }
+
+  /// Types an answer that the waiting prompt cannot take. Prompts for texts take everything.
+  void typeNonsense() {
+    if (request() && request()->kind() != drafton::InputRequest::Kind::kString)
+      type(QStringLiteral("!nonsense!\n"));
+  }
+};

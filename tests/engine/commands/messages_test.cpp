@@ -1,0 +1,147 @@
+// What commands tell.
+
+#include "drafton/engine/mem_param.h"
+#include "engine/commands/command_fixture.h"
+
+namespace {
+
+struct Message {
+  const char* name;
+  const char16_t* words;
+  const char16_t* shown; ///< a part of the output
+};
+
+constexpr Message kMessages[] = {
+    {"LineHasNothingToGoOnFrom", u"LINE|", u"There is no line or arc to continue."},
+    {"LineAllUndone", u"LINE|0,0|u", u"All segments already undone."},
+    {"LineAsksToClose", u"LINE|0,0|1,0|1,1", u"Specify next point or [Close/Undo]: "},
+    {"LineAsksNotToCloseYet", u"LINE|0,0|1,0", u"Specify next point or [Undo]: "},
+    {"PolylineTellsItsWidth", u"PLINEWID|2|PLINE|0,0", u"Current line-width is 2"},
+    {"PolylineArcOptions", u"PLINE|0,0|1,0|a",
+     u"Specify endpoint of arc or [Angle/CEnter/CLose/Direction/Halfwidth/Line/Radius/Second/Undo/"
+     u"Width]: "},
+    {"PolylineNoSuchArc", u"PLINE|0,0|a|5,0", u"There is no such arc."},
+    {"CircleOffersTheRadius", u"CIRCLE|0,0|3|CIRCLE|0,0",
+     u"Specify radius of circle or [Diameter] <3>: "},
+    {"CircleOffersTheDiameter", u"CIRCLE|0,0|3|CIRCLE|0,0|d", u"Specify diameter of circle <6>: "},
+    {"CircleRadiusAboveZero", u"CIRCLE|0,0|0", u"The value must be greater than zero."},
+    {"CircleInALine", u"CIRCLE|3p|0,0|1,0|2,0", u"they stand in a line"},
+    {"ArcAngle", u"ARC|c|0,0|1,0|a|360",
+     u"The angle must not be zero and must be below a full turn."},
+    {"RectangleTellsItsModes", u"RECTANG|c|1|2|w|3|0,0|9,9|RECTANG",
+     u"Current rectangle modes: Chamfer=1 x 2  Width=3"},
+    {"RectangleFlat", u"RECTANG|0,0|9,0", u"The corners must differ in both directions."},
+    {"TextTellsStyleAndHeight", u"TEXT", u"Current text style: \"Standard\"  Text height: 2.5"},
+    {"TextListsStyles", u"TEXT|s|?", u"  Standard  Font: txt  Height: 0"},
+    {"TextUnknownStyle", u"TEXT|s|Bold", u"There is no text style \"Bold\"."},
+    {"TextNothingToGoOnFrom", u"TEXT|", u"There is no text to go on from."},
+    {"CopyTellsItsMode", u"CIRCLE|0,0|1|COPY|l|", u"Current settings: Copy mode = Multiple"},
+    {"ZoomNoPrevious", u"ZOOM|p", u"No previous view saved."},
+    {"ZoomTooSmall", u"ZOOM|1e300x", u"The view would be too small or too large to be drawn."},
+    {"SetvarRealRange", u"SETVAR|LTSCALE|0", u"Requires a number greater than zero."},
+    {"SetvarIntegerRange", u"SETVAR|PLINEGEN|2", u"Requires a whole number between 0 and 1."},
+    {"SetvarHostRange", u"SETVAR|PICKBOX|51", u"Requires a whole number between 0 and 50."},
+    {"SetvarLowerLimit", u"SETVAR|PLINEWID|-1", u"Requires a number of at least 0."},
+    {"SetvarPoint", u"SETVAR|INSBASE|x", u"Requires a point: x,y or x,y,z."},
+    {"SetvarColor", u"SETVAR|CECOLOR|pink", u"Requires a color"},
+    {"SetvarRecord", u"SETVAR|CLAYER|NoSuchLayer", u"there is nothing of that name"},
+    {"SetvarUnknown", u"SETVAR|NOSUCHTHING",
+     u"Unknown variable name \"NOSUCHTHING\". Type SETVAR ? for a list of variables."},
+    {"SetvarReadOnly", u"SETVAR|DWGNAME", u"(read only)"},
+    {"SetvarOffersTheValue", u"SETVAR|textsize", u"Enter new value for TEXTSIZE <2.5>: "},
+    {"SetvarList", u"SETVAR|?|LTSC*", u"LTSCALE              1"},
+    {"SetvarEmptyList", u"SETVAR|?|XYZ*", u"No variable fits \"XYZ*\"."},
+    {"LayerTellsTheCurrent", u"LAYER", u"Current layer: \"0\""},
+    {"LayerFreezesNotTheCurrent", u"LAYER|f|0",
+     u"Layer \"0\" is the current layer and cannot be frozen."},
+    {"LayerAsksBeforeTurningTheCurrentOff", u"LAYER|off|0",
+     u"Layer \"0\" is the current layer. Really turn it off? [Yes/No] <No>: "},
+    {"LayerBadCharacter", u"LAYER|n|a/b",
+     u"\"a/b\" is no name for a layer: the character / is not allowed."},
+    {"LayerExists", u"LAYER|n|0", u"Layer \"0\" already exists."},
+    {"LayerZeroKeepsItsName", u"LAYER|r|0", u"Layer \"0\" cannot be renamed."},
+    {"LayerUnknown", u"LAYER|s|Roof", u"There is no layer \"Roof\"."},
+    {"LayerFrozenNotCurrent", u"LAYER|n|a|f|a|s|a",
+     u"Layer \"a\" is frozen and cannot be made current."},
+    {"LayerFrozenNotMadeCurrent", u"LAYER|n|a|f|a|m|a",
+     u"Layer \"a\" is frozen and cannot be made current."},
+    {"LayerList", u"LAYER|?|", u"\"0\"  on  7 (white)  Continuous  Default"},
+    {"LayerListTellsStates", u"LAYER|n|a|off|a|f|a|lo|a|p|n|a|lw|1|a|d|Old ones|a|?|a",
+     u"\"a\"  off, frozen, locked, not plotted  7 (white)  Continuous  1.00mm  Old ones"},
+    {"LayerNothingFits", u"LAYER|?|X*", u"No layer fits \"X*\"."},
+    {"LayerLinetypes", u"LAYER|l|?", u"\"Continuous\"  Solid line"},
+    {"LayerByLayerLinetype", u"LAYER|l|bylayer", u"A layer cannot have the line type \"bylayer\"."},
+    {"LayerColorQuestion", u"LAYER|c|1", u"Enter name list of layer(s) for color 1 (red) <0>: "},
+};
+
+class Messages : public CommandFixture, public ::testing::WithParamInterface<Message> {};
+
+class CommandTexts : public CommandFixture {};
+
+} // namespace
+
+TEST_P(Messages, AreShown) {
+  runScript(GetParam().words);
+  EXPECT_TRUE(console().shows(OdString::fromUtf16(GetParam().shown)))
+      << "not shown: " << OdString::fromUtf16(GetParam().shown).toStdString() << "\nbut:\n"
+      << output().toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, Messages, ::testing::ValuesIn(kMessages),
+                         [](const ::testing::TestParamInfo<Message>& row) {
+                           return std::string(row.param.name);
+                         });
+
+TEST_F(CommandTexts, SetvarTakesTheNameFromItsParameters) {
+  const auto parameters = kvMake<drafton::MemParam>();
+  parameters->setValue(QStringLiteral("name"), OdVariant(QStringLiteral("LTSCALE")));
+  input().lines = {QStringLiteral("7")};
+  EXPECT_TRUE(document().processor().run(QStringLiteral("SETVAR"), parameters.get()));
+  EXPECT_EQ(database().sysVarReal("LTSCALE"), 7);
+  parameters->setValue(QStringLiteral("name"), OdVariant(QStringLiteral("NOSUCHTHING")));
+  EXPECT_FALSE(document().processor().run(QStringLiteral("SETVAR"), parameters.get()));
+}
+
+TEST_F(CommandTexts, SetvarTellsTheChangeToReactors) {
+  log().clear();
+  runScript(u"SETVAR|TEXTSIZE|5");
+  EXPECT_EQ(events({QStringLiteral("variable")}), QStringList{QStringLiteral("variable TEXTSIZE")});
+}
+
+TEST_F(CommandTexts, TooLongLayerNamesAreRefused) {
+  const OdString longest(255, u'a');
+  type(QStringLiteral("LAYER\nn\n%1b\n%1\n\n").arg(longest));
+  EXPECT_TRUE(console().shows(QStringLiteral("it is longer than 255 characters")));
+  EXPECT_TRUE(describeLayers(database()).contains(longest + u':'));
+}
+
+TEST_F(CommandTexts, DescriptionLongerThanFilesTakeIsAskedAgain) {
+  type(QStringLiteral("LAYER\nd\n%1\nshort\n\n\n").arg(OdString(256, u'a')));
+  EXPECT_TRUE(console().shows(QStringLiteral("A description has at most 255 characters.")));
+  EXPECT_EQ(describeLayers(database()), QStringLiteral("*0: on, 7, Continuous, -3, short"));
+}
+
+TEST_F(CommandTexts, DescriptionAndViewSurviveTheFile) {
+  runScript(u"LAYER|d|T\u00fcren \u6249|0||ZOOM|w|0,0|10,50");
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(dxf(), QStringLiteral("memory"));
+  EXPECT_EQ(describeLayers(*read), describeLayers(database()));
+  EXPECT_EQ(describeView(*read), QStringLiteral("5,25 h50"));
+  EXPECT_EQ(read->writeDxf(), dxf());
+}
+
+TEST_F(CommandTexts, ZoomRemembersTenViewsAtMost) {
+  for (int i = 0; i < 15; ++i) type(QStringLiteral("ZOOM 2x\n"));
+  for (int i = 0; i < 15; ++i) type(QStringLiteral("ZOOM p\n"));
+  EXPECT_EQ(describeView(database()), QStringLiteral("210,148.5 h9.2813"));
+}
+
+TEST_F(CommandTexts, EntitiesOnLockedLayersAreNotErased) {
+  runScript(u"LINE|0,0|10,0||LAYER|m|Other||LINE|0,5|10,5||LAYER|lo|0||ERASE|all|");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,0,0 10,0,0"));
+}
+
+TEST_F(CommandTexts, NewEntitiesTakeTheCurrentLayer) {
+  runScript(u"LAYER|m|Walls||CIRCLE|0,0|1");
+  const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  EXPECT_EQ(space->newIterator()->entity()->layer(), QStringLiteral("Walls"));
+}

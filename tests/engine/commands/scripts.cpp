@@ -1,0 +1,10 @@
+#include "engine/commands/scripts.h"
+
+std::vector<Script> allScripts() {
+  std::vector<Script> all;
+  for (const auto& table :
+       {lineScripts(), polylineScripts(), circleScripts(), arcScripts(), rectangleScripts(),
+        textScripts(), modifyScripts(), zoomScripts(), setvarScripts(), layerScripts()})
+    all.insert(all.end(), table.begin(), table.end());
+  return all;
+}

@@ -1,0 +1,32 @@
+// Runs of commands as tables: what is typed, and what the drawing is then.
+#pragma once
+
+#include "engine/commands/drawing_text.h"
+
+#include <span>
+
+/// One run of one command in a new drawing.
+struct Script {
+  const char* name;
+  /// Words with | between them; each is followed by Enter. An empty word is Enter alone.
+  const char16_t* words;
+  /// What the drawing is afterwards, with ; between the lines.
+  const char16_t* result;
+  /// Typed before, in the same way; null for nothing.
+  const char16_t* setup = nullptr;
+  OdString (*describe)(OdDbDatabase& database) = describeEntities;
+};
+
+std::span<const Script> lineScripts();
+std::span<const Script> polylineScripts();
+std::span<const Script> circleScripts();
+std::span<const Script> arcScripts();
+std::span<const Script> rectangleScripts();
+std::span<const Script> textScripts();
+std::span<const Script> modifyScripts();
+std::span<const Script> zoomScripts();
+std::span<const Script> setvarScripts();
+std::span<const Script> layerScripts();
+
+/// All of the above.
+std::vector<Script> allScripts();
