@@ -120,6 +120,9 @@ class OdDbDatabase : public OdRxObject {
   void setCurrentTextStyle(OdDbObjectId style);
   OdDbObjectId currentDimStyle() const;
   void setCurrentDimStyle(OdDbObjectId style);
+  /// Loads the variables of a dimension style into the drawing's own. Raises OdDbError for a null
+  /// id, OdError_NotThatKindOfClass for another record.
+  void setDimstyleData(OdDbObjectId style);
 
   // --- undo (drawing/undo.cpp)
 

@@ -82,7 +82,7 @@ class BlockBegin : public OdDbRawEntity {
 /// What has to be known of a header before it is read.
 struct HeaderStart {
   OdDb::DwgVersion version = OdDb::kR12;
-  std::string_view versionText;
+  std::string_view versionText, codePage;
   std::uint64_t handseed = 0;
 };
 
@@ -104,6 +104,7 @@ HeaderStart lookAtHeader(OdDbDxfSource& source) {
     if (tag.code == 9) variable = tag.text;
     if (variable == "$HANDSEED" && tag.code == 5)
       start.handseed = OdDbHandle::fromText(tag.text).value_or(0);
+    if (variable == "$DWGCODEPAGE" && tag.code == 3) start.codePage = tag.text;
     if (variable != "$ACADVER" || tag.code != 1) continue;
     start.versionText = tag.text;
     start.version = versionOf(tag.text);
@@ -160,10 +161,9 @@ void OdDbDxfReader::look() {
         QStringLiteral("the version %1 is not known").arg(latin(start.versionText.substr(0, 40))));
   m_data.version = version;
   m_in.setPlain(version == OdDb::kR12);
-  if (m_in.isPlain()) {
-    m_data.encoding = "windows-1252";
-    return;
-  }
+  // Texts may stand before the variable that tells their code page.
+  m_in.setCodePage(start.codePage.empty() ? std::string_view("ANSI_1252") : start.codePage);
+  if (m_in.isPlain()) return;
   constexpr std::uint64_t kHighest = ~std::uint64_t{0} >> 8;
   if (handseed == 0 || handseed > kHighest) {
     handseed = 1;
@@ -279,7 +279,6 @@ void OdDbDxfReader::readHeader() {
     // Records are found by name when all of them are there.
     default:
       value = m_in.text(tag.text);
-      if (std::string_view(vars[i].name) == "DWGCODEPAGE") m_in.setCodePage(tag.text);
       break;
     }
   }

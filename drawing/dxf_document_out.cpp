@@ -46,6 +46,13 @@ class Writer {
     m_out.raw(9, "$ACADVER");
     m_out.raw(1, OdDb::versionText(m_out.version()));
     std::vector<char> written(m_data.vars.size());
+    if (m_data.headerOrder.empty()) {
+      // Whoever reads from the start has to know the code page before the first text.
+      const auto codePage =
+          static_cast<std::size_t>(oddbFindHeaderVar(u"DWGCODEPAGE") - oddbHeaderVars().data());
+      variable(codePage, 0);
+      written[codePage] = true;
+    }
     for (const OdDbHeaderEntry& entry : m_data.headerOrder) {
       if (entry.known < 0) {
         m_out.kept(entry.tags);

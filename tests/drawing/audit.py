@@ -142,7 +142,7 @@ def compare(a, b):
         lost = [t for t in left if t not in right]
         added = [t for t in right if t not in left]
         # Presets may be spelt out or left out.
-        added = [t for t in added if t not in ((67, 1.0), (73, 0.0), (70, 0.0))]
+        added = [t for t in added if t not in ((67, 1.0), (73, 0.0))]
         if lost or added:
             print(f"{key} {left[0]}: lost {lost} added {added}")
 

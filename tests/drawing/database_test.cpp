@@ -171,6 +171,17 @@ TEST_F(Drawing, CurrentValuesRefuseWhatTheDrawingLacks) {
   EXPECT_EQ(m_db->currentLayer(), m_db->getLayerZeroId());
 }
 
+TEST_F(Drawing, DimensionStyleLoadsItsVariables) {
+  const auto styles = m_db->getDimStyleTableId().openAs<OdDbDimStyleTable>();
+  m_db->setSysVar(QStringLiteral("DIMASZ"), 99.0);
+  m_db->setSysVar(QStringLiteral("DIMTIH"), std::int64_t{0});
+  m_db->setDimstyleData(styles->getAt(QStringLiteral("Standard")));
+  EXPECT_EQ(m_db->sysVarReal("DIMASZ"), 2.5);
+  EXPECT_EQ(m_db->sysVarInt("DIMDSEP"), 44);
+  EXPECT_EQ(m_db->sysVarText("DIMTXSTY"), QLatin1String("Standard"));
+  EXPECT_THROW(m_db->setDimstyleData(m_db->getLayerZeroId()), OdError_NotThatKindOfClass);
+}
+
 TEST(Color, MethodIsTheHighByteAndPartsFollow) {
   EXPECT_EQ(OdCmColor().color(), 0xC0000000u);
   EXPECT_EQ(OdCmColor(OdCmColor::kByBlock).color(), 0xC1000000u);

@@ -134,7 +134,7 @@ TEST(DrawingFiles, AnotherProgramAuditsAndReadsWhatWeWrite) {
         << QJsonDocument(read[QLatin1String("problems")].toArray()).toJson().toStdString();
     const QJsonArray entities = read[QLatin1String("entities")].toArray();
     ASSERT_EQ(entities.size(), 5);
-    const auto value = [&](int i, const char* name) {
+    const auto value = [&](int i, const char* name) -> QJsonValue {
       return entities[i].toObject()[QLatin1String(name)];
     };
     EXPECT_EQ(value(0, "start").toArray(), QJsonArray({1, 2, 3}));
