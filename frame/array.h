@@ -11,7 +11,8 @@ template <class T>
 class OdArray {
  public:
   OdArray() = default;
-  OdArray(std::initializer_list<T> items) : m_items(items) {}
+  OdArray(std::initializer_list<T> items)
+    : m_items(items) {}
 
   qsizetype size() const { return m_items.size(); }
   bool isEmpty() const { return m_items.isEmpty(); }

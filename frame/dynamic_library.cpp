@@ -33,9 +33,8 @@ void oddynlib::unload(OdModuleHandle module) { FreeLibrary(static_cast<HMODULE>(
 OdModuleHandle oddynlib::mainExecutable() { return dlopen(nullptr, RTLD_LAZY); }
 
 OdModuleHandle oddynlib::loadedModule(const OdString& name) {
-  const OdString title = name.endsWith(QLatin1String(".dll"), Qt::CaseInsensitive)
-                             ? odpath::titleOf(name)
-                             : name;
+  const OdString title =
+      name.endsWith(QLatin1String(".dll"), Qt::CaseInsensitive) ? odpath::titleOf(name) : name;
   for (const OdString& candidate :
        {title, title + QLatin1String(".so"), QLatin1String("lib") + title + QLatin1String(".so")}) {
     if (void* handle = dlopen(candidate.toLocal8Bit().constData(), RTLD_LAZY | RTLD_NOLOAD)) {

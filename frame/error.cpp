@@ -4,23 +4,34 @@ namespace {
 
 OdString textOf(OdResult code) {
   switch (code) {
-  case eOk: return QStringLiteral("No error");
-  case eNotApplicable: return QStringLiteral("Operation is not applicable");
-  case eInvalidInput: return QStringLiteral("Invalid input");
-  case eOutOfMemory: return QStringLiteral("Out of memory");
-  case eNotThatKindOfClass: return QStringLiteral("Object is of another class");
-  case eInvalidIndex: return QStringLiteral("Index is out of range");
-  case eFileNotFound: return QStringLiteral("File is not found");
-  case eFileAccess: return QStringLiteral("File cannot be accessed");
-  case eClassNotRegistered: return QStringLiteral("Class is not registered");
-  case eClassAlreadyRegistered: return QStringLiteral("Class is already registered");
+  case eOk:
+    return QStringLiteral("No error");
+  case eNotApplicable:
+    return QStringLiteral("Operation is not applicable");
+  case eInvalidInput:
+    return QStringLiteral("Invalid input");
+  case eOutOfMemory:
+    return QStringLiteral("Out of memory");
+  case eNotThatKindOfClass:
+    return QStringLiteral("Object is of another class");
+  case eInvalidIndex:
+    return QStringLiteral("Index is out of range");
+  case eFileNotFound:
+    return QStringLiteral("File is not found");
+  case eFileAccess:
+    return QStringLiteral("File cannot be accessed");
+  case eClassNotRegistered:
+    return QStringLiteral("Class is not registered");
+  case eClassAlreadyRegistered:
+    return QStringLiteral("Class is already registered");
   }
   return QStringLiteral("Error %1").arg(static_cast<int>(code));
 }
 
 } // namespace
 
-OdError::OdError(OdResult code) : OdError(code, textOf(code)) {}
+OdError::OdError(OdResult code)
+  : OdError(code, textOf(code)) {}
 
 OdError::OdError(OdResult code, const OdString& context)
   : m_code(code)

@@ -8,13 +8,13 @@
 /// Codes that an OdError carries.
 enum OdResult : int {
   eOk = 0,
-  eNotApplicable = 3,     ///< the operation is not offered by this object
+  eNotApplicable = 3, ///< the operation is not offered by this object
   eInvalidInput = 5,
   eOutOfMemory = 9,
   eNotThatKindOfClass = 20,
   eInvalidIndex = 21,
   eFileNotFound = 110,
-  eFileAccess = 111,      ///< a file could not be opened, read or written
+  eFileAccess = 111, ///< a file could not be opened, read or written
   eClassNotRegistered = 255,
   eClassAlreadyRegistered = 313,
 };

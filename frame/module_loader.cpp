@@ -8,8 +8,11 @@
 namespace {
 
 OdString versionText(const OdRxApiVersion& v) {
-  return QStringLiteral("%1.%2.%3.%4").arg(v.major).arg(v.majorMinor).arg(v.minor).arg(
-      v.buildMinor);
+  return QStringLiteral("%1.%2.%3.%4")
+      .arg(v.major)
+      .arg(v.majorMinor)
+      .arg(v.minor)
+      .arg(v.buildMinor);
 }
 
 /// The reason why a library is no module for this frame; empty if it is one.

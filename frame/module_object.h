@@ -19,7 +19,9 @@ class OdRxModule : public OdRxObject {
 
  protected:
   /// The count starts at 0: the library owns the object, loaders borrow it.
-  explicit OdRxModule(OdModuleHandle handle) : OdRxObject(0), m_handle(handle) {}
+  explicit OdRxModule(OdModuleHandle handle)
+    : OdRxObject(0)
+    , m_handle(handle) {}
 
  private:
   OdModuleHandle m_handle;

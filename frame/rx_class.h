@@ -40,8 +40,8 @@ class OdRxClass : public OdRxObject {
   OdRxFactory m_factory;
 };
 
-/// Registers a class under `name`. The process has one dictionary of classes, shared by the host and
-/// every module. Raises OdError(eClassAlreadyRegistered) if the name is taken.
+/// Registers a class under `name`. The process has one dictionary of classes, shared by the host
+/// and every module. Raises OdError(eClassAlreadyRegistered) if the name is taken.
 OdRxClass* newOdRxClass(const OdString& name, OdRxClass* parent, OdRxFactory factory = nullptr,
                         const OdString& appName = OdString());
 

@@ -36,9 +36,9 @@
   OdRxFactory Class::s_factory = nullptr;                                                          \
   void Class::rxInit() { rxInit(nullptr); }                                                        \
   void Class::rxInit(OdRxModule* application) {                                                    \
-    g_pDesc = od_detail::registerClass(g_pDesc, QStringLiteral(NAME), Parent::desc(),              \
-                                       s_factory ? &Class::pseudoConstructor : nullptr,            \
-                                       application);                                               \
+    g_pDesc =                                                                                      \
+        od_detail::registerClass(g_pDesc, QStringLiteral(NAME), Parent::desc(),                    \
+                                 s_factory ? &Class::pseudoConstructor : nullptr, application);    \
   }                                                                                                \
   void Class::rxUninit() { od_detail::unregisterClass(g_pDesc); }                                  \
   OdRxClass* Class::desc() { return g_pDesc; }                                                     \

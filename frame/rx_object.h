@@ -42,7 +42,8 @@ class OdRxObject {
   static OdRxClass* desc();
 
  protected:
-  explicit OdRxObject(int refs = 1) : m_refs(refs) {}
+  explicit OdRxObject(int refs = 1)
+    : m_refs(refs) {}
   virtual ~OdRxObject();
 
  private:

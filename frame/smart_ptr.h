@@ -25,18 +25,23 @@ class OdSmartPtr {
  public:
   OdSmartPtr() = default;
   OdSmartPtr(std::nullptr_t) {}
-  OdSmartPtr(T* object, OdRxObjMod) : m_object(object) {}
-  OdSmartPtr(const OdSmartPtr& other) : m_object(other.m_object) { acquire(); }
-  OdSmartPtr(OdSmartPtr&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+  OdSmartPtr(T* object, OdRxObjMod)
+    : m_object(object) {}
+  OdSmartPtr(const OdSmartPtr& other)
+    : m_object(other.m_object) {
+    acquire();
+  }
+  OdSmartPtr(OdSmartPtr&& other) noexcept
+    : m_object(std::exchange(other.m_object, nullptr)) {}
 
   template <class U>
-    requires std::is_base_of_v<OdRxObject, U> || std::is_same_v<OdRxObject, U>
-  OdSmartPtr(U* object) : m_object(convert(object)) {
+  requires std::is_base_of_v<OdRxObject, U> || std::is_same_v<OdRxObject, U> OdSmartPtr(U* object)
+    : m_object(convert(object)) {
     acquire();
   }
   template <class U>
-    requires(!std::is_same_v<U, T>)
-  OdSmartPtr(const OdSmartPtr<U>& other) : m_object(convert(other.get())) {
+  requires(!std::is_same_v<U, T>) OdSmartPtr(const OdSmartPtr<U>& other)
+    : m_object(convert(other.get())) {
     acquire();
   }
 

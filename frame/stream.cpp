@@ -10,7 +10,8 @@ constexpr qsizetype kPendingLimit = 64 * 1024;
 } // namespace
 
 OdDeviceStream::OdDeviceStream(std::unique_ptr<QIODevice> device, OdString name)
-  : m_device(std::move(device)), m_name(std::move(name)) {}
+  : m_device(std::move(device))
+  , m_name(std::move(name)) {}
 
 OdDeviceStream::~OdDeviceStream() {
   // A destructor cannot report; whoever wants to know calls flush first.
@@ -48,8 +49,7 @@ void OdDeviceStream::getBytes(void* buffer, std::uint32_t count) {
   while (left > 0) {
     const qint64 got = m_device->read(out, left);
     if (got < 0) fail();
-    if (got == 0)
-      throw OdFileError(eFileAccess, m_name, QStringLiteral("the file ends too early"));
+    if (got == 0) throw OdFileError(eFileAccess, m_name, QStringLiteral("the file ends too early"));
     out += got;
     left -= got;
   }
@@ -71,7 +71,7 @@ void OdDeviceStream::flush() {
 }
 
 void OdMemoryStream::getBytes(void* buffer, std::uint32_t count) {
-  if (m_position + count > length())
+  if (m_position > length() || count > length() - m_position)
     throw OdFileError(eFileAccess, m_name, QStringLiteral("the stream ends too early"));
   std::memcpy(buffer, m_bytes.constData() + m_position, count);
   m_position += count;

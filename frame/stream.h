@@ -60,7 +60,8 @@ class OdDeviceStream : public OdStreamBuf {
 class OdMemoryStream : public OdStreamBuf {
  public:
   explicit OdMemoryStream(QByteArray bytes = {}, OdString name = QStringLiteral("(memory)"))
-    : m_bytes(std::move(bytes)), m_name(std::move(name)) {}
+    : m_bytes(std::move(bytes))
+    , m_name(std::move(name)) {}
 
   const QByteArray& bytes() const { return m_bytes; }
 

@@ -35,9 +35,7 @@ class PlatformServices : public OdRxSystemServices {
   bool createFolder(const OdString& path) override {
     return QDir().mkpath(odpath::toPlatform(path));
   }
-  bool removeFile(const OdString& path) override {
-    return QFile::remove(odpath::toPlatform(path));
-  }
+  bool removeFile(const OdString& path) override { return QFile::remove(odpath::toPlatform(path)); }
   void copyFile(const OdString& from, const OdString& to) override {
     QFile file(odpath::toPlatform(from));
     if (!file.copy(odpath::toPlatform(to))) throw OdFileError(eFileAccess, to, file.errorString());
@@ -57,10 +55,14 @@ class PlatformServices : public OdRxSystemServices {
                                       Oda::FileCreationDisposition creation) {
     if (access == Oda::kFileRead) return QIODevice::ReadOnly | QIODevice::ExistingOnly;
     switch (creation) {
-    case Oda::kCreateNew: return QIODevice::WriteOnly | QIODevice::NewOnly;
-    case Oda::kCreateAlways: return QIODevice::WriteOnly | QIODevice::Truncate;
-    case Oda::kOpenExisting: return QIODevice::ReadWrite | QIODevice::ExistingOnly;
-    case Oda::kOpenAlways: return QIODevice::ReadWrite;
+    case Oda::kCreateNew:
+      return QIODevice::WriteOnly | QIODevice::NewOnly;
+    case Oda::kCreateAlways:
+      return QIODevice::WriteOnly | QIODevice::Truncate;
+    case Oda::kOpenExisting:
+      return QIODevice::ReadWrite | QIODevice::ExistingOnly;
+    case Oda::kOpenAlways:
+      return QIODevice::ReadWrite;
     case Oda::kTruncateExisting:
       return QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Truncate;
     }

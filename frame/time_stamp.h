@@ -9,7 +9,8 @@
 class OdTimeStamp {
  public:
   OdTimeStamp() = default;
-  explicit OdTimeStamp(const QDateTime& time) : m_time(time.toUTC()) {}
+  explicit OdTimeStamp(const QDateTime& time)
+    : m_time(time.toUTC()) {}
 
   bool isValid() const { return m_time.isValid(); }
   const QDateTime& universalTime() const { return m_time; }

@@ -2,8 +2,10 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
+#include <type_traits>
 
 namespace {
 
@@ -13,7 +15,7 @@ QByteArray numberBytes(QStringView text) {
   qsizetype i = 0;
   while (i < text.size() && text[i].isSpace()) ++i;
   QByteArray bytes;
-  for (; i < text.size() && bytes.size() < 400; ++i) {
+  for (; i < text.size(); ++i) {
     const char16_t c = text[i].unicode();
     if (c > 0x7E || c <= 0x20) break;
     bytes.append(static_cast<char>(c));
@@ -21,16 +23,45 @@ QByteArray numberBytes(QStringView text) {
   return bytes;
 }
 
+/// True if the number, which no real can hold, is below all reals rather than above them.
+bool isTiny(const char* first, const char* last) {
+  const char* const exponent =
+      std::find_if(first, last, [](char c) { return c == 'e' || c == 'E'; });
+  const char* const point = std::find(first, exponent, '.');
+  const char* const digit =
+      std::find_if(first, exponent, [](char c) { return c >= '1' && c <= '9'; });
+  // The power of ten of the first digit that counts, as written before the exponent.
+  const auto place = digit < point ? point - digit - 1 : point - digit;
+  std::int64_t power = 0;
+  if (exponent != last) {
+    const char* from = exponent + 1;
+    const bool isNegative = from != last && *from == '-';
+    if (from != last && *from == '+') ++from;
+    if (std::from_chars(from, last, power).ec == std::errc::result_out_of_range) return isNegative;
+  }
+  return power < -place;
+}
+
+/// True if a number can begin so: words such as "inf" are none, and there is but one sign.
+bool beginsNumber(const char* first, const char* last) {
+  if (first != last && *first == '-') ++first;
+  return first != last && ((*first >= '0' && *first <= '9') || *first == '.');
+}
+
 template <class T>
 T parse(QStringView text, T tooLarge, T tooSmall) {
   const QByteArray bytes = numberBytes(text);
   const char* first = bytes.constData();
   const char* const last = first + bytes.size();
-  if (first != last && *first == '+') ++first;
-  const bool negative = first != last && *first == '-';
+  if (first != last && *first == '+' && ++first != last && *first == '-') return T{};
+  if (!beginsNumber(first, last)) return T{};
   T value{};
   const auto [end, error] = std::from_chars(first, last, value);
-  if (error == std::errc::result_out_of_range) return negative ? tooSmall : tooLarge;
+  if (error == std::errc::result_out_of_range) {
+    // Of a real that is out of range only its exponent tells whether it is too near to zero.
+    if (std::is_floating_point_v<T> && isTiny(first, end)) return T{};
+    return *first == '-' ? tooSmall : tooLarge;
+  }
   return error == std::errc() ? value : T{};
 }
 
@@ -56,14 +87,18 @@ double odParseReal(QStringView text) {
 OdString OdVariant::toString() const {
   switch (type()) {
   case kString:
-  case kWString: return std::get<OdString>(m_value);
+  case kWString:
+    return std::get<OdString>(m_value);
   case kBool:
   case kUInt8:
   case kInt16:
   case kInt32:
-  case kInt64: return OdString::number(std::get<std::int64_t>(m_value));
-  case kDouble: return OdString::number(std::get<double>(m_value), 'g', 17);
-  default: return {};
+  case kInt64:
+    return OdString::number(std::get<std::int64_t>(m_value));
+  case kDouble:
+    return OdString::number(std::get<double>(m_value), 'g', 17);
+  default:
+    return {};
   }
 }
 

@@ -30,24 +30,44 @@ class OdVariant {
   static constexpr std::uint8_t kTypeMask = 0x3F;
 
   OdVariant() = default;
-  OdVariant(const OdString& text) : m_type(kString), m_value(text) {}
-  OdVariant(OdString&& text) : m_type(kString), m_value(std::move(text)) {}
-  OdVariant(const char16_t* text) : OdVariant(OdString::fromUtf16(text)) {}
-  OdVariant(bool value) : m_type(kBool), m_value(std::int64_t{value}) {}
-  OdVariant(std::uint8_t value) : m_type(kUInt8), m_value(std::int64_t{value}) {}
-  OdVariant(std::int16_t value) : m_type(kInt16), m_value(std::int64_t{value}) {}
-  OdVariant(std::int32_t value) : m_type(kInt32), m_value(std::int64_t{value}) {}
+  OdVariant(const OdString& text)
+    : m_type(kString)
+    , m_value(text) {}
+  OdVariant(OdString&& text)
+    : m_type(kString)
+    , m_value(std::move(text)) {}
+  OdVariant(const char16_t* text)
+    : OdVariant(OdString::fromUtf16(text)) {}
+  OdVariant(bool value)
+    : m_type(kBool)
+    , m_value(std::int64_t{value}) {}
+  OdVariant(std::uint8_t value)
+    : m_type(kUInt8)
+    , m_value(std::int64_t{value}) {}
+  OdVariant(std::int16_t value)
+    : m_type(kInt16)
+    , m_value(std::int64_t{value}) {}
+  OdVariant(std::int32_t value)
+    : m_type(kInt32)
+    , m_value(std::int64_t{value}) {}
   OdVariant(std::uint32_t value)
-    : m_type(kInt32), m_value(std::int64_t{static_cast<std::int32_t>(value)}) {}
-  OdVariant(std::int64_t value) : m_type(kInt64), m_value(value) {}
-  OdVariant(double value) : m_type(kDouble), m_value(value) {}
-  OdVariant(const OdRxObjectPtr& object) : m_type(kRxObject), m_value(object) {}
+    : m_type(kInt32)
+    , m_value(std::int64_t{static_cast<std::int32_t>(value)}) {}
+  OdVariant(std::int64_t value)
+    : m_type(kInt64)
+    , m_value(value) {}
+  OdVariant(double value)
+    : m_type(kDouble)
+    , m_value(value) {}
+  OdVariant(const OdRxObjectPtr& object)
+    : m_type(kRxObject)
+    , m_value(object) {}
   template <class T>
-    requires std::is_base_of_v<OdRxObject, T>
-  OdVariant(const OdSmartPtr<T>& object) : OdVariant(OdRxObjectPtr(object.get())) {}
+  requires std::is_base_of_v<OdRxObject, T> OdVariant(const OdSmartPtr<T>& object)
+    : OdVariant(OdRxObjectPtr(object.get())) {}
   template <class T>
-    requires std::is_base_of_v<OdRxObject, T>
-  OdVariant(T* object) : OdVariant(OdRxObjectPtr(object)) {}
+  requires std::is_base_of_v<OdRxObject, T> OdVariant(T* object)
+    : OdVariant(OdRxObjectPtr(object)) {}
   OdVariant(const char*) = delete;
 
   /// The kind without its flags.
