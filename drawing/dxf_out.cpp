@@ -155,8 +155,13 @@ void OdDbDxfOut::recordName(int groupCode, OdDbObjectId id, const char* fallback
 void OdDbDxfOut::kept(const QByteArray& lines) {
   if (lines.isEmpty()) return;
   if (!m_transcode || isPlain(lines)) {
-    flush();
-    m_sink(lines);
+    // Long ones need not pass through the buffer.
+    if (lines.size() < kBufferSize) {
+      m_buffer.append(lines);
+    } else {
+      flush();
+      m_sink(lines);
+    }
     return;
   }
   m_keptDecoder.resetState();

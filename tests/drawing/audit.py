@@ -9,6 +9,7 @@ import json
 import sys
 
 import ezdxf
+from ezdxf.lldxf.encoding import decode_dxf_unicode
 
 # Names and counts that every program writes anew.
 VOLATILE = {"$ACADMAINTVER", "$HANDSEED", "$TDUPDATE"}
@@ -31,6 +32,8 @@ def audit(path):
             values = {"type": e.dxftype(), "space": space}
             for name, value in e.dxfattribs().items():
                 values[name] = list(value) if hasattr(value, "xyz") else value
+            if "text" in values:
+                values["text"] = decode_dxf_unicode(values["text"])
             if e.dxftype() == "LWPOLYLINE":
                 values["points"] = [list(p) for p in e.get_points("xyseb")]
             result["entities"].append(values)
@@ -52,7 +55,8 @@ def audit(path):
         }
     for style in doc.styles:
         values = dict(style.dxfattribs())
-        values["extended"] = list(style.get_extended_font_data())
+        if style.has_xdata("ACAD"):
+            values["extended"] = [v for c, v in style.get_xdata("ACAD") if c in (1000, 1071)]
         result["styles"][style.dxf.name] = values
     for name in ("$INSUNITS", "$CLAYER", "$CELTYPE", "$CECOLOR", "$CELTSCALE", "$CELWEIGHT",
                  "$TEXTSTYLE", "$TEXTSIZE", "$DIMSTYLE", "$LTSCALE", "$LUNITS", "$PDMODE"):

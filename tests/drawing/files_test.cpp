@@ -167,7 +167,7 @@ TEST(DrawingFiles, AnotherProgramAuditsAndReadsWhatWeWrite) {
     const QJsonObject style =
         read[QLatin1String("styles")].toObject()[QLatin1String("Notes")].toObject();
     EXPECT_EQ(style[QLatin1String("extended")].toArray(),
-              QJsonArray({QLatin1String("Arial"), false, true}));
+              QJsonArray({QLatin1String("Arial"), 0x2000022}));
     EXPECT_EQ(read[QLatin1String("header")].toObject()[QLatin1String("$CLAYER")].toString(),
               QStringLiteral("Wände"));
     EXPECT_EQ(read[QLatin1String("header")].toObject()[QLatin1String("$INSUNITS")].toInt(), 4);
