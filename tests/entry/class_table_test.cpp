@@ -24,6 +24,7 @@
 #include "properties/property_reference.h"
 #include "properties/symbol_table_record.h"
 #include "support/data_file.h"
+#include "support/print_text.h"
 #include "tools/command_conveyor.h"
 #include "tools/tool_data.h"
 

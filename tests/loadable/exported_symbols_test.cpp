@@ -1,3 +1,5 @@
+#include "support/print_text.h"
+
 #include <QProcess>
 #include <QSet>
 #include <QStringList>

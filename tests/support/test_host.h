@@ -4,6 +4,7 @@
 // it stands where a real host's executable stands; nothing else has to be installed.
 #pragma once
 
+#include "support/print_text.h"
 #include "support/test_host_services.h"
 
 #include <QSet>

@@ -97,7 +97,8 @@ struct EditorReactorStepTest : EditorReactorTest, testing::WithParamInterface<St
 
 TEST_P(EditorReactorStepTest, GoesWhereTheTableSays) {
   const Step& step = GetParam();
-  if (step.isPending) makeTool(QStringLiteral("Before"))->execute(&here);
+  const OdTcToolPtr before = makeTool(QStringLiteral("Before"));
+  if (step.isPending) before->execute(&here);
   const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
   tool->execute(&here);
   ASSERT_EQ(guard.isArmed(), !step.isPending);
@@ -135,7 +136,8 @@ TEST_F(EditorReactorTest, AnEventWithoutAToolDoesNothing) {
 }
 
 TEST_F(EditorReactorTest, TheSecondCancelAfterAReplacedToolFinishesTheNewOne) {
-  makeTool(QStringLiteral("First"))->execute(&here);
+  const OdTcToolPtr first = makeTool(QStringLiteral("First"));
+  first->execute(&here);
   const OdTcToolPtr second = makeTool(QStringLiteral("Second"));
   second->execute(&here);
   EXPECT_TRUE(isFinished(QStringLiteral("First")));
@@ -202,9 +204,11 @@ TEST_F(EditorReactorTest, IsOfTheHostsReactorClasses) {
 // --- the road of one click
 
 TEST_F(EditorReactorTest, ASecondToolInTheSameDocumentCancelsTheFirst) {
-  makeTool(QStringLiteral("First"))->execute(&here);
+  const OdTcToolPtr first = makeTool(QStringLiteral("First"));
+  first->execute(&here);
   host().log.clear();
-  makeTool(QStringLiteral("Second"))->execute(&here);
+  const OdTcToolPtr second = makeTool(QStringLiteral("Second"));
+  second->execute(&here);
   const QStringList steps =
       host().log.filter(QRegularExpression(QStringLiteral("send|begin|end|exec")));
   EXPECT_EQ(steps, QStringList({QStringLiteral("send A.dxf ^C"), QStringLiteral("end First"),
