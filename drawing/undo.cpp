@@ -137,11 +137,14 @@ void OdDbUndo::play(Appended& change, bool backwards) {
     if (change.listed) list->pop_back();
     data.byHandle.remove(stub.handle);
     stub.object = nullptr;
+    // Whoever still holds the object may keep it longer than the drawing lives.
+    object->m_stub = nullptr;
     change.detached = object;
   } else {
     if (change.listed) (block ? block->m_entities : table->m_records).push_back(id);
     data.byHandle.insert(stub.handle, &stub);
     stub.object = object;
+    object->m_stub = &stub;
     change.detached = nullptr;
   }
   if (table) table->renamed();

@@ -195,6 +195,19 @@ TEST_F(DrawingUndo, ReactorsLearnOfEveryChangeOnceAndInOrder) {
   m_db->removeReactor(&log);
 }
 
+TEST_F(DrawingUndo, UndoneObjectsMayOutliveTheirDrawing) {
+  step("LINE");
+  const OdDbLinePtr line = addLine().openAs<OdDbLine>();
+  m_db->undo();
+  EXPECT_FALSE(line->isDBRO());
+  m_db->redo();
+  EXPECT_TRUE(line->isDBRO());
+  m_db->undo();
+  m_db = nullptr;
+  EXPECT_TRUE(line->objectId().isNull());
+  EXPECT_EQ(line->numRefs(), 1);
+}
+
 TEST_F(DrawingUndo, ObjectsMayOutliveTheirDrawing) {
   const OdDbLinePtr line = addLine().openAs<OdDbLine>();
   m_db = nullptr;
