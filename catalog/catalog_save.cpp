@@ -9,6 +9,14 @@
 #include "persistence/unread_original.h"
 
 namespace tc {
+namespace {
+
+const OdString& modifiedTime() {
+  static const OdString name = QStringLiteral("modifiedUniversalDateTime");
+  return name;
+}
+
+} // namespace
 
 CatalogSave::CatalogSave(OdTcCatalogImpl& catalog, const OdString& path)
   : m_catalog(catalog)
@@ -25,6 +33,7 @@ CatalogSave::~CatalogSave() {
   for (const Renamed& renamed : m_renamed) {
     renamed.loader->properties()->setName(renamed.name);
     renamed.loader->properties()->setDescription(renamed.description);
+    renamed.loader->setPropertyValue(modifiedTime(), renamed.modified);
   }
   for (const OdTcToolPalettePtr& palette : m_placed) palette->getDatabase()->setPath(OdString());
 }
@@ -48,7 +57,8 @@ void CatalogSave::updateLoader(OdTcToolPalette& palette) {
   const OdString name = palette.name();
   const OdString description = palette.description();
   if (loader->name() == name && loader->description() == description) return;
-  m_renamed.push_back({OdTcPaletteLoaderPtr(loader), loader->name(), loader->description()});
+  m_renamed.push_back({OdTcPaletteLoaderPtr(loader), loader->name(), loader->description(),
+                       loader->propertyValue(modifiedTime())});
   loader->properties()->setName(name);
   loader->properties()->setDescription(description);
 }

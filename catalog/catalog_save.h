@@ -22,6 +22,7 @@ class CatalogSave {
     OdTcPaletteLoaderPtr loader;
     OdString name;
     OdString description;
+    OdVariant modified;
   };
 
   void updateLoader(OdTcToolPalette& palette);
