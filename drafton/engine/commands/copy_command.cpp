@@ -1,7 +1,7 @@
 // COPY.
 
 #include "drafton/engine/commands/command_bodies.h"
-#include "drafton/engine/commands/displacement_prompt.h"
+#include "drafton/engine/commands/displacement.h"
 #include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/selection.h"
@@ -18,13 +18,12 @@ class CopyMaker {
     , m_originals(originals) {}
 
   void copyBy(const OdGeVector3d& shift) {
-    const OdGeMatrix3d transform = OdGeMatrix3d::translation(shift);
     Selection made;
     int failed = 0;
     for (const OdDbObjectId& id : m_originals) {
       const auto original = id.openAs<OdDbEntity>();
       const OdDbEntityPtr copy = original->clone();
-      if (!copy->transformBy(transform)) {
+      if (!displace(*copy, shift)) {
         ++failed;
         continue;
       }

@@ -1,10 +1,9 @@
 // MOVE.
 
 #include "drafton/engine/commands/command_bodies.h"
-#include "drafton/engine/commands/displacement_prompt.h"
+#include "drafton/engine/commands/displacement.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
-#include "drawing/entity.h"
 
 namespace drafton {
 namespace {
@@ -27,11 +26,10 @@ Task<void> move(CommandContext& context) {
   const Selection chosen = co_await selectObjects(context);
   if (chosen.empty()) co_return;
   const OdGeVector3d shift = co_await askMove(context);
-  const OdGeMatrix3d transform = OdGeMatrix3d::translation(shift);
   int failed = 0;
   for (const OdDbObjectId& id : chosen) {
     const auto entity = id.openAs<OdDbEntity>(OdDb::kForWrite);
-    if (!entity->transformBy(transform)) ++failed;
+    if (!displace(*entity, shift)) ++failed;
   }
   if (failed > 0) context.print(translated(u"%1 could not be moved.").arg(failed));
 }

@@ -109,6 +109,7 @@ OdString shownValue(CommandContext& context, const OdString& name) {
   return value.toString();
 }
 
+/// The variables of a document are always of this kind, which knows more than modules are told.
 HostVariables& variablesOf(CommandContext& context) {
   return static_cast<HostVariables&>(context.variables());
 }
