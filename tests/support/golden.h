@@ -32,8 +32,10 @@ class PartsRoot : public tc::OdTcPersistImpl<tc::OdTcPersist> {
   }
 };
 
+using Parts = std::vector<tc::OdTcPersistPtr>;
+
 /// The objects in a palette document.
-inline QByteArray written(const std::vector<tc::OdTcPersistPtr>& parts) {
+inline QByteArray written(const Parts& parts) {
   auto root = odrxMake<PartsRoot>();
   root->parts = parts;
   auto stream = odrxMake<OdMemoryStream>();
@@ -42,7 +44,9 @@ inline QByteArray written(const std::vector<tc::OdTcPersistPtr>& parts) {
   filer->flush();
   return stream->bytes();
 }
-inline QByteArray written(tc::OdTcPersist* part) { return written({tc::OdTcPersistPtr(part)}); }
+inline QByteArray written(tc::OdTcPersist* part) {
+  return written(Parts{tc::OdTcPersistPtr(part)});
+}
 
 /// What the document holds. The root keeps the objects' owner alive.
 inline OdSmartPtr<PartsRoot> readParts(const QByteArray& document) {
@@ -61,9 +65,10 @@ OdSmartPtr<T> readPart(const char* inner) {
   return OdSmartPtr<T>(part);
 }
 
-/// Compares the written objects with golden/<name>.xml, byte for byte, and what comes of reading and
-/// writing them once more. With the variable DRAFTON_WRITE_GOLDEN set the file is written first.
-inline void expectGolden(const char* name, const std::vector<tc::OdTcPersistPtr>& parts) {
+/// Compares the written objects with golden/<name>.xml, byte for byte, and what comes of reading
+/// and writing them once more. With the variable DRAFTON_WRITE_GOLDEN set the file is written
+/// first.
+inline void expectGolden(const char* name, const Parts& parts) {
   const QString path = QStringLiteral("golden/%1.xml").arg(QLatin1String(name));
   const QByteArray document = written(parts);
   if (qEnvironmentVariableIsSet("DRAFTON_WRITE_GOLDEN")) {
@@ -76,7 +81,7 @@ inline void expectGolden(const char* name, const std::vector<tc::OdTcPersistPtr>
       << name << " read and written again";
 }
 inline void expectGolden(const char* name, tc::OdTcPersist* part) {
-  expectGolden(name, {tc::OdTcPersistPtr(part)});
+  expectGolden(name, Parts{tc::OdTcPersistPtr(part)});
 }
 
 } // namespace testhost

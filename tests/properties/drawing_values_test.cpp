@@ -1,0 +1,281 @@
+// What general properties do to a drawing.
+#include "properties/general_properties.h"
+
+#include "drawing/database.h"
+#include "drawing/line.h"
+#include "properties/layer_table_record_impl.h"
+#include "properties/line_type_table_record_impl.h"
+#include "support/golden.h"
+#include "support/module_fixture.h"
+
+namespace {
+
+using namespace tc;
+
+OdString text(const char16_t* s) { return OdString::fromUtf16(s); }
+
+struct DrawingValuesTest : testhost::ModuleFixture {
+  OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+
+  OdDbObjectId addLayer(const char16_t* name, int colorIndex) {
+    auto layers = drawing->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite);
+    auto layer = odrxMake<OdDbLayerTableRecord>();
+    layer->setName(text(name));
+    layer->setColor(OdCmColor::fromColorIndex(colorIndex));
+    return layers->add(layer);
+  }
+  OdString currentLayerName() {
+    return drawing->currentLayer().openAs<OdDbLayerTableRecord>()->getName();
+  }
+};
+
+TEST_F(DrawingValuesTest, ColorIsImposedForTheRunAndPutBack) {
+  drawing->setCurrentColor(OdCmColor::fromColorIndex(1));
+  const auto color = odrxMake<OdTcColorPropertyImpl>();
+  color->setColor(OdCmColor::fromColorIndex(3));
+  color->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentColor().colorIndex(), 3);
+  EXPECT_TRUE(color->hasSavedValue());
+  color->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentColor().colorIndex(), 1);
+  EXPECT_FALSE(color->hasSavedValue());
+}
+
+TEST_F(DrawingValuesTest, UnspecifiedColorKeepsTheDrawingsOwn) {
+  drawing->setCurrentColor(OdCmColor::fromColorIndex(1));
+  const auto color = odrxMake<OdTcColorPropertyImpl>();
+  color->setColor(OdCmColor::fromColorIndex(3));
+  color->getBasicInfo()->setUnspecified(true);
+  color->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentColor().colorIndex(), 1);
+}
+
+TEST_F(DrawingValuesTest, WhatTheToolDidNotImposeIsNotPutBack) {
+  addLayer(u"Walls", 2);
+  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
+  layer->getBasicInfo()->setUnspecified(true);
+  layer->applyToDatabase(drawing);
+  drawing->setCurrentLayer(
+      drawing->getLayerTableId().openAs<OdDbLayerTable>()->getAt(text(u"Walls")));
+  layer->restoreToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"Walls"));
+}
+
+TEST_F(DrawingValuesTest, FrozenPropertyNeitherSavesNorApplies) {
+  const auto scale = odrxMake<OdTcLineTypeScalePropertyImpl>();
+  scale->setText(text(u"4"));
+  scale->setFrozen(true);
+  scale->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLinetypeScale(), 1.0);
+  EXPECT_FALSE(scale->hasSavedValue());
+}
+
+TEST_F(DrawingValuesTest, NewPropertiesImposeNothing) {
+  const QByteArray before = drawing->writeDxf();
+  const OdTcDatabasePropertyPtr all[] = {
+      odrxMake<OdTcColorPropertyImpl>(),        odrxMake<OdTcLayerPropertyImpl>(),
+      odrxMake<OdTcLineTypePropertyImpl>(),     odrxMake<OdTcLineTypeScalePropertyImpl>(),
+      odrxMake<OdTcPlotStylePropertyImpl>(),    odrxMake<OdTcLineWeightPropertyImpl>(),
+      odrxMake<OdTcTransparencyPropertyImpl>(), odrxMake<OdTcTextStylePropertyImpl>(),
+      odrxMake<OdTcDimStylePropertyImpl>(),     odrxMake<OdTcTableStylePropertyImpl>()};
+  for (const OdTcDatabasePropertyPtr& property : all) {
+    property->applyToDatabase(drawing);
+    EXPECT_EQ(drawing->writeDxf(), before) << property->elementName().toStdString();
+    property->restoreToDatabase(drawing);
+    EXPECT_EQ(drawing->writeDxf(), before) << property->elementName().toStdString();
+  }
+}
+
+TEST_F(DrawingValuesTest, TableStyleChangesNothingInARun) {
+  const QByteArray before = drawing->writeDxf();
+  const auto style = odrxMake<OdTcTableStylePropertyImpl>();
+  style->setText(text(u"Parts list"));
+  style->applyToDatabase(drawing);
+  style->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->writeDxf(), before);
+}
+
+struct WeightRow {
+  const char16_t* value;
+  int weight;
+};
+class LineWeightTest : public DrawingValuesTest, public testing::WithParamInterface<WeightRow> {};
+
+TEST_P(LineWeightTest, IsImposedIfTheDrawingKnowsIt) {
+  drawing->setCurrentLineWeight(static_cast<OdDb::LineWeight>(50));
+  const auto weight = odrxMake<OdTcLineWeightPropertyImpl>();
+  weight->setText(text(GetParam().value));
+  weight->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLineWeight(), GetParam().weight);
+  weight->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLineWeight(), 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, LineWeightTest,
+                         testing::Values(WeightRow{u"ByLayer", -1}, WeightRow{u"ByBlock", -2},
+                                         WeightRow{u"ByDefault", -3}, WeightRow{u"-1", -1},
+                                         WeightRow{u"25", 25}, WeightRow{u"26", 50},
+                                         WeightRow{u"99999999999", 50}, WeightRow{u"", 50},
+                                         WeightRow{u"VonLayer", 50}, WeightRow{u"nan", 50}));
+
+TEST_F(DrawingValuesTest, TransparencyTakesPercentAndTheSpecialWords) {
+  const auto value = odrxMake<OdTcTransparencyPropertyImpl>();
+  const auto applied = [&](const char16_t* stored) {
+    drawing->setCurrentTransparency(OdCmTransparency::fromPercent(10));
+    value->setText(text(stored));
+    value->applyToDatabase(drawing);
+    const OdCmTransparency result = drawing->currentTransparency();
+    value->restoreToDatabase(drawing);
+    EXPECT_EQ(drawing->currentTransparency(), OdCmTransparency::fromPercent(10));
+    return result;
+  };
+  EXPECT_EQ(applied(u"50").percent(), 50);
+  EXPECT_TRUE(applied(u"ByLayer").isByLayer());
+  EXPECT_TRUE(applied(u"ByBlock").isByBlock());
+  EXPECT_EQ(applied(u"VonLayer").percent(), 10);
+  EXPECT_EQ(applied(u"-5").percent(), 10);
+}
+
+TEST_F(DrawingValuesTest, ScaleIsImposedOnlyAboveZero) {
+  const auto scale = odrxMake<OdTcLineTypeScalePropertyImpl>();
+  scale->setText(text(u"2.5"));
+  scale->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLinetypeScale(), 2.5);
+  scale->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLinetypeScale(), 1.0);
+  for (const char16_t* const bad : {u"0", u"-1", u"inf", u"wide"}) {
+    scale->setText(text(bad));
+    scale->applyToDatabase(drawing);
+    EXPECT_EQ(drawing->currentLinetypeScale(), 1.0) << text(bad).toStdString();
+  }
+}
+
+TEST_F(DrawingValuesTest, LayerOfTheDrawingWinsOverTheSnapshot) {
+  const OdDbObjectId existing = addLayer(u"Walls", 2);
+  auto snapshot = odrxMake<OdTcLayerTableRecordImpl>();
+  snapshot->setRecordName(text(u"Walls"));
+  snapshot->setColor(OdCmColor::fromColorIndex(6));
+  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
+  dynamic_cast<OdTcLayerPropertyCreateInfoImpl*>(layer->getCreateInfo())->setRecord(snapshot);
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLayer(), existing);
+  EXPECT_EQ(existing.openAs<OdDbLayerTableRecord>()->color().colorIndex(), 2);
+  layer->restoreToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"0"));
+}
+
+TEST_F(DrawingValuesTest, MissingLayerIsMadeFromTheSnapshotWithItsLineType) {
+  // The tool is made in one drawing and run in another.
+  const OdDbDatabasePtr source = OdDbDatabase::createDatabase();
+  auto dashed = odrxMake<OdDbLinetypeTableRecord>();
+  dashed->setName(text(u"Dashed"));
+  dashed->setPatternLength(3);
+  dashed->setNumDashes(2);
+  dashed->setDashLengthAt(0, 2);
+  dashed->setDashLengthAt(1, -1);
+  const OdDbObjectId dashedId =
+      source->getLinetypeTableId().openAs<OdDbLinetypeTable>(OdDb::kForWrite)->add(dashed);
+  auto walls = odrxMake<OdDbLayerTableRecord>();
+  walls->setName(text(u"Walls"));
+  walls->setColor(OdCmColor::fromColorIndex(6));
+  walls->setLineWeight(static_cast<OdDb::LineWeight>(35));
+  walls->setIsPlottable(false);
+  walls->setLinetypeObjectId(dashedId);
+  const OdDbObjectId wallsId =
+      source->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(walls);
+
+  const auto taken = odrxMake<OdTcLayerPropertyImpl>();
+  taken->takeRecord(wallsId);
+  EXPECT_EQ(taken->text(), text(u"Walls"));
+  // Through a file, as a tool would go.
+  const auto back = testhost::readParts(testhost::written(taken));
+  ASSERT_EQ(back->parts.size(), 1u);
+  auto* const layer = dynamic_cast<OdTcLayerPropertyImpl*>(back->parts[0].get());
+  ASSERT_TRUE(layer);
+
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"Walls"));
+  const auto made = drawing->currentLayer().openAs<OdDbLayerTableRecord>();
+  EXPECT_EQ(made->color().colorIndex(), 6);
+  EXPECT_EQ(made->lineWeight(), 35);
+  EXPECT_FALSE(made->isPlottable());
+  const auto lineType = made->linetypeObjectId().openAs<OdDbLinetypeTableRecord>();
+  EXPECT_EQ(lineType->getName(), text(u"Dashed"));
+  ASSERT_EQ(lineType->numDashes(), 2);
+  EXPECT_EQ(lineType->dashLengthAt(1), -1);
+  layer->restoreToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"0"));
+  // A second run finds the layer.
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"Walls"));
+}
+
+TEST_F(DrawingValuesTest, NameWithoutASnapshotLeadsToARecordOfTheDrawing) {
+  addLayer(u"Doors", 4);
+  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
+  layer->setText(text(u"doors"));
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"Doors"));
+  layer->restoreToDatabase(drawing);
+  layer->setText(text(u"Windows"));
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(currentLayerName(), text(u"0")) << "nothing is known of that layer";
+  const auto lineType = odrxMake<OdTcLineTypePropertyImpl>();
+  lineType->setText(text(u"Continuous"));
+  lineType->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLinetype(), drawing->getLinetypeContinuousId());
+}
+
+TEST_F(DrawingValuesTest, TextStyleIsFoundOrMade) {
+  const OdDbDatabasePtr source = OdDbDatabase::createDatabase();
+  auto style = odrxMake<OdDbTextStyleTableRecord>();
+  style->setName(text(u"Notes"));
+  style->setFileName(text(u"romans.shx"));
+  style->setXScale(0.8);
+  const auto property = odrxMake<OdTcTextStylePropertyImpl>();
+  property->takeRecord(
+      source->getTextStyleTableId().openAs<OdDbTextStyleTable>(OdDb::kForWrite)->add(style));
+  const OdDbObjectId before = drawing->currentTextStyle();
+  property->applyToDatabase(drawing);
+  const auto made = drawing->currentTextStyle().openAs<OdDbTextStyleTableRecord>();
+  EXPECT_EQ(made->getName(), text(u"Notes"));
+  EXPECT_EQ(made->xScale(), 0.8);
+  EXPECT_EQ(made->fileName(), text(u"romans.shx"));
+  property->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentTextStyle(), before);
+}
+
+TEST_F(DrawingValuesTest, EntityGivesItsValues) {
+  const OdDbObjectId walls = addLayer(u"Walls", 2);
+  auto line = odrxMake<OdDbLine>(OdGePoint3d(0, 0, 0), OdGePoint3d(1, 0, 0));
+  line->setDatabaseDefaults(*drawing);
+  drawing->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(line);
+  line->setLayer(walls);
+  line->setColor(OdCmColor::fromColorIndex(5));
+  line->setLineWeight(static_cast<OdDb::LineWeight>(35));
+  line->setLinetypeScale(0.25);
+  line->setTransparency(OdCmTransparency::fromPercent(30));
+
+  const auto color = odrxMake<OdTcColorPropertyImpl>();
+  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
+  const auto weight = odrxMake<OdTcLineWeightPropertyImpl>();
+  const auto scale = odrxMake<OdTcLineTypeScalePropertyImpl>();
+  const auto transparency = odrxMake<OdTcTransparencyPropertyImpl>();
+  const auto plotStyle = odrxMake<OdTcPlotStylePropertyImpl>();
+  EXPECT_TRUE(color->captureFromObject(line));
+  EXPECT_TRUE(layer->captureFromObject(line));
+  EXPECT_TRUE(weight->captureFromObject(line));
+  EXPECT_TRUE(scale->captureFromObject(line));
+  EXPECT_TRUE(transparency->captureFromObject(line));
+  EXPECT_TRUE(plotStyle->captureFromObject(line));
+  EXPECT_FALSE(odrxMake<OdTcDimStylePropertyImpl>()->captureFromObject(line));
+  EXPECT_FALSE(color->captureFromObject(walls.openObject()));
+  EXPECT_EQ(color->color().colorIndex(), 5);
+  EXPECT_EQ(layer->record()->recordName(), text(u"Walls"));
+  EXPECT_EQ(weight->text(), text(u"35"));
+  EXPECT_EQ(scale->text(), text(u"0.25"));
+  EXPECT_EQ(transparency->text(), text(u"30"));
+  EXPECT_EQ(plotStyle->text(), text(u"ByLayer"));
+}
+
+} // namespace
