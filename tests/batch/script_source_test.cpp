@@ -1,0 +1,69 @@
+#include "drafton/batch/script_source.h"
+
+#include "engine/support/recording_console.h"
+#include "engine/support/test_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+
+using namespace drafton;
+
+namespace {
+
+/// Runs a script as the program does.
+class ScriptTest : public ::testing::Test {
+ protected:
+  void run(QByteArray script) {
+    m_device.setData(script);
+    m_device.open(QIODevice::ReadOnly);
+    m_script.setEngine(m_engine);
+    m_engine.commands().add(testCommands());
+    m_engine.documents().newDocument();
+    while (!m_script.hasFailed() && m_script.waitForInput()) m_engine.run();
+  }
+
+  RecordingConsole m_console;
+  QBuffer m_device;
+  ScriptSource m_script{m_device};
+  Engine m_engine{{}, m_console, &m_script};
+};
+
+} // namespace
+
+TEST_F(ScriptTest, EachLineIsFollowedByEnter) {
+  run("ASKTEXT\r\nabc\n# a comment\n\nASKWORDS\n# text\nASKTEXT last");
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <abc>")));
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <# text>"))) << "a waiting command gets it";
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <last>"))) << "the last line needs no line end";
+  EXPECT_TRUE(m_console.troubles.isEmpty());
+}
+
+TEST_F(ScriptTest, AToolRunsByItsLine) {
+  int runs = 0;
+  m_engine.completion().registerSource(
+      QStringLiteral("tools"), [&](const HostEdCompletion::Callback& offer) {
+        auto entry = std::make_shared<HostEdCompletion::Entry>();
+        entry->displayText = QStringLiteral("TOOL:My tool");
+        entry->action = std::make_shared<HostEdCompletion::CallFunction>([&] { ++runs; });
+        offer(entry);
+      });
+  run("TOOL:My tool\nTOOL:My tool\nTOOL:Other\nTOOL:My tool\n");
+  EXPECT_EQ(runs, 2);
+  EXPECT_TRUE(m_script.hasFailed());
+  EXPECT_EQ(m_script.failure(), QStringLiteral("line 3: TOOL:Other\nThere is no tool \"Other\"."));
+}
+
+TEST_F(ScriptTest, TextKeepsItsSignsAcrossThePiecesOfALongLine) {
+  // Pieces of 65,535 bytes part both the letter of two bytes and the caret from its letter.
+  const QByteArray filler(65535 - 10, 'x');
+  run("ASKWORDS\n" + filler + "aaaaaaaaa\xC3\xA4" + QByteArray(65530, 'y') + "\nASKTEXT " +
+      QByteArray(65535 - 9, 'z') + "^C\n");
+  EXPECT_TRUE(m_console.shows(QString::fromUtf8("a\xC3\xA4y")));
+  EXPECT_TRUE(m_console.shows(QStringLiteral("*Cancel*")));
+}
+
+TEST_F(ScriptTest, BytesThatAreNoTextDoNoHarm) {
+  run(QByteArray("ASKTEXT a\xFF\xFE\x00z\n", 13));
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <a")));
+}
