@@ -4,9 +4,10 @@
 #include <QIODevice>
 
 #include <cstring>
+#include <utility>
 
 namespace {
-constexpr qsizetype kPendingLimit = 64 * 1024;
+constexpr std::uint32_t kPendingLimit = 64 * 1024;
 } // namespace
 
 OdDeviceStream::OdDeviceStream(std::unique_ptr<QIODevice> device, OdString name)
@@ -15,7 +16,7 @@ OdDeviceStream::OdDeviceStream(std::unique_ptr<QIODevice> device, OdString name)
 
 OdDeviceStream::~OdDeviceStream() {
   // A destructor cannot report; whoever wants to know calls flush first.
-  if (!m_pending.isEmpty()) m_device->write(m_pending);
+  if (m_used > 0) m_device->write(m_pending.get(), m_used);
 }
 
 void OdDeviceStream::fail() const {
@@ -23,9 +24,9 @@ void OdDeviceStream::fail() const {
 }
 
 void OdDeviceStream::drain() {
-  if (m_pending.isEmpty()) return;
-  const QByteArray bytes = std::exchange(m_pending, {});
-  if (m_device->write(bytes) != bytes.size()) fail();
+  if (m_used == 0) return;
+  const std::uint32_t count = std::exchange(m_used, 0);
+  if (m_device->write(m_pending.get(), count) != static_cast<qint64>(count)) fail();
 }
 
 std::uint64_t OdDeviceStream::length() {
@@ -34,7 +35,7 @@ std::uint64_t OdDeviceStream::length() {
 }
 
 std::uint64_t OdDeviceStream::tell() {
-  return static_cast<std::uint64_t>(m_device->pos() + m_pending.size());
+  return static_cast<std::uint64_t>(m_device->pos() + m_used);
 }
 
 void OdDeviceStream::seek(std::uint64_t position) {
@@ -56,13 +57,15 @@ void OdDeviceStream::getBytes(void* buffer, std::uint32_t count) {
 }
 
 void OdDeviceStream::putBytes(const void* buffer, std::uint32_t count) {
-  m_pending.append(static_cast<const char*>(buffer), static_cast<qsizetype>(count));
-  if (m_pending.size() >= kPendingLimit) drain();
+  drain();
+  if (m_device->write(static_cast<const char*>(buffer), count) != static_cast<qint64>(count))
+    fail();
 }
 
 void OdDeviceStream::putByte(std::uint8_t byte) {
-  m_pending.append(static_cast<char>(byte));
-  if (m_pending.size() >= kPendingLimit) drain();
+  if (!m_pending) m_pending = std::make_unique<char[]>(kPendingLimit);
+  m_pending[m_used++] = static_cast<char>(byte);
+  if (m_used == kPendingLimit) drain();
 }
 
 void OdDeviceStream::flush() {
@@ -82,4 +85,10 @@ void OdMemoryStream::putBytes(const void* buffer, std::uint32_t count) {
   if (end > m_bytes.size()) m_bytes.resize(end);
   std::memcpy(m_bytes.data() + m_position, buffer, count);
   m_position += count;
+}
+
+void OdMemoryStream::putByte(std::uint8_t byte) {
+  if (m_position != length()) return putBytes(&byte, 1);
+  m_bytes.append(static_cast<char>(byte));
+  ++m_position;
 }

@@ -53,7 +53,8 @@ class OdDeviceStream : public OdStreamBuf {
   std::unique_ptr<QIODevice> m_device;
   OdString m_name;
   // Single bytes are gathered here: printing a document writes it byte by byte.
-  QByteArray m_pending;
+  std::unique_ptr<char[]> m_pending;
+  std::uint32_t m_used = 0;
 };
 
 /// A growing stream in memory.
@@ -71,6 +72,7 @@ class OdMemoryStream : public OdStreamBuf {
   void seek(std::uint64_t position) override { m_position = position; }
   void getBytes(void* buffer, std::uint32_t count) override;
   void putBytes(const void* buffer, std::uint32_t count) override;
+  void putByte(std::uint8_t byte) override;
 
  private:
   QByteArray m_bytes;
