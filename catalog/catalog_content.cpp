@@ -60,6 +60,7 @@ bool OdTcCatalogImpl::removeItem(const OdString& id) {
   if (!group) return false;
   notifyRemoved(group);
   m_groups->remove(id);
+  unregister(group);
   orderListObject()->removeFirst(id);
   updateReferenced(this, group);
   return true;
@@ -73,7 +74,10 @@ void OdTcCatalogImpl::removePalette(qsizetype position) {
   const OdTcEnumPtr<OdTcTool> tools = palette->enumTools();
   while (OdTcTool* const tool = tools->next()) tool->setDeleted();
   removePaletteFile(*palette);
-  m_loaders->remove(id);
+  if (const OdTcCatalogItemPtr loader = m_loaders->find(id)) {
+    m_loaders->remove(id);
+    unregister(loader);
+  }
   palette->setDeleted();
   notifyRemoved(palette);
   m_palettes.erase(std::find(m_palettes.begin(), m_palettes.end(), palette));

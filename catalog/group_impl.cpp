@@ -6,6 +6,7 @@
 #include "catalog/owner_link.h"
 #include "catalog/palette_soft_ref_impl.h"
 #include "catalog/tool_palette.h"
+#include "host/host_locator.h"
 
 namespace tc {
 
@@ -19,6 +20,16 @@ OdTcGroupImpl::~OdTcGroupImpl() {
   forgetOwner(m_contents, this);
 }
 
+bool OdTcGroupImpl::takesGroup(const OdTcGroup* group) const {
+  if (!group) return false;
+  // A group inside itself would have no end.
+  for (const OdTcPersist* above = this; above; above = above->owner())
+    if (above == group) return false;
+  if (groupDepth(this) + groupHeight(group) <= kMaxGroupDepth) return true;
+  host::print(host::translate(QStringLiteral("\nGroups cannot be nested any deeper.")));
+  return false;
+}
+
 bool OdTcGroupImpl::addItem(OdTcCatalogItem* item) {
   if (auto* const palette = odrxCast<OdTcToolPalette>(item)) {
     const auto reference = odrxMake<OdTcPaletteSoftRefImpl>();
@@ -28,10 +39,7 @@ bool OdTcGroupImpl::addItem(OdTcCatalogItem* item) {
     return true;
   }
   const auto* const reference = odrxCast<OdTcPaletteSoftRef>(item);
-  if (!reference && !odrxCast<OdTcGroup>(item)) return false;
-  // A group inside itself would have no end.
-  for (const OdTcPersist* above = this; above; above = above->owner())
-    if (above == item) return false;
+  if (!reference && !takesGroup(odrxCast<OdTcGroup>(item))) return false;
   m_contents->add(item);
   if (OdTcToolPalette* const palette = reference ? reference->resolve() : nullptr)
     palette->setReferenced(true);

@@ -15,7 +15,8 @@ class OdTcGroupImpl : public OdTcCatalogItemImplBase<OdTcGroup> {
   OdTcGroupContentList* contents() const override { return m_contents; }
 
   /// A palette is taken in by a soft reference, of which reactors are not told; a group or a soft
-  /// reference as it is. False for anything else, and for a group that this one stands in.
+  /// reference as it is. False for anything else, for a group that this one stands in, and for one
+  /// that would make the tree too deep for a file.
   bool addItem(OdTcCatalogItem* item) override;
   bool removeItem(const OdString& id) override;
   bool findItem(const OdString& id) const override { return m_contents->contains(id); }
@@ -30,6 +31,8 @@ class OdTcGroupImpl : public OdTcCatalogItemImplBase<OdTcGroup> {
   OdRxObjectPtr clone() const override { return clone(true); }
 
  private:
+  bool takesGroup(const OdTcGroup* group) const;
+
   std::int32_t m_activePaletteIndex = -1;
   OdSmartPtr<OdTcGroupContentList> m_contents;
 };

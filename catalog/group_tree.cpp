@@ -27,6 +27,28 @@ bool isReferencedInSubtree(const OdTcList* list, const OdString& id) {
   });
 }
 
+int groupDepth(const OdTcGroup* group) {
+  int depth = 0;
+  for (const OdTcPersist* above = group; above; above = above->owner())
+    if (above->isKindOf(OdTcGroup::desc())) ++depth;
+  return depth;
+}
+
+int groupHeight(const OdTcGroup* group) {
+  int height = 0;
+  std::vector<const OdTcGroup*> level = {group};
+  while (!level.empty()) {
+    ++height;
+    std::vector<const OdTcGroup*> next;
+    for (const OdTcGroup* above : level)
+      for (int i = 0; i < above->contents()->count(); ++i)
+        if (const auto* below = odrxCast<OdTcGroup>(above->contents()->at(i)))
+          next.push_back(below);
+    level.swap(next);
+  }
+  return height;
+}
+
 QSet<OdString> referencedIds(OdTcList* list) {
   QSet<OdString> ids;
   findDepthFirst(list, [&](OdTcCatalogItem* item, OdTcList*) {

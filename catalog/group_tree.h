@@ -32,6 +32,13 @@ OdTcCatalogItem* findDepthFirst(OdTcList* list, Predicate isWanted) {
   return nullptr;
 }
 
+/// Groups nested deeper than this would make a file that is refused when it is read again.
+inline constexpr int kMaxGroupDepth = 120;
+/// How many groups stand above the group, itself included.
+int groupDepth(const OdTcGroup* group);
+/// How many levels of groups the group makes, itself included.
+int groupHeight(const OdTcGroup* group);
+
 /// The ids to which soft references in the list and in the groups in it refer.
 QSet<OdString> referencedIds(OdTcList* list);
 

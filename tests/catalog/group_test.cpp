@@ -148,6 +148,31 @@ TEST_F(GroupTest, TenThousandNestedGroupsAreWalkedAndReleased) {
   group = nullptr;
 }
 
+TEST_F(GroupTest, NestsNoDeeperThanAFileCanBeReadAgain) {
+  const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
+  catalog->addItem(group);
+  OdTcGroupPtr deepest = group;
+  int depth = 1;
+  for (;; ++depth) {
+    const OdTcGroupPtr child = CatalogFixture::group(u"N"_s);
+    if (!deepest->addItem(child)) break;
+    deepest = child;
+    ASSERT_LT(depth, 1000);
+  }
+  EXPECT_TRUE(wasTold({u"nested"_s}));
+  QDir().mkpath(platform(u"c"_s));
+  ASSERT_TRUE(catalog->save(stored(u"c\\DrfTcCatalog.dtc"_s)));
+  const OdTcCatalogPtr again = load(stored(u"c\\DrfTcCatalog.dtc"_s));
+  int found = 0;
+  for (OdTcCatalogItem* item = again->groups()->at(0); item; ++found)
+    item = item->children()->next();
+  EXPECT_EQ(found, depth);
+
+  const OdTcGroupPtr tall = CatalogFixture::group(u"T"_s);
+  nested(tall, u"U"_s);
+  EXPECT_FALSE(OdTcGroupPtr(deepest->owner())->addItem(tall)) << "its height counts as well";
+}
+
 TEST_F(GroupTest, AChildThatOutlivesItsGroupHasNoOwner) {
   const OdTcGroupPtr child = nested(group, u"N"_s);
   group = nullptr;
