@@ -11,9 +11,11 @@ namespace tc {
 namespace {
 
 template <class Record>
-constexpr RecordInfoKind kindOf(QStringView element, QStringView recordElement) {
+constexpr RecordInfoKind kindOf(QStringView element, QStringView recordElement,
+                                bool isTakeable = true) {
   return {element, recordElement, []() -> OdTcSymbolTableRecordPtr { return odrxMake<Record>(); },
-          [](const OdRxObject* object) { return dynamic_cast<const Record*>(object) != nullptr; }};
+          [](const OdRxObject* object) { return dynamic_cast<const Record*>(object) != nullptr; },
+          isTakeable};
 }
 
 } // namespace
@@ -25,7 +27,7 @@ constexpr RecordInfoKind kLineTypeInfo =
 constexpr RecordInfoKind kTextStyleInfo =
     kindOf<OdTcTextStyleTableRecordImpl>(u"TextStyleCreateInfo", u"TextstyleTableRecord");
 constexpr RecordInfoKind kDimStyleInfo =
-    kindOf<OdTcDimStyleTableRecordImpl>(u"DimStyleCreateInfo", u"DimstyleTableRecord");
+    kindOf<OdTcDimStyleTableRecordImpl>(u"DimStyleCreateInfo", u"DimstyleTableRecord", false);
 
 void OdTcColorPropertyCreateInfoImpl::writeFields(OdTcFiler* filer) {
   if (!m_color) return;

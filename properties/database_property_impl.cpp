@@ -11,6 +11,8 @@
 #include "properties/property_basic_info_impl.h"
 #include "properties/stored_field.h"
 
+#include <algorithm>
+
 namespace tc {
 
 /// The property as the host sees it. It has no count of its own: the property's two operations of
@@ -143,6 +145,22 @@ void OdTcDatabasePropertyImpl::takeRecord(OdDbObjectId id) {
   setText(snapshot->recordName());
 }
 
+void OdTcDatabasePropertyImpl::setRecordName(const OdString& name) {
+  IHostDocument* const document = host::curDocument();
+  const OdDbDatabase* const database = document ? document->database() : nullptr;
+  const bool isWord = std::ranges::find(kind().words, QStringView(name)) != kind().words.end();
+  if (database && !isWord && kind().record->isTakeable) {
+    const OdDbObjectId table = kind().record->makeRecord()->tableId(database);
+    if (const OdDbObjectId found = table.openAs<OdDbSymbolTable>()->getAt(name)) {
+      takeRecord(found);
+      return;
+    }
+  }
+  const OdTcSymbolTableRecord* const snapshot = record();
+  if (snapshot && snapshot->recordName() != name) m_createInfo = nullptr;
+  setText(name);
+}
+
 OdDbObjectId OdTcDatabasePropertyImpl::recordIn(OdDbDatabase* database) const {
   const RecordInfoKind* const info = kind().record;
   if (!info) return {};
@@ -223,10 +241,10 @@ void OdTcDatabasePropertyImpl::setValue(const OdVariant& value) {
     OdString stored = text;
     for (const QStringView word : row.words)
       if (text == host::translate(word.toString())) stored = word.toString();
-    // A snapshot of another record has nothing to say any more.
-    const OdTcSymbolTableRecord* const snapshot = record();
-    if (snapshot && snapshot->recordName() != stored) m_createInfo = nullptr;
-    setText(stored);
+    if (row.record)
+      setRecordName(stored);
+    else
+      setText(stored);
   }
   markOwnerItemModified(this);
 }

@@ -37,6 +37,8 @@ class OdTcDatabasePropertyImpl : public OdTcPropertyImplBase<OdTcDatabasePropert
   /// on with one of its own.
   void setValue(const OdVariant& value) override;
 
+  /// A kind without a label is kept for the files' sake and is not shown.
+  bool isVisible() const override { return !kind().label.isEmpty(); }
   bool offersCurrent() const override { return m_offersCurrent; }
   void setOffersCurrent(bool offers) override { m_offersCurrent = offers; }
   bool isFrozen() const override { return m_frozen; }
@@ -56,6 +58,9 @@ class OdTcDatabasePropertyImpl : public OdTcPropertyImplBase<OdTcDatabasePropert
   OdTcSymbolTableRecord* record() const;
   /// Takes a snapshot of the drawing's record; its name becomes the text.
   void takeRecord(OdDbObjectId record);
+  /// Names the record. If the current drawing has it, a snapshot is taken; otherwise one of that
+  /// name is kept, and one of another name goes.
+  void setRecordName(const OdString& name);
   /// The drawing's record of the snapshot's name, or of the text's; made from the snapshot if the
   /// drawing has none. Null if that cannot be done.
   OdDbObjectId recordIn(OdDbDatabase* database) const;

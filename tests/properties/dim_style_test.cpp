@@ -14,7 +14,7 @@ OdString text(const char16_t* s) { return OdString::fromUtf16(s); }
 struct DimStyleTest : testhost::ModuleFixture {
   OdSmartPtr<OdTcDimStyleTableRecordImpl> style = odrxMake<OdTcDimStyleTableRecordImpl>();
 
-  const OdTcDimStyleTableRecordImpl* reread(OdSmartPtr<testhost::PartsRoot>& root) const {
+  OdTcDimStyleTableRecordImpl* reread(OdSmartPtr<testhost::PartsRoot>& root) const {
     root = testhost::readParts(written(style));
     return dynamic_cast<OdTcDimStyleTableRecordImpl*>(root->parts.at(0).get());
   }
@@ -39,13 +39,10 @@ TEST_P(DimVariableTest, ComesBackFromAFileWithAValueOfItsOwn) {
       },
       field.member);
   OdSmartPtr<testhost::PartsRoot> root;
-  const auto* const back = reread(root);
+  auto* const back = reread(root);
   ASSERT_TRUE(back);
-  // Real numbers go to a file with six digits, so texts are compared and not the numbers.
-  for (const dim_style::Field& each : dim_style::kVariables)
-    EXPECT_EQ(storedValue(back->variables(), each).toString(),
-              storedValue(variables, each).toString())
-        << each.name.toString().toStdString();
+  // Real numbers go to a file with six digits, so what is written is compared and not the numbers.
+  EXPECT_EQ(written(back).toStdString(), written(style).toStdString());
   EXPECT_NE(storedValue(back->variables(), field).toString(),
             storedValue(OdTcDimStyleVariables(), field).toString());
 }

@@ -226,6 +226,27 @@ TEST_F(DrawingValuesTest, NameWithoutASnapshotLeadsToARecordOfTheDrawing) {
   EXPECT_EQ(drawing->currentLinetype(), drawing->getLinetypeContinuousId());
 }
 
+TEST_F(DrawingValuesTest, EditedNameTakesASnapshotOfTheCurrentDrawingsRecord) {
+  addLayer(u"Doors", 4);
+  testhost::host().documents.open(text(u"A.dxf")).databaseOfDocument = drawing;
+  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
+  layer->setValue(OdVariant(text(u"Doors")));
+  ASSERT_TRUE(layer->record());
+  EXPECT_EQ(layer->record()->recordName(), text(u"Doors"));
+  testhost::host().documents.closeAll();
+  layer->setValue(OdVariant(text(u"Doors")));
+  EXPECT_TRUE(layer->record()) << "a name that no drawing knows keeps its snapshot";
+  layer->setValue(OdVariant(text(u"Windows")));
+  EXPECT_FALSE(layer->record()) << "the snapshot was of another layer";
+  EXPECT_EQ(layer->getValue().toString(), text(u"Windows"));
+  const auto lineType = odrxMake<OdTcLineTypePropertyImpl>();
+  testhost::host().documents.open(text(u"B.dxf")).databaseOfDocument = drawing;
+  lineType->setValue(OdVariant(text(u"ByLayer")));
+  EXPECT_FALSE(lineType->record()) << "a special word is no record";
+  EXPECT_EQ(lineType->text(), text(u"ByLayer"));
+  testhost::host().documents.closeAll();
+}
+
 TEST_F(DrawingValuesTest, TextStyleIsFoundOrMade) {
   const OdDbDatabasePtr source = OdDbDatabase::createDatabase();
   auto style = odrxMake<OdDbTextStyleTableRecord>();
