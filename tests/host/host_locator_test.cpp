@@ -121,6 +121,20 @@ TEST_F(HostLocatorTest, FindsTheCommandFactoryInTheModuleThatTheExecutableNames)
   EXPECT_EQ(g_view, 0);
 }
 
+const char16_t* giveNoName() { return nullptr; }
+const char16_t* giveEmptyName() { return u""; }
+
+TEST_F(HostLocatorTest, AnExecutableWithoutAModuleNameIsTheMainModuleItself) {
+  for (const auto name : {giveNoName, giveEmptyName}) {
+    g_named = 0;
+    TestDirectory process;
+    process.offer(&process, hostexport::kGetMainDllName, name);
+    process.offer(&process, hostexport::kNewCmdFactory, makeFactoryOfNamed);
+    ::host::newCmdFactory();
+    EXPECT_EQ(g_named, 1);
+  }
+}
+
 TEST_F(HostLocatorTest, FindsTheCommandFactoryInTheViewModuleThenInTheApplicationModule) {
   g_named = g_view = g_kvac = 0;
   TestDirectory process;

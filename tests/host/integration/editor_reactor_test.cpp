@@ -216,6 +216,30 @@ TEST_F(EditorReactorTest, ASecondToolInTheSameDocumentCancelsTheFirst) {
                                 QStringLiteral("send A.dxf Second")}));
 }
 
+TEST_F(EditorReactorTest, LocksTheDocumentWhileTheGeneralPropertiesAreApplied) {
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  EXPECT_EQ(host().log,
+            QStringList({QStringLiteral("lock A.dxf EXECUTETOOL 4 1"),
+                         QStringLiteral("unlock A.dxf"), QStringLiteral("begin Door"),
+                         QStringLiteral("execute Door"), QStringLiteral("send A.dxf Door")}));
+  ASSERT_EQ(host().documents.locks.size(), 1u);
+  EXPECT_EQ(host().documents.locks[0].reserved, nullptr);
+  host().log.clear();
+  host().events.commandEnded(QStringLiteral("LINE"));
+  EXPECT_EQ(host().log, QStringList(QStringLiteral("end Door"))) << "finishing does not lock";
+}
+
+TEST_F(EditorReactorTest, AToolWithoutAnAgentRunsEmpty) {
+  const OdTcToolPtr tool = OdTcTool::createObject();
+  tool->setToolType(OdTcTool::kRegular);
+  tool->execute(&here);
+  EXPECT_TRUE(guard.isRunning());
+  host().events.commandEnded(QStringLiteral("LINE"));
+  EXPECT_FALSE(guard.isRunning());
+  EXPECT_TRUE(here.sent.isEmpty());
+}
+
 TEST_F(EditorReactorTest, AToolInAnotherDocumentIsRefusedWithAMessage) {
   const OdTcToolPtr first = makeTool(QStringLiteral("Door"));
   first->execute(&here);
