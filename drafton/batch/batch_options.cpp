@@ -84,9 +84,10 @@ OdString helpText() {
       "  --version        shows the version\n"
       "\n"
       "In a script a blank ends a word, an empty line is Enter, ^C cancels, and a text with\n"
-      "blanks can stand in double quotes. The line TOOL:<name> runs the tool of that name. A\n"
-      "line that begins with # while no command waits is a comment. The script ends at the\n"
-      "first command that is unknown or fails, or that still waits at its end.\n"
+      "blanks can stand in double quotes. The line TOOL:<name> runs the tool of that name,\n"
+      "DOCUMENT:<name> goes on in another open drawing. A line that begins with # while no\n"
+      "command waits is a comment. The script ends at the first command that is unknown or\n"
+      "fails, or that still waits at its end.\n"
       "\n"
       "Exit codes: 0 all was done, 1 the script failed, 2 wrong arguments, 3 a drawing cannot\n"
       "be opened or saved.\n");

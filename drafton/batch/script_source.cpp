@@ -37,13 +37,25 @@ bool ScriptSource::waitForInput() {
   return true;
 }
 
-/// True for a line that is not typed: a comment, or a tool.
+/// True for a line that is not typed: a comment, a tool, or the drawing to go on in.
 bool ScriptSource::takeWholeLine(const OdString& line) {
   if (line.startsWith(u'#') && !m_engine->currentProcessor().isBusy()) return true;
-  if (!line.startsWith(QLatin1String("TOOL:"))) return false;
-  if (!m_engine->completion().runOffer(QStringLiteral("tools"), line))
-    fail(translated(u"There is no tool \"%1\".").arg(line.mid(5).left(kShownText)));
-  return true;
+  if (line.startsWith(QLatin1String("TOOL:"))) {
+    if (!m_engine->completion().runOffer(QStringLiteral("tools"), line))
+      fail(translated(u"There is no tool \"%1\".").arg(line.mid(5).left(kShownText)));
+    return true;
+  }
+  if (line.startsWith(QLatin1String("DOCUMENT:"))) {
+    activate(line.mid(9));
+    return true;
+  }
+  return false;
+}
+
+void ScriptSource::activate(const OdString& name) {
+  for (const auto& document : m_engine->documents().documents())
+    if (document->name() == name) return m_engine->documents().activate(*document);
+  fail(translated(u"There is no open drawing \"%1\".").arg(name.left(kShownText)));
 }
 
 void ScriptSource::fail(const OdString& reason) {

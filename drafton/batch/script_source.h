@@ -30,6 +30,8 @@ class ScriptSource : public InputSource {
  private:
   bool readPiece(OdString& piece, bool& endsLine);
   bool takeWholeLine(const OdString& line);
+  /// Goes on in the open drawing of that name; commands that wait in another one keep waiting.
+  void activate(const OdString& name);
 
   QIODevice& m_device;
   Engine* m_engine = nullptr;

@@ -58,8 +58,9 @@ QString Workbench::writeCatalog(const QString& name, const QList<ToolText>& tool
   for (const ToolText& tool : tools)
     text += QStringLiteral(
                 "<Tool><ItemID idValue=\"%1\"/><Properties><ItemName>%2</ItemName></Properties>"
-                "<ToolType>1</ToolType><Data><Command Macro=\"%3\"/></Data></Tool>")
-                .arg(freshId(), tool.name, tool.macro.toHtmlEscaped());
+                "<ToolType>1</ToolType><Data><GeneralProperties>%4</GeneralProperties>"
+                "<Command Macro=\"%3\"/></Data></Tool>")
+                .arg(freshId(), tool.name, tool.macro.toHtmlEscaped(), tool.generalProperties);
   text += QStringLiteral("</Tools></Palette>");
   write(name + QStringLiteral("/Palettes/palette.dtc"), text.toUtf8());
   write(

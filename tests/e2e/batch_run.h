@@ -12,6 +12,7 @@
 struct ToolText {
   QString name;
   QString macro;
+  QString generalProperties = {}; ///< XML
 };
 
 /// What a run of a program gave.

@@ -40,6 +40,43 @@ TEST(RunningATool, ASecondOneInTheDocumentCancelsTheFirstAndRunsOn) {
   EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
 }
 
+TEST(RunningATool, IsRefusedWhileAnotherDocumentRunsOne) {
+  const Workbench bench;
+  const QString catalog = bench.writeCatalog(
+      QStringLiteral("c"), {{QStringLiteral("First"), QStringLiteral("_LINE 0,0 \\")},
+                            {QStringLiteral("Second"), QStringLiteral("_CIRCLE 1,2 3")}});
+  const RunResult run = bench.batch(catalog, "NewDocument\n"
+                                             "DOCUMENT:Drawing1.dxf\n"
+                                             "TOOL:First\n"
+                                             "DOCUMENT:Drawing2.dxf\n"
+                                             "TOOL:Second\n"
+                                             "DOCUMENT:Drawing1.dxf\n"
+                                             "5,0\n\n"
+                                             "DOCUMENT:Drawing2.dxf\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  EXPECT_TRUE(run.out.contains(QStringLiteral(
+      "Execution canceled. Tool \"First\" is already running in document \"Drawing1.dxf\"")))
+      << qPrintable(run.out);
+  EXPECT_EQ(bench.entities().size(), 0) << "the second document stays as it was";
+  EXPECT_FALSE(run.out.contains(QStringLiteral("_CIRCLE")));
+}
+
+TEST(RunningATool, PutsItsColourInForceAndTheDrawingsOwnBack) {
+  const Workbench bench;
+  const QString catalog = bench.writeCatalog(
+      QStringLiteral("c"),
+      {{QStringLiteral("Red"), QStringLiteral("_LINE 0,0 1,0;"),
+        QStringLiteral(
+            "<Color><BasicPropInfo><PropValue unspecified=\"FALSE\"/></BasicPropInfo>"
+            "<ColorCreateInfo><AcCmColor mRGB=\"3271557121\"/></ColorCreateInfo></Color>")}});
+  const RunResult run = bench.batch(catalog, "TOOL:Red\nLINE 0,0 0,1 \n\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  const QJsonArray entities = bench.entities();
+  ASSERT_EQ(entities.size(), 2);
+  EXPECT_EQ(entities[0][QStringLiteral("color")].toInt(), 1);
+  EXPECT_EQ(entities[1][QStringLiteral("color")].toInt(), 256);
+}
+
 TEST(RunningATool, AnUnknownOneFailsTheScriptAndIsNamed) {
   const Workbench bench;
   const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});
