@@ -165,6 +165,14 @@ void OdDbDatabase::abandonUndoRecord() {
   deliverChanges();
 }
 
+OdDbUndoMark OdDbDatabase::undoMark() const { return m_data->undo.mark(); }
+
+bool OdDbDatabase::rollbackTo(const OdDbUndoMark& mark) {
+  const bool done = m_data->undo.rollBack(mark);
+  deliverChanges();
+  return done;
+}
+
 void OdDbDatabase::clearUndo() { m_data->undo.clear(); }
 
 void OdDbDatabase::addReactor(OdDbDatabaseReactor* reactor) { m_data->reactors.push_back(reactor); }

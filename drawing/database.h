@@ -10,6 +10,7 @@
 #include "drawing/linetype_table.h"
 #include "drawing/plain_tables.h"
 #include "drawing/text_style_table.h"
+#include "drawing/undo_mark.h"
 
 class QIODevice;
 class OdDbUndo;
@@ -129,9 +130,14 @@ class OdDbDatabase : public OdRxObject {
   /// Starts a step. Everything that changes until the next mark is undone at once. A step in which
   /// nothing changes leaves no trace. The first change behind an undo forgets what could be redone.
   void startUndoRecord(const OdString& name);
-  /// Ends the step. Before the first mark nothing is kept for undo; changes between steps are a
-  /// step without a name.
+  /// Ends the step. What changes outside of steps is not kept for undo: a step that is undone later
+  /// gives the objects that it changed the state from before it.
   void endUndoRecord();
+  /// The place that the running step has come to.
+  OdDbUndoMark undoMark() const;
+  /// Takes back what changed since a mark; what the step did before it stays. Marks that were
+  /// set behind it are void. False if the mark is not of the running step: nothing changes then.
+  bool rollbackTo(const OdDbUndoMark& mark);
   bool hasUndo() const;
   bool hasRedo() const;
   /// The name of the step that undo() or redo() would take; empty if there is none.
@@ -151,8 +157,9 @@ class OdDbDatabase : public OdRxObject {
 
   void addReactor(OdDbDatabaseReactor* reactor);
   void removeReactor(OdDbDatabaseReactor* reactor);
-  /// Tells reactors of the objects that were changed since the last time. Undo marks, undo, redo
-  /// and downgradeOpen do this; a host does it when it has finished with an input.
+  /// Tells reactors of the objects that were changed since the last time. Starting and ending
+  /// steps, undo, redo and downgradeOpen do this; a host does it when it has finished with an
+  /// input.
   void deliverChanges();
 
   OdDbDatabase();

@@ -3,13 +3,15 @@
 #include "drawing/database_data.h"
 
 void OdDbUndo::start(const OdString& name) {
-  m_enabled = true;
-  m_open = false;
+  end();
+  m_recording = true;
   m_nextName = name;
 }
 
 void OdDbUndo::end() {
+  m_recording = false;
   m_open = false;
+  ++m_record;
   m_nextName.clear();
 }
 
@@ -17,7 +19,6 @@ void OdDbUndo::clear() {
   end();
   m_done.clear();
   m_undone.clear();
-  m_enabled = false;
 }
 
 const OdString* OdDbUndo::undoName() const {
@@ -29,7 +30,7 @@ const OdString* OdDbUndo::redoName() const {
 std::size_t OdDbUndo::depth() const { return m_done.size(); }
 
 OdDbUndo::Step* OdDbUndo::step() {
-  if (!m_enabled) return nullptr;
+  if (!m_recording) return nullptr;
   if (!m_open) {
     m_undone.clear();
     m_done.push_back({m_nextName, m_database.data().handseed, {}});
@@ -48,18 +49,24 @@ void OdDbUndo::willModify(OdDbStub& stub) {
   current->changes.push_back(Modified{&stub, state});
 }
 
-void OdDbUndo::willAppend() { step(); }
+void OdDbUndo::willAppend() {
+  // An object of no step may get a handle that an undone one would want back.
+  if (!step()) m_undone.clear();
+}
 
 void OdDbUndo::appended(OdDbStub& stub) {
   Step* const current = step();
-  if (!current) return;
+  if (!current) {
+    m_unrecordedHandles = m_database.data().handseed;
+    return;
+  }
   // Its first state is the one that it has when the step ends.
   stub.undoStep = m_stamp;
   current->changes.push_back(Appended{&stub, nullptr});
 }
 
 void OdDbUndo::willErase(OdDbStub& stub) {
-  if (Step* const current = step()) current->changes.push_back(Erased{&stub});
+  if (Step* const current = step()) current->changes.push_back(Erased{&stub, stub.erased});
 }
 
 void OdDbUndo::willSetVar(int index) {
@@ -71,7 +78,8 @@ void OdDbUndo::willSetVar(int index) {
 }
 
 bool OdDbUndo::undo() {
-  end();
+  m_open = false;
+  ++m_record;
   if (m_done.empty()) return false;
   Step taken = std::move(m_done.back());
   m_done.pop_back();
@@ -81,7 +89,8 @@ bool OdDbUndo::undo() {
 }
 
 bool OdDbUndo::redo() {
-  end();
+  m_open = false;
+  ++m_record;
   if (m_undone.empty()) return false;
   Step taken = std::move(m_undone.back());
   m_undone.pop_back();
@@ -98,16 +107,58 @@ void OdDbUndo::abandon() {
   end();
 }
 
+OdDbUndoMark OdDbUndo::mark() const {
+  if (!m_recording) return {};
+  // What an object is now has to be kept, though the step may know what it was before.
+  ++m_stamp;
+  return {m_record, m_open ? m_done.back().changes.size() : 0, m_database.data().handseed};
+}
+
+bool OdDbUndo::rollBack(const OdDbUndoMark& mark) {
+  if (!m_recording || mark.record != m_record) return false;
+  if (!m_open) return true;
+  Step& step = m_done.back();
+  // An earlier roll back went behind the mark.
+  if (mark.changes > step.changes.size()) return false;
+  if (mark.changes < step.changes.size()) {
+    playBack(step, mark.changes);
+    std::uint64_t handseed = mark.handseed;
+    exchangeHandseed(handseed);
+  }
+  ++m_stamp;
+  if (step.changes.empty()) {
+    m_done.pop_back();
+    m_open = false;
+  }
+  return true;
+}
+
 void OdDbUndo::play(Step& step, bool backwards) {
-  std::swap(step.handseed, m_database.data().handseed);
+  exchangeHandseed(step.handseed);
   m_database.data().modified = true;
-  const auto one = [&](Change& change) {
-    std::visit([&](auto& c) { play(c, backwards); }, change);
-  };
   if (backwards)
-    std::for_each(step.changes.rbegin(), step.changes.rend(), one);
+    std::for_each(step.changes.rbegin(), step.changes.rend(),
+                  [&](Change& change) { play(change, true); });
   else
-    std::for_each(step.changes.begin(), step.changes.end(), one);
+    std::for_each(step.changes.begin(), step.changes.end(),
+                  [&](Change& change) { play(change, false); });
+}
+
+void OdDbUndo::playBack(Step& step, std::size_t kept) {
+  while (step.changes.size() > kept) {
+    play(step.changes.back(), true);
+    step.changes.pop_back();
+  }
+}
+
+void OdDbUndo::play(Change& change, bool backwards) {
+  std::visit([&](auto& c) { play(c, backwards); }, change);
+}
+
+void OdDbUndo::exchangeHandseed(std::uint64_t& other) {
+  std::uint64_t& seed = m_database.data().handseed;
+  std::swap(other, seed);
+  seed = std::max(seed, m_unrecordedHandles);
 }
 
 void OdDbUndo::play(Modified& change, bool) {
@@ -130,11 +181,16 @@ void OdDbUndo::play(Appended& change, bool backwards) {
   auto* const block = odrxCast<OdDbBlockTableRecord>(owner.get());
   auto* const table = odrxCast<OdDbSymbolTable>(owner.get());
   if (backwards) {
-    // Changes are taken back in the reverse order, so the object is the last one of its container.
+    // Changes are taken back in the reverse order, so the object is the last one of its container
+    // but for what came to it outside of every step.
     std::vector<OdDbObjectId>* const list =
         block ? &block->m_entities : (table ? &table->m_records : nullptr);
-    change.listed = list && !list->empty() && list->back() == id;
-    if (change.listed) list->pop_back();
+    change.listed = false;
+    if (list) {
+      const auto at = std::find(list->rbegin(), list->rend(), id);
+      change.listed = at != list->rend();
+      if (change.listed) list->erase(std::next(at).base());
+    }
     data.byHandle.remove(stub.handle);
     stub.object = nullptr;
     // Whoever still holds the object may keep it longer than the drawing lives.
@@ -158,7 +214,7 @@ void OdDbUndo::play(Appended& change, bool backwards) {
 
 void OdDbUndo::play(Erased& change, bool) {
   OdDbStub& stub = *change.stub;
-  stub.erased = !stub.erased;
+  std::swap(stub.erased, change.erased);
   if (const auto table = odrxCast<OdDbSymbolTable>(stub.object->ownerId().openObject().get()))
     table->renamed();
   m_database.data().tell([&](OdDbDatabaseReactor& r) {

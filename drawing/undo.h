@@ -3,6 +3,7 @@
 
 #include "drawing/header_vars.h"
 #include "drawing/stub.h"
+#include "drawing/undo_mark.h"
 
 #include <vector>
 
@@ -20,6 +21,8 @@ class OdDbUndo {
   bool undo();
   bool redo();
   void abandon();
+  OdDbUndoMark mark() const;
+  bool rollBack(const OdDbUndoMark& mark);
   void clear();
   const OdString* undoName() const;
   const OdString* redoName() const;
@@ -46,6 +49,7 @@ class OdDbUndo {
   };
   struct Erased {
     OdDbStub* stub;
+    bool erased; ///< what the object is on the other side
   };
   struct VarSet {
     int index;
@@ -61,6 +65,9 @@ class OdDbUndo {
 
   Step* step();
   void play(Step& step, bool backwards);
+  void playBack(Step& step, std::size_t kept);
+  void play(Change& change, bool backwards);
+  void exchangeHandseed(std::uint64_t& other);
   void play(Modified& change, bool backwards);
   void play(Appended& change, bool backwards);
   void play(Erased& change, bool backwards);
@@ -69,8 +76,11 @@ class OdDbUndo {
   OdDbDatabase& m_database;
   std::vector<Step> m_done, m_undone;
   OdString m_nextName;
-  // Numbers of steps are never used twice, so that an object's stamp cannot be mistaken.
-  std::uint32_t m_stamp = 0;
-  bool m_enabled = false;
-  bool m_open = false;
+  // Numbers of pieces between steps and marks are never used twice, so that an object's stamp
+  // cannot be mistaken.
+  mutable std::uint32_t m_stamp = 0;
+  std::uint64_t m_record = 0;            ///< changes when marks lose their meaning
+  std::uint64_t m_unrecordedHandles = 0; ///< handles below may belong to objects of no step
+  bool m_recording = false;
+  bool m_open = false; ///< the last step done is the one under way
 };

@@ -129,13 +129,112 @@ TEST_F(DrawingUndo, AbandonedStepIsGoneAsIfItHadNeverRun) {
   EXPECT_EQ(m_db->undoDepth(), 1u) << "a finished step is not abandoned";
 }
 
-TEST_F(DrawingUndo, ChangesBetweenStepsAreAStepWithoutAName) {
+TEST_F(DrawingUndo, ChangesBetweenStepsAreNotKept) {
+  step("LINE");
+  const OdDbObjectId first = addLine();
+  m_db->endUndoRecord();
+  const OdDbObjectId second = addLine();
+  first.openAs<OdDbLine>(OdDb::kForWrite)->setThickness(4);
+  m_db->setSysVar(QStringLiteral("PDMODE"), std::int64_t{34});
+  EXPECT_EQ(m_db->undoDepth(), 1u);
+  EXPECT_EQ(m_db->undoName(), QLatin1String("LINE"));
+  const QByteArray before = m_db->writeDxf();
+  m_db->undo();
+  EXPECT_FALSE(first.isValid());
+  EXPECT_TRUE(second.isValid());
+  EXPECT_GT(m_db->handseed(), second.getHandle());
+  EXPECT_EQ(m_db->sysVarInt("PDMODE"), 34);
+  m_db->writeDxf();
+  m_db->redo();
+  EXPECT_EQ(first.openAs<OdDbLine>()->thickness(), 4);
+  const OdDbDatabasePtr back = OdDbDatabase::readDxf(m_db->writeDxf(), QStringLiteral("back.dxf"));
+  EXPECT_EQ(back->unknownContent(), QStringList());
+  EXPECT_EQ(back->getModelSpaceId().openAs<OdDbBlockTableRecord>()->entityIds().size(), 2u);
+}
+
+TEST_F(DrawingUndo, ChangesBetweenStepsDoNotTurnWhatAStepErasedRound) {
+  const OdDbObjectId id = addLine();
+  step("ERASE");
+  id.openAs<OdDbLine>(OdDb::kForWrite)->erase();
+  m_db->endUndoRecord();
+  id.safeOpenObject(OdDb::kForWrite, true)->erase(false);
+  m_db->undo();
+  EXPECT_TRUE(id.isValid());
+}
+
+TEST_F(DrawingUndo, ObjectOfNoStepKeepsItsHandleWhenStepsCouldBeRedone) {
   step("LINE");
   addLine();
   m_db->endUndoRecord();
+  m_db->undo();
+  const OdDbObjectId taken = addLine();
+  EXPECT_FALSE(m_db->redo());
+  EXPECT_EQ(m_db->getOdDbObjectId(taken.getHandle()), taken);
+}
+
+TEST_F(DrawingUndo, RunningStepGoesOnBehindAnUndo) {
+  step("FIRST");
   addLine();
+  m_db->undo();
+  addLine();
+  EXPECT_EQ(m_db->undoDepth(), 1u);
+  EXPECT_EQ(m_db->undoName(), QLatin1String("FIRST"));
+}
+
+TEST_F(DrawingUndo, RollBackKeepsWhatTheStepDidBeforeTheMark) {
+  const OdDbObjectId old = addLine();
+  const QByteArray start = m_db->writeDxf();
+  step("OUTER");
+  const OdDbObjectId added = addLine();
+  old.openAs<OdDbLine>(OdDb::kForWrite)->setThickness(2);
+  m_db->setSysVar(QStringLiteral("LTSCALE"), 2.0);
+  const QByteArray before = m_db->writeDxf();
+
+  const OdDbUndoMark mark = m_db->undoMark();
+  for (int round = 0; round < 2; ++round) {
+    old.openAs<OdDbLine>(OdDb::kForWrite)->setThickness(3);
+    added.openAs<OdDbLine>(OdDb::kForWrite)->transformBy(OdGeMatrix3d::translation({5, 0, 0}));
+    added.openAs<OdDbLine>(OdDb::kForWrite)->erase();
+    addLine();
+    addLayer(QStringLiteral("Inner"));
+    m_db->setSysVar(QStringLiteral("LTSCALE"), 9.0);
+    EXPECT_TRUE(m_db->rollbackTo(mark));
+    EXPECT_TRUE(m_db->writeDxf() == before) << round;
+  }
+
+  old.openAs<OdDbLine>(OdDb::kForWrite)->setThickness(4);
+  const QByteArray end = m_db->writeDxf();
+  m_db->endUndoRecord();
+  EXPECT_EQ(m_db->undoDepth(), 1u);
+  m_db->undo();
+  EXPECT_TRUE(m_db->writeDxf() == start);
+  m_db->redo();
+  EXPECT_TRUE(m_db->writeDxf() == end);
+}
+
+TEST_F(DrawingUndo, StepThatIsRolledBackToItsStartLeavesNoTrace) {
+  step("OUTER");
+  const OdDbUndoMark mark = m_db->undoMark();
+  addLine();
+  EXPECT_TRUE(m_db->rollbackTo(mark));
+  EXPECT_EQ(m_db->undoDepth(), 0u);
+  addLine();
+  EXPECT_EQ(m_db->undoName(), QLatin1String("OUTER"));
+}
+
+TEST_F(DrawingUndo, MarkOfAnotherStepRollsNothingBack) {
+  const OdDbUndoMark never = m_db->undoMark();
+  EXPECT_FALSE(m_db->rollbackTo(never));
+  step("LINE");
+  const OdDbUndoMark mark = m_db->undoMark();
+  addLine();
+  EXPECT_FALSE(m_db->rollbackTo(never));
+  step("COPY");
+  addLine();
+  EXPECT_FALSE(m_db->rollbackTo(mark));
+  m_db->endUndoRecord();
+  EXPECT_FALSE(m_db->rollbackTo(m_db->undoMark()));
   EXPECT_EQ(m_db->undoDepth(), 2u);
-  EXPECT_EQ(m_db->undoName(), OdString());
 }
 
 TEST_F(DrawingUndo, NamesOfRecordsAreFoundAsTheyAreNow) {
