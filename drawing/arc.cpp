@@ -90,14 +90,19 @@ bool OdDbArc::getGeomExtents(OdGeExtents3d& extents) const {
 bool OdDbArc::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_arc.normal);
   if (!plane.valid) return false;
-  assertWriteEnabled();
+  Data moved = m_arc;
   const double start = plane.angle(m_arc.startAngle);
   const double end = plane.angle(m_arc.endAngle);
-  m_arc.startAngle = plane.mirrors ? end : start;
-  m_arc.endAngle = plane.mirrors ? start : end;
-  m_arc.center = plane.inPlane * m_arc.center;
-  m_arc.radius *= plane.scale();
-  m_arc.thickness *= (transform * m_arc.normal).length();
-  m_arc.normal = plane.normal;
+  moved.startAngle = plane.mirrors ? end : start;
+  moved.endAngle = plane.mirrors ? start : end;
+  moved.center = plane.inPlane * m_arc.center;
+  moved.radius *= plane.scale();
+  moved.thickness *= (transform * m_arc.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.center, moved.radius, moved.thickness, start, end) ||
+      moved.radius <= 0)
+    return false;
+  assertWriteEnabled();
+  m_arc = moved;
   return true;
 }

@@ -19,6 +19,18 @@ inline void finite(const OdGePoint2d& p) {
   finite(p.x);
   finite(p.y);
 }
+
+/// True if none of the numbers is infinite or none at all.
+inline bool isFinite(double value) { return std::isfinite(value); }
+inline bool isFinite(const OdGePoint2d& p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+inline bool isFinite(const OdGePoint3d& p) { return odgeIsFinite(p); }
+inline bool isFinite(const OdGeVector3d& v) {
+  return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+}
+template <class... T>
+bool areFinite(const T&... values) {
+  return (isFinite(values) && ...);
+}
 /// Raises OdError(eInvalidInput) unless the number is finite and above 0.
 inline void positive(double value) {
   finite(value);

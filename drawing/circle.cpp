@@ -64,10 +64,14 @@ bool OdDbCircle::getGeomExtents(OdGeExtents3d& extents) const {
 bool OdDbCircle::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_circle.normal);
   if (!plane.valid) return false;
+  Data moved = m_circle;
+  moved.center = plane.inPlane * m_circle.center;
+  moved.radius *= plane.scale();
+  moved.thickness *= (transform * m_circle.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.center, moved.radius, moved.thickness) || moved.radius <= 0)
+    return false;
   assertWriteEnabled();
-  m_circle.center = plane.inPlane * m_circle.center;
-  m_circle.radius *= plane.scale();
-  m_circle.thickness *= (transform * m_circle.normal).length();
-  m_circle.normal = plane.normal;
+  m_circle = moved;
   return true;
 }

@@ -45,7 +45,8 @@ class OdDbEntity : public OdDbObject {
   /// The box around the entity in world coordinates; false if it has none.
   virtual bool getGeomExtents(OdGeExtents3d& extents) const = 0;
   /// Moves, turns, scales or mirrors the entity. False if the entity cannot take the shape that it
-  /// would have to take (a circle under unequal scales); it is then unchanged.
+  /// would have to take (a circle under unequal scales, or one where numbers end); it is then
+  /// unchanged.
   virtual bool transformBy(const OdGeMatrix3d& transform) = 0;
 
   void assignFrom(const OdDbObject& other) override;

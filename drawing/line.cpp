@@ -49,11 +49,14 @@ bool OdDbLine::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbLine::transformBy(const OdGeMatrix3d& transform) {
-  assertWriteEnabled();
-  m_line.start = transform * m_line.start;
-  m_line.end = transform * m_line.end;
+  Data moved = m_line;
+  moved.start = transform * m_line.start;
+  moved.end = transform * m_line.end;
   const OdGeVector3d rise = transform * m_line.normal;
-  m_line.thickness *= rise.length();
-  if (!rise.isZeroLength()) m_line.normal = rise.normal();
+  moved.thickness *= rise.length();
+  if (!rise.isZeroLength()) moved.normal = rise.normal();
+  if (!odcheck::areFinite(moved.start, moved.end, moved.thickness, moved.normal)) return false;
+  assertWriteEnabled();
+  m_line = moved;
   return true;
 }

@@ -9,6 +9,8 @@ OdGePlaneTransform::OdGePlaneTransform(const OdGeMatrix3d& transform,
   OdGeVector3d n = x.crossProduct(y);
   const double size = x.lengthSqrd();
   const double slack = 1e-9 * size;
+  // Beyond these a direction has no length any more.
+  if (!(n.lengthSqrd() > 0) || !std::isfinite(n.lengthSqrd())) return;
   if (!(size > 0) || std::abs(y.lengthSqrd() - size) > slack || std::abs(x.dotProduct(y)) > slack)
     return;
   // The side from which the plane is seen stays; it is the turn that changes its sense.

@@ -8,7 +8,7 @@ struct OdGePlaneTransform {
   OdGeVector3d normal;  ///< of the new plane
   OdGeMatrix3d inPlane; ///< from the old plane's coordinates to the new plane's
   bool mirrors = false; ///< turns around the normal run the other way
-  bool valid = false;   ///< false if the plane is scaled unequally or squeezed
+  bool valid = false;   ///< false if the plane is scaled unequally, squeezed, or beyond numbers
 
   OdGePlaneTransform(const OdGeMatrix3d& transform, const OdGeVector3d& oldNormal);
   /// The factor for lengths in the plane.

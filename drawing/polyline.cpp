@@ -154,20 +154,23 @@ bool OdDbPolyline::getGeomExtents(OdGeExtents3d& extents) const {
 bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_polyline.normal);
   if (!plane.valid) return false;
-  assertWriteEnabled();
+  Data moved = m_polyline;
   const double factor = plane.scale();
-  const double elevation = (plane.inPlane * OdGePoint3d{0, 0, m_polyline.elevation}).z;
-  for (Vertex& v : m_polyline.vertices) {
-    const OdGePoint3d moved =
+  for (Vertex& v : moved.vertices) {
+    const OdGePoint3d place =
         plane.inPlane * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation};
-    v.point = {moved.x, moved.y};
+    v.point = {place.x, place.y};
     v.startWidth *= factor;
     v.endWidth *= factor;
     if (plane.mirrors) v.bulge = -v.bulge;
+    if (!odcheck::areFinite(v.point, v.startWidth, v.endWidth)) return false;
   }
-  m_polyline.elevation = elevation;
-  m_polyline.constantWidth *= factor;
-  m_polyline.thickness *= (transform * m_polyline.normal).length();
-  m_polyline.normal = plane.normal;
+  moved.elevation = (plane.inPlane * OdGePoint3d{0, 0, m_polyline.elevation}).z;
+  moved.constantWidth *= factor;
+  moved.thickness *= (transform * m_polyline.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.elevation, moved.constantWidth, moved.thickness)) return false;
+  assertWriteEnabled();
+  m_polyline = std::move(moved);
   return true;
 }

@@ -172,17 +172,23 @@ bool OdDbText::getGeomExtents(OdGeExtents3d& extents) const {
 bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_text.normal);
   if (!plane.valid) return false;
-  assertWriteEnabled();
-  m_text.position = plane.inPlane * m_text.position;
-  m_text.alignment = plane.inPlane * m_text.alignment;
-  m_text.height *= plane.scale();
-  m_text.rotation = plane.angle(m_text.rotation);
+  Data moved = m_text;
+  moved.position = plane.inPlane * m_text.position;
+  moved.alignment = plane.inPlane * m_text.alignment;
+  moved.height *= plane.scale();
+  moved.rotation = plane.angle(m_text.rotation);
   if (plane.mirrors) {
     // Mirrored letters run backwards along a base line that points the other way.
-    m_text.rotation = odgeNormalAngle(m_text.rotation + kOdaPi);
-    m_text.generation ^= kBackwards;
+    moved.rotation = odgeNormalAngle(moved.rotation + kOdaPi);
+    moved.generation ^= kBackwards;
   }
-  m_text.thickness *= (transform * m_text.normal).length();
-  m_text.normal = plane.normal;
+  moved.thickness *= (transform * m_text.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.position, moved.alignment, moved.height, moved.rotation,
+                          moved.thickness) ||
+      moved.height <= 0)
+    return false;
+  assertWriteEnabled();
+  m_text = std::move(moved);
   return true;
 }

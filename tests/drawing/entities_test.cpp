@@ -1,6 +1,7 @@
 // The shapes of entities under transformations, and their boxes.
 #include "drawing/arc.h"
 #include "drawing/circle.h"
+#include "drawing/database.h"
 #include "drawing/line.h"
 #include "drawing/polyline.h"
 #include "drawing/text.h"
@@ -142,4 +143,45 @@ TEST(Entity, LineTransformsWithItsThickness) {
   line->transformBy(OdGeMatrix3d::scaling(3));
   EXPECT_EQ(line->thickness(), 6);
   expectBox(*line, {0, 0, 0}, {3, 0, 6});
+}
+
+TEST(Entity, TransformationBeyondNumbersIsRefusedAndChangesNothing) {
+  const auto db = OdDbDatabase::createDatabase();
+  const auto polyline = odrxMake<OdDbPolyline>();
+  polyline->addVertexAt(0, {1e300, 0});
+  polyline->addVertexAt(1, {0, 1});
+  const auto text = odrxMake<OdDbText>();
+  text->setTextString(QStringLiteral("abc"));
+  text->setPosition({1e300, 0, 0});
+  const OdDbEntityPtr entities[] = {
+      odrxMake<OdDbLine>(OdGePoint3d{1e300, 0, 0}, OdGePoint3d{}),
+      odrxMake<OdDbCircle>(OdGePoint3d{1e300, 0, 0}, kZ, 1.0),
+      odrxMake<OdDbArc>(OdGePoint3d{1e300, 0, 0}, kZ, 1.0, 0.0, 1.0),
+      polyline,
+      text,
+  };
+  const auto space = db->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  for (const OdDbEntityPtr& entity : entities) space->appendOdDbEntity(entity);
+  const QByteArray before = db->writeDxf();
+
+  constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+  const OdGeMatrix3d beyond[] = {
+      OdGeMatrix3d::translation({std::numeric_limits<double>::infinity(), 0, 0}),
+      OdGeMatrix3d::translation({0, kNan, 0}),
+      OdGeMatrix3d::scaling(1e20),
+      OdGeMatrix3d::scaling(1e200),
+      OdGeMatrix3d::scaling(kNan),
+      OdGeMatrix3d::rotation(kNan, kZ),
+  };
+  for (const OdDbEntityPtr& entity : entities)
+    for (const OdGeMatrix3d& transform : beyond)
+      EXPECT_FALSE(entity->transformBy(transform)) << entity->dxfName();
+  EXPECT_TRUE(db->writeDxf() == before);
+}
+
+TEST(Entity, FlatShapesAreNotScaledToNothing) {
+  const auto circle = odrxMake<OdDbCircle>(OdGePoint3d{}, kZ, 1e-300);
+  EXPECT_FALSE(circle->transformBy(OdGeMatrix3d::scaling(1e-50)));
+  EXPECT_FALSE(circle->transformBy(OdGeMatrix3d::scaling(1e-100)));
+  EXPECT_EQ(circle->radius(), 1e-300);
 }
