@@ -66,7 +66,7 @@ TEST(ExportedSymbolsTest, AreTheSurfaceAndNothingElse) {
 }
 
 TEST(ExportedSymbolsTest, NoProgramLinksTheModule) {
-  QStringList programs = QStringLiteral(PROGRAMS).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+  QStringList programs = QStringLiteral(PROGRAMS).split(QLatin1Char(','), Qt::SkipEmptyParts);
   for (QString& program : programs) program.prepend(QStringLiteral(BINARY_DIR "/"));
   programs << QStringLiteral(BINARY_DIR "/test_loadable");
   for (const QString& program : programs) {
