@@ -2,6 +2,8 @@
 
 #include "catalog/palette_manager.h"
 
+#include <utility>
+
 namespace tc {
 namespace {
 

@@ -6,6 +6,8 @@
 
 #include <QXmlStreamReader>
 
+#include <cstdint>
+
 namespace tc {
 namespace {
 

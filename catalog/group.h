@@ -3,6 +3,8 @@
 
 #include "module/list.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcToolPalette;

@@ -3,6 +3,8 @@
 #include "catalog/group.h"
 #include "module/catalog_item_impl.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcGroupImpl : public OdTcCatalogItemImplBase<OdTcGroup> {

@@ -3,6 +3,9 @@
 #include "catalog/owner_link.h"
 #include "catalog/tool_palette.h"
 
+#include <utility>
+#include <vector>
+
 namespace tc {
 namespace {
 

@@ -1,5 +1,7 @@
 #include "catalog/import_prompt.h"
 
+#include <cstdint>
+
 namespace tc {
 namespace {
 

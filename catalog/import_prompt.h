@@ -3,6 +3,8 @@
 
 #include "module/string_table.h"
 
+#include <string_view>
+
 namespace tc {
 
 /// A notice that the user can switch off.

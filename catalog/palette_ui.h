@@ -4,6 +4,8 @@
 #include "frame/array.h"
 #include "module/persist.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// A stored array of tool ids, element `ToolOrder`. Duplicates are kept.

@@ -3,6 +3,8 @@
 #include "catalog/palette_ui.h"
 #include "module/persist_impl.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcCatalogViewImpl : public OdTcPersistImpl<OdTcCatalogView> {

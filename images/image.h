@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+#include <cstdint>
+
 class QPainter;
 
 namespace tc {

@@ -5,6 +5,7 @@
 #include "module/persist_impl.h"
 #include "properties/compact_text.h"
 
+#include <cstdint>
 #include <memory>
 
 namespace tc {

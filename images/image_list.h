@@ -4,6 +4,8 @@
 #include "images/image.h"
 #include "module/enum.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// Element `Images`.

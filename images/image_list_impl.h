@@ -4,6 +4,7 @@
 #include "images/image_list.h"
 #include "module/persist_impl.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace tc {

@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+#include <cstdint>
+
 namespace tc {
 
 /// Sizes and names of the size kinds.

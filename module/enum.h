@@ -3,6 +3,8 @@
 
 #include "frame/smart_ptr.h"
 
+#include <utility>
+
 namespace tc {
 
 /// Walks the elements of a container. The container must not change during a walk.

@@ -4,6 +4,7 @@
 #include "frame/variant.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace tc {

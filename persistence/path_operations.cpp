@@ -5,6 +5,10 @@
 #include "host/host_locator.h"
 #include "persistence/path_macros.h"
 
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
 namespace tc {
 namespace {
 

@@ -7,6 +7,8 @@
 #include "properties/owned_part.h"
 #include "properties/text_style_table_record_impl.h"
 
+#include <cstdint>
+
 namespace tc {
 namespace {
 

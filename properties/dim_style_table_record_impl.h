@@ -5,6 +5,8 @@
 #include "properties/dim_style_variables.h"
 #include "properties/symbol_table_record_impl_base.h"
 
+#include <array>
+
 namespace tc {
 
 /// Element `DimstyleTableRecord`.

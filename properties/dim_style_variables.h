@@ -4,6 +4,7 @@
 #include "properties/stored_field.h"
 
 #include <array>
+#include <cstdint>
 
 namespace tc {
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace tc {
 namespace {

@@ -4,6 +4,8 @@
 #include "properties/property.h"
 #include "properties/symbol_table_record_impl_base.h"
 
+#include <cstdint>
+
 class OdCmColor;
 
 namespace tc {

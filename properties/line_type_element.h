@@ -5,6 +5,8 @@
 #include "module/persist.h"
 #include "properties/property_reference.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcComplexLineTypeElement;

@@ -3,6 +3,7 @@
 #include "properties/stored_field.h"
 
 #include <array>
+#include <vector>
 
 namespace tc {
 namespace {

@@ -4,6 +4,8 @@
 #include "properties/line_type_element.h"
 #include "properties/part_list.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// The length of an element, under the name that tells its sign.

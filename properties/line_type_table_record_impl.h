@@ -4,6 +4,8 @@
 #include "properties/line_type_element.h"
 #include "properties/symbol_table_record_impl_base.h"
 
+#include <cstdint>
+
 class OdDbLinetypeTableRecord;
 
 namespace tc {

@@ -6,6 +6,8 @@
 #include "module/properties.h"
 #include "properties/compact_text.h"
 
+#include <memory>
+
 namespace tc {
 
 /// Element `Properties`. Every item has one, so what few of them have stands apart.

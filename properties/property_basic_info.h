@@ -3,6 +3,8 @@
 
 #include "module/persist.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// Element `BasicPropInfo`.

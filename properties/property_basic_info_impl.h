@@ -4,6 +4,8 @@
 #include "module/persist_impl.h"
 #include "properties/property_basic_info.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// Kept small: every general property of every tool has one.

@@ -4,6 +4,8 @@
 #include "module/persist_impl.h"
 #include "properties/property_reference.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcPropertyReferenceImpl final : public OdTcPersistImpl<OdTcPropertyReference> {

@@ -6,6 +6,7 @@
 
 #include <QStringView>
 
+#include <cstdint>
 #include <span>
 #include <variant>
 

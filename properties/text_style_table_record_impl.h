@@ -3,6 +3,8 @@
 
 #include "properties/symbol_table_record_impl_base.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// The values of a text style; angles in radians.
