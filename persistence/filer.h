@@ -19,7 +19,7 @@ class OdTcFiler : public OdRxObject {
   /// the document cannot be read: see problem(). A failing stream or a field of the wrong class is
   /// such a problem, no exception.
   virtual bool openCatalog(OdStreamBuf* stream, OdTcPersist* root, bool saving) = 0;
-  /// The same for a palette document; `root` is an OdTcDatabase, any other object raises
+  /// The same for a palette document; `root` is an OdTcDatabase, anything else raises
   /// OdError_NotThatKindOfClass. A document without a palette is told to the user in a message box.
   virtual bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool saving) = 0;
 
@@ -54,9 +54,6 @@ class OdTcFiler : public OdRxObject {
   virtual bool isConverted() const = 0;
 
   virtual OdTcPersist* currentObject() const = 0;
-  /// An empty map that the innermost object on the stack may fill and walk while it is read. One
-  /// map for each level of the stack serves the whole file.
-  virtual OdTcFieldMap& scratchMap() = 0;
   /// Goes on to the next sibling of `current`; false if there is none.
   virtual bool advance() = 0;
   virtual bool atEnd() const = 0;
@@ -64,6 +61,9 @@ class OdTcFiler : public OdRxObject {
   /// Why the document could not be read, or could not be read whole, in words for the user; empty
   /// if all is well.
   virtual OdString problem() const = 0;
+  /// An empty map that the innermost object on the stack may fill and walk while it is read. One
+  /// map for each level of the stack serves the whole file.
+  virtual OdTcFieldMap& scratchMap() = 0;
 };
 using OdTcFilerPtr = OdSmartPtr<OdTcFiler>;
 

@@ -5,6 +5,8 @@
 #include "persistence/unread_original.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace tc {
 namespace {
@@ -24,10 +26,19 @@ QByteArray readAll(OdStreamBuf* stream) {
   return bytes;
 }
 
-/// White space in texts is the user's: macros hold line breaks and runs of blanks.
-void keepWhiteSpace() {
-  if (TiXmlBase::IsWhiteSpaceCondensed()) TiXmlBase::SetCondenseWhiteSpace(false);
-}
+/// While it lives, the parser keeps white space in texts as it is: it is the user's, and macros
+/// hold line breaks and runs of blanks. The switch is one for the whole process, which others parse
+/// in.
+class KeptWhiteSpace {
+ public:
+  KeptWhiteSpace() { TiXmlBase::SetCondenseWhiteSpace(false); }
+  KeptWhiteSpace(const KeptWhiteSpace&) = delete;
+  KeptWhiteSpace& operator=(const KeptWhiteSpace&) = delete;
+  ~KeptWhiteSpace() { TiXmlBase::SetCondenseWhiteSpace(m_former); }
+
+ private:
+  const bool m_former = TiXmlBase::IsWhiteSpaceCondensed();
+};
 
 /// The parser's complaint with its place. Places cost time, so they are counted in a second run
 /// that only a broken document needs.
@@ -98,7 +109,7 @@ bool OdTcFilerImplBase<T>::parse(OdStreamBuf* stream) {
     return failed(error.reason());
   }
   if (!checked.refusal.isEmpty()) return failed(checked.refusal);
-  keepWhiteSpace();
+  const KeptWhiteSpace keptWhiteSpace;
   m_document.SetTabSize(0);
   m_document.Parse(checked.text.constData(), nullptr, TIXML_ENCODING_UTF8);
   if (m_document.Error()) {

@@ -33,8 +33,8 @@ void showUnreadable() {
 
 bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersist* root,
                                                  bool saving) {
-  if (saving) return writeRoot(stream, root);
   requireDatabase(root);
+  if (saving) return writeRoot(stream, root);
   m_root = root;
   const bool found = parse(stream) && findPalette();
   const bool done = found && read();

@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cstdint>
-#include <string_view>
 
 namespace tc {
 namespace {
@@ -55,13 +54,12 @@ std::string toUtf8(const OdString& text) {
   return whole.toUtf8().toStdString();
 }
 
-OdString fromUtf8(const std::string& bytes) {
+OdString fromUtf8(std::string_view bytes) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  std::string_view rest = bytes;
   // Qt takes a byte-order mark for the beginning of a file, but in a text it is a character.
   qsizetype marks = 0;
-  for (; rest.starts_with(kMark); ++marks) rest.remove_prefix(kMark.size());
-  const auto text = OdString::fromUtf8(rest.data(), static_cast<qsizetype>(rest.size()));
+  for (; bytes.starts_with(kMark); ++marks) bytes.remove_prefix(kMark.size());
+  const auto text = OdString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
   return marks == 0 ? text : OdString(marks, QChar(QChar::ByteOrderMark)) + text;
 }
 

@@ -4,6 +4,7 @@
 #include "frame/variant.h"
 
 #include <string>
+#include <string_view>
 
 namespace tc {
 
@@ -17,7 +18,8 @@ OdString valueText(const OdVariant& value, OdTcNumberForm form);
 
 /// UTF-8 of a text. A NUL, which no document can hold, becomes U+FFFD.
 std::string toUtf8(const OdString& text);
-OdString fromUtf8(const std::string& bytes);
+/// The text of valid UTF-8, a byte-order mark at its beginning included.
+OdString fromUtf8(std::string_view bytes);
 
 /// `utf8` with each "&#x" written as a reference, for a printer that takes it for a reference which
 /// somebody has written on purpose and leaves it alone.

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "frame/string.h"
+#include "persistence/xml_text.h"
 
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <string_view>
+#include <utility>
 
 namespace tc {
 
@@ -27,7 +30,10 @@ class CompactText {
   }
 
   bool isEmpty() const { return !m_block; }
-  OdString toString() const { return isEmpty() ? OdString() : OdString::fromUtf8(bytes()); }
+  OdString toString() const {
+    const QByteArrayView text = bytes();
+    return fromUtf8(std::string_view(text.data(), static_cast<std::size_t>(text.size())));
+  }
 
  private:
   QByteArrayView bytes() const {

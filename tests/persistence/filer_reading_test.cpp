@@ -2,6 +2,7 @@
 #include "support/test_host.h"
 
 #include <gtest/gtest.h>
+#include <tinyxml.h>
 
 using namespace tc;
 using namespace tc::test;
@@ -126,8 +127,12 @@ TEST_F(FilerReading, SetsTheOwnerBeforeAnObjectIsRead) {
 TEST_F(FilerReading, RequiresADatabaseAsRootOfAPalette) {
   useRecords();
   const auto stream = odrxMake<OdMemoryStream>(QByteArray("<Palette><ID>1</ID></Palette>"));
-  EXPECT_THROW(makePaletteFiler()->openPalette(stream, odrxMake<Record>(), false),
-               OdError_NotThatKindOfClass);
+  for (const bool saving : {false, true}) {
+    EXPECT_THROW(makePaletteFiler()->openPalette(stream, odrxMake<Record>(), saving),
+                 OdError_NotThatKindOfClass);
+    EXPECT_THROW(makePaletteFiler()->openPalette(stream, nullptr, saving),
+                 OdError_NotThatKindOfClass);
+  }
 }
 
 TEST_F(FilerReading, ReadsAPlainPaletteInOnePass) {
@@ -263,6 +268,18 @@ TEST_F(FilerReading, OffersTheOtherKindOfDocumentNowhere) {
   const auto stream = odrxMake<OdMemoryStream>(QByteArray("<Catalog/>"));
   EXPECT_FALSE(makeCatalogFiler()->openPalette(stream, odrxMake<RootRecord>(), false));
   EXPECT_FALSE(makePaletteFiler()->openCatalog(stream, odrxMake<RootRecord>(), false));
+}
+
+TEST_F(FilerReading, LeavesTheParserToOthersAsItWas) {
+  for (const bool condensed : {true, false}) {
+    TiXmlBase::SetCondenseWhiteSpace(condensed);
+    EXPECT_EQ(readCatalog("<Catalog><T>a  b</T></Catalog>").root->text(QStringLiteral("T")),
+              QStringLiteral("a  b"));
+    EXPECT_EQ(TiXmlBase::IsWhiteSpaceCondensed(), condensed);
+    EXPECT_FALSE(readCatalog("<Catalog a=\"1\" a=\"2\"/>").isRead);
+    EXPECT_EQ(TiXmlBase::IsWhiteSpaceCondensed(), condensed);
+  }
+  TiXmlBase::SetCondenseWhiteSpace(true);
 }
 
 } // namespace

@@ -137,4 +137,18 @@ TEST_F(PropertiesTest, StandsInAFileAsTheGoldenOne) {
   testhost::expectGolden("Properties", {OdTcPersistPtr(record), OdTcPersistPtr(resource)});
 }
 
+TEST_F(PropertiesTest, KeepsAByteOrderMarkInATextFromSaveToSave) {
+  for (const char16_t* const name : {u"\uFEFFWalls", u"\uFEFF", u"\uFEFF\uFEFFWalls\uFEFF"}) {
+    record->setName(text(name));
+    record->setDescription(text(name));
+    const QByteArray first = testhost::written(record);
+    const auto back = testhost::readParts(first);
+    auto* const read = dynamic_cast<OdTcPropertiesImpl*>(back->parts.at(0).get());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->getName(), text(name));
+    EXPECT_EQ(read->getDescription(), text(name)) << "a name never ends the reading";
+    EXPECT_EQ(testhost::written(read).toStdString(), first.toStdString());
+  }
+}
+
 } // namespace
