@@ -3,6 +3,8 @@
 #include "module/item_order_list_impl.h"
 #include "persistence/filer.h"
 
+#include <algorithm>
+
 namespace tc {
 namespace {
 
@@ -84,7 +86,8 @@ bool OdTcCatalogItemRecord::read(const OdString& name, const OdVariant& value) {
   } else if (name == QLatin1String("option")) {
     options = static_cast<std::uint32_t>(odParseUInt(value.toString()));
   } else if (name == QLatin1String("idValue")) {
-    setId(value.toString());
+    // An empty id is not written, so an item that took it would come back with another one.
+    if (const OdString text = value.toString(); !text.isEmpty()) setId(text);
   } else if (name == QLatin1String("Properties")) {
     setProperties(value.objectAs<OdTcProperties>());
   } else {

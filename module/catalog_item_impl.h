@@ -7,9 +7,8 @@
 #include "module/persist_impl.h"
 #include "module/properties.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace tc {
@@ -44,7 +43,8 @@ class OdTcCatalogItemRecord {
 
   void write(OdTcFiler* filer, OdTcPersist* owner) const;
   bool read(const OdString& name, const OdVariant& value);
-  /// Takes over what a copy of an item shares with it: all but the id, the reactors and the flags.
+  /// Takes over what a copy of an item has from it: the revision, the options, the reserved text
+  /// and a deep copy of the properties.
   void copyFrom(const OdTcCatalogItemRecord& other, OdTcPersist* owner);
 
   OdString revision = kNewRevision();
@@ -100,7 +100,11 @@ class OdTcCatalogItemImplBase : public OdTcPersistImpl<T> {
   OdString name() const override { return this->properties()->getName(); }
   OdString description() const override { return this->properties()->getDescription(); }
   bool isModified() const override { return m_item.isModified; }
-  void setModified() override { m_item.isModified = true; }
+  /// Each call tells the reactors of a change.
+  void setModified() override {
+    m_item.isModified = true;
+    notify(&OdTcCatalogItemReactor::itemChanged, self());
+  }
   bool addItem(OdTcCatalogItem*) override { return false; }
   bool removeItem(const OdString&) override { return false; }
   bool findItem(const OdString&) const override { return false; }
@@ -145,7 +149,6 @@ class OdTcCatalogItemImplBase : public OdTcPersistImpl<T> {
   void readOrderList(const OdVariant& value) {
     m_item.setOrderList(value.objectAs<OdTcCatalogItemOrderList>());
   }
-  void notifyChanged() { notify(&OdTcCatalogItemReactor::itemChanged, self()); }
   void notifyAdded(OdTcCatalogItem* item) { notify(&OdTcCatalogItemReactor::itemAdded, item); }
   void notifyRemoved(OdTcCatalogItem* item) { notify(&OdTcCatalogItemReactor::itemRemoved, item); }
   /// Gives `copy`, a new item, the revision, the reserved text, the options and a deep copy of the

@@ -9,7 +9,9 @@ ODRX_DEFINE_MEMBERS(OdTcCatalogItemOrderList, OdTcPersist, "OdTcCatalogItemOrder
 namespace id_array_detail {
 
 void write(const OdArray<OdString>& ids, OdTcFiler* filer) {
-  for (const OdString& id : ids) filer->writeElement(QStringLiteral("ID"), id);
+  // An element with nothing in it would end the reading of the ids behind it.
+  for (const OdString& id : ids)
+    if (!id.isEmpty()) filer->writeElement(QStringLiteral("ID"), id);
 }
 
 bool read(OdArray<OdString>& ids, const OdString& name, const OdVariant& value) {

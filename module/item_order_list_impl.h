@@ -11,8 +11,8 @@ void write(const OdArray<OdString>& ids, OdTcFiler* filer);
 bool read(OdArray<OdString>& ids, const OdString& name, const OdVariant& value);
 } // namespace id_array_detail
 
-/// Written as one child `ID` for each id, in order. T is the interface that it serves: an order of
-/// children, or the order of tools on a palette.
+/// Written as one child `ID` for each id, in order; empty ids are passed over. T is the interface
+/// that it serves: an order of children, or the order of tools on a palette.
 template <class T>
 class OdTcIdArrayImpl : public OdTcPersistImpl<T> {
  public:

@@ -74,7 +74,8 @@ TEST_F(CatalogItem, HasAnIdOfItsOwn) {
 
 TEST_F(CatalogItem, KeepsItsFreshIdIfTheFileHasNone) {
   EXPECT_FALSE(QUuid(read("<ItemName>x</ItemName>")->id()).isNull());
-  EXPECT_EQ(read("<ItemID idValue=\"\"/>")->id(), OdString());
+  EXPECT_FALSE(QUuid(read("<ItemID idValue=\"\"/>")->id()).isNull());
+  EXPECT_EQ(read("<ItemID idValue=\"{1}\"/><ItemID idValue=\"\"/>")->id(), QStringLiteral("{1}"));
 }
 
 TEST_F(CatalogItem, IsModifiedByItsSetters) {
@@ -189,7 +190,7 @@ TEST_F(CatalogItem, CallsReactorsInTheOrderOfAdding) {
   EXPECT_TRUE(item->addReactor(&b));
   item->sayAdded(other);
   item->sayRemoved(other);
-  item->sayChanged();
+  item->setModified();
   EXPECT_EQ(lines.join(u','),
             QStringLiteral("b added 2,a added 2,b added 2,b removed 2,a removed 2,"
                            "b removed 2,b changed 1,a changed 1,b changed 1"));
@@ -203,7 +204,7 @@ TEST_F(CatalogItem, RemovesTheFirstEqualReactorOnly) {
   for (Log* log : {&a, &b, &a}) item->addReactor(log);
   EXPECT_FALSE(item->removeReactor(&c));
   EXPECT_TRUE(item->removeReactor(&a));
-  item->sayChanged();
+  item->setModified();
   EXPECT_EQ(lines.join(u','), QStringLiteral("b changed 1,a changed 1"));
 }
 
@@ -244,6 +245,27 @@ TEST_F(CatalogItem, LivesOnWhenItsClassesAreGone) {
   EXPECT_NE(item->properties(), nullptr);
   EXPECT_FALSE(item->id().isEmpty());
   OdTcProperties::g_pDesc = former;
+}
+
+TEST_F(CatalogItem, TellsItsReactorsOnceForEachChange) {
+  QStringList lines;
+  Log log(lines, QStringLiteral("a"));
+  const auto item = makeItem(QStringLiteral("1"));
+  item->addReactor(&log);
+  const auto told = [&] { return std::exchange(lines, {}).join(u','); };
+  item->setName(QStringLiteral("n"));
+  EXPECT_EQ(told(), QStringLiteral("a changed 1"));
+  item->setDescription(QStringLiteral("d"));
+  EXPECT_EQ(told(), QStringLiteral("a changed 1"));
+  item->setOptions(1);
+  EXPECT_EQ(told(), QStringLiteral("a changed 1"));
+  item->setImages(nullptr);
+  EXPECT_EQ(told(), QStringLiteral("a changed 1"));
+  item->setModified();
+  item->setModified();
+  EXPECT_EQ(told(), QStringLiteral("a changed 1,a changed 1"));
+  item->setMarked();
+  EXPECT_EQ(told(), QString()) << "a mark is no change of what is stored";
 }
 
 } // namespace

@@ -266,4 +266,18 @@ TEST(ItemCollection, HoldsAReferenceToEachItem) {
   EXPECT_EQ(collection->items()->next(), item.get());
 }
 
+TEST(OrderList, PassesOverEmptyIdsSoThatTheOthersAreReadAgain) {
+  useItems();
+  const auto item = odrxMake<Item>();
+  const auto order = odrxMake<OdTcCatalogItemOrderListImpl>();
+  order->setIds({QString(), QStringLiteral("a"), QString(), QStringLiteral("b")});
+  const auto stream = odrxMake<OdMemoryStream>();
+  const OdTcFilerPtr filer = makeCatalogFiler();
+  ASSERT_TRUE(filer->openCatalog(stream, order, true));
+  filer->flush();
+  const auto document = odrxMake<OdMemoryStream>("<Catalog>" + stream->bytes() + "</Catalog>");
+  ASSERT_TRUE(makeCatalogFiler()->openCatalog(document, item, false));
+  EXPECT_EQ(item->orderList(), OdArray<OdString>({QStringLiteral("a"), QStringLiteral("b")}));
+}
+
 } // namespace

@@ -48,7 +48,6 @@ class Item : public OdTcCatalogItemImplBase<OdTcCatalogItem> {
 
   void sayRemoved(OdTcCatalogItem* item) { notifyRemoved(item); }
   void sayAdded(OdTcCatalogItem* item) { notifyAdded(item); }
-  void sayChanged() { notifyChanged(); }
   OdTcCatalogItemRecord& record() { return itemRecord(); }
 };
 
