@@ -4,6 +4,7 @@
 #include "drawing/entity.h"
 #include "host/host_locator.h"
 #include "module/persist_cast.h"
+#include "module/string_table.h"
 #include "persistence/filer.h"
 #include "properties/color_value.h"
 #include "properties/owned_part.h"
@@ -12,6 +13,9 @@
 #include "properties/stored_field.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
+#include <variant>
 
 namespace tc {
 
@@ -182,25 +186,35 @@ bool OdTcDatabasePropertyImpl::hasSavedValue() const {
 void OdTcDatabasePropertyImpl::applyToDatabase(OdDbDatabase* database) {
   const GeneralPropertyKind& row = kind();
   if (m_frozen || !database || !row.current) return;
+  // Kept even if nothing is imposed: the tool's own command may change the value, and a run leaves
+  // no value behind.
+  extras().saved = row.current(*database);
   if (m_basicInfo && m_basicInfo->isUnspecified()) return;
   const CurrentValue wanted = row.wanted(*this, *database);
-  if (wanted.index() == 0) return;
-  // Only what is imposed is put back. A tool that changes the current layer with its own command
-  // shall not have that undone at its end.
-  extras().saved = row.current(*database);
-  row.setCurrent(*database, wanted);
+  if (wanted.index() != 0) row.setCurrent(*database, wanted);
 }
 
 void OdTcDatabasePropertyImpl::restoreToDatabase(OdDbDatabase* database) {
   if (m_frozen || !database || !hasSavedValue()) return;
   const CurrentValue saved = std::exchange(m_extras->saved, CurrentValue());
   if (!m_extras->component) m_extras.reset();
+  const GeneralPropertyKind& row = kind();
+  // A drawing that holds the value already is not to count as changed.
+  if (row.current(*database) == saved) return;
   // The record that was current can be gone by now: the drawing then keeps what it has.
   if (const auto* const id = std::get_if<OdDbObjectId>(&saved); id && !id->isValid()) return;
   if (const auto* const style = std::get_if<CurrentPlotStyle>(&saved);
       style && style->type == OdDb::kPlotStyleNameById && !style->id.isValid())
     return;
-  kind().setCurrent(*database, saved);
+  try {
+    row.setCurrent(*database, saved);
+  } catch (const OdError& error) {
+    // A file can bring values that no drawing takes back. The other properties are restored all the
+    // same.
+    host::print(
+        formatText(host::translate(QStringLiteral("\nCannot put back the drawing's %s: %s")),
+                   getDisplayName(), error.description()));
+  }
 }
 
 bool OdTcDatabasePropertyImpl::captureFromObject(const OdDbObject* object) {

@@ -7,6 +7,7 @@
 #include "drawing/transparency.h"
 #include "properties/create_infos.h"
 
+#include <cstdint>
 #include <span>
 #include <variant>
 
@@ -35,6 +36,7 @@ inline constexpr int kGeneralPropertyCount = 10;
 struct CurrentPlotStyle {
   OdDb::PlotStyleNameType type = OdDb::kPlotStyleNameByLayer;
   OdDbObjectId id;
+  bool operator==(const CurrentPlotStyle&) const = default;
 };
 /// One of a drawing's current values; nothing if there is none.
 using CurrentValue = std::variant<std::monostate, OdCmColor, OdDbObjectId, double, CurrentPlotStyle,

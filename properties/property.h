@@ -19,7 +19,7 @@ class OdTcProperty : public OdTcPersist {
   /// The label, by which a bag finds the property.
   virtual OdString getDisplayName() const = 0;
 
-  /// Keeps the drawing's current value and imposes the tool's, unless it is unspecified.
+  /// Keeps the drawing's current value, and imposes the tool's unless it is unspecified.
   virtual void applyToDatabase(OdDbDatabase* database) = 0;
   /// Puts the kept value back.
   virtual void restoreToDatabase(OdDbDatabase* database) = 0;

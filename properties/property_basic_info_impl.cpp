@@ -1,6 +1,7 @@
 #include "properties/property_basic_info_impl.h"
 
 #include "persistence/filer.h"
+#include "persistence/xml_text.h"
 
 namespace tc {
 
@@ -13,10 +14,9 @@ void OdTcPropertyBasicInfoImpl::writeFields(OdTcFiler* filer) {
   OdTcFieldMap map;
   map.set(QStringLiteral("unspecified"), boolText(m_unspecified, BoolStyle::kCapitals));
   if (m_hasValueType) map.set(QStringLiteral("valueType"), OdString::number(m_valueType));
-  if (!m_unspecified) {
-    if (const OdString text = m_value.toString(); !text.isEmpty())
-      map.set(QStringLiteral("value"), m_value);
-  }
+  // Some values have no text in a file, such as arrays.
+  if (!m_unspecified && !valueText(m_value, OdTcNumberForm::kUnsigned).isEmpty())
+    map.set(QStringLiteral("value"), m_value);
   filer->writeElementAttributes(QStringLiteral("PropValue"), map);
 }
 

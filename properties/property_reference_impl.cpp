@@ -25,10 +25,11 @@ void OdTcPropertyReferenceImpl::writeFields(OdTcFiler* filer) {
 bool OdTcPropertyReferenceImpl::readField(const OdString& name, const OdVariant& value) {
   if (name == QLatin1String("handle")) {
     // The handle is only a label, and its reading is that of a signed 32-bit number: one above that
-    // range comes back as the largest.
-    using Range = std::numeric_limits<std::int32_t>;
+    // range comes back as the largest. No handle is negative, and one that were would be written
+    // with 64 bits and come back as another.
+    constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
     m_handle = static_cast<std::uint64_t>(
-        std::clamp<std::int64_t>(odParseInt(value.toString()), Range::min(), Range::max()));
+        std::clamp<std::int64_t>(odParseInt(value.toString()), 0, kLargest));
     return true;
   }
   if (name != QLatin1String("Textstyle")) return false;

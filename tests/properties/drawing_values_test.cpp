@@ -50,15 +50,57 @@ TEST_F(DrawingValuesTest, UnspecifiedColorKeepsTheDrawingsOwn) {
   EXPECT_EQ(drawing->currentColor().colorIndex(), 1);
 }
 
-TEST_F(DrawingValuesTest, WhatTheToolDidNotImposeIsNotPutBack) {
+TEST_F(DrawingValuesTest, ARunNeverLeavesAValueBehind) {
   addLayer(u"Walls", 2);
-  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
-  layer->getBasicInfo()->setUnspecified(true);
-  layer->applyToDatabase(drawing);
-  drawing->setCurrentLayer(
-      drawing->getLayerTableId().openAs<OdDbLayerTable>()->getAt(text(u"Walls")));
-  layer->restoreToDatabase(drawing);
-  EXPECT_EQ(currentLayerName(), text(u"Walls"));
+  const auto unspecified = odrxMake<OdTcLayerPropertyImpl>();
+  unspecified->getBasicInfo()->setUnspecified(true);
+  const auto empty = odrxMake<OdTcLayerPropertyImpl>();
+  for (const auto& layer : {unspecified, empty}) {
+    layer->applyToDatabase(drawing);
+    EXPECT_TRUE(layer->hasSavedValue());
+    // As the tool's own command would do.
+    drawing->setCurrentLayer(
+        drawing->getLayerTableId().openAs<OdDbLayerTable>()->getAt(text(u"Walls")));
+    layer->restoreToDatabase(drawing);
+    EXPECT_EQ(currentLayerName(), text(u"0"));
+    EXPECT_FALSE(layer->hasSavedValue());
+  }
+}
+
+TEST_F(DrawingValuesTest, PuttingBackAValueThatIsInForceChangesNothing) {
+  // A file need not say all its variables, and one that is set comes into the file.
+  const QByteArray bare = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n0\nEOF\n";
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(bare, text(u"bare.dxf"));
+  read->setSaved();
+  read->startUndoRecord(text(u"run"));
+  const OdTcDatabasePropertyPtr all[] = {
+      odrxMake<OdTcColorPropertyImpl>(),        odrxMake<OdTcLayerPropertyImpl>(),
+      odrxMake<OdTcLineTypePropertyImpl>(),     odrxMake<OdTcLineTypeScalePropertyImpl>(),
+      odrxMake<OdTcPlotStylePropertyImpl>(),    odrxMake<OdTcLineWeightPropertyImpl>(),
+      odrxMake<OdTcTransparencyPropertyImpl>(), odrxMake<OdTcTextStylePropertyImpl>(),
+      odrxMake<OdTcDimStylePropertyImpl>()};
+  for (const OdTcDatabasePropertyPtr& property : all) {
+    property->applyToDatabase(read);
+    property->restoreToDatabase(read);
+    EXPECT_FALSE(read->isModified()) << property->elementName().toStdString();
+  }
+  read->endUndoRecord();
+  EXPECT_FALSE(read->hasUndo());
+}
+
+TEST_F(DrawingValuesTest, AValueThatNoDrawingTakesBackIsTold) {
+  const QByteArray odd = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n9\n$CELWEIGHT\n370\n7\n"
+                         "0\nENDSEC\n0\nEOF\n";
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(odd, text(u"odd.dxf"));
+  ASSERT_EQ(read->currentLineWeight(), 7);
+  const auto weight = odrxMake<OdTcLineWeightPropertyImpl>();
+  weight->setText(text(u"25"));
+  weight->applyToDatabase(read);
+  EXPECT_EQ(read->currentLineWeight(), 25);
+  EXPECT_NO_THROW(weight->restoreToDatabase(read));
+  EXPECT_FALSE(weight->hasSavedValue());
+  EXPECT_TRUE(testhost::host().log.join(u'\n').contains(weight->getDisplayName()))
+      << testhost::host().log.join(u'\n').toStdString();
 }
 
 TEST_F(DrawingValuesTest, FrozenPropertyNeitherSavesNorApplies) {

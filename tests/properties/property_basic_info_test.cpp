@@ -79,4 +79,17 @@ TEST_F(BasicInfoTest, StandsInAFileAsTheGoldenOne) {
                                  OdTcPersistPtr(odrxMake<OdTcPropertyBasicInfoImpl>())});
 }
 
+TEST_F(BasicInfoTest, WritesNoValueThatHasNoTextInAFile) {
+  for (const std::uint8_t flag : {OdVariant::kArray, OdVariant::kByRef}) {
+    OdVariant value(OdString(QStringLiteral("25")));
+    value.setFlags(flag);
+    auto info = odrxMake<OdTcPropertyBasicInfoImpl>();
+    info->setValue(value);
+    EXPECT_FALSE(testhost::written(info).contains(" value=")) << flag;
+  }
+  auto info = odrxMake<OdTcPropertyBasicInfoImpl>();
+  info->setValue(true);
+  EXPECT_TRUE(testhost::written(info).contains(" value=\"-1\""));
+}
+
 } // namespace

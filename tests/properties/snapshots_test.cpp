@@ -120,11 +120,25 @@ TEST_F(SnapshotsTest, HandleOfAReferenceIsReadAsASigned32BitNumber) {
   };
   EXPECT_EQ(read("17"), 17u);
   EXPECT_EQ(read("5000000000"), 2147483647u);
+  EXPECT_EQ(read("4294967297"), 2147483647u);
+  EXPECT_EQ(read("-5"), 0u);
   auto reference = odrxMake<OdTcPropertyReferenceImpl>();
   reference->setHandle(5000000000u);
   EXPECT_TRUE(written(reference).contains("handle=\"5000000000\""));
   EXPECT_THROW(reference->setTextStyle(odrxMake<OdTcColorPropertyImpl>()),
                OdError_NotThatKindOfClass);
+}
+
+TEST_F(SnapshotsTest, HandleOfAReferenceIsTheSameFromTheFirstSaveOn) {
+  for (const char* const handle : {"-5", "4294967297", "-99999999999999999999", "none"}) {
+    const auto saved = [](const QByteArray& bytes) {
+      return written(testhost::readParts(bytes)->parts);
+    };
+    const QByteArray first =
+        saved(QByteArray("<Palette><Reference handle=\"") + handle + "\"/></Palette>");
+    EXPECT_TRUE(first.contains("handle="));
+    EXPECT_EQ(saved(first).toStdString(), first.toStdString()) << handle;
+  }
 }
 
 TEST_F(SnapshotsTest, ComplexElementGoesIntoADrawingAndBack) {
