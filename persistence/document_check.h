@@ -31,8 +31,7 @@ inline constexpr qsizetype kMaxDocumentBytes = qsizetype{1} << 30;
 /// - Bytes that are no UTF-8 become U+FFFD each, as do references to characters that do not exist
 ///   (`&#0;`, `&#xFFFFFFFF;`), with a remark.
 /// - References to unknown entities, and an ampersand that begins no reference, stand for
-/// themselves;
-///   the former with a remark.
+///   themselves; the former with a remark.
 /// - What follows the last element is left out, with a remark.
 OdTcCheckedDocument checkDocument(QByteArray bytes);
 

@@ -112,10 +112,7 @@ QByteArray OdTcDocumentScanner::takeText() {
 
 bool OdTcDocumentScanner::scanContent() {
   const char* const tag = findChar(m_at, m_end, '<');
-  if (tag == m_end)
-    return fail(
-        m_end,
-        tr(QStringLiteral("the element \"%1\" is not closed")).arg(shortName(m_open.back())));
+  if (tag == m_end) return failUnclosed();
   checkReferences(m_at, tag);
   m_at = tag;
   return scanMarkup();

@@ -5,8 +5,6 @@
 
 namespace tc {
 
-class OdTcValueStorage;
-
 /// Replaces the first path macro (in ascending order of macro text) that `in` holds anywhere by its
 /// first value. False, with `out` unchanged, if there is none or the user's folder is unknown.
 bool expandPath(const OdString& in, OdString& out);
