@@ -20,6 +20,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 
 if(DRAFTON_SANITIZE)
+  # The sanitizers' own code hides from gcc 12 that a variable is set, so that it warns falsely.
+  add_compile_options(-Wno-error=maybe-uninitialized)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer -O1)
   add_link_options(-fsanitize=address,undefined)
