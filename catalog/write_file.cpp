@@ -1,14 +1,49 @@
 #include "catalog/write_file.h"
 
+#include <cstdint>
+#include <utility>
+
 namespace tc {
+namespace {
+
+/// A file that is opened, and so made or emptied, only when the first byte is written to it.
+class FileAtFirstByte final : public OdStreamBuf {
+ public:
+  FileAtFirstByte(OdString path, Oda::FileCreationDisposition creation)
+    : m_path(std::move(path))
+    , m_creation(creation) {}
+
+  OdString fileName() const override { return m_path; }
+  std::uint64_t length() override { return m_file ? m_file->length() : 0; }
+  std::uint64_t tell() override { return m_file ? m_file->tell() : 0; }
+  void seek(std::uint64_t position) override { opened().seek(position); }
+  void getBytes(void* buffer, std::uint32_t count) override { opened().getBytes(buffer, count); }
+  void putBytes(const void* buffer, std::uint32_t count) override {
+    opened().putBytes(buffer, count);
+  }
+  void putByte(std::uint8_t byte) override { opened().putByte(byte); }
+  void flush() override { opened().flush(); }
+
+ private:
+  OdStreamBuf& opened() {
+    if (!m_file)
+      m_file =
+          odrxSystemServices()->createFile(m_path, Oda::kFileWrite, Oda::kShareDenyNo, m_creation);
+    return *m_file;
+  }
+
+  OdString m_path;
+  Oda::FileCreationDisposition m_creation;
+  OdStreamBufPtr m_file;
+};
+
+} // namespace
 
 bool writeFile(const OdString& path, Oda::FileCreationDisposition creation, OdTcFiler& filer,
                OdTcPersist* root, bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool)) {
-  const OdStreamBufPtr stream =
-      odrxSystemServices()->createFile(path, Oda::kFileWrite, Oda::kShareDenyNo, creation);
-  if (!(filer.*open)(stream, root, true)) return false;
+  const auto file = odrxMake<FileAtFirstByte>(path, creation);
+  if (!(filer.*open)(file, root, true)) return false;
   filer.flush();
-  stream->flush();
   return true;
 }
 

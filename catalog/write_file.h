@@ -6,9 +6,10 @@
 
 namespace tc {
 
-/// Opens the file in that way, lets `open` (openCatalog or openPalette) write `root`, and prints
-/// the document into it. False if the filer fails; a file failure raises OdFileError. The file is
-/// written in place: a failure on the way leaves it cut.
+/// Lets `open` (openCatalog or openPalette) make the document of `root`, then opens the file in
+/// that way and prints the document into it. False if the filer fails; a file failure raises
+/// OdFileError. The file is written in place: a failure while it is written leaves it cut, but one
+/// before that leaves it whole.
 bool writeFile(const OdString& path, Oda::FileCreationDisposition creation, OdTcFiler& filer,
                OdTcPersist* root, bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool));
 
