@@ -7,6 +7,7 @@
 #include "catalog/tool_list_impl.h"
 #include "catalog/write_file.h"
 #include "frame/file_path.h"
+#include "host/host_locator.h"
 #include "module/persist_cast.h"
 #include "persistence/unread_original.h"
 
@@ -66,7 +67,13 @@ void OdTcDatabaseImpl::setPath(const OdString& path) {
 bool OdTcDatabaseImpl::load(const OdString& path) {
   m_path = path;
   m_readProblem.clear();
-  if (!odrxSystemServices()->fileExists(path)) return false;
+  OdRxSystemServices* const services = odrxSystemServices();
+  if (services->folderExists(path)) {
+    m_readProblem = host::translate(QStringLiteral("it is a folder"));
+    reportUnreadFile(path, m_readProblem);
+    return false;
+  }
+  if (!services->fileExists(path)) return false;
   const ReadOutcome outcome = readFile(path, *makePaletteFiler(), this, &OdTcFiler::openPalette);
   m_readProblem = outcome.problem;
   return outcome.isRead;
@@ -121,7 +128,7 @@ void OdTcDatabaseImpl::writeFields(OdTcFiler* filer) {
 }
 
 bool OdTcDatabaseImpl::readField(const OdString& name, const OdVariant& value) {
-  if (name == QLatin1String("idValue")) m_hasStoredId = true;
+  if (name == QLatin1String("idValue") && !value.toString().isEmpty()) m_hasStoredId = true;
   if (OdTcCatalogItemImplBase::readField(name, value)) return true;
   if (name == QLatin1String("FileRevision"))
     m_fileRevision = value.toString();

@@ -20,7 +20,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   OdTcToolList* tools() const override { return m_tools; }
   OdTcPaletteUi* getUi() const override { return m_ui; }
 
-  /// A file that is there but cannot be read is reported on the command line.
+  /// A file that is there but cannot be read, or a folder in its place, is reported on the command
+  /// line.
   bool load(const OdString& path) override;
   bool saveAs(const OdString& path) override;
   bool save() override;

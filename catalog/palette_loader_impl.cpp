@@ -19,7 +19,8 @@ OdString resolvedHref(const OdString& href, const OdString& baseFolder) {
 
 OdSmartPtr<OdTcToolPalette> OdTcPaletteLoaderImpl::loadPalette(const OdString& baseFolder) {
   const OdString path = resolvedHref(m_href, baseFolder);
-  if (!odrxSystemServices()->fileExists(path)) return {};
+  OdRxSystemServices* const services = odrxSystemServices();
+  if (!services->fileExists(path) && !services->folderExists(path)) return {};
   const auto palette = odrxMake<OdTcToolPaletteImpl>();
   const bool isRead = palette->load(path);
   if (!palette->hasStoredId())

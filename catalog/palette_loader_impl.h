@@ -8,8 +8,8 @@ namespace tc {
 
 /// A loader and the palette that it brings in have one id between them. A file without an id of its
 /// own gives its palette the loader's; otherwise the file's id counts, and the loader follows. A
-/// file that is there but cannot be read gives an empty palette with the loader's id, name and
-/// description, so that groups go on naming it.
+/// file that is there but cannot be read, or a folder in its place, gives an empty palette with the
+/// loader's id, name and description, so that groups go on naming it.
 class OdTcPaletteLoaderImpl : public OdTcCatalogItemImplBase<OdTcPaletteLoader> {
  public:
   OdSmartPtr<OdTcToolPalette> loadPalette(const OdString& baseFolder) override;

@@ -33,7 +33,7 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   bool isReadOnlyStyle() const override { return m_isReadOnlyStyle; }
   void setReadOnlyStyle(bool readOnly) override { m_isReadOnlyStyle = readOnly; }
   void reserved3() override {}
-  void markModified() override { m_database->setModified(); }
+  void markModified() override { setModified(); }
   bool saveCopy(const OdString& path) override { return m_database->saveCopy(path); }
   OdTcProperties* getProperties() const override { return m_database->properties(); }
   OdTcEnumPtr<OdTcTool> enumTools() const override;
@@ -60,7 +60,11 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   OdString id() const override { return m_database->id(); }
   OdTcProperties* properties() const override { return m_database->properties(); }
   bool isModified() const override { return m_database->isModified(); }
-  void setModified() override { m_database->setModified(); }
+  /// Tells the reactors of the database and those of the handle.
+  void setModified() override {
+    m_database->setModified();
+    OdTcCatalogItemImplBase::setModified();
+  }
   bool hasStoredId() const { return m_database->hasStoredId(); }
 
   OdString elementName() const override { return QStringLiteral("ToolPalette"); }

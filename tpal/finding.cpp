@@ -75,7 +75,8 @@ class Examination {
       const OdString file = odpath::isRelative(tc::expandedStoredPath(loader->getHref()))
                                 ? path
                                 : tc::expandedStoredPath(loader->getHref());
-      if (!odrxSystemServices()->fileExists(file))
+      // A folder in the file's place stands among the palettes, as one that cannot be read.
+      if (!odrxSystemServices()->fileExists(file) && !odrxSystemServices()->folderExists(file))
         add(FindingKind::kMissingPalette, m_catalogFile,
             QStringLiteral("palette \"%1\": there is no file %2").arg(loader->name(), file));
     });

@@ -2,6 +2,8 @@
 #include "catalog/catalog.h"
 
 #include "catalog/catalog_fixture.h"
+#include "catalog/write_file.h"
+#include "module/persist_impl.h"
 
 namespace {
 
@@ -73,7 +75,7 @@ TEST_F(CatalogFilesTest, AFailedFirstSaveTakesBackThePlaceThatItGaveToPalettes) 
   EXPECT_EQ(catalog->loaders()->count(), 0);
 }
 
-struct UnreadableCatalogTest : CatalogFilesTest, testing::WithParamInterface<const char*> {};
+struct UnreadableCatalogTest : CatalogFilesTest, testing::WithParamInterface<QByteArray> {};
 
 TEST_P(UnreadableCatalogTest, IsToldByNameMarkedAndKeptBeforeItIsSavedOver) {
   const QByteArray bytes = GetParam();
@@ -98,7 +100,7 @@ TEST_P(UnreadableCatalogTest, IsToldByNameMarkedAndKeptBeforeItIsSavedOver) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, UnreadableCatalogTest,
-    testing::Values("", "no xml", "<Catalog><cut", "<Palette/>", "\xFF\xFE<\0",
+    testing::Values("", "no xml", "<Catalog><cut", "<Palette/>", QByteArray("\xFF\xFE<\0", 4),
                     "<Catalog><Groups><ToolPaletteGroup/></Groups><cut",
                     "<Catalog><Palettes><Groups/></Palettes><Properties/></Palettes></Catalog>"));
 
@@ -128,12 +130,14 @@ TEST_F(CatalogFilesTest, AFileCutAtAnyByteNeverCrashesAndIsLeftAlone) {
       load(writeTwoPalettes(u"c"_s, groupXml("G", "<ToolPalette ID=\"A\"/>")));
   ASSERT_TRUE(whole->save());
   const QByteArray bytes = saved();
-  for (qsizetype length = 0; length + 2 < bytes.size(); length += 7) {
+  ASSERT_GT(bytes.size(), 1000);
+  for (qsizetype length = 0; length + 2 < bytes.size(); ++length) {
     writeFile(u"cut\\DrfTcCatalog.dtc"_s, bytes.left(length));
     const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
     const bool isRead = catalog->load(stored(u"cut\\DrfTcCatalog.dtc"_s));
     EXPECT_TRUE(!isRead || catalog->isUnread()) << length;
     EXPECT_EQ(readFile(u"cut\\DrfTcCatalog.dtc"_s), bytes.left(length));
+    theHost().log.clear();
   }
 }
 
@@ -175,6 +179,45 @@ TEST_F(CatalogFilesTest, APaletteThatMayNotBeReadIsToldWithTheReason) {
   const OdTcCatalogPtr catalog = load(file);
   EXPECT_TRUE(wasTold({stored(u"c\\Palettes\\a.dtc"_s), u"Permission denied"_s}));
   EXPECT_TRUE(catalog->findPalette(u"A"_s)->getDatabase()->isUnread());
+}
+
+TEST_F(CatalogFilesTest, AFailureBeforeTheFirstByteLeavesTheOldFileWhole) {
+  struct Breaking : OdTcPersistImpl<OdTcPersist> {
+    void writeFields(OdTcFiler* filer) override {
+      filer->writeElement(u"T"_s, u"t"_s);
+      throw OdError(eNotApplicable, u"half a document"_s);
+    }
+  };
+  const auto root = odrxMake<Breaking>();
+  CatalogFixture::writeFile(u"c\\old.dtc"_s, "old");
+  const auto write = [&](const OdString& name) {
+    const OdString path = stored(name);
+    tc::writeFile(path, creationFor(path), *makeCatalogFiler(), root, &OdTcFiler::openCatalog);
+  };
+  EXPECT_THROW(write(u"c\\old.dtc"_s), OdError);
+  EXPECT_EQ(readFile(u"c\\old.dtc"_s), QByteArray("old"));
+  EXPECT_THROW(write(u"c\\new.dtc"_s), OdError);
+  EXPECT_FALSE(exists(u"c\\new.dtc"_s));
+}
+
+TEST_F(CatalogFilesTest, AFolderInThePlaceOfAPaletteFileIsToldAndStandsUnread) {
+  writeTwoPalettes(u"c"_s, groupXml("G", "<ToolPalette ID=\"A\"/>"));
+  QFile::remove(platform(u"c\\Palettes\\a.dtc"_s));
+  CatalogFixture::writeFile(u"c\\Palettes\\a.dtc\\inside.txt"_s, "kept");
+  const OdTcCatalogPtr catalog = load(file);
+  EXPECT_TRUE(wasTold({stored(u"c\\Palettes\\a.dtc"_s), u"it is a folder"_s}));
+  OdTcToolPalette* const palette = catalog->findPalette(u"A"_s);
+  ASSERT_TRUE(palette);
+  EXPECT_EQ(palette->name(), u"A"_s);
+  EXPECT_TRUE(palette->getDatabase()->isUnread());
+  EXPECT_EQ(namesOf(catalog->palettesEnum()).size(), 2) << "the other one is unharmed";
+  EXPECT_TRUE(palette->addItem(tool(u"T"_s)));
+  EXPECT_TRUE(wasTold({u"left as it is"_s}));
+  EXPECT_THROW(palette->save(), OdFileError);
+  EXPECT_TRUE(catalog->save());
+  EXPECT_TRUE(saved().contains("<ToolPalette ID=\"A\" />")) << "groups go on naming it";
+  EXPECT_TRUE(catalog->removeItem(u"A"_s));
+  EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc\\inside.txt"_s), QByteArray("kept"));
 }
 
 } // namespace

@@ -84,7 +84,6 @@ TEST_F(CatalogTest, AMissingFileFailsWithThePathKept) {
 TEST_F(CatalogTest, AMissingPaletteFileYieldsNoPaletteAndNoMessage) {
   writeTwoPalettes(u"c"_s);
   QFile::remove(platform(u"c\\Palettes\\a.dtc"_s));
-  QDir().mkpath(platform(u"c\\Palettes\\a.dtc"_s));
   theHost().log.clear();
   const OdTcCatalogPtr catalog = load(file);
   EXPECT_EQ(namesOf(catalog->palettesEnum()), QStringList(u"Beta"_s));
@@ -294,6 +293,19 @@ TEST_F(CatalogTest, APaletteFileWithoutAnIdTakesThatOfItsLoaderSoThatNoLoadersPi
     catalog->save();
   }
   EXPECT_TRUE(saved().contains("<ToolPalette ID=\"A\" />"));
+}
+
+TEST_F(CatalogTest, AnEmptyIdInAPaletteFileIsNoneAtAll) {
+  writeFile(u"c\\Palettes\\a.dtc"_s, paletteXml("", "P"));
+  writeFile(u"c\\DrfTcCatalog.dtc"_s,
+            catalogXml(loaderXml("A", "Palettes\\a.dtc"), groupXml("", "<ToolPalette ID=\"A\"/>")));
+  const OdTcCatalogPtr catalog = load(stored(u"c\\DrfTcCatalog.dtc"_s));
+  EXPECT_TRUE(catalog->findPalette(u"A"_s));
+  EXPECT_FALSE(catalog->groups()->at(0)->id().isEmpty());
+  ASSERT_TRUE(catalog->save());
+  const QByteArray first = readFile(u"c\\DrfTcCatalog.dtc"_s);
+  ASSERT_TRUE(load(stored(u"c\\DrfTcCatalog.dtc"_s))->save());
+  EXPECT_EQ(readFile(u"c\\DrfTcCatalog.dtc"_s).toStdString(), first.toStdString());
 }
 
 TEST_F(CatalogTest, ALoaderFollowsTheIdOfItsPaletteFile) {

@@ -286,6 +286,34 @@ TEST_F(ToolPaletteTest, AnOrderWithUnknownIdsIsKeptOnSaving) {
   EXPECT_EQ(saved().count("<ID>none</ID>"), 2);
 }
 
+TEST_F(ToolPaletteTest, AnOrderWithEmptyIdsDoesNotCutTheOthers) {
+  palette->setToolOrder({OdString(), u"1"_s, OdString(), u"2"_s});
+  ASSERT_TRUE(palette->saveAs(file));
+  const OdTcToolPalettePtr read = OdTcToolPalette::createObject();
+  ASSERT_TRUE(read->load(file));
+  OdArray<OdString> ids;
+  read->getToolOrder(ids);
+  EXPECT_EQ(ids, OdArray<OdString>({u"1"_s, u"2"_s}));
+}
+
+TEST_F(ToolPaletteTest, ReadByItselfHasNoCatalogAbove) {
+  const OdTcToolPalettePtr read =
+      loadedPalette("<Tools><Tool><ItemID idValue=\"T\"/></Tool></Tools>");
+  EXPECT_EQ(read->catalog(), nullptr);
+  EXPECT_EQ(read->getDatabase()->catalog(), nullptr);
+  EXPECT_EQ(read->getDatabase()->tools()->at(0)->catalog(), nullptr);
+  EXPECT_EQ(read->getDatabase()->tools()->at(0)->database(), read->getDatabase());
+}
+
+TEST_F(ToolPaletteTest, TellsTheReactorsOfDatabaseAndHandleOfAChange) {
+  ItemLog ofDatabase, ofPalette;
+  palette->getDatabase()->addReactor(&ofDatabase);
+  palette->addReactor(&ofPalette);
+  palette->setSortType(1);
+  EXPECT_EQ(ofDatabase.log, QStringList{u"changed P"_s});
+  EXPECT_EQ(ofPalette.log, QStringList{u"changed P"_s});
+}
+
 TEST_F(ToolPaletteTest, ManualSortingWithoutAnOrderIsKeptAsItIs) {
   palette->setSortType(2);
   added(u"T"_s);

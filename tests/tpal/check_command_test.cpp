@@ -88,4 +88,12 @@ TEST_F(CheckCommand, PrintsOneLineForEachFinding) {
   EXPECT_EQ(out().count(QStringLiteral(": C001 missing-catalog: ")), 2);
 }
 
+TEST_F(CheckCommand, NamesAFolderInThePlaceOfAPaletteFile) {
+  writeCatalog({});
+  QFile::remove(path(QStringLiteral("c/Palettes/p.dtc")));
+  QDir().mkpath(path(QStringLiteral("c/Palettes/p.dtc")));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C102")});
+  EXPECT_TRUE(out().contains(QStringLiteral("it is a folder")));
+}
+
 } // namespace

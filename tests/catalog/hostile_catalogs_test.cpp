@@ -1,0 +1,146 @@
+// Catalogs and palettes that break every measure, as files: the reason is told on the command line
+// with the file's name, and the file stays as it was.
+#include "catalog/catalog_fixture.h"
+
+namespace {
+
+using namespace testhost;
+
+struct Hostile {
+  const char* name;
+  QByteArray bytes;
+  const char16_t* reason;
+};
+
+QByteArray nestedIn(const QByteArray& open, const QByteArray& close, int depth) {
+  return "<Catalog><Groups>" + open.repeated(depth) + close.repeated(depth) + "</Groups></Catalog>";
+}
+
+QByteArray manyAttributes() {
+  QByteArray bytes = "<Catalog><Palettes";
+  for (int i = 0; i < 100000; ++i) bytes += " a" + QByteArray::number(i) + "=\"1\"";
+  return bytes + "/></Catalog>";
+}
+
+struct HostileCatalogTest : CatalogFixture, testing::WithParamInterface<int> {
+  static Hostile hostile(int number) {
+    switch (number) {
+    case 0:
+      return {"levels", nestedIn("<a>", "</a>", 100000), u"elements are nested more than 256 deep"};
+    case 1:
+      return {"levels that never end", "<Catalog>" + QByteArray("<a>").repeated(100000),
+              u"elements are nested more than 256 deep"};
+    case 2:
+      return {"attributes", manyAttributes(),
+              u"the element \"Palettes\" has more than 512 attributes"};
+    default:
+      return {"groups",
+              nestedIn("<ToolPaletteGroup><Contents>", "</Contents></ToolPaletteGroup>", 10000),
+              u"elements are nested more than 256 deep"};
+    }
+  }
+};
+
+TEST_P(HostileCatalogTest, IsRefusedWithTheReasonAndLeftAlone) {
+  const Hostile file = hostile(GetParam());
+  const OdString path = stored(u"c\\DrfTcCatalog.dtc"_s);
+  writeFile(u"c\\DrfTcCatalog.dtc"_s, file.bytes);
+  const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
+  EXPECT_FALSE(catalog->load(path)) << file.name;
+  EXPECT_TRUE(wasTold({path, OdString::fromUtf16(file.reason)}))
+      << file.name << ": " << text(theHost().log.join(u'\n').left(1000));
+  EXPECT_TRUE(catalog->isUnread());
+  EXPECT_EQ(catalog->groups()->count(), 0);
+  EXPECT_EQ(readFile(u"c\\DrfTcCatalog.dtc"_s), file.bytes) << file.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, HostileCatalogTest, testing::Range(0, 4));
+
+struct LenientReadingTest : CatalogFixture {
+  QStringList kept() const {
+    return QDir(platform(u"user/ToolPalette/Unread"_s)).entryList(QDir::Files, QDir::Name);
+  }
+};
+
+TEST_F(LenientReadingTest, Latin1BytesAreReadWithARemarkAndKeptBeforeASave) {
+  const QByteArray catalogBytes = "<Catalog><ItemID idValue=\"C\"/><Properties><ItemName>K\xFC"
+                                  "chen</ItemName></Properties><Palettes>" +
+                                  loaderXml("A", "Palettes\\a.dtc") + "</Palettes></Catalog>";
+  const QByteArray paletteBytes = paletteXml("A", "T\xFCren");
+  writeFile(u"c\\DrfTcCatalog.dtc"_s, catalogBytes);
+  writeFile(u"c\\Palettes\\a.dtc"_s, paletteBytes);
+  const OdString path = stored(u"c\\DrfTcCatalog.dtc"_s);
+  const OdString palettePath = stored(u"c\\Palettes\\a.dtc"_s);
+
+  const OdTcPaletteManagerPtr manager = OdTcPaletteManager::instance();
+  ASSERT_TRUE(manager->openCatalog(path));
+  OdString key;
+  OdTcCatalog* catalog = nullptr;
+  ASSERT_TRUE(manager->catalogsEnum()->next(key, catalog));
+  EXPECT_TRUE(wasTold({path, u"no UTF-8"_s}));
+  EXPECT_TRUE(wasTold({palettePath, u"no UTF-8"_s}));
+  EXPECT_EQ(catalog->name(), u"K\uFFFDchen"_s);
+  EXPECT_TRUE(catalog->isUnread());
+  OdTcToolPalette* const palette = catalog->findPalette(u"A"_s);
+  ASSERT_TRUE(palette);
+  EXPECT_EQ(palette->name(), u"T\uFFFDren"_s);
+  EXPECT_TRUE(palette->getDatabase()->isUnread());
+
+  EXPECT_TRUE(palette->addItem(tool(u"T"_s)));
+  EXPECT_TRUE(wasTold({palettePath, u"left as it is"_s}));
+  manager->saveAll();
+  EXPECT_TRUE(wasTold({path, u"left as it is"_s}));
+  EXPECT_EQ(readFile(u"c\\DrfTcCatalog.dtc"_s), catalogBytes);
+  EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), paletteBytes);
+
+  EXPECT_TRUE(palette->save());
+  EXPECT_TRUE(catalog->save());
+  EXPECT_EQ(kept(), QStringList({u"DrfTcCatalog.dtc"_s, u"a.dtc"_s}));
+  EXPECT_EQ(readFile(u"user\\ToolPalette\\Unread\\DrfTcCatalog.dtc"_s), catalogBytes);
+  EXPECT_EQ(readFile(u"user\\ToolPalette\\Unread\\a.dtc"_s), paletteBytes);
+  EXPECT_TRUE(readFile(u"c\\Palettes\\a.dtc"_s).contains("T\xEF\xBF\xBDren"));
+}
+
+TEST_F(LenientReadingTest, NamesOfTenThousandLettersAreReadAndSaved) {
+  const QByteArray name(10000, 'n');
+  writeFile(u"c\\Palettes\\a.dtc"_s, paletteXml("A", name));
+  writeFile(
+      u"c\\DrfTcCatalog.dtc"_s,
+      "<Catalog><Properties><ItemName>" + name + "</ItemName></Properties><Palettes>" +
+          loaderXml("A", "Palettes\\a.dtc") + "</Palettes><Groups>" +
+          groupXml("G", "<ToolPalette ID=\"A\"/>").replace("<ItemName>G", "<ItemName>" + name) +
+          "</Groups></Catalog>");
+  const OdString path = stored(u"c\\DrfTcCatalog.dtc"_s);
+  for (int i = 0; i < 2; ++i) {
+    const OdTcCatalogPtr catalog = load(path);
+    const OdString wanted = QString::fromLatin1(name);
+    EXPECT_EQ(catalog->name(), wanted);
+    EXPECT_EQ(catalog->groups()->at(0)->name(), wanted);
+    ASSERT_TRUE(catalog->findPalette(u"A"_s));
+    EXPECT_EQ(catalog->findPalette(u"A"_s)->name(), wanted);
+    EXPECT_TRUE(catalog->save());
+    EXPECT_TRUE(catalog->findPalette(u"A"_s)->save());
+  }
+}
+
+TEST_F(LenientReadingTest, ANewPaletteOfTenThousandLettersSaysWhyItCannotBeSaved) {
+  QDir().mkpath(platform(u"c"_s));
+  const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
+  ASSERT_TRUE(catalog->save(stored(u"c\\DrfTcCatalog.dtc"_s)));
+  const OdTcToolPalettePtr added = palette(OdString(10000, u'n'));
+  EXPECT_TRUE(catalog->addItem(added)) << "its file is named after it";
+  try {
+    added->save();
+    FAIL() << "no file has so long a name";
+  } catch (const OdFileError& error) {
+    EXPECT_EQ(error.path(), added->getPath());
+    EXPECT_FALSE(error.reason().isEmpty());
+  }
+  EXPECT_TRUE(added->addItem(tool(u"T"_s)));
+  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, added->getPath()}));
+  EXPECT_EQ(added->name().size(), 10000);
+  EXPECT_TRUE(catalog->save()) << "the catalog names it all the same";
+  EXPECT_EQ(load(stored(u"c\\DrfTcCatalog.dtc"_s))->loaders()->at(0)->name().size(), 10000);
+}
+
+} // namespace
