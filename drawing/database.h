@@ -11,6 +11,7 @@
 #include "drawing/plain_tables.h"
 #include "drawing/text_style_table.h"
 #include "drawing/undo_mark.h"
+#include "drawing/viewport_table.h"
 
 class QIODevice;
 class OdDbUndo;

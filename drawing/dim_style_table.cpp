@@ -3,6 +3,7 @@
 #include "drawing/database_data.h"
 #include "drawing/dxf_in.h"
 #include "drawing/dxf_residue.h"
+#include "drawing/kept_tags.h"
 
 namespace {
 
@@ -98,10 +99,9 @@ std::optional<QByteArray> keptValue(const OdDbDimStyleTableRecord& style, int co
   const QByteArray* const lines =
       style.residue() ? style.residue()->of(style.dxfSubclass()) : nullptr;
   if (!lines) return std::nullopt;
-  const QList<QByteArray> parts = lines->split('\n');
-  for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
-    if (parts[i].trimmed().toInt() == code) return parts[i + 1];
-  return std::nullopt;
+  const OdDbKeptTags tags(*lines);
+  const QByteArray* const value = tags.find(code);
+  return value ? std::optional(*value) : std::nullopt;
 }
 
 } // namespace

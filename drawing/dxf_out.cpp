@@ -59,25 +59,28 @@ void OdDbDxfOut::raw(int groupCode, std::string_view value) {
 
 void OdDbDxfOut::text(int groupCode, const OdString& value) {
   code(groupCode);
-  const OdString line = oddxf::oneLine(value);
+  appendEncoded(oddxf::oneLine(value));
+  m_buffer.append('\n');
+}
+
+void OdDbDxfOut::appendEncoded(QStringView line) {
   if (m_utf8) {
     m_buffer.append(line.toUtf8());
-  } else {
-    const QByteArray whole = inCodePage(line);
-    if (!whole.isEmpty() || line.isEmpty()) {
-      m_buffer.append(whole);
-    } else {
-      // Character by character, so that only those outside of the code page are escaped.
-      for (const QChar& c : line) {
-        if (const QByteArray one = inCodePage(QStringView(&c, 1)); !one.isEmpty())
-          m_buffer.append(one);
-        else
-          m_buffer.append("\\U+").append(
-              QByteArray::number(c.unicode(), 16).toUpper().rightJustified(4, '0'));
-      }
-    }
+    return;
   }
-  m_buffer.append('\n');
+  const QByteArray whole = inCodePage(line);
+  if (!whole.isEmpty() || line.isEmpty()) {
+    m_buffer.append(whole);
+    return;
+  }
+  // Character by character, so that only those outside of the code page are escaped.
+  for (const QChar& c : line) {
+    if (const QByteArray one = inCodePage(QStringView(&c, 1)); !one.isEmpty())
+      m_buffer.append(one);
+    else
+      m_buffer.append("\\U+").append(
+          QByteArray::number(c.unicode(), 16).toUpper().rightJustified(4, '0'));
+  }
 }
 
 QByteArray OdDbDxfOut::inCodePage(QStringView text) {
@@ -99,13 +102,8 @@ void OdDbDxfOut::real(int groupCode, double value) {
   if (!std::isfinite(value))
     throw OdError(eInvalidInput,
                   QStringLiteral("A number under group code %1 is not finite").arg(groupCode));
-  char digits[40];
-  auto [end, error] = std::to_chars(digits, digits + sizeof digits - 2, value);
-  if (std::none_of(digits, end, [](char c) { return c == '.' || c == 'e'; })) {
-    *end++ = '.';
-    *end++ = '0';
-  }
-  raw(groupCode, {digits, static_cast<std::size_t>(end - digits)});
+  char digits[oddxf::kRealDigits];
+  raw(groupCode, oddxf::realText(digits, value));
 }
 
 void OdDbDxfOut::angle(int groupCode, double radians) {
@@ -166,15 +164,9 @@ void OdDbDxfOut::kept(const QByteArray& lines) {
   }
   m_keptDecoder.resetState();
   const OdString decoded = m_keptDecoder.decode(lines);
-  // Line by line: codes pass through text() unharmed, but for its line break.
   for (const QStringView line : QStringView(decoded).split(u'\n')) {
     if (line.isEmpty() && line.data() == decoded.constData() + decoded.size()) break;
-    if (m_utf8) {
-      m_buffer.append(line.toUtf8());
-    } else {
-      m_encoder.resetState();
-      m_buffer.append(m_encoder.encode(line));
-    }
+    appendEncoded(line);
     m_buffer.append('\n');
   }
 }

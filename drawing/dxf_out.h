@@ -58,6 +58,8 @@ class OdDbDxfOut {
  private:
   void code(int code);
   void endSubclass();
+  /// Adds one line's text in the encoding of the file; what its code page lacks is escaped.
+  void appendEncoded(QStringView line);
   /// The bytes in the code page of the file; empty if it lacks a character.
   QByteArray inCodePage(QStringView text);
 

@@ -1,5 +1,6 @@
 #include "drawing/dxf_text.h"
 
+#include <algorithm>
 #include <charconv>
 
 QByteArray oddxf::encodingOf(std::string_view codePage) {
@@ -49,6 +50,15 @@ OdString oddxf::oneLine(const OdString& text) {
     if (const ushort c = result[i].unicode(); c < 0x20)
       result.replace(i, 1, OdString(QLatin1Char('^')) + QChar(c + 0x40));
   return result;
+}
+
+std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
+  auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer - 2, value);
+  if (std::none_of(buffer, end, [](char c) { return c == '.' || c == 'e'; })) {
+    *end++ = '.';
+    *end++ = '0';
+  }
+  return {buffer, static_cast<std::size_t>(end - buffer)};
 }
 
 void oddxf::addCode(QByteArray& lines, int code) {

@@ -17,6 +17,10 @@ OdString withoutEscapes(const OdString& text);
 OdString oneLine(const OdString& text);
 /// Adds a tag as the lines that the writer writes.
 void addLines(QByteArray& lines, int code, std::string_view value);
+/// A number as files have it: the shortest form that reads back as the same, with a point or an
+/// exponent. The text stands in `buffer`.
+constexpr std::size_t kRealDigits = 40;
+std::string_view realText(char (&buffer)[kRealDigits], double value);
 /// Adds the line of a group code.
 void addCode(QByteArray& lines, int code);
 

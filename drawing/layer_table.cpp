@@ -63,6 +63,7 @@ void OdDbLayerTableRecord::setIsOff(bool off) {
 }
 
 void OdDbLayerTableRecord::enteredDatabase() {
+  if (!description().isEmpty()) registerDescriptions();
   if (!m_layer.plotStyle.isNull()) return;
   const OdString name = std::exchange(m_layer.plotStyleName, {});
   setPlotStyleName(name.isEmpty() ? QStringLiteral("Normal") : name);

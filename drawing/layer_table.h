@@ -24,6 +24,11 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
   void setPlotStyleName(const OdString& name);
   OdDbObjectId plotStyleNameId() const { return m_layer.plotStyle; }
   void setPlotStyleName(OdDbObjectId id);
+  /// The text by which users explain the layer; empty if there is none. Files keep it in extended
+  /// data.
+  OdString description() const;
+  /// Takes one line; an empty text takes the description away.
+  void setDescription(const OdString& text);
   bool isOff() const { return m_layer.off; }
   void setIsOff(bool off);
   bool isFrozen() const { return hasFlag(1); }
@@ -47,6 +52,7 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
     OdDb::LineWeight lineWeight = OdDb::kLnWtByLwDefault;
     bool plottable = true, off = false;
   };
+  void registerDescriptions();
   Data m_layer;
 };
 

@@ -60,6 +60,7 @@ void OdDbObject::assignFrom(const OdDbObject& other) {
 }
 
 OdDbDxfResidue& OdDbObject::editResidue() {
+  assertWriteEnabled();
   if (!m_residue) m_residue = std::make_unique<OdDbDxfResidue>();
   return *m_residue;
 }

@@ -58,6 +58,7 @@ class OdDbObject : public OdRxObject {
   virtual void dxfOutXData(OdDbDxfOut&) const {}
   /// Tags of the object that nobody understood, or null.
   const OdDbDxfResidue* residue() const { return m_residue.get(); }
+  /// As a setter: what is kept now can be undone.
   OdDbDxfResidue& editResidue();
 
  protected:

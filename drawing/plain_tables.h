@@ -18,14 +18,11 @@
 
 /// A saved view.
 ODDB_PLAIN_RECORD(OdDbViewTableRecord, "VIEW", "AcDbViewTableRecord");
-/// A part of the model tab's window. Several records share the name *Active.
-ODDB_PLAIN_RECORD(OdDbViewportTableRecord, "VPORT", "AcDbViewportTableRecord");
 /// A user coordinate system.
 ODDB_PLAIN_RECORD(OdDbUCSTableRecord, "UCS", "AcDbUCSTableRecord");
 /// An application that keeps extended data in the drawing.
 ODDB_PLAIN_RECORD(OdDbRegAppTableRecord, "APPID", "AcDbRegAppTableRecord");
 
 ODDB_TABLE(OdDbViewTable, OdDbViewTableRecord, "VIEW");
-ODDB_TABLE(OdDbViewportTable, OdDbViewportTableRecord, "VPORT");
 ODDB_TABLE(OdDbUCSTable, OdDbUCSTableRecord, "UCS");
 ODDB_TABLE(OdDbRegAppTable, OdDbRegAppTableRecord, "APPID");

@@ -35,7 +35,7 @@ void printLayer(CommandContext& context, const OdDbLayerTableRecord& layer) {
   OdString line = QStringLiteral("\"%1\"  %2  %3  %4  %5")
                       .arg(layer.getName(), stateOf(layer), shownLayerColor(layer.color()),
                            linetypeName(layer), shownLineWeight(layer.lineWeight()));
-  if (const OdString text = layerDescription(layer); !text.isEmpty())
+  if (const OdString text = layer.description(); !text.isEmpty())
     line += QStringLiteral("  ") + text;
   context.print(line);
 }

@@ -42,9 +42,4 @@ class LayerSet {
   OdDbDatabase& m_database;
 };
 
-/// The description that users gave a layer; empty if it has none.
-OdString layerDescription(const OdDbLayerTableRecord& layer);
-/// `layer` is open for writing. An empty text takes the description away.
-void setLayerDescription(OdDbLayerTableRecord& layer, const OdString& text);
-
 } // namespace drafton

@@ -156,7 +156,7 @@ Task<void> describeLayers(CommandContext& context) {
   }
   const OdString question = translated(u"Enter name list of layer(s) for this description");
   const LayerSet::Match match = co_await askLayers(context, question, true);
-  for (const OdDbLayerTableRecordPtr& layer : match.layers) setLayerDescription(*layer, text);
+  for (const OdDbLayerTableRecordPtr& layer : match.layers) layer->setDescription(text);
 }
 
 } // namespace drafton

@@ -157,7 +157,9 @@ Task<Found> askView(CommandContext& context) {
 Task<void> zoom(CommandContext& context) {
   const Found view = co_await askView(context);
   if (!view) co_return;
-  if (!(view->height >= kSmallestHeight && view->height <= kGreatestHeight))
+  const auto isDrawable = [](double place) { return std::abs(place) <= kGreatestHeight; };
+  if (!(view->height >= kSmallestHeight && view->height <= kGreatestHeight) ||
+      !isDrawable(view->center.x) || !isDrawable(view->center.y))
     throw CommandFailure(translated(u"The view would be too small or too large to be drawn."));
   std::vector<DrawingView>& former = DrawingSession::of(context).formerViews;
   const DrawingView now = activeView(context.database());

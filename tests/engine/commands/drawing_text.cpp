@@ -108,7 +108,7 @@ OdString describeLayers(OdDbDatabase& database) {
     const OdDbLinetypeTableRecordPtr linetype = layer->linetypeObjectId().openObject();
     parts << (linetype ? linetype->getName() : QStringLiteral("Continuous"));
     parts << OdString::number(int{layer->lineWeight()});
-    if (const OdString text = drafton::layerDescription(*layer); !text.isEmpty()) parts << text;
+    if (const OdString text = layer->description(); !text.isEmpty()) parts << text;
     const bool isCurrent = database.currentLayer() == layer->objectId();
     lines << (isCurrent ? QStringLiteral("*") : OdString()) + layer->getName() +
                  QStringLiteral(": ") + parts.join(QStringLiteral(", "));
