@@ -96,14 +96,6 @@ QByteArray OdDbDatabase::writeDxf(OdDb::DwgVersion version) const {
 }
 
 void OdDbDatabase::writeFile(const OdString& path, OdDb::DwgVersion version) {
-  // The new file takes the place of the old one only when all of it has reached the disk.
   QSaveFile file(odpath::toPlatform(path));
-  file.setDirectWriteFallback(false);
-  const auto require = [&](bool ok) {
-    if (!ok) throw OdFileError(eFileAccess, path, file.errorString());
-  };
-  require(file.open(QIODevice::WriteOnly));
-  oddxf::writeDocument(
-      *this, version, [&](const QByteArray& piece) { require(file.write(piece) == piece.size()); });
-  require(file.commit());
+  oddxf::saveDocument(*this, version, file, path);
 }

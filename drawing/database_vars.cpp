@@ -1,5 +1,6 @@
 // Header variables and current values.
 #include "drawing/database_data.h"
+#include "drawing/dictionary_vars.h"
 
 namespace {
 
@@ -74,7 +75,6 @@ void require(bool ok, const char* what) {
     throw OdDbError(eNullObjectId, QStringLiteral("There is no such %1").arg(QLatin1String(what)));
 }
 
-const QLatin1String kVariables("AcDbVariableDictionary");
 const QLatin1String kTransparency("CETRANSPARENCY");
 
 } // namespace
@@ -185,6 +185,7 @@ bool OdDbDatabase::setSysVar(const OdString& name, const OdDbVarValue& value) {
   m_data->vars[i] = *fit;
   m_data->varPresent[i] = true;
   m_data->modified = true;
+  if (std::string_view(found->name) == "CECOLOR") oddb::keepExactColor(*this);
   m_data->tell(
       [&](OdDbDatabaseReactor& r) { r.headerSysVarChanged(*this, QLatin1String(found->name)); });
   return true;
@@ -266,40 +267,31 @@ void OdDbDatabase::setCurrentLineWeight(OdDb::LineWeight weight) {
 }
 
 OdCmTransparency OdDbDatabase::currentTransparency() const {
-  const OdDbDictionaryPtr root = m_data->rootDictionary.openObject();
-  const OdDbDictionaryPtr vars = root ? root->getAt(kVariables).openObject() : nullptr;
-  const OdDbDictionaryVarPtr var =
-      vars ? odrxCast<OdDbDictionaryVar>(vars->getAt(kTransparency).openObject().get()) : nullptr;
-  if (!var) return {};
-  if (var->value().compare(QLatin1String("ByBlock"), Qt::CaseInsensitive) == 0)
+  const OdString text = oddb::dictionaryVar(*this, kTransparency);
+  if (text.compare(QLatin1String("ByBlock"), Qt::CaseInsensitive) == 0)
     return OdCmTransparency(OdCmTransparency::kByBlock);
   bool isNumber = false;
-  const int percent = var->value().toInt(&isNumber);
-  return isNumber && percent >= 0 && percent <= 100 ? OdCmTransparency::fromPercent(percent)
-                                                    : OdCmTransparency();
+  const int percent = text.toInt(&isNumber);
+  if (!isNumber || percent < 0 || percent > 100) return {};
+  return oddb::exactTransparency(*this, OdCmTransparency::fromPercent(percent));
 }
 
 void OdDbDatabase::setCurrentTransparency(OdCmTransparency transparency) {
   if (transparency == currentTransparency()) return;
-  // The header has no variable for it: files keep it in a dictionary.
-  const OdDbDictionaryPtr root = m_data->rootDictionary.safeOpenObject(OdDb::kForWrite);
-  OdDbObjectId varsId = root->getAt(kVariables);
-  if (varsId.isNull()) varsId = root->setAt(kVariables, odrxMake<OdDbDictionary>());
-  const OdDbDictionaryPtr vars = varsId.safeOpenObject(OdDb::kForWrite);
-  OdDbObjectId id = vars->getAt(kTransparency);
-  if (id.isNull()) id = vars->setAt(kTransparency, odrxMake<OdDbDictionaryVar>());
-  const auto var = id.openAs<OdDbDictionaryVar>(OdDb::kForWrite);
+  OdString text;
   switch (transparency.method()) {
   case OdCmTransparency::kByLayer:
-    var->setValue(QStringLiteral("ByLayer"));
+    text = QStringLiteral("ByLayer");
     break;
   case OdCmTransparency::kByBlock:
-    var->setValue(QStringLiteral("ByBlock"));
+    text = QStringLiteral("ByBlock");
     break;
   case OdCmTransparency::kByAlpha:
-    var->setValue(OdString::number(transparency.percent()));
+    text = OdString::number(transparency.percent());
     break;
   }
+  oddb::setDictionaryVar(*this, kTransparency, text);
+  oddb::keepExactTransparency(*this, transparency);
 }
 
 OdDbObjectId OdDbDatabase::currentTextStyle() const {

@@ -5,6 +5,9 @@
 #include "drawing/dxf_text.h"
 #include "drawing/raw_object.h"
 
+#include <QFileInfo>
+#include <QSaveFile>
+
 namespace {
 
 using V = OdDbHeaderVarInfo;
@@ -163,4 +166,21 @@ void oddxf::writeDocument(const OdDbDatabase& database, OdDb::DwgVersion version
   // What was read from an older file has become a drawing of today.
   if (version < OdDb::kR2000) version = OdDb::kR2000;
   Writer(database, version, sink).write();
+}
+
+void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version, QSaveFile& file,
+                         const OdString& path) {
+  const auto require = [&](bool ok) {
+    if (!ok) throw OdFileError(eFileAccess, path, file.errorString());
+  };
+  // Of a device or a pipe nothing would be left but the new file.
+  if (const QFileInfo info(file.fileName()); info.exists() && !info.isFile())
+    throw OdFileError(eFileAccess, path, QStringLiteral("it is not a file"));
+  file.setDirectWriteFallback(false);
+  require(file.open(QIODevice::WriteOnly));
+  writeDocument(database, version,
+                [&](const QByteArray& piece) { require(file.write(piece) == piece.size()); });
+  // commit() would not notice that the last bytes found no room.
+  require(file.flush());
+  require(file.commit());
 }

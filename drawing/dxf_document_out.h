@@ -5,11 +5,18 @@
 
 #include <functional>
 
+class QSaveFile;
+
 namespace oddxf {
 
 /// Hands the text of the drawing to `sink` in pieces. kVersionUnknown stands for the drawing's own
 /// version; older ones than R2000 are written as R2000.
 void writeDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
                    const std::function<void(const QByteArray&)>& sink);
+
+/// Writes the drawing through `file`, which is not open yet: only when all of it has reached the
+/// disk it takes the place of the file at `path`. Raises OdFileError with that path.
+void saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version, QSaveFile& file,
+                  const OdString& path);
 
 } // namespace oddxf

@@ -1,6 +1,7 @@
 // Reading the header of a drawing.
 #include "drawing/dxf_document_in.h"
 
+#include "drawing/dictionary_vars.h"
 #include "drawing/dxf_text.h"
 
 void OdDbDxfReader::readHeader() {
@@ -69,6 +70,9 @@ void OdDbDxfReader::finishHeader() {
     OdDbVarValue& value = m_data.vars[i];
     const bool missing = std::holds_alternative<std::monostate>(value);
     if (missing) value = oddbPresetOf(vars[i]);
+    if (auto* const color = std::get_if<OdCmColor>(&value);
+        color && std::string_view(vars[i].name) == "CECOLOR")
+      *color = oddb::exactColor(m_database, *color);
     const auto* const name = std::get_if<OdString>(&value);
     const auto table = oddbTableOf(vars[i]);
     if (!name || !table) continue;

@@ -1,0 +1,202 @@
+// Values that files keep outside of the obvious places.
+#include "drawing/database.h"
+#include "drawing/dxf_residue.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+OdDbDatabasePtr reread(const OdDbDatabase& db, OdDb::DwgVersion version = OdDb::kVersionUnknown) {
+  const OdDbDatabasePtr back = OdDbDatabase::readDxf(db.writeDxf(version), QStringLiteral("x.dxf"));
+  EXPECT_EQ(back->unknownContent(), QStringList());
+  return back;
+}
+
+class KeptValues : public ::testing::Test {
+ protected:
+  OdDbLayerTableRecordPtr layerZero() {
+    return m_db->getLayerZeroId().openAs<OdDbLayerTableRecord>(OdDb::kForWrite);
+  }
+  OdDbViewportTableRecordPtr viewport() {
+    return m_db->getViewportTableId()
+        .openAs<OdDbViewportTable>()
+        ->getAt(QStringLiteral("*active"))
+        .openAs<OdDbViewportTableRecord>(OdDb::kForWrite);
+  }
+  static OdString descriptionIn(const OdDbDatabasePtr& db) {
+    return db->getLayerZeroId().openAs<OdDbLayerTableRecord>()->description();
+  }
+
+  OdDbDatabasePtr m_db = OdDbDatabase::createDatabase();
+};
+
+OdCmColor bookColor() {
+  OdCmColor color = OdCmColor::fromRgb(1, 2, 3);
+  color.setNames(QStringLiteral("Blau $1"), QStringLiteral("Bücher"));
+  return color;
+}
+
+} // namespace
+
+TEST_F(KeptValues, CurrentColorSurvivesTheFileWithoutLoss) {
+  const OdCmColor colors[] = {
+      OdCmColor::fromRgb(0, 255, 0), OdCmColor::fromRgb(10, 20, 30), bookColor(),
+      OdCmColor::fromColorIndex(3),  OdCmColor(OdCmColor::kByBlock), OdCmColor()};
+  for (const OdDb::DwgVersion version : {OdDb::kR2000, OdDb::kR2018})
+    for (const OdCmColor& color : colors) {
+      m_db->setCurrentColor(color);
+      const OdDbDatabasePtr back = reread(*m_db, version);
+      EXPECT_EQ(back->currentColor(), color) << color.color();
+      EXPECT_FALSE(back->isModified());
+      EXPECT_TRUE(back->writeDxf() == m_db->writeDxf(version));
+    }
+}
+
+TEST_F(KeptValues, ColorThatAnotherProgramMadeCurrentCounts) {
+  m_db->setCurrentColor(OdCmColor::fromRgb(10, 20, 30));
+  QByteArray text = m_db->writeDxf();
+  const QByteArray nearest = QByteArray::number(m_db->currentColor().colorIndex());
+  text.replace("$CECOLOR\n 62\n" + nearest + "\n", "$CECOLOR\n 62\n1\n");
+  EXPECT_EQ(OdDbDatabase::readDxf(text, QStringLiteral("x.dxf"))->currentColor(),
+            OdCmColor::fromColorIndex(1));
+}
+
+TEST_F(KeptValues, CurrentColorIsUndoneWithWhatIsKeptOfIt) {
+  const QByteArray before = m_db->writeDxf();
+  m_db->startUndoRecord(QStringLiteral("COLOR"));
+  m_db->setCurrentColor(OdCmColor::fromRgb(10, 20, 30));
+  m_db->endUndoRecord();
+  const QByteArray after = m_db->writeDxf();
+  m_db->undo();
+  EXPECT_TRUE(m_db->writeDxf() == before);
+  m_db->redo();
+  EXPECT_TRUE(m_db->writeDxf() == after);
+}
+
+TEST_F(KeptValues, CurrentTransparencySurvivesTheFileWithoutLoss) {
+  std::vector<OdCmTransparency> all{OdCmTransparency(),
+                                    OdCmTransparency(OdCmTransparency::kByBlock)};
+  for (int alpha = 0; alpha < 256; ++alpha)
+    all.push_back(OdCmTransparency::fromAlpha(static_cast<std::uint8_t>(alpha)));
+  for (const OdCmTransparency transparency : all) {
+    m_db->setCurrentTransparency(transparency);
+    ASSERT_EQ(m_db->currentTransparency(), transparency) << transparency.value();
+    if (transparency.alpha() % 16 > 1) continue; // reading takes its time
+    EXPECT_EQ(reread(*m_db)->currentTransparency(), transparency) << transparency.value();
+  }
+}
+
+TEST_F(KeptValues, EntryThatIsNoVariableIsReplaced) {
+  m_db->setCurrentTransparency(OdCmTransparency::fromPercent(20));
+  QByteArray text = m_db->writeDxf();
+  text.replace("  0\nDICTIONARYVAR\n", "  0\nXRECORD\n");
+  const OdDbDatabasePtr back = OdDbDatabase::readDxf(text, QStringLiteral("x.dxf"));
+  EXPECT_EQ(back->currentTransparency(), OdCmTransparency());
+  back->setCurrentTransparency(OdCmTransparency::fromPercent(30));
+  EXPECT_EQ(back->currentTransparency().percent(), 30);
+}
+
+TEST_F(KeptValues, ViewportTellsAndTakesItsView) {
+  EXPECT_EQ(viewport()->centerPoint(), (OdGePoint2d{210, 148.5}));
+  EXPECT_EQ(viewport()->height(), 297);
+  EXPECT_EQ(viewport()->aspect(), 1.34);
+  const QByteArray before = m_db->writeDxf();
+  m_db->startUndoRecord(QStringLiteral("VIEW"));
+  viewport()->setCenterPoint({1, 2.5});
+  viewport()->setHeight(30);
+  viewport()->setAspect(2);
+  const OdDbDatabasePtr back = reread(*m_db);
+  const auto read = back->getViewportTableId()
+                        .openAs<OdDbViewportTable>()
+                        ->getAt(QStringLiteral("*Active"))
+                        .openAs<OdDbViewportTableRecord>();
+  EXPECT_EQ(read->centerPoint(), (OdGePoint2d{1, 2.5}));
+  EXPECT_EQ(read->height(), 30);
+  EXPECT_EQ(read->aspect(), 2);
+  m_db->undo();
+  EXPECT_TRUE(m_db->writeDxf() == before);
+}
+
+TEST_F(KeptValues, ViewportRefusesWhatNoWindowCanShow) {
+  EXPECT_THROW(viewport()->setHeight(0), OdError);
+  EXPECT_THROW(viewport()->setAspect(-1), OdError);
+  EXPECT_THROW(viewport()->setCenterPoint({std::nan(""), 0}), OdError);
+  EXPECT_EQ(viewport()->height(), 297);
+}
+
+TEST_F(KeptValues, NewViewportHasAllThatFilesTell) {
+  viewport()->erase();
+  const auto made = odrxMake<OdDbViewportTableRecord>();
+  made->setName(QStringLiteral("*Active"));
+  made->setHeight(7);
+  m_db->getViewportTableId().openAs<OdDbViewportTable>(OdDb::kForWrite)->add(made);
+  EXPECT_EQ(made->height(), 7);
+  const QByteArray text = m_db->writeDxf();
+  const qsizetype at = text.lastIndexOf("\nVPORT\n");
+  const QByteArray record = text.mid(at, text.indexOf("\nENDTAB\n", at) - at);
+  EXPECT_TRUE(record.contains("\n 40\n7.0\n"));
+  EXPECT_TRUE(record.contains("\n 36\n1.0\n")) << record.toStdString();
+  EXPECT_EQ(record.count("\n 40\n"), 1);
+  reread(*m_db);
+}
+
+TEST_F(KeptValues, LayerKeepsItsDescription) {
+  const OdString text = QStringLiteral("Türen 扉 ^ \"x\"");
+  EXPECT_EQ(layerZero()->description(), OdString());
+  const QByteArray before = m_db->writeDxf();
+  layerZero()->setDescription(text);
+  for (const OdDb::DwgVersion version : {OdDb::kR2000, OdDb::kR2018})
+    EXPECT_EQ(descriptionIn(reread(*m_db, version)), text);
+  EXPECT_TRUE(m_db->getRegAppTableId().openAs<OdDbRegAppTable>()->has(
+      QStringLiteral("AcAecLayerStandard")));
+  layerZero()->setDescription({});
+  EXPECT_FALSE(layerZero()->residue() && !layerZero()->residue()->xdata.isEmpty());
+}
+
+TEST_F(KeptValues, DescriptionOfANewLayerComesWithItsApplication) {
+  const auto layer = odrxMake<OdDbLayerTableRecord>();
+  layer->setName(QStringLiteral("Doors"));
+  layer->setDescription(QStringLiteral("All doors"));
+  m_db->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(layer);
+  EXPECT_TRUE(m_db->getRegAppTableId().openAs<OdDbRegAppTable>()->has(
+      QStringLiteral("AcAecLayerStandard")));
+}
+
+TEST_F(KeptValues, DescriptionLeavesOtherExtendedDataAlone) {
+  const QByteArray xdata = "1001\nOTHER\n1000\none\n1000\ntwo\n"
+                           "1001\nAcAecLayerStandard\n1000\nISO\n1000\nW\xC3\xA4nde\n1070\n5\n"
+                           "1001\nLAST\n1000\nthree\n";
+  layerZero()->editResidue().xdata = xdata;
+  EXPECT_EQ(layerZero()->description(), QStringLiteral("Wände"));
+  layerZero()->setDescription(QStringLiteral("Walls"));
+  QByteArray wanted = xdata;
+  EXPECT_EQ(layerZero()->residue()->xdata, wanted.replace("W\xC3\xA4nde", "Walls"));
+  layerZero()->setDescription({});
+  EXPECT_EQ(layerZero()->residue()->xdata, wanted.replace("Walls", ""));
+}
+
+TEST_F(KeptValues, DescriptionIsReadInTheCodePageOfTheFile) {
+  layerZero()->setDescription(QStringLiteral("Waende"));
+  QByteArray text = m_db->writeDxf(OdDb::kR2000);
+  text.replace("Waende", "W\xE4nde");
+  EXPECT_EQ(descriptionIn(OdDbDatabase::readDxf(text, QStringLiteral("x.dxf"))),
+            QStringLiteral("Wände"));
+}
+
+TEST_F(KeptValues, EditingKeptTagsCanBeUndone) {
+  layerZero()->editResidue().xdata = "1001\nACAD\n1000\nold\n";
+  const QByteArray before = m_db->writeDxf();
+  m_db->startUndoRecord(QStringLiteral("EDIT"));
+  layerZero()->editResidue().xdata = "1001\nACAD\n1000\nnew\n";
+  EXPECT_EQ(m_db->undoDepth(), 1u);
+  m_db->undo();
+  EXPECT_TRUE(m_db->writeDxf() == before);
+  const auto reading = m_db->getLayerZeroId().openAs<OdDbLayerTableRecord>();
+  EXPECT_THROW(reading->editResidue(), OdDbError);
+}
+
+TEST_F(KeptValues, KeptTextsOutsideOfTheCodePageAreEscapedAndNotLost) {
+  layerZero()->editResidue().xdata = "1001\nACAD\n1000\nW\xC3\xA4nde \xE6\x89\x89\n";
+  const QByteArray text = m_db->writeDxf(OdDb::kR2000);
+  EXPECT_TRUE(text.contains("1000\nW\xE4nde \\U+6249\n"));
+}
