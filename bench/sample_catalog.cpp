@@ -3,8 +3,6 @@
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "module/entry/class_table.h"
-#include "module/entry/element_rows.h"
-#include "persistence/element_table.h"
 #include "persistence/path_operations.h"
 #include "tools/action_agent.h"
 
@@ -13,10 +11,7 @@
 
 namespace bench {
 
-Classes::Classes() {
-  tc::registerModuleClasses();
-  tc::OdTcElementTable::setBuilder(tc::enterElementRows);
-}
+Classes::Classes() { tc::registerModuleClasses(); }
 Classes::~Classes() { tc::unregisterModuleClasses(); }
 
 tc::OdTcToolPalettePtr makePalette(const OdString& name, int tools) {

@@ -17,9 +17,9 @@ class DocumentLock {
   explicit DocumentLock(IHostDocument* document)
     : m_manager(host::documentManager())
     , m_document(document)
-    , m_isRefused(m_manager &&
-                  !m_manager->lockDocument(document, IHostDocumentManager::kWriteLock,
-                                           QStringLiteral("EXECUTETOOL"), nullptr, 1)) {}
+    , m_isRefused(m_manager && !m_manager->lockDocument(
+                                   document, IHostDocumentManager::kWriteLock,
+                                   host::ownText(QStringLiteral("EXECUTETOOL")), nullptr, 1)) {}
   DocumentLock(const DocumentLock&) = delete;
   DocumentLock& operator=(const DocumentLock&) = delete;
   ~DocumentLock() {
@@ -78,7 +78,7 @@ void OdTcToolImpl::execute(IHostDocument* document) {
   const OdTcToolPtr self(this);
   if (guard && guard->isRunning()) {
     if (IHostCommandInput* const input = document->commandInput())
-      input->sendText(QStringLiteral("^C"));
+      input->sendText(host::ownText(QStringLiteral("^C")));
     guard->stopTool();
   }
 
@@ -95,7 +95,8 @@ void OdTcToolImpl::execute(IHostDocument* document) {
     }
     if (OdTcToolActionAgent* const agent = getActionAgent()) {
       agent->beginExecution(document);
-      agent->execute(document);
+      // A tool that has left its palette meanwhile has been finished.
+      if (m_document) agent->execute(document);
     }
   } catch (const OdError&) {
     // The host will see no command end, so nobody else would put things back.

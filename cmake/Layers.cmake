@@ -13,6 +13,11 @@ function(drafton_layer target)
   endif()
   if(ARG_SHARED)
     add_library(${target} SHARED ${sources})
+    if(UNIX AND NOT APPLE)
+      # The process's classes are registered from here: the code behind them stays while a module that
+      # brought it in comes and goes.
+      target_link_options(${target} PRIVATE -Wl,-z,nodelete)
+    endif()
   else()
     add_library(${target} STATIC ${sources})
   endif()

@@ -49,9 +49,9 @@ OdRxModule* OdRxModuleLoader::load(const OdString& path, OdString* reason) {
   try {
     module->initApp();
   } catch (const std::exception& error) {
+    // What the module registered before it failed stays in place and points into the library, so
+    // that is not unloaded again.
     why = OdString::fromUtf8(error.what());
-    module->release();
-    oddynlib::unload(handle);
     return nullptr;
   }
   m_loaded.push_back({path, handle, module});

@@ -22,7 +22,7 @@ class OdRxModuleLoader {
   ~OdRxModuleLoader();
 
   /// Loads the library at `path`, checks its version and calls its initApp. Null on failure, with
-  /// the reason in `reason`; a module that fails at start is unloaded again. A module that is
+  /// the reason in `reason`; a module that fails at start stays in memory unused. A module that is
   /// loaded already is given back.
   OdRxModule* load(const OdString& path, OdString* reason);
   /// Calls uninitApp and unloads the library; false if the module is not loaded here.

@@ -3,8 +3,6 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "module/entry/class_table.h"
-#include "module/entry/element_rows.h"
-#include "persistence/element_table.h"
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
 #include "tools/action_agent.h"
@@ -14,10 +12,7 @@
 
 namespace tpal {
 
-ModuleClasses::ModuleClasses() {
-  tc::registerModuleClasses();
-  tc::OdTcElementTable::setBuilder(tc::enterElementRows);
-}
+ModuleClasses::ModuleClasses() { tc::registerModuleClasses(); }
 ModuleClasses::~ModuleClasses() { tc::unregisterModuleClasses(); }
 
 LoadedCatalog loadCatalog(const OdString& folder) {

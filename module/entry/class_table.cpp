@@ -1,6 +1,7 @@
 #include "module/entry/class_table.h"
 
 #include "catalog/catalog_impl.h"
+#include "catalog/database.h"
 #include "catalog/database_impl.h"
 #include "catalog/foreign_tool_records_impl.h"
 #include "catalog/group_impl.h"
@@ -13,6 +14,7 @@
 #include "catalog/tool_impl.h"
 #include "catalog/tool_list_impl.h"
 #include "catalog/tool_palette_impl.h"
+#include "images/image_home.h"
 #include "images/image_impl.h"
 #include "images/image_list_impl.h"
 #include "module/catalog_item_list.h"
@@ -159,6 +161,8 @@ static_assert(std::size(kDeletions) == std::size(kClasses));
 
 void registerModuleClasses(OdRxModule* application) {
   OdTcElementTable::setBuilder(&enterElementRows);
+  setImageHome({[](const OdTcDatabase* database) { return database->getPath(); },
+                [](const OdTcDatabase* database) { return database->isExporting(); }});
   for (const ClassRow& row : kClasses) {
     *row.factorySlot = row.factory;
     row.init(application);

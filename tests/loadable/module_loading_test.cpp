@@ -121,6 +121,28 @@ TEST_F(ModuleLoadingTest, NothingThatTheHostKeepsPointsIntoTheLibrary) {
   EXPECT_TRUE(sections.contains(QStringLiteral("cmddata")));
 }
 
+TEST_F(ModuleLoadingTest, WhatAToolLeavesInTheHostOutlivesTheLibrary) {
+  host().application.settings[QStringLiteral("ToolPaletteDir")] =
+      QStringLiteral(SOURCE_DIR "/samples/catalog");
+  testhost::TestDocument& document = host().documents.open(QStringLiteral("A.dxf"));
+  {
+    OdRxModuleLoader loader;
+    ASSERT_TRUE(loader.load(kLibrary, nullptr));
+    const auto offers = host().completion.offers(QStringLiteral("tools"));
+    ASSERT_GE(offers.size(), 2u);
+    offers[0]->action->run();
+    offers[1]->action->run();
+    host().events.commandCancelled(QStringLiteral("LINE"));
+    host().events.commandEnded(QStringLiteral("LINE"));
+  }
+  ASSERT_FALSE(isLoaded());
+  ASSERT_EQ(document.sent.size(), 3);
+  EXPECT_EQ(document.sent[1], QStringLiteral("^C"));
+  ASSERT_EQ(host().documents.locks.size(), 2u);
+  for (const auto& lock : host().documents.locks)
+    EXPECT_EQ(lock.commandName, QStringLiteral("EXECUTETOOL"));
+}
+
 TEST_F(ModuleLoadingTest, ASecondLoadGivesTheSameModule) {
   OdRxModuleLoader loader;
   OdRxModule* const module = loader.load(kLibrary, nullptr);
