@@ -4,6 +4,7 @@
 #include "engine/support/test_commands.h"
 #include "frame/file_path.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -21,6 +22,18 @@ class DocumentCommandsTest : public EngineFixture {
   QByteArray bytesOf(const OdString& file) {
     QFile f(file);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+  }
+
+  /// Opens an old drawing with a point, which is not understood in that version.
+  void openForeign() {
+    QFile file(path("foreign.dxf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n"
+               "0\nLINE\n8\n0\n10\n1\n20\n2\n11\n3\n21\n4\n"
+               "0\nPOINT\n8\n0\n10\n1\n20\n2\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("other")));
+    type(QStringLiteral("OpenDocument ") + path("foreign.dxf") + u'\n');
   }
 
   QTemporaryDir m_folder;
@@ -85,6 +98,39 @@ TEST_F(DocumentCommandsTest, ASaveThatFailsNamesFileAndReasonAndLosesNothing) {
   EXPECT_EQ(events().last(), QStringLiteral("failed SaveAs"));
   EXPECT_TRUE(document().isModified());
   EXPECT_EQ(document().name(), QStringLiteral("Drawing1.dxf"));
+}
+
+TEST_F(DocumentCommandsTest, ADrawingWithUnknownContentIsNotSavedOverItself) {
+  openForeign();
+  const QByteArray before = bytesOf(path("foreign.dxf"));
+  ASSERT_FALSE(document().lostBySaving().isEmpty());
+  draw();
+  for (const OdString& command :
+       {QStringLiteral("Save\n"), QStringLiteral("SaveAs ") + path("foreign.dxf") + u'\n',
+        QStringLiteral("SaveAs ") + path("other/../foreign.dxf") + u'\n'}) {
+    console().clear();
+    type(command);
+    EXPECT_TRUE(console().shows(QStringLiteral("saving over it would lose it")))
+        << command.toStdString();
+    EXPECT_TRUE(console().shows(QStringLiteral("POINT"))) << "it says what";
+    EXPECT_TRUE(bytesOf(path("foreign.dxf")) == before);
+    EXPECT_TRUE(document().isModified());
+  }
+  EXPECT_FALSE(QFile::exists(path("foreign.bak")));
+}
+
+TEST_F(DocumentCommandsTest, ACopyThatLacksUnknownContentIsAsked) {
+  openForeign();
+  type(QStringLiteral("SaveAs ") + path("copy.dxf") + u'\n');
+  EXPECT_TRUE(prompt().startsWith(QStringLiteral("The copy will lack"))) << prompt().toStdString();
+  EXPECT_TRUE(prompt().contains(QStringLiteral("POINT")));
+  type(QStringLiteral("\n"));
+  EXPECT_FALSE(QFile::exists(path("copy.dxf"))) << "no by default";
+  EXPECT_EQ(events().last(), QStringLiteral("cancelled SaveAs"));
+  EXPECT_EQ(document().name(), QStringLiteral("foreign.dxf"));
+  type(QStringLiteral("SaveAs ") + path("copy.dxf") + QStringLiteral("\ny\n"));
+  EXPECT_TRUE(bytesOf(path("copy.dxf")).contains("LINE"));
+  EXPECT_EQ(document().name(), QStringLiteral("copy.dxf"));
 }
 
 TEST_F(DocumentCommandsTest, AnUnreadableDrawingIsNamedWithTheReason) {
