@@ -95,6 +95,9 @@ OdDbObjectId OdDbDatabase::getRegAppTableId() const { return m_data->tables[Data
 OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const { return m_data->rootDictionary; }
 OdDbObjectId OdDbDatabase::getModelSpaceId() const { return m_data->modelSpace; }
 OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return m_data->paperSpace; }
+OdDbObjectId OdDbDatabase::getCurrentSpaceId() const {
+  return sysVarInt("TILEMODE") != 0 ? getModelSpaceId() : getPaperSpaceId();
+}
 OdDbObjectId OdDbDatabase::getLayerZeroId() const { return m_data->layerZero; }
 OdDbObjectId OdDbDatabase::getLinetypeByLayerId() const { return m_data->byLayer; }
 OdDbObjectId OdDbDatabase::getLinetypeByBlockId() const { return m_data->byBlock; }

@@ -69,6 +69,8 @@ class OdDbDatabase : public OdRxObject {
   OdDbObjectId getNamedObjectsDictionaryId() const;
   OdDbObjectId getModelSpaceId() const;
   OdDbObjectId getPaperSpaceId() const;
+  /// The block that is drawn in: the model space, or the paper space while a layout is shown.
+  OdDbObjectId getCurrentSpaceId() const;
   OdDbObjectId getLayerZeroId() const;
   OdDbObjectId getLinetypeByLayerId() const;
   OdDbObjectId getLinetypeByBlockId() const;

@@ -67,7 +67,8 @@ class CommandContext {
   void setLastPoint(const OdGePoint3d& point) const;
 
   /// Runs another command inside this one, to its end; what it changes belongs to this command's
-  /// undo step. False if there is none of that name, or it was cancelled or failed.
+  /// undo step. False if there is none of that name, or it was cancelled or failed: then only its
+  /// own changes are taken back.
   bool run(const OdString& command, IMemParam* parameters = nullptr) const;
 
  private:

@@ -3,6 +3,8 @@
 #include "drafton/engine/engine.h"
 #include "drafton/engine/mem_param.h"
 
+#include <algorithm>
+
 namespace drafton {
 namespace {
 
@@ -35,7 +37,8 @@ struct CommandProcessor::Frame {
   bool isRunning = false; ///< its code is on the stack, so it cannot be destroyed
   bool isCancelled = false;
   bool hasUndoStep = false;
-  bool isAnswered = false; ///< the text that a module's command waited for is there
+  std::optional<OdDbUndoMark> mark; ///< where it began in the step of a command around it
+  bool isAnswered = false;          ///< the text that a module's command waited for is there
   bool* succeeded = nullptr;
   Task<> task;
 };
@@ -93,6 +96,7 @@ bool CommandProcessor::step() {
   // The user's cancel ends the macro that drives the command as well.
   if (fromKeyboard && key->kind == Key::Kind::kCancel) m_sent.clear();
   handle(*key);
+  deliverChanges();
   return true;
 }
 
@@ -176,7 +180,10 @@ void CommandProcessor::takeCommandWord(const OdString& word) {
 void CommandProcessor::takeAnswer(const OdString& word) {
   InputRequest& asked = *m_frames.back()->input.m_request;
   if (!asked.shown().isEmpty()) m_engine.console().echo(word);
-  settleAnswer(asked.accept(word, m_document ? m_document->lastPoint() : OdGePoint3d()));
+  const PointOrigins origins =
+      m_document ? PointOrigins{m_document->lastPoint(), {}, m_document->elevation()}
+                 : PointOrigins();
+  settleAnswer(asked.accept(word, origins));
 }
 
 bool CommandProcessor::givePoint(const OdGePoint3d& point) {
@@ -185,6 +192,7 @@ bool CommandProcessor::givePoint(const OdGePoint3d& point) {
   if (asked.kind() == InputRequest::Kind::kPlainText) return false;
   m_word.clear();
   settleAnswer(asked.acceptPoint(point));
+  deliverChanges();
   return true;
 }
 
@@ -251,6 +259,7 @@ bool CommandProcessor::run(const OdString& name, IMemParam* parameters) {
   bool succeeded = false;
   if (start(command, parameters, &succeeded)) waitWhile([&] { return m_frames.size() > depth; });
   m_word = outerWord;
+  deliverChanges();
   return succeeded;
 }
 
@@ -269,11 +278,7 @@ bool CommandProcessor::start(const RegisteredCommandPtr& command, IMemParam* par
   frame.command = command;
   frame.parameters = parameters;
   frame.succeeded = succeeded;
-  if (OdDbDatabase* const database = m_document ? m_document->database() : nullptr;
-      database && m_frames.size() == 1 && !command->has(kNoUndoStep)) {
-    database->startUndoRecord(command->name);
-    frame.hasUndoStep = true;
-  }
+  openUndoStep(frame);
   frame.isRunning = true;
   m_engine.events().fire([&](HostEditorReactor& r) { r.commandWillStart(command->name); });
   runBody(frame);
@@ -338,7 +343,7 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
   if (frame->isCancelled) outcome = Outcome::kCancelled;
   frame->task = {}; // what the command holds goes before its changes are taken back
   const bool isOutermost = m_frames.empty();
-  if (isOutermost) closeUndoStep(*frame, outcome);
+  closeUndoStep(*frame, outcome);
   if (frame->succeeded) *frame->succeeded = outcome == Outcome::kEnded;
   if (outcome == Outcome::kFailed) trouble(message);
 
@@ -355,14 +360,33 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
     now.takeTextFrom(*this);
 }
 
+void CommandProcessor::openUndoStep(Frame& frame) {
+  OdDbDatabase* const database = m_document ? m_document->database() : nullptr;
+  if (!database) return;
+  if (std::any_of(m_frames.begin(), m_frames.end(), [](const auto& f) { return f->hasUndoStep; })) {
+    frame.mark = database->undoMark();
+  } else if (!frame.command->has(kNoUndoStep)) {
+    database->startUndoRecord(frame.command->name);
+    frame.hasUndoStep = true;
+  }
+}
+
 void CommandProcessor::closeUndoStep(const Frame& frame, Outcome outcome) {
   OdDbDatabase* const database = m_document ? m_document->database() : nullptr;
-  if (!database || !frame.hasUndoStep) return;
-  if (outcome == Outcome::kEnded)
+  if (!database) return;
+  const bool keeps = outcome == Outcome::kEnded;
+  if (frame.mark && !keeps) database->rollbackTo(*frame.mark);
+  if (!frame.hasUndoStep) return;
+  if (keeps)
     database->endUndoRecord();
   else
     database->abandonUndoRecord();
-  database->deliverChanges();
+  m_document->resumeLockStep();
+}
+
+void CommandProcessor::deliverChanges() const {
+  if (OdDbDatabase* const database = m_document ? m_document->database() : nullptr)
+    database->deliverChanges();
 }
 
 // --- cancelling

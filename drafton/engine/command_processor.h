@@ -37,7 +37,7 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   /// what is changed under it must not belong to a command that is about to be taken back.
   void takePendingCancels();
   /// Runs a command to its end, inside the running one if there is one. False if there is no such
-  /// command, or it was cancelled or failed.
+  /// command, or it was cancelled or failed: then only what it changed itself is taken back.
   bool run(const OdString& name, IMemParam* parameters);
   /// A click into the drawing: answers a prompt for a point, distance or angle. False if none
   /// waits.
@@ -74,7 +74,10 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   int runModuleCommand(Frame& frame);
   void resume(Frame& frame, const std::function<void()>& step);
   void finish(Outcome outcome, const OdString& message);
+  void openUndoStep(Frame& frame);
   void closeUndoStep(const Frame& frame, Outcome outcome);
+  /// Tells the drawing's reactors what an input has changed.
+  void deliverChanges() const;
   void waitWhile(const std::function<bool()>& pending);
   void trouble(const OdString& text);
 

@@ -35,13 +35,22 @@ bool Document::lock(const OdString& name) {
   m_processor.takePendingCancels();
   if (m_processor.isBusy()) return true;
   m_database->startUndoRecord(name);
-  m_hasLockStep = true;
+  m_lockStep = name;
   return true;
+}
+
+void Document::resumeLockStep() {
+  if (m_lockStep) m_database->startUndoRecord(*m_lockStep);
+}
+
+double Document::elevation() const {
+  return m_database->sysVarReal(m_database->sysVarInt("TILEMODE") != 0 ? "ELEVATION"
+                                                                       : "PELEVATION");
 }
 
 void Document::unlock() {
   if (m_locks == 0 || --m_locks > 0) return;
-  if (std::exchange(m_hasLockStep, false)) m_database->endUndoRecord();
+  if (std::exchange(m_lockStep, {})) m_database->endUndoRecord();
   m_database->deliverChanges();
 }
 

@@ -40,6 +40,11 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   bool lock(const OdString& name);
   void unlock();
 
+  /// Goes on with the step of the lock behind a command that had its own.
+  void resumeLockStep();
+
+  /// The z of points that are given without one.
+  double elevation() const;
   OdGePoint3d lastPoint() const { return m_lastPoint; }
   void setLastPoint(const OdGePoint3d& point) { m_lastPoint = point; }
   /// The values of variables that belong to the document and not to its drawing.
@@ -62,7 +67,7 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   std::vector<OdDbObjectId> m_previousSelection;
   OdGePoint3d m_lastPoint;
   int m_locks = 0;
-  bool m_hasLockStep = false;
+  std::optional<OdString> m_lockStep; ///< the name of the step that the lock opened
   bool m_isClosing = false;
   // Its commands use all of the above.
   CommandProcessor m_processor;

@@ -53,8 +53,15 @@ OdString unquoted(const OdString& word) {
 } // namespace
 
 InputRequest::InputRequest(const PointPrompt& prompt)
-  : InputRequest(Kind::kPoint, prompt.text, prompt.keywords, prompt.allowEmpty) {
+  : InputRequest(Kind::kPoint, prompt.text, prompt.keywords,
+                 prompt.allowEmpty || !prompt.enterText.isEmpty()) {
   m_base = prompt.base;
+  m_allowText = prompt.allowText;
+  m_shownDefault = prompt.enterText.toString();
+  if (m_keywords.words().contains(m_shownDefault))
+    m_enterKeyword = m_shownDefault;
+  else if (!m_shownDefault.isEmpty())
+    m_shownDefault = translated(m_shownDefault);
 }
 
 InputRequest::InputRequest(const DistancePrompt& prompt)
@@ -100,7 +107,7 @@ InputRequest::InputRequest(const StringPrompt& prompt)
 
 InputRequest::InputRequest(const KeywordPrompt& prompt)
   : InputRequest(Kind::kKeyword, prompt.text, prompt.keywords, prompt.allowEmpty) {
-  m_shownDefault = prompt.defaultValue.toString();
+  m_shownDefault = m_enterKeyword = prompt.defaultValue.toString();
 }
 
 InputRequest::InputRequest(const OdString& prompt, bool allowBlanks)
@@ -155,8 +162,8 @@ InputRequest::Outcome InputRequest::acceptNumber(double value) {
 }
 
 InputRequest::Outcome InputRequest::acceptEmpty() {
-  if (m_kind == Kind::kKeyword && !m_shownDefault.isEmpty()) {
-    m_keyword = m_shownDefault;
+  if (!m_enterKeyword.isEmpty()) {
+    m_keyword = m_enterKeyword;
     return Outcome::kAnswered;
   }
   if (m_default.index() != 0 && !m_firstPoint) return acceptValue(m_default);
@@ -164,7 +171,7 @@ InputRequest::Outcome InputRequest::acceptEmpty() {
   return refuse(translated(textsOf(m_kind).missing));
 }
 
-InputRequest::Outcome InputRequest::accept(const OdString& word, const OdGePoint3d& last) {
+InputRequest::Outcome InputRequest::accept(const OdString& word, PointOrigins origins) {
   if (m_kind == Kind::kPlainText) return acceptValue(word);
   if (word.isEmpty()) return acceptEmpty();
   if (const std::optional<OdString> keyword = m_keywords.match(word)) {
@@ -184,9 +191,15 @@ InputRequest::Outcome InputRequest::accept(const OdString& word, const OdGePoint
         m_kind == Kind::kAngle ? parseAngle(word) : parseReal(word);
     if (number) return acceptNumber(*number);
   }
-  if (takesPoints())
-    if (const std::optional<OdGePoint3d> point = parsePoint(word, {last, base()}))
-      return acceptPoint(*point);
+  origins.base = base();
+  if (const auto point = takesPoints() ? parsePoint(word, origins) : std::nullopt) {
+    // It would lie elsewhere if the elevation were another.
+    PointOrigins elsewhere = origins;
+    elsewhere.elevation = origins.elevation == 0 ? 1 : 0;
+    m_isFlat = point != parsePoint(word, elsewhere);
+    return acceptPoint(*point);
+  }
+  if (m_allowText) return acceptValue(word);
   return refuse(translated(textsOf(m_kind).invalid));
 }
 

@@ -43,8 +43,8 @@ class InputRequest {
     kAgain, ///< not accepted: message() tells why
     kMore,  ///< a first point was taken, the second is wanted
   };
-  /// Takes one typed word; `word` is empty for Enter alone. `last` is the document's last point.
-  Outcome accept(const OdString& word, const OdGePoint3d& last);
+  /// Takes one typed word; `word` is empty for Enter alone. The base of `origins` is the prompt's.
+  Outcome accept(const OdString& word, PointOrigins origins);
   /// Takes a point that was clicked.
   Outcome acceptPoint(const OdGePoint3d& point);
   const OdString& message() const { return m_message; }
@@ -59,6 +59,10 @@ class InputRequest {
     } else if (const T* value = std::get_if<T>(&m_value)) {
       result.kind = Answer<T>::Kind::kValue;
       result.value = *value;
+      result.isFlat = m_isFlat;
+    } else if (const OdString* text = std::get_if<OdString>(&m_value)) {
+      result.kind = Answer<T>::Kind::kText;
+      result.text = *text;
     }
     return result;
   }
@@ -87,12 +91,15 @@ class InputRequest {
   NumberRange m_range = NumberRange::kAny;
   bool m_allowBlanks = false;
   bool m_allowEmpty = false;
+  bool m_allowText = false;
+  OdString m_enterKeyword;
   Value m_default;
   OdString m_shownDefault;
 
   Value m_value;
   OdString m_keyword;
   std::optional<OdGePoint3d> m_answeredPoint;
+  bool m_isFlat = false;
   OdString m_message;
 };
 

@@ -30,6 +30,11 @@ struct PointPrompt {
   /// input (`@`) is measured from the document's last point.
   std::optional<OdGePoint3d> base = {};
   bool allowEmpty = false;
+  /// What Enter means, to be shown: a keyword of the list, which is then the answer, or words for
+  /// an empty answer.
+  QStringView enterText = {};
+  /// Words that are neither a keyword nor a point are an answer too.
+  bool allowText = false;
 };
 
 /// A number, or a point whose distance from `base` counts (without a base, two points).
@@ -92,13 +97,18 @@ static_assert(std::is_trivially_destructible_v<PointPrompt> &&
 /// The answer to a prompt. There is none for a cancelled prompt: the command ends there.
 template <class T>
 struct Answer {
-  enum class Kind { kValue, kKeyword, kEmpty };
+  enum class Kind { kValue, kKeyword, kEmpty, kText };
 
   Kind kind = Kind::kEmpty;
   T value{};
   /// The chosen keyword as it stands in the prompt's list, such as "Close".
   OdString keyword;
+  /// What was typed where a point prompt takes texts.
+  OdString text;
+  /// A point that was typed without z, and so stands at the current elevation.
+  bool isFlat = false;
 
+  bool isText() const { return kind == Kind::kText; }
   bool isValue() const { return kind == Kind::kValue; }
   bool isEmpty() const { return kind == Kind::kEmpty; }
   bool is(QStringView word) const { return kind == Kind::kKeyword && keyword == word; }

@@ -23,7 +23,7 @@ bool isReachable(const OdDbEntity& entity) {
 
 std::vector<Candidate> candidates(OdDbDatabase& database) {
   std::vector<Candidate> found;
-  const auto space = database.getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
   for (auto at = space->newIterator(); !at->done(); at->step()) {
     const OdDbEntityPtr entity = at->entity();
     if (!entity || !isReachable(*entity)) continue;
@@ -57,7 +57,8 @@ bool meets(const OdGeExtents3d& a, const OdGeExtents3d& b) {
 double pickDistance(CommandContext& context) {
   OdVariant pixels;
   context.variables().get(QStringLiteral("PICKBOX"), pixels);
-  const OdGeExtents3d box = context.database().extents();
+  const OdDbObjectId space = context.database().getCurrentSpaceId();
+  const OdGeExtents3d box = space.openAs<OdDbBlockTableRecord>()->extents();
   if (box.isEmpty()) return 0;
   const OdGeVector3d size = box.maxPoint() - box.minPoint();
   return pixels.toDouble() * std::max({size.x, size.y, 1e-6}) / 1000;
@@ -123,8 +124,10 @@ Selection Chooser::last() const {
 
 Selection Chooser::previous() const {
   Selection found;
+  const OdDbObjectId space = m_context.database().getCurrentSpaceId();
   for (const OdDbObjectId& id : m_context.document().previousSelection())
-    if (const OdDbEntityPtr entity = id.openObject(); entity && isReachable(*entity))
+    if (const OdDbEntityPtr entity = id.openObject();
+        entity && entity->ownerId() == space && isReachable(*entity))
       found.push_back(id);
   return found;
 }
@@ -160,9 +163,9 @@ Selection Chooser::crossing(const OdGePoint3d& a, const OdGePoint3d& b) const {
 Selection Chooser::byHandle(const OdString& handle) const {
   const std::optional<OdDbHandle> number = OdDbHandle::fromText(handle.toLatin1().toStdString());
   const OdDbObjectId id = number ? m_context.database().getOdDbObjectId(*number) : OdDbObjectId();
-  const OdDbObjectPtr object = id.openObject();
-  const OdDbEntity* const entity = odrxCast<OdDbEntity>(object.get());
-  return entity && isReachable(*entity) ? Selection{id} : Selection();
+  // What belongs to an entity, or bounds the space, has a handle as well.
+  const Selection every = all();
+  return std::find(every.begin(), every.end(), id) != every.end() ? Selection{id} : Selection();
 }
 
 Task<Selection> askWindow(CommandContext& context, const Chooser& chooser, bool crossing) {

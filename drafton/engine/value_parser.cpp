@@ -35,10 +35,10 @@ std::optional<OdGePoint3d> polar(QStringView text, const OdGePoint3d& from) {
   return from + OdGeVector3d{*distance * std::cos(*angle), *distance * std::sin(*angle), 0};
 }
 
-std::optional<OdGeVector3d> coordinates(QStringView text) {
+std::optional<OdGeVector3d> coordinates(QStringView text, double z) {
   const QList<QStringView> numbers = parts(text, u',', 3);
   if (numbers.size() < 2) return std::nullopt;
-  double values[3] = {0, 0, 0};
+  double values[3] = {0, 0, z};
   for (qsizetype i = 0; i < numbers.size(); ++i) {
     const std::optional<double> value = parseReal(numbers[i]);
     if (!value) return std::nullopt;
@@ -70,9 +70,10 @@ std::optional<OdGePoint3d> parsePoint(QStringView text, const PointOrigins& orig
   const bool relative = text.startsWith(u'@');
   if (relative) text = text.mid(1);
   if (relative && text.isEmpty()) return origins.last;
+  const OdGePoint3d ground{0, 0, origins.elevation};
   if (text.contains(u'<'))
-    return finite(polar(text, relative ? origins.last : origins.base.value_or(OdGePoint3d())));
-  const std::optional<OdGeVector3d> typed = coordinates(text);
+    return finite(polar(text, relative ? origins.last : origins.base.value_or(ground)));
+  const std::optional<OdGeVector3d> typed = coordinates(text, relative ? 0 : origins.elevation);
   if (!typed) return std::nullopt;
   return finite((relative ? origins.last : OdGePoint3d()) + *typed);
 }

@@ -22,10 +22,11 @@ std::optional<double> parseAngle(QStringView text);
 struct PointOrigins {
   OdGePoint3d last; ///< for `@`
   std::optional<OdGePoint3d> base;
+  double elevation = 0; ///< of absolute points without z
 };
 /// `x,y` and `x,y,z`; `@dx,dy[,dz]` and `@d<a` from the last point, `@` alone for that point
 /// itself; `d<a` from the prompt's base point, or from the origin without one. Angles are in
-/// degrees, z is 0 (or that of the point measured from) if it is not given.
+/// degrees. A z that is not given is that of the point measured from, or the elevation.
 std::optional<OdGePoint3d> parsePoint(QStringView text, const PointOrigins& origins);
 
 /// A number in the shortest form that reads back as the same, but at most `decimals` behind the

@@ -221,6 +221,60 @@ TEST_F(CommandProcessorTest, ANestedCommandReadsItsInputWhileTheOuterOneStands) 
   EXPECT_EQ(entityCount(), 0u);
 }
 
+TEST_F(CommandProcessorTest, ANestedCommandThatDoesNotEndTakesBackOnlyItsOwn) {
+  for (const char* name : {"NESTFAIL", "NESTREFUSE"}) {
+    type(OdString::fromLatin1(name) + u'\n');
+    EXPECT_TRUE(isIdle());
+    EXPECT_TRUE(console().shows(QStringLiteral("inner did not end"))) << name;
+    EXPECT_EQ(entityCount(), 2u) << name;
+    EXPECT_EQ(events().last(), QStringLiteral("ended ") + OdString::fromLatin1(name));
+    EXPECT_EQ(database().undoDepth(), 1u);
+    database().undo();
+    EXPECT_EQ(entityCount(), 0u) << name;
+  }
+}
+
+TEST_F(CommandProcessorTest, ANestedCommandHasAStepIfNoneIsAroundIt) {
+  input().lines = {QStringLiteral("0,0"), QStringLiteral("1,1"), QStringLiteral("")};
+  type(QStringLiteral("OUTDRAW\n"));
+  EXPECT_EQ(entityCount(), 1u);
+  EXPECT_EQ(database().undoName(), QStringLiteral("DRAW"));
+  type(QStringLiteral("OUTSIDE\n"));
+  EXPECT_EQ(entityCount(), 3u) << "what runs outside of every step is not taken back";
+  EXPECT_EQ(database().undoDepth(), 1u);
+}
+
+TEST_F(CommandProcessorTest, ALockGoesOnWithItsStepBehindACommand) {
+  DocumentManager& documents = engine().documents();
+  ASSERT_TRUE(documents.lockDocument(&document(), IHostDocumentManager::kWriteLock,
+                                     QStringLiteral("EXECUTETOOL"), nullptr, 1));
+  EXPECT_TRUE(document().processor().run(QStringLiteral("NESTFAIL"), nullptr));
+  variables().set(QStringLiteral("TEXTSIZE"), 7.0);
+  documents.unlockDocument(&document());
+  EXPECT_EQ(database().undoName(), QStringLiteral("EXECUTETOOL"));
+  database().undo();
+  EXPECT_EQ(variable("TEXTSIZE").toDouble(), 2.5);
+  EXPECT_EQ(database().undoName(), QStringLiteral("NESTFAIL"));
+}
+
+TEST_F(CommandProcessorTest, ReactorsOfADrawingHearOfChangesAfterEveryInput) {
+  struct Counter : OdDbDatabaseReactor {
+    void objectModified(const OdDbDatabase&, OdDbObjectId) override { ++count; }
+    int count = 0;
+  } counter;
+  database().addReactor(&counter);
+  type(QStringLiteral("LAYER\ncolor\n3\n0\n"));
+  EXPECT_FALSE(isIdle());
+  EXPECT_EQ(counter.count, 1);
+  type(QStringLiteral("^C"));
+  EXPECT_EQ(counter.count, 2) << "it is put back";
+  type(QStringLiteral("ZOOM\n"));
+  EXPECT_TRUE(document().processor().givePoint({0, 0, 0}));
+  EXPECT_TRUE(document().processor().givePoint({5, 5, 0}));
+  EXPECT_EQ(counter.count, 3);
+  database().removeReactor(&counter);
+}
+
 TEST_F(CommandProcessorTest, OneCancelOfNestedCommandsIsOneEvent) {
   input().lines = {QStringLiteral("0,0 1,1 ^C")};
   type(QStringLiteral("NEST\n"));

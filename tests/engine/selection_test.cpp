@@ -108,6 +108,29 @@ TEST_F(SelectionTest, AnEntityIsNamedByItsHandle) {
   EXPECT_EQ(chosenBy(QStringLiteral("h xyz")), QString());
 }
 
+TEST_F(SelectionTest, OnlyTheSpaceThatIsShownCounts) {
+  EXPECT_EQ(chosenBy(QStringLiteral("5,0")), QStringLiteral("l"));
+  database().setSysVar(QStringLiteral("TILEMODE"), std::int64_t{0});
+  const OdDbObjectId onPaper =
+      database()
+          .getPaperSpaceId()
+          .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+          ->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{5, 0, 0}, OdGePoint3d{5, 9, 0}));
+  for (const char* typed : {"all", "last", "5,0", "w -1,-1 40,10"})
+    EXPECT_EQ(chosenBy(QString::fromLatin1(typed)), QStringLiteral("?")) << typed;
+  EXPECT_EQ(chosenBy(QStringLiteral("h ") + onPaper.getHandle().ascii()), QStringLiteral("?"));
+  EXPECT_EQ(chosenBy(QStringLiteral("h ") + m_line.getHandle().ascii()), QString());
+  database().setSysVar(QStringLiteral("TILEMODE"), std::int64_t{1});
+  EXPECT_EQ(chosenBy(QStringLiteral("p")), QString());
+  EXPECT_EQ(chosenBy(QStringLiteral("all")), QStringLiteral("lc"));
+}
+
+TEST_F(SelectionTest, WhatBoundsASpaceIsNotChosenByItsHandle) {
+  const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  for (const OdDbObjectId id : {space->blockBeginId(), space->blockEndId()})
+    EXPECT_EQ(chosenBy(QStringLiteral("h ") + id.getHandle().ascii()), QString());
+}
+
 TEST(EntityOutline, FollowsBulgesFromBothSides) {
   const auto polyline = odrxMake<OdDbPolyline>();
   polyline->addVertexAt(0, {0, 0}, 1);

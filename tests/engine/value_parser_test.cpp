@@ -65,6 +65,15 @@ TEST(PointText, PolarWithoutABaseStartsAtTheOrigin) {
   EXPECT_EQ(parsePoint(u"7<0", {{1, 1, 1}, {}}), (OdGePoint3d{7, 0, 0}));
 }
 
+TEST(PointText, AbsolutePointsWithoutZTakeTheElevation) {
+  const PointOrigins raised{{1, 1, 5}, {}, 7};
+  EXPECT_EQ(parsePoint(u"1,2", raised), (OdGePoint3d{1, 2, 7}));
+  EXPECT_EQ(parsePoint(u"1,2,0", raised), (OdGePoint3d{1, 2, 0}));
+  EXPECT_EQ(parsePoint(u"3<0", raised), (OdGePoint3d{3, 0, 7}));
+  EXPECT_EQ(parsePoint(u"@1,2", raised), (OdGePoint3d{2, 3, 5}));
+  EXPECT_EQ(parsePoint(u"@3<0", raised), (OdGePoint3d{4, 1, 5}));
+}
+
 TEST(NumberText, TakesTheWholeTextOrNothing) {
   EXPECT_EQ(parseReal(u"-2.5e2"), -250.0);
   EXPECT_EQ(parseReal(u"+.5"), 0.5);

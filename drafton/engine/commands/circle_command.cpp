@@ -2,7 +2,6 @@
 
 #include "drafton/engine/commands/circle_geometry.h"
 #include "drafton/engine/commands/command_bodies.h"
-#include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/translator.h"
 #include "drawing/circle.h"
@@ -10,9 +9,13 @@
 namespace drafton {
 namespace {
 
+/// The last radius; 0 before the first circle.
+constexpr QLatin1String kLastRadius("CIRCLERAD");
+
 Task<Circle2d> askAroundCenter(CommandContext& context, OdGePoint3d center) {
   CommandInput& input = context.input();
-  const double last = DrawingSession::of(context).circleRadius;
+  OdVariant kept;
+  const double last = context.variables().get(kLastRadius, kept) ? kept.toDouble() : 0;
   const auto shown = [last](double factor) {
     return last > 0 ? std::optional<double>(last * factor) : std::nullopt;
   };
@@ -76,7 +79,7 @@ Task<void> circle(CommandContext& context) {
   const OdDbCirclePtr made =
       odrxMake<OdDbCircle>(shape.center, OdGeVector3d::zAxis(), shape.radius);
   addNewThickEntity(context.database(), *made);
-  DrawingSession::of(context).circleRadius = shape.radius;
+  context.variables().set(kLastRadius, shape.radius);
   context.setLastPoint(shape.center);
 }
 

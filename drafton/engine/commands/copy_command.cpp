@@ -2,7 +2,6 @@
 
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/displacement.h"
-#include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
@@ -23,7 +22,7 @@ class CopyMaker {
     for (const OdDbObjectId& id : m_originals) {
       const auto original = id.openAs<OdDbEntity>();
       const OdDbEntityPtr copy = original->clone();
-      if (!displace(*copy, shift)) {
+      if (!copy->transformBy(OdGeMatrix3d::translation(shift))) {
         ++failed;
         continue;
       }
@@ -50,46 +49,53 @@ class CopyMaker {
   std::vector<Selection> m_runs;
 };
 
-Task<void> askMode(CommandContext& context) {
-  bool& once = DrawingSession::of(context).copiesOnce;
-  const QStringView now = once ? u"Single" : u"Multiple";
-  const Answer<OdString> mode = co_await context.input().keyword(
-      {.text = u"Enter a copy mode option", .keywords = u"Single Multiple", .defaultValue = now});
-  once = mode.is(u"Single");
+constexpr QLatin1String kMode("COPYMODE"); // 0: several copies, 1: one
+
+bool copiesOnce(CommandContext& context) {
+  OdVariant mode;
+  return context.variables().get(kMode, mode) && mode.toInt32() == 1;
 }
 
-/// The base point; none if a displacement is wanted.
-Task<std::optional<OdGePoint3d>> askBase(CommandContext& context) {
+Task<void> askMode(CommandContext& context) {
+  const QStringView now = copiesOnce(context) ? u"Single" : u"Multiple";
+  const Answer<OdString> mode = co_await context.input().keyword(
+      {.text = u"Enter a copy mode option", .keywords = u"Single Multiple", .defaultValue = now});
+  context.variables().set(kMode, mode.is(u"Single") ? 1 : 0);
+}
+
+/// The base point; empty if a displacement is wanted.
+Task<Answer<OdGePoint3d>> askBase(CommandContext& context) {
   for (;;) {
-    const Answer<OdGePoint3d> base = co_await context.input().point(
-        {.text = u"Specify base point", .keywords = u"Displacement mOde", .allowEmpty = true});
-    if (base.isValue()) co_return base.value;
-    if (!base.is(u"mOde")) co_return std::nullopt;
+    const Answer<OdGePoint3d> base =
+        co_await context.input().point({.text = u"Specify base point",
+                                        .keywords = u"Displacement mOde",
+                                        .enterText = u"Displacement"});
+    if (base.isValue()) co_return base;
+    if (!base.is(u"mOde")) co_return {};
     co_await askMode(context);
   }
 }
 
-Task<void> askCopies(CommandContext& context, CopyMaker& maker, OdGePoint3d base) {
-  const bool once = DrawingSession::of(context).copiesOnce;
+Task<void> askCopies(CommandContext& context, CopyMaker& maker, Answer<OdGePoint3d> base) {
+  const bool once = copiesOnce(context);
   for (;;) {
     const bool isFirst = maker.isEmpty();
-    const QStringView question =
-        isFirst ? u"Specify second point (Enter: use first point as displacement)"
-                : u"Specify second point";
     // Typed offsets are measured from the base point, however many copies there are.
-    context.setLastPoint(base);
+    context.setLastPoint(base.value);
     const QStringView keywords = once ? QStringView() : QStringView(u"Exit Undo");
-    const Answer<OdGePoint3d> second = co_await context.input().point(
-        {.text = question, .keywords = keywords, .base = base, .allowEmpty = true});
+    const QStringView enter =
+        isFirst ? QStringView(u"use first point as displacement") : QStringView(u"Exit");
+    const Answer<OdGePoint3d> second =
+        co_await context.input().point({.text = u"Specify second point",
+                                        .keywords = keywords,
+                                        .base = base.value,
+                                        .enterText = enter});
     if (second.is(u"Exit")) co_return;
     if (second.is(u"Undo")) {
       if (!maker.takeBack()) context.print(translated(u"There is nothing to undo."));
       continue;
     }
-    if (second.isValue())
-      maker.copyBy(second.value - base);
-    else if (isFirst)
-      maker.copyBy(base.asVector());
+    maker.copyBy(second.isValue() ? second.value - base.value : displacementOf(base));
     if (second.isEmpty() || once) co_return;
   }
 }
@@ -100,12 +106,11 @@ Task<void> copy(CommandContext& context) {
   const Selection chosen = co_await selectObjects(context);
   if (chosen.empty()) co_return;
   CopyMaker maker(context, chosen);
-  const bool once = DrawingSession::of(context).copiesOnce;
-  context.print(once ? translated(u"Current settings: Copy mode = Single")
-                     : translated(u"Current settings: Copy mode = Multiple"));
-  const std::optional<OdGePoint3d> base = co_await askBase(context);
-  if (base) {
-    co_await askCopies(context, maker, *base);
+  context.print(copiesOnce(context) ? translated(u"Current settings: Copy mode = Single")
+                                    : translated(u"Current settings: Copy mode = Multiple"));
+  const Answer<OdGePoint3d> base = co_await askBase(context);
+  if (base.isValue()) {
+    co_await askCopies(context, maker, base);
     co_return;
   }
   const OdGeVector3d shift = co_await askDisplacement(context);

@@ -21,8 +21,6 @@ class DrawingSession : public OdRxObject {
   RectangleModes rectangle;
   double rectangleLength = 10, rectangleWidth = 10, rectangleArea = 100;
   double textRotation = 0;
-  double circleRadius = 0; ///< 0 before the first circle
-  bool copiesOnce = false;
 };
 
 } // namespace drafton

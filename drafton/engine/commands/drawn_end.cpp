@@ -35,7 +35,7 @@ std::optional<DrawnEnd> endOf(const OdDbPolyline& polyline) {
 } // namespace
 
 std::optional<DrawnEnd> lastDrawnEnd(const OdDbDatabase& database, const OdGePoint3d& lastPoint) {
-  const auto space = currentSpaceId(database).openAs<OdDbBlockTableRecord>();
+  const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
   const std::vector<OdDbObjectId>& ids = space->entityIds();
   for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
     const OdDbObjectPtr object = id->openObject();

@@ -4,6 +4,7 @@
 #include "drafton/engine/commands/displacement.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
+#include "drawing/entity.h"
 
 namespace drafton {
 namespace {
@@ -11,13 +12,13 @@ namespace {
 Task<OdGeVector3d> askMove(CommandContext& context) {
   CommandInput& input = context.input();
   const Answer<OdGePoint3d> base = co_await input.point(
-      {.text = u"Specify base point", .keywords = u"Displacement", .allowEmpty = true});
+      {.text = u"Specify base point", .keywords = u"Displacement", .enterText = u"Displacement"});
   if (!base.isValue()) co_return co_await askDisplacement(context);
-  const Answer<OdGePoint3d> second = co_await input.point(
-      {.text = u"Specify second point (Enter: use first point as displacement)",
-       .base = base.value,
-       .allowEmpty = true});
-  co_return second.isEmpty() ? base.value.asVector() : second.value - base.value;
+  const Answer<OdGePoint3d> second =
+      co_await input.point({.text = u"Specify second point",
+                            .base = base.value,
+                            .enterText = u"use first point as displacement"});
+  co_return second.isEmpty() ? displacementOf(base) : second.value - base.value;
 }
 
 } // namespace
@@ -29,7 +30,7 @@ Task<void> move(CommandContext& context) {
   int failed = 0;
   for (const OdDbObjectId& id : chosen) {
     const auto entity = id.openAs<OdDbEntity>(OdDb::kForWrite);
-    if (!displace(*entity, shift)) ++failed;
+    if (!entity->transformBy(OdGeMatrix3d::translation(shift))) ++failed;
   }
   if (failed > 0) context.print(translated(u"%1 could not be moved.").arg(failed));
 }

@@ -2,13 +2,8 @@
 
 namespace drafton {
 
-OdDbObjectId currentSpaceId(const OdDbDatabase& database) {
-  return database.sysVarInt("TILEMODE") != 0 ? database.getModelSpaceId()
-                                             : database.getPaperSpaceId();
-}
-
 OdDbObjectId addToCurrentSpace(OdDbDatabase& database, OdDbEntity& entity) {
-  const auto space = currentSpaceId(database).openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   return space->appendOdDbEntity(&entity);
 }
 

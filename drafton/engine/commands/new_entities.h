@@ -5,9 +5,6 @@
 
 namespace drafton {
 
-/// The block into which commands draw: the model space, or the paper space while a layout is shown.
-OdDbObjectId currentSpaceId(const OdDbDatabase& database);
-
 /// Appends an entity that has its properties already.
 OdDbObjectId addToCurrentSpace(OdDbDatabase& database, OdDbEntity& entity);
 

@@ -61,7 +61,7 @@ void advanceLine(TextLayout& layout) {
 }
 
 std::optional<TextLayout> layoutBelowLastText(const OdDbDatabase& database) {
-  const auto space = currentSpaceId(database).openAs<OdDbBlockTableRecord>();
+  const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
   const std::vector<OdDbObjectId>& ids = space->entityIds();
   for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
     const OdDbObjectPtr object = id->openObject();

@@ -24,7 +24,7 @@ OdGeExtents3d limitsOf(const OdDbDatabase& database) {
 }
 
 OdGeExtents3d extentsOf(const OdDbDatabase& database) {
-  return currentSpaceId(database).openAs<OdDbBlockTableRecord>()->extents();
+  return database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>()->extents();
 }
 
 DrawingView viewShowing(const OdDbDatabase& database, const OdGeExtents3d& box) {
@@ -126,28 +126,19 @@ constexpr ZoomOption kOptions[] = {
     {u"Previous", zoomPrevious}, {u"Scale", zoomScale},   {u"Window", zoomWindow},
 };
 
-const ZoomOption* findOption(QStringView typed) {
-  const std::optional<OdString> keyword =
-      KeywordList(u"All Center Extents Previous Scale Window").match(typed);
-  if (keyword)
-    for (const ZoomOption& option : kOptions)
-      if (*keyword == QStringView(option.keyword)) return &option;
-  return nullptr;
-}
-
-/// A point, a factor and a keyword are all taken at the first prompt, so it asks for a text.
+/// Any of a corner, a factor and an option.
 Task<Found> askView(CommandContext& context) {
   for (;;) {
-    const Answer<OdString> answer = co_await context.input().string(
-        {.text = u"Specify corner of window, enter a scale factor (nX or nXP), or "
-                 u"[All/Center/Extents/Previous/Scale/Window]",
-         .allowEmpty = true});
-    const OdString& typed = answer.value;
-    if (const ZoomOption* const option = findOption(typed)) co_return co_await option->run(context);
-    if (const std::optional<ZoomScale> scale = parseZoomScale(typed))
+    const Answer<OdGePoint3d> answer = co_await context.input().point(
+        {.text = u"Specify corner of window, enter a scale factor (nX or nXP)",
+         .keywords = u"All Center Extents Previous Scale Window",
+         .allowEmpty = true,
+         .allowText = true});
+    if (answer.isValue()) co_return co_await zoomFrom(context, answer.value);
+    for (const ZoomOption& option : kOptions)
+      if (answer.is(option.keyword)) co_return co_await option.run(context);
+    if (const std::optional<ZoomScale> scale = parseZoomScale(answer.text))
       co_return scaled(context.database(), *scale);
-    if (const std::optional<OdGePoint3d> corner = parsePoint(typed, {context.lastPoint(), {}}))
-      co_return co_await zoomFrom(context, *corner);
     context.print(translated(u"A corner of a window, a scale factor or an option is needed."));
   }
 }

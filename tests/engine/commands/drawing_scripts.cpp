@@ -19,6 +19,8 @@ constexpr Script kLines[] = {
      u"ARC|c|0,0|10,0|0,10"},
     {"OnFromAClockwiseArc", u"LINE||4|", u"ARC 0,0,0 r10 0..90;LINE 10,0,0 10,-4,0",
      u"ARC|0,10|e|10,0|a|-90"},
+    {"TakesTheElevation", u"LINE|1,1|5,1|@3<90|7,1,0|",
+     u"LINE 1,1,2 5,1,2;LINE 5,1,2 5,4,2;LINE 5,4,2 7,1,0", u"SETVAR|ELEVATION|2"},
     {"TakesTheThickness", u"LINE|0,0|10,0|", u"LINE 0,0,0 10,0,0 thick2", u"SETVAR|THICKNESS|2"},
 };
 
@@ -31,6 +33,7 @@ constexpr Script kCircles[] = {
     {"ThreePoints", u"CIRCLE|3p|10,0|0,10|-10,0", u"CIRCLE 0,0,0 r10"},
     {"PointsInALineAreAskedAgain", u"CIRCLE|3p|10,0|0,0|-10,0|0,10|-10,0", u"CIRCLE 0,0,0 r10"},
     {"LastRadiusIsOffered", u"CIRCLE|5,5|", u"CIRCLE 0,0,0 r7;CIRCLE 5,5,0 r7", u"CIRCLE|0,0|7"},
+    {"RadiusIsOfferedFromItsVariable", u"CIRCLE|5,5|", u"CIRCLE 5,5,0 r4", u"CIRCLERAD|4"},
     {"LastDiameterIsOffered", u"CIRCLE|5,5|d|", u"CIRCLE 0,0,0 r7;CIRCLE 5,5,0 r7",
      u"CIRCLE|0,0|7"},
     {"AtTheHeightOfItsCenter", u"CIRCLE|5,5,2|3", u"CIRCLE 5,5,2 r3"},

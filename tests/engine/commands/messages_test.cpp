@@ -36,6 +36,23 @@ constexpr Message kMessages[] = {
     {"TextUnknownStyle", u"TEXT|s|Bold", u"There is no text style \"Bold\"."},
     {"TextNothingToGoOnFrom", u"TEXT|", u"There is no text to go on from."},
     {"CopyTellsItsMode", u"CIRCLE|0,0|1|COPY|l|", u"Current settings: Copy mode = Multiple"},
+    {"CopyTellsItsModeFromTheVariable", u"CIRCLE|0,0|1|COPYMODE|1|COPY|l|",
+     u"Current settings: Copy mode = Single"},
+    {"CopyOffersDisplacement", u"CIRCLE|0,0|1|COPY|l|",
+     u"Specify base point or [Displacement/mOde] <Displacement>: "},
+    {"CopyOffersTheFirstPoint", u"CIRCLE|0,0|1|COPY|l||0,0",
+     u"Specify second point or [Exit/Undo] <use first point as displacement>: "},
+    {"CopyOffersToExit", u"CIRCLE|0,0|1|COPY|l||0,0|1,0",
+     u"Specify second point or [Exit/Undo] <Exit>: "},
+    {"MoveOffersDisplacement", u"CIRCLE|0,0|1|MOVE|l|",
+     u"Specify base point or [Displacement] <Displacement>: "},
+    {"MoveOffersTheFirstPoint", u"CIRCLE|0,0|1|MOVE|l||0,0",
+     u"Specify second point <use first point as displacement>: "},
+    {"ZoomAsks", u"ZOOM",
+     u"Specify corner of window, enter a scale factor (nX or nXP) or "
+     u"[All/Center/Extents/Previous/Scale/Window]: "},
+    {"ZoomTooFar", u"LINE|1.7e308,1.7e308|1.7e308,1.7e308||ZOOM|e",
+     u"The view would be too small or too large to be drawn."},
     {"ZoomNoPrevious", u"ZOOM|p", u"No previous view saved."},
     {"ZoomTooSmall", u"ZOOM|1e300x", u"The view would be too small or too large to be drawn."},
     {"SetvarRealRange", u"SETVAR|LTSCALE|0", u"Requires a number greater than zero."},
@@ -133,6 +150,14 @@ TEST_F(CommandTexts, ZoomRemembersTenViewsAtMost) {
   for (int i = 0; i < 15; ++i) type(QStringLiteral("ZOOM 2x\n"));
   for (int i = 0; i < 15; ++i) type(QStringLiteral("ZOOM p\n"));
   EXPECT_EQ(describeView(database()), QStringLiteral("210,148.5 h9.2813"));
+}
+
+TEST_F(CommandTexts, ClicksAnswerTheFirstPromptOfZoom) {
+  type(QStringLiteral("ZOOM\n"));
+  EXPECT_TRUE(document().processor().givePoint({0, 0, 0}));
+  EXPECT_TRUE(document().processor().givePoint({10, 50, 0}));
+  EXPECT_FALSE(isRunning());
+  EXPECT_EQ(describeView(database()), QStringLiteral("5,25 h50"));
 }
 
 TEST_F(CommandTexts, EntitiesOnLockedLayersAreNotErased) {

@@ -98,6 +98,28 @@ Task<> nest(CommandContext& context) {
   co_return;
 }
 
+/// Runs a command that does not end, between two lines of its own.
+Task<> nestInner(CommandContext& context, QStringView inner) {
+  drawLine(context, {}, {5, 5, 0});
+  const bool done = context.run(inner.toString());
+  context.print(done ? QStringLiteral("inner ended") : QStringLiteral("inner did not end"));
+  drawLine(context, {}, {6, 6, 0});
+  co_return;
+}
+Task<> nestFailing(CommandContext& context) { return nestInner(context, u"FAIL"); }
+Task<> nestRefusing(CommandContext& context) { return nestInner(context, u"REFUSE"); }
+
+Task<> outDraw(CommandContext& context) {
+  context.run(QStringLiteral("DRAW"));
+  co_return;
+}
+
+Task<> refuse(CommandContext& context) {
+  drawLine(context, {}, {1, 1, 0});
+  throw CommandCancelled();
+  co_return;
+}
+
 Task<> word(CommandContext& context) {
   OdVariant value;
   if (context.parameters()) context.parameters()->value(QStringLiteral("word"), value);
@@ -106,12 +128,23 @@ Task<> word(CommandContext& context) {
 }
 
 constexpr NativeCommand kCommands[] = {
-    {u"ASKPOINT", kOrdinary, askPoint}, {u"ASKDISTANCE", kOrdinary, askDistance},
-    {u"ASKANGLE", kOrdinary, askAngle}, {u"ASKINTEGER", kOrdinary, askInteger},
-    {u"ASKREAL", kOrdinary, askReal},   {u"ASKTEXT", kOrdinary, askText},
-    {u"ASKWORDS", kOrdinary, askWords}, {u"ASKKEYWORD", kOrdinary, askKeyword},
-    {u"DRAW", kOrdinary, draw},         {u"FAIL", kOrdinary, fail},
-    {u"NEST", kOrdinary, nest},         {u"WORD", kOrdinary, word},
+    {u"ASKPOINT", kOrdinary, askPoint},
+    {u"ASKDISTANCE", kOrdinary, askDistance},
+    {u"ASKANGLE", kOrdinary, askAngle},
+    {u"ASKINTEGER", kOrdinary, askInteger},
+    {u"ASKREAL", kOrdinary, askReal},
+    {u"ASKTEXT", kOrdinary, askText},
+    {u"ASKWORDS", kOrdinary, askWords},
+    {u"ASKKEYWORD", kOrdinary, askKeyword},
+    {u"DRAW", kOrdinary, draw},
+    {u"FAIL", kOrdinary, fail},
+    {u"NEST", kOrdinary, nest},
+    {u"NESTFAIL", kOrdinary, nestFailing},
+    {u"REFUSE", kOrdinary, refuse},
+    {u"NESTREFUSE", kOrdinary, nestRefusing},
+    {u"OUTSIDE", kNoUndoStep, nestFailing},
+    {u"OUTDRAW", kNoUndoStep, outDraw},
+    {u"WORD", kOrdinary, word},
 };
 
 } // namespace
