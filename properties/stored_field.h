@@ -6,7 +6,10 @@
 
 #include <QStringView>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <variant>
 
@@ -17,7 +20,7 @@ enum class FieldForm : std::uint8_t {
   kPlain,
   kPath, ///< a stored path: macros are expanded when it is read and put back when it is written
   kNativeFlag,  ///< a flag that is written as a native boolean value and not as text
-  kWholeNumber, ///< a real number that is read as an integer
+  kWholeNumber, ///< a real number that is read as an integer, and written as one if it is whole
 };
 
 /// One row: a value of the record R.
@@ -54,8 +57,10 @@ void read(Number& field, const OdVariant& value, FieldForm) {
 }
 inline void read(double& field, const OdVariant& value, FieldForm form) {
   const OdString text = value.toString();
-  field =
-      form == FieldForm::kWholeNumber ? static_cast<double>(odParseInt(text)) : odParseReal(text);
+  // A number without end has no text that could be read again.
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  field = form == FieldForm::kWholeNumber ? static_cast<double>(odParseInt(text))
+                                          : std::clamp(odParseReal(text), -kLargest, kLargest);
 }
 inline void read(OdString& field, const OdVariant& value, FieldForm form) {
   field = form == FieldForm::kPath ? expandedStoredPath(value.toString()) : value.toString();
@@ -71,7 +76,15 @@ template <class Number>
 requires std::is_integral_v<Number> OdVariant write(Number field, FieldForm) {
   return OdVariant(OdString::number(field));
 }
-inline OdVariant write(double field, FieldForm) { return OdVariant(field); }
+inline OdVariant write(double field, FieldForm form) {
+  // With an exponent, as large reals are written, a whole number would be read only up to its
+  // point.
+  constexpr double kWithoutExponent = 1e19;
+  if (form == FieldForm::kWholeNumber && std::trunc(field) == field &&
+      std::abs(field) < kWithoutExponent)
+    return OdVariant(OdString::number(field, 'f', 0));
+  return OdVariant(field);
+}
 inline OdVariant write(const OdString& field, FieldForm form) {
   return OdVariant(form == FieldForm::kPath ? collapsedStoredPath(field) : field);
 }
