@@ -1,6 +1,7 @@
 // Loading a catalog and saving a palette, against the bare parser on the same bytes.
 #include "bench/ratio_report.h"
 #include "bench/sample_catalog.h"
+#include "catalog/database.h"
 
 #include <QDir>
 #include <QFile>
@@ -81,7 +82,7 @@ int main(int argc, char** argv) {
   catalog->load(fixture.file);
   const tc::OdTcToolPalettePtr palette = bench::makePalette(QStringLiteral("Saved"), 1000);
   catalog->addPalette(palette);
-  palette->save();
+  if (!palette->save()) qFatal("%s", qPrintable(palette->getDatabase()->saveProblem()));
   QByteArray saved;
   for (const QString& path : bench::catalogFiles(fixture.folder.path()))
     if (path.contains(QStringLiteral("Saved"))) {

@@ -1,6 +1,7 @@
 // Loading, saving and looking up: the time of one tool must not grow with their number.
 #include "bench/ratio_report.h"
 #include "bench/sample_catalog.h"
+#include "catalog/database.h"
 #include "catalog/tool.h"
 
 #include <memory>
@@ -13,7 +14,7 @@ struct Size {
     : tools(count)
     , palette(bench::makePalette(QStringLiteral("P"), count)) {
     path = folder.path() + QStringLiteral("/palette.dtc");
-    palette->saveAs(path);
+    if (!palette->saveAs(path)) qFatal("%s", qPrintable(palette->getDatabase()->saveProblem()));
     const auto all = palette->enumTools();
     while (const tc::OdTcTool* tool = all->next()) ids << tool->id();
   }

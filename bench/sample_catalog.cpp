@@ -1,5 +1,6 @@
 #include "bench/sample_catalog.h"
 
+#include "catalog/database.h"
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "module/entry/class_table.h"
@@ -40,7 +41,7 @@ OdString writeCatalog(const OdString& folder, int palettes, int tools) {
   for (int i = 0; i < palettes; ++i) {
     const tc::OdTcToolPalettePtr palette = makePalette(QStringLiteral("Palette %1").arg(i), tools);
     catalog->addPalette(palette);
-    palette->save();
+    if (!palette->save()) qFatal("%s", qPrintable(palette->getDatabase()->saveProblem()));
   }
   catalog->save(file);
   return file;

@@ -35,11 +35,12 @@ class OdTcCatalog : public OdTcCatalogItem {
   virtual bool unloadPalette(const OdString& id) = 0;
   virtual bool isDefault() const = 0;
   virtual void setDefault(bool isDefault) = 0;
-  /// Reads the catalog file and its palettes; false if it is missing or cannot be read. The path is
-  /// kept in both cases.
+  /// Reads the catalog file and its palettes. False if that fails: without a message if there is no
+  /// file, else with the path and the reason on the command line. The path is kept in all cases.
   virtual bool load(const OdString& path) = 0;
 
-  /// Gives the palette its place and file path in this catalog and takes it in.
+  /// Gives the palette its place and file path in this catalog and takes it in. A new file is named
+  /// after the palette as it stands, but for separators, which would lead out of the folder.
   virtual void addPalette(OdTcToolPalette* palette) = 0;
   virtual OdTcGroupList* groups() const = 0;
   virtual OdTcPaletteLoaderList* loaders() const = 0;

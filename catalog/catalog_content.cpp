@@ -12,6 +12,9 @@
 #include "host/host_locator.h"
 #include "module/string_table.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace tc {
 namespace {
 
@@ -19,14 +22,26 @@ void printKept(const char16_t* text, const OdString& file) {
   host::print(formatText(host::translate(OdString::fromUtf16(text)), file));
 }
 
+/// The name of a palette's file, as the palette is named. A name that holds separators would lead
+/// out of the folder, and so would an id, which can come from anybody's file.
+OdString fileNameFor(const OdTcToolPalette& palette) {
+  OdString name = formatText(QStringLiteral("%s_%s"), palette.displayName(), palette.id());
+  name.removeIf([](QChar c) { return c == u'\\' || c == u'/'; });
+  return name + QLatin1String(".dtc");
+}
+
+/// The list in which an item of a group stands.
+OdTcGroupContentList* contentsAround(const OdTcCatalogItem& item) {
+  const auto* const group = odrxCast<OdTcGroup>(item.owner());
+  return group ? group->contents() : nullptr;
+}
+
 } // namespace
 
 OdString OdTcCatalogImpl::pathFor(const OdTcToolPalette& palette) const {
-  const auto* const loader = static_cast<OdTcPaletteLoader*>(m_loaders->find(palette.id()));
-  if (loader) return resolvedHref(loader->getHref(), odpath::folderOf(m_path));
-  return palettesFolder() + u'\\' +
-         formatText(QStringLiteral("%s_%s"), palette.displayName(), palette.id()) +
-         QLatin1String(".dtc");
+  if (const OdTcPaletteLoader* const loader = findLoader(palette.id()))
+    return resolvedHref(loader->getHref(), odpath::folderOf(m_path));
+  return palettesFolder() + u'\\' + fileNameFor(palette);
 }
 
 void OdTcCatalogImpl::addPalette(OdTcToolPalette* palette) {
@@ -34,6 +49,7 @@ void OdTcCatalogImpl::addPalette(OdTcToolPalette* palette) {
   // place.
   if (!m_path.isEmpty()) palette->getDatabase()->setPath(pathFor(*palette));
   takeIn(palette);
+  palette->setReferenced(isReferencedInSubtree(m_groups, palette->id()));
 }
 
 bool OdTcCatalogImpl::addItem(OdTcCatalogItem* item) {
@@ -43,6 +59,7 @@ bool OdTcCatalogImpl::addItem(OdTcCatalogItem* item) {
   } else if (auto* const group = odrxCast<OdTcGroup>(item)) {
     if (m_groups->find(group->id()) == group) return false;
     m_groups->add(group);
+    markReferenced(this, idsReferencedBy(group));
   } else {
     return false;
   }
@@ -51,40 +68,48 @@ bool OdTcCatalogImpl::addItem(OdTcCatalogItem* item) {
 }
 
 bool OdTcCatalogImpl::removeItem(const OdString& id) {
-  const qsizetype position = m_paletteIndex.find(m_palettes, id);
-  if (position >= 0) {
-    removePalette(position);
+  if (const OdTcToolPalettePtr palette = findPalette(id)) {
+    removePalette(palette);
     return true;
   }
   const OdTcCatalogItemPtr group = m_groups->find(id);
-  if (!group) return false;
+  return group && removeGroup(group);
+}
+
+bool OdTcCatalogImpl::removeGroup(const OdTcCatalogItemPtr& group) {
+  const OdString id = group->id();
   notifyRemoved(group);
-  m_groups->remove(id);
-  unregister(group);
+  // A reactor may have taken it away already, and another group may have the same id.
+  if (m_groups->find(id) != group.get() || !m_groups->remove(id)) return false;
   orderListObject()->removeFirst(id);
   updateReferenced(this, group);
   return true;
 }
 
-void OdTcCatalogImpl::removePalette(qsizetype position) {
-  const OdTcToolPalettePtr palette = m_palettes[static_cast<std::size_t>(position)];
+void OdTcCatalogImpl::removePalette(const OdTcToolPalettePtr& palette) {
   const OdString id = palette->id();
-  if (palette->isReferenced()) removeFromSubtree(m_groups, id);
+  // A group may hold two references to it.
+  while (isReferencedInSubtree(m_groups, id)) removeFromSubtree(m_groups, id);
   palette->announceRemoval();
   const OdTcEnumPtr<OdTcTool> tools = palette->enumTools();
   while (OdTcTool* const tool = tools->next()) tool->setDeleted();
   removePaletteFile(*palette);
-  if (const OdTcCatalogItemPtr loader = m_loaders->find(id)) {
-    m_loaders->remove(id);
-    unregister(loader);
-  }
+  m_loaders->remove(id);
   palette->setDeleted();
   notifyRemoved(palette);
-  m_palettes.erase(std::find(m_palettes.begin(), m_palettes.end(), palette));
-  m_paletteIndex.drop();
+  // A reactor may have taken it away already.
+  if (!letGo(palette)) return;
   unregister(palette);
   orderListObject()->removeFirst(id);
+}
+
+bool OdTcCatalogImpl::letGo(const OdTcToolPalettePtr& palette) {
+  const auto at = std::find(m_palettes.begin(), m_palettes.end(), palette);
+  if (at == m_palettes.end()) return false;
+  m_palettes.erase(at);
+  m_paletteIndex.drop();
   forgetOwner(palette, this);
+  return true;
 }
 
 void OdTcCatalogImpl::removePaletteFile(const OdTcToolPalette& palette) const {
@@ -106,7 +131,7 @@ void OdTcCatalogImpl::removePaletteFile(const OdTcToolPalette& palette) const {
 
 OdTcToolPalette* OdTcCatalogImpl::loadPalette(const OdString& id) {
   if (findItem(id)) return findPalette(id);
-  auto* const loader = static_cast<OdTcPaletteLoader*>(m_loaders->find(id));
+  OdTcPaletteLoader* const loader = findLoader(id);
   if (!loader) return nullptr;
   const OdTcToolPalettePtr palette = loader->loadPaletteFromCatalog();
   if (!palette) return nullptr;
@@ -116,24 +141,19 @@ OdTcToolPalette* OdTcCatalogImpl::loadPalette(const OdString& id) {
 }
 
 bool OdTcCatalogImpl::unloadPalette(const OdString& id) {
-  if (!findItem(id) || m_palettes.empty()) return false;
   const OdTcToolPalettePtr palette = findPalette(id);
-  if (!palette || !unregister(palette)) return false;
-  m_palettes.erase(std::find(m_palettes.begin(), m_palettes.end(), palette));
-  m_paletteIndex.drop();
-  forgetOwner(palette, this);
-  return true;
+  return palette && unregister(palette) && letGo(palette);
 }
 
 void OdTcCatalogImpl::removeReferences(const OdString& id) {
   // Through the groups themselves, so that their reactors hear of it.
-  std::vector<OdTcCatalogItemPtr> holders;
-  findDepthFirst(m_groups, [&](OdTcCatalogItem* item, OdTcList* list) {
+  std::vector<OdTcGroupPtr> holders;
+  findDepthFirst(m_groups, [&](OdTcCatalogItem* item, OdTcList*) {
     if (item->isKindOf(OdTcPaletteSoftRef::desc()) && item->id() == id)
-      holders.emplace_back(static_cast<OdTcCatalogItem*>(list->owner()));
+      if (auto* const holder = odrxCast<OdTcGroup>(item->owner())) holders.emplace_back(holder);
     return false;
   });
-  for (const OdTcCatalogItemPtr& holder : holders) holder->removeItem(id);
+  for (const OdTcGroupPtr& holder : holders) holder->removeItem(id);
 }
 
 bool OdTcCatalogImpl::moveToGroup(const OdString& id) {
@@ -147,15 +167,11 @@ bool OdTcCatalogImpl::moveToGroup(const OdString& id) {
     return item->isKindOf(OdTcGroup::desc()) && item->id() == id;
   });
   if (!group) return false;
-  auto* const holder = static_cast<OdTcCatalogItem*>(group->owner());
+  const OdTcGroupContentList* const contents = contentsAround(*group);
   // With ids that stand twice, another item may be in the way.
-  if (static_cast<OdTcList*>(static_cast<OdTcGroup*>(holder)->contents())->find(id) !=
-          group.get() ||
-      !holder->removeItem(id))
-    return false;
-  addItem(group);
-  markReferenced();
-  return true;
+  if (!contents || contents->find(id) != group.get()) return false;
+  const OdTcGroupPtr holder(group->owner());
+  return holder->removeItem(id) && addItem(group);
 }
 
 } // namespace tc

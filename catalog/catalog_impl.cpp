@@ -11,6 +11,9 @@
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tc {
 
 OdTcCatalogImpl::OdTcCatalogImpl() { clearContent(); }
@@ -44,6 +47,18 @@ bool OdTcCatalogImpl::unregister(const OdTcPersist* item) {
   if (at == m_registered.rend()) return false;
   m_registered.erase(std::next(at).base());
   return true;
+}
+
+void OdTcCatalogImpl::forgetInCatalog(OdTcPersist* object) {
+  const auto isKept = [object](const OdTcPersistPtr& mine) {
+    const OdTcPersist* above = mine;
+    while (above && above != object) above = above->owner();
+    return !above;
+  };
+  const auto from = std::stable_partition(m_registered.begin(), m_registered.end(), isKept);
+  // Released only after the vector is in order again: an object's end may lead back here.
+  const std::vector<OdTcPersistPtr> forgotten(from, m_registered.end());
+  m_registered.erase(from, m_registered.end());
 }
 
 OdString OdTcCatalogImpl::palettesFolder() const { return palettesFolderOf(m_path); }
@@ -91,11 +106,11 @@ void OdTcCatalogImpl::takeIn(OdTcToolPalette* palette) {
 
 bool OdTcCatalogImpl::load(const OdString& path) {
   m_path = path;
-  m_readProblem.clear();
+  m_unread.note(path, OdString());
   if (!odrxSystemServices()->fileExists(path)) return false;
   clearContent();
   const ReadOutcome outcome = readFile(path, *makeCatalogFiler(), this, &OdTcFiler::openCatalog);
-  m_readProblem = outcome.problem;
+  m_unread.note(path, outcome.problem);
   if (!outcome.isRead) {
     // What was read up to the failure is no catalog.
     clearContent();
@@ -105,20 +120,11 @@ bool OdTcCatalogImpl::load(const OdString& path) {
     auto* const loader = static_cast<OdTcPaletteLoader*>(m_loaders->at(i));
     if (const OdTcToolPalettePtr palette = loader->loadPaletteFromCatalog()) takeIn(palette);
   }
-  markReferenced();
+  markReferenced(this, referencedIds(m_groups));
   return true;
 }
 
-void OdTcCatalogImpl::markReferenced() {
-  for (const OdString& id : referencedIds(m_groups))
-    if (OdTcToolPalette* const palette = findPalette(id)) palette->setReferenced(true);
-}
-
-bool OdTcCatalogImpl::save(const OdString& path) {
-  if (!CatalogSave(*this, path).run()) return false;
-  m_readProblem.clear();
-  return true;
-}
+bool OdTcCatalogImpl::save(const OdString& path) { return CatalogSave(*this, path).run(); }
 
 void OdTcCatalogImpl::writeFields(OdTcFiler* filer) {
   OdTcCatalogItemImplBase::writeFields(filer);

@@ -2,6 +2,7 @@
 
 #include "catalog/catalog.h"
 #include "catalog/tool_palette.h"
+#include "catalog/unread_file.h"
 #include "module/catalog_item_impl.h"
 #include "module/item_index.h"
 
@@ -37,8 +38,8 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   OdTcGroupList* groups() const override { return m_groups; }
   OdTcPaletteLoaderList* loaders() const override { return m_loaders; }
   OdString fileRevision() const override { return m_fileRevision; }
-  bool isUnread() const override { return !m_readProblem.isEmpty(); }
-  OdString readProblem() const override { return m_readProblem; }
+  bool isUnread() const override { return m_unread.isAt(m_path); }
+  OdString readProblem() const override { return m_unread.problemAt(m_path); }
 
   /// Takes palettes and groups; false for anything else, and for what is here already.
   bool addItem(OdTcCatalogItem* item) override;
@@ -50,6 +51,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   bool isContainer(const OdString& name) const override;
   OdTcCatalog* catalog() const override { return const_cast<OdTcCatalogImpl*>(this); }
   void noteInCatalog(OdTcPersist* object) override { registerItem(object); }
+  void forgetInCatalog(OdTcPersist* object) override;
 
   OdString elementName() const override { return QStringLiteral("Catalog"); }
   void writeFields(OdTcFiler* filer) override;
@@ -65,11 +67,16 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
 
   void clearContent();
   void takeIn(OdTcToolPalette* palette);
-  void markReferenced();
-  void removePalette(qsizetype position);
+  void removePalette(const OdTcToolPalettePtr& palette);
+  bool removeGroup(const OdTcCatalogItemPtr& group);
+  /// Takes the palette out of the catalog, if it is there; false if not.
+  bool letGo(const OdTcToolPalettePtr& palette);
   void removePaletteFile(const OdTcToolPalette& palette) const;
   bool unregister(const OdTcPersist* item);
   void removeReferences(const OdString& id);
+  OdTcPaletteLoader* findLoader(const OdString& id) const {
+    return static_cast<OdTcPaletteLoader*>(m_loaders->find(id));
+  }
   OdString pathFor(const OdTcToolPalette& palette) const;
 
   // Declared first, to be released last: with it in place, nothing below dies inside something
@@ -81,7 +88,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   OdSmartPtr<OdTcGroupList> m_groups;
   OdString m_fileRevision;
   OdString m_path;
-  OdString m_readProblem;
+  UnreadFile m_unread;
   bool m_isDefault = false;
 };
 

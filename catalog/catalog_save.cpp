@@ -6,14 +6,18 @@
 #include "catalog/write_file.h"
 #include "frame/file_path.h"
 #include "persistence/path_operations.h"
-#include "persistence/unread_original.h"
+
+#include <utility>
 
 namespace tc {
 namespace {
 
-const OdString& modifiedTime() {
-  static const OdString name = QStringLiteral("modifiedUniversalDateTime");
-  return name;
+/// The fields of a loader that a save changes. The time comes last, since the others set it, too.
+constexpr std::array<const char16_t*, 3> kChangedFields = {u"ItemName", u"Description",
+                                                           u"modifiedUniversalDateTime"};
+
+OdString changedField(std::size_t position) {
+  return OdString::fromUtf16(kChangedFields[position]);
 }
 
 } // namespace
@@ -26,25 +30,22 @@ CatalogSave::CatalogSave(OdTcCatalogImpl& catalog, const OdString& path)
 CatalogSave::~CatalogSave() {
   if (m_isDone) return;
   m_catalog.m_path = m_formerPath;
-  for (const OdTcPaletteLoaderPtr& loader : m_added) {
-    m_catalog.m_loaders->remove(loader->id());
-    m_catalog.unregister(loader);
-  }
-  for (const Renamed& renamed : m_renamed) {
-    renamed.loader->properties()->setName(renamed.name);
-    renamed.loader->properties()->setDescription(renamed.description);
-    renamed.loader->setPropertyValue(modifiedTime(), renamed.modified);
-  }
+  for (const OdTcPaletteLoaderPtr& loader : m_added) m_catalog.m_loaders->remove(loader->id());
+  // The last change goes first: a loader that was changed twice ends as it was before the first.
+  for (auto renamed = m_renamed.rbegin(); renamed != m_renamed.rend(); ++renamed)
+    for (std::size_t i = 0; i < kChangedFields.size(); ++i)
+      renamed->loader->setPropertyValue(changedField(i), renamed->former[i]);
   for (const OdTcToolPalettePtr& palette : m_placed) palette->getDatabase()->setPath(OdString());
 }
 
 bool CatalogSave::run() {
-  if (m_catalog.isUnread() && odpath::samePlace(m_path, m_formerPath)) keepUnreadOriginal(m_path);
+  m_catalog.m_unread.keepBefore(m_path);
   m_catalog.m_path = m_path;
   for (const OdTcToolPalettePtr& palette : m_catalog.m_palettes)
     if (!palette->isDeleted()) updateLoader(*palette);
   m_isDone = writeFile(m_path, creationFor(m_path), *makeCatalogFiler(), &m_catalog,
                        &OdTcFiler::openCatalog);
+  if (m_isDone) m_catalog.m_unread.noteWritten(m_path);
   return m_isDone;
 }
 
@@ -57,8 +58,10 @@ void CatalogSave::updateLoader(OdTcToolPalette& palette) {
   const OdString name = palette.name();
   const OdString description = palette.description();
   if (loader->name() == name && loader->description() == description) return;
-  m_renamed.push_back({OdTcPaletteLoaderPtr(loader), loader->name(), loader->description(),
-                       loader->propertyValue(modifiedTime())});
+  Renamed renamed{OdTcPaletteLoaderPtr(loader), {}};
+  for (std::size_t i = 0; i < kChangedFields.size(); ++i)
+    renamed.former[i] = loader->propertyValue(changedField(i));
+  m_renamed.push_back(std::move(renamed));
   loader->properties()->setName(name);
   loader->properties()->setDescription(description);
 }

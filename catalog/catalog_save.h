@@ -3,6 +3,9 @@
 
 #include "catalog/catalog_impl.h"
 
+#include <array>
+#include <vector>
+
 namespace tc {
 
 /// Brings a catalog's loaders up to date for a save to `path`, and takes everything back at its end
@@ -18,11 +21,10 @@ class CatalogSave {
   bool run();
 
  private:
+  /// A loader, and what its fields were before they were changed.
   struct Renamed {
     OdTcPaletteLoaderPtr loader;
-    OdString name;
-    OdString description;
-    OdVariant modified;
+    std::array<OdVariant, 3> former;
   };
 
   void updateLoader(OdTcToolPalette& palette);

@@ -3,6 +3,8 @@
 
 #include "module/catalog_item.h"
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcPaletteUi;
@@ -21,13 +23,16 @@ class OdTcDatabase : public OdTcCatalogItem {
   virtual OdTcToolList* tools() const = 0;
   virtual OdTcPaletteUi* getUi() const = 0;
 
-  /// Reads the file of that path; false, without a message, if it cannot be read. The path is kept
-  /// in both cases.
+  /// Reads the file of that path. False if that fails: without a message if there is no file, else
+  /// with the path and the reason on the command line. The path is kept in all cases.
   virtual bool load(const OdString& path) = 0;
-  /// Makes `path` the database's own and writes it. A file failure raises OdFileError.
+  /// Makes `path` the database's own and writes it. False, with the path and the reason on the
+  /// command line, if that fails.
   virtual bool saveAs(const OdString& path) = 0;
+  /// Saves at the own path; false, without a message, if there is none.
   virtual bool save() = 0;
-  /// Writes a new file at `path` and goes back to the own path, unless the write fails.
+  /// Writes a new file at `path` and goes back to the own path, unless the write fails. The rest as
+  /// with saveAs.
   virtual bool saveCopy(const OdString& path) = 0;
   /// Keeps a reference to an object that found this database as its root.
   virtual void attachObject(OdTcPersist* object) = 0;
@@ -44,6 +49,9 @@ class OdTcDatabase : public OdTcCatalogItem {
   virtual bool isUnread() const = 0;
   /// Why, in words for the user; empty if all is well.
   virtual OdString readProblem() const = 0;
+  /// The path and the reason of the last save that failed, in words for the user; empty once one
+  /// went through.
+  virtual OdString saveProblem() const = 0;
 };
 using OdTcDatabasePtr = OdSmartPtr<OdTcDatabase>;
 

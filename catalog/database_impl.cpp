@@ -6,10 +6,12 @@
 #include "catalog/tool.h"
 #include "catalog/tool_list_impl.h"
 #include "catalog/write_file.h"
-#include "frame/file_path.h"
 #include "host/host_locator.h"
 #include "module/persist_cast.h"
+#include "module/string_table.h"
 #include "persistence/unread_original.h"
+
+#include <utility>
 
 namespace tc {
 namespace {
@@ -58,63 +60,57 @@ void OdTcDatabaseImpl::attachObject(OdTcPersist* object) {
   if (object && object != this) m_attached.emplace_back(object);
 }
 
-void OdTcDatabaseImpl::setPath(const OdString& path) {
-  // What could not be read stays behind at the old place.
-  if (!odpath::samePlace(path, m_path)) m_readProblem.clear();
-  m_path = path;
-}
-
 bool OdTcDatabaseImpl::load(const OdString& path) {
   m_path = path;
-  m_readProblem.clear();
+  m_unread.note(path, OdString());
   OdRxSystemServices* const services = odrxSystemServices();
   if (services->folderExists(path)) {
-    m_readProblem = host::translate(QStringLiteral("it is a folder"));
-    reportUnreadFile(path, m_readProblem);
+    m_unread.note(path, host::translate(QStringLiteral("it is a folder")));
+    reportUnreadFile(path, readProblem());
     return false;
   }
   if (!services->fileExists(path)) return false;
   const ReadOutcome outcome = readFile(path, *makePaletteFiler(), this, &OdTcFiler::openPalette);
-  m_readProblem = outcome.problem;
+  m_unread.note(path, outcome.problem);
   return outcome.isRead;
 }
 
+/// Writes the file at the path in force. Why that failed, if it did, is told on the command line
+/// and kept.
 bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation) {
-  return tc::writeFile(m_path, creation, *makePaletteFiler(), this, &OdTcFiler::openPalette);
-}
-
-void OdTcDatabaseImpl::keepOriginalAt(const OdString& path, const OdString& ownPath) const {
-  if (isUnread() && odpath::samePlace(path, ownPath)) keepUnreadOriginal(path);
+  try {
+    m_unread.keepBefore(m_path);
+    const bool isWritten =
+        tc::writeFile(m_path, creation, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+    m_saveProblem = isWritten ? OdString() : m_path;
+  } catch (const OdFileError& error) {
+    m_saveProblem = error.description();
+  }
+  if (m_saveProblem.isEmpty()) {
+    m_unread.noteWritten(m_path);
+    return true;
+  }
+  host::print(
+      formatText(host::translate(QStringLiteral("\nCannot save the palette: %s")), m_saveProblem));
+  return false;
 }
 
 bool OdTcDatabaseImpl::saveAs(const OdString& path) {
-  // Objects that a save leaves behind are as they were unless it went through.
-  struct FormerPath {
-    OdString& path;
-    OdString former;
-    bool isDone = false;
-    ~FormerPath() {
-      if (!isDone) path = former;
-    }
-  } guard{m_path, m_path};
-
-  keepOriginalAt(path, m_path);
-  m_path = path;
-  if (!writeFile(creationFor(path))) return false;
-  guard.isDone = true;
+  const OdString former = std::exchange(m_path, path);
+  if (!writeFile(creationFor(path))) {
+    m_path = former;
+    return false;
+  }
   m_attached = {};
-  m_readProblem.clear();
   return true;
 }
 
-bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(m_path); }
+bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(OdString(m_path)); }
 
 bool OdTcDatabaseImpl::saveCopy(const OdString& path) {
-  const OdString former = m_path;
-  keepOriginalAt(path, former);
   // Pictures are written beside the path that is in force. A failed copy leaves its path behind,
   // as it always did.
-  m_path = path;
+  const OdString former = std::exchange(m_path, path);
   if (!writeFile(Oda::kCreateAlways)) return false;
   m_path = former;
   return true;
@@ -138,10 +134,10 @@ bool OdTcDatabaseImpl::readField(const OdString& name, const OdVariant& value) {
     m_ui = persistCast<OdTcPaletteUi>(value);
   else if (name == QLatin1String("PaletteStyle"))
     m_paletteStyle = value.toInt32(); // foreign files have it; nothing writes it
-  else if (name == QLatin1String("CAcTcUiToolPalette"))
-    return m_ui->readField(name, value); // a foreign palette has it directly below its root
   else
-    return false;
+    // What stands beside the content of a foreign palette comes without the element around it: its
+    // display settings arrive here one by one.
+    return m_ui->readField(name, value);
   return true;
 }
 

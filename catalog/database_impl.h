@@ -3,9 +3,11 @@
 #include "catalog/database.h"
 #include "catalog/palette_ui.h"
 #include "catalog/tool_list.h"
+#include "catalog/unread_file.h"
 #include "frame/system_services.h"
 #include "module/catalog_item_impl.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace tc {
@@ -23,6 +25,7 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   /// A file that is there but cannot be read, or a folder in its place, is reported on the command
   /// line.
   bool load(const OdString& path) override;
+  /// A save that fails leaves the path as it was.
   bool saveAs(const OdString& path) override;
   bool save() override;
   bool saveCopy(const OdString& path) override;
@@ -30,13 +33,14 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   int attachedCount() const override { return static_cast<int>(m_attached.size()); }
 
   OdString getPath() const override { return m_path; }
-  void setPath(const OdString& path) override;
+  void setPath(const OdString& path) override { m_path = path; }
   OdString fileRevision() const override { return m_fileRevision; }
   bool isExporting() const override { return m_isExporting; }
   void setExporting(bool exporting) override { m_isExporting = exporting; }
   std::int32_t paletteStyle() const override { return m_paletteStyle; }
-  bool isUnread() const override { return !m_readProblem.isEmpty(); }
-  OdString readProblem() const override { return m_readProblem; }
+  bool isUnread() const override { return m_unread.isAt(m_path); }
+  OdString readProblem() const override { return m_unread.problemAt(m_path); }
+  OdString saveProblem() const override { return m_saveProblem; }
   /// True if the id was read from the file.
   bool hasStoredId() const { return m_hasStoredId; }
 
@@ -44,6 +48,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   bool isModified() const override;
   OdTcDatabase* database() const override { return const_cast<OdTcDatabaseImpl*>(this); }
   void noteInDatabase(OdTcPersist* object) override { attachObject(object); }
+  /// Nothing is there to be forgotten: the catalog takes no note of what stands in a palette.
+  void forgetInCatalog(OdTcPersist*) override {}
 
   OdString elementName() const override { return QStringLiteral("Palette"); }
   void writeFields(OdTcFiler* filer) override;
@@ -53,7 +59,6 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
 
  private:
   bool writeFile(Oda::FileCreationDisposition creation);
-  void keepOriginalAt(const OdString& path, const OdString& ownPath) const;
 
   OdString m_path;
   OdString m_fileRevision;
@@ -61,7 +66,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   std::int32_t m_paletteStyle = 0;
   std::vector<OdTcPersistPtr> m_attached;
   OdSmartPtr<OdTcPaletteUi> m_ui;
-  OdString m_readProblem;
+  UnreadFile m_unread;
+  OdString m_saveProblem;
   bool m_isExporting = false;
   bool m_hasStoredId = false;
 };

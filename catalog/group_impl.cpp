@@ -38,11 +38,9 @@ bool OdTcGroupImpl::addItem(OdTcCatalogItem* item) {
     m_contents->add(reference);
     return true;
   }
-  const auto* const reference = odrxCast<OdTcPaletteSoftRef>(item);
-  if (!reference && !takesGroup(odrxCast<OdTcGroup>(item))) return false;
+  if (!odrxCast<OdTcPaletteSoftRef>(item) && !takesGroup(odrxCast<OdTcGroup>(item))) return false;
   m_contents->add(item);
-  if (OdTcToolPalette* const palette = reference ? reference->resolve() : nullptr)
-    palette->setReferenced(true);
+  markReferenced(catalog(), idsReferencedBy(item));
   notifyAdded(item);
   return true;
 }
@@ -51,7 +49,8 @@ bool OdTcGroupImpl::removeItem(const OdString& id) {
   const OdTcCatalogItemPtr item = m_contents->find(id);
   if (!item) return false;
   notifyRemoved(item);
-  if (!m_contents->remove(id)) return false;
+  // A reactor may have taken it away already, and another item may have the same id.
+  if (m_contents->find(id) != item.get() || !m_contents->remove(id)) return false;
   orderListObject()->removeFirst(id);
   updateReferenced(catalog(), item);
   return true;

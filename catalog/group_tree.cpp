@@ -58,13 +58,21 @@ QSet<OdString> referencedIds(OdTcList* list) {
   return ids;
 }
 
-void updateReferenced(OdTcCatalog* catalog, OdTcCatalogItem* removed) {
+QSet<OdString> idsReferencedBy(const OdTcCatalogItem* item) {
+  if (const auto* group = odrxCast<OdTcGroup>(item)) return referencedIds(group->contents());
+  if (item->isKindOf(OdTcPaletteSoftRef::desc())) return {item->id()};
+  return {};
+}
+
+void markReferenced(OdTcCatalog* catalog, const QSet<OdString>& ids) {
   if (!catalog) return;
-  QSet<OdString> lost;
-  if (const auto* group = odrxCast<OdTcGroup>(removed))
-    lost = referencedIds(group->contents());
-  else if (removed->isKindOf(OdTcPaletteSoftRef::desc()))
-    lost.insert(removed->id());
+  for (const OdString& id : ids)
+    if (OdTcToolPalette* const palette = catalog->findPalette(id)) palette->setReferenced(true);
+}
+
+void updateReferenced(OdTcCatalog* catalog, const OdTcCatalogItem* removed) {
+  if (!catalog) return;
+  QSet<OdString> lost = idsReferencedBy(removed);
   if (lost.isEmpty()) return;
   lost -= referencedIds(catalog->groups());
   for (const OdString& id : lost)

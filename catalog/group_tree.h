@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalog/group.h"
+#include "persistence/document_check.h"
 
 #include <QSet>
 
@@ -32,8 +33,13 @@ OdTcCatalogItem* findDepthFirst(OdTcList* list, Predicate isWanted) {
   return nullptr;
 }
 
-/// Groups nested deeper than this would make a file that is refused when it is read again.
-inline constexpr int kMaxGroupDepth = 120;
+/// Groups nested deeper than this would make a file that is refused when it is read again. In a
+/// file, `Catalog` and `Groups` stand above the groups, each group is two levels, its own and that
+/// of its `Contents`, and the innermost one needs room for its properties, images and the like.
+inline constexpr int kMaxGroupDepth = [] {
+  constexpr int kLevelsAbove = 2, kLevelsOfAGroup = 2, kLevelsBelow = 14;
+  return (kMaxElementDepth - kLevelsAbove - kLevelsBelow) / kLevelsOfAGroup;
+}();
 /// How many groups stand above the group, itself included.
 int groupDepth(const OdTcGroup* group);
 /// How many levels of groups the group makes, itself included.
@@ -42,8 +48,13 @@ int groupHeight(const OdTcGroup* group);
 /// The ids to which soft references in the list and in the groups in it refer.
 QSet<OdString> referencedIds(OdTcList* list);
 
+/// The ids to which `item` refers: that of a soft reference, or all those in a group.
+QSet<OdString> idsReferencedBy(const OdTcCatalogItem* item);
+
+/// Sets the referenced flags of the palettes of `catalog` (may be null) with these ids.
+void markReferenced(OdTcCatalog* catalog, const QSet<OdString>& ids);
 /// Brings the referenced flags of palettes in line after `removed`, a soft reference or a group,
 /// has left the groups of `catalog` (may be null).
-void updateReferenced(OdTcCatalog* catalog, OdTcCatalogItem* removed);
+void updateReferenced(OdTcCatalog* catalog, const OdTcCatalogItem* removed);
 
 } // namespace tc

@@ -8,6 +8,7 @@
 #include "module/properties.h"
 #include "tools/action_agent.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace tc {
@@ -63,7 +64,7 @@ void convertMultitool(OdTcToolImpl& tool) {
   if (!tool.getActionAgent()) {
     const OdSmartPtr<OdTcToolCommand> agent = OdTcToolCommand::createObject();
     agent->setCommandString(command->macro);
-    tool.setActionAgent(agent);
+    tool.setConvertedAgent(agent);
   }
   addButtonImages(tool, command->commandName);
   host::print(formatText(stringText(StringId::kMultitoolConverted), tool.name()));

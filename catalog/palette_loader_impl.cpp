@@ -12,7 +12,7 @@ namespace tc {
 OdString resolvedHref(const OdString& href, const OdString& baseFolder) {
   OdString path = odpath::fromPlatform(expandedStoredPath(href));
   if (path.isEmpty()) return {};
-  if (isRelativePath(path)) return combinePath(path, baseFolder + u'\\');
+  if (isRelativePath(path) && !baseFolder.isEmpty()) return combinePath(path, baseFolder + u'\\');
   normalizePath(path);
   return path;
 }

@@ -39,7 +39,7 @@ class OdTcPaletteLoaderListImpl
 };
 
 /// The file that a loader's `href` names for a catalog in `baseFolder`: absolute or macro paths as
-/// they are, all others below that folder.
+/// they are, all others below that folder. Without a base a relative path stays one.
 OdString resolvedHref(const OdString& href, const OdString& baseFolder);
 
 } // namespace tc

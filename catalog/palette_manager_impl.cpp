@@ -7,6 +7,8 @@
 #include "module/string_table.h"
 #include "persistence/path_operations.h"
 
+#include <algorithm>
+
 namespace tc {
 namespace {
 
@@ -20,6 +22,11 @@ bool isDefaultFile(const OdString& path) { return odpath::samePlace(path, defaul
 void reportMissing(const OdString& path) {
   host::print(
       formatText(host::translate(QStringLiteral("\nError: cannot find catalog file: %s")), path));
+}
+
+/// `what` names the path and, if it is known, the reason.
+void reportUnsaved(const OdString& what) {
+  host::print(formatText(host::translate(QStringLiteral("\nCannot save the catalog: %s")), what));
 }
 
 /// Walks the map by its keys, so that a catalog may go while it is walked.
@@ -68,9 +75,11 @@ OdTcPaletteManagerImpl::~OdTcPaletteManagerImpl() {
 
 template <class Notify>
 void OdTcPaletteManagerImpl::notify(Notify call) const {
-  // A reactor may take itself off the list while it is told.
+  // A reactor may take itself, or others, off the list while it is told.
   const std::vector<OdTcPaletteManagerReactor*> reactors = m_reactors;
-  for (OdTcPaletteManagerReactor* reactor : reactors) call(*reactor);
+  for (OdTcPaletteManagerReactor* reactor : reactors)
+    if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end())
+      call(*reactor);
 }
 
 void OdTcPaletteManagerImpl::addReactor(OdTcPaletteManagerReactor* reactor) {
@@ -94,14 +103,21 @@ bool OdTcPaletteManagerImpl::openCatalog(const OdString& path) {
   if (entry && m_active == entry.get()) m_active = nullptr;
   entry = catalog;
   notify([&](OdTcPaletteManagerReactor& r) { r.catalogAdded(catalog); });
-  if (catalog->isDefault()) m_active = catalog;
+  // A reactor may have removed the catalog again.
+  if (catalog->isDefault() && findCatalog(key) == catalog.get()) m_active = catalog;
   return true;
+}
+
+OdTcCatalog* OdTcPaletteManagerImpl::findCatalog(const OdString& key) const {
+  const auto at = m_catalogs.find(key);
+  return at == m_catalogs.end() ? nullptr : at->second.get();
 }
 
 bool OdTcPaletteManagerImpl::addCatalog(const OdString& path) {
   if (!openCatalog(path)) return false;
-  m_catalogs[catalogKey(path)]->setId(odrxSystemServices()->createGuid());
-  return true;
+  OdTcCatalog* const catalog = findCatalog(catalogKey(path));
+  if (catalog) catalog->setId(odrxSystemServices()->createGuid());
+  return catalog != nullptr;
 }
 
 bool OdTcPaletteManagerImpl::removeCatalog(const OdString& path) {
@@ -157,17 +173,10 @@ void OdTcPaletteManagerImpl::reloadCatalogs() {
 void OdTcPaletteManagerImpl::saveAll() {
   const CatalogMap catalogs = m_catalogs;
   for (const auto& [path, catalog] : catalogs) {
-    if (catalog->isUnread()) {
-      host::print(formatText(host::translate(QStringLiteral(
-                                 "\nThe catalog file %s could not be read, and is left as it is.")),
-                             path));
-      continue;
-    }
     try {
-      catalog->save(path);
+      if (!catalog->save(path)) reportUnsaved(path);
     } catch (const OdFileError& error) {
-      host::print(formatText(host::translate(QStringLiteral("\nCannot save the catalog: %s")),
-                             error.description()));
+      reportUnsaved(error.description());
     }
   }
 }

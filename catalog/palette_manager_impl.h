@@ -6,6 +6,7 @@
 
 #include "host/application.h"
 
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -30,8 +31,8 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   bool addCatalog(const OdString& path) override;
   bool removeCatalog(const OdString& path) override;
   OdSmartPtr<CatalogEnum> catalogsEnum() const override;
-  /// Catalogs whose file could not be read are passed over, since nobody asked for just them to be
-  /// saved. A failure is told on the command line, and the others are saved all the same.
+  /// A failure is told on the command line, and the other catalogs are saved all the same. A file
+  /// that could not be read is kept elsewhere before it is saved over.
   void saveAll() override;
   std::uint32_t viewSetting() const override { return m_viewSetting; }
   void setViewSetting(std::uint32_t setting) override { m_viewSetting = setting; }
@@ -45,12 +46,15 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   bool isImageExtension(const OdString& extension) const override;
   bool isDrawingExtension(const OdString& extension) const override;
 
-  /// Says whether openConfiguration is to open the node, and the node that it opened.
-  void setOpenFlag(bool open) { m_openFlag = open; }
+  /// The node that openConfiguration has opened, or null.
   IProfile* configuration() const { return m_configuration.get(); }
-  bool flag() const { return m_flag; }
+
+ protected:
+  /// Whether openConfiguration is to open the node. A manager of this class leaves it alone.
+  bool m_openFlag = false;
 
  private:
+  OdTcCatalog* findCatalog(const OdString& key) const;
   template <class Notify>
   void notify(Notify call) const;
 
@@ -60,7 +64,6 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   std::vector<OdTcPaletteManagerReactor*> m_reactors;
   bool m_flag = false;
   KVPtr<IProfile> m_configuration;
-  bool m_openFlag = false;
   QStringList m_imageExtensions;
   QStringList m_drawingExtensions;
   KVPtr<TcCfgChangeReactor> m_watcher;

@@ -3,6 +3,8 @@
 
 #include "module/catalog_item.h"
 
+#include <cstdint>
+
 class IHostDocument;
 
 namespace tc {
@@ -25,9 +27,6 @@ class OdTcTool : public OdTcCatalogItem {
   /// Carries the tool out in a document, unless the guard refuses. Returns at once; the host's
   /// command goes on in its own time and the guard finishes the tool when it ends.
   virtual void execute(IHostDocument* document) = 0;
-  /// Ends the run: general properties and the agent's host variables go back. Nothing happens
-  /// without a run.
-  virtual void finish() = 0;
   /// Hands the object to the agent; false if either is missing.
   virtual bool applyToAgent(OdRxObject* object) = 0;
   /// Lets the agent make itself anew from this tool; false without an agent.
@@ -38,7 +37,11 @@ class OdTcTool : public OdTcCatalogItem {
   virtual OdTcToolActionAgent* getActionAgent() const = 0;
   virtual std::uint32_t getToolType() const = 0;
   virtual OdTcPropertyBag* getGeneralProperties() const = 0;
+
   virtual OdTcToolData* getData() const = 0;
+  /// Ends the run: general properties and the agent's host variables go back. Nothing happens
+  /// without a run.
+  virtual void finish() = 0;
   /// The document in which the tool runs, or null.
   virtual IHostDocument* runningDocument() const = 0;
 };

@@ -50,6 +50,18 @@ void OdTcToolImpl::writeFields(OdTcFiler* filer) {
   filer->writeObject(getData());
 }
 
+void OdTcToolImpl::setConvertedAgent(OdTcToolActionAgent* agent) {
+  setActionAgent(agent);
+  m_hasConvertedAgent = true;
+}
+
+void OdTcToolImpl::readData(const OdTcToolDataPtr& data) {
+  if (m_hasConvertedAgent && !data->actionAgent()) data->setActionAgent(getActionAgent());
+  forgetOwner(m_data, this);
+  m_data = data;
+  m_data->setOwner(this);
+}
+
 bool OdTcToolImpl::readOwnField(const OdString& name, const OdVariant& value) {
   if (name == QLatin1String("ToolType"))
     m_toolType = static_cast<std::uint32_t>(odParseUInt(value.toString()));
@@ -60,7 +72,7 @@ bool OdTcToolImpl::readOwnField(const OdString& name, const OdVariant& value) {
   else if (name == QLatin1String("StockToolRef"))
     value.objectAs<OdTcStockToolRef>();
   else if (name == QLatin1String("Data"))
-    m_data = value.objectAs<OdTcToolData>();
+    readData(value.objectAs<OdTcToolData>());
   else
     return false;
   return true;

@@ -5,6 +5,9 @@
 #include "module/catalog_item_impl.h"
 #include "tools/tool_data.h"
 
+#include <cstdint>
+#include <memory>
+
 namespace tc {
 
 class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
@@ -30,6 +33,9 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   OdTcToolCustomData* customData() const { return m_foreign ? m_foreign->customData : nullptr; }
   OdTcToolFlyout* flyout() const { return m_foreign ? m_foreign->flyout : nullptr; }
   void dropForeignRecords() { m_foreign.reset(); }
+  /// Gives a converted tool its agent, which goes into a record of data that is read later unless
+  /// that one has an agent of its own.
+  void setConvertedAgent(OdTcToolActionAgent* agent);
 
   OdString elementName() const override { return QStringLiteral("Tool"); }
   void writeFields(OdTcFiler* filer) override;
@@ -47,6 +53,7 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   };
 
   ForeignRecords& foreign();
+  void readData(const OdTcToolDataPtr& data);
   bool readOwnField(const OdString& name, const OdVariant& value);
   bool applyGeneralProperties(IHostDocument* document);
   void leaveGuard();
@@ -56,6 +63,7 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   IHostDocument* m_document = nullptr;
   std::uint32_t m_toolType = kNoType;
   bool m_isRunning = false;
+  bool m_hasConvertedAgent = false;
 };
 
 } // namespace tc

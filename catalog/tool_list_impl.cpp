@@ -1,12 +1,36 @@
 #include "catalog/tool_list_impl.h"
 
 #include "catalog/owner_link.h"
+#include "frame/error.h"
+#include "host/host_locator.h"
 #include "images/image_list.h"
+#include "tools/tool_guard.h"
 
 namespace tc {
 
+namespace {
+
+/// Ends the tool's run before the tool goes: the end of the host's command would not find it any
+/// more, and nobody else would put the drawing's settings back.
+void endRun(OdTcTool& tool) {
+  if (!tool.runningDocument()) return;
+  tool.finish();
+  if (IToolGuard* const guard = IToolGuard::instance()) guard->forget(&tool);
+}
+
+} // namespace
+
 OdTcToolListImpl::~OdTcToolListImpl() {
-  for (const OdTcToolPtr& tool : itemVector()) forgetOwner(tool, this);
+  for (const OdTcToolPtr& tool : itemVector()) {
+    forgetOwner(tool, this);
+    // Whoever else holds the tool sees to its run.
+    if (tool->numRefs() > 1) continue;
+    try {
+      endRun(*tool);
+    } catch (const OdError& error) {
+      host::print(u'\n' + error.description());
+    }
+  }
 }
 
 void OdTcToolListImpl::add(OdTcCatalogItem* item) {
@@ -24,14 +48,15 @@ void OdTcToolListImpl::dropImages(OdTcTool& tool) const {
 bool OdTcToolListImpl::remove(const OdString& id) {
   const OdTcToolPtr tool(find(id));
   if (!tool) return false;
+  endRun(*tool);
   dropImages(*tool);
-  OdTcListImplBase::remove(id);
-  forgetOwner(tool, this);
-  return true;
+  return OdTcListImplBase::remove(id);
 }
 
 void OdTcToolListImpl::removeWhere(const std::function<bool(const OdTcTool&)>& isUnwanted) {
   const Items former = itemVector();
+  for (const OdTcToolPtr& tool : former)
+    if (isUnwanted(*tool)) endRun(*tool);
   clearItems();
   for (const OdTcToolPtr& tool : former) {
     if (!isUnwanted(*tool)) {
@@ -39,7 +64,7 @@ void OdTcToolListImpl::removeWhere(const std::function<bool(const OdTcTool&)>& i
       continue;
     }
     dropImages(*tool);
-    forgetOwner(tool, this);
+    disown(tool);
   }
 }
 

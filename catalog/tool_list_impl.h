@@ -4,6 +4,8 @@
 #include "catalog/tool_list.h"
 #include "module/list_impl.h"
 
+#include <functional>
+
 namespace tc {
 
 class OdTcToolListImpl : public OdTcListImplBase<OdTcToolList, OdTcTool> {
@@ -13,7 +15,8 @@ class OdTcToolListImpl : public OdTcListImplBase<OdTcToolList, OdTcTool> {
   /// The tool's owner is the list. The catalog takes no note of tools: a tool lives as long as its
   /// palette has it.
   void add(OdTcCatalogItem* item) override;
-  /// Also deletes the tool's pictures, unless the tool is marked as sharing them.
+  /// Ends the tool's run, if it runs, and deletes its pictures, unless the tool is marked as
+  /// sharing them.
   bool remove(const OdString& id) override;
   void removeWhere(const std::function<bool(const OdTcTool&)>& isUnwanted) override;
 

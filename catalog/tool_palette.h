@@ -6,6 +6,8 @@
 
 #include <QMap>
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcDatabase;
@@ -34,8 +36,7 @@ class OdTcToolPalette : public OdTcCatalogItem {
   virtual void setExporting(bool exporting) = 0;
   /// True if a group holds a reference to this palette.
   virtual bool isReferenced() const = 0;
-  /// Tells the palette's reactors that it is about to leave its catalog.
-  virtual void announceRemoval() = 0;
+  /// Loading and saving are the database's.
   virtual bool load(const OdString& path) = 0;
   virtual bool saveAs(const OdString& path) = 0;
   virtual bool save() = 0;
@@ -62,6 +63,9 @@ class OdTcToolPalette : public OdTcCatalogItem {
   /// After a tool is added, the file is saved at once unless that is suspended.
   virtual void suspendAutoSave() = 0;
   virtual void resumeAutoSave() = 0;
+
+  /// Tells the palette's reactors that it is about to leave its catalog.
+  virtual void announceRemoval() = 0;
 };
 using OdTcToolPalettePtr = OdSmartPtr<OdTcToolPalette>;
 

@@ -40,10 +40,6 @@ bool hasUnsupportedAgent(const OdTcTool& tool) {
   return agent && !agent->isSupported();
 }
 
-void printAbout(const char16_t* text, const OdString& path) {
-  host::print(formatText(host::translate(OdString::fromUtf16(text)), path));
-}
-
 } // namespace
 
 OdTcToolPaletteImpl::OdTcToolPaletteImpl()
@@ -103,19 +99,17 @@ bool OdTcToolPaletteImpl::addItem(OdTcCatalogItem* item) {
   return true;
 }
 
-/// Nobody waits for the outcome of a save that was not asked for, so the user is told of a failure.
+/// Nobody asked for this save, so it writes over nothing that could not be read.
 void OdTcToolPaletteImpl::saveUnasked() {
   if (getPath().isEmpty()) return;
-  if (m_database->isUnread()) {
-    printAbout(u"\nThe palette file %s could not be read, and is left as it is until you save it.",
-               getPath());
+  if (!m_database->isUnread()) {
+    save();
     return;
   }
-  try {
-    if (!save()) printAbout(u"\nCannot save the palette: %s", getPath());
-  } catch (const OdFileError& error) {
-    printAbout(u"\nCannot save the palette: %s", error.description());
-  }
+  host::print(formatText(
+      host::translate(QStringLiteral(
+          "\nThe palette file %s could not be read, and is left as it is until you save it.")),
+      getPath()));
 }
 
 bool OdTcToolPaletteImpl::removeItem(const OdString& id) {

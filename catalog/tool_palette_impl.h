@@ -4,6 +4,8 @@
 #include "catalog/tool_palette.h"
 #include "module/catalog_item_impl.h"
 
+#include <cstdint>
+
 namespace tc {
 
 /// The handle of a palette. Id, name and all else of an item are those of the database, so that the
@@ -26,7 +28,6 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   void setPreviewStyle(std::int32_t style) override;
   void setExporting(bool exporting) override { m_database->setExporting(exporting); }
   bool isReferenced() const override { return m_isReferenced; }
-  void announceRemoval() override { notifyRemoved(this); }
   bool load(const OdString& path) override { return m_database->load(path); }
   bool saveAs(const OdString& path) override { return m_database->saveAs(path); }
   bool save() override { return m_database->save(); }
@@ -48,6 +49,7 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   void renewIds() override;
   void suspendAutoSave() override { m_autoSave = false; }
   void resumeAutoSave() override { m_autoSave = true; }
+  void announceRemoval() override { notifyRemoved(this); }
 
   /// Takes tools; false for anything else. If the file cannot be written afterwards, that is told
   /// on the command line and the tool stays.

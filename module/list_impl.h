@@ -1,11 +1,14 @@
 // The common implementation of item lists.
 #pragma once
 
+#include "frame/system_services.h"
 #include "module/item_index.h"
 #include "module/list.h"
 #include "module/persist_impl.h"
 #include "persistence/filer.h"
 
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace tc {
@@ -31,6 +34,7 @@ class OdTcListImplBase : public OdTcPersistImpl<T> {
     const OdSmartPtr<Item> removed = m_items[static_cast<std::size_t>(position)];
     m_items.erase(m_items.begin() + position);
     m_index.drop();
+    disown(removed);
     return true;
   }
   int count() const override { return static_cast<int>(m_items.size()); }
@@ -64,10 +68,11 @@ class OdTcListImplBase : public OdTcPersistImpl<T> {
   void writeFields(OdTcFiler* filer) override {
     for (const auto& item : m_items) this->writeItem(filer, item.get());
   }
-  /// Takes objects of the accepted elements; one of a class other than Item raises
-  /// OdError_NotThatKindOfClass.
+  /// Takes objects of the accepted elements. An object of another element or class raises
+  /// OdError_NotThatKindOfClass; what is no object is none of the list's.
   bool readField(const OdString& name, const OdVariant& value) override {
-    if (!value.isObject() || !acceptsElement(name)) return false;
+    if (!value.isObject()) return false;
+    if (!acceptsElement(name)) throw OdError_NotThatKindOfClass(name, Item::desc()->name());
     const OdSmartPtr<Item> item = value.objectAs<Item>();
     // The filer has registered the item under this list already.
     item->setOwnerQuiet(ownerOfItems());
@@ -84,6 +89,15 @@ class OdTcListImplBase : public OdTcPersistImpl<T> {
   const Items& itemVector() const { return m_items; }
   /// Appends without a change of owner, for copies of lists.
   void appendShared(Item* item) { m_items.emplace_back(item); }
+  /// Takes the list's owner off an item that has left the list, and lets the catalog forget it: it
+  /// may live on, or go into another list.
+  void disown(OdTcCatalogItem* item) {
+    OdTcPersist* const former = ownerOfItems();
+    const bool isStillHere = std::find(m_items.begin(), m_items.end(), item) != m_items.end();
+    if (!former || item->owner() != former || isStillHere) return;
+    this->forgetInCatalog(item);
+    item->setOwnerQuiet(nullptr);
+  }
   /// Empties the list.
   void clearItems() {
     const Items removed = std::exchange(m_items, {});

@@ -53,6 +53,9 @@ class OdTcPersist : public OdRxObject {
   virtual void noteInDatabase(OdTcPersist* object) = 0;
   /// The same, for the catalog.
   virtual void noteInCatalog(OdTcPersist* object) = 0;
+  /// Passes `object` up the owner chain to the catalog, which keeps no note of it any more, nor of
+  /// what stands below it.
+  virtual void forgetInCatalog(OdTcPersist* object) = 0;
 
   /// Writes the fields in their fixed order; a derived class writes those of its base first.
   virtual void writeFields(OdTcFiler* filer) = 0;

@@ -51,6 +51,9 @@ class OdTcPersistImpl : public T {
   void noteInCatalog(OdTcPersist* object) override {
     if (hasRoot()) m_owner->noteInCatalog(object);
   }
+  void forgetInCatalog(OdTcPersist* object) override {
+    if (hasRoot()) m_owner->forgetInCatalog(object);
+  }
 
   void writeFields(OdTcFiler*) override {}
   bool readField(const OdString&, const OdVariant&) override { return false; }

@@ -10,13 +10,19 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace tpal {
 namespace {
+
+/// What became of a file.
+enum class Fate { kWritten, kLeftAlone, kNotWritten };
+constexpr ExitCode kExitCodes[] = {kOk, kFindings, kFailed};
 
 /// One line of the report.
 struct Outcome {
   OdString file;
-  bool isWritten;
+  Fate fate;
   OdString text;
 };
 
@@ -33,8 +39,8 @@ class Resaver {
     for (tc::OdTcToolPalette* palette : palettesOf(m_catalog)) resave(*palette);
     const OdString file = m_targetFolder + u'\\' + OdString::fromUtf16(tc::kCatalogFileName);
     odrxSystemServices()->createFolder(m_targetFolder);
-    m_catalog.save(file);
-    m_outcomes.push_back({file, true, QStringLiteral("written")});
+    const bool isWritten = m_catalog.save(file);
+    noteSave(file, isWritten, OdString());
     return std::move(m_outcomes);
   }
 
@@ -42,27 +48,36 @@ class Resaver {
   void resave(tc::OdTcToolPalette& palette) {
     const OdString file = palette.getPath();
     if (palette.getDatabase()->isUnread()) {
-      m_outcomes.push_back({file, false,
+      m_outcomes.push_back({file, Fate::kLeftAlone,
                             QStringLiteral("left alone, it cannot be read: %1")
                                 .arg(palette.getDatabase()->readProblem())});
       return;
     }
     if (m_inPlace) {
-      palette.save();
-      m_outcomes.push_back({file, true, QStringLiteral("written")});
+      const bool isWritten = palette.save();
+      noteSave(file, isWritten, palette.getDatabase()->saveProblem());
       return;
     }
     OdString relative;
     if (!file.startsWith(m_sourceFolder + u'\\') ||
         !tc::makeRelativePath(file, m_sourceFolder, relative)) {
-      m_outcomes.push_back({file, false, QStringLiteral("left alone, it lies elsewhere")});
+      m_outcomes.push_back(
+          {file, Fate::kLeftAlone, QStringLiteral("left alone, it lies elsewhere")});
       return;
     }
     const OdString target = m_targetFolder + u'\\' + relative;
     odrxSystemServices()->createFolder(odpath::folderOf(target));
     copyPictures(odpath::folderOf(file), odpath::folderOf(target));
-    palette.saveCopy(target);
-    m_outcomes.push_back({target, true, QStringLiteral("written")});
+    const bool isWritten = palette.saveCopy(target);
+    noteSave(target, isWritten, palette.getDatabase()->saveProblem());
+  }
+
+  void noteSave(const OdString& file, bool isWritten, const OdString& problem) {
+    if (isWritten)
+      m_outcomes.push_back({file, Fate::kWritten, QStringLiteral("written")});
+    else
+      m_outcomes.push_back(
+          {file, Fate::kNotWritten, QStringLiteral("not written: %1").arg(problem)});
   }
 
   /// The pictures go first, so that writing the palette finds them in place.
@@ -89,7 +104,7 @@ void report(const std::vector<Outcome>& outcomes, bool json, QTextStream& out) {
   for (const Outcome& o : outcomes) {
     if (json)
       rows.append(QJsonObject{{QStringLiteral("file"), o.file},
-                              {QStringLiteral("written"), o.isWritten},
+                              {QStringLiteral("written"), o.fate == Fate::kWritten},
                               {QStringLiteral("text"), o.text}});
     else
       out << o.file << ": " << o.text << "\n";
@@ -107,9 +122,9 @@ ExitCode resaveCommand(const Arguments& arguments, Console& console) {
   try {
     const std::vector<Outcome> outcomes = Resaver(loaded, arguments.to).run();
     report(outcomes, arguments.json, console.out);
-    for (const Outcome& o : outcomes)
-      if (!o.isWritten) return kFindings;
-    return kOk;
+    Fate worst = Fate::kWritten;
+    for (const Outcome& o : outcomes) worst = std::max(worst, o.fate);
+    return kExitCodes[static_cast<std::size_t>(worst)];
   } catch (const OdFileError& error) {
     console.err << "tpal: " << error.description() << "\n";
     return kFailed;

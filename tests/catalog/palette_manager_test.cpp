@@ -209,6 +209,15 @@ TEST_F(PaletteManagerTest, ReloadingTellsOfMissingFilesButNotOfTheDefaultOne) {
   EXPECT_TRUE(loaded().isEmpty());
 }
 
+TEST_F(PaletteManagerTest, ReloadingLeavesTheDefaultCatalogOutEvenIfItsFileIsThere) {
+  writeTwoPalettes(u"user\\ToolPalette"_s);
+  writeTwoPalettes(u"a"_s);
+  configure(defaultFolder() + u';' + stored(u"a"_s));
+  manager->reloadCatalogs();
+  EXPECT_EQ(loaded(), QStringList(u"a"_s));
+  EXPECT_EQ(manager->activeCatalog(), nullptr);
+}
+
 TEST_F(PaletteManagerTest, RemovingTheLastCatalogByReloadingClearsTheActiveOne) {
   configure(defaultFolder());
   manager->loadCatalogs();
@@ -261,11 +270,44 @@ TEST_F(PaletteManagerTest, SavesEveryCatalogWhateverHappensToOne) {
     services.deniedFolder = stored(u"b"_s);
     manager->saveAll();
     EXPECT_EQ(services.written,
-              QStringList({stored(u"a\\DrfTcCatalog.dtc"_s), stored(u"c\\DrfTcCatalog.dtc"_s)}));
+              QStringList({stored(u"a\\DrfTcCatalog.dtc"_s), stored(u"bad\\DrfTcCatalog.dtc"_s),
+                           stored(u"c\\DrfTcCatalog.dtc"_s)}));
   }
-  EXPECT_TRUE(wasTold({stored(u"b\\DrfTcCatalog.dtc"_s), u"Permission denied"_s}));
-  EXPECT_TRUE(wasTold({stored(u"bad\\DrfTcCatalog.dtc"_s), u"left as it is"_s}));
-  EXPECT_EQ(readFile(u"bad\\DrfTcCatalog.dtc"_s), QByteArray("<Catalog><cut"));
+  EXPECT_TRUE(wasTold(
+      {u"Cannot save the catalog"_s, stored(u"b\\DrfTcCatalog.dtc"_s), u"Permission denied"_s}));
+  EXPECT_TRUE(wasTold({stored(u"bad\\DrfTcCatalog.dtc"_s), u"is kept"_s}));
+  EXPECT_EQ(readFile(u"user\\ToolPalette\\Unread\\DrfTcCatalog.dtc"_s),
+            QByteArray("<Catalog><cut"));
+}
+
+TEST_F(PaletteManagerTest, AReactorThatAnotherOneTookOffTheListIsNotTold) {
+  struct Remover : OdTcPaletteManagerReactor {
+    OdTcPaletteManager* manager = nullptr;
+    OdTcPaletteManagerReactor* victim = nullptr;
+    void catalogAdded(OdTcCatalog*) override { manager->removeReactor(victim); }
+  } remover;
+  ManagerLog victim;
+  remover.manager = manager;
+  remover.victim = &victim;
+  manager->addReactor(&remover);
+  manager->addReactor(&victim);
+  manager->openCatalog(writeTwoPalettes(u"a"_s));
+  EXPECT_TRUE(victim.log.isEmpty());
+  manager->removeReactor(&remover);
+}
+
+TEST_F(PaletteManagerTest, ACatalogThatAReactorRemovesAtOnceIsGone) {
+  struct Remover : OdTcPaletteManagerReactor {
+    OdTcPaletteManager* manager = nullptr;
+    void catalogAdded(OdTcCatalog* catalog) override { manager->removeCatalog(catalog->path()); }
+  } remover;
+  remover.manager = manager;
+  manager->addReactor(&remover);
+  manager->openCatalog(writeTwoPalettes(u"user\\ToolPalette"_s));
+  EXPECT_EQ(manager->activeCatalog(), nullptr);
+  EXPECT_FALSE(manager->addCatalog(writeTwoPalettes(u"a"_s)));
+  EXPECT_TRUE(loaded().isEmpty());
+  manager->removeReactor(&remover);
 }
 
 TEST_F(PaletteManagerTest, AnUnreadableCatalogIsToldAndStandsEmptyWhileOthersLoad) {
@@ -306,14 +348,17 @@ TEST_F(PaletteManagerTest, KnowsPicturesAndDrawingsByTheirExtensions) {
 
 TEST_F(PaletteManagerTest, OpensItsConfigurationOnlyWhenThatIsWanted) {
   theHost().application.store->sections.clear();
-  const auto impl = odrxMake<OdTcPaletteManagerImpl>();
-  impl->openConfiguration();
+  const auto closed = odrxMake<OdTcPaletteManagerImpl>();
+  closed->openConfiguration();
   EXPECT_FALSE(theHost().application.store->at(u"cmddata/ToolPaletteManager"_s));
-  EXPECT_EQ(impl->configuration(), nullptr);
-  impl->setOpenFlag(true);
-  impl->openConfiguration();
+  EXPECT_EQ(closed->configuration(), nullptr);
+  struct Opening : OdTcPaletteManagerImpl {
+    Opening() { m_openFlag = true; }
+  };
+  const auto opening = odrxMake<Opening>();
+  opening->openConfiguration();
   EXPECT_TRUE(theHost().application.store->at(u"cmddata/ToolPaletteManager"_s));
-  EXPECT_TRUE(impl->configuration());
+  EXPECT_TRUE(opening->configuration());
 }
 
 TEST_F(PaletteManagerTest, CarriesTheViewSetting) {

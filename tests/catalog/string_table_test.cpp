@@ -1,5 +1,6 @@
 #include "module/string_table.h"
 
+#include "support/data_file.h"
 #include "support/test_host.h"
 
 #include <gtest/gtest.h>
@@ -27,6 +28,16 @@ TEST_F(StringTableTest, KeepsTheTextsToTheLetter) {
             u"Cannot find catalog in the specified folder.\n");
   EXPECT_EQ(englishText(StringId::kFolderHasNoCatalog),
             u"Cannot find catalog in the specified folder.");
+}
+
+TEST_F(StringTableTest, HasEveryNumberWithItsText) {
+  QByteArray lines;
+  for (const string_table::Row& row : string_table::kRows) {
+    OdString shown = QStringView(row.text).toString();
+    shown.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
+    lines += QByteArray::number(static_cast<int>(row.id)) + " \"" + shown.toUtf8() + "\"\n";
+  }
+  EXPECT_EQ(lines.toStdString(), testhost::dataFile(u"strings.txt"_s).toStdString());
 }
 
 TEST_F(StringTableTest, TwoNumbersAndAllUnknownOnesHaveNoText) {

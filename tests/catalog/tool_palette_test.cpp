@@ -186,13 +186,9 @@ TEST_F(ToolPaletteTest, AShorterDocumentLeavesNothingOfTheLongerOne) {
 TEST_F(ToolPaletteTest, AFailedSaveLeavesThePathAsItWas) {
   ASSERT_TRUE(palette->saveAs(file));
   const OdString target = stored(u"gone\\p.dtc"_s);
-  try {
-    palette->saveAs(target);
-    FAIL() << "the folder does not exist";
-  } catch (const OdFileError& error) {
-    EXPECT_EQ(error.path(), target);
-    EXPECT_FALSE(error.reason().isEmpty());
-  }
+  EXPECT_FALSE(palette->saveAs(target)) << "the folder does not exist";
+  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, target, u"No such file"_s}))
+      << text(theHost().log.join(u'\n'));
   EXPECT_EQ(palette->getPath(), file);
 }
 
@@ -206,7 +202,8 @@ TEST_F(ToolPaletteTest, ACopyGoesBackToItsPathUnlessTheWriteFails) {
   EXPECT_EQ(palette->getPath(), file);
   EXPECT_EQ(readFile(u"copy.xtp"_s), saved());
   const OdString bad = stored(u"gone\\copy.xtp"_s);
-  EXPECT_THROW(palette->saveCopy(bad), OdFileError);
+  EXPECT_FALSE(palette->saveCopy(bad));
+  EXPECT_TRUE(wasTold({bad}));
   EXPECT_EQ(palette->getPath(), bad);
 }
 
@@ -244,7 +241,8 @@ TEST_F(ToolPaletteTest, ADocumentWithoutAPaletteShowsTheMessageAndLeavesTheDatab
 
 TEST_F(ToolPaletteTest, AnObjectOfTheWrongClassEndsTheLoadOfItsFile) {
   writeFile(u"p.dtc"_s, "<Palette><Data><Groups/></Data><Tools><Data/></Tools></Palette>");
-  EXPECT_NO_THROW(palette->load(file));
+  EXPECT_FALSE(palette->load(file));
+  EXPECT_TRUE(palette->getDatabase()->isUnread());
   const OdTcDatabasePtr database = OdTcDatabase::createObject();
   EXPECT_THROW(database->readField(u"Tools"_s, OdVariant(OdTcGroup::createObject())),
                OdError_NotThatKindOfClass);
@@ -269,10 +267,14 @@ TEST_F(ToolPaletteTest, PaletteStyleAndForeignRecordsAreReadAndNotWritten) {
 TEST_F(ToolPaletteTest, OfAForeignPaletteWhatStandsBesideItsContentIsReadByValue) {
   const OdTcToolPalettePtr read = loadedPalette(
       "<ItemID idValue=\"X\"/><PaletteContent/>"
-      "<PaletteUI><Tool a=\"1\"/><CAcTcUiToolPalette><CatalogView><ToolOrder><ID>T</ID></ToolOrder>"
+      "<PaletteUI><SortType>2</SortType><PreviewSize>4</PreviewSize><PreviewStyle>3</PreviewStyle>"
+      "<Tool a=\"1\"/><CAcTcUiToolPalette><CatalogView><ToolOrder><ID>T</ID></ToolOrder>"
       "</CatalogView></CAcTcUiToolPalette></PaletteUI>");
   EXPECT_EQ(read->id(), u"X"_s);
   EXPECT_EQ(read->getDatabase()->tools()->count(), 0);
+  EXPECT_EQ(read->getSortType(), 2);
+  EXPECT_EQ(read->getPreviewSize(), 4);
+  EXPECT_EQ(read->getPreviewStyle(), 3);
   OdArray<OdString> ids;
   read->getToolOrder(ids);
   EXPECT_EQ(ids, OdArray<OdString>({u"T"_s}));
@@ -326,8 +328,20 @@ TEST_F(ToolPaletteTest, ManualSortingWithoutAnOrderIsKeptAsItIs) {
 
 TEST_F(ToolPaletteTest, SaysItsPathRelativeToItsCatalog) {
   OdString out;
-  EXPECT_FALSE(palette->getRelativePath(out));
+  EXPECT_FALSE(palette->getRelativePath(out)) << "it stands in no catalog";
+  const OdTcCatalogPtr nowhere = OdTcCatalog::createObject();
+  nowhere->addPalette(palette);
+  EXPECT_FALSE(palette->getRelativePath(out)) << "neither has a path";
+  palette->getDatabase()->setPath(file);
+  EXPECT_FALSE(palette->getRelativePath(out)) << "the catalog has no path";
   const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  const OdTcToolPalettePtr other = CatalogFixture::palette(u"O"_s);
+  catalog->addPalette(other);
+  other->getDatabase()->setPath(OdString());
+  EXPECT_FALSE(other->getRelativePath(out)) << "the palette has no path";
+  other->getDatabase()->setPath(u"D:\\elsewhere\\p.dtc"_s);
+  EXPECT_FALSE(other->getRelativePath(out)) << "the paths share no beginning";
+  EXPECT_EQ(out, OdString());
   EXPECT_TRUE(catalog->findPalette(u"A"_s)->getRelativePath(out));
   EXPECT_EQ(out, u"Palettes\\a.dtc"_s);
 }
@@ -406,6 +420,55 @@ TEST_F(ToolPaletteTest, AdoptsTheTitleOfAFileAsItsName) {
   EXPECT_EQ(palette->name(), u"My tools"_s);
   EXPECT_EQ(palette->getProperties()->resource(), OdString());
   EXPECT_EQ(palette->getProperties()->src(), OdString());
+}
+
+TEST_F(ToolPaletteTest, AdoptingAFileLetsTheAgentsOfItsToolsBringThemselvesUpToDate) {
+  struct Updated : RecordingAgent {
+    using RecordingAgent::RecordingAgent;
+    int updates = 0;
+    void updateFromHost() override { ++updates; }
+  };
+  const auto first = odrxMake<Updated>(u"1"_s);
+  const auto last = odrxMake<Updated>(u"2"_s);
+  added(u"One"_s)->setActionAgent(first);
+  added(u"None"_s);
+  added(u"Two"_s)->setActionAgent(last);
+  palette->adoptFileName(u"C:\\in\\My tools.xtp"_s);
+  EXPECT_EQ(first->updates, 1);
+  EXPECT_EQ(last->updates, 1);
+  EXPECT_EQ(namesOf(palette->enumTools()), QStringList({u"One"_s, u"None"_s, u"Two"_s}));
+}
+
+/// A palette with one tool that has the picture Images\t.png.
+struct PictureTest : ToolPaletteTest {
+  OdTcToolPtr withPicture() const {
+    writeFile(u"Images\\t.png"_s, "picture");
+    writeFile(u"p.dtc"_s,
+              "<Palette><Tools><Tool><ItemID idValue=\"T\"/><Properties><ItemName>T</ItemName>"
+              "<Images><Image cx=\"16\" cy=\"16\" src=\"\\Images\\t.png\"/></Images></Properties>"
+              "</Tool></Tools></Palette>");
+    EXPECT_TRUE(palette->load(file));
+    return OdTcToolPtr(palette->getDatabase()->tools()->at(0));
+  }
+};
+
+TEST_F(PictureTest, GoesWithARemovedTool) {
+  withPicture();
+  EXPECT_TRUE(palette->removeItem(u"T"_s));
+  EXPECT_FALSE(exists(u"Images\\t.png"_s));
+}
+
+TEST_F(PictureTest, GoesWithAToolThatIsStripped) {
+  withPicture();
+  palette->stripUnsupportedTools();
+  EXPECT_EQ(palette->getDatabase()->tools()->count(), 0);
+  EXPECT_FALSE(exists(u"Images\\t.png"_s));
+}
+
+TEST_F(PictureTest, StaysIfTheToolSharesIt) {
+  withPicture()->setMarked();
+  EXPECT_TRUE(palette->removeItem(u"T"_s));
+  EXPECT_TRUE(exists(u"Images\\t.png"_s));
 }
 
 TEST_F(ToolPaletteTest, ToolsThatOutliveTheirPaletteHaveNoDatabase) {

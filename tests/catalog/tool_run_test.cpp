@@ -5,6 +5,8 @@
 #include "support/recording_agent.h"
 #include "tools/tool_data.h"
 
+#include <functional>
+
 namespace {
 
 using namespace testhost;
@@ -206,6 +208,71 @@ TEST_F(ToolRunTest, AToolThatDiesWhileItRunsLeavesTheGuard) {
   EXPECT_FALSE(guard->isRunning());
   theHost().events.commandEnded(u"LINE"_s);
   EXPECT_FALSE(theHost().log.contains(u"end T"_s));
+}
+
+TEST_F(ToolRunTest, AToolThatIsRemovedWhileItRunsPutsEverythingBackFirst) {
+  const OdTcToolPalettePtr holder = palette(u"P"_s);
+  const auto expectFinished = [&](const std::function<void()>& leave) {
+    const OdTcToolPtr one = runnable(u"T"_s);
+    holder->addItem(one);
+    one->execute(&document);
+    theHost().log.clear();
+    leave();
+    EXPECT_EQ(theHost().log, QStringList({u"restore T.one"_s, u"restore T.two"_s, u"end T"_s}));
+    EXPECT_FALSE(guard->isRunning());
+    EXPECT_EQ(one->runningDocument(), nullptr);
+  };
+  expectFinished([&] { holder->removeItem(holder->enumTools()->next()->id()); });
+  expectFinished([&] {
+    holder->enumTools()->next()->setToolType(OdTcTool::kText);
+    holder->stripUnsupportedTools();
+  });
+}
+
+TEST_F(ToolRunTest, AToolThatIsRemovedInItsOwnPreparationRunsNoFurther) {
+  const OdTcToolPalettePtr holder = palette(u"P"_s);
+  struct Leaving : RecordingAgent {
+    using RecordingAgent::RecordingAgent;
+    OdTcToolPalette* holder = nullptr;
+    void beginExecution(IHostDocument*) override {
+      holder->removeItem(holder->enumTools()->next()->id());
+    }
+  };
+  const OdTcToolPtr one = runnable(u"T"_s);
+  const auto agent = odrxMake<Leaving>(u"T"_s);
+  agent->holder = holder;
+  one->setActionAgent(agent);
+  holder->addItem(one);
+  one->execute(&document);
+  EXPECT_FALSE(theHost().log.contains(u"execute T"_s));
+  EXPECT_TRUE(theHost().log.contains(u"restore T.one"_s));
+  EXPECT_FALSE(guard->isRunning());
+}
+
+TEST_F(ToolRunTest, AToolThatGoesWithItsPalettePutsEverythingBackFirst) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  OdTcToolPalette* const holder = catalog->findPalette(u"A"_s);
+  {
+    const OdTcToolPtr one = runnable(u"T"_s);
+    holder->addItem(one);
+    one->execute(&document);
+  }
+  theHost().log.clear();
+  ASSERT_TRUE(catalog->removeItem(u"A"_s));
+  EXPECT_EQ(theHost().log, QStringList({u"restore T.one"_s, u"restore T.two"_s, u"end T"_s}));
+  EXPECT_FALSE(guard->isRunning());
+}
+
+TEST_F(ToolRunTest, AToolThatSomebodyHoldsRunsOnWithoutItsPalette) {
+  const OdTcToolPtr one = runnable(u"T"_s);
+  {
+    const OdTcToolPalettePtr holder = palette(u"P"_s);
+    holder->addItem(one);
+    one->execute(&document);
+  }
+  EXPECT_EQ(guard->tool(), one.get());
+  theHost().events.commandEnded(u"LINE"_s);
+  EXPECT_TRUE(theHost().log.contains(u"end T"_s));
 }
 
 TEST_F(ToolRunTest, RunsWithoutAGuard) {

@@ -230,6 +230,34 @@ TEST_F(MultitoolTest, KeepsAnAgentThatItHas) {
   EXPECT_EQ(read->getActionAgent()->commandString(), u"_MINE"_s);
 }
 
+TEST_F(MultitoolTest, KeepsItsCommandThroughDataThatSaysNothingOfOne) {
+  const OdTcToolPtr read = loadedTool(both() + "<Data><Unknown a=\"1\"/></Data>");
+  ASSERT_TRUE(read->getActionAgent());
+  EXPECT_EQ(read->getActionAgent()->commandString(), u"^C^C_LINE"_s);
+  EXPECT_EQ(read->getActionAgent()->owner(), read->getData());
+  EXPECT_EQ(read->getData()->owner(), read.get());
+  const QByteArray saved = savedWith(read);
+  EXPECT_EQ(saved.count("^C^C_LINE"), 1) << saved.toStdString();
+}
+
+TEST_F(MultitoolTest, GivesItsCommandUpForDataWithAnAgent) {
+  const OdTcToolPtr read = loadedTool(both() + "<Data><Command Macro=\"_MINE\"/></Data>");
+  EXPECT_EQ(read->getActionAgent()->commandString(), u"_MINE"_s);
+  EXPECT_EQ(loadedTool("<Data><Command Macro=\"_MINE\"/></Data><Data><Unknown a=\"1\"/></Data>")
+                ->getActionAgent(),
+            nullptr)
+      << "only a conversion has an agent to keep";
+}
+
+TEST_F(MultitoolTest, ItsPicturesBelongToItAndStandInItsFile) {
+  const OdTcToolPtr read = loadedTool(both());
+  ASSERT_TRUE(read->images());
+  EXPECT_EQ(read->images()->owner(), read->properties());
+  const QByteArray saved = savedWith(read);
+  EXPECT_EQ(saved.count("src=\"%ProgramBtnRes%\""), 2) << saved.toStdString();
+  EXPECT_EQ(saved.count("resource=\"LINE\""), 2);
+}
+
 TEST_F(MultitoolTest, TakesItsNameFromTheTipOrTheTranslatedCommand) {
   theHost().menu.entries[1].label.clear();
   EXPECT_EQ(loadedTool(both())->name(), u"Line"_s);

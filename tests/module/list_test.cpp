@@ -62,8 +62,9 @@ TEST_F(List, RegistersAnItemThatIsReadOnlyOnce) {
 TEST_F(List, ReadsItsOwnElementsOnly) {
   const auto list = odrxMake<ItemList>();
   const auto item = makeItem(QStringLiteral("a"));
-  EXPECT_FALSE(list->readField(QStringLiteral("Other"), item));
+  EXPECT_THROW(list->readField(QStringLiteral("Other"), item), OdError_NotThatKindOfClass);
   EXPECT_FALSE(list->readField(QStringLiteral("Item"), QStringLiteral("text")));
+  EXPECT_FALSE(list->readField(QStringLiteral("Other"), QStringLiteral("text")));
   EXPECT_TRUE(list->readField(QStringLiteral("Item"), item));
   EXPECT_THROW(list->readField(QStringLiteral("Item"), odrxMake<ItemList>()),
                OdError_NotThatKindOfClass);
@@ -94,6 +95,33 @@ TEST_F(List, RemovesOnlyTheFirstOfTwoEqualIds) {
   EXPECT_TRUE(list->remove(QStringLiteral("a")));
   EXPECT_EQ(text(*list), "b a c");
   EXPECT_EQ(first->numRefs(), 1);
+}
+
+TEST_F(List, LetsGoOfWhatItRemoves) {
+  const auto top = odrxMake<Top>();
+  const auto list = odrxMake<ItemList>();
+  list->setOwner(top);
+  const auto item = makeItem(QStringLiteral("a"));
+  list->add(item);
+  list->add(item);
+  EXPECT_TRUE(list->remove(QStringLiteral("a")));
+  EXPECT_EQ(item->owner(), top.get()) << "it stands here once more";
+  EXPECT_TRUE(top->forgotten.empty());
+  EXPECT_TRUE(list->remove(QStringLiteral("a")));
+  EXPECT_EQ(item->owner(), nullptr);
+  EXPECT_EQ(top->forgotten, std::vector<OdTcPersist*>({item}));
+}
+
+TEST_F(List, LeavesTheOwnerOfAnItemThatHasFoundAnotherOne) {
+  const auto top = odrxMake<Top>();
+  const auto other = odrxMake<Top>();
+  const auto list = odrxMake<ItemList>();
+  list->setOwner(top);
+  const auto item = makeItem(QStringLiteral("a"));
+  list->add(item);
+  item->setOwnerQuiet(other);
+  EXPECT_TRUE(list->remove(QStringLiteral("a")));
+  EXPECT_EQ(item->owner(), other.get());
 }
 
 TEST_F(List, WritesItsItemsInOrder) {

@@ -70,7 +70,9 @@ class Top : public OdTcPersistImpl<OdTcPersist> {
   }
   void noteInCatalog(OdTcPersist* object) override { noted.push_back(object); }
   void noteInDatabase(OdTcPersist* object) override { notedInDatabase.push_back(object); }
+  void forgetInCatalog(OdTcPersist* object) override { forgotten.push_back(object); }
   std::vector<OdTcPersist*> noted;
+  std::vector<OdTcPersist*> forgotten;
   std::vector<OdTcPersist*> notedInDatabase;
 };
 

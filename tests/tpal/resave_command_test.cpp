@@ -46,6 +46,18 @@ TEST_F(ResaveCommand, RefusesACatalogThatItCannotRead) {
   EXPECT_EQ(read(QStringLiteral("c/DrfTcCatalog.dtc")), QByteArray("<Catalog"));
 }
 
+TEST_F(ResaveCommand, NamesAPaletteThatCannotBeWrittenAndWritesTheRest) {
+  // A folder stands where the copy is to go.
+  QDir().mkpath(path(QStringLiteral("d/Palettes/p.dtc")));
+  EXPECT_EQ(resave({QStringLiteral("--to"), path(QStringLiteral("d"))}), tpal::kFailed);
+  EXPECT_TRUE(out().contains(QStringLiteral("p.dtc: not written: "))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("DrfTcCatalog.dtc: written"))) << qPrintable(out());
+  EXPECT_TRUE(read(QStringLiteral("d/DrfTcCatalog.dtc")).contains("{P}"));
+  EXPECT_EQ(resave({QStringLiteral("--json"), QStringLiteral("--to"), path(QStringLiteral("d"))}),
+            tpal::kFailed);
+  EXPECT_TRUE(out().contains(QStringLiteral("\"written\": false"))) << qPrintable(out());
+}
+
 TEST_F(ResaveCommand, NamesATargetThatCannotBeWritten) {
   write(QStringLiteral("d"), "a file where a folder is wanted");
   EXPECT_EQ(resave({QStringLiteral("--to"), path(QStringLiteral("d"))}), tpal::kFailed);
