@@ -19,18 +19,20 @@ const OdString& referenceElement() {
   return name;
 }
 
-/// Releases items in a loop: what they release in their turn only joins the queue.
-void releaseInTurn(std::vector<OdTcCatalogItemPtr> items) {
-  static auto& queue = *new std::vector<OdTcCatalogItemPtr>;
-  static bool isReleasing = false;
-  for (OdTcCatalogItemPtr& item : items) queue.push_back(std::move(item));
-  if (isReleasing) return;
-  isReleasing = true;
-  while (!queue.empty()) {
-    const OdTcCatalogItemPtr next = std::move(queue.back());
-    queue.pop_back();
+/// Releases items in a loop: what they release in their turn only joins the queue of the outermost
+/// call, so that deep trees of groups do not go deep into the stack.
+void releaseInTurn(std::vector<OdTcCatalogItemPtr> items) noexcept {
+  static std::vector<OdTcCatalogItemPtr>* queue = nullptr;
+  if (queue) {
+    for (OdTcCatalogItemPtr& item : items) queue->push_back(std::move(item));
+    return;
   }
-  isReleasing = false;
+  queue = &items;
+  while (!items.empty()) {
+    const OdTcCatalogItemPtr next = std::move(items.back());
+    items.pop_back();
+  }
+  queue = nullptr;
 }
 
 } // namespace
