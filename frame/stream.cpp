@@ -82,7 +82,8 @@ void OdMemoryStream::getBytes(void* buffer, std::uint32_t count) {
 
 void OdMemoryStream::putBytes(const void* buffer, std::uint32_t count) {
   const auto end = static_cast<qsizetype>(m_position + count);
-  if (end > m_bytes.size()) m_bytes.resize(end);
+  // Behind the end the gap is filled, as a file's is.
+  if (end > m_bytes.size()) m_bytes.append(end - m_bytes.size(), '\0');
   std::memcpy(m_bytes.data() + m_position, buffer, count);
   m_position += count;
 }

@@ -93,6 +93,8 @@ class OdTcObjectPropertyImplBaseEx : public OdTcObjectProperty {
     Agent* const a = agent();
     Value taken{};
     if (!a || !object_property_detail::fromVariant(value, taken)) return;
+    // A value that decides which properties there are makes the agent drop this one.
+    const OdTcPropertyPtr self(this);
     Setter::to(*a, taken);
     markOwnerItemModified(this);
   }
@@ -183,6 +185,7 @@ class OdTcCallbackObjectPropertyImpl final
                                      Visible>::OdTcObjectPropertyImplBaseEx;
   ObjectPropertyFamily family() const override { return ObjectPropertyFamily::kCallback; }
   bool runDialog() override {
+    const OdTcPropertyPtr self(this);
     if (!this->agent() || !Dialog::on(*this->agent())) return false;
     markOwnerItemModified(this);
     return true;

@@ -74,9 +74,11 @@ TEST_F(ModuleLoader, SaysWhyALibraryIsNotLoaded) {
     OdString reason;
     EXPECT_EQ(loader.load(path(c.kind), &reason), nullptr) << c.kind;
     EXPECT_NE(reason.toStdString().find(c.reason), std::string::npos) << reason.toStdString();
-    EXPECT_EQ(oddynlib::loadedModule(path(c.kind)), nullptr) << c.kind;
+    // What the failing one registered may point into it, so it stays.
+    const bool stays = OdString::fromLatin1(c.kind) == QLatin1String("failing");
+    EXPECT_EQ(oddynlib::loadedModule(path(c.kind)) != nullptr, stays) << c.kind;
   }
-  EXPECT_EQ(log(), "init "); // the failing one; it was never started, so nothing stops it
+  EXPECT_EQ(log(), "init "); // it was never started, so nothing stops it
 }
 
 TEST(DynamicLibrary, FindsExportsOfTheProgramItself) {
