@@ -1,7 +1,7 @@
 // Checks that setters share. Not for use outside of the library.
 #pragma once
 
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 #include "frame/error.h"
 
 namespace odcheck {

@@ -1,11 +1,11 @@
 // The classes of the drawing database, and their registration.
-#include "drawing/arc.h"
-#include "drawing/circle.h"
 #include "drawing/database.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
-#include "drawing/raw_object.h"
-#include "drawing/text.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
+#include "drawing/entities/text.h"
+#include "drawing/objects/raw_object.h"
 
 #define CLASS(Class, Parent) ODRX_DEFINE_MEMBERS(Class, Parent, #Class)
 

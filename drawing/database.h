@@ -1,17 +1,17 @@
 // The drawing.
 #pragma once
 
-#include "drawing/block_table.h"
 #include "drawing/database_reactor.h"
-#include "drawing/dictionary.h"
-#include "drawing/dim_style_table.h"
 #include "drawing/header_vars.h"
-#include "drawing/layer_table.h"
-#include "drawing/linetype_table.h"
-#include "drawing/plain_tables.h"
-#include "drawing/text_style_table.h"
+#include "drawing/objects/dictionary.h"
+#include "drawing/tables/block_table.h"
+#include "drawing/tables/dim_style_table.h"
+#include "drawing/tables/layer_table.h"
+#include "drawing/tables/linetype_table.h"
+#include "drawing/tables/plain_tables.h"
+#include "drawing/tables/text_style_table.h"
+#include "drawing/tables/viewport_table.h"
 #include "drawing/undo_mark.h"
-#include "drawing/viewport_table.h"
 
 class QIODevice;
 class OdDbUndo;

@@ -1,7 +1,7 @@
 // Drawings from and into files.
-#include "drawing/dxf_document_in.h"
-#include "drawing/dxf_document_out.h"
-#include "drawing/dxf_template.h"
+#include "drawing/dxf/document_in.h"
+#include "drawing/dxf/document_out.h"
+#include "drawing/dxf/template.h"
 #include "frame/file_path.h"
 
 #include <QFile>

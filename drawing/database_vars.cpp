@@ -1,6 +1,6 @@
 // Header variables and current values.
 #include "drawing/database_data.h"
-#include "drawing/dictionary_vars.h"
+#include "drawing/objects/dictionary_vars.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "drawing/object.h"
 
 #include "drawing/database_data.h"
-#include "drawing/dxf_residue.h"
+#include "drawing/dxf/residue.h"
 
 OdDbObject::OdDbObject() = default;
 OdDbObject::~OdDbObject() = default;

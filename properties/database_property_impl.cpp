@@ -1,7 +1,7 @@
 #include "properties/database_property_impl.h"
 
 #include "drawing/database.h"
-#include "drawing/entity.h"
+#include "drawing/entities/entity.h"
 #include "host/host_locator.h"
 #include "module/persist_cast.h"
 #include "module/string_table.h"

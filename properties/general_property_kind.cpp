@@ -1,7 +1,7 @@
 #include "properties/general_property_kind.h"
 
 #include "drawing/database.h"
-#include "drawing/entity.h"
+#include "drawing/entities/entity.h"
 #include "module/string_table.h"
 #include "properties/database_property_impl.h"
 

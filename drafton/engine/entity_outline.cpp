@@ -1,9 +1,9 @@
 #include "drafton/engine/entity_outline.h"
 
-#include "drawing/arc.h"
-#include "drawing/circle.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
 
 #include <algorithm>
 #include <cmath>

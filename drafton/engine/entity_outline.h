@@ -1,7 +1,7 @@
 // Entities as straight pieces in the plane of the screen, for choosing them.
 #pragma once
 
-#include "drawing/entity.h"
+#include "drawing/entities/entity.h"
 
 #include <vector>
 

@@ -3,7 +3,7 @@
 
 #include "frame/string.h"
 
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 
 #include <optional>
 #include <type_traits>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "drawing/color.h"
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 #include "frame/variant.h"
 
 #include <limits>

@@ -1,6 +1,6 @@
 // Objects, tables, header variables and current values of a drawing.
 #include "drawing/database.h"
-#include "drawing/line.h"
+#include "drawing/entities/line.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The shapes of entities under transformations, and their boxes.
-#include "drawing/arc.h"
-#include "drawing/circle.h"
 #include "drawing/database.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
-#include "drawing/text.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
+#include "drawing/entities/text.h"
 
 #include <gtest/gtest.h>
 

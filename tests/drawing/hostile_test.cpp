@@ -1,7 +1,7 @@
 // What programs in the field can hand us.
 #include "drawing/database.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Values that files keep outside of the obvious places.
 #include "drawing/database.h"
-#include "drawing/dxf_residue.h"
+#include "drawing/dxf/residue.h"
 
 #include <gtest/gtest.h>
 

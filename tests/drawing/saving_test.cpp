@@ -1,7 +1,7 @@
 // Saving that fails: the old file stays whole, the folder clean, the drawing open.
 #include "drawing/database.h"
-#include "drawing/dxf_document_out.h"
-#include "drawing/line.h"
+#include "drawing/dxf/document_out.h"
+#include "drawing/entities/line.h"
 
 #include <gtest/gtest.h>
 

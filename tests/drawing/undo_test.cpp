@@ -1,7 +1,7 @@
 // Steps taken back and done again.
-#include "drawing/circle.h"
 #include "drawing/database.h"
-#include "drawing/line.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "drafton/engine/selection.h"
 
 #include "drafton/engine/entity_outline.h"
-#include "drawing/arc.h"
-#include "drawing/circle.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
 #include "engine/support/engine_fixture.h"
 
 using namespace drafton;

@@ -2,7 +2,7 @@
 #include "properties/general_properties.h"
 
 #include "drawing/database.h"
-#include "drawing/line.h"
+#include "drawing/entities/line.h"
 #include "properties/layer_table_record_impl.h"
 #include "properties/line_type_table_record_impl.h"
 #include "support/golden.h"

@@ -5,7 +5,7 @@
 #include "drafton/engine/commands/drawn_end.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/translator.h"
-#include "drawing/arc.h"
+#include "drawing/entities/arc.h"
 
 namespace drafton {
 namespace {

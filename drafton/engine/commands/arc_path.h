@@ -1,7 +1,7 @@
 // Arcs as a way from one point to another, and the ways in which users describe them.
 #pragma once
 
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 
 #include <optional>
 

@@ -4,7 +4,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/translator.h"
-#include "drawing/circle.h"
+#include "drawing/entities/circle.h"
 
 namespace drafton {
 namespace {

@@ -1,7 +1,7 @@
 // Circles as users describe them.
 #pragma once
 
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 
 #include <optional>
 

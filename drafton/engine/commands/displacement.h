@@ -3,7 +3,7 @@
 
 #include "drafton/engine/command_context.h"
 #include "drafton/engine/task.h"
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 
 namespace drafton {
 

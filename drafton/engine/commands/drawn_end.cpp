@@ -2,9 +2,9 @@
 
 #include "drafton/engine/commands/arc_path.h"
 #include "drafton/engine/commands/new_entities.h"
-#include "drawing/arc.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
 
 namespace drafton {
 namespace {

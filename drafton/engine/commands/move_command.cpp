@@ -4,7 +4,7 @@
 #include "drafton/engine/commands/displacement.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
-#include "drawing/entity.h"
+#include "drawing/entities/entity.h"
 
 namespace drafton {
 namespace {

@@ -1,7 +1,7 @@
 #include "drafton/engine/commands/polyline_draft.h"
 
 #include "drafton/engine/commands/new_entities.h"
-#include "drawing/polyline.h"
+#include "drawing/entities/polyline.h"
 
 namespace drafton {
 namespace {

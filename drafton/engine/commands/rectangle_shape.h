@@ -1,7 +1,7 @@
 // The outline of a rectangle with cut or rounded corners.
 #pragma once
 
-#include "drawing/polyline.h"
+#include "drawing/entities/polyline.h"
 
 #include <vector>
 

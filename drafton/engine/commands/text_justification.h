@@ -2,7 +2,7 @@
 #pragma once
 
 #include "drawing/enums.h"
-#include "drawing/geometry.h"
+#include "drawing/geometry/geometry.h"
 #include "frame/string.h"
 
 #include <span>

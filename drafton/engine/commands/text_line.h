@@ -2,7 +2,7 @@
 #pragma once
 
 #include "drafton/engine/commands/text_justification.h"
-#include "drawing/text.h"
+#include "drawing/entities/text.h"
 
 #include <optional>
 

@@ -3,11 +3,11 @@
 #include "drafton/engine/commands/drawing_view.h"
 #include "drafton/engine/commands/layer_set.h"
 #include "drafton/engine/value_parser.h"
-#include "drawing/arc.h"
-#include "drawing/circle.h"
-#include "drawing/line.h"
-#include "drawing/polyline.h"
-#include "drawing/text.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
+#include "drawing/entities/text.h"
 
 using drafton::shownAngle;
 using drafton::shownPoint;

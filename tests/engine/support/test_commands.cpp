@@ -1,7 +1,7 @@
 #include "engine/support/test_commands.h"
 
 #include "drafton/engine/engine.h"
-#include "drawing/line.h"
+#include "drawing/entities/line.h"
 
 using namespace drafton;
 

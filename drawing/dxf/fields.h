@@ -1,0 +1,96 @@
+// Field tables: what an entity's file entry says, as data.
+#pragma once
+
+#include "drawing/dxf/in.h"
+#include "drawing/dxf/out.h"
+
+#include <span>
+#include <variant>
+
+/// One field of the record D.
+template <class D>
+struct OdDbDxfField {
+  int code; ///< for points that of x
+  std::variant<double D::*, int D::*, OdGePoint3d D::*, OdGeVector3d D::*, OdString D::*> member;
+  enum Form : std::uint8_t {
+    kAlways,
+    kUnlessPreset, ///< left out of the file while it has the value of a new record
+    kAngle,        ///< degrees in the file
+    kAngleUnlessPreset,
+  } form = kAlways;
+
+  bool isAngle() const { return form == kAngle || form == kAngleUnlessPreset; }
+  bool mayMiss() const { return form == kUnlessPreset || form == kAngleUnlessPreset; }
+};
+
+namespace oddxf {
+
+/// Takes a tag into the field that it belongs to; false if it belongs to none.
+template <class D>
+bool takeTag(std::span<const OdDbDxfField<D>> fields, D& record, const OdDbDxfTag& tag,
+             OdDbDxfIn& in) {
+  const auto triple = [&](int code, auto& p) {
+    switch (tag.code - code) {
+    case 0:
+      p.x = in.real(tag, p.x);
+      return true;
+    case 10:
+      p.y = in.real(tag, p.y);
+      return true;
+    case 20:
+      p.z = in.real(tag, p.z);
+      return true;
+    default:
+      return false;
+    }
+  };
+  for (const OdDbDxfField<D>& f : fields) {
+    if (const auto* point = std::get_if<OdGePoint3d D::*>(&f.member)) {
+      if (triple(f.code, record.*(*point))) return true;
+    } else if (const auto* vector = std::get_if<OdGeVector3d D::*>(&f.member)) {
+      if (triple(f.code, record.*(*vector))) return true;
+    } else if (f.code == tag.code) {
+      if (const auto* number = std::get_if<double D::*>(&f.member)) {
+        double& value = record.*(*number);
+        value = f.isAngle() ? in.angle(tag, value) : in.real(tag, value);
+      } else if (const auto* integer = std::get_if<int D::*>(&f.member)) {
+        record.*(*integer) = in.integer(tag, record.*(*integer));
+      } else if (const auto* text = std::get_if<OdString D::*>(&f.member)) {
+        record.*(*text) = in.text(tag.text);
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+template <class D>
+void putField(const OdDbDxfField<D>& f, const D& record, OdDbDxfOut& out) {
+  static const D kPreset{};
+  std::visit(
+      [&](auto member) {
+        const auto& value = record.*member;
+        if (f.mayMiss() && value == kPreset.*member) return;
+        using V = std::remove_cvref_t<decltype(value)>;
+        if constexpr (std::is_same_v<V, OdGePoint3d>)
+          out.point(f.code, value);
+        else if constexpr (std::is_same_v<V, OdGeVector3d>)
+          out.point(f.code, {value.x, value.y, value.z});
+        else if constexpr (std::is_same_v<V, OdString>)
+          out.text(f.code, value);
+        else if constexpr (std::is_same_v<V, int>)
+          out.integer(f.code, value);
+        else if (f.isAngle())
+          out.angle(f.code, value);
+        else
+          out.real(f.code, value);
+      },
+      f.member);
+}
+
+template <class D>
+void putFields(std::span<const OdDbDxfField<D>> fields, const D& record, OdDbDxfOut& out) {
+  for (const OdDbDxfField<D>& f : fields) putField(f, record, out);
+}
+
+} // namespace oddxf

@@ -1,0 +1,90 @@
+// Reading the header of a drawing.
+#include "drawing/dxf/document_in.h"
+
+#include "drawing/dxf/text.h"
+#include "drawing/objects/dictionary_vars.h"
+
+void OdDbDxfReader::readHeader() {
+  const auto vars = oddbHeaderVars();
+  OdDbHeaderEntry* entry = nullptr;
+  m_data.headerOrder.clear();
+  while (m_in.next() && m_in.tag().code != 0) {
+    const OdDbDxfTag tag = m_in.tag();
+    if (tag.code == 9) {
+      const OdDbHeaderVarInfo* const row = oddbFindHeaderVar(
+          OdString::fromLatin1(tag.text.data(), static_cast<qsizetype>(tag.text.size())));
+      entry = &m_data.headerOrder.emplace_back();
+      if (row)
+        entry->known = static_cast<int>(row - vars.data());
+      else
+        oddxf::addLines(entry->tags, 9, tag.text);
+      continue;
+    }
+    if (!entry) {
+      m_in.damage(QStringLiteral("a value in the header has no name"));
+      continue;
+    }
+    if (entry->known < 0) {
+      oddxf::addLines(entry->tags, tag.code, tag.text);
+      continue;
+    }
+    const auto i = static_cast<std::size_t>(entry->known);
+    // Some variables changed their code between versions.
+    if (entry->code == 0) entry->code = static_cast<std::int16_t>(tag.code);
+    OdDbVarValue& value = m_data.vars[i];
+    m_data.varPresent[i] = true;
+    switch (vars[i].type) {
+    case OdDbHeaderVarInfo::kInt:
+      value = m_in.longInteger(tag, 0);
+      break;
+    case OdDbHeaderVarInfo::kReal:
+      value = m_in.real(tag, 0);
+      break;
+    case OdDbHeaderVarInfo::kPoint3d:
+    case OdDbHeaderVarInfo::kPoint2d: {
+      if (!std::holds_alternative<OdGePoint3d>(value)) value = OdGePoint3d();
+      auto& point = std::get<OdGePoint3d>(value);
+      double& part = tag.code == 10 ? point.x : (tag.code == 20 ? point.y : point.z);
+      part = m_in.real(tag, part);
+      break;
+    }
+    case OdDbHeaderVarInfo::kColor: {
+      const int index = m_in.integer(tag, OdCmColor::kACIbyLayer);
+      if (index >= 0 && index <= OdCmColor::kACInone) value = OdCmColor::fromColorIndex(index);
+      break;
+    }
+    case OdDbHeaderVarInfo::kHandle:
+      value = m_in.reference(tag);
+      break;
+    // Records are found by name when all of them are there.
+    default:
+      value = m_in.text(tag.text);
+      break;
+    }
+  }
+}
+
+void OdDbDxfReader::finishHeader() {
+  const auto vars = oddbHeaderVars();
+  for (std::size_t i = 0; i < vars.size(); ++i) {
+    OdDbVarValue& value = m_data.vars[i];
+    const bool missing = std::holds_alternative<std::monostate>(value);
+    if (missing) value = oddbPresetOf(vars[i]);
+    if (auto* const color = std::get_if<OdCmColor>(&value);
+        color && std::string_view(vars[i].name) == "CECOLOR")
+      *color = oddb::exactColor(m_database, *color);
+    const auto* const name = std::get_if<OdString>(&value);
+    const auto table = oddbTableOf(vars[i]);
+    if (!name || !table) continue;
+    OdDbObjectId id = m_tables[*table]->getAt(*name);
+    if (id.isNull()) {
+      const auto& records = m_tables[*table]->recordIds();
+      id = m_tables[*table]->getAt(oddbPresetText(vars[i]));
+      if (id.isNull() && !records.empty()) id = records.front();
+      if (!missing)
+        m_in.note(QStringLiteral("$%1 names \"%2\", which is not there")
+                      .arg(QLatin1String(vars[i].name), *name));
+    }
+    value = id;
+  }
+}

@@ -1,0 +1,111 @@
+// What objects meet while they are read.
+#pragma once
+
+#include "drawing/database_data.h"
+#include "drawing/dxf/source.h"
+
+#include <QStringDecoder>
+
+class OdDbRawEntity;
+
+/// Reads values and references for the objects of one drawing, and collects what is wrong.
+///
+/// A value that cannot be read is told in the list of damage and leaves the field as it is; an
+/// entity with such a value is left out, since nobody could trust its shape.
+class OdDbDxfIn {
+ public:
+  /// `name` is the path, for messages.
+  OdDbDxfIn(OdDbDatabase& database, OdDbDxfSource& source, OdString name);
+
+  OdDbDatabase& database() { return m_database; }
+  OdDbDatabaseData& data() { return m_database.data(); }
+
+  /// The tag at hand; next() goes on and gives false at the end or at damage, which is then told.
+  const OdDbDxfTag& tag() const { return m_tag; }
+  bool next();
+  bool isDamaged() const { return m_damaged; }
+  [[noreturn]] void fail(const OdString& reason) const;
+
+  /// True if the tag at hand stands in the subclass, or if the file has no subclasses.
+  bool in(std::string_view subclass) const {
+    return m_subclass == subclass || (m_subclass.empty() && m_plain);
+  }
+  /// True before the first subclass.
+  bool beforeSubclasses() const { return m_subclass.empty(); }
+  /// Files of R12 have no subclasses.
+  bool isPlain() const { return m_plain; }
+  void setPlain(bool plain) { m_plain = plain; }
+
+  // Values. Each gives what the field has now if the tag's value is no good.
+  double real(const OdDbDxfTag& tag, double now);
+  /// Degrees in the file.
+  double angle(const OdDbDxfTag& tag, double now);
+  int integer(const OdDbDxfTag& tag, int now);
+  std::int64_t longInteger(const OdDbDxfTag& tag, std::int64_t now);
+  OdString text(std::string_view bytes);
+  OdDbObjectId reference(const OdDbDxfTag& tag);
+  OdDbHandle handle(const OdDbDxfTag& tag);
+
+  /// Records by name. A record that the file lacks is made, and noted.
+  OdDbObjectId layer(std::string_view name) { return record(OdDbDatabaseData::kLayers, name); }
+  OdDbObjectId linetype(std::string_view name) {
+    return record(OdDbDatabaseData::kLinetypes, name);
+  }
+  OdDbObjectId textStyle(std::string_view name) {
+    return record(OdDbDatabaseData::kTextStyles, name);
+  }
+
+  /// Tells what cannot be taken over, with the place.
+  void damage(const OdString& what);
+  /// Tells what was mended.
+  void note(const OdString& what);
+  bool valueWasBad() const { return m_badValue; }
+
+  /// Reads the tags of an object up to the next tag of code 0, and enters it in the drawing under
+  /// `owner`, or under the owner that the file names if `owner` is null. False if it was left out.
+  bool readObject(OdDbObject& object, OdDbObjectId owner);
+  /// The handle of an object's owner as the file names it; empty if it does not.
+  OdDbHandle namedOwner() const { return m_namedOwner; }
+  bool wasInPaperSpace() const { return m_paperSpace; }
+  void setPaperSpace() { m_paperSpace = true; }
+  bool hasFollowers() const { return m_hasFollowers; }
+
+  /// Puts the object under its handle, or under a new one if that is missing or taken.
+  void enter(OdDbObject& object, OdDbObjectId owner);
+  /// Puts what follows a polyline or an insert under its handle, outside of every list. Files name
+  /// the leader or its block as the owner, which is kept.
+  void enterFollower(OdDbObject& object, OdDbObjectId leader);
+  /// Reads the tags without entering the object.
+  void readTags(OdDbObject& object);
+
+  void setCodePage(std::string_view name);
+
+ private:
+  OdDbObjectId record(OdDbDatabaseData::Table table, std::string_view name);
+  void keepGroup(OdDbObject& object);
+  void keepTag(OdDbObject& object);
+  void keepPlainTag(OdDbDxfResidue& residue);
+
+  OdDbDatabase& m_database;
+  OdDbDxfSource& m_source;
+  OdString m_name;
+  OdDbDxfTag m_tag;
+  QStringDecoder m_decoder;
+  bool m_decodeEscapes = false;
+  bool m_damaged = false, m_plain = false;
+
+  // Of the object at hand.
+  std::string_view m_subclass;
+  bool m_knownSubclass = true;
+  const char* m_plainSubclass = nullptr;
+  bool m_badValue = false, m_paperSpace = false, m_hasFollowers = false;
+  OdDbHandle m_handle, m_namedOwner;
+  bool m_ownerSeen = false;
+
+  // Neighbours in a file mostly share their layer and line type.
+  struct Recent {
+    std::string_view name;
+    OdDbObjectId id;
+  };
+  Recent m_recent[OdDbDatabaseData::kTableCount];
+};

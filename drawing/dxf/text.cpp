@@ -1,0 +1,76 @@
+#include "drawing/dxf/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+QByteArray oddxf::encodingOf(std::string_view codePage) {
+  struct Row {
+    const char* name;
+    const char* encoding;
+  };
+  // Those that do not follow one of the rules below.
+  static constexpr Row kRows[] = {
+      {"ASCII", "ISO-8859-1"},    {"ANSI_936", "GBK"},   {"GB2312", "GBK"},      {"BIG5", "Big5"},
+      {"ANSI_950", "Big5"},       {"KSC5601", "EUC-KR"}, {"ANSI_1361", "Johab"}, {"JOHAB", "Johab"},
+      {"MACINTOSH", "macintosh"}, {"UTF-8", "UTF-8"},    {"ANSI_949", "EUC-KR"},
+  };
+  const QByteArray upper =
+      QByteArray(codePage.data(), static_cast<qsizetype>(codePage.size())).trimmed().toUpper();
+  for (const Row& row : kRows)
+    if (upper == row.name) return row.encoding;
+  if (upper.startsWith("ANSI_")) return "windows-" + upper.mid(5);
+  if (upper.startsWith("DOS")) return "IBM" + upper.mid(3);
+  if (upper.startsWith("ISO8859-")) return "ISO-" + upper.mid(3);
+  return upper;
+}
+
+OdString oddxf::withoutEscapes(const OdString& text) {
+  const QLatin1String kMark("\\U+");
+  if (!text.contains(kMark)) return text;
+  OdString result;
+  qsizetype at = 0;
+  for (;;) {
+    const qsizetype mark = text.indexOf(kMark, at);
+    if (mark < 0) return result += QStringView(text).mid(at);
+    bool ok = false;
+    const QStringView digits = QStringView(text).mid(mark + 3, 4);
+    const ushort unit = digits.toUShort(&ok, 16);
+    result += QStringView(text).mid(at, mark - at);
+    if (ok && digits.size() == 4)
+      result += QChar(unit);
+    else
+      result += QStringView(text).mid(mark, 7);
+    at = std::min(mark + 7, text.size());
+  }
+}
+
+OdString oddxf::oneLine(const OdString& text) {
+  OdString result = text;
+  for (qsizetype i = 0; i < result.size(); ++i)
+    if (const ushort c = result[i].unicode(); c < 0x20)
+      result.replace(i, 1, OdString(QLatin1Char('^')) + QChar(c + 0x40));
+  return result;
+}
+
+std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
+  auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer - 2, value);
+  if (std::none_of(buffer, end, [](char c) { return c == '.' || c == 'e'; })) {
+    *end++ = '.';
+    *end++ = '0';
+  }
+  return {buffer, static_cast<std::size_t>(end - buffer)};
+}
+
+void oddxf::addCode(QByteArray& lines, int code) {
+  char digits[12];
+  const auto [end, error] = std::to_chars(digits, digits + sizeof digits, code);
+  for (auto width = end - digits; width < 3; ++width) lines.append(' ');
+  lines.append(digits, end - digits);
+  lines.append('\n');
+}
+
+void oddxf::addLines(QByteArray& lines, int code, std::string_view value) {
+  addCode(lines, code);
+  lines.append(value.data(), static_cast<qsizetype>(value.size()));
+  lines.append('\n');
+}

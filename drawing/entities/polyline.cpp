@@ -1,0 +1,176 @@
+#include "drawing/entities/polyline.h"
+
+#include "drawing/checks.h"
+#include "drawing/entities/plane_transform.h"
+
+namespace {
+constexpr int kClosed = 1;
+constexpr int kPlinegen = 128;
+
+void addBulgeExtents(OdGeExtents3d& box, const OdDbPolyline::Vertex& from, const OdGePoint2d& to,
+                     const OdGeMatrix3d& toWorld, double elevation) {
+  const double dx = to.x - from.point.x;
+  const double dy = to.y - from.point.y;
+  const double b = from.bulge;
+  // The centre lies beside the middle of the chord, by this part of the chord's length.
+  const double aside = (1 - b * b) / (4 * b);
+  const double cx = from.point.x + dx / 2 - dy * aside;
+  const double cy = from.point.y + dy / 2 + dx * aside;
+  const double radius = std::hypot(from.point.x - cx, from.point.y - cy);
+  const double first = std::atan2(from.point.y - cy, from.point.x - cx);
+  const double last = std::atan2(to.y - cy, to.x - cx);
+  const double start = b > 0 ? first : last;
+  const double sweep = odgeNormalAngle(b > 0 ? last - first : first - last);
+  for (int row = 0; row < 3; ++row) {
+    const double turn = std::atan2(toWorld(row, 1), toWorld(row, 0));
+    for (const double angle : {turn, turn + kOdaPi})
+      if (odgeNormalAngle(angle - start) <= sweep)
+        box.addPoint(toWorld * OdGePoint3d{cx + radius * std::cos(angle),
+                                           cy + radius * std::sin(angle), elevation});
+  }
+}
+} // namespace
+
+OdDbPolyline::OdDbPolyline() = default;
+
+void OdDbPolyline::assignFrom(const OdDbObject& other) {
+  OdDbEntity::assignFrom(other);
+  m_polyline = static_cast<const OdDbPolyline&>(other).m_polyline;
+}
+
+const OdDbPolyline::Vertex& OdDbPolyline::vertexAt(unsigned index) const {
+  if (index >= numVerts()) throw OdError_InvalidIndex(index, numVerts());
+  return m_polyline.vertices[index];
+}
+
+OdDbPolyline::Vertex& OdDbPolyline::editVertex(unsigned index) {
+  if (index >= numVerts()) throw OdError_InvalidIndex(index, numVerts());
+  assertWriteEnabled();
+  return m_polyline.vertices[index];
+}
+
+void OdDbPolyline::setVertexAt(unsigned index, const Vertex& vertex) {
+  odcheck::finite(vertex.point);
+  for (const double number : {vertex.bulge, vertex.startWidth, vertex.endWidth})
+    odcheck::finite(number);
+  editVertex(index) = vertex;
+}
+
+void OdDbPolyline::addVertexAt(unsigned index, const OdGePoint2d& point, double bulge,
+                               double startWidth, double endWidth) {
+  if (index > numVerts()) throw OdError_InvalidIndex(index, numVerts());
+  odcheck::finite(point);
+  for (const double number : {bulge, startWidth, endWidth}) odcheck::finite(number);
+  assertWriteEnabled();
+  m_polyline.vertices.insert(m_polyline.vertices.begin() + index,
+                             Vertex{point, bulge, startWidth, endWidth, 0});
+}
+
+void OdDbPolyline::removeVertexAt(unsigned index) {
+  editVertex(index);
+  m_polyline.vertices.erase(m_polyline.vertices.begin() + index);
+}
+
+void OdDbPolyline::setPointAt(unsigned index, const OdGePoint2d& point) {
+  odcheck::finite(point);
+  editVertex(index).point = point;
+}
+
+void OdDbPolyline::setBulgeAt(unsigned index, double bulge) {
+  odcheck::finite(bulge);
+  editVertex(index).bulge = bulge;
+}
+
+void OdDbPolyline::setWidthsAt(unsigned index, double startWidth, double endWidth) {
+  odcheck::finite(startWidth);
+  odcheck::finite(endWidth);
+  Vertex& vertex = editVertex(index);
+  vertex.startWidth = startWidth;
+  vertex.endWidth = endWidth;
+}
+
+OdGePoint3d OdDbPolyline::worldPointAt(unsigned index) const {
+  const OdGePoint2d& p = getPointAt(index);
+  return OdGeMatrix3d::planeToWorld(m_polyline.normal) *
+         OdGePoint3d{p.x, p.y, m_polyline.elevation};
+}
+
+bool OdDbPolyline::isClosed() const { return m_polyline.flags & kClosed; }
+bool OdDbPolyline::hasPlinegen() const { return m_polyline.flags & kPlinegen; }
+
+void OdDbPolyline::setClosed(bool closed) {
+  assertWriteEnabled();
+  m_polyline.flags = closed ? m_polyline.flags | kClosed : m_polyline.flags & ~kClosed;
+}
+
+void OdDbPolyline::setPlinegen(bool on) {
+  assertWriteEnabled();
+  m_polyline.flags = on ? m_polyline.flags | kPlinegen : m_polyline.flags & ~kPlinegen;
+}
+
+void OdDbPolyline::setConstantWidth(double width) {
+  odcheck::finite(width);
+  assertWriteEnabled();
+  m_polyline.constantWidth = width;
+}
+
+void OdDbPolyline::setElevation(double elevation) {
+  odcheck::finite(elevation);
+  assertWriteEnabled();
+  m_polyline.elevation = elevation;
+}
+
+void OdDbPolyline::setThickness(double thickness) {
+  odcheck::finite(thickness);
+  assertWriteEnabled();
+  m_polyline.thickness = thickness;
+}
+
+void OdDbPolyline::setNormal(const OdGeVector3d& normal) {
+  const OdGeVector3d n = odcheck::direction(normal);
+  assertWriteEnabled();
+  m_polyline.normal = n;
+}
+
+bool OdDbPolyline::getGeomExtents(OdGeExtents3d& extents) const {
+  extents = {};
+  const auto& vertices = m_polyline.vertices;
+  if (vertices.empty()) return false;
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_polyline.normal);
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    const Vertex& v = vertices[i];
+    extents.addPoint(toWorld * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation});
+    const bool last = i + 1 == vertices.size();
+    if (v.bulge != 0 && (!last || isClosed()))
+      addBulgeExtents(extents, v, vertices[last ? 0 : i + 1].point, toWorld, m_polyline.elevation);
+  }
+  const OdGeExtents3d base = extents;
+  const OdGeVector3d rise = m_polyline.normal * m_polyline.thickness;
+  extents.addPoint(base.minPoint() + rise);
+  extents.addPoint(base.maxPoint() + rise);
+  return true;
+}
+
+bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {
+  const OdGePlaneTransform plane(transform, m_polyline.normal);
+  if (!plane.valid) return false;
+  Data moved = m_polyline;
+  const double factor = plane.scale();
+  for (Vertex& v : moved.vertices) {
+    const OdGePoint3d place =
+        plane.inPlane * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation};
+    v.point = {place.x, place.y};
+    v.startWidth *= factor;
+    v.endWidth *= factor;
+    if (plane.mirrors) v.bulge = -v.bulge;
+    if (!odcheck::areFinite(v.point, v.startWidth, v.endWidth)) return false;
+  }
+  moved.elevation = (plane.inPlane * OdGePoint3d{0, 0, m_polyline.elevation}).z;
+  moved.constantWidth *= factor;
+  moved.thickness *= (transform * m_polyline.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.elevation, moved.constantWidth, moved.thickness)) return false;
+  assertWriteEnabled();
+  m_polyline = std::move(moved);
+  return true;
+}

@@ -1,0 +1,194 @@
+#include "drawing/entities/text.h"
+
+#include "drawing/checks.h"
+#include "drawing/database.h"
+#include "drawing/entities/plane_transform.h"
+
+namespace {
+constexpr int kBackwards = 2;
+constexpr int kUpsideDown = 4;
+} // namespace
+
+OdDbText::OdDbText() = default;
+
+void OdDbText::assignFrom(const OdDbObject& other) {
+  OdDbEntity::assignFrom(other);
+  m_text = static_cast<const OdDbText&>(other).m_text;
+}
+
+void OdDbText::setDatabaseDefaults(const OdDbDatabase& database) {
+  OdDbEntity::setDatabaseDefaults(database);
+  setTextStyle(database.currentTextStyle());
+  setHeight(database.sysVarReal("TEXTSIZE"));
+}
+
+void OdDbText::setTextString(const OdString& text) {
+  assertWriteEnabled();
+  m_text.string = text;
+}
+
+OdGePoint3d OdDbText::position() const {
+  return OdGeMatrix3d::planeToWorld(m_text.normal) * m_text.position;
+}
+
+void OdDbText::setPosition(const OdGePoint3d& position) {
+  odcheck::finite(position);
+  assertWriteEnabled();
+  m_text.position = OdGeMatrix3d::planeToWorld(m_text.normal).inverse() * position;
+}
+
+OdGePoint3d OdDbText::alignmentPoint() const {
+  return OdGeMatrix3d::planeToWorld(m_text.normal) * m_text.alignment;
+}
+
+void OdDbText::setAlignmentPoint(const OdGePoint3d& point) {
+  odcheck::finite(point);
+  assertWriteEnabled();
+  m_text.alignment = OdGeMatrix3d::planeToWorld(m_text.normal).inverse() * point;
+}
+
+void OdDbText::setHeight(double height) {
+  odcheck::positive(height);
+  assertWriteEnabled();
+  m_text.height = height;
+}
+
+void OdDbText::setRotation(double angle) {
+  odcheck::finite(angle);
+  assertWriteEnabled();
+  m_text.rotation = angle;
+}
+
+void OdDbText::setWidthFactor(double factor) {
+  odcheck::positive(factor);
+  assertWriteEnabled();
+  m_text.widthFactor = factor;
+}
+
+void OdDbText::setOblique(double angle) {
+  odcheck::finite(angle);
+  assertWriteEnabled();
+  m_text.oblique = angle;
+}
+
+void OdDbText::setTextStyle(OdDbObjectId style) {
+  assertWriteEnabled();
+  m_text.style = style;
+}
+
+OdDb::TextHorzMode OdDbText::horizontalMode() const {
+  return static_cast<OdDb::TextHorzMode>(m_text.horizontal);
+}
+
+void OdDbText::setHorizontalMode(OdDb::TextHorzMode mode) {
+  assertWriteEnabled();
+  m_text.horizontal = mode;
+}
+
+OdDb::TextVertMode OdDbText::verticalMode() const {
+  return static_cast<OdDb::TextVertMode>(m_text.vertical);
+}
+
+void OdDbText::setVerticalMode(OdDb::TextVertMode mode) {
+  assertWriteEnabled();
+  m_text.vertical = mode;
+}
+
+bool OdDbText::isDefaultAlignment() const {
+  return m_text.horizontal == OdDb::kTextLeft && m_text.vertical == OdDb::kTextBase;
+}
+
+bool OdDbText::isMirroredInX() const { return m_text.generation & kBackwards; }
+bool OdDbText::isMirroredInY() const { return m_text.generation & kUpsideDown; }
+
+void OdDbText::mirrorInX(bool mirror) {
+  assertWriteEnabled();
+  m_text.generation = mirror ? m_text.generation | kBackwards : m_text.generation & ~kBackwards;
+}
+
+void OdDbText::mirrorInY(bool mirror) {
+  assertWriteEnabled();
+  m_text.generation = mirror ? m_text.generation | kUpsideDown : m_text.generation & ~kUpsideDown;
+}
+
+void OdDbText::setThickness(double thickness) {
+  odcheck::finite(thickness);
+  assertWriteEnabled();
+  m_text.thickness = thickness;
+}
+
+void OdDbText::setNormal(const OdGeVector3d& normal) {
+  const OdGeVector3d n = odcheck::direction(normal);
+  assertWriteEnabled();
+  const OdGePoint3d place = position();
+  const OdGePoint3d fastened = alignmentPoint();
+  m_text.normal = n;
+  setPosition(place);
+  setAlignmentPoint(fastened);
+}
+
+bool OdDbText::getGeomExtents(OdGeExtents3d& extents) const {
+  extents = {};
+  if (m_text.string.isEmpty()) return false;
+  // Letters of the usual fonts are about six tenths as wide as they are high, and reach a third of
+  // their height below the base line.
+  const double h = m_text.height;
+  double width = 0.6 * h * m_text.widthFactor * static_cast<double>(m_text.string.size());
+  OdGePoint3d at = m_text.position;
+  double left = 0;
+  double bottom = 0;
+  if (!isDefaultAlignment()) {
+    if (m_text.horizontal == OdDb::kTextAlign || m_text.horizontal == OdDb::kTextFit) {
+      width = m_text.position.distanceTo(m_text.alignment);
+    } else {
+      at = m_text.alignment;
+      const bool middle = m_text.horizontal == OdDb::kTextMid;
+      if (middle || m_text.horizontal == OdDb::kTextCenter) left = -width / 2;
+      if (m_text.horizontal == OdDb::kTextRight) left = -width;
+      if (m_text.vertical == OdDb::kTextTop) bottom = -h;
+      if (middle || m_text.vertical == OdDb::kTextVertMid) bottom = -h / 2;
+      if (m_text.vertical == OdDb::kTextBottom) bottom = h / 3;
+    }
+  }
+  double low = bottom - h / 3;
+  double high = bottom + h;
+  double right = left + width;
+  if (isMirroredInX()) {
+    left = -left;
+    right = -right;
+  }
+  if (isMirroredInY()) {
+    low = -low;
+    high = -high;
+  }
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_text.normal) *
+                               OdGeMatrix3d::translation(at.asVector()) *
+                               OdGeMatrix3d::rotation(m_text.rotation, OdGeVector3d::zAxis());
+  for (const double x : {left, right})
+    for (const double y : {low, high}) extents.addPoint(toWorld * OdGePoint3d{x, y, 0});
+  return true;
+}
+
+bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
+  const OdGePlaneTransform plane(transform, m_text.normal);
+  if (!plane.valid) return false;
+  Data moved = m_text;
+  moved.position = plane.inPlane * m_text.position;
+  moved.alignment = plane.inPlane * m_text.alignment;
+  moved.height *= plane.scale();
+  moved.rotation = plane.angle(m_text.rotation);
+  if (plane.mirrors) {
+    // Mirrored letters run backwards along a base line that points the other way.
+    moved.rotation = odgeNormalAngle(moved.rotation + kOdaPi);
+    moved.generation ^= kBackwards;
+  }
+  moved.thickness *= (transform * m_text.normal).length();
+  moved.normal = plane.normal;
+  if (!odcheck::areFinite(moved.position, moved.alignment, moved.height, moved.rotation,
+                          moved.thickness) ||
+      moved.height <= 0)
+    return false;
+  assertWriteEnabled();
+  m_text = std::move(moved);
+  return true;
+}

@@ -1,0 +1,56 @@
+// Objects of classes that the database does not know.
+#pragma once
+
+#include "drawing/entities/entity.h"
+
+#include <vector>
+
+/// An object that is kept and written back as the file had it.
+class OdDbRawObject : public OdDbObject {
+  ODRX_DECLARE_MEMBERS(OdDbRawObject);
+
+ public:
+  OdDbRawObject() = default;
+  /// `name` is the name of the class in files.
+  explicit OdDbRawObject(QByteArray name)
+    : m_name(std::move(name)) {}
+
+  const char* dxfName() const override { return m_name.constData(); }
+  void assignFrom(const OdDbObject& other) override;
+
+ protected:
+  OdDbObjectPtr newInstance() const override { return odrxMake<OdDbRawObject>(m_name); }
+
+ private:
+  QByteArray m_name;
+};
+
+/// An entity that is kept and written back as the file had it, but for the common properties.
+class OdDbRawEntity : public OdDbEntity {
+  ODRX_DECLARE_MEMBERS(OdDbRawEntity);
+
+ public:
+  OdDbRawEntity() = default;
+  explicit OdDbRawEntity(QByteArray name)
+    : m_name(std::move(name)) {}
+
+  const char* dxfName() const override { return m_name.constData(); }
+  void assignFrom(const OdDbObject& other) override;
+  /// Raises OdError(eNotApplicable): what such an entity refers to cannot be told.
+  OdRxObjectPtr clone() const override;
+  /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
+  const std::vector<OdDbObjectId>& followers() const { return m_followers; }
+  void addFollower(OdDbObjectId id) { m_followers.push_back(id); }
+  bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
+  /// Unknown: false.
+  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  /// Not possible: false.
+  bool transformBy(const OdGeMatrix3d& transform) override;
+
+ protected:
+  OdDbObjectPtr newInstance() const override { return odrxMake<OdDbRawEntity>(m_name); }
+
+ private:
+  QByteArray m_name;
+  std::vector<OdDbObjectId> m_followers;
+};
