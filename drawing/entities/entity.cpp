@@ -107,3 +107,5 @@ void OdDbEntity::assignFrom(const OdDbObject& other) {
   OdDbObject::assignFrom(other);
   m_common = static_cast<const OdDbEntity&>(other).m_common;
 }
+
+void OdDbEntity::worldDraw(OdGiWorldDraw&) const {}

@@ -7,6 +7,8 @@
 #include "drawing/object.h"
 #include "drawing/transparency.h"
 
+class OdGiWorldDraw;
+
 /// A drawn object with the properties that all of them share. A new entity has nothing set: it is
 /// on no layer until its space gives it layer 0, or setDatabaseDefaults() the current values.
 class OdDbEntity : public OdDbObject {
@@ -44,6 +46,8 @@ class OdDbEntity : public OdDbObject {
 
   /// The box around the entity in world coordinates; false if it has none.
   virtual bool getGeomExtents(OdGeExtents3d& extents) const = 0;
+  /// Shows the entity piece by piece. Nothing for one that has no shape.
+  virtual void worldDraw(OdGiWorldDraw& draw) const;
   /// Moves, turns, scales or mirrors the entity. False if the entity cannot take the shape that it
   /// would have to take (a circle under unequal scales, or one where numbers end); it is then
   /// unchanged.
