@@ -1,0 +1,53 @@
+// VERTEX.
+#pragma once
+
+#include "drawing/entities/entity.h"
+
+#include <array>
+
+/// What the file knows of one corner of a POLYLINE.
+struct OdDbVertexData {
+  enum Flag : int {
+    kCurveFitExtra = 1,   ///< made by curve fitting
+    kTangentUsed = 2,     ///< the tangent counts
+    kSplineFit = 8,       ///< made by spline fitting
+    kSplineFrame = 16,    ///< a control point, not shown
+    k3dVertex = 32,       ///< of a polyline in space
+    k3dMesh = 64,         ///< of a mesh
+    kPolyfaceVertex = 128 ///< of a polyface: with kMeshVertex a place, without it a face
+  };
+
+  /// In the plane's coordinates for flat polylines, in the world's for all others.
+  OdGePoint3d point;
+  double startWidth = 0, endWidth = 0, bulge = 0;
+  double tangent = 0; ///< radians
+  int flags = 0, identifier = 0;
+  /// Of a face: the numbers of its corners from 1, negative where the edge behind is not shown, 0
+  /// where there is none.
+  std::array<int, 4> face{};
+  OdDbObjectId entry; ///< the corner's own object, once it is in a drawing
+
+  bool isFace() const { return (flags & kPolyfaceVertex) && !(flags & k3dMesh); }
+};
+
+/// The object that a corner of a POLYLINE is in files, with its own handle, layer and extended
+/// data. The polyline keeps the place and all else; nobody needs to open this.
+class OdDbVertex : public OdDbEntity {
+  ODDB_CONCRETE(OdDbVertex, "VERTEX")
+
+  const OdDbVertexData& vertex() const { return m_vertex; }
+  /// Gives the object what is written; the polyline does this before it writes.
+  void show(const OdDbVertexData& vertex, const char* ownerKind) {
+    m_vertex = vertex;
+    m_ownerKind = ownerKind;
+  }
+
+  bool transformBy(const OdGeMatrix3d&) override { return false; }
+  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
+  void dxfOut(OdDbDxfOut& out) const override;
+
+ private:
+  OdDbVertexData m_vertex;
+  const char* m_ownerKind = nullptr; ///< the last subclass of the entry
+};
