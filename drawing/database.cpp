@@ -1,19 +1,18 @@
 #include "drawing/database_data.h"
 
-OdDbStub& OdDbDatabaseData::stubFor(OdDbDatabase& database, OdDbHandle handle) {
-  OdDbStub*& entry = byHandle[handle];
-  if (!entry) {
-    entry = &stubs.emplace_back();
-    entry->handle = handle;
-    entry->database = &database;
+OdDbStub& OdDbDatabaseData::stubFor(OdDbHandle handle) {
+  std::uint32_t number = byHandle.find(handle);
+  if (number == OdDbHandleTable::kNone) {
+    number = stubs.add(handle);
+    byHandle.insert(number);
   }
-  return *entry;
+  return stubs[number];
 }
 
 void OdDbDatabaseData::noteChange(OdDbStub& stub) {
   modified = true;
-  if (stub.changePending || reactors.empty()) return;
-  stub.changePending = true;
+  if (stub.object->m_changePending || reactors.empty()) return;
+  stub.object->m_changePending = true;
   changed.push_back(&stub);
 }
 
@@ -27,7 +26,8 @@ OdDbDatabase::~OdDbDatabase() {
   m_data->tell([&](OdDbDatabaseReactor& r) { r.goodbye(*this); });
   m_data->undo.clear();
   // Whoever still holds an object keeps it, but it belongs to no drawing any more.
-  for (OdDbStub& stub : m_data->stubs) {
+  for (std::uint32_t i = 0; i < m_data->stubs.size(); ++i) {
+    OdDbStub& stub = m_data->stubs[i];
     if (!stub.object) continue;
     stub.object->m_stub = nullptr;
     stub.object->m_owner = {};
@@ -45,14 +45,14 @@ OdDbObjectId OdDbDatabase::addObject(OdDbObject* object, OdDbObjectId owner, OdD
   const bool isNew = handle.isNull();
   if (isNew) {
     // References to nothing may stand under handles that the file never gave out.
-    while (d.byHandle.contains(d.handseed)) ++d.handseed;
+    while (d.byHandle.find(d.handseed) != OdDbHandleTable::kNone) ++d.handseed;
     handle = d.handseed++;
   } else if (handle >= d.handseed) {
     d.handseed = handle + 1;
   }
-  OdDbStub& stub = d.stubFor(*this, handle);
+  OdDbStub& stub = d.stubFor(handle);
   stub.object = object;
-  stub.writeEnabled = true;
+  object->m_writeEnabled = true;
   object->m_stub = &stub;
   object->m_owner = owner;
   const OdDbObjectId id(&stub);
@@ -109,15 +109,17 @@ OdDbObjectId OdDbDatabase::getPlotStyleNameDictionaryId() const {
 }
 
 OdDbObjectId OdDbDatabase::getOdDbObjectId(OdDbHandle handle) const {
-  const auto at = m_data->byHandle.constFind(handle);
-  return at != m_data->byHandle.cend() && at.value()->object ? OdDbObjectId(at.value())
-                                                             : OdDbObjectId();
+  const std::uint32_t number = m_data->byHandle.find(handle);
+  if (number == OdDbHandleTable::kNone) return {};
+  OdDbStub& stub = m_data->stubs[number];
+  return stub.object ? OdDbObjectId(&stub) : OdDbObjectId();
 }
 
 std::size_t OdDbDatabase::approxNumObjects() const {
-  return static_cast<std::size_t>(
-      std::count_if(m_data->stubs.begin(), m_data->stubs.end(),
-                    [](const OdDbStub& stub) { return stub.object && !stub.erased; }));
+  std::size_t count = 0;
+  for (std::uint32_t i = 0; i < m_data->stubs.size(); ++i)
+    if (OdDbObjectId(&m_data->stubs[i]).isValid()) ++count;
+  return count;
 }
 
 OdDbHandle OdDbDatabase::handseed() const { return m_data->handseed; }
@@ -186,8 +188,9 @@ void OdDbDatabase::removeReactor(OdDbDatabaseReactor* reactor) {
 
 void OdDbDatabase::deliverChanges() {
   for (OdDbStub* stub : std::exchange(m_data->changed, {})) {
-    stub->changePending = false;
-    if (stub->object && !stub->erased)
+    if (!stub->object) continue;
+    stub->object->m_changePending = false;
+    if (!stub->object->m_erased)
       m_data->tell([&](OdDbDatabaseReactor& r) { r.objectModified(*this, OdDbObjectId(stub)); });
   }
 }

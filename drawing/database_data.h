@@ -4,8 +4,6 @@
 #include "drawing/database.h"
 #include "drawing/undo.h"
 
-#include <deque>
-
 /// A section or a part of one that is written back as it was read.
 struct OdDbRawSection {
   QByteArray name;
@@ -23,10 +21,12 @@ struct OdDbDatabaseData {
   OdDbDatabaseData(const OdDbDatabaseData&) = delete;
   OdDbDatabaseData& operator=(const OdDbDatabaseData&) = delete;
   explicit OdDbDatabaseData(OdDbDatabase& database)
-    : undo(database) {}
+    : stubs(database)
+    , byHandle(stubs)
+    , undo(database) {}
 
-  std::deque<OdDbStub> stubs;
-  QHash<quint64, OdDbStub*> byHandle;
+  OdDbStubPool stubs;
+  OdDbHandleTable byHandle;
   std::uint64_t handseed = 1;
 
   enum Table {
@@ -64,7 +64,7 @@ struct OdDbDatabaseData {
   std::vector<OdDbStub*> changed;
 
   /// The stub of a handle, made if there is none.
-  OdDbStub& stubFor(OdDbDatabase& database, OdDbHandle handle);
+  OdDbStub& stubFor(OdDbHandle handle);
   /// Notes that an object has changed or is about to.
   void noteChange(OdDbStub& stub);
   template <class F>

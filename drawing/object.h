@@ -10,6 +10,7 @@
 class OdDbDxfIn;
 class OdDbDxfOut;
 struct OdDbDxfResidue;
+struct OdDbObjectExtras;
 struct OdDbDxfTag;
 
 /// An object with a handle and an owner. It is made with odrxMake, filled, and then given to its
@@ -57,7 +58,7 @@ class OdDbObject : public OdRxObject {
   /// Writes the extended data that the class understands.
   virtual void dxfOutXData(OdDbDxfOut&) const {}
   /// Tags of the object that nobody understood, or null.
-  const OdDbDxfResidue* residue() const { return m_residue.get(); }
+  const OdDbDxfResidue* residue() const;
   /// As a setter: what is kept now can be undone.
   OdDbDxfResidue& editResidue();
 
@@ -72,14 +73,21 @@ class OdDbObject : public OdRxObject {
   virtual OdDbObjectPtr newInstance() const = 0;
 
  private:
+  friend class OdDbEntity;
   friend class OdDbDatabase;
+  friend struct OdDbDatabaseData;
   friend class OdDbUndo;
   friend class OdDbObjectId;
   friend class OdDbDxfIn;
 
+  // A drawing has millions of these: the first line fits behind the count of references.
+  std::uint32_t m_undoStep : 29 = 0; ///< the last step that keeps the object's former state
+  std::uint32_t m_erased : 1 = 0;
+  std::uint32_t m_writeEnabled : 1 = 0;
+  std::uint32_t m_changePending : 1 = 0; ///< reactors have still to learn of a change
   OdDbStub* m_stub = nullptr;
   OdDbObjectId m_owner;
-  std::unique_ptr<OdDbDxfResidue> m_residue;
+  std::unique_ptr<OdDbObjectExtras> m_extras;
 };
 
 /// Declares the members that every concrete class of the database overrides in the same way.

@@ -1,15 +1,15 @@
 #include "drawing/stub.h"
 
-bool OdDbObjectId::isValid() const { return m_stub && m_stub->object && !m_stub->erased; }
-bool OdDbObjectId::isErased() const { return m_stub && m_stub->erased; }
+bool OdDbObjectId::isValid() const { return m_stub && m_stub->object && !m_stub->object->m_erased; }
+bool OdDbObjectId::isErased() const { return m_stub && m_stub->object && m_stub->object->m_erased; }
 OdDbHandle OdDbObjectId::getHandle() const { return m_stub ? m_stub->handle : OdDbHandle(); }
-OdDbDatabase* OdDbObjectId::database() const { return m_stub ? m_stub->database : nullptr; }
+OdDbDatabase* OdDbObjectId::database() const { return m_stub ? m_stub->database() : nullptr; }
 
 OdDbObjectPtr OdDbObjectId::openObject(OdDb::OpenMode mode, bool openErased) const {
-  if (!m_stub || !m_stub->object || (m_stub->erased && !openErased)) return nullptr;
+  if (!m_stub || !m_stub->object || (m_stub->object->m_erased && !openErased)) return nullptr;
   // One reference is the drawing's own: whoever had the object open for writing is through.
-  if (m_stub->object->numRefs() == 1) m_stub->writeEnabled = false;
-  if (mode == OdDb::kForWrite) m_stub->writeEnabled = true;
+  if (m_stub->object->numRefs() == 1) m_stub->object->m_writeEnabled = false;
+  if (mode == OdDb::kForWrite) m_stub->object->m_writeEnabled = true;
   return m_stub->object;
 }
 

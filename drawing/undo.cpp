@@ -34,7 +34,7 @@ OdDbUndo::Step* OdDbUndo::step() {
   if (!m_open) {
     m_undone.clear();
     m_done.push_back({m_nextName, m_database.data().handseed, {}});
-    ++m_stamp;
+    nextStamp();
     m_open = true;
   }
   return &m_done.back();
@@ -42,8 +42,8 @@ OdDbUndo::Step* OdDbUndo::step() {
 
 void OdDbUndo::willModify(OdDbStub& stub) {
   Step* const current = step();
-  if (!current || stub.undoStep == m_stamp) return;
-  stub.undoStep = m_stamp;
+  if (!current || stub.object->m_undoStep == m_stamp) return;
+  stub.object->m_undoStep = m_stamp;
   OdDbObjectPtr state = stub.object->newInstance();
   state->assignFrom(*stub.object);
   current->changes.push_back(Modified{&stub, state});
@@ -61,12 +61,13 @@ void OdDbUndo::appended(OdDbStub& stub) {
     return;
   }
   // Its first state is the one that it has when the step ends.
-  stub.undoStep = m_stamp;
+  stub.object->m_undoStep = m_stamp;
   current->changes.push_back(Appended{&stub, nullptr});
 }
 
 void OdDbUndo::willErase(OdDbStub& stub) {
-  if (Step* const current = step()) current->changes.push_back(Erased{&stub, stub.erased});
+  if (Step* const current = step())
+    current->changes.push_back(Erased{&stub, stub.object->isErased()});
 }
 
 void OdDbUndo::willSetVar(int index) {
@@ -76,6 +77,8 @@ void OdDbUndo::willSetVar(int index) {
   const auto i = static_cast<std::size_t>(index);
   current->changes.push_back(VarSet{index, data.vars[i], data.varPresent[i] != 0});
 }
+
+void OdDbUndo::nextStamp() const { m_stamp = (m_stamp + 1) & kLastStamp; }
 
 bool OdDbUndo::undo() {
   m_open = false;
@@ -110,7 +113,7 @@ void OdDbUndo::abandon() {
 OdDbUndoMark OdDbUndo::mark() const {
   if (!m_recording) return {};
   // What an object is now has to be kept, though the step may know what it was before.
-  ++m_stamp;
+  nextStamp();
   return {m_record, m_open ? m_done.back().changes.size() : 0, m_database.data().handseed};
 }
 
@@ -125,7 +128,7 @@ bool OdDbUndo::rollBack(const OdDbUndoMark& mark) {
     std::uint64_t handseed = mark.handseed;
     exchangeHandseed(handseed);
   }
-  ++m_stamp;
+  nextStamp();
   if (step.changes.empty()) {
     m_done.pop_back();
     m_open = false;
@@ -191,14 +194,16 @@ void OdDbUndo::play(Appended& change, bool backwards) {
       change.listed = at != list->rend();
       if (change.listed) list->erase(std::next(at).base());
     }
+    change.number = data.byHandle.find(stub.handle);
     data.byHandle.remove(stub.handle);
+    object->m_changePending = false;
     stub.object = nullptr;
     // Whoever still holds the object may keep it longer than the drawing lives.
     object->m_stub = nullptr;
     change.detached = object;
   } else {
     if (change.listed) (block ? block->m_entities : table->m_records).push_back(id);
-    data.byHandle.insert(stub.handle, &stub);
+    data.byHandle.insert(change.number);
     stub.object = object;
     object->m_stub = &stub;
     change.detached = nullptr;
@@ -214,12 +219,12 @@ void OdDbUndo::play(Appended& change, bool backwards) {
 
 void OdDbUndo::play(Erased& change, bool) {
   OdDbStub& stub = *change.stub;
-  std::swap(stub.erased, change.erased);
+  const bool erased = std::exchange(change.erased, stub.object->isErased());
+  stub.object->m_erased = erased ? 1 : 0;
   if (const auto table = odrxCast<OdDbSymbolTable>(stub.object->ownerId().openObject().get()))
     table->renamed();
-  m_database.data().tell([&](OdDbDatabaseReactor& r) {
-    r.objectErased(m_database, OdDbObjectId(&stub), stub.erased);
-  });
+  m_database.data().tell(
+      [&](OdDbDatabaseReactor& r) { r.objectErased(m_database, OdDbObjectId(&stub), erased); });
 }
 
 void OdDbUndo::play(VarSet& change, bool) {

@@ -46,6 +46,7 @@ class OdDbUndo {
     OdDbStub* stub;
     OdDbObjectPtr detached; ///< the object while the step is undone
     bool listed = false;    ///< it stood in the list of its container
+    std::uint32_t number = 0;
   };
   struct Erased {
     OdDbStub* stub;
@@ -64,6 +65,7 @@ class OdDbUndo {
   };
 
   Step* step();
+  void nextStamp() const;
   void play(Step& step, bool backwards);
   void playBack(Step& step, std::size_t kept);
   void play(Change& change, bool backwards);
@@ -78,7 +80,8 @@ class OdDbUndo {
   OdString m_nextName;
   // Numbers of pieces between steps and marks are never used twice, so that an object's stamp
   // cannot be mistaken.
-  mutable std::uint32_t m_stamp = 0;
+  static constexpr std::uint32_t kLastStamp = (1u << 29) - 1;
+  mutable std::uint32_t m_stamp : 29 = 0;
   std::uint64_t m_record = 0;            ///< changes when marks lose their meaning
   std::uint64_t m_unrecordedHandles = 0; ///< handles below may belong to objects of no step
   bool m_recording = false;

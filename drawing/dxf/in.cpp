@@ -147,7 +147,7 @@ OdDbHandle OdDbDxfIn::handle(const OdDbDxfTag& tag) {
 
 OdDbObjectId OdDbDxfIn::reference(const OdDbDxfTag& tag) {
   const OdDbHandle value = handle(tag);
-  return value.isNull() ? OdDbObjectId() : OdDbObjectId(&data().stubFor(m_database, value));
+  return value.isNull() ? OdDbObjectId() : OdDbObjectId(&data().stubFor(value));
 }
 
 OdDbObjectId OdDbDxfIn::record(OdDbDatabaseData::Table table, std::string_view name) {
@@ -241,7 +241,7 @@ void OdDbDxfIn::readTags(OdDbObject& object) {
 void OdDbDxfIn::enter(OdDbObject& object, OdDbObjectId owner) {
   OdDbDatabaseData& d = data();
   OdDbHandle handle = m_handle;
-  if (!m_plain && !handle.isNull() && d.stubFor(m_database, handle).object) {
+  if (!m_plain && !handle.isNull() && d.stubFor(handle).object) {
     damage(QStringLiteral("the handle %1 of a %2 belongs to another object; it got a new one")
                .arg(handle.ascii(), QLatin1String(object.dxfName())));
     handle = {};
@@ -256,7 +256,7 @@ void OdDbDxfIn::enter(OdDbObject& object, OdDbObjectId owner) {
   // Few old files have handles, and those of a new drawing have theirs already.
   if (m_plain) handle = {};
   if (owner.isNull() && !m_namedOwner.isNull())
-    owner = OdDbObjectId(&d.stubFor(m_database, m_namedOwner));
+    owner = OdDbObjectId(&d.stubFor(m_namedOwner));
   m_database.addObject(&object, owner, handle);
 }
 
@@ -269,5 +269,5 @@ bool OdDbDxfIn::readObject(OdDbObject& object, OdDbObjectId owner) {
 void OdDbDxfIn::enterFollower(OdDbObject& object, OdDbObjectId leader) {
   enter(object, leader);
   if (!m_namedOwner.isNull() && !m_plain)
-    object.m_owner = OdDbObjectId(&data().stubFor(m_database, m_namedOwner));
+    object.m_owner = OdDbObjectId(&data().stubFor(m_namedOwner));
 }
