@@ -6,6 +6,11 @@
 #include <windows.h>
 #else
 #include <dlfcn.h>
+#include <link.h>
+
+#include <QFile>
+
+#include <cstring>
 #endif
 
 #ifdef Q_OS_WIN
@@ -13,6 +18,7 @@
 OdModuleHandle oddynlib::mainExecutable() { return GetModuleHandleW(nullptr); }
 
 OdModuleHandle oddynlib::loadedModule(const OdString& name) {
+  if (name.isEmpty()) return nullptr; // the system would give the program itself
   return GetModuleHandleW(reinterpret_cast<const wchar_t*>(name.utf16()));
 }
 
@@ -30,9 +36,36 @@ void oddynlib::unload(OdModuleHandle module) { FreeLibrary(static_cast<HMODULE>(
 
 #else
 
+namespace {
+
+/// True if the file is a library of which a part is missing at its end. The system maps such a file
+/// without looking, and the program dies when it touches the missing part.
+bool isCut(const QString& platformPath) {
+  QFile file(platformPath);
+  ElfW(Ehdr) header;
+  if (platformPath.isEmpty() || !file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray start = file.read(sizeof header);
+  if (!start.startsWith(ELFMAG)) return false;
+  if (start.size() < static_cast<qsizetype>(sizeof header)) return true;
+  std::memcpy(&header, start.constData(), sizeof header);
+  if (header.e_phentsize != sizeof(ElfW(Phdr))) return false; // the system refuses it itself
+  const auto size = static_cast<std::uint64_t>(file.size());
+  file.seek(static_cast<qint64>(header.e_phoff));
+  for (int i = 0; i < header.e_phnum; ++i) {
+    ElfW(Phdr) segment;
+    if (file.read(reinterpret_cast<char*>(&segment), sizeof segment) != sizeof segment) return true;
+    if (segment.p_type != PT_LOAD) continue;
+    if (segment.p_offset > size || segment.p_filesz > size - segment.p_offset) return true;
+  }
+  return false;
+}
+
+} // namespace
+
 OdModuleHandle oddynlib::mainExecutable() { return dlopen(nullptr, RTLD_LAZY); }
 
 OdModuleHandle oddynlib::loadedModule(const OdString& name) {
+  if (name.isEmpty()) return nullptr; // the system would give the program itself
   const OdString title =
       name.endsWith(QLatin1String(".dll"), Qt::CaseInsensitive) ? odpath::titleOf(name) : name;
   for (const OdString& candidate :
@@ -50,7 +83,12 @@ void* oddynlib::procAddress(OdModuleHandle module, const char* name) {
 }
 
 OdModuleHandle oddynlib::load(const OdString& path, OdString* reason) {
-  void* module = dlopen(odpath::toPlatform(path).toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
+  const OdString file = odpath::toPlatform(path);
+  if (isCut(file)) {
+    if (reason) *reason = QStringLiteral("%1: a part of the file is missing").arg(file);
+    return nullptr;
+  }
+  void* module = dlopen(file.toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
   if (!module && reason) *reason = OdString::fromLocal8Bit(dlerror());
   return module;
 }

@@ -3,6 +3,8 @@
 #include "frame/dynamic_library.h"
 #include "frame/error.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 
 namespace {
@@ -29,7 +31,16 @@ OdString refusal(OdModuleHandle handle) {
 
 } // namespace
 
-OdRxModuleLoader::~OdRxModuleLoader() { unloadAll(); }
+OdRxModuleLoader::~OdRxModuleLoader() {
+  while (!m_loaded.empty()) {
+    try {
+      unload(m_loaded.back().module);
+    } catch (const std::exception& error) {
+      // The others have to stop all the same, and nobody can catch what a destructor throws.
+      qWarning("%s", error.what());
+    }
+  }
+}
 
 OdRxModule* OdRxModuleLoader::load(const OdString& path, OdString* reason) {
   for (const Loaded& l : m_loaded)
@@ -38,13 +49,22 @@ OdRxModule* OdRxModuleLoader::load(const OdString& path, OdString* reason) {
   OdString& why = reason ? *reason : ignored;
   const OdModuleHandle handle = oddynlib::load(path, &why);
   if (!handle) return nullptr;
+  // One library can go by many paths. The system counts its loads, so this one is given up.
+  for (const Loaded& l : m_loaded)
+    if (l.handle == handle) {
+      oddynlib::unload(handle);
+      return l.module;
+    }
   why = refusal(handle);
+  OdRxModule* module = nullptr;
+  if (why.isEmpty()) {
+    oddynlib::function<OdRxCreateModuleObject>(handle, "odrxCreateModuleObject")(handle, &module);
+    if (!module) why = QStringLiteral("it gives no module object");
+  }
   if (!why.isEmpty()) {
     oddynlib::unload(handle);
     return nullptr;
   }
-  OdRxModule* module = nullptr;
-  oddynlib::function<OdRxCreateModuleObject>(handle, "odrxCreateModuleObject")(handle, &module);
   module->addRef();
   try {
     module->initApp();
@@ -64,6 +84,7 @@ bool OdRxModuleLoader::unload(OdRxModule* module) {
   if (at == m_loaded.end()) return false;
   const Loaded doomed = *at;
   m_loaded.erase(at);
+  // A module that fails here leaves things behind that point into its library, which then stays.
   doomed.module->uninitApp();
   doomed.module->release();
   oddynlib::unload(doomed.handle);

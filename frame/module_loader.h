@@ -18,14 +18,15 @@ class OdRxModuleLoader {
   OdRxModuleLoader() = default;
   OdRxModuleLoader(const OdRxModuleLoader&) = delete;
   OdRxModuleLoader& operator=(const OdRxModuleLoader&) = delete;
-  /// Stops and unloads what is still loaded.
+  /// Stops and unloads what is still loaded. A module that fails at its stop is only warned of.
   ~OdRxModuleLoader();
 
   /// Loads the library at `path`, checks its version and calls its initApp. Null on failure, with
   /// the reason in `reason`; a module that fails at start stays in memory unused. A module that is
   /// loaded already is given back.
   OdRxModule* load(const OdString& path, OdString* reason);
-  /// Calls uninitApp and unloads the library; false if the module is not loaded here.
+  /// Calls uninitApp and unloads the library; false if the module is not loaded here. What
+  /// uninitApp raises goes to the caller; the library then stays in memory unused.
   bool unload(OdRxModule* module);
   void unloadAll();
 

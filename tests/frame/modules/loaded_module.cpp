@@ -1,4 +1,5 @@
-// A module that notes in a file what its loader does with it. Built four times, see CMakeLists.txt.
+// A module that notes in a file what its loader does with it. Built once for each kind, see
+// CMakeLists.txt.
 #include "frame/error.h"
 #include "frame/module_object.h"
 
@@ -22,7 +23,12 @@ class LoadedModule : public OdRxModule {
     throw OdError(eInvalidInput, QStringLiteral("it does not want to"));
 #endif
   }
-  void uninitApp() override { note("uninit "); }
+  void uninitApp() override {
+    note("uninit ");
+#ifdef MODULE_STUBBORN
+    throw OdError(eInvalidInput, QStringLiteral("it does not want to stop"));
+#endif
+  }
 };
 
 } // namespace
@@ -32,8 +38,13 @@ extern "C" __attribute__((visibility("default"))) void somethingElse() { note("c
 #else
 extern "C" __attribute__((visibility("default"))) void odrxCreateModuleObject(OdModuleHandle handle,
                                                                               OdRxModule** module) {
+#ifdef MODULE_HOLLOW
+  *module = nullptr;
+  Q_UNUSED(handle)
+#else
   static OdRxModule* const only = new LoadedModule(handle);
   *module = only;
+#endif
 }
 
 extern "C" __attribute__((visibility("default"))) void
