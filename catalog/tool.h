@@ -42,6 +42,8 @@ class OdTcTool : public OdTcCatalogItem {
   /// Ends the run: general properties and the agent's host variables go back. Nothing happens
   /// without a run.
   virtual void finish() = 0;
+  /// Ends the run without putting anything back: its document is gone.
+  virtual void abandonRun() = 0;
   /// The document in which the tool runs, or null.
   virtual IHostDocument* runningDocument() const = 0;
 };

@@ -18,6 +18,7 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   void setActionAgent(OdTcToolActionAgent* agent) override { getData()->setActionAgent(agent); }
   void execute(IHostDocument* document) override;
   void finish() override;
+  void abandonRun() override;
   bool applyToAgent(OdRxObject* object) override;
   bool updateAgent() override;
   bool isRunningMark() const override { return m_isRunning; }

@@ -87,8 +87,7 @@ void OdTcToolImpl::execute(IHostDocument* document) {
   if (guard) guard->setTool(this);
   try {
     if (!applyGeneralProperties(document)) {
-      m_document = nullptr;
-      m_isRunning = false;
+      abandonRun();
       leaveGuard();
       printNamed(QStringLiteral("\nTool \"%s\" cannot be run: the drawing is locked."), name());
       return;
@@ -112,6 +111,10 @@ void OdTcToolImpl::finish() {
   IHostDocument* const document = m_document;
   walkProperties(*this, document->database(), &OdTcProperty::restoreToDatabase);
   if (OdTcToolActionAgent* const agent = getActionAgent()) agent->endExecution(document);
+  abandonRun();
+}
+
+void OdTcToolImpl::abandonRun() {
   m_document = nullptr;
   m_isRunning = false;
 }

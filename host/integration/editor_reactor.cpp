@@ -34,20 +34,24 @@ void TcEditorReactor::rxUninit() { od_detail::unregisterClass(g_pDesc); }
 
 void TcEditorReactor::commandEnded(const OdString& name) {
   if (!m_tool) return;
-  // The document is going, and with it everything that would be put back.
-  if (m_finishingCommands.contains(name)) return clear();
+  if (m_finishingCommands.contains(name)) return dropTool();
   if (isPassedOver(name)) return;
   if (runsInCurrentDocument()) finishTool();
 }
 
 void TcEditorReactor::commandCancelled(const OdString&) {
-  if (!runsInCurrentDocument()) return;
-  if (m_armed) finishTool();
+  // Without a tool nothing is left that the awaited cancel could end.
+  if (m_tool && !runsInCurrentDocument()) return;
+  if (m_tool && m_armed) finishTool();
   m_armed = true;
 }
 
 void TcEditorReactor::commandFailed(const OdString&) {
   if (runsInCurrentDocument()) finishTool();
+}
+
+void TcEditorReactor::documentToBeDestroyed(IHostDocument* document) {
+  if (m_tool && m_tool->runningDocument() == document) dropTool();
 }
 
 bool TcEditorReactor::canRun(IHostDocument* document) const {
@@ -80,6 +84,12 @@ void TcEditorReactor::forget(const OdTcTool* tool) {
 bool TcEditorReactor::runsInCurrentDocument() const {
   const IHostDocument* const current = m_tool ? host::curDocument() : nullptr;
   return current && current == m_tool->runningDocument();
+}
+
+// The document is going, and with it everything that would be put back.
+void TcEditorReactor::dropTool() {
+  m_tool->abandonRun();
+  clear();
 }
 
 void TcEditorReactor::finishTool() {

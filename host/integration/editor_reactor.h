@@ -21,6 +21,8 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
   void commandEnded(const OdString& name) override;
   void commandCancelled(const OdString& name) override;
   void commandFailed(const OdString& name) override;
+  /// Drops the tool that runs in the document: a host may close it without a command.
+  void documentToBeDestroyed(IHostDocument* document) override;
 
   bool canRun(IHostDocument* document) const override;
   void setTool(OdTcTool* tool) override;
@@ -48,6 +50,7 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
  private:
   bool runsInCurrentDocument() const;
   void finishTool();
+  void dropTool();
 
   static OdRxClass* g_pDesc;
 

@@ -115,6 +115,9 @@ void TestEditorEvents::commandFailed(const OdString& name) {
 void TestEditorEvents::sysVarChanged(OdDbDatabase* database, const OdString& name) {
   each([&](HostEditorReactor* r) { r->sysVarChanged(database, name); });
 }
+void TestEditorEvents::documentToBeDestroyed(IHostDocument* document) {
+  each([&](HostEditorReactor* r) { r->documentToBeDestroyed(document); });
+}
 
 void TestEditorEvents::addReactor(HostEditorReactor* reactor) {
   if (onAdd) onAdd();

@@ -126,6 +126,7 @@ class TestEditorEvents : public IHostEditorEvents {
   void commandCancelled(const OdString& name);
   void commandFailed(const OdString& name);
   void sysVarChanged(OdDbDatabase* database, const OdString& name);
+  void documentToBeDestroyed(IHostDocument* document);
 
   void addReactor(HostEditorReactor* reactor) override;
   void removeReactor(HostEditorReactor* reactor) override;

@@ -120,6 +120,7 @@ TEST_P(EditorReactorStepTest, GoesWhereTheTableSays) {
 
   EXPECT_EQ(guard.tool() == tool.get(), step.outcome == Outcome::kStays);
   EXPECT_EQ(isFinished(QStringLiteral("Door")), step.outcome == Outcome::kFinished);
+  EXPECT_EQ(tool->runningDocument(), step.outcome == Outcome::kStays ? &here : nullptr);
   EXPECT_EQ(guard.isArmed(), step.isArmedAfter);
 }
 
@@ -192,6 +193,31 @@ TEST_F(EditorReactorTest, ForgetsAToolThatDies) {
   tool = nullptr;
   EXPECT_FALSE(guard.isRunning());
   host().events.commandEnded(QStringLiteral("LINE"));
+}
+
+TEST_F(EditorReactorTest, TheAwaitedCancelArmsEvenIfNoToolCameAfter) {
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  guard.stopTool();
+  host().events.commandCancelled(QStringLiteral("LINE"));
+  EXPECT_TRUE(guard.isArmed());
+  tool->execute(&here);
+  host().events.commandCancelled(QStringLiteral("LINE"));
+  EXPECT_FALSE(guard.isRunning());
+}
+
+TEST_F(EditorReactorTest, DropsAToolWhoseDocumentIsClosedWithoutACommand) {
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  host().events.documentToBeDestroyed(&other);
+  EXPECT_EQ(guard.tool(), tool.get());
+  host().events.documentToBeDestroyed(&here);
+  EXPECT_FALSE(guard.isRunning());
+  EXPECT_EQ(tool->runningDocument(), nullptr);
+  EXPECT_FALSE(tool->isRunningMark());
+  EXPECT_FALSE(isFinished(QStringLiteral("Door"))) << "nothing is left to be put back";
+  tool->execute(&other);
+  EXPECT_EQ(tool->runningDocument(), &other);
 }
 
 TEST_F(EditorReactorTest, IsOfTheHostsReactorClasses) {
