@@ -16,4 +16,10 @@ void TcEditorReactorEx::sysVarChanged(OdDbDatabase*, const OdString& name) {
   if (m_sink && name == QLatin1String("RefreshProperties")) m_sink->refreshProperties();
 }
 
+static TcEditorReactorExPtr g_reactor;
+
+TcEditorReactorEx* TcEditorReactorEx::instance() { return g_reactor; }
+
+void TcEditorReactorEx::setInstance(const TcEditorReactorExPtr& reactor) { g_reactor = reactor; }
+
 } // namespace tc

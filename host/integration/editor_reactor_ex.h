@@ -15,8 +15,7 @@ class IRefreshSink {
   ~IRefreshSink() = default;
 };
 
-/// Hears of the host's request to read the properties again. Whoever makes one adds it to the
-/// host's editor events and takes it out again.
+/// Hears of the host's request to read the properties again, for the dialog that is open.
 class TcEditorReactorEx final : public HostEditorReactor {
  public:
   /// The sink is not owned; null tells nobody.
@@ -30,10 +29,15 @@ class TcEditorReactorEx final : public HostEditorReactor {
   static void rxInit(OdRxModule* application);
   static void rxUninit();
 
+  /// The reactor of the module, which hears the host from start to stop; null before and after.
+  static TcEditorReactorEx* instance();
+  static void setInstance(const OdSmartPtr<TcEditorReactorEx>& reactor);
+
  private:
   static OdRxClass* g_pDesc;
 
   IRefreshSink* m_sink = nullptr;
 };
+using TcEditorReactorExPtr = OdSmartPtr<TcEditorReactorEx>;
 
 } // namespace tc

@@ -43,8 +43,11 @@ void OdTcModule::initApp() {
   TcEditorReactor::rxInit(this);
   TcEditorReactorEx::rxInit(this);
   createSingletons();
-  if (IHostEditorEvents* const events = editorEvents())
+  TcEditorReactorEx::setInstance(TcEditorReactorEx::desc()->create());
+  if (IHostEditorEvents* const events = editorEvents()) {
     events->addReactor(TcEditorReactor::instance());
+    events->addReactor(TcEditorReactorEx::instance());
+  }
   setVisibleWindowRefresh(&refreshVisibleWindow);
   OdTcPaletteManager::instance()->loadCatalogs();
   clearPaletteSetShown();
@@ -56,11 +59,14 @@ void OdTcModule::uninitApp() {
   setVisibleWindowRefresh(nullptr);
   ITcUiPaletteSet::setInstance(nullptr);
   unregisterModuleClasses();
-  if (IHostEditorEvents* const events = editorEvents())
+  if (IHostEditorEvents* const events = editorEvents()) {
     events->removeReactor(TcEditorReactor::instance());
+    events->removeReactor(TcEditorReactorEx::instance());
+  }
   TcEditorReactor::rxUninit();
   TcEditorReactorEx::rxUninit();
   releaseSingletons();
+  TcEditorReactorEx::setInstance(nullptr);
   removeToolSource();
 }
 

@@ -14,11 +14,11 @@ class OdTcModule final : public OdRxModule {
   ~OdTcModule() override;
 
   OdString moduleName() const override;
-  /// Registers the classes and the two reactor classes, makes the seven singletons, adds the editor
-  /// reactor to the host, loads the catalogs and registers the completion source. A failure is an
-  /// exception, and leaves in place what came before it.
+  /// Registers the classes and the two reactor classes, makes the seven singletons, adds the two
+  /// editor reactors to the host, loads the catalogs and registers the completion source. A failure
+  /// is an exception, and leaves in place what came before it.
   void initApp() override;
-  /// Deletes the classes first, then takes the reactor from the host, releases the singletons and
+  /// Deletes the classes first, then takes the reactors from the host, releases the singletons and
   /// removes the completion source. Objects that others still hold live on without a class.
   void uninitApp() override;
 

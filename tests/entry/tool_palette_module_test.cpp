@@ -30,6 +30,7 @@ OdString state() {
       {"storage", OdTcValueStorageImpl::instance() != nullptr},
       {"manager", OdTcPaletteManager::instance() != nullptr},
       {"reactor", TcEditorReactor::instance() != nullptr && IToolGuard::instance() != nullptr},
+      {"reactorEx", TcEditorReactorEx::instance() != nullptr},
       {"images", OdTcConveyorImpl::instance() != nullptr},
       {"saver", OdTcStateSaverImpl::instance() != nullptr},
       {"buffer", OdTcToolBuffer::instance() != nullptr},
@@ -42,7 +43,8 @@ OdString state() {
 }
 
 const OdString kAllParts = QStringLiteral(
-    "classes reactorClass reactorExClass storage manager reactor images saver buffer conveyor");
+    "classes reactorClass reactorExClass storage manager reactor reactorEx images saver buffer "
+    "conveyor");
 
 struct ToolPaletteModuleTest : testing::Test {
   ToolPaletteModuleTest() {
@@ -68,21 +70,26 @@ TEST_F(ToolPaletteModuleTest, ComesUpAndGoesDownInItsOrder) {
   module->initApp();
   EXPECT_EQ(host().log,
             QStringList({QStringLiteral("addReactor TcEditorReactor"),
+                         QStringLiteral("addReactor TcEditorReactorEx"),
                          QStringLiteral("print \nError: cannot find catalog file: C:\\no such "
                                         "folder\\DrfTcCatalog.dtc"),
                          QStringLiteral("registerSource tools")}));
-  EXPECT_EQ(host().events.reactors, std::vector<HostEditorReactor*>{TcEditorReactor::instance()});
+  EXPECT_EQ(host().events.reactors,
+            (std::vector<HostEditorReactor*>{TcEditorReactor::instance(),
+                                             TcEditorReactorEx::instance()}));
 
   host().log.clear();
   module->uninitApp();
   EXPECT_EQ(host().log,
-            QStringList({QStringLiteral("removeReactor"), QStringLiteral("removeSource tools")}));
-  EXPECT_EQ(states,
-            QStringList({QStringLiteral("reactor added: ") + kAllParts,
-                         QStringLiteral("source registered: ") + kAllParts,
-                         QStringLiteral("reactor removed: reactorClass reactorExClass storage "
-                                        "manager reactor images saver buffer conveyor"),
-                         QStringLiteral("source removed: ")}));
+            QStringList({QStringLiteral("removeReactor"), QStringLiteral("removeReactor"),
+                         QStringLiteral("removeSource tools")}));
+  const OdString withoutClasses = QStringLiteral(
+      "reactor removed: reactorClass reactorExClass storage manager reactor reactorEx images saver "
+      "buffer conveyor");
+  EXPECT_EQ(states, QStringList({QStringLiteral("reactor added: ") + kAllParts,
+                                 QStringLiteral("reactor added: ") + kAllParts,
+                                 QStringLiteral("source registered: ") + kAllParts, withoutClasses,
+                                 withoutClasses, QStringLiteral("source removed: ")}));
   EXPECT_EQ(state(), OdString());
 }
 
