@@ -38,6 +38,11 @@ const TcUiMenuEntries* TcUiMenuBuilder::entriesOf(const OdRxClass* itemClass) co
   return at == m_menus.end() ? nullptr : &at->second;
 }
 
+bool TcUiMenuBuilder::queryInterface(std::string_view id, void** out) {
+  *out = id == kId ? static_cast<ITcUiMenuBuilder*>(this) : nullptr;
+  return *out != nullptr;
+}
+
 void TcUiMenuBuilder::showItemMenu(OdTcCatalogItem* item) {
   m_item = item;
   const TcUiMenuEntries* const entries = item ? entriesOf(item->isA()) : nullptr;

@@ -30,6 +30,8 @@ class ITcUiMenuBuilder {
  public:
   static constexpr std::string_view kId = "ITcUiMenuBuilder";
 
+  /// Gives the builder as the interface `id`; false, and null in `out`, if it does not have it.
+  virtual bool queryInterface(std::string_view id, void** out) = 0;
   /// Remembers the item and shows the menu of its class in the owner window. An item of a class
   /// without a menu, or a missing owner, shows nothing.
   virtual void showItemMenu(OdTcCatalogItem* item) = 0;
@@ -53,6 +55,7 @@ class TcUiMenuBuilder : public ITcUiMenuBuilder {
   /// The entries of exactly this class; null if it has no menu.
   const TcUiMenuEntries* entriesOf(const OdRxClass* itemClass) const;
 
+  bool queryInterface(std::string_view id, void** out) override;
   void showItemMenu(OdTcCatalogItem* item) override;
   void setOwnerWindow(ITcUiMenuOwner* window) override { m_owner = window; }
   void setExtra(const OdVariant& value) override { m_extra = value; }

@@ -26,10 +26,11 @@ class ITcUiSelection {
 /// The one dockable window of the module. The views find one another through it.
 class ITcUiPaletteSet {
  public:
+  static constexpr std::string_view kId = "ITcUiPaletteSet";
   virtual ~ITcUiPaletteSet() = default;
 
-  /// Gives the part of the window that has the interface `id`; false, and null in `out`, if no part
-  /// has it.
+  /// Gives the window, or the part of it, that has the interface `id`; false, and null in `out`, if
+  /// none has it.
   virtual bool queryInterface(std::string_view id, void** out) = 0;
   virtual bool isVisible() const = 0;
   /// Shows the window.

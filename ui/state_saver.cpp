@@ -9,6 +9,11 @@ TcUiStateSaver::TcUiStateSaver() {
     m_section = section->openSection(host::ownText(QStringLiteral("ToolPaletteManager")), true);
 }
 
+bool TcUiStateSaver::queryInterface(std::string_view id, void** out) {
+  *out = id == kId ? static_cast<ITcUiStateSaver*>(this) : nullptr;
+  return *out != nullptr;
+}
+
 bool TcUiStateSaver::read(const OdString& key, OdVariant& out) const {
   return m_section && m_section->get(key, out);
 }

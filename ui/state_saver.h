@@ -15,6 +15,8 @@ class ITcUiStateSaver {
  public:
   static constexpr std::string_view kId = "ITcUiStateSaver";
 
+  /// Gives the saver as the interface `id`; false, and null in `out`, if it does not have it.
+  virtual bool queryInterface(std::string_view id, void** out) = 0;
   /// True when found; otherwise `out` is unchanged, so that the caller's default applies.
   virtual bool read(const OdString& key, OdVariant& out) const = 0;
   /// Stores the value and clears the variant.
@@ -31,6 +33,7 @@ class TcUiStateSaver : public ITcUiStateSaver {
   TcUiStateSaver();
   virtual ~TcUiStateSaver() = default;
 
+  bool queryInterface(std::string_view id, void** out) override;
   bool read(const OdString& key, OdVariant& out) const override;
   void write(const OdString& key, OdVariant& value) override;
 

@@ -20,6 +20,7 @@ bool isLoaded(const OdTcCatalog* wanted) {
 
 bool WindowlessPaletteSet::queryInterface(std::string_view id, void** out) {
   *out = nullptr;
+  if (id == ITcUiPaletteSet::kId) *out = static_cast<ITcUiPaletteSet*>(this);
   if (id == ITcUiSelection::kId) *out = static_cast<ITcUiSelection*>(this);
   if (id == ITcUiMenuBuilder::kId) *out = static_cast<ITcUiMenuBuilder*>(&m_menus);
   if (id == ITcUiStateSaver::kId) *out = static_cast<ITcUiStateSaver*>(&m_state);

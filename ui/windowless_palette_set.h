@@ -14,7 +14,7 @@ class WindowlessPaletteSet : public ITcUiPaletteSet,
                              public ITcUiSelection,
                              public OdTcCatalogItemReactor {
  public:
-  /// Answers for the selection, the menu builder and the state saver.
+  /// Answers for itself, the selection, the menu builder and the state saver.
   bool queryInterface(std::string_view id, void** out) override;
   bool isVisible() const override { return m_isVisible; }
   void show(int how, int activate, int update) override;

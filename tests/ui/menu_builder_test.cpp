@@ -44,6 +44,14 @@ TEST_F(MenuBuilderTest, ShowsTheMenuOfEachClass) {
   EXPECT_EQ(menuOf(nullptr), QStringLiteral("(none)"));
 }
 
+TEST_F(MenuBuilderTest, AnswersForItsOwnInterfaceOnly) {
+  void* found = nullptr;
+  EXPECT_TRUE(builder.queryInterface(ITcUiMenuBuilder::kId, &found));
+  EXPECT_EQ(found, static_cast<ITcUiMenuBuilder*>(&builder));
+  EXPECT_FALSE(builder.queryInterface("ITcUiStateSaver", &found));
+  EXPECT_EQ(found, nullptr);
+}
+
 TEST_F(MenuBuilderTest, DoesNotTranslateTheWords) {
   host().translations[QStringLiteral("Rename")] = QStringLiteral("Umbenennen");
   const TcUiMenuBuilder fresh;

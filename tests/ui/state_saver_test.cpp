@@ -25,6 +25,15 @@ TEST_F(StateSaverTest, AFirstRunSeesNoKeys) {
   }
 }
 
+TEST_F(StateSaverTest, AnswersForItsOwnInterfaceOnly) {
+  TcUiStateSaver saver;
+  void* found = nullptr;
+  EXPECT_TRUE(saver.queryInterface(ITcUiStateSaver::kId, &found));
+  EXPECT_EQ(found, static_cast<ITcUiStateSaver*>(&saver));
+  EXPECT_FALSE(saver.queryInterface("ITcUiMenuBuilder", &found));
+  EXPECT_EQ(found, nullptr);
+}
+
 TEST_F(StateSaverTest, WritesIntoTheNodeOfTheModule) {
   TcUiStateSaver saver;
   OdVariant width = std::int32_t{180};

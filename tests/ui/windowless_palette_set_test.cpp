@@ -33,6 +33,8 @@ TEST_F(WindowlessPaletteSetTest, IsShownWhenItIsMadeAndHidesWhenItIsClosed) {
 
 TEST_F(WindowlessPaletteSetTest, AnswersForItsParts) {
   void* part = &part;
+  EXPECT_TRUE(window.queryInterface(ITcUiPaletteSet::kId, &part));
+  EXPECT_EQ(part, static_cast<ITcUiPaletteSet*>(&window));
   EXPECT_TRUE(window.queryInterface(ITcUiSelection::kId, &part));
   EXPECT_EQ(part, static_cast<ITcUiSelection*>(&window));
   EXPECT_TRUE(window.queryInterface(ITcUiMenuBuilder::kId, &part));
