@@ -10,26 +10,26 @@ namespace {
 
 using LineField = OdDbDxfField<OdDbLine::Data>;
 constexpr LineField kLineFields[] = {
-    {39, &OdDbLine::Data::thickness, LineField::kUnlessPreset},
+    {39, &OdDbLine::Data::extrusion, LineField::kUnlessPreset},
     {10, &OdDbLine::Data::start},
     {11, &OdDbLine::Data::end},
-    {210, &OdDbLine::Data::normal, LineField::kUnlessPreset},
+    {210, &OdDbLine::Data::extrusion, LineField::kUnlessPreset},
 };
 
 using CircleField = OdDbDxfField<OdDbCircle::Data>;
 constexpr CircleField kCircleFields[] = {
-    {39, &OdDbCircle::Data::thickness, CircleField::kUnlessPreset},
+    {39, &OdDbCircle::Data::extrusion, CircleField::kUnlessPreset},
     {10, &OdDbCircle::Data::center},
     {40, &OdDbCircle::Data::radius},
-    {210, &OdDbCircle::Data::normal, CircleField::kUnlessPreset},
+    {210, &OdDbCircle::Data::extrusion, CircleField::kUnlessPreset},
 };
 
 using ArcField = OdDbDxfField<OdDbArc::Data>;
 constexpr ArcField kArcCircleFields[] = {
-    {39, &OdDbArc::Data::thickness, ArcField::kUnlessPreset},
+    {39, &OdDbArc::Data::extrusion, ArcField::kUnlessPreset},
     {10, &OdDbArc::Data::center},
     {40, &OdDbArc::Data::radius},
-    {210, &OdDbArc::Data::normal, ArcField::kUnlessPreset},
+    {210, &OdDbArc::Data::extrusion, ArcField::kUnlessPreset},
 };
 constexpr ArcField kArcFields[] = {
     {50, &OdDbArc::Data::startAngle, ArcField::kAngle},
@@ -38,7 +38,7 @@ constexpr ArcField kArcFields[] = {
 
 using TextField = OdDbDxfField<OdDbText::Data>;
 constexpr TextField kTextFields[] = {
-    {39, &OdDbText::Data::thickness, TextField::kUnlessPreset},
+    {39, &OdDbText::Data::extrusion, TextField::kUnlessPreset},
     {10, &OdDbText::Data::position},
     {40, &OdDbText::Data::height},
     {1, &OdDbText::Data::string},
@@ -48,7 +48,7 @@ constexpr TextField kTextFields[] = {
     {71, &OdDbText::Data::generation, TextField::kUnlessPreset},
     {72, &OdDbText::Data::horizontal, TextField::kUnlessPreset},
     {11, &OdDbText::Data::alignment, TextField::kUnlessPreset},
-    {210, &OdDbText::Data::normal, TextField::kUnlessPreset},
+    {210, &OdDbText::Data::extrusion, TextField::kUnlessPreset},
 };
 constexpr TextField kTextVertical = {73, &OdDbText::Data::vertical, TextField::kUnlessPreset};
 
@@ -57,110 +57,12 @@ constexpr PolylineField kPolylineFields[] = {
     {70, &OdDbPolyline::Data::flags},
     {43, &OdDbPolyline::Data::constantWidth, PolylineField::kUnlessPreset},
     {38, &OdDbPolyline::Data::elevation, PolylineField::kUnlessPreset},
-    {39, &OdDbPolyline::Data::thickness, PolylineField::kUnlessPreset},
+    {39, &OdDbPolyline::Data::extrusion, PolylineField::kUnlessPreset},
 };
-constexpr PolylineField kPolylineNormal = {210, &OdDbPolyline::Data::normal,
+constexpr PolylineField kPolylineNormal = {210, &OdDbPolyline::Data::extrusion,
                                            PolylineField::kUnlessPreset};
 
-/// A normal without length would leave the entity without a plane.
-void mendNormal(OdGeVector3d& normal, OdDbDxfIn& in) {
-  if (normal.isZeroLength()) {
-    in.damage(QStringLiteral("the normal of an entity has no length"));
-    normal = OdGeVector3d::zAxis();
-  }
-}
-
 } // namespace
-
-bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
-  if (!in.in("AcDbEntity")) return false;
-  switch (tag.code) {
-  case 100:
-    return true;
-  case 8:
-    m_common.layer = in.layer(tag.text);
-    return true;
-  case 6:
-    m_common.linetype = in.linetype(tag.text);
-    return true;
-  case 62: {
-    // A true colour comes with the nearest index before it.
-    const int index = std::abs(in.integer(tag, OdCmColor::kACIbyLayer));
-    if (index > OdCmColor::kACInone) return false;
-    if (!m_common.color.isByColor()) m_common.color.setColorIndex(index);
-    return true;
-  }
-  case 420: {
-    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
-    m_common.color.setRGB(static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
-                          static_cast<std::uint8_t>(rgb));
-    return true;
-  }
-  case 430: {
-    const OdString names = in.text(tag.text);
-    const qsizetype at = names.indexOf(QLatin1Char('$'));
-    m_common.color.setNames(names.mid(at + 1), at < 0 ? OdString() : names.left(at));
-    return true;
-  }
-  case 48:
-    m_common.linetypeScale = in.real(tag, m_common.linetypeScale);
-    return true;
-  case 60:
-    m_common.visible = in.integer(tag, 0) == 0;
-    return true;
-  case 67:
-    if (in.integer(tag, 0) != 0) in.setPaperSpace();
-    return true;
-  case 370: {
-    const int weight = in.integer(tag, OdDb::kLnWtByLayer);
-    if (!OdDb::isValidLineWeight(weight)) return false;
-    m_common.lineWeight = static_cast<OdDb::LineWeight>(weight);
-    return true;
-  }
-  case 440:
-    m_common.transparency =
-        OdCmTransparency::fromValue(static_cast<std::uint32_t>(in.longInteger(tag, 0)));
-    return true;
-  case 380: {
-    const int type = in.integer(tag, 0);
-    if (type < OdDb::kPlotStyleNameByLayer || type > OdDb::kPlotStyleNameById) return false;
-    m_common.plotStyleType = static_cast<OdDb::PlotStyleNameType>(type);
-    return true;
-  }
-  case 390:
-    m_common.plotStyle = in.reference(tag);
-    return true;
-  default:
-    return false;
-  }
-}
-
-void OdDbEntity::dxfInEnd(OdDbDxfIn&) {
-  if (!m_common.plotStyle.isNull()) m_common.plotStyleType = OdDb::kPlotStyleNameById;
-}
-
-void OdDbEntity::dxfOut(OdDbDxfOut& out) const {
-  const Common& c = m_common;
-  out.subclass("AcDbEntity");
-  if (out.isPaperSpace()) out.integer(67, 1);
-  out.recordName(8, c.layer, "0");
-  if (!c.linetype.isNull() && c.linetype != out.database().getLinetypeByLayerId())
-    out.recordName(6, c.linetype, "ByLayer");
-  if (!c.color.isByLayer()) out.integer(62, c.color.colorIndex());
-  if (c.linetypeScale != 1) out.real(48, c.linetypeScale);
-  if (!c.visible) out.integer(60, 1);
-  if (c.lineWeight != OdDb::kLnWtByLayer) out.integer(370, c.lineWeight);
-  if (c.color.isByColor() && out.version() >= OdDb::kR2004)
-    out.integer(420, c.color.color() & 0xFFFFFF);
-  if (c.color.hasNames() && out.version() >= OdDb::kR2004)
-    out.text(430, c.color.bookName() + QLatin1Char('$') + c.color.colorName());
-  if (c.transparency.value() != 0 && out.version() >= OdDb::kR2004)
-    out.integer(440, c.transparency.value());
-  if (c.plotStyleType == OdDb::kPlotStyleNameById)
-    out.reference(390, c.plotStyle);
-  else if (c.plotStyleType != OdDb::kPlotStyleNameByLayer)
-    out.integer(380, c.plotStyleType);
-}
 
 bool OdDbLine::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (OdDbEntity::dxfInTag(tag, in)) return true;
@@ -182,7 +84,7 @@ bool OdDbCircle::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbCircle::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
-  mendNormal(m_circle.normal, in);
+  oddxf::mendNormal(m_circle.extrusion, in);
 }
 
 void OdDbCircle::dxfOut(OdDbDxfOut& out) const {
@@ -202,7 +104,7 @@ bool OdDbArc::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbArc::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
-  mendNormal(m_arc.normal, in);
+  oddxf::mendNormal(m_arc.extrusion, in);
 }
 
 void OdDbArc::dxfOut(OdDbDxfOut& out) const {
@@ -230,7 +132,7 @@ bool OdDbText::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbText::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
-  mendNormal(m_text.normal, in);
+  oddxf::mendNormal(m_text.extrusion, in);
 }
 
 void OdDbText::dxfOut(OdDbDxfOut& out) const {
@@ -255,9 +157,9 @@ bool OdDbPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (OdDbEntity::dxfInTag(tag, in)) return true;
   if (!in.in("AcDbPolyline")) return false;
   auto& vertices = m_polyline.vertices;
-  const auto last = [&]() -> Vertex& {
-    if (vertices.empty()) vertices.emplace_back();
-    return vertices.back();
+  const auto last = [&] {
+    if (vertices.empty()) vertices.push_back({});
+    return vertices.size() - 1;
   };
   switch (tag.code) {
   case 100:
@@ -270,23 +172,23 @@ bool OdDbPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     return true;
   }
   case 10:
-    vertices.emplace_back();
-    last().point.x = in.real(tag, 0);
+    vertices.push_back({});
+    vertices.editPoint(last()).x = in.real(tag, 0);
     return true;
   case 20:
-    last().point.y = in.real(tag, 0);
+    vertices.editPoint(last()).y = in.real(tag, 0);
     return true;
   case 40:
-    last().startWidth = in.real(tag, 0);
+    vertices.setStartWidth(last(), in.real(tag, 0));
     return true;
   case 41:
-    last().endWidth = in.real(tag, 0);
+    vertices.setEndWidth(last(), in.real(tag, 0));
     return true;
   case 42:
-    last().bulge = in.real(tag, 0);
+    vertices.setBulge(last(), in.real(tag, 0));
     return true;
   case 91:
-    last().identifier = in.integer(tag, 0);
+    vertices.setIdentifier(last(), in.integer(tag, 0));
     return true;
   default:
     return oddxf::takeTag<Data>(kPolylineFields, m_polyline, tag, in) ||
@@ -296,8 +198,8 @@ bool OdDbPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbPolyline::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
-  mendNormal(m_polyline.normal, in);
-  m_polyline.vertices.shrink_to_fit();
+  oddxf::mendNormal(m_polyline.extrusion, in);
+  m_polyline.vertices.shrinkToFit();
 }
 
 void OdDbPolyline::dxfOut(OdDbDxfOut& out) const {
@@ -305,7 +207,7 @@ void OdDbPolyline::dxfOut(OdDbDxfOut& out) const {
   out.subclass("AcDbPolyline");
   out.integer(90, numVerts());
   oddxf::putFields<Data>(kPolylineFields, m_polyline, out);
-  for (const Vertex& v : m_polyline.vertices) {
+  for (const Vertex v : m_polyline.vertices) {
     out.point2d(10, v.point);
     if (v.startWidth != 0 || v.endWidth != 0) {
       out.real(40, v.startWidth);

@@ -3,6 +3,7 @@
 
 #include "drawing/dxf/in.h"
 #include "drawing/dxf/out.h"
+#include "drawing/geometry/extrusion.h"
 
 #include <span>
 #include <variant>
@@ -10,8 +11,10 @@
 /// One field of the record D.
 template <class D>
 struct OdDbDxfField {
-  int code; ///< for points that of x
-  std::variant<double D::*, int D::*, OdGePoint3d D::*, OdGeVector3d D::*, OdString D::*> member;
+  int code; ///< for points that of x; of an extrusion 39 is the thickness, all else the normal
+  std::variant<double D::*, int D::*, OdGePoint3d D::*, OdGeVector3d D::*, OdString D::*,
+               OdDbExtrusion D::*>
+      member;
   enum Form : std::uint8_t {
     kAlways,
     kUnlessPreset, ///< left out of the file while it has the value of a new record
@@ -49,6 +52,17 @@ bool takeTag(std::span<const OdDbDxfField<D>> fields, D& record, const OdDbDxfTa
       if (triple(f.code, record.*(*point))) return true;
     } else if (const auto* vector = std::get_if<OdGeVector3d D::*>(&f.member)) {
       if (triple(f.code, record.*(*vector))) return true;
+    } else if (const auto* extrusion = std::get_if<OdDbExtrusion D::*>(&f.member)) {
+      OdDbExtrusion& value = record.*(*extrusion);
+      if (f.code == 39) {
+        if (tag.code != 39) continue;
+        value.setThickness(in.real(tag, value.thickness()));
+        return true;
+      }
+      OdGeVector3d normal = value.normal();
+      if (!triple(f.code, normal)) continue;
+      value.setNormal(normal);
+      return true;
     } else if (f.code == tag.code) {
       if (const auto* number = std::get_if<double D::*>(&f.member)) {
         double& value = record.*(*number);
@@ -70,22 +84,38 @@ void putField(const OdDbDxfField<D>& f, const D& record, OdDbDxfOut& out) {
   std::visit(
       [&](auto member) {
         const auto& value = record.*member;
-        if (f.mayMiss() && value == kPreset.*member) return;
         using V = std::remove_cvref_t<decltype(value)>;
-        if constexpr (std::is_same_v<V, OdGePoint3d>)
-          out.point(f.code, value);
-        else if constexpr (std::is_same_v<V, OdGeVector3d>)
-          out.point(f.code, {value.x, value.y, value.z});
-        else if constexpr (std::is_same_v<V, OdString>)
-          out.text(f.code, value);
-        else if constexpr (std::is_same_v<V, int>)
-          out.integer(f.code, value);
-        else if (f.isAngle())
-          out.angle(f.code, value);
-        else
-          out.real(f.code, value);
+        if constexpr (std::is_same_v<V, OdDbExtrusion>) {
+          if (f.code == 39) {
+            if (!f.mayMiss() || value.thickness() != 0) out.real(39, value.thickness());
+          } else if (!f.mayMiss() || value.normal() != OdGeVector3d::zAxis()) {
+            out.point(f.code, {value.normal().x, value.normal().y, value.normal().z});
+          }
+          return;
+        } else {
+          if (f.mayMiss() && value == kPreset.*member) return;
+          if constexpr (std::is_same_v<V, OdGePoint3d>)
+            out.point(f.code, value);
+          else if constexpr (std::is_same_v<V, OdGeVector3d>)
+            out.point(f.code, {value.x, value.y, value.z});
+          else if constexpr (std::is_same_v<V, OdString>)
+            out.text(f.code, value);
+          else if constexpr (std::is_same_v<V, int>)
+            out.integer(f.code, value);
+          else if (f.isAngle())
+            out.angle(f.code, value);
+          else
+            out.real(f.code, value);
+        }
       },
       f.member);
+}
+
+/// A normal without length would leave the entity without a plane.
+inline void mendNormal(OdDbExtrusion& extrusion, OdDbDxfIn& in) {
+  if (!extrusion.normal().isZeroLength()) return;
+  in.damage(QStringLiteral("the normal of an entity has no length"));
+  extrusion.setNormal(OdGeVector3d::zAxis());
 }
 
 template <class D>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// A piece of a circle, counterclockwise about its normal from the start to the end angle.
 class OdDbArc : public OdDbEntity {
@@ -22,9 +23,9 @@ class OdDbArc : public OdDbEntity {
   void setStartAngle(double angle);
   double endAngle() const { return m_arc.endAngle; }
   void setEndAngle(double angle);
-  const OdGeVector3d& normal() const { return m_arc.normal; }
+  const OdGeVector3d& normal() const { return m_arc.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
-  double thickness() const { return m_arc.thickness; }
+  double thickness() const { return m_arc.extrusion.thickness(); }
   void setThickness(double thickness);
   /// In world coordinates.
   OdGePoint3d startPoint() const { return pointAt(m_arc.startAngle); }
@@ -43,8 +44,7 @@ class OdDbArc : public OdDbEntity {
     OdGePoint3d center;
     double radius = 1;
     double startAngle = 0, endAngle = kOdaPi;
-    double thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    OdDbExtrusion extrusion;
   };
 
  private:

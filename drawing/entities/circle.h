@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// A circle in the plane that its normal and its centre give.
 class OdDbCircle : public OdDbEntity {
@@ -16,9 +17,9 @@ class OdDbCircle : public OdDbEntity {
   double radius() const { return m_circle.radius; }
   /// Raises OdError(eInvalidInput) unless above 0.
   void setRadius(double radius);
-  const OdGeVector3d& normal() const { return m_circle.normal; }
+  const OdGeVector3d& normal() const { return m_circle.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
-  double thickness() const { return m_circle.thickness; }
+  double thickness() const { return m_circle.extrusion.thickness(); }
   void setThickness(double thickness);
 
   bool getGeomExtents(OdGeExtents3d& extents) const override;
@@ -31,8 +32,7 @@ class OdDbCircle : public OdDbEntity {
   struct Data {
     OdGePoint3d center;
     double radius = 1;
-    double thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    OdDbExtrusion extrusion;
   };
 
  private:

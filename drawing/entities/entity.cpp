@@ -1,11 +1,16 @@
 #include "drawing/entities/entity.h"
 
 #include "drawing/checks.h"
-#include "drawing/database.h"
+#include "drawing/database_data.h"
+#include "drawing/dxf/in.h"
+#include "drawing/dxf/out.h"
+#include "drawing/object_extras.h"
 
 OdDbEntity::OdDbEntity() = default;
 
 namespace {
+const OdDbObjectExtras kNoExtras;
+
 OdString nameOf(OdDbObjectId id) {
   const OdDbSymbolTableRecordPtr record = id.openObject(OdDb::kForRead, true);
   return record ? record->getName() : OdString();
@@ -15,18 +20,57 @@ void requireId(OdDbObjectId id, const char* what) {
   if (id.isNull())
     throw OdDbError(eNullObjectId, QStringLiteral("There is no such %1").arg(QLatin1String(what)));
 }
+
+bool isTrueColor(std::uint32_t value) { return value >> 24 == OdCmColor::kByColor; }
 } // namespace
+
+template <class M>
+void OdDbEntity::setExtra(M OdDbObjectExtras::*member, const M& value) {
+  if (!m_extras) {
+    if (value == kNoExtras.*member) return;
+    m_extras = std::make_unique<OdDbObjectExtras>();
+  }
+  (*m_extras).*member = value;
+}
+
+OdCmColor OdDbEntity::color() const {
+  OdCmColor color;
+  color.setColor(m_common.color);
+  if (m_extras) color.setNames(m_extras->colorName, m_extras->bookName);
+  return color;
+}
+
+void OdDbEntity::storeColor(const OdCmColor& color) {
+  m_common.color = color.color();
+  storeColorNames(color);
+}
+
+void OdDbEntity::storeColorNames(const OdCmColor& color) {
+  if (!color.hasNames() && !m_extras) return;
+  setExtra(&OdDbObjectExtras::colorName, color.colorName());
+  setExtra(&OdDbObjectExtras::bookName, color.bookName());
+}
+
+double OdDbEntity::linetypeScale() const {
+  return m_extras ? m_extras->linetypeScale : kNoExtras.linetypeScale;
+}
+OdCmTransparency OdDbEntity::transparency() const {
+  return m_extras ? m_extras->transparency : kNoExtras.transparency;
+}
+OdDbObjectId OdDbEntity::plotStyleNameId() const {
+  return m_extras ? m_extras->plotStyle : kNoExtras.plotStyle;
+}
 
 void OdDbEntity::setDatabaseDefaults(const OdDbDatabase& database) {
   assertWriteEnabled();
   m_common.layer = database.currentLayer();
-  m_common.color = database.currentColor();
+  storeColor(database.currentColor());
   m_common.linetype = database.currentLinetype();
-  m_common.linetypeScale = database.currentLinetypeScale();
+  setExtra(&OdDbObjectExtras::linetypeScale, database.currentLinetypeScale());
   m_common.lineWeight = database.currentLineWeight();
   m_common.plotStyleType = database.currentPlotStyleType();
-  m_common.plotStyle = database.currentPlotStyleId();
-  m_common.transparency = database.currentTransparency();
+  setExtra(&OdDbObjectExtras::plotStyle, database.currentPlotStyleId());
+  setExtra(&OdDbObjectExtras::transparency, database.currentTransparency());
 }
 
 OdString OdDbEntity::layer() const { return nameOf(m_common.layer); }
@@ -39,7 +83,7 @@ void OdDbEntity::setLayer(OdDbObjectId layer) {
 
 void OdDbEntity::setColor(const OdCmColor& color) {
   assertWriteEnabled();
-  m_common.color = color;
+  storeColor(color);
 }
 
 OdString OdDbEntity::linetype() const {
@@ -55,7 +99,7 @@ void OdDbEntity::setLinetype(OdDbObjectId linetype) {
 void OdDbEntity::setLinetypeScale(double scale) {
   odcheck::positive(scale);
   assertWriteEnabled();
-  m_common.linetypeScale = scale;
+  setExtra(&OdDbObjectExtras::linetypeScale, scale);
 }
 
 void OdDbEntity::setLineWeight(OdDb::LineWeight weight) {
@@ -67,11 +111,11 @@ void OdDbEntity::setLineWeight(OdDb::LineWeight weight) {
 
 void OdDbEntity::setTransparency(OdCmTransparency transparency) {
   assertWriteEnabled();
-  m_common.transparency = transparency;
+  setExtra(&OdDbObjectExtras::transparency, transparency);
 }
 
 OdString OdDbEntity::plotStyleName() const {
-  switch (m_common.plotStyleType) {
+  switch (plotStyleNameType()) {
   case OdDb::kPlotStyleNameByLayer:
     return QStringLiteral("ByLayer");
   case OdDb::kPlotStyleNameByBlock:
@@ -83,24 +127,28 @@ OdString OdDbEntity::plotStyleName() const {
   }
   if (!database()) return {};
   const OdDbDictionaryPtr styles = database()->getPlotStyleNameDictionaryId().openObject();
-  return styles ? styles->nameAt(m_common.plotStyle) : OdString();
+  return styles ? styles->nameAt(plotStyleNameId()) : OdString();
 }
 
 void OdDbEntity::setPlotStyleName(OdDb::PlotStyleNameType type, OdDbObjectId id) {
   if (type == OdDb::kPlotStyleNameById) requireId(id, "plot style");
   assertWriteEnabled();
   m_common.plotStyleType = type;
-  m_common.plotStyle = type == OdDb::kPlotStyleNameById ? id : OdDbObjectId();
+  setExtra(&OdDbObjectExtras::plotStyle, type == OdDb::kPlotStyleNameById ? id : OdDbObjectId());
 }
 
 void OdDbEntity::setVisibility(bool visible) {
   assertWriteEnabled();
-  m_common.visible = visible;
+  m_common.invisible = !visible;
 }
 
 void OdDbEntity::setPropertiesFrom(const OdDbEntity& other) {
   assertWriteEnabled();
   m_common = other.m_common;
+  storeColorNames(other.color());
+  setExtra(&OdDbObjectExtras::linetypeScale, other.linetypeScale());
+  setExtra(&OdDbObjectExtras::plotStyle, other.plotStyleNameId());
+  setExtra(&OdDbObjectExtras::transparency, other.transparency());
 }
 
 void OdDbEntity::assignFrom(const OdDbObject& other) {
@@ -109,3 +157,97 @@ void OdDbEntity::assignFrom(const OdDbObject& other) {
 }
 
 void OdDbEntity::worldDraw(OdGiWorldDraw&) const {}
+
+bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  if (!in.in("AcDbEntity")) return false;
+  switch (tag.code) {
+  case 100:
+    return true;
+  case 8:
+    m_common.layer = in.layer(tag.text);
+    return true;
+  case 6:
+    m_common.linetype = in.linetype(tag.text);
+    return true;
+  case 62: {
+    // A true colour comes with the nearest index before it.
+    const int index = std::abs(in.integer(tag, OdCmColor::kACIbyLayer));
+    if (index > OdCmColor::kACInone) return false;
+    if (!isTrueColor(m_common.color)) m_common.color = OdCmColor::fromColorIndex(index).color();
+    return true;
+  }
+  case 420: {
+    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
+    m_common.color =
+        OdCmColor::fromRgb(static_cast<std::uint8_t>(rgb >> 16),
+                           static_cast<std::uint8_t>(rgb >> 8), static_cast<std::uint8_t>(rgb))
+            .color();
+    return true;
+  }
+  case 430: {
+    const OdString names = in.text(tag.text);
+    const qsizetype at = names.indexOf(QLatin1Char('$'));
+    OdCmColor named;
+    named.setNames(names.mid(at + 1), at < 0 ? OdString() : names.left(at));
+    storeColorNames(named);
+    return true;
+  }
+  case 48:
+    setExtra(&OdDbObjectExtras::linetypeScale, in.real(tag, linetypeScale()));
+    return true;
+  case 60:
+    m_common.invisible = in.integer(tag, 0) != 0;
+    return true;
+  case 67:
+    if (in.integer(tag, 0) != 0) in.setPaperSpace();
+    return true;
+  case 370: {
+    const int weight = in.integer(tag, OdDb::kLnWtByLayer);
+    if (!OdDb::isValidLineWeight(weight)) return false;
+    m_common.lineWeight = static_cast<std::int16_t>(weight);
+    return true;
+  }
+  case 440:
+    setExtra(&OdDbObjectExtras::transparency,
+             OdCmTransparency::fromValue(static_cast<std::uint32_t>(in.longInteger(tag, 0))));
+    return true;
+  case 380: {
+    const int type = in.integer(tag, 0);
+    if (type < OdDb::kPlotStyleNameByLayer || type > OdDb::kPlotStyleNameById) return false;
+    m_common.plotStyleType = static_cast<std::uint8_t>(type);
+    return true;
+  }
+  case 390:
+    setExtra(&OdDbObjectExtras::plotStyle, in.reference(tag));
+    return true;
+  default:
+    return false;
+  }
+}
+
+void OdDbEntity::dxfInEnd(OdDbDxfIn&) {
+  if (!plotStyleNameId().isNull()) m_common.plotStyleType = OdDb::kPlotStyleNameById;
+}
+
+void OdDbEntity::dxfOut(OdDbDxfOut& out) const {
+  const Common& c = m_common;
+  out.subclass("AcDbEntity");
+  if (out.isPaperSpace()) out.integer(67, 1);
+  out.recordName(8, c.layer, "0");
+  if (!c.linetype.isNull() && c.linetype != out.database().getLinetypeByLayerId())
+    out.recordName(6, c.linetype, "ByLayer");
+  if (c.color != OdCmColor().color()) out.integer(62, color().colorIndex());
+  if (linetypeScale() != 1) out.real(48, linetypeScale());
+  if (c.invisible) out.integer(60, 1);
+  if (c.lineWeight != OdDb::kLnWtByLayer) out.integer(370, c.lineWeight);
+  if (out.version() >= OdDb::kR2004) {
+    const OdCmColor exact = color();
+    if (exact.isByColor()) out.integer(420, exact.color() & 0xFFFFFF);
+    if (exact.hasNames()) out.text(430, exact.bookName() + QLatin1Char('$') + exact.colorName());
+    if (transparency().value() != 0) out.integer(440, transparency().value());
+  }
+  if (c.plotStyleType == OdDb::kPlotStyleNameById)
+    out.reference(390, plotStyleNameId());
+  else if (c.plotStyleType != OdDb::kPlotStyleNameByLayer)
+    out.integer(380, c.plotStyleType);
+}

@@ -23,23 +23,25 @@ class OdDbEntity : public OdDbObject {
   OdString layer() const;
   /// `layer` is a record of the same drawing's layer table; a null id raises OdDbError.
   void setLayer(OdDbObjectId layer);
-  const OdCmColor& color() const { return m_common.color; }
+  OdCmColor color() const;
   void setColor(const OdCmColor& color);
   OdDbObjectId linetypeId() const { return m_common.linetype; }
   OdString linetype() const;
   void setLinetype(OdDbObjectId linetype);
-  double linetypeScale() const { return m_common.linetypeScale; }
+  double linetypeScale() const;
   void setLinetypeScale(double scale);
-  OdDb::LineWeight lineWeight() const { return m_common.lineWeight; }
+  OdDb::LineWeight lineWeight() const { return static_cast<OdDb::LineWeight>(m_common.lineWeight); }
   void setLineWeight(OdDb::LineWeight weight);
-  OdCmTransparency transparency() const { return m_common.transparency; }
+  OdCmTransparency transparency() const;
   void setTransparency(OdCmTransparency transparency);
-  OdDb::PlotStyleNameType plotStyleNameType() const { return m_common.plotStyleType; }
-  OdDbObjectId plotStyleNameId() const { return m_common.plotStyle; }
+  OdDb::PlotStyleNameType plotStyleNameType() const {
+    return static_cast<OdDb::PlotStyleNameType>(m_common.plotStyleType);
+  }
+  OdDbObjectId plotStyleNameId() const;
   OdString plotStyleName() const;
   /// `id` counts only with kPlotStyleNameById.
   void setPlotStyleName(OdDb::PlotStyleNameType type, OdDbObjectId id = OdDbObjectId());
-  bool isVisible() const { return m_common.visible; }
+  bool isVisible() const { return !m_common.invisible; }
   void setVisibility(bool visible);
   /// Layer, colour and the rest as `other` has them.
   void setPropertiesFrom(const OdDbEntity& other);
@@ -64,15 +66,19 @@ class OdDbEntity : public OdDbObject {
  private:
   friend class OdDbBlockTableRecord;
   friend class OdDbDxfIn;
+  /// What nearly every entity has; the rest is among the extras.
   struct Common {
-    OdDbObjectId layer, linetype, plotStyle;
-    OdCmColor color;
-    double linetypeScale = 1;
-    OdCmTransparency transparency;
-    OdDb::LineWeight lineWeight = OdDb::kLnWtByLayer;
-    OdDb::PlotStyleNameType plotStyleType = OdDb::kPlotStyleNameByLayer;
-    bool visible = true;
+    OdDbObjectId layer, linetype;
+    std::uint32_t color = OdCmColor().color();
+    std::int16_t lineWeight = OdDb::kLnWtByLayer;
+    std::uint8_t plotStyleType = OdDb::kPlotStyleNameByLayer;
+    bool invisible = false;
   };
+  /// Sets a member of the extras; nothing is made for a value that all entities start with.
+  template <class M>
+  void setExtra(M OdDbObjectExtras::*member, const M& value);
+  void storeColor(const OdCmColor& color);
+  void storeColorNames(const OdCmColor& color);
   Common m_common;
 };
 using OdDbEntityPtr = OdSmartPtr<OdDbEntity>;

@@ -29,18 +29,18 @@ void OdDbLine::setEndPoint(const OdGePoint3d& point) {
 void OdDbLine::setThickness(double thickness) {
   odcheck::finite(thickness);
   assertWriteEnabled();
-  m_line.thickness = thickness;
+  m_line.extrusion.setThickness(thickness);
 }
 
 void OdDbLine::setNormal(const OdGeVector3d& normal) {
   const OdGeVector3d n = odcheck::direction(normal);
   assertWriteEnabled();
-  m_line.normal = n;
+  m_line.extrusion.setNormal(n);
 }
 
 bool OdDbLine::getGeomExtents(OdGeExtents3d& extents) const {
   extents = {};
-  const OdGeVector3d rise = m_line.normal * m_line.thickness;
+  const OdGeVector3d rise = m_line.extrusion.rise();
   for (const OdGePoint3d& p : {m_line.start, m_line.end}) {
     extents.addPoint(p);
     extents.addPoint(p + rise);
@@ -52,10 +52,12 @@ bool OdDbLine::transformBy(const OdGeMatrix3d& transform) {
   Data moved = m_line;
   moved.start = transform * m_line.start;
   moved.end = transform * m_line.end;
-  const OdGeVector3d rise = transform * m_line.normal;
-  moved.thickness *= rise.length();
-  if (!rise.isZeroLength()) moved.normal = rise.normal();
-  if (!odcheck::areFinite(moved.start, moved.end, moved.thickness, moved.normal)) return false;
+  const OdGeVector3d rise = transform * m_line.extrusion.normal();
+  moved.extrusion.setThickness(moved.extrusion.thickness() * rise.length());
+  if (!rise.isZeroLength()) moved.extrusion.setNormal(rise.normal());
+  if (!odcheck::areFinite(moved.start, moved.end, moved.extrusion.thickness(),
+                          moved.extrusion.normal()))
+    return false;
   assertWriteEnabled();
   m_line = moved;
   return true;

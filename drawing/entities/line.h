@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// A straight line between two points of the world.
 class OdDbLine : public OdDbEntity {
@@ -13,10 +14,10 @@ class OdDbLine : public OdDbEntity {
   void setStartPoint(const OdGePoint3d& point);
   const OdGePoint3d& endPoint() const { return m_line.end; }
   void setEndPoint(const OdGePoint3d& point);
-  double thickness() const { return m_line.thickness; }
+  double thickness() const { return m_line.extrusion.thickness(); }
   void setThickness(double thickness);
   /// The direction of the thickness.
-  const OdGeVector3d& normal() const { return m_line.normal; }
+  const OdGeVector3d& normal() const { return m_line.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
   bool getGeomExtents(OdGeExtents3d& extents) const override;
@@ -28,8 +29,7 @@ class OdDbLine : public OdDbEntity {
   /// What the file knows of a line.
   struct Data {
     OdGePoint3d start, end;
-    double thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    OdDbExtrusion extrusion;
   };
 
  private:

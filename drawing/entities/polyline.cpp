@@ -38,22 +38,31 @@ void OdDbPolyline::assignFrom(const OdDbObject& other) {
   m_polyline = static_cast<const OdDbPolyline&>(other).m_polyline;
 }
 
-const OdDbPolyline::Vertex& OdDbPolyline::vertexAt(unsigned index) const {
+void OdDbPolyline::assertVertexAt(unsigned index) const {
   if (index >= numVerts()) throw OdError_InvalidIndex(index, numVerts());
+}
+
+OdDbPolyline::Vertex OdDbPolyline::vertexAt(unsigned index) const {
+  assertVertexAt(index);
   return m_polyline.vertices[index];
 }
 
-OdDbPolyline::Vertex& OdDbPolyline::editVertex(unsigned index) {
-  if (index >= numVerts()) throw OdError_InvalidIndex(index, numVerts());
+const OdGePoint2d& OdDbPolyline::getPointAt(unsigned index) const {
+  assertVertexAt(index);
+  return m_polyline.vertices.pointAt(index);
+}
+
+OdDbPolylineVertices& OdDbPolyline::editVertices(unsigned index) {
+  assertVertexAt(index);
   assertWriteEnabled();
-  return m_polyline.vertices[index];
+  return m_polyline.vertices;
 }
 
 void OdDbPolyline::setVertexAt(unsigned index, const Vertex& vertex) {
   odcheck::finite(vertex.point);
   for (const double number : {vertex.bulge, vertex.startWidth, vertex.endWidth})
     odcheck::finite(number);
-  editVertex(index) = vertex;
+  editVertices(index).set(index, vertex);
 }
 
 void OdDbPolyline::addVertexAt(unsigned index, const OdGePoint2d& point, double bulge,
@@ -62,36 +71,32 @@ void OdDbPolyline::addVertexAt(unsigned index, const OdGePoint2d& point, double 
   odcheck::finite(point);
   for (const double number : {bulge, startWidth, endWidth}) odcheck::finite(number);
   assertWriteEnabled();
-  m_polyline.vertices.insert(m_polyline.vertices.begin() + index,
-                             Vertex{point, bulge, startWidth, endWidth, 0});
+  m_polyline.vertices.insert(index, Vertex{point, bulge, startWidth, endWidth, 0});
 }
 
-void OdDbPolyline::removeVertexAt(unsigned index) {
-  editVertex(index);
-  m_polyline.vertices.erase(m_polyline.vertices.begin() + index);
-}
+void OdDbPolyline::removeVertexAt(unsigned index) { editVertices(index).erase(index); }
 
 void OdDbPolyline::setPointAt(unsigned index, const OdGePoint2d& point) {
   odcheck::finite(point);
-  editVertex(index).point = point;
+  editVertices(index).editPoint(index) = point;
 }
 
 void OdDbPolyline::setBulgeAt(unsigned index, double bulge) {
   odcheck::finite(bulge);
-  editVertex(index).bulge = bulge;
+  editVertices(index).setBulge(index, bulge);
 }
 
 void OdDbPolyline::setWidthsAt(unsigned index, double startWidth, double endWidth) {
   odcheck::finite(startWidth);
   odcheck::finite(endWidth);
-  Vertex& vertex = editVertex(index);
-  vertex.startWidth = startWidth;
-  vertex.endWidth = endWidth;
+  OdDbPolylineVertices& vertices = editVertices(index);
+  vertices.setStartWidth(index, startWidth);
+  vertices.setEndWidth(index, endWidth);
 }
 
 OdGePoint3d OdDbPolyline::worldPointAt(unsigned index) const {
   const OdGePoint2d& p = getPointAt(index);
-  return OdGeMatrix3d::planeToWorld(m_polyline.normal) *
+  return OdGeMatrix3d::planeToWorld(m_polyline.extrusion.normal()) *
          OdGePoint3d{p.x, p.y, m_polyline.elevation};
 }
 
@@ -123,40 +128,42 @@ void OdDbPolyline::setElevation(double elevation) {
 void OdDbPolyline::setThickness(double thickness) {
   odcheck::finite(thickness);
   assertWriteEnabled();
-  m_polyline.thickness = thickness;
+  m_polyline.extrusion.setThickness(thickness);
 }
 
 void OdDbPolyline::setNormal(const OdGeVector3d& normal) {
   const OdGeVector3d n = odcheck::direction(normal);
   assertWriteEnabled();
-  m_polyline.normal = n;
+  m_polyline.extrusion.setNormal(n);
 }
 
 bool OdDbPolyline::getGeomExtents(OdGeExtents3d& extents) const {
   extents = {};
   const auto& vertices = m_polyline.vertices;
   if (vertices.empty()) return false;
-  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_polyline.normal);
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_polyline.extrusion.normal());
   for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const Vertex& v = vertices[i];
+    const Vertex v = vertices[i];
     extents.addPoint(toWorld * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation});
     const bool last = i + 1 == vertices.size();
     if (v.bulge != 0 && (!last || isClosed()))
-      addBulgeExtents(extents, v, vertices[last ? 0 : i + 1].point, toWorld, m_polyline.elevation);
+      addBulgeExtents(extents, v, vertices.pointAt(last ? 0 : i + 1), toWorld,
+                      m_polyline.elevation);
   }
   const OdGeExtents3d base = extents;
-  const OdGeVector3d rise = m_polyline.normal * m_polyline.thickness;
+  const OdGeVector3d rise = m_polyline.extrusion.rise();
   extents.addPoint(base.minPoint() + rise);
   extents.addPoint(base.maxPoint() + rise);
   return true;
 }
 
 bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {
-  const OdGePlaneTransform plane(transform, m_polyline.normal);
+  const OdGePlaneTransform plane(transform, m_polyline.extrusion.normal());
   if (!plane.valid) return false;
   Data moved = m_polyline;
   const double factor = plane.scale();
-  for (Vertex& v : moved.vertices) {
+  for (std::size_t i = 0; i < moved.vertices.size(); ++i) {
+    Vertex v = moved.vertices[i];
     const OdGePoint3d place =
         plane.inPlane * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation};
     v.point = {place.x, place.y};
@@ -164,12 +171,15 @@ bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {
     v.endWidth *= factor;
     if (plane.mirrors) v.bulge = -v.bulge;
     if (!odcheck::areFinite(v.point, v.startWidth, v.endWidth)) return false;
+    moved.vertices.set(i, v);
   }
   moved.elevation = (plane.inPlane * OdGePoint3d{0, 0, m_polyline.elevation}).z;
   moved.constantWidth *= factor;
-  moved.thickness *= (transform * m_polyline.normal).length();
-  moved.normal = plane.normal;
-  if (!odcheck::areFinite(moved.elevation, moved.constantWidth, moved.thickness)) return false;
+  moved.extrusion.setThickness(moved.extrusion.thickness() *
+                               (transform * m_polyline.extrusion.normal()).length());
+  moved.extrusion.setNormal(plane.normal);
+  if (!odcheck::areFinite(moved.elevation, moved.constantWidth, moved.extrusion.thickness()))
+    return false;
   assertWriteEnabled();
   m_polyline = std::move(moved);
   return true;

@@ -2,31 +2,24 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
-
-#include <vector>
+#include "drawing/entities/polyline_vertices.h"
+#include "drawing/geometry/extrusion.h"
 
 /// Straight and curved pieces in one plane.
 class OdDbPolyline : public OdDbEntity {
   ODDB_CONCRETE(OdDbPolyline, "LWPOLYLINE")
 
-  /// One corner, with the piece that follows it. The bulge is the tangent of a quarter of the
-  /// piece's angle: 0 straight, positive counterclockwise, 1 a half circle.
-  struct Vertex {
-    OdGePoint2d point;
-    double bulge = 0, startWidth = 0, endWidth = 0;
-    int identifier = 0;
-    bool operator==(const Vertex&) const = default;
-  };
+  using Vertex = OdDbPolylineVertex;
 
   unsigned numVerts() const { return static_cast<unsigned>(m_polyline.vertices.size()); }
   /// Raises OdError_InvalidIndex. Points are in the coordinates of the polyline's plane.
-  const Vertex& vertexAt(unsigned index) const;
+  Vertex vertexAt(unsigned index) const;
   void setVertexAt(unsigned index, const Vertex& vertex);
   /// `index` may be numVerts().
   void addVertexAt(unsigned index, const OdGePoint2d& point, double bulge = 0,
                    double startWidth = 0, double endWidth = 0);
   void removeVertexAt(unsigned index);
-  const OdGePoint2d& getPointAt(unsigned index) const { return vertexAt(index).point; }
+  const OdGePoint2d& getPointAt(unsigned index) const;
   void setPointAt(unsigned index, const OdGePoint2d& point);
   double getBulgeAt(unsigned index) const { return vertexAt(index).bulge; }
   void setBulgeAt(unsigned index, double bulge);
@@ -44,9 +37,9 @@ class OdDbPolyline : public OdDbEntity {
   void setConstantWidth(double width);
   double elevation() const { return m_polyline.elevation; }
   void setElevation(double elevation);
-  double thickness() const { return m_polyline.thickness; }
+  double thickness() const { return m_polyline.extrusion.thickness(); }
   void setThickness(double thickness);
-  const OdGeVector3d& normal() const { return m_polyline.normal; }
+  const OdGeVector3d& normal() const { return m_polyline.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
   bool getGeomExtents(OdGeExtents3d& extents) const override;
@@ -57,14 +50,15 @@ class OdDbPolyline : public OdDbEntity {
 
   /// What the file knows of a polyline besides its corners.
   struct Data {
-    std::vector<Vertex> vertices;
+    OdDbPolylineVertices vertices;
     int flags = 0;
-    double constantWidth = 0, elevation = 0, thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    double constantWidth = 0, elevation = 0;
+    OdDbExtrusion extrusion;
   };
 
  private:
-  Vertex& editVertex(unsigned index);
+  void assertVertexAt(unsigned index) const;
+  OdDbPolylineVertices& editVertices(unsigned index);
   Data m_polyline;
 };
 using OdDbPolylinePtr = OdSmartPtr<OdDbPolyline>;

@@ -28,23 +28,23 @@ void OdDbText::setTextString(const OdString& text) {
 }
 
 OdGePoint3d OdDbText::position() const {
-  return OdGeMatrix3d::planeToWorld(m_text.normal) * m_text.position;
+  return OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()) * m_text.position;
 }
 
 void OdDbText::setPosition(const OdGePoint3d& position) {
   odcheck::finite(position);
   assertWriteEnabled();
-  m_text.position = OdGeMatrix3d::planeToWorld(m_text.normal).inverse() * position;
+  m_text.position = OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()).inverse() * position;
 }
 
 OdGePoint3d OdDbText::alignmentPoint() const {
-  return OdGeMatrix3d::planeToWorld(m_text.normal) * m_text.alignment;
+  return OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()) * m_text.alignment;
 }
 
 void OdDbText::setAlignmentPoint(const OdGePoint3d& point) {
   odcheck::finite(point);
   assertWriteEnabled();
-  m_text.alignment = OdGeMatrix3d::planeToWorld(m_text.normal).inverse() * point;
+  m_text.alignment = OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()).inverse() * point;
 }
 
 void OdDbText::setHeight(double height) {
@@ -114,7 +114,7 @@ void OdDbText::mirrorInY(bool mirror) {
 void OdDbText::setThickness(double thickness) {
   odcheck::finite(thickness);
   assertWriteEnabled();
-  m_text.thickness = thickness;
+  m_text.extrusion.setThickness(thickness);
 }
 
 void OdDbText::setNormal(const OdGeVector3d& normal) {
@@ -122,7 +122,7 @@ void OdDbText::setNormal(const OdGeVector3d& normal) {
   assertWriteEnabled();
   const OdGePoint3d place = position();
   const OdGePoint3d fastened = alignmentPoint();
-  m_text.normal = n;
+  m_text.extrusion.setNormal(n);
   setPosition(place);
   setAlignmentPoint(fastened);
 }
@@ -161,7 +161,7 @@ bool OdDbText::getGeomExtents(OdGeExtents3d& extents) const {
     low = -low;
     high = -high;
   }
-  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_text.normal) *
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()) *
                                OdGeMatrix3d::translation(at.asVector()) *
                                OdGeMatrix3d::rotation(m_text.rotation, OdGeVector3d::zAxis());
   for (const double x : {left, right})
@@ -170,7 +170,7 @@ bool OdDbText::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
-  const OdGePlaneTransform plane(transform, m_text.normal);
+  const OdGePlaneTransform plane(transform, m_text.extrusion.normal());
   if (!plane.valid) return false;
   Data moved = m_text;
   moved.position = plane.inPlane * m_text.position;
@@ -182,10 +182,11 @@ bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
     moved.rotation = odgeNormalAngle(moved.rotation + kOdaPi);
     moved.generation ^= kBackwards;
   }
-  moved.thickness *= (transform * m_text.normal).length();
-  moved.normal = plane.normal;
+  moved.extrusion.setThickness(moved.extrusion.thickness() *
+                               (transform * m_text.extrusion.normal()).length());
+  moved.extrusion.setNormal(plane.normal);
   if (!odcheck::areFinite(moved.position, moved.alignment, moved.height, moved.rotation,
-                          moved.thickness) ||
+                          moved.extrusion.thickness()) ||
       moved.height <= 0)
     return false;
   assertWriteEnabled();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// One line of text.
 class OdDbText : public OdDbEntity {
@@ -41,9 +42,9 @@ class OdDbText : public OdDbEntity {
   void mirrorInX(bool mirror);
   bool isMirroredInY() const;
   void mirrorInY(bool mirror);
-  double thickness() const { return m_text.thickness; }
+  double thickness() const { return m_text.extrusion.thickness(); }
   void setThickness(double thickness);
-  const OdGeVector3d& normal() const { return m_text.normal; }
+  const OdGeVector3d& normal() const { return m_text.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
   /// An estimate that needs no font: the characters' usual width.
@@ -56,8 +57,8 @@ class OdDbText : public OdDbEntity {
   /// What the file knows of a text; points in the coordinates of its plane, angles in radians.
   struct Data {
     OdGePoint3d position, alignment;
-    double height = 1, rotation = 0, widthFactor = 1, oblique = 0, thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    double height = 1, rotation = 0, widthFactor = 1, oblique = 0;
+    OdDbExtrusion extrusion;
     OdString string;
     OdDbObjectId style;
     int generation = 0, horizontal = 0, vertical = 0;
