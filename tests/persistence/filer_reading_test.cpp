@@ -228,6 +228,112 @@ TEST_F(FilerReading, KeepsQuietWithoutAHost) {
   EXPECT_TRUE(testhost::host().log.isEmpty());
 }
 
+TEST_F(FilerReading, KeepsPalettesValuesBesideThePaletteContentAsWell) {
+  const Reading reading =
+      readPalette("<X><PaletteContent><Palette><ID>1</ID></Palette></PaletteContent><Beside>"
+                  "<Palette ID=\"p\"><ID>inner</ID></Palette><Tool t=\"1\">text</Tool>"
+                  "<Box><Palette ID=\"q\"/></Box></Beside></X>");
+  EXPECT_TRUE(reading.isRead);
+  EXPECT_EQ(reading.root->log(), QStringLiteral("ID=1 ID=p Tool=text t=1 Box{ID=q}"));
+}
+
+/// A root that drives the filer by hand.
+class Driver : public RootRecord {
+ public:
+  std::function<void(OdTcFiler&)> drive;
+  bool readElements(OdTcFiler* filer) override {
+    drive(*filer);
+    return true;
+  }
+};
+
+void driveCatalog(const char* document, std::function<void(OdTcFiler&)> drive) {
+  useRecords();
+  const auto root = odrxMake<Driver>();
+  root->drive = std::move(drive);
+  const auto stream = odrxMake<OdMemoryStream>(QByteArray(document));
+  ASSERT_TRUE(makeCatalogFiler()->openCatalog(stream, root, false));
+}
+
+/// "name=value" for each pair, in the map's order.
+std::string pairsOf(const OdTcFieldMap& map) {
+  QStringList pairs;
+  for (const auto& [name, value] : map) pairs << name + u'=' + value.toString();
+  return pairs.join(u' ').toStdString();
+}
+
+TEST_F(FilerReading, ReadsTheTextOfAnElementOnlyIfItHasNoAttributes) {
+  driveCatalog("<Catalog><T> some text </T><E/><A b=\"2\" a=\"1\">x</A></Catalog>",
+               [](OdTcFiler& filer) {
+                 OdTcFieldMap map;
+                 EXPECT_TRUE(filer.readAttributes(map));
+                 EXPECT_EQ(pairsOf(map), "T= some text ");
+                 EXPECT_TRUE(filer.readAttributes(map)) << "the cursor stays";
+                 map.clear();
+                 EXPECT_TRUE(filer.advance());
+                 EXPECT_FALSE(filer.readAttributes(map));
+                 EXPECT_EQ(pairsOf(map), "");
+                 EXPECT_TRUE(filer.advance());
+                 EXPECT_TRUE(filer.readAttributes(map));
+                 EXPECT_EQ(pairsOf(map), "a=1 b=2");
+                 map.clear();
+                 EXPECT_FALSE(filer.advance());
+                 EXPECT_TRUE(filer.atEnd());
+                 EXPECT_FALSE(filer.readAttributes(map));
+                 EXPECT_FALSE(filer.readElement(map));
+                 EXPECT_EQ(pairsOf(map), "");
+               });
+}
+
+TEST_F(FilerReading, GoesOnToTheSiblingOfTheParentWhenAnObjectIsPoppedWithAdvance) {
+  driveCatalog("<X><Catalog><ID>1</ID><ID>2</ID></Catalog><Next><ID>3</ID></Next><Last/></X>",
+               [](OdTcFiler& filer) {
+                 const auto read = [&filer] {
+                   OdTcFieldMap map;
+                   return filer.readElement(map) ? pairsOf(map) : "nothing";
+                 };
+                 const auto object = odrxMake<Record>();
+                 filer.pushObject(object);
+                 EXPECT_EQ(filer.currentObject(), object.get());
+                 EXPECT_EQ(read(), "ID=1");
+                 filer.popObject(false);
+                 EXPECT_EQ(filer.currentObject(), nullptr);
+                 EXPECT_EQ(read(), "ID=2") << "the cursor stays";
+                 filer.pushObject(object);
+                 filer.popObject(true);
+                 EXPECT_EQ(filer.currentObject(), nullptr);
+                 EXPECT_EQ(read(), "ID=3");
+                 filer.popObject(true);
+                 EXPECT_TRUE(filer.atEnd()) << "that sibling has no children";
+                 filer.popObject(true);
+                 filer.popObject(true);
+                 EXPECT_TRUE(filer.atEnd()) << "there is no sibling any more";
+                 EXPECT_EQ(read(), "nothing");
+               });
+}
+
+TEST_F(FilerReading, LinksAnObjectToTheOwnerThatIsGivenOrToTheInnermostOne) {
+  driveCatalog("<Catalog><Box a=\"1\"><Node/></Box><Box/><Box/><Unknown a=\"1\"/></Catalog>",
+               [](OdTcFiler& filer) {
+                 const auto outer = odrxMake<Record>(), other = odrxMake<Record>();
+                 const OdTcPersistPtr lonely = filer.readObject(nullptr);
+                 ASSERT_TRUE(lonely);
+                 EXPECT_EQ(lonely->owner(), nullptr);
+                 EXPECT_EQ(static_cast<Record*>(lonely.get())->log(), QStringLiteral("a=1 Node{}"));
+                 filer.pushObject(outer);
+                 const OdTcPersistPtr given = filer.readObject(other);
+                 const OdTcPersistPtr found = filer.readObject(nullptr);
+                 ASSERT_TRUE(given && found);
+                 EXPECT_EQ(given->owner(), other.get());
+                 EXPECT_EQ(found->owner(), outer.get());
+                 EXPECT_FALSE(filer.readObject(nullptr)) << "no class has this element";
+                 EXPECT_FALSE(filer.atEnd()) << "and it is still to be read";
+                 filer.advance();
+                 EXPECT_FALSE(filer.readObject(outer));
+                 filer.popObject(false);
+               });
+}
+
 class BrokenStream : public OdMemoryStream {
  public:
   BrokenStream()

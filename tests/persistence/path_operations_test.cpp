@@ -1,5 +1,6 @@
 #include "persistence/path_operations.h"
 
+#include "frame/file_path.h"
 #include "host/host_locator.h"
 #include "persistence/value_storage.h"
 #include "support/failing_services.h"
@@ -87,6 +88,22 @@ TEST_F(Paths, CollapseTheFirstFolderThatIsMet) {
   EXPECT_EQ(collapsed(u"c:\\users\\me\\a"), "-(unchanged)");
 }
 
+TEST_F(Paths, CollapseTheFirstMacroInOrderOfTextIfTwoMatch) {
+  set("Shx", u"C:\\Users\\me\\fonts");
+  set("ToolPaletteDir", u"C:\\Users\\me\\tools");
+  EXPECT_EQ(collapsed(u"C:\\Users\\me\\fonts\\a.shx"), "+%ShxFolder%\\a.shx");
+  EXPECT_EQ(collapsed(u"C:\\Users\\me\\tools\\a"), "+%UserProfileFolder%\\tools\\a")
+      << "the longer folder belongs to a later macro";
+  set("Shx", u"D:\\fonts");
+  EXPECT_EQ(collapsed(u"C:\\Users\\me|D:\\fonts"), "+C:\\Users\\me|%ShxFolder%")
+      << "the order of the macros counts, not that of the path";
+}
+
+TEST_F(Paths, CollapseTheFirstValueOfAMacroThatTheyHold) {
+  set("Shx", u"C:\\none;C:\\f2;C:\\f1");
+  EXPECT_EQ(collapsed(u"C:\\f1|C:\\f2"), "+C:\\f1|%ShxFolder%");
+}
+
 TEST_F(Paths, StayWithoutAUsersFolder) {
   m_services.folder.clear();
   set("Shx", u"C:\\f1");
@@ -142,6 +159,13 @@ TEST_F(Paths, AreNormalised) {
       {u"C:\\a..\\..b\\c", "C:\\a..\\..b\\c"},
       {u"\\a\\..\\..\\b", "\\..\\b"},
       {u"\\\\srv\\share\\..\\x", "\\\\srv\\x"},
+      {u"\\.\\a", "\\a"},
+      {u"a\\.\\..\\b", "a\\..\\b"},
+      {u"C:\\a\\b\\.\\..\\c", "C:\\a\\c"},
+      {u"C:/a/../b", "C:/a/../b"},
+      {u".", "."},
+      {u"..", ".."},
+      {u"\\..\\", "\\..\\"},
       {u"", ""},
   };
   for (const Pair& c : cases) {
@@ -178,6 +202,11 @@ TEST_F(Paths, AreCombinedWithTheFolderOfABaseFile) {
       {u".\\Images\\x.png", u"C:\\a\\file.dtc", "C:\\a\\Images\\x.png"},
       {u"..\\x.png", u"C:\\a\\b\\file.dtc", "C:\\a\\x.png"},
       {u"", u"C:\\a\\file.dtc", "C:\\a\\"},
+      {u"x", u"C:\\a\\", "C:\\a\\x"},
+      {u".", u"\\file.dtc", ""},
+      {u"..", u"C:\\a\\file.dtc", "C:\\a\\.."},
+      {u"..\\..\\..\\x", u"C:\\a\\file.dtc", "C:\\..\\..\\x"},
+      {u"D:\\x", u"C:\\a\\file.dtc", "C:\\a\\D:\\x"},
   };
   for (const Combination& c : cases)
     EXPECT_EQ(
@@ -189,7 +218,9 @@ TEST_F(Paths, LoseWhatNoFileNameHolds) {
   const Pair cases[] = {{u"a/b:c", "abc"},
                         {u"\\<>/?:;*|,='\"", ""},
                         {u"K\u00fcche 1.2", "K\xC3\xBC"
-                                            "che 1.2"}};
+                                            "che 1.2"},
+                        {u"(a) [b] {c} %d% & e!", "(a) [b] {c} %d% & e!"},
+                        {u"", ""}};
   for (const Pair& c : cases) {
     OdString name = OdString::fromUtf16(c.in);
     cleanFileName(name);
@@ -207,6 +238,9 @@ TEST_F(Paths, AreSplitAtSemicolons) {
   EXPECT_EQ(splitPathList(QStringLiteral("a")), QStringList(QStringLiteral("a")));
   EXPECT_EQ(splitPathList(OdString()), QStringList(OdString()));
   EXPECT_TRUE(splitPathList(QStringLiteral(";")).isEmpty());
+  EXPECT_TRUE(splitPathList(QStringLiteral(";;;")).isEmpty());
+  EXPECT_EQ(splitPathList(QStringLiteral("  ")), QStringList(QStringLiteral("  ")));
+  EXPECT_EQ(split(u"b;a;b"), "b|a|b") << "what stands twice is given twice";
 }
 
 TEST_F(Paths, AreRelativeWithoutSeparatorOrDrive) {
@@ -244,6 +278,21 @@ TEST_F(Paths, OfTheModulesOwnFoldersFollowTheUsersData) {
   EXPECT_EQ(defaultPalettesFolder(), QStringLiteral("C:\\Users\\me\\data\\ToolPalette\\Palettes"));
   EXPECT_EQ(defaultImagesFolder(),
             QStringLiteral("C:\\Users\\me\\data\\ToolPalette\\Palettes\\Images"));
+}
+
+TEST_F(Paths, OfTheModulesOwnFoldersBeginWithTheSeparatorWithoutAHost) {
+  withoutHost();
+  EXPECT_EQ(baseFolder(), QStringLiteral("\\ToolPalette"));
+  EXPECT_EQ(defaultCatalogFile(), QStringLiteral("\\ToolPalette\\DrfTcCatalog.dtc"));
+}
+
+TEST_F(Paths, OfACatalogsPalettesAreGivenEvenIfTheyCannotBeMade) {
+  QTemporaryDir temporary;
+  m_services.deniedFolder = temporary.path();
+  const OdString folder = odpath::fromPlatform(temporary.path());
+  EXPECT_EQ(palettesFolderOf(folder + QStringLiteral("\\DrfTcCatalog.dtc")),
+            folder + QStringLiteral("\\Palettes"));
+  EXPECT_FALSE(QDir(temporary.filePath(QStringLiteral("Palettes"))).exists());
 }
 
 TEST_F(Paths, OfACatalogsPalettesAreMadeWhenTheyAreAskedFor) {
