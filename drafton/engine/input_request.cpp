@@ -58,10 +58,12 @@ InputRequest::InputRequest(const PointPrompt& prompt)
   m_base = prompt.base;
   m_allowText = prompt.allowText;
   m_shownDefault = prompt.enterText.toString();
-  if (m_keywords.words().contains(m_shownDefault))
+  if (m_keywords.words().contains(m_shownDefault)) {
     m_enterKeyword = m_shownDefault;
-  else if (!m_shownDefault.isEmpty())
+    m_shownDefault = m_keywords.shownWord(m_enterKeyword);
+  } else if (!m_shownDefault.isEmpty()) {
     m_shownDefault = translated(m_shownDefault);
+  }
 }
 
 InputRequest::InputRequest(const DistancePrompt& prompt)
@@ -107,7 +109,8 @@ InputRequest::InputRequest(const StringPrompt& prompt)
 
 InputRequest::InputRequest(const KeywordPrompt& prompt)
   : InputRequest(Kind::kKeyword, prompt.text, prompt.keywords, prompt.allowEmpty) {
-  m_shownDefault = m_enterKeyword = prompt.defaultValue.toString();
+  m_enterKeyword = prompt.defaultValue.toString();
+  m_shownDefault = m_keywords.shownWord(m_enterKeyword);
 }
 
 InputRequest::InputRequest(const OdString& prompt, bool allowBlanks)
@@ -120,8 +123,8 @@ OdString InputRequest::shown() const {
   if (m_firstPoint) return translated(u"Specify second point") + QStringLiteral(": ");
   OdString text = translated(m_text);
   if (!m_keywords.isEmpty())
-    text += (m_kind == Kind::kKeyword ? QStringLiteral(" [%1]") : QStringLiteral(" or [%1]"))
-                .arg(m_keywords.shown());
+    text = (m_kind == Kind::kKeyword ? QStringLiteral("%1 [%2]") : translated(u"%1 or [%2]"))
+               .arg(text, m_keywords.shown());
   if (!m_shownDefault.isEmpty()) text += QStringLiteral(" <%1>").arg(m_shownDefault);
   return text + QStringLiteral(": ");
 }
