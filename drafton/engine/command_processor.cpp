@@ -351,9 +351,11 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
   m_engine.events().fire([&](HostEditorReactor& r) {
     if (outcome == Outcome::kEnded) r.commandEnded(name);
     if (outcome == Outcome::kFailed) r.commandFailed(name);
-    // One cancel is one event: what the outermost command ran ends with it. A module that sends a
-    // cancel and waits for its event would take a second one for the user's.
-    if (outcome == Outcome::kCancelled && isOutermost) r.commandCancelled(name);
+    // One cancel is one event, that of the outermost command: what it ran ends with it. A module
+    // that sends a cancel and waits for its event would take a second one for the user's. A command
+    // that gives up by itself while the one around it goes on has an event of its own.
+    if (outcome == Outcome::kCancelled && (isOutermost || !frame->isCancelled))
+      r.commandCancelled(name);
   });
   // A macro that opens a drawing goes on in it.
   if (CommandProcessor& now = m_engine.currentProcessor(); isOutermost && &now != this)

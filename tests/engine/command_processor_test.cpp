@@ -284,6 +284,13 @@ TEST_F(CommandProcessorTest, OneCancelOfNestedCommandsIsOneEvent) {
   EXPECT_EQ(entityCount(), 0u);
 }
 
+TEST_F(CommandProcessorTest, ANestedCommandThatGivesUpByItselfTellsItsOwnEnd) {
+  type(QStringLiteral("NESTREFUSE\n"));
+  EXPECT_EQ(events(),
+            QStringList({QStringLiteral("start NESTREFUSE"), QStringLiteral("start REFUSE"),
+                         QStringLiteral("cancelled REFUSE"), QStringLiteral("ended NESTREFUSE")}));
+}
+
 TEST_F(CommandProcessorTest, RelativePointsFollowTheLastPoint) {
   type(QStringLiteral("DRAW 1,1 @2,0 @3<90 \n"));
   EXPECT_NEAR(document().lastPoint().distanceTo({3, 4, 0}), 0, 1e-9);
