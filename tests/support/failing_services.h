@@ -5,6 +5,7 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace testhost {
@@ -22,10 +23,12 @@ class FailingStream : public OdStreamBuf {
   void seek(std::uint64_t position) override { m_inner->seek(position); }
   void getBytes(void* buffer, std::uint32_t count) override { m_inner->getBytes(buffer, count); }
   void putBytes(const void* buffer, std::uint32_t count) override {
-    if (count > m_budget)
+    // As a disk does: what fits is written.
+    const auto taken = static_cast<std::uint32_t>(std::min<std::uint64_t>(count, m_budget));
+    m_budget -= taken;
+    m_inner->putBytes(buffer, taken);
+    if (taken < count)
       throw OdFileError(eFileAccess, fileName(), QStringLiteral("No space left on device"));
-    m_budget -= count;
-    m_inner->putBytes(buffer, count);
   }
   void flush() override { m_inner->flush(); }
 
