@@ -23,12 +23,15 @@ OdString catalogKeyOfFolder(const OdString& folder) {
 
 QStringList configuredCatalogFiles() {
   const OdTcValueStorageImpl* const storage = OdTcValueStorageImpl::instance();
-  const QStringList folders = splitPathList(storage ? storage->toolPaletteFolders() : OdString());
+  const OdString setting = storage ? storage->toolPaletteFolders() : OdString();
+  const QStringList folders = splitPathList(setting);
+  // A setting without separators is one folder, even if it is blank; in a list blanks are none.
+  const bool isList = setting.contains(u';');
   QStringList files;
   QSet<OdString> known;
   for (const OdString& part : folders) {
     const OdString folder = part.trimmed();
-    if (folder.isEmpty() && folders.size() > 1) continue;
+    if (folder.isEmpty() && isList) continue;
     const OdString file = catalogKeyOfFolder(folder);
     if (known.contains(file)) continue;
     known.insert(file);

@@ -12,37 +12,49 @@ struct Hostile {
   const char16_t* reason;
 };
 
-QByteArray nestedIn(const QByteArray& open, const QByteArray& close, int depth) {
-  return "<Catalog><Groups>" + open.repeated(depth) + close.repeated(depth) + "</Groups></Catalog>";
+QByteArray nested(const QByteArray& open, const QByteArray& close, int depth) {
+  return open.repeated(depth) + close.repeated(depth);
 }
 
-QByteArray manyAttributes() {
-  QByteArray bytes = "<Catalog><Palettes";
+QByteArray manyAttributes(const QByteArray& element) {
+  QByteArray bytes = "<" + element;
   for (int i = 0; i < 100000; ++i) bytes += " a" + QByteArray::number(i) + "=\"1\"";
-  return bytes + "/></Catalog>";
+  return bytes + "/>";
 }
 
-struct HostileCatalogTest : CatalogFixture, testing::WithParamInterface<int> {
-  static Hostile hostile(int number) {
-    switch (number) {
-    case 0:
-      return {"levels", nestedIn("<a>", "</a>", 100000), u"elements are nested more than 256 deep"};
-    case 1:
-      return {"levels that never end", "<Catalog>" + QByteArray("<a>").repeated(100000),
-              u"elements are nested more than 256 deep"};
-    case 2:
-      return {"attributes", manyAttributes(),
-              u"the element \"Palettes\" has more than 512 attributes"};
-    default:
-      return {"groups",
-              nestedIn("<ToolPaletteGroup><Contents>", "</Contents></ToolPaletteGroup>", 10000),
-              u"elements are nested more than 256 deep"};
-    }
+/// What breaks a measure, as the content of a root element of that name.
+Hostile hostile(int number, const QByteArray& root) {
+  const QByteArray open = "<" + root + ">", close = "</" + root + ">";
+  const char16_t* const deep = u"elements are nested more than 256 deep";
+  switch (number) {
+  case 0:
+    return {"levels", open + nested("<a>", "</a>", 100000) + close, deep};
+  case 1:
+    return {"levels that never end", open + QByteArray("<a>").repeated(100000), deep};
+  case 2:
+    return {"attributes", open + manyAttributes("Tools") + close,
+            u"the element \"Tools\" has more than 512 attributes"};
+  case 3:
+    return {"attributes of the root", manyAttributes(root), u"more than 512 attributes"};
+  case 4:
+    return {"groups",
+            open + "<Groups>" +
+                nested("<ToolPaletteGroup><Contents>", "</Contents></ToolPaletteGroup>", 10000) +
+                "</Groups>" + close,
+            deep};
+  default:
+    return {"tools in tools",
+            open + "<Tools>" + nested("<Tool><Tools>", "</Tools></Tool>", 10000) + "</Tools>" +
+                close,
+            deep};
   }
-};
+}
+constexpr int kHostileFiles = 6;
+
+struct HostileCatalogTest : CatalogFixture, testing::WithParamInterface<int> {};
 
 TEST_P(HostileCatalogTest, IsRefusedWithTheReasonAndLeftAlone) {
-  const Hostile file = hostile(GetParam());
+  const Hostile file = hostile(GetParam(), "Catalog");
   const OdString path = stored(u"c\\DrfTcCatalog.dtc"_s);
   writeFile(u"c\\DrfTcCatalog.dtc"_s, file.bytes);
   const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
@@ -54,7 +66,20 @@ TEST_P(HostileCatalogTest, IsRefusedWithTheReasonAndLeftAlone) {
   EXPECT_EQ(readFile(u"c\\DrfTcCatalog.dtc"_s), file.bytes) << file.name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, HostileCatalogTest, testing::Range(0, 4));
+TEST_P(HostileCatalogTest, IsRefusedAsAPaletteAndHarmsNoOther) {
+  const Hostile file = hostile(GetParam(), "Palette");
+  writeTwoPalettes(u"c"_s);
+  writeFile(u"c\\Palettes\\a.dtc"_s, file.bytes);
+  const OdTcCatalogPtr catalog = load(stored(u"c\\DrfTcCatalog.dtc"_s));
+  EXPECT_TRUE(wasTold({stored(u"c\\Palettes\\a.dtc"_s), OdString::fromUtf16(file.reason)}))
+      << file.name << ": " << text(theHost().log.join(u'\n').left(1000));
+  EXPECT_EQ(namesOf(catalog->palettesEnum()), QStringList({u"A"_s, u"Beta"_s})) << file.name;
+  EXPECT_TRUE(catalog->findPalette(u"A"_s)->getDatabase()->isUnread());
+  EXPECT_TRUE(catalog->save());
+  EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), file.bytes) << file.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, HostileCatalogTest, testing::Range(0, kHostileFiles));
 
 struct LenientReadingTest : CatalogFixture {
   QStringList kept() const {

@@ -159,6 +159,32 @@ struct AskedAgent : RecordingAgent {
   }
 };
 
+TEST_F(ToolTest, GivesTheImagesThatItWasGiven) {
+  const OdTcToolPtr item = tool(u"T"_s);
+  EXPECT_EQ(item->images(), nullptr);
+  EXPECT_EQ(item->itemImages(), nullptr);
+  const OdTcToolPtr fresh = OdTcTool::createObject();
+  const OdTcImageListPtr images = OdTcImageList::createObject();
+  const OdTcImagePtr image = OdTcImage::createObject();
+  image->setSizeKind(3);
+  images->add(image);
+  fresh->setImages(images);
+  EXPECT_TRUE(fresh->isModified());
+  EXPECT_EQ(fresh->images(), images.get());
+  EXPECT_EQ(fresh->itemImages(), images.get());
+  EXPECT_EQ(fresh->properties()->images(), images.get());
+  EXPECT_EQ(fresh->itemImages()->findBySize(3), image.get());
+  EXPECT_EQ(images->owner(), fresh->properties());
+  const OdTcCatalogItemPtr copy = fresh->clone(true);
+  ASSERT_TRUE(copy->images());
+  EXPECT_NE(copy->images(), images.get());
+  EXPECT_EQ(copy->images()->count(), 1);
+  fresh->setImages(nullptr);
+  EXPECT_EQ(fresh->images(), nullptr);
+  EXPECT_EQ(fresh->itemImages(), nullptr);
+  EXPECT_EQ(copy->images()->count(), 1);
+}
+
 TEST_F(ToolTest, HandsObjectsToItsAgentIfItHasOne) {
   const OdTcToolPtr made = OdTcTool::createObject();
   OdTcProperty* const property = made->getGeneralProperties()->enumProperties()->next();

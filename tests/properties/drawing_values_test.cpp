@@ -41,6 +41,22 @@ TEST_F(DrawingValuesTest, ColorIsImposedForTheRunAndPutBack) {
   EXPECT_FALSE(color->hasSavedValue());
 }
 
+TEST_F(DrawingValuesTest, ACloneMadeInARunPutsNothingBack) {
+  drawing->setCurrentColor(OdCmColor::fromColorIndex(1));
+  const auto color = odrxMake<OdTcColorPropertyImpl>();
+  color->setColor(OdCmColor::fromColorIndex(3));
+  color->applyToDatabase(drawing);
+  const OdRxObjectPtr made = color->clone();
+  auto* const copy = dynamic_cast<OdTcDatabasePropertyImpl*>(made.get());
+  ASSERT_TRUE(copy);
+  EXPECT_FALSE(copy->hasSavedValue());
+  EXPECT_EQ(copy->color().colorIndex(), 3);
+  copy->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentColor().colorIndex(), 3) << "the run goes on";
+  color->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentColor().colorIndex(), 1);
+}
+
 TEST_F(DrawingValuesTest, UnspecifiedColorKeepsTheDrawingsOwn) {
   drawing->setCurrentColor(OdCmColor::fromColorIndex(1));
   const auto color = odrxMake<OdTcColorPropertyImpl>();

@@ -65,6 +65,53 @@ TEST_F(PropertiesTest, LosesTheStampThatStandsBeforeTheName) {
   EXPECT_TRUE(isNow(read->modified())) << read->modified().toStdString();
 }
 
+TEST_F(PropertiesTest, ANewNameOrDescriptionSetsTheModifiedTimeAlone) {
+  for (const auto set : {&OdTcPropertiesImpl::setName, &OdTcPropertiesImpl::setDescription}) {
+    record->setPropertyValue(text(u"createdUniversalDateTime"), text(u"1999-01-01"));
+    record->setPropertyValue(text(u"modifiedUniversalDateTime"), text(u"1999-01-02"));
+    ((*record).*set)(text(u"new"));
+    EXPECT_EQ(record->created(), text(u"1999-01-01"));
+    EXPECT_TRUE(isNow(record->modified())) << record->modified().toStdString();
+  }
+}
+
+TEST_F(PropertiesTest, ADescriptionBehindTheTimesSetsTheModifiedOne) {
+  const auto read = readPart<OdTcPropertiesImpl>(
+      "<Properties><Time createdUniversalDateTime=\"2004-10-14\" "
+      "modifiedUniversalDateTime=\"2005-01-01\"/><Description>thick</Description></Properties>");
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->created(), text(u"2004-10-14"));
+  EXPECT_TRUE(isNow(read->modified())) << read->modified().toStdString();
+}
+
+TEST_F(PropertiesTest, AResourceOrAnImageSetsNoTime) {
+  const auto read = readPart<OdTcPropertiesImpl>(
+      "<Properties><Time createdUniversalDateTime=\"2004-10-14\" "
+      "modifiedUniversalDateTime=\"2005-01-01\"/><ItemName resource=\"R\" src=\"s\"/>"
+      "<Images option=\"1\"/></Properties>");
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->resource(), text(u"R"));
+  EXPECT_EQ(read->modified(), text(u"2005-01-01"));
+}
+
+TEST_F(PropertiesTest, KeepsOneTimeWithoutTheOther) {
+  const char* const names[] = {"createdUniversalDateTime", "modifiedUniversalDateTime"};
+  for (const int given : {0, 1}) {
+    const QByteArray document = QByteArray("<Palette><Properties><Time ") + names[given] +
+                                "=\"2004-10-14\"/></Properties></Palette>";
+    const auto first = testhost::readParts(document);
+    ASSERT_EQ(first->parts.size(), 1u);
+    const QByteArray saved = testhost::written(first->parts);
+    EXPECT_EQ(saved,
+              QByteArray("<Palette>\n    <Properties>\n        <Time createdUniversalDateTime=\"") +
+                  (given == 0 ? "2004-10-14" : "") + "\" modifiedUniversalDateTime=\"" +
+                  (given == 1 ? "2004-10-14" : "") + "\" />\n    </Properties>\n</Palette>\n");
+    EXPECT_EQ(testhost::written(testhost::readParts(saved)->parts), saved);
+  }
+  EXPECT_FALSE(testhost::written(odrxMake<OdTcPropertiesImpl>()).contains("Time"))
+      << "without times there is no element for them";
+}
+
 TEST_F(PropertiesTest, KeepsLineBreaksAndRunsOfBlanks) {
   const OdString words = text(u"  first\n\n   second \u00e4\u65e5\U0001F600  ");
   record->setName(words);
@@ -104,6 +151,19 @@ TEST_F(PropertiesTest, StampsACloneWithThePresentTime) {
   EXPECT_NE(copy->images(), images.get());
   EXPECT_EQ(copy->images()->owner(), copy);
   EXPECT_EQ(copy->images()->count(), 1);
+  EXPECT_EQ(record->created(), text(u"1999-01-01")) << "the source keeps its own";
+  EXPECT_EQ(record->modified(), text(u"1999-01-02"));
+}
+
+TEST_F(PropertiesTest, ACloneHasTheResourceAsWell) {
+  record->setResource(text(u"IDS_1"), text(u"words.dll"));
+  const OdRxObjectPtr made = record->clone();
+  const auto* const copy = dynamic_cast<OdTcPropertiesImpl*>(made.get());
+  ASSERT_TRUE(copy);
+  record->clearResource();
+  EXPECT_EQ(copy->resource(), text(u"IDS_1"));
+  EXPECT_EQ(copy->src(), text(u"words.dll"));
+  EXPECT_EQ(copy->images(), nullptr);
 }
 
 TEST_F(PropertiesTest, GivesAndTakesEveryFieldByItsName) {
