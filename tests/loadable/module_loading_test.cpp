@@ -74,7 +74,7 @@ TEST_F(ModuleLoadingTest, RunsFromLoadingToUnloadingAHundredTimes) {
     OdRxModule* const module = loader.load(kLibrary, &reason);
     ASSERT_TRUE(module) << reason.toStdString();
     ASSERT_EQ(host().completion.sources.keys(), QStringList(QStringLiteral("tools")));
-    ASSERT_EQ(host().events.reactors.size(), 1u);
+    ASSERT_EQ(host().events.reactors.size(), 2u);
 
     // A tool outlives the stop: the last that the module does is to give up its source.
     OdRxObjectPtr survivor = odrxFindClass(QStringLiteral("OdTcTool"))->create();
