@@ -6,6 +6,7 @@ namespace drafton {
 namespace {
 
 constexpr qint64 kPieceBytes = 1 << 16;
+constexpr qint64 kLongestLine = 1 << 24;
 constexpr qsizetype kShownText = 200;
 
 } // namespace
@@ -15,6 +16,7 @@ bool ScriptSource::readPiece(OdString& piece, bool& endsLine) {
   if (bytes.isEmpty()) return false;
   // A piece that is no whole line could part a caret from its letter.
   if (bytes.endsWith('^')) bytes += m_device.read(1);
+  m_lineBytes = (m_inLine ? m_lineBytes : 0) + bytes.size();
   endsLine = bytes.endsWith('\n') || m_device.atEnd();
   if (bytes.endsWith('\n')) bytes.chop(1);
   if (bytes.endsWith('\r') && endsLine) bytes.chop(1);
@@ -31,6 +33,10 @@ bool ScriptSource::waitForInput() {
     ++m_lineNumber;
     m_lineText = piece.left(kShownText);
     if (endsLine && takeWholeLine(piece)) return true;
+  }
+  if (m_lineBytes > kLongestLine) {
+    fail(translated(u"The line is longer than %1 bytes.").arg(kLongestLine));
+    return false;
   }
   m_engine->type(piece);
   if (endsLine) m_engine->type(QStringLiteral("\n"));

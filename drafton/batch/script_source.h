@@ -9,8 +9,8 @@ class QIODevice;
 
 namespace drafton {
 
-/// Types a script into an engine, line by line. A line is read in pieces, so that one without end
-/// costs no memory.
+/// Types a script into an engine, line by line. A line is read in pieces, so that a long one costs
+/// no memory; one without end fails the script.
 class ScriptSource : public InputSource {
  public:
   /// `device` is open and is read to its end.
@@ -37,6 +37,7 @@ class ScriptSource : public InputSource {
   Engine* m_engine = nullptr;
   QStringDecoder m_decoder{QStringDecoder::Utf8};
   bool m_inLine = false;
+  qint64 m_lineBytes = 0;
   qint64 m_lineNumber = 0;
   OdString m_lineText; // the beginning of the line, for messages
   bool m_hasFailed = false;

@@ -63,6 +63,37 @@ TEST_F(ScriptTest, TextKeepsItsSignsAcrossThePiecesOfALongLine) {
   EXPECT_TRUE(m_console.shows(QStringLiteral("*Cancel*")));
 }
 
+/// The same letter for ever.
+class EndlessDevice : public QIODevice {
+ public:
+  EndlessDevice() { open(ReadOnly); }
+  bool isSequential() const override { return true; }
+  bool atEnd() const override { return false; }
+
+ protected:
+  qint64 readData(char* data, qint64 size) override {
+    std::fill_n(data, size, 'x');
+    return size;
+  }
+  qint64 writeData(const char*, qint64) override { return -1; }
+};
+
+TEST_F(ScriptTest, ALineWithoutEndFailsTheScript) {
+  EndlessDevice device;
+  ScriptSource script(device);
+  script.setEngine(m_engine);
+  while (script.waitForInput()) m_engine.keyboard().clear();
+  EXPECT_TRUE(script.hasFailed());
+  EXPECT_TRUE(script.failure().startsWith(QStringLiteral("line 1: xxx")));
+  EXPECT_TRUE(script.failure().endsWith(QStringLiteral("The line is longer than 16777216 bytes.")));
+}
+
+TEST_F(ScriptTest, AMillionLinesAreCountedAndTheFailingOneIsNamed) {
+  run(QByteArray("#\n").repeated(1'000'000) + "ASKTEXT end\nTOOL:none\n");
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <end>")));
+  EXPECT_TRUE(m_script.failure().startsWith(QStringLiteral("line 1000002: TOOL:none")));
+}
+
 TEST_F(ScriptTest, BytesThatAreNoTextDoNoHarm) {
   run(QByteArray("ASKTEXT a\xFF\xFE\x00z\n", 13));
   EXPECT_TRUE(m_console.shows(QStringLiteral("got <a")));
