@@ -15,8 +15,8 @@ namespace hostexport {
 /// Exported by the main executable: the handle of the host's main module.
 inline constexpr const char* kGetMainDllInstance = "GetMainDllInstance";
 using GetMainDllInstance = OdModuleHandle (*)();
-/// Exported by the main executable: the name of the host's main module; null or empty if that
-/// is the executable itself.
+/// Exported by the main executable: the name of the host's main module; null if that is the
+/// executable itself.
 inline constexpr const char* kGetMainDllName = "GetMainDllNameW";
 using GetMainDllName = const char16_t* (*)();
 /// Exported by KvAcApp.dll: the handle of the host's main module.

@@ -33,8 +33,8 @@ OdModuleHandle moduleOfKvAcApp() {
 }
 
 OdModuleHandle namedModule(const char16_t* name) {
-  return name && *name ? g_directory->loadedModule(OdString::fromUtf16(name))
-                       : g_directory->mainExecutable();
+  return name ? g_directory->loadedModule(OdString::fromUtf16(name))
+              : g_directory->mainExecutable();
 }
 
 OdModuleHandle commandModule() {

@@ -24,8 +24,8 @@ extern "C" {
 
 Q_DECL_EXPORT OdModuleHandle GetMainDllInstance() { return oddynlib::mainExecutable(); }
 
-/// The program itself; the system's loader knows it by the empty name.
-Q_DECL_EXPORT const char16_t* GetMainDllNameW() { return u""; }
+/// Null is the program itself to whoever looks the module up by its name.
+Q_DECL_EXPORT const char16_t* GetMainDllNameW() { return nullptr; }
 
 Q_DECL_EXPORT hostexport::HostObjectGetter get_host_funcptr(int index) {
   return index == hostexport::kServicesIndex ? &hostServices : nullptr;

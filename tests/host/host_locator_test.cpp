@@ -125,13 +125,25 @@ const char16_t* giveNoName() { return nullptr; }
 const char16_t* giveEmptyName() { return u""; }
 
 TEST_F(HostLocatorTest, AnExecutableWithoutAModuleNameIsTheMainModuleItself) {
-  for (const auto name : {giveNoName, giveEmptyName}) {
-    g_named = 0;
+  g_named = 0;
+  TestDirectory process;
+  process.offer(&process, hostexport::kGetMainDllName, giveNoName);
+  process.offer(&process, hostexport::kNewCmdFactory, makeFactoryOfNamed);
+  ::host::newCmdFactory();
+  EXPECT_EQ(g_named, 1);
+}
+
+TEST_F(HostLocatorTest, ANameOfNoLoadedModuleLeavesTheSearchToTheViewModule) {
+  for (const auto name : {giveName, giveEmptyName}) {
+    g_named = g_view = 0;
     TestDirectory process;
     process.offer(&process, hostexport::kGetMainDllName, name);
     process.offer(&process, hostexport::kNewCmdFactory, makeFactoryOfNamed);
+    process.modules[QStringLiteral("hbview")] = &g_view;
+    process.offer(&g_view, hostexport::kNewCmdFactory, makeFactoryOfView);
     ::host::newCmdFactory();
-    EXPECT_EQ(g_named, 1);
+    EXPECT_EQ(g_named, 0);
+    EXPECT_EQ(g_view, 1);
   }
 }
 
