@@ -4,6 +4,7 @@
 #include "drawing/geometry/extents.h"
 #include "drawing/geometry/matrix.h"
 
+#include <cstdint>
 #include <vector>
 
 /// A straight line or a part of a circle or an ellipse, in world coordinates. Runs from `start` to
