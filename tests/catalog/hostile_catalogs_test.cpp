@@ -81,6 +81,33 @@ TEST_P(HostileCatalogTest, IsRefusedAsAPaletteAndHarmsNoOther) {
 
 INSTANTIATE_TEST_SUITE_P(Files, HostileCatalogTest, testing::Range(0, kHostileFiles));
 
+struct CutFilesTest : CatalogFixture {};
+
+TEST_F(CutFilesTest, APaletteCutAtAnyByteIsReadWholeOrToldAndLeftAlone) {
+  const QByteArray bytes =
+      paletteXml(
+          "P",
+          "K\xC3\xBC"
+          "che &amp; Bad",
+          "<Tools><Tool option='3'><ItemID idValue=\"T\"/><!-- c --><ToolType>1</ToolType><Data>"
+          "<Command Macro=\"^C^C_LINE &#x41;\"/></Data></Tool><Tool/></Tools>") +
+      "\n";
+  const OdString path = stored(u"cut.dtc"_s);
+  for (qsizetype length = 0; length <= bytes.size(); ++length) {
+    writeFile(u"cut.dtc"_s, bytes.left(length));
+    theHost().log.clear();
+    const OdTcToolPalettePtr cut = OdTcToolPalette::createObject();
+    const bool isRead = cut->load(path);
+    // Nothing but the line break at the end may be missing.
+    const bool isWhole = length + 1 >= bytes.size();
+    ASSERT_EQ(isRead, isWhole) << length;
+    ASSERT_EQ(cut->getDatabase()->isUnread(), !isWhole) << length;
+    ASSERT_EQ(wasTold({path}), !isWhole) << length;
+    ASSERT_EQ(cut->getDatabase()->tools()->count(), isWhole ? 2 : 0) << length;
+    ASSERT_EQ(readFile(u"cut.dtc"_s), bytes.left(length));
+  }
+}
+
 struct LenientReadingTest : CatalogFixture {
   QStringList kept() const {
     return QDir(platform(u"user/ToolPalette/Unread"_s)).entryList(QDir::Files, QDir::Name);

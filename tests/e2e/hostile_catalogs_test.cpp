@@ -85,7 +85,7 @@ TEST(HostileCatalogs, TakeMemoryInProportionToTheirFile) {
   struct rusage usage = {};
   ASSERT_EQ(getrusage(RUSAGE_CHILDREN, &usage), 0);
   // In kilobytes, the greatest of all programs that this one started.
-  EXPECT_LT(usage.ru_maxrss, (8 * kSize + 150 * kMegabyte) / 1024);
+  EXPECT_LT(usage.ru_maxrss, (6 * kSize + 100 * kMegabyte) / 1024);
 }
 
 TEST(HostileCatalogs, PalettesThatLeadOutOfTheFolderAreNeverWritten) {
