@@ -2,8 +2,10 @@
 #include "drawing/database.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/ellipse.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/objects/raw_object.h"
 
@@ -11,10 +13,13 @@
 
 CLASS(OdDbObject, OdRxObject);
 CLASS(OdDbEntity, OdDbObject);
-CLASS(OdDbLine, OdDbEntity);
-CLASS(OdDbCircle, OdDbEntity);
-CLASS(OdDbArc, OdDbEntity);
-CLASS(OdDbPolyline, OdDbEntity);
+CLASS(OdDbCurve, OdDbEntity);
+CLASS(OdDbLine, OdDbCurve);
+CLASS(OdDbCircle, OdDbCurve);
+CLASS(OdDbArc, OdDbCurve);
+CLASS(OdDbPolyline, OdDbCurve);
+CLASS(OdDbEllipse, OdDbCurve);
+CLASS(OdDbSpline, OdDbCurve);
 CLASS(OdDbText, OdDbEntity);
 CLASS(OdDbRawEntity, OdDbEntity);
 CLASS(OdDbRawObject, OdDbObject);
@@ -59,7 +64,8 @@ void addAll() {
 
 /// Registers the classes when the library is loaded, bases before what derives from them.
 const bool g_registered = [] {
-  addAll<OdDbObject, OdDbEntity, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline, OdDbText,
+  addAll<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
+         OdDbEllipse, OdDbSpline, OdDbText,
          OdDbRawEntity, OdDbRawObject, OdDbDictionary, OdDbDictionaryVar, OdDbSymbolTableRecord,
          OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbTextStyleTableRecord,
          OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbViewTableRecord,

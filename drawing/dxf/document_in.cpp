@@ -4,8 +4,10 @@
 #include "drawing/dxf/text.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/ellipse.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/objects/raw_object.h"
 
@@ -25,7 +27,8 @@ struct Maker {
 constexpr Maker<OdDbEntity> kEntities[] = {
     {"LINE", make<OdDbLine, OdDbEntity>},     {"LWPOLYLINE", make<OdDbPolyline, OdDbEntity>},
     {"CIRCLE", make<OdDbCircle, OdDbEntity>}, {"ARC", make<OdDbArc, OdDbEntity>},
-    {"TEXT", make<OdDbText, OdDbEntity>},
+    {"TEXT", make<OdDbText, OdDbEntity>},     {"ELLIPSE", make<OdDbEllipse, OdDbEntity>},
+    {"SPLINE", make<OdDbSpline, OdDbEntity>},
 };
 
 constexpr Maker<OdDbObject> kObjects[] = {
@@ -413,18 +416,18 @@ void OdDbDxfReader::readEntity(OdDbObjectId block) {
     return;
   }
   auto* const raw = odrxCast<OdDbRawEntity>(entity.get());
-  if (raw && m_in.isPlain())
+  if (raw && m_in.isPlain() && !(follows && m_parent))
     m_in.damage(
         QStringLiteral("a %1 of this version cannot be taken over").arg(latin(name.substr(0, 40))));
   if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
   if (follows && m_parent) {
     m_in.enterFollower(*entity, m_parent->objectId());
-    m_parent->addFollower(entity->objectId());
+    m_parent->addFollower(*entity);
     if (name == "SEQEND") m_parent = nullptr;
     return;
   }
   m_in.enter(*entity, spaceFor(block));
-  m_parent = raw && (name == "POLYLINE" || m_in.hasFollowers()) ? raw : nullptr;
+  m_parent = entity->takesFollowers() || (raw && m_in.hasFollowers()) ? entity.get() : nullptr;
 }
 
 void OdDbDxfReader::readObjects() {

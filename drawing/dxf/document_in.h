@@ -49,6 +49,6 @@ class OdDbDxfReader {
   std::array<OdDbSymbolTablePtr, OdDbDatabaseData::kTableCount> m_tables;
   bool m_tablesReady = false, m_trustworthy = false;
   // What follows a polyline or an insert belongs to it.
-  OdDbRawEntity* m_parent = nullptr;
+  OdDbEntity* m_parent = nullptr;
   bool m_parentLeftOut = false;
 };

@@ -147,9 +147,8 @@ class Writer {
       if (!id.isValid()) continue;
       const OdDbObject& entity = *id.stub()->object;
       m_out.object(entity);
-      if (const auto* raw = odrxCast<OdDbRawEntity>(&entity))
-        for (const OdDbObjectId follower : raw->followers())
-          if (follower.isValid()) m_out.object(*follower.stub()->object);
+      if (const auto* leader = dynamic_cast<const OdDbEntity*>(&entity))
+        leader->dxfOutFollowers(m_out);
     }
   }
 

@@ -112,10 +112,15 @@ void putField(const OdDbDxfField<D>& f, const D& record, OdDbDxfOut& out) {
 }
 
 /// A normal without length would leave the entity without a plane.
-inline void mendNormal(OdDbExtrusion& extrusion, OdDbDxfIn& in) {
-  if (!extrusion.normal().isZeroLength()) return;
+inline void mendNormal(OdGeVector3d& normal, OdDbDxfIn& in) {
+  if (!normal.isZeroLength()) return;
   in.damage(QStringLiteral("the normal of an entity has no length"));
-  extrusion.setNormal(OdGeVector3d::zAxis());
+  normal = OdGeVector3d::zAxis();
+}
+inline void mendNormal(OdDbExtrusion& extrusion, OdDbDxfIn& in) {
+  OdGeVector3d normal = extrusion.normal();
+  mendNormal(normal, in);
+  extrusion.setNormal(normal);
 }
 
 template <class D>

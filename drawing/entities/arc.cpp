@@ -1,9 +1,8 @@
 #include "drawing/entities/arc.h"
 
 #include "drawing/checks.h"
+#include "drawing/entities/ellipse.h"
 #include "drawing/entities/plane_transform.h"
-
-#include <vector>
 
 OdDbArc::OdDbArc() = default;
 
@@ -68,25 +67,6 @@ OdGePoint3d OdDbArc::pointAt(double angle) const {
   return OdGeMatrix3d::planeToWorld(m_arc.extrusion.normal()) * (m_arc.center + out);
 }
 
-bool OdDbArc::getGeomExtents(OdGeExtents3d& extents) const {
-  extents = {};
-  const double sweep = odgeNormalAngle(m_arc.endAngle - m_arc.startAngle);
-  std::vector<double> angles{m_arc.startAngle, m_arc.endAngle};
-  // Along each axis of the world the arc may turn at one angle and at the one opposite.
-  const OdGeMatrix3d m = OdGeMatrix3d::planeToWorld(m_arc.extrusion.normal());
-  for (int row = 0; row < 3; ++row) {
-    const double turn = std::atan2(m(row, 1), m(row, 0));
-    for (const double angle : {turn, turn + kOdaPi})
-      if (odgeNormalAngle(angle - m_arc.startAngle) <= sweep || sweep == 0) angles.push_back(angle);
-  }
-  const OdGeVector3d rise = m_arc.extrusion.rise();
-  for (const double angle : angles) {
-    extents.addPoint(pointAt(angle));
-    extents.addPoint(pointAt(angle) + rise);
-  }
-  return true;
-}
-
 bool OdDbArc::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_arc.extrusion.normal());
   if (!plane.valid) return false;
@@ -105,5 +85,58 @@ bool OdDbArc::transformBy(const OdGeMatrix3d& transform) {
     return false;
   assertWriteEnabled();
   m_arc = moved;
+  return true;
+}
+
+double OdDbArc::getEndParam() const {
+  const double sweep = odgeNormalAngle(m_arc.endAngle - m_arc.startAngle);
+  return m_arc.startAngle + (sweep > 0 ? sweep : 2 * kOdaPi);
+}
+
+OdGePoint3d OdDbArc::getPointAtParam(double param) const { return pointAt(checkedParam(param)); }
+
+OdGeVector3d OdDbArc::getFirstDeriv(double param) const {
+  const double t = checkedParam(param);
+  return OdGeMatrix3d::planeToWorld(normal()) *
+         OdGeVector3d{-m_arc.radius * std::sin(t), m_arc.radius * std::cos(t), 0};
+}
+
+void OdDbArc::appendSegments(OdGeCurveSegments& segments, double) const {
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(normal());
+  segments.push_back(OdGeCurveSegment::arc(toWorld * m_arc.center,
+                                           toWorld * OdGeVector3d{m_arc.radius, 0, 0},
+                                           toWorld * OdGeVector3d{0, m_arc.radius, 0},
+                                           m_arc.startAngle, getEndParam() - m_arc.startAngle));
+}
+
+OdDbEntityPtr OdDbArc::getTransformedCopy(const OdGeMatrix3d& transform) const {
+  if (const OdDbEntityPtr moved = OdDbEntity::getTransformedCopy(transform)) return moved;
+  const OdGeCurveSegment s = segments().front().transformed(transform);
+  const OdDbEllipsePtr ellipse = OdDbEllipse::fromConjugates(s.center, s.u, s.v, s.from, s.sweep);
+  if (ellipse) ellipse->setPropertiesFrom(*this);
+  return ellipse;
+}
+
+std::vector<OdDbEntityPtr> OdDbArc::getOffsetCurves(double distance) const {
+  odcheck::finite(distance);
+  if (m_arc.radius + distance <= 0) return {};
+  const OdDbArcPtr moved = clone();
+  moved->m_arc.radius += distance;
+  return {moved};
+}
+
+bool OdDbArc::getSplitCurves(const std::vector<double>& params,
+                             std::vector<OdDbEntityPtr>& pieces) const {
+  double from = getStartParam();
+  for (std::size_t i = 0; i <= params.size(); ++i) {
+    const double to = i < params.size() ? checkedParam(params[i]) : getEndParam();
+    if (to > from) {
+      const OdDbArcPtr piece = clone();
+      piece->m_arc.startAngle = odgeNormalAngle(from);
+      piece->m_arc.endAngle = odgeNormalAngle(to);
+      pieces.push_back(piece);
+    }
+    from = to;
+  }
   return true;
 }

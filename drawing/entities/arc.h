@@ -1,11 +1,11 @@
 // ARC.
 #pragma once
 
-#include "drawing/entities/entity.h"
+#include "drawing/entities/curve.h"
 #include "drawing/geometry/extrusion.h"
 
 /// A piece of a circle, counterclockwise about its normal from the start to the end angle.
-class OdDbArc : public OdDbEntity {
+class OdDbArc : public OdDbCurve {
   ODDB_CONCRETE(OdDbArc, "ARC")
 
   /// Centre and normal in world coordinates, angles in radians in the arc's plane.
@@ -33,7 +33,16 @@ class OdDbArc : public OdDbEntity {
   /// The point at an angle of the arc's plane.
   OdGePoint3d pointAt(double angle) const;
 
-  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  bool isClosed() const override { return false; }
+  double getStartParam() const override { return m_arc.startAngle; }
+  double getEndParam() const override;
+  OdGePoint3d getPointAtParam(double param) const override;
+  OdGeVector3d getFirstDeriv(double param) const override;
+  void appendSegments(OdGeCurveSegments& segments, double deviation = 0) const override;
+  std::vector<OdDbEntityPtr> getOffsetCurves(double distance) const override;
+  bool getSplitCurves(const std::vector<double>& params,
+                      std::vector<OdDbEntityPtr>& pieces) const override;
+  OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
@@ -46,6 +55,9 @@ class OdDbArc : public OdDbEntity {
     double startAngle = 0, endAngle = kOdaPi;
     OdDbExtrusion extrusion;
   };
+
+ protected:
+  OdGeVector3d rise() const override { return normal() * thickness(); }
 
  private:
   Data m_arc;

@@ -1,6 +1,8 @@
 #include "drawing/entities/circle.h"
 
 #include "drawing/checks.h"
+#include "drawing/entities/arc.h"
+#include "drawing/entities/ellipse.h"
 #include "drawing/entities/plane_transform.h"
 
 OdDbCircle::OdDbCircle() = default;
@@ -46,21 +48,6 @@ void OdDbCircle::setThickness(double thickness) {
   m_circle.extrusion.setThickness(thickness);
 }
 
-bool OdDbCircle::getGeomExtents(OdGeExtents3d& extents) const {
-  extents = {};
-  const OdGeVector3d& n = m_circle.extrusion.normal();
-  const OdGePoint3d c = center();
-  const double r = m_circle.radius;
-  // How far a circle reaches along an axis depends on how it leans to that axis.
-  const auto reach = [&](double along) { return r * std::sqrt(std::max(0.0, 1 - along * along)); };
-  const OdGeVector3d half{reach(n.x), reach(n.y), reach(n.z)};
-  for (const OdGeVector3d& rise : {OdGeVector3d{}, n * m_circle.extrusion.thickness()}) {
-    extents.addPoint(c + rise - half);
-    extents.addPoint(c + rise + half);
-  }
-  return true;
-}
-
 bool OdDbCircle::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_circle.extrusion.normal());
   if (!plane.valid) return false;
@@ -75,5 +62,57 @@ bool OdDbCircle::transformBy(const OdGeMatrix3d& transform) {
     return false;
   assertWriteEnabled();
   m_circle = moved;
+  return true;
+}
+
+double OdDbCircle::getEndParam() const { return 2 * kOdaPi; }
+
+OdGePoint3d OdDbCircle::getPointAtParam(double param) const {
+  odcheck::finite(param);
+  const OdGeVector3d out{m_circle.radius * std::cos(param), m_circle.radius * std::sin(param), 0};
+  return OdGeMatrix3d::planeToWorld(normal()) * (m_circle.center + out);
+}
+
+OdGeVector3d OdDbCircle::getFirstDeriv(double param) const {
+  odcheck::finite(param);
+  return OdGeMatrix3d::planeToWorld(normal()) *
+         OdGeVector3d{-m_circle.radius * std::sin(param), m_circle.radius * std::cos(param), 0};
+}
+
+void OdDbCircle::appendSegments(OdGeCurveSegments& segments, double) const {
+  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(normal());
+  segments.push_back(OdGeCurveSegment::arc(
+      toWorld * m_circle.center, toWorld * OdGeVector3d{m_circle.radius, 0, 0},
+      toWorld * OdGeVector3d{0, m_circle.radius, 0}, 0, 2 * kOdaPi));
+}
+
+OdDbEntityPtr OdDbCircle::getTransformedCopy(const OdGeMatrix3d& transform) const {
+  if (const OdDbEntityPtr moved = OdDbEntity::getTransformedCopy(transform)) return moved;
+  const OdGeCurveSegment s = segments().front().transformed(transform);
+  const OdDbEllipsePtr ellipse = OdDbEllipse::fromConjugates(s.center, s.u, s.v, 0, 2 * kOdaPi);
+  if (ellipse) ellipse->setPropertiesFrom(*this);
+  return ellipse;
+}
+
+std::vector<OdDbEntityPtr> OdDbCircle::getOffsetCurves(double distance) const {
+  odcheck::finite(distance);
+  if (m_circle.radius + distance <= 0) return {};
+  const OdDbCirclePtr moved = clone();
+  moved->m_circle.radius += distance;
+  return {moved};
+}
+
+bool OdDbCircle::getSplitCurves(const std::vector<double>& params,
+                                std::vector<OdDbEntityPtr>& pieces) const {
+  if (params.empty()) return false;
+  for (std::size_t i = 0; i < params.size(); ++i) {
+    const double from = params[i];
+    const double to = params[(i + 1) % params.size()];
+    const auto arc = odrxMake<OdDbArc>(center(), normal(), m_circle.radius, odgeNormalAngle(from),
+                                       odgeNormalAngle(to));
+    arc->setThickness(thickness());
+    arc->setPropertiesFrom(*this);
+    pieces.push_back(arc);
+  }
   return true;
 }

@@ -1,11 +1,11 @@
 // CIRCLE.
 #pragma once
 
-#include "drawing/entities/entity.h"
+#include "drawing/entities/curve.h"
 #include "drawing/geometry/extrusion.h"
 
 /// A circle in the plane that its normal and its centre give.
-class OdDbCircle : public OdDbEntity {
+class OdDbCircle : public OdDbCurve {
   ODDB_CONCRETE(OdDbCircle, "CIRCLE")
 
   /// Centre and normal in world coordinates.
@@ -22,7 +22,16 @@ class OdDbCircle : public OdDbEntity {
   double thickness() const { return m_circle.extrusion.thickness(); }
   void setThickness(double thickness);
 
-  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  bool isClosed() const override { return true; }
+  double getStartParam() const override { return 0; }
+  double getEndParam() const override;
+  OdGePoint3d getPointAtParam(double param) const override;
+  OdGeVector3d getFirstDeriv(double param) const override;
+  void appendSegments(OdGeCurveSegments& segments, double deviation = 0) const override;
+  std::vector<OdDbEntityPtr> getOffsetCurves(double distance) const override;
+  bool getSplitCurves(const std::vector<double>& params,
+                      std::vector<OdDbEntityPtr>& pieces) const override;
+  OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
@@ -34,6 +43,9 @@ class OdDbCircle : public OdDbEntity {
     double radius = 1;
     OdDbExtrusion extrusion;
   };
+
+ protected:
+  OdGeVector3d rise() const override { return normal() * thickness(); }
 
  private:
   Data m_circle;

@@ -54,16 +54,18 @@ class OdDbCurve : public OdDbEntity {
   /// The area that the curve encloses, its ends joined by a line; 0 for one that is not flat.
   double getArea() const;
 
-  /// Shows the pieces, and their copy at the height of the thickness if there is one.
+  /// Shows the pieces, and their copy at the height of the thickness if there is one. Unless
+  /// dashesRunThrough(), each piece starts the pattern of the line type anew.
   void worldDraw(OdGiWorldDraw& draw) const override;
   bool getGeomExtents(OdGeExtents3d& extents) const override;
 
  protected:
   OdDbCurve();
+  virtual bool dashesRunThrough() const { return true; }
+  /// False if the entity's line type is known to have no gaps.
+  bool mayHaveDashes() const;
   /// The thickness as a direction with its length.
   virtual OdGeVector3d rise() const { return {}; }
-  /// The parameter at a part of one of segments(); splines have their own way.
-  virtual double paramOf(std::size_t segment, double part) const;
   /// The parameter within the curve; raises OdError(eInvalidInput) unless it is near to it.
   double checkedParam(double param) const;
 };

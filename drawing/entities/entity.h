@@ -7,7 +7,11 @@
 #include "drawing/object.h"
 #include "drawing/transparency.h"
 
+#include <vector>
+
+class OdDbEntity;
 class OdGiWorldDraw;
+using OdDbEntityPtr = OdSmartPtr<OdDbEntity>;
 
 /// A drawn object with the properties that all of them share. A new entity has nothing set: it is
 /// on no layer until its space gives it layer 0, or setDatabaseDefaults() the current values.
@@ -46,19 +50,32 @@ class OdDbEntity : public OdDbObject {
   /// Layer, colour and the rest as `other` has them.
   void setPropertiesFrom(const OdDbEntity& other);
 
-  /// The box around the entity in world coordinates; false if it has none.
-  virtual bool getGeomExtents(OdGeExtents3d& extents) const = 0;
+  /// The box around the entity in world coordinates; false if it has none. As it stands, what
+  /// worldDraw() shows is measured.
+  virtual bool getGeomExtents(OdGeExtents3d& extents) const;
   /// Shows the entity piece by piece. Nothing for one that has no shape.
   virtual void worldDraw(OdGiWorldDraw& draw) const;
   /// Moves, turns, scales or mirrors the entity. False if the entity cannot take the shape that it
   /// would have to take (a circle under unequal scales, or one where numbers end); it is then
   /// unchanged.
   virtual bool transformBy(const OdGeMatrix3d& transform) = 0;
+  /// A moved copy that belongs to no drawing. Where the entity itself cannot take the shape, it is
+  /// one that can: a circle becomes an ellipse. Null if there is none.
+  virtual OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const;
+  /// Adds the entities that the entity consists of, which belong to no drawing. False, and nothing
+  /// added, if it is not made of others.
+  virtual bool explode(std::vector<OdDbEntityPtr>& pieces) const;
 
   void assignFrom(const OdDbObject& other) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
+  /// True if vertices or attributes that stand behind the entity in a file belong to it.
+  virtual bool takesFollowers() const { return false; }
+  /// Takes such an entity, or the end mark, while a file is read.
+  virtual void addFollower(OdDbEntity&) {}
+  /// Writes what follows the entity, the end mark included.
+  virtual void dxfOutFollowers(OdDbDxfOut&) const {}
 
  protected:
   OdDbEntity();
@@ -81,4 +98,3 @@ class OdDbEntity : public OdDbObject {
   void storeColorNames(const OdCmColor& color);
   Common m_common;
 };
-using OdDbEntityPtr = OdSmartPtr<OdDbEntity>;

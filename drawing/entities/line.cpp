@@ -62,3 +62,45 @@ bool OdDbLine::transformBy(const OdGeMatrix3d& transform) {
   m_line = moved;
   return true;
 }
+
+double OdDbLine::getEndParam() const { return m_line.start.distanceTo(m_line.end); }
+
+OdGePoint3d OdDbLine::getPointAtParam(double param) const {
+  return m_line.start + getFirstDeriv(param) * checkedParam(param);
+}
+
+OdGeVector3d OdDbLine::getFirstDeriv(double) const { return (m_line.end - m_line.start).normal(); }
+
+void OdDbLine::appendSegments(OdGeCurveSegments& segments, double) const {
+  segments.push_back(OdGeCurveSegment::line(m_line.start, m_line.end));
+}
+
+bool OdDbLine::reverseCurve() {
+  assertWriteEnabled();
+  std::swap(m_line.start, m_line.end);
+  return true;
+}
+
+std::vector<OdDbEntityPtr> OdDbLine::getOffsetCurves(double distance) const {
+  odcheck::finite(distance);
+  const OdGeVector3d right = (m_line.end - m_line.start).crossProduct(normal()).normal();
+  if (right.isZeroLength()) return {};
+  const OdDbLinePtr moved = clone();
+  moved->m_line.start = m_line.start + right * distance;
+  moved->m_line.end = m_line.end + right * distance;
+  return {moved};
+}
+
+bool OdDbLine::getSplitCurves(const std::vector<double>& params,
+                              std::vector<OdDbEntityPtr>& pieces) const {
+  OdGePoint3d from = m_line.start;
+  for (std::size_t i = 0; i <= params.size(); ++i) {
+    const OdGePoint3d to = i < params.size() ? getPointAtParam(params[i]) : m_line.end;
+    const OdDbLinePtr piece = clone();
+    piece->m_line.start = from;
+    piece->m_line.end = to;
+    if (!(from == to)) pieces.push_back(piece);
+    from = to;
+  }
+  return true;
+}

@@ -1,11 +1,11 @@
 // LINE.
 #pragma once
 
-#include "drawing/entities/entity.h"
+#include "drawing/entities/curve.h"
 #include "drawing/geometry/extrusion.h"
 
 /// A straight line between two points of the world.
-class OdDbLine : public OdDbEntity {
+class OdDbLine : public OdDbCurve {
   ODDB_CONCRETE(OdDbLine, "LINE")
 
   OdDbLine(const OdGePoint3d& start, const OdGePoint3d& end);
@@ -20,6 +20,16 @@ class OdDbLine : public OdDbEntity {
   const OdGeVector3d& normal() const { return m_line.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
+  bool isClosed() const override { return false; }
+  double getStartParam() const override { return 0; }
+  double getEndParam() const override;
+  OdGePoint3d getPointAtParam(double param) const override;
+  OdGeVector3d getFirstDeriv(double param) const override;
+  void appendSegments(OdGeCurveSegments& segments, double deviation = 0) const override;
+  std::vector<OdDbEntityPtr> getOffsetCurves(double distance) const override;
+  bool reverseCurve() override;
+  bool getSplitCurves(const std::vector<double>& params,
+                      std::vector<OdDbEntityPtr>& pieces) const override;
   bool getGeomExtents(OdGeExtents3d& extents) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
@@ -31,6 +41,9 @@ class OdDbLine : public OdDbEntity {
     OdGePoint3d start, end;
     OdDbExtrusion extrusion;
   };
+
+ protected:
+  OdGeVector3d rise() const override { return normal() * thickness(); }
 
  private:
   Data m_line;

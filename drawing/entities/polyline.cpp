@@ -7,28 +7,6 @@ namespace {
 constexpr int kClosed = 1;
 constexpr int kPlinegen = 128;
 
-void addBulgeExtents(OdGeExtents3d& box, const OdDbPolyline::Vertex& from, const OdGePoint2d& to,
-                     const OdGeMatrix3d& toWorld, double elevation) {
-  const double dx = to.x - from.point.x;
-  const double dy = to.y - from.point.y;
-  const double b = from.bulge;
-  // The centre lies beside the middle of the chord, by this part of the chord's length.
-  const double aside = (1 - b * b) / (4 * b);
-  const double cx = from.point.x + dx / 2 - dy * aside;
-  const double cy = from.point.y + dy / 2 + dx * aside;
-  const double radius = std::hypot(from.point.x - cx, from.point.y - cy);
-  const double first = std::atan2(from.point.y - cy, from.point.x - cx);
-  const double last = std::atan2(to.y - cy, to.x - cx);
-  const double start = b > 0 ? first : last;
-  const double sweep = odgeNormalAngle(b > 0 ? last - first : first - last);
-  for (int row = 0; row < 3; ++row) {
-    const double turn = std::atan2(toWorld(row, 1), toWorld(row, 0));
-    for (const double angle : {turn, turn + kOdaPi})
-      if (odgeNormalAngle(angle - start) <= sweep)
-        box.addPoint(toWorld * OdGePoint3d{cx + radius * std::cos(angle),
-                                           cy + radius * std::sin(angle), elevation});
-  }
-}
 } // namespace
 
 OdDbPolyline::OdDbPolyline() = default;
@@ -135,26 +113,6 @@ void OdDbPolyline::setNormal(const OdGeVector3d& normal) {
   const OdGeVector3d n = odcheck::direction(normal);
   assertWriteEnabled();
   m_polyline.extrusion.setNormal(n);
-}
-
-bool OdDbPolyline::getGeomExtents(OdGeExtents3d& extents) const {
-  extents = {};
-  const auto& vertices = m_polyline.vertices;
-  if (vertices.empty()) return false;
-  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_polyline.extrusion.normal());
-  for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const Vertex v = vertices[i];
-    extents.addPoint(toWorld * OdGePoint3d{v.point.x, v.point.y, m_polyline.elevation});
-    const bool last = i + 1 == vertices.size();
-    if (v.bulge != 0 && (!last || isClosed()))
-      addBulgeExtents(extents, v, vertices.pointAt(last ? 0 : i + 1), toWorld,
-                      m_polyline.elevation);
-  }
-  const OdGeExtents3d base = extents;
-  const OdGeVector3d rise = m_polyline.extrusion.rise();
-  extents.addPoint(base.minPoint() + rise);
-  extents.addPoint(base.maxPoint() + rise);
-  return true;
 }
 
 bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {

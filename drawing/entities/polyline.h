@@ -1,12 +1,14 @@
 // LWPOLYLINE.
 #pragma once
 
-#include "drawing/entities/entity.h"
+#include "drawing/entities/curve.h"
 #include "drawing/entities/polyline_vertices.h"
 #include "drawing/geometry/extrusion.h"
 
+struct OdDbFlatPolyline;
+
 /// Straight and curved pieces in one plane.
-class OdDbPolyline : public OdDbEntity {
+class OdDbPolyline : public OdDbCurve {
   ODDB_CONCRETE(OdDbPolyline, "LWPOLYLINE")
 
   using Vertex = OdDbPolylineVertex;
@@ -27,7 +29,7 @@ class OdDbPolyline : public OdDbEntity {
   /// The corner in world coordinates.
   OdGePoint3d worldPointAt(unsigned index) const;
 
-  bool isClosed() const;
+  bool isClosed() const override;
   void setClosed(bool closed);
   /// Line types run through the corners.
   bool hasPlinegen() const;
@@ -42,8 +44,26 @@ class OdDbPolyline : public OdDbEntity {
   const OdGeVector3d& normal() const { return m_polyline.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
+  /// The sum of what all pieces turn by is positive for one that runs counterclockwise; true then.
+  bool isCounterClockwise() const;
+  double getStartParam() const override { return 0; }
+  double getEndParam() const override;
+  OdGePoint3d getPointAtParam(double param) const override;
+  OdGeVector3d getFirstDeriv(double param) const override;
+  void appendSegments(OdGeCurveSegments& segments, double deviation = 0) const override;
+  /// What would cross itself is cut away; one curve can become several or none. Widths stay.
+  std::vector<OdDbEntityPtr> getOffsetCurves(double distance) const override;
+  bool getSplitCurves(const std::vector<double>& params,
+                      std::vector<OdDbEntityPtr>& pieces) const override;
+  bool reverseCurve() override;
+  /// Shows wide pieces as areas.
+  void worldDraw(OdGiWorldDraw& draw) const override;
   bool getGeomExtents(OdGeExtents3d& extents) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
+  /// Curved pieces become chords where they would have to become parts of ellipses.
+  OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
+  /// Into lines and arcs.
+  bool explode(std::vector<OdDbEntityPtr>& pieces) const override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
@@ -56,9 +76,14 @@ class OdDbPolyline : public OdDbEntity {
     OdDbExtrusion extrusion;
   };
 
+ protected:
+  OdGeVector3d rise() const override { return normal() * thickness(); }
+  bool dashesRunThrough() const override { return hasPlinegen(); }
+
  private:
   void assertVertexAt(unsigned index) const;
   OdDbPolylineVertices& editVertices(unsigned index);
+  OdDbFlatPolyline flat() const;
   Data m_polyline;
 };
 using OdDbPolylinePtr = OdSmartPtr<OdDbPolyline>;

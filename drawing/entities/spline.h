@@ -35,7 +35,7 @@ class OdDbSpline : public OdDbCurve {
                   const OdGeVector3d& endTangent = {});
   const OdGeVector3d& startTangent() const { return m_spline.startTangent; }
   const OdGeVector3d& endTangent() const { return m_spline.endTangent; }
-  double fitTolerance() const { return m_spline.fitTolerance; }
+  double fitTolerance() const { return m_spline.fitTolerance < 0 ? 1e-10 : m_spline.fitTolerance; }
   /// Moves one control point; the points to pass are forgotten. Raises OdError_InvalidIndex.
   void setControlPointAt(unsigned index, const OdGePoint3d& point);
 
@@ -62,7 +62,8 @@ class OdDbSpline : public OdDbCurve {
   /// What the file knows of a spline; all in world coordinates.
   struct Data {
     int flags = 0, degree = 3;
-    double knotTolerance = 1e-7, controlTolerance = 1e-7, fitTolerance = 1e-10;
+    /// Below 0: not given.
+    double knotTolerance = -1, controlTolerance = -1, fitTolerance = -1;
     OdGeVector3d normal = OdGeVector3d::zAxis();
     OdGeVector3d startTangent, endTangent; ///< without length: not given
     std::vector<double> knots, weights;

@@ -127,48 +127,6 @@ void OdDbText::setNormal(const OdGeVector3d& normal) {
   setAlignmentPoint(fastened);
 }
 
-bool OdDbText::getGeomExtents(OdGeExtents3d& extents) const {
-  extents = {};
-  if (m_text.string.isEmpty()) return false;
-  // Letters of the usual fonts are about six tenths as wide as they are high, and reach a third of
-  // their height below the base line.
-  const double h = m_text.height;
-  double width = 0.6 * h * m_text.widthFactor * static_cast<double>(m_text.string.size());
-  OdGePoint3d at = m_text.position;
-  double left = 0;
-  double bottom = 0;
-  if (!isDefaultAlignment()) {
-    if (m_text.horizontal == OdDb::kTextAlign || m_text.horizontal == OdDb::kTextFit) {
-      width = m_text.position.distanceTo(m_text.alignment);
-    } else {
-      at = m_text.alignment;
-      const bool middle = m_text.horizontal == OdDb::kTextMid;
-      if (middle || m_text.horizontal == OdDb::kTextCenter) left = -width / 2;
-      if (m_text.horizontal == OdDb::kTextRight) left = -width;
-      if (m_text.vertical == OdDb::kTextTop) bottom = -h;
-      if (middle || m_text.vertical == OdDb::kTextVertMid) bottom = -h / 2;
-      if (m_text.vertical == OdDb::kTextBottom) bottom = h / 3;
-    }
-  }
-  double low = bottom - h / 3;
-  double high = bottom + h;
-  double right = left + width;
-  if (isMirroredInX()) {
-    left = -left;
-    right = -right;
-  }
-  if (isMirroredInY()) {
-    low = -low;
-    high = -high;
-  }
-  const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(m_text.extrusion.normal()) *
-                               OdGeMatrix3d::translation(at.asVector()) *
-                               OdGeMatrix3d::rotation(m_text.rotation, OdGeVector3d::zAxis());
-  for (const double x : {left, right})
-    for (const double y : {low, high}) extents.addPoint(toWorld * OdGePoint3d{x, y, 0});
-  return true;
-}
-
 bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
   const OdGePlaneTransform plane(transform, m_text.extrusion.normal());
   if (!plane.valid) return false;

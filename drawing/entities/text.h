@@ -3,6 +3,7 @@
 
 #include "drawing/entities/entity.h"
 #include "drawing/geometry/extrusion.h"
+#include "drawing/graphics/world_draw.h"
 
 /// One line of text.
 class OdDbText : public OdDbEntity {
@@ -13,7 +14,7 @@ class OdDbText : public OdDbEntity {
 
   /// The text with its %% codes.
   const OdString& textString() const { return m_text.string; }
-  void setTextString(const OdString& text);
+  virtual void setTextString(const OdString& text);
   /// The left end of the base line, in world coordinates.
   OdGePoint3d position() const;
   void setPosition(const OdGePoint3d& position);
@@ -47,8 +48,14 @@ class OdDbText : public OdDbEntity {
   const OdGeVector3d& normal() const { return m_text.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
-  /// An estimate that needs no font: the characters' usual width.
-  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  /// Moves the position to the left end of the base line as the text is fastened, and sets rotation
+  /// and width factor where both points decide about them.
+  void adjustAlignment();
+  /// What is shown, one run for each change of lines above and below.
+  std::vector<OdGiTextRun> runs() const;
+
+  void worldDraw(OdGiWorldDraw& draw) const override;
+  OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
@@ -64,7 +71,13 @@ class OdDbText : public OdDbEntity {
     int generation = 0, horizontal = 0, vertical = 0;
   };
 
+ protected:
+  /// The runs of another text in this one's place and look.
+  std::vector<OdGiTextRun> runsOf(const OdString& text) const;
+
  private:
+  struct Place;
+  Place placeOf(const OdString& text) const;
   Data m_text;
 };
 using OdDbTextPtr = OdSmartPtr<OdDbText>;

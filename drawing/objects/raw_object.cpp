@@ -1,6 +1,7 @@
 #include "drawing/objects/raw_object.h"
 
 #include "drawing/dxf/in.h"
+#include "drawing/dxf/out.h"
 
 void OdDbRawObject::assignFrom(const OdDbObject& other) {
   OdDbObject::assignFrom(other);
@@ -25,6 +26,11 @@ bool OdDbRawEntity::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbRawEntity::transformBy(const OdGeMatrix3d&) { return false; }
+
+void OdDbRawEntity::dxfOutFollowers(OdDbDxfOut& out) const {
+  for (const OdDbObjectId id : m_followers)
+    if (const OdDbObjectPtr follower = id.openObject()) out.object(*follower);
+}
 
 bool OdDbRawEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (OdDbEntity::dxfInTag(tag, in)) return true;

@@ -40,7 +40,9 @@ class OdDbRawEntity : public OdDbEntity {
   OdRxObjectPtr clone() const override;
   /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
   const std::vector<OdDbObjectId>& followers() const { return m_followers; }
-  void addFollower(OdDbObjectId id) { m_followers.push_back(id); }
+  bool takesFollowers() const override { return !m_followers.empty(); }
+  void addFollower(OdDbEntity& follower) override { m_followers.push_back(follower.objectId()); }
+  void dxfOutFollowers(OdDbDxfOut& out) const override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   /// Unknown: false.
   bool getGeomExtents(OdGeExtents3d& extents) const override;

@@ -201,9 +201,8 @@ TEST(DrawingFiles, VerticesAndAttributesBelongToTheirLeader) {
   for (auto it = db->getModelSpaceId().openAs<OdDbBlockTableRecord>()->newIterator(); !it->done();
        it->step()) {
     const OdDbEntityPtr entity = it->entity(OdDb::kForWrite);
-    const auto* raw = odrxCast<OdDbRawEntity>(entity.get());
-    if (!raw || raw->followers().empty()) continue;
-    leaders << QLatin1String(raw->dxfName());
+    if (!entity->takesFollowers()) continue;
+    leaders << QLatin1String(entity->dxfName());
     entity->erase();
   }
   EXPECT_EQ(leaders, QStringList({QStringLiteral("POLYLINE"), QStringLiteral("POLYLINE"),

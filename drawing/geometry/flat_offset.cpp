@@ -1,0 +1,272 @@
+// Paths beside paths.
+#include "drawing/geometry/flat_path.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace {
+
+using Piece = OdGeFlatPiece;
+using Path = OdGeFlatPath;
+
+/// A point moved to the right of a direction.
+OdGePoint2d aside(const OdGePoint2d& p, const OdGePoint2d& direction, double distance) {
+  return {p.x + direction.y * distance, p.y - direction.x * distance};
+}
+
+double cross(const OdGePoint2d& a, const OdGePoint2d& b) { return a.x * b.y - a.y * b.x; }
+
+/// Pieces that lead somewhere.
+std::vector<Piece> usefulPieces(const Path& path, double slack) {
+  std::vector<Piece> pieces = odge::piecesOf(path);
+  std::erase_if(pieces, [&](const Piece& p) { return p.length() <= slack; });
+  return pieces;
+}
+
+/// The piece beside another one. An arc on whose inner side there is no room turns inside out; it
+/// is cut away later.
+Piece beside(const Piece& p, double distance) {
+  const OdGePoint2d a = aside(p.start, p.directionAt(0), distance);
+  const OdGePoint2d b = aside(p.end, p.directionAt(1), distance);
+  if (p.isLine()) return {a, b, 0};
+  const double grown = p.sweep > 0 ? p.radius + distance : p.radius - distance;
+  return {a, b, grown > 0 ? p.bulge : (grown < 0 ? -p.bulge : 0)};
+}
+
+class Offsetter {
+ public:
+  Offsetter(const Path& path, double distance)
+    : m_closed(path.closed)
+    , m_distance(distance) {
+    double reach = std::abs(distance);
+    for (const OdGeFlatCorner& c : path.corners)
+      reach = std::max({reach, std::abs(c.point.x), std::abs(c.point.y)});
+    m_slack = 1e-9 * std::max(reach, 1.0);
+    m_path = usefulPieces(path, m_slack);
+  }
+
+  std::vector<Path> paths() {
+    if (m_path.empty()) return {};
+    makeRaw();
+    cut();
+    return stitch();
+  }
+
+ private:
+  /// The places where an outer corner goes on straight beyond this many distances are cut off by an
+  /// arc, as needles help nobody.
+  static constexpr double kLongestPoint = 50;
+
+  void makeRaw() {
+    std::vector<Piece> moved;
+    for (const Piece& p : m_path) moved.push_back(beside(p, m_distance));
+    const std::size_t count = moved.size();
+    // Corners first move the ends of straight pieces that have to meet.
+    std::vector<std::vector<Piece>> bridges(count);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (i + 1 == count && !m_closed) break;
+      join(moved[i], moved[(i + 1) % count], m_path[i], m_path[(i + 1) % count], bridges[i]);
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+      if (moved[i].length() > m_slack) m_raw.push_back(moved[i]);
+      m_raw.insert(m_raw.end(), bridges[i].begin(), bridges[i].end());
+    }
+  }
+
+  void join(Piece& a, Piece& b, const Piece& oldA, const Piece& oldB,
+            std::vector<Piece>& bridge) const {
+    if (a.end.distanceTo(b.start) <= m_slack) return;
+    const OdGePoint2d u = oldA.directionAt(1);
+    const OdGePoint2d v = oldB.directionAt(0);
+    // On the outer side of the corner there is a gap; on the inner side the pieces cross, and what
+    // is too near is cut away.
+    const bool isOuter = cross(u, v) * m_distance > 0 || (u.x * v.x + u.y * v.y) < -1 + 1e-12;
+    if (isOuter && a.isLine() && b.isLine()) {
+      const auto meeting = odge::meetings(a, b, true);
+      if (!meeting.empty()) {
+        const OdGePoint2d tip = a.pointAt(meeting[0].first);
+        if (tip.distanceTo(oldA.end) <= kLongestPoint * std::abs(m_distance) &&
+            meeting[0].first >= 1) {
+          a = {a.start, tip, 0};
+          b = {tip, b.end, 0};
+          return;
+        }
+      }
+    }
+    if (isOuter) {
+      double sweep = std::atan2(cross(u, v), u.x * v.x + u.y * v.y);
+      if (sweep * m_distance < 0) sweep = -sweep;
+      bridge.push_back({a.end, b.start, std::tan(sweep / 4)});
+      return;
+    }
+    // By way of the corner itself, so that every crossing is found: this is cut away for sure.
+    bridge.push_back({a.end, oldA.end, 0});
+    bridge.push_back({oldA.end, b.start, 0});
+  }
+
+  double distanceToPath(const OdGePoint2d& point) const {
+    double best = std::numeric_limits<double>::infinity();
+    for (const Piece& p : m_path) best = std::min(best, p.distanceTo(point));
+    return best;
+  }
+
+  /// Cuts the raw pieces where they meet, and keeps those that are far enough from the path.
+  void cut() {
+    std::vector<std::vector<double>> cuts(m_raw.size(), {0.0, 1.0});
+    struct Box {
+      double left, right;
+      std::size_t index;
+    };
+    std::vector<Box> boxes;
+    for (std::size_t i = 0; i < m_raw.size(); ++i) {
+      const Piece& p = m_raw[i];
+      double left = std::min(p.start.x, p.end.x);
+      double right = std::max(p.start.x, p.end.x);
+      if (!p.isLine()) {
+        left = p.center.x - p.radius;
+        right = p.center.x + p.radius;
+      }
+      boxes.push_back({left - m_slack, right + m_slack, i});
+    }
+    std::sort(boxes.begin(), boxes.end(),
+              [](const Box& a, const Box& b) { return a.left < b.left; });
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+      for (std::size_t k = i + 1; k < boxes.size() && boxes[k].left <= boxes[i].right; ++k)
+        for (const auto& m : odge::meetings(m_raw[boxes[i].index], m_raw[boxes[k].index])) {
+          cuts[boxes[i].index].push_back(m.first);
+          cuts[boxes[k].index].push_back(m.second);
+        }
+    if (!m_closed) cutAroundEnds(cuts);
+    for (std::size_t i = 0; i < m_raw.size(); ++i) {
+      auto& parts = cuts[i];
+      std::sort(parts.begin(), parts.end());
+      for (std::size_t k = 0; k + 1 < parts.size(); ++k) {
+        const Piece piece = m_raw[i].between(parts[k], parts[k + 1]);
+        if (piece.length() <= 10 * m_slack) continue;
+        if (isFarEnough(piece)) m_kept.push_back(piece);
+      }
+    }
+  }
+
+  /// What passes the end of an open path may come too near to it without crossing anything.
+  void cutAroundEnds(std::vector<std::vector<double>>& cuts) const {
+    const double r = std::abs(m_distance);
+    for (const OdGePoint2d& end : {m_path.front().start, m_path.back().end}) {
+      const Piece halves[] = {{{end.x - r, end.y}, {end.x + r, end.y}, 1},
+                              {{end.x + r, end.y}, {end.x - r, end.y}, 1}};
+      for (std::size_t i = 0; i < m_raw.size(); ++i)
+        for (const Piece& half : halves)
+          for (const auto& m : odge::meetings(m_raw[i], half)) cuts[i].push_back(m.first);
+    }
+  }
+
+  bool isFarEnough(const Piece& piece) const {
+    const double least = std::abs(m_distance) * (1 - 1e-6) - 10 * m_slack;
+    return std::all_of(std::begin(kTried), std::end(kTried),
+                       [&](double part) { return distanceToPath(piece.pointAt(part)) >= least; });
+  }
+  static constexpr double kTried[] = {0.5, 0.1, 0.9};
+
+  /// Puts the pieces that are left one behind the other.
+  std::vector<Path> stitch() {
+    std::vector<Path> paths;
+    std::vector<char> used(m_kept.size());
+    const double near = 1000 * m_slack;
+    const auto follower = [&](const OdGePoint2d& end) {
+      std::size_t best = m_kept.size();
+      double bestGap = near;
+      for (std::size_t i = 0; i < m_kept.size(); ++i) {
+        if (used[i]) continue;
+        if (const double gap = m_kept[i].start.distanceTo(end); gap <= bestGap) {
+          best = i;
+          bestGap = gap;
+        }
+      }
+      return best;
+    };
+    // A piece that nothing leads to begins an open path; those are looked for first.
+    std::vector<std::size_t> order;
+    for (const bool wanted : {true, false})
+      for (std::size_t i = 0; i < m_kept.size(); ++i) {
+        const bool begins = std::none_of(m_kept.begin(), m_kept.end(), [&](const Piece& p) {
+          return p.end.distanceTo(m_kept[i].start) <= near;
+        });
+        if (begins == wanted) order.push_back(i);
+      }
+    for (const std::size_t first : order) {
+      if (used[first]) continue;
+      Path path;
+      std::size_t at = first;
+      const OdGePoint2d start = m_kept[first].start;
+      for (;;) {
+        used[at] = 1;
+        append(path, m_kept[at]);
+        const OdGePoint2d end = m_kept[at].end;
+        if (end.distanceTo(start) <= near && path.corners.size() > 1) {
+          path.closed = true;
+          break;
+        }
+        at = follower(end);
+        if (at == m_kept.size()) {
+          path.corners.push_back({end, 0});
+          break;
+        }
+      }
+      if (path.closed) mergeOverStart(path);
+      paths.push_back(std::move(path));
+    }
+    return paths;
+  }
+
+  /// Adds a piece; one that only goes on with the piece before is joined with it.
+  void append(Path& path, const Piece& piece) const {
+    if (!path.corners.empty()) {
+      OdGeFlatCorner& before = path.corners.back();
+      const Piece last(before.point, piece.start, before.bulge);
+      if (const auto joined = joinedBulge(last, piece)) {
+        before.bulge = *joined;
+        return;
+      }
+    }
+    path.corners.push_back({piece.start, piece.bulge});
+  }
+
+  void mergeOverStart(Path& path) const {
+    if (path.corners.size() < 3) return;
+    const Piece last(path.corners.back().point, path.corners[0].point, path.corners.back().bulge);
+    const Piece first(path.corners[0].point, path.corners[1].point, path.corners[0].bulge);
+    if (const auto joined = joinedBulge(last, first)) {
+      path.corners.back().bulge = *joined;
+      path.corners.erase(path.corners.begin());
+    }
+  }
+
+  /// The bulge of two pieces as one, if they go on alike.
+  std::optional<double> joinedBulge(const Piece& a, const Piece& b) const {
+    if (a.isLine() != b.isLine() || a.length() <= m_slack) return std::nullopt;
+    if (a.isLine())
+      return std::abs(cross(a.directionAt(0), b.directionAt(0))) < 1e-9 &&
+                     a.directionAt(0).x * b.directionAt(0).x +
+                             a.directionAt(0).y * b.directionAt(0).y >
+                         0
+                 ? std::optional(0.0)
+                 : std::nullopt;
+    const bool same = a.center.distanceTo(b.center) <= 1000 * m_slack && a.sweep * b.sweep > 0;
+    const double sweep = a.sweep + b.sweep;
+    // An arc of nearly a full turn has no chord to speak of.
+    if (!same || std::abs(sweep) > 1.5 * kOdaPi) return std::nullopt;
+    return std::tan(sweep / 4);
+  }
+
+  bool m_closed;
+  double m_distance, m_slack = 0;
+  std::vector<Piece> m_path, m_raw, m_kept;
+};
+
+} // namespace
+
+std::vector<OdGeFlatPath> odge::offset(const OdGeFlatPath& path, double distance) {
+  if (distance == 0) return {path};
+  return Offsetter(path, distance).paths();
+}
