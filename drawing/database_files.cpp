@@ -1,4 +1,5 @@
 // Drawings from and into files.
+#include "drawing/dxf/bytes.h"
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/document_out.h"
 #include "drawing/dxf/template.h"
@@ -10,14 +11,15 @@
 
 namespace {
 
-/// A refusal for what is not a DXF text, by its first bytes.
-OdString whyNotText(std::string_view bytes) {
+using SourceMaker = std::function<std::unique_ptr<OdDbDxfSource>()>;
+
+/// A refusal for what is no DXF, by its first bytes.
+OdString whyNot(std::string_view bytes) {
   struct Row {
     std::string_view start;
     const char* reason;
   };
   static constexpr Row kRows[] = {
-      {"AutoCAD Binary DXF", "this is a binary DXF drawing; only text ones can be read"},
       {"AC10", "this is a DWG drawing, which has to be converted to DXF first"},
       {"%PDF", "this is a PDF document and not a drawing"},
       {"\xFF\xFE", "this is a text in UTF-16 and not a DXF drawing"},
@@ -29,9 +31,8 @@ OdString whyNotText(std::string_view bytes) {
   return {};
 }
 
-} // namespace
-
-OdDbDatabasePtr OdDbDatabase::createDatabase() {
+/// A new drawing whose handles lie above `lastHandle`.
+OdDbDatabasePtr newDatabase(std::uint64_t lastHandle) {
   const auto database = odrxMake<OdDbDatabase>();
   OdDbDatabaseData& d = database->data();
   const auto vars = oddbHeaderVars();
@@ -39,31 +40,37 @@ OdDbDatabasePtr OdDbDatabase::createDatabase() {
     d.vars[i] = oddbPresetOf(vars[i]);
     d.varPresent[i] = vars[i].type != OdDbHeaderVarInfo::kHandle;
   }
-  const auto whole = [] {
-    // The header's place is taken by the presets, but for what decides how the rest is read.
-    static const std::string text =
-        std::string("0 SECTION|2 HEADER|9 $ACADVER|1 AC1032|9 $HANDSEED|5 30|0 ENDSEC|")
-            .append(oddxf::newDrawing());
-    return std::make_unique<OdDbDxfShortSource>(text);
-  };
-  OdDbDxfReader(*database, whole, QStringLiteral("(new drawing)")).read();
+  // The header's place is taken by the presets, but for what decides how the rest is read.
+  static const std::string text =
+      std::string("0 SECTION|2 HEADER|9 $ACADVER|1 AC1032|0 ENDSEC|").append(oddxf::newDrawing());
+  constexpr std::uint64_t kFirstFree = 0x30;
+  oddxf::Start start;
+  start.version = OdDb::kR2018;
+  start.hasHandles = true;
+  start.handseed = lastHandle + kFirstFree;
+  OdDbDxfShortSource source(text, lastHandle);
+  OdDbDxfReader(*database, source, start, QStringLiteral("(new drawing)")).read();
   d.headerOrder.clear();
   return database;
 }
 
+/// Reads what `make` gives twice: for a look ahead, and for good.
+OdDbDatabasePtr load(const SourceMaker& make, const OdString& name) {
+  const oddxf::Start start = oddxf::lookAhead(*make(), name);
+  const OdDbDatabasePtr database =
+      start.isPlain() ? newDatabase(start.handseed - 1) : odrxMake<OdDbDatabase>();
+  OdDbDxfReader(*database, *make(), start, name).read();
+  return database;
+}
+
+} // namespace
+
+OdDbDatabasePtr OdDbDatabase::createDatabase() { return newDatabase(0); }
+
 OdDbDatabasePtr OdDbDatabase::readDxf(QByteArrayView bytes, const OdString& name) {
   const std::string_view text(bytes.data(), static_cast<std::size_t>(bytes.size()));
-  if (const OdString reason = whyNotText(text); !reason.isEmpty())
-    throw OdDbFileError(name, 1, reason);
-  const auto maker = [text] { return std::make_unique<OdDbDxfTextSource>(text); };
-  if (OdDbDxfReader::isPlain(*maker())) {
-    const OdDbDatabasePtr database = createDatabase();
-    OdDbDxfReader(*database, maker, name).read();
-    return database;
-  }
-  const auto database = odrxMake<OdDbDatabase>();
-  OdDbDxfReader(*database, maker, name).read();
-  return database;
+  if (const OdString reason = whyNot(text); !reason.isEmpty()) throw OdDbFileError(name, 1, reason);
+  return load([&] { return OdDbDxfSource::of(OdDbDxfBytes(text)); }, name);
 }
 
 OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
@@ -73,18 +80,20 @@ OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
   // A device or a pipe may have no end.
   if (info.exists() && !info.isFile())
     throw OdFileError(eFileAccess, path, QStringLiteral("it is not a file"));
-  if (!file.open(QIODevice::ReadOnly))
-    throw OdFileError(info.exists() ? eFileAccess : eFileNotFound, path, file.errorString());
-  // The file is looked at where it lies; only if the system cannot do that it is copied.
-  QByteArray copy;
-  const uchar* const mapped = file.size() > 0 ? file.map(0, file.size()) : nullptr;
-  if (!mapped) {
-    copy = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-      throw OdFileError(eFileAccess, path, file.errorString());
-  }
-  const OdDbDatabasePtr database =
-      readDxf(mapped ? QByteArrayView(mapped, file.size()) : QByteArrayView(copy), path);
+  const auto refuse = [&](OdResult code) { throw OdFileError(code, path, file.errorString()); };
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    refuse(info.exists() ? eFileAccess : eFileNotFound);
+  constexpr qint64 kStart = 64;
+  const QByteArray start = file.read(kStart);
+  if (file.error() != QFileDevice::NoError) refuse(eFileAccess);
+  if (const OdString reason = whyNot({start.constData(), static_cast<std::size_t>(start.size())});
+      !reason.isEmpty())
+    throw OdDbFileError(path, 1, reason);
+  const auto fromStart = [&] {
+    if (!file.seek(0)) refuse(eFileAccess);
+    return OdDbDxfSource::of(OdDbDxfBytes(file));
+  };
+  const OdDbDatabasePtr database = load(fromStart, path);
   database->setFileName(path);
   return database;
 }

@@ -48,6 +48,8 @@ class OdDbObject : public OdRxObject {
 
   /// The name of the class in DXF files ("LINE").
   virtual const char* dxfName() const = 0;
+  /// The code of the object's handle in files.
+  virtual int dxfHandleCode() const { return 5; }
 
   /// Takes one tag of the object; false if it is not understood, which keeps it as it is.
   virtual bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in);

@@ -3,7 +3,6 @@
 
 #include "drawing/dxf/out.h"
 #include "drawing/dxf/text.h"
-#include "drawing/objects/raw_object.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -147,8 +146,7 @@ class Writer {
       if (!id.isValid()) continue;
       const OdDbObject& entity = *id.stub()->object;
       m_out.object(entity);
-      if (const auto* leader = dynamic_cast<const OdDbEntity*>(&entity))
-        leader->dxfOutFollowers(m_out);
+      static_cast<const OdDbEntity&>(entity).dxfOutFollowers(m_out);
     }
   }
 

@@ -1,21 +1,50 @@
 #include "drawing/dxf/in.h"
 
-#include "drawing/dxf/residue.h"
+#include "drawing/dxf/start.h"
 #include "drawing/dxf/text.h"
+#include "drawing/object_extras.h"
+#include "drawing/objects/raw_object.h"
 
 #include <charconv>
 
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
-  return text;
+/// Old files have no subclasses: those in which the tags of their entities stand today.
+struct PlainClass {
+  std::string_view name;
+  const char* subclass;
+};
+constexpr PlainClass kPlainClasses[] = {
+    {"3DFACE", "AcDbFace"},
+    {"3DLINE", "AcDbLine"},
+    {"ARC", "AcDbCircle"},
+    {"ATTDEF", "AcDbAttributeDefinition"},
+    {"ATTRIB", "AcDbAttribute"},
+    {"BLOCK", "AcDbBlockBegin"},
+    {"CIRCLE", "AcDbCircle"},
+    {"DIMENSION", "AcDbDimension"},
+    {"INSERT", "AcDbBlockReference"},
+    {"LINE", "AcDbLine"},
+    {"POINT", "AcDbPoint"},
+    {"POLYLINE", "AcDb2dPolyline"},
+    {"SHAPE", "AcDbShape"},
+    {"SOLID", "AcDbTrace"},
+    {"TEXT", "AcDbText"},
+    {"TRACE", "AcDbTrace"},
+    {"VERTEX", "AcDbVertex"},
+    {"VIEWPORT", "AcDbViewport"},
+};
+
+const char* plainSubclass(const OdDbObject& object) {
+  if (const auto* record = odrxCast<OdDbSymbolTableRecord>(&object)) return record->dxfSubclass();
+  for (const PlainClass& one : kPlainClasses)
+    if (one.name == object.dxfName()) return one.subclass;
+  return nullptr;
 }
 
 template <class T>
 std::optional<T> parsed(std::string_view text) {
-  text = trimmed(text);
+  text = oddxf::trimmed(text);
   if (text.starts_with('+')) text.remove_prefix(1);
   T value{};
   const auto [at, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -35,6 +64,9 @@ QString place(const OdString& name, qint64 line) {
 
 // A file can be wrong in every line; nobody reads more than this.
 constexpr qsizetype kMostMessages = 1000;
+
+constexpr int kElevation = 38;
+constexpr int kEmbeddedObject = 101;
 
 } // namespace
 
@@ -78,7 +110,7 @@ void OdDbDxfIn::note(const OdString& what) {
 }
 
 double OdDbDxfIn::real(const OdDbDxfTag& tag, double now) {
-  const auto value = parsed<double>(tag.text);
+  const auto value = oddxf::realOf(tag.text);
   if (value && std::isfinite(*value)) return *value;
   m_badValue = true;
   damage(QStringLiteral("\"%1\" under group code %2 is no finite number")
@@ -94,7 +126,7 @@ double OdDbDxfIn::angle(const OdDbDxfTag& tag, double now) {
 std::int64_t OdDbDxfIn::longInteger(const OdDbDxfTag& tag, std::int64_t now) {
   if (const auto value = parsed<std::int64_t>(tag.text)) return *value;
   // Some programs write whole numbers with a point.
-  if (const auto value = parsed<double>(tag.text);
+  if (const auto value = oddxf::realOf(tag.text);
       value && std::abs(*value) < 9e15 && std::trunc(*value) == *value)
     return static_cast<std::int64_t>(*value);
   m_badValue = true;
@@ -114,16 +146,20 @@ int OdDbDxfIn::integer(const OdDbDxfTag& tag, int now) {
 
 OdString OdDbDxfIn::text(std::string_view bytes) {
   const auto* const end = bytes.data() + bytes.size();
-  if (std::all_of(bytes.data(), end, [](char c) { return static_cast<signed char>(c) >= 0; })) {
-    const OdString plain = OdString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    return m_decodeEscapes ? oddxf::withoutEscapes(plain) : plain;
+  const bool plain =
+      std::all_of(bytes.data(), end, [](char c) { return static_cast<signed char>(c) >= 0; });
+  const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  OdString decoded;
+  if (plain) {
+    decoded = OdString::fromLatin1(view);
+  } else {
+    m_decoder.resetState();
+    decoded = m_decoder.decode(view);
+    if (m_decoder.hasError())
+      damage(QStringLiteral("a text is not in the encoding of the file: \"%1\"").arg(decoded));
   }
-  m_decoder.resetState();
-  OdString decoded =
-      m_decoder.decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  if (m_decoder.hasError())
-    damage(QStringLiteral("a text is not in the encoding of the file: \"%1\"").arg(decoded));
-  return m_decodeEscapes ? oddxf::withoutEscapes(decoded) : decoded;
+  const bool escapes = m_decodeEscapes && bytes.find('\\') != std::string_view::npos;
+  return escapes ? oddxf::withoutEscapes(decoded) : decoded;
 }
 
 void OdDbDxfIn::setCodePage(std::string_view name) {
@@ -134,13 +170,14 @@ void OdDbDxfIn::setCodePage(std::string_view name) {
   m_decoder = QStringDecoder(encoding.constData());
   d.encoding = encoding;
   if (m_decoder.isValid()) return;
-  damage(QStringLiteral("the code page %1 is not known").arg(shown(name)));
-  d.encoding = "ISO-8859-1";
-  m_decoder = QStringDecoder(QStringDecoder::Latin1);
+  note(QStringLiteral("the code page %1 is not known; texts are read as ANSI_1252")
+           .arg(shown(name)));
+  d.encoding = oddxf::encodingOf("ANSI_1252");
+  m_decoder = QStringDecoder(d.encoding.constData());
 }
 
 OdDbHandle OdDbDxfIn::handle(const OdDbDxfTag& tag) {
-  if (const auto value = OdDbHandle::fromText(trimmed(tag.text))) return *value;
+  if (const auto value = OdDbHandle::fromText(oddxf::trimmed(tag.text))) return *value;
   damage(QStringLiteral("\"%1\" is no handle").arg(shown(tag.text)));
   return {};
 }
@@ -163,7 +200,8 @@ OdDbObjectId OdDbDxfIn::record(OdDbDatabaseData::Table table, std::string_view n
     note(QStringLiteral("%1 \"%2\" is not in its table and was added")
              .arg(QLatin1String(records->dxfRecordName()), wanted));
   }
-  recent = {name, id};
+  recent.name = name;
+  recent.id = id;
   return id;
 }
 
@@ -172,22 +210,41 @@ void OdDbDxfIn::keepTag(OdDbObject& object) {
   if (m_tag.code >= 1000)
     oddxf::addLines(residue.xdata, m_tag.code, m_tag.text);
   else if (m_plainSubclass && m_subclass.empty())
-    keepPlainTag(residue);
+    keepPlainTag(object, residue);
   else if (m_knownSubclass)
     oddxf::addLines(residue.edit(m_subclass), m_tag.code, m_tag.text);
   else
     oddxf::addLines(residue.tail, m_tag.code, m_tag.text);
 }
 
-void OdDbDxfIn::keepPlainTag(OdDbDxfResidue& residue) {
+void OdDbDxfIn::keepPlainTag(OdDbObject& object, OdDbDxfResidue& residue) {
   // Arrow blocks of dimension styles: newer files tell them by handle, under other codes.
   if (m_tag.code >= 5 && m_tag.code <= 7) {
-    if (!trimmed(m_tag.text).empty())
+    if (!oddxf::trimmed(m_tag.text).empty())
       damage(QStringLiteral("the block \"%1\" of a dimension style cannot be taken over")
                  .arg(shown(m_tag.text)));
     return;
   }
-  oddxf::addLines(residue.edit(m_plainSubclass), m_tag.code, m_tag.text);
+  // What newer files have no code for moves the entity, which is done behind its last tag.
+  if (m_tag.code == kElevation && odrxCast<OdDbEntity>(&object)) {
+    m_elevation = m_tag.text;
+    return;
+  }
+  if (!odrxCast<OdDbRawEntity>(&object)) {
+    oddxf::addLines(residue.edit(m_plainSubclass), m_tag.code, m_tag.text);
+    return;
+  }
+  if (residue.tail.isEmpty()) oddxf::addLines(residue.tail, 100, m_plainSubclass);
+  oddxf::addLines(residue.tail, m_tag.code, m_tag.text);
+}
+
+void OdDbDxfIn::takeElevation(OdDbObject& object) {
+  const std::string value = std::exchange(m_elevation, {});
+  for (const int code : {30, 31})
+    if (const OdDbDxfTag z{code, value}; !object.dxfInTag(z, *this) && code == 30) {
+      m_tag = z;
+      keepTag(object);
+    }
 }
 
 void OdDbDxfIn::keepGroup(OdDbObject& object) {
@@ -207,57 +264,82 @@ void OdDbDxfIn::keepGroup(OdDbObject& object) {
 }
 
 void OdDbDxfIn::readTags(OdDbObject& object) {
-  m_subclass = {};
+  m_subclass.clear();
   m_knownSubclass = true;
   m_badValue = m_paperSpace = m_hasFollowers = m_ownerSeen = false;
   m_handle = m_namedOwner = {};
-  const auto* const record = dynamic_cast<const OdDbSymbolTableRecord*>(&object);
-  m_plainSubclass = m_plain && record ? record->dxfSubclass() : nullptr;
-  const int handleCode = record ? record->dxfHandleCode() : 5;
+  m_plainSubclass = m_plain ? plainSubclass(object) : nullptr;
+  const int handleCode = object.dxfHandleCode();
   next();
   while (m_tag.code != 0) {
-    if (m_tag.code == 102 && m_tag.text.starts_with('{')) {
+    const int code = m_tag.code;
+    if (code == 102 && m_tag.text.starts_with('{')) {
       keepGroup(object);
       continue;
     }
-    if (m_subclass.empty() && m_tag.code == handleCode && m_handle.isNull()) {
+    if (code == handleCode && m_handle.isNull() && m_subclass.empty()) {
       m_handle = handle(m_tag);
-    } else if (m_subclass.empty() && m_tag.code == 330 && !m_ownerSeen) {
+    } else if (code == 330 && !m_ownerSeen && m_subclass.empty()) {
       m_namedOwner = handle(m_tag);
       m_ownerSeen = true;
-    } else if (m_tag.code == 100) {
+    } else if (code == 100) {
       m_subclass = m_tag.text;
       m_knownSubclass = object.dxfInTag(m_tag, *this);
       if (!m_knownSubclass) keepTag(object);
-    } else if ((m_tag.code < 1000 && !m_knownSubclass) || !object.dxfInTag(m_tag, *this)) {
-      if (m_tag.code == 66 && m_tag.text.ends_with('1')) m_hasFollowers = true;
+    } else if (code == kEmbeddedObject) {
+      // Its tags have the codes of the object around it, but other meanings.
+      m_knownSubclass = false;
+      m_subclass = "Embedded Object";
+      keepTag(object);
+    } else if ((code < 1000 && !m_knownSubclass) || !object.dxfInTag(m_tag, *this)) {
+      if (code == 66 && m_tag.text.ends_with('1')) m_hasFollowers = true;
       keepTag(object);
     }
     next();
   }
+  const OdDbDxfTag last = m_tag;
+  if (!m_elevation.empty()) takeElevation(object);
   object.dxfInEnd(*this);
+  m_tag = last;
+  if (OdDbDxfResidue* const residue =
+          object.m_extras && object.m_extras->residue ? &*object.m_extras->residue : nullptr)
+    residue->squeeze();
+}
+
+OdDbStub* OdDbDxfIn::freeStub(const OdDbObject& object) {
+  // Few old files have handles.
+  if (m_handle.isNull() || !m_keepsHandles) return nullptr;
+  // A handle that nothing can follow would leave no room for new objects.
+  if (m_handle > oddxf::kHighestHandle) {
+    damage(QStringLiteral("the handle %1 is too large; the object got a new one")
+               .arg(m_handle.ascii()));
+    return nullptr;
+  }
+  OdDbStub& stub = data().stubFor(m_handle);
+  if (!stub.object) return &stub;
+  damage(QStringLiteral("the handle %1 of a %2 belongs to another object; it got a new one")
+             .arg(m_handle.ascii(), QLatin1String(object.dxfName())));
+  return nullptr;
 }
 
 void OdDbDxfIn::enter(OdDbObject& object, OdDbObjectId owner) {
+  const OdDbStub* const stub = freeStub(object);
+  if (owner.isNull() && !m_namedOwner.isNull()) owner = OdDbObjectId(&data().stubFor(m_namedOwner));
+  m_database.addObject(&object, owner, stub ? stub->handle : OdDbHandle());
+}
+
+void OdDbDxfIn::enterEntity(OdDbEntity& entity, OdDbBlockTableRecord& block) {
+  OdDbStub* const stub = freeStub(entity);
+  if (!stub) {
+    m_database.addObject(&entity, block.objectId());
+    return;
+  }
   OdDbDatabaseData& d = data();
-  OdDbHandle handle = m_handle;
-  if (!m_plain && !handle.isNull() && d.stubFor(handle).object) {
-    damage(QStringLiteral("the handle %1 of a %2 belongs to another object; it got a new one")
-               .arg(handle.ascii(), QLatin1String(object.dxfName())));
-    handle = {};
-  }
-  // A handle that nothing can follow would leave no room for new objects.
-  constexpr std::uint64_t kHighest = ~std::uint64_t{0} >> 8;
-  if (handle > kHighest) {
-    damage(
-        QStringLiteral("the handle %1 is too large; the object got a new one").arg(handle.ascii()));
-    handle = {};
-  }
-  // Few old files have handles, and those of a new drawing have theirs already.
-  if (m_plain) handle = {};
-  if (owner.isNull() && !m_namedOwner.isNull())
-    owner = OdDbObjectId(&d.stubFor(m_namedOwner));
-  m_database.addObject(&object, owner, handle);
+  d.handseed = std::max<std::uint64_t>(d.handseed, stub->handle + 1);
+  stub->object = &entity;
+  entity.m_stub = stub;
+  entity.m_owner = block.objectId();
+  block.m_entities.push_back(entity.objectId());
 }
 
 bool OdDbDxfIn::readObject(OdDbObject& object, OdDbObjectId owner) {

@@ -6,6 +6,8 @@
 
 #include <QStringDecoder>
 
+#include <string>
+
 class OdDbRawEntity;
 
 /// Reads values and references for the objects of one drawing, and collects what is wrong.
@@ -16,6 +18,8 @@ class OdDbDxfIn {
  public:
   /// `name` is the path, for messages.
   OdDbDxfIn(OdDbDatabase& database, OdDbDxfSource& source, OdString name);
+  OdDbDxfIn(const OdDbDxfIn&) = delete;
+  OdDbDxfIn& operator=(const OdDbDxfIn&) = delete;
 
   OdDbDatabase& database() { return m_database; }
   OdDbDatabaseData& data() { return m_database.data(); }
@@ -34,7 +38,10 @@ class OdDbDxfIn {
   bool beforeSubclasses() const { return m_subclass.empty(); }
   /// Files of R12 have no subclasses.
   bool isPlain() const { return m_plain; }
-  void setPlain(bool plain) { m_plain = plain; }
+  void setPlain(bool plain, bool hasHandles) {
+    m_plain = plain;
+    m_keepsHandles = hasHandles;
+  }
 
   // Values. Each gives what the field has now if the tag's value is no good.
   double real(const OdDbDxfTag& tag, double now);
@@ -66,15 +73,18 @@ class OdDbDxfIn {
   bool readObject(OdDbObject& object, OdDbObjectId owner);
   /// The handle of an object's owner as the file names it; empty if it does not.
   OdDbHandle namedOwner() const { return m_namedOwner; }
+  /// True if the entity says that others follow which belong to it.
+  bool hasFollowers() const { return m_hasFollowers; }
   bool wasInPaperSpace() const { return m_paperSpace; }
   void setPaperSpace() { m_paperSpace = true; }
-  bool hasFollowers() const { return m_hasFollowers; }
 
   /// Puts the object under its handle, or under a new one if that is missing or taken.
   void enter(OdDbObject& object, OdDbObjectId owner);
   /// Puts what follows a polyline or an insert under its handle, outside of every list. Files name
   /// the leader or its block as the owner, which is kept.
   void enterFollower(OdDbObject& object, OdDbObjectId leader);
+  /// As enter(), for an entity that comes to the end of `block`.
+  void enterEntity(OdDbEntity& entity, OdDbBlockTableRecord& block);
   /// Reads the tags without entering the object.
   void readTags(OdDbObject& object);
 
@@ -84,7 +94,9 @@ class OdDbDxfIn {
   OdDbObjectId record(OdDbDatabaseData::Table table, std::string_view name);
   void keepGroup(OdDbObject& object);
   void keepTag(OdDbObject& object);
-  void keepPlainTag(OdDbDxfResidue& residue);
+  void keepPlainTag(OdDbObject& object, OdDbDxfResidue& residue);
+  void takeElevation(OdDbObject& object);
+  OdDbStub* freeStub(const OdDbObject& object);
 
   OdDbDatabase& m_database;
   OdDbDxfSource& m_source;
@@ -92,19 +104,20 @@ class OdDbDxfIn {
   OdDbDxfTag m_tag;
   QStringDecoder m_decoder;
   bool m_decodeEscapes = false;
-  bool m_damaged = false, m_plain = false;
+  bool m_damaged = false, m_plain = false, m_keepsHandles = true;
 
   // Of the object at hand.
-  std::string_view m_subclass;
+  std::string m_subclass;
   bool m_knownSubclass = true;
   const char* m_plainSubclass = nullptr;
+  std::string m_elevation;
   bool m_badValue = false, m_paperSpace = false, m_hasFollowers = false;
   OdDbHandle m_handle, m_namedOwner;
   bool m_ownerSeen = false;
 
   // Neighbours in a file mostly share their layer and line type.
   struct Recent {
-    std::string_view name;
+    std::string name;
     OdDbObjectId id;
   };
   Recent m_recent[OdDbDatabaseData::kTableCount];

@@ -16,6 +16,14 @@ struct OdDbDxfResidue {
   QByteArray tail;  ///< subclasses that the class does not know, with their markers
   QByteArray xdata; ///< extended data
 
+  /// Gives back room for further lines.
+  void squeeze() {
+    groups.squeeze();
+    tail.squeeze();
+    xdata.squeeze();
+    known.shrink_to_fit();
+    for (auto& [name, tags] : known) tags.squeeze();
+  }
   /// The lines of one subclass; null if there are none.
   const QByteArray* of(std::string_view subclass) const {
     for (const auto& [name, tags] : known)

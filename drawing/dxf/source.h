@@ -7,7 +7,9 @@
 #include <memory>
 #include <string_view>
 
-/// One tag: a group code and a value as text. The text lives as long as its source.
+class OdDbDxfBytes;
+
+/// One tag: a group code and a value as text. The text lives until the next tag is asked for.
 struct OdDbDxfTag {
   int code = 0;
   std::string_view text;
@@ -26,44 +28,35 @@ class OdDbDxfSource {
 
   virtual ~OdDbDxfSource() = default;
   virtual Result next(OdDbDxfTag& tag) = 0;
-  /// The line of the last tag's group code, from 1.
+  /// Where the last tag stands, from 1: the line of its group code, or its number if there are no
+  /// lines.
   virtual qint64 line() const = 0;
   /// Why the source is damaged.
   virtual OdString problem() const = 0;
-};
 
-/// Splits the text form of the format. Lines may end in either way.
-class OdDbDxfTextSource : public OdDbDxfSource {
- public:
-  /// `bytes` must outlive the source.
-  explicit OdDbDxfTextSource(std::string_view bytes);
-
-  Result next(OdDbDxfTag& tag) override;
-  qint64 line() const override { return m_line; }
-  OdString problem() const override { return m_problem; }
-
- private:
-  bool nextLine(std::string_view& line);
-
-  const char* m_at;
-  const char* m_end;
-  qint64 m_nextLine = 1;
-  qint64 m_line = 1;
-  OdString m_problem;
+  /// The source for a text or a binary file by its first bytes. Raises nothing: what is neither is
+  /// found to be damaged.
+  static std::unique_ptr<OdDbDxfSource> of(OdDbDxfBytes bytes);
 };
 
 /// Gives tags from a short form in which the parts of the library write constant drawings: tags
 /// with a bar between them, each a code, a blank and a value.
 class OdDbDxfShortSource : public OdDbDxfSource {
  public:
-  explicit OdDbDxfShortSource(std::string_view text)
-    : m_text(text) {}
+  /// Handles in it are raised by `lastHandle`, behind which they then lie.
+  explicit OdDbDxfShortSource(std::string_view text, std::uint64_t lastHandle = 0)
+    : m_text(text)
+    , m_lastHandle(lastHandle) {}
 
   Result next(OdDbDxfTag& tag) override;
   qint64 line() const override { return m_count; }
   OdString problem() const override { return {}; }
 
  private:
+  void raise(OdDbDxfTag& tag);
+
   std::string_view m_text;
+  std::uint64_t m_lastHandle;
+  char m_handle[20] = {};
   qint64 m_count = 0;
 };

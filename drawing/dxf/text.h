@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 
+#include <optional>
 #include <string_view>
 
 namespace oddxf {
@@ -13,6 +14,10 @@ namespace oddxf {
 QByteArray encodingOf(std::string_view codePage);
 /// Turns \U+XXXX, by which older files tell characters outside of their code page, into these.
 OdString withoutEscapes(const OdString& text);
+/// The text without the blanks around it.
+std::string_view trimmed(std::string_view text);
+/// The number that the text is, which may be none that is finite; nothing if it is no number.
+std::optional<double> realOf(std::string_view text);
 /// Control characters as ^J and the like, since a line break would end the value.
 OdString oneLine(const OdString& text);
 /// Adds a tag as the lines that the writer writes.

@@ -67,6 +67,7 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
 
  private:
   friend class OdDbDatabase;
+  friend class OdDbDxfIn;
   friend class OdDbUndo;
   Data m_block;
   std::vector<OdDbObjectId> m_entities;

@@ -25,8 +25,6 @@ class OdDbSymbolTableRecord : public OdDbObject {
   void dxfOut(OdDbDxfOut& out) const override;
   /// The subclass marker behind that of all records ("AcDbLayerTableRecord").
   virtual const char* dxfSubclass() const = 0;
-  /// The code of the record's handle in files.
-  virtual int dxfHandleCode() const { return 5; }
 
  protected:
   OdDbSymbolTableRecord();

@@ -124,8 +124,9 @@ TEST(HostileDrawing, UnknownCodePageIsTold) {
   QByteArray text = OdDbDatabase::createDatabase()->writeDxf(OdDb::kR2000);
   text.replace("ANSI_1252", "ANSI_0000");
   const OdDbDatabasePtr db = read(text);
-  ASSERT_EQ(db->unknownContent().size(), 1);
-  EXPECT_TRUE(db->unknownContent()[0].contains(QLatin1String("ANSI_0000")));
+  EXPECT_EQ(db->unknownContent(), QStringList());
+  ASSERT_EQ(db->readNotes().size(), 1);
+  EXPECT_TRUE(db->readNotes()[0].contains(QLatin1String("ANSI_0000")));
 }
 
 TEST(HostileDrawing, BytesOutsideOfTheEncodingAreTold) {

@@ -1,0 +1,37 @@
+// Bytes of a file, piece by piece.
+#pragma once
+
+#include "frame/string.h"
+
+#include <string_view>
+#include <vector>
+
+class QIODevice;
+
+/// A window on bytes that lie in memory or come from a device. Of a device no more than the window
+/// is in memory, and the device may change or end at any time.
+class OdDbDxfBytes {
+ public:
+  /// `all` must outlive the window.
+  explicit OdDbDxfBytes(std::string_view all)
+    : at(all.data())
+    , end(all.data() + all.size()) {}
+  /// From where the device stands; it must outlive the window.
+  explicit OdDbDxfBytes(QIODevice& device);
+
+  OdDbDxfBytes(OdDbDxfBytes&&) = default;
+
+  std::size_t left() const { return static_cast<std::size_t>(end - at); }
+  /// Brings further bytes behind those that are left, which may move. False if there are none.
+  bool more();
+  /// What went wrong with the device; empty if nothing did.
+  const OdString& problem() const { return m_problem; }
+
+  const char* at;  ///< the next byte; whoever reads moves it on
+  const char* end; ///< behind the last byte in the window
+
+ private:
+  QIODevice* m_device = nullptr;
+  std::vector<char> m_window;
+  OdString m_problem;
+};

@@ -1,0 +1,148 @@
+// Reading blocks, entities and objects.
+#include "drawing/dxf/document_in.h"
+#include "drawing/dxf/makers.h"
+#include "drawing/dxf/residue.h"
+#include "drawing/objects/raw_object.h"
+
+namespace {
+
+/// A name as a message shows it.
+OdString shown(std::string_view text) {
+  constexpr std::size_t kShown = 40;
+  return OdString::fromLatin1(text.data(), static_cast<qsizetype>(std::min(text.size(), kShown)));
+}
+
+/// The beginning of a block while it is read: most of it belongs to the block's record.
+class BlockBegin : public OdDbRawEntity {
+ public:
+  BlockBegin()
+    : OdDbRawEntity("BLOCK") {}
+
+  bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override {
+    if (OdDbRawEntity::dxfInTag(tag, in)) return true;
+    if (!in.in("AcDbBlockBegin")) return false;
+    if (tag.code == 2) name = in.text(tag.text);
+    return tag.code == 100 || fields->dxfInBegin(tag, in);
+  }
+
+  OdDbBlockTableRecordPtr fields = odrxMake<OdDbBlockTableRecord>();
+  OdString name;
+};
+
+} // namespace
+
+void OdDbDxfReader::readBlocks() {
+  m_in.next();
+  while (!m_in.isDamaged() && !m_in.tag().is(0, "ENDSEC") && !m_in.tag().is(0, "EOF")) {
+    if (m_in.tag().is(0, "BLOCK")) {
+      readBlock();
+      continue;
+    }
+    m_in.damage(QStringLiteral("something stands outside of every block"));
+    while (m_in.next() && m_in.tag().code != 0) {
+    }
+  }
+}
+
+OdDbObjectId OdDbDxfReader::blockNamed(const OdString& name) {
+  OdString wanted = name;
+  // Old files write the two spaces so.
+  if (m_in.isPlain() && wanted.startsWith(QLatin1Char('$'))) wanted[0] = QLatin1Char('*');
+  OdDbSymbolTable& blocks = *m_tables[OdDbDatabaseData::kBlocks];
+  if (const OdDbObjectId found = blocks.getAt(wanted); !found.isNull()) return found;
+  const auto record = odrxMake<OdDbBlockTableRecord>();
+  record->setName(wanted);
+  if (!m_in.isPlain())
+    m_in.note(QStringLiteral("the block \"%1\" has no record and got one").arg(wanted));
+  return m_database.addObject(record, blocks.objectId());
+}
+
+void OdDbDxfReader::readBlock() {
+  const auto begin = odrxMake<BlockBegin>();
+  m_in.readTags(*begin);
+  if (begin->name.isEmpty()) m_in.damage(QStringLiteral("a block has no name"));
+  const OdDbObjectId id =
+      blockNamed(begin->name.isEmpty() ? QStringLiteral("*Unnamed") : begin->name);
+  const auto block = id.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  block->takeBegin(*begin->fields);
+  const bool isNew = block->blockBeginId().isNull();
+  if (isNew) {
+    const auto kept = odrxMake<OdDbRawEntity>("BLOCK");
+    kept->assignFrom(*begin);
+    m_in.enter(*kept, id);
+    block->setBounds(kept->objectId(), {});
+  }
+  readEntities(id);
+  if (!m_in.tag().is(0, "ENDBLK")) {
+    if (!m_in.isDamaged()) m_in.damage(QStringLiteral("the block has no end"));
+    return;
+  }
+  const auto end = odrxMake<OdDbRawEntity>("ENDBLK");
+  m_in.readTags(*end);
+  if (!isNew) return;
+  m_in.enter(*end, id);
+  block->setBounds(block->blockBeginId(), end->objectId());
+}
+
+void OdDbDxfReader::readEntities(OdDbObjectId block) {
+  m_parent = nullptr;
+  m_parentLeftOut = false;
+  while (!m_in.isDamaged()) {
+    const std::string_view name = m_in.tag().text;
+    if (name == "ENDSEC" || name == "ENDBLK" || name == "EOF" || name == "SECTION") return;
+    readEntity(block);
+  }
+}
+
+OdDbBlockTableRecord& OdDbDxfReader::spaceOf(OdDbObjectId id) {
+  // Neighbours mostly share their block.
+  if (!m_space || m_space->objectId() != id) m_space = id.openAs<OdDbBlockTableRecord>();
+  return *m_space;
+}
+
+OdDbBlockTableRecord& OdDbDxfReader::spaceFor(OdDbObjectId block) {
+  if (!block.isNull()) return spaceOf(block);
+  if (m_in.isPlain() || m_in.namedOwner().isNull())
+    return spaceOf(m_in.wasInPaperSpace() ? m_data.paperSpace : m_data.modelSpace);
+  if (m_space && m_space->handle() == m_in.namedOwner()) return *m_space;
+  const OdDbObjectId named = m_database.getOdDbObjectId(m_in.namedOwner());
+  if (odrxCast<OdDbBlockTableRecord>(named.openObject().get())) return spaceOf(named);
+  return spaceOf(m_in.wasInPaperSpace() ? m_data.paperSpace : m_data.modelSpace);
+}
+
+void OdDbDxfReader::readEntity(OdDbObjectId block) {
+  m_name = m_in.tag().text;
+  const OdDbEntityPtr entity = oddxf::makeEntity(m_name);
+  const bool follows = m_name == "VERTEX" || m_name == "ATTRIB" || m_name == "SEQEND";
+  m_in.readTags(*entity);
+  if (m_in.isDamaged()) return;
+  if (!follows) m_parentLeftOut = m_in.valueWasBad();
+  if (m_in.valueWasBad() || (follows && m_parentLeftOut)) {
+    m_in.damage(QStringLiteral("this %1 is left out").arg(shown(m_name)));
+    return;
+  }
+  if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
+  if (follows && m_parent) {
+    m_in.enterFollower(*entity, m_parent->objectId());
+    m_parent->addFollower(*entity);
+    if (m_name == "SEQEND") m_parent = nullptr;
+    return;
+  }
+  m_in.enterEntity(*entity, spaceFor(block));
+  m_parent = entity->takesFollowers() || m_in.hasFollowers() || m_name == "POLYLINE" ? entity.get()
+                                                                                     : nullptr;
+}
+
+void OdDbDxfReader::readObjects() {
+  m_in.next();
+  while (!m_in.isDamaged()) {
+    const std::string_view name = m_in.tag().text;
+    if (name == "ENDSEC" || name == "EOF" || name == "SECTION") return;
+    const OdDbObjectPtr object = oddxf::makeObject(name);
+    m_in.readTags(*object);
+    if (m_in.isDamaged()) return;
+    m_in.enter(*object, {});
+    if (m_data.rootDictionary.isNull() && odrxCast<OdDbDictionary>(object.get()))
+      m_data.rootDictionary = object->objectId();
+  }
+}

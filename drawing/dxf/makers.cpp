@@ -1,0 +1,77 @@
+#include "drawing/dxf/makers.h"
+
+#include "drawing/entities/arc.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/ellipse.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
+#include "drawing/entities/spline.h"
+#include "drawing/entities/text.h"
+#include "drawing/objects/raw_object.h"
+
+#include <unordered_map>
+
+namespace {
+
+template <class T, class Base>
+OdSmartPtr<Base> make() {
+  return odrxMake<T>();
+}
+
+template <class Base>
+struct Maker {
+  std::string_view name;
+  OdSmartPtr<Base> (*make)();
+};
+
+constexpr Maker<OdDbEntity> kEntities[] = {
+    {"LINE", make<OdDbLine, OdDbEntity>},     {"LWPOLYLINE", make<OdDbPolyline, OdDbEntity>},
+    {"CIRCLE", make<OdDbCircle, OdDbEntity>}, {"ARC", make<OdDbArc, OdDbEntity>},
+    {"TEXT", make<OdDbText, OdDbEntity>},     {"ELLIPSE", make<OdDbEllipse, OdDbEntity>},
+    {"SPLINE", make<OdDbSpline, OdDbEntity>},
+};
+
+constexpr Maker<OdDbObject> kObjects[] = {
+    {"DICTIONARY", make<OdDbDictionary, OdDbObject>},
+    {"ACDBDICTIONARYWDFLT", [] { return OdDbObjectPtr(odrxMake<OdDbDictionary>(true)); }},
+    {"DICTIONARYVAR", make<OdDbDictionaryVar, OdDbObject>},
+};
+
+// In the order of OdDbDatabaseData::Table.
+constexpr Maker<OdDbSymbolTable> kTables[] = {
+    {"VPORT", make<OdDbViewportTable, OdDbSymbolTable>},
+    {"LTYPE", make<OdDbLinetypeTable, OdDbSymbolTable>},
+    {"LAYER", make<OdDbLayerTable, OdDbSymbolTable>},
+    {"STYLE", make<OdDbTextStyleTable, OdDbSymbolTable>},
+    {"VIEW", make<OdDbViewTable, OdDbSymbolTable>},
+    {"UCS", make<OdDbUCSTable, OdDbSymbolTable>},
+    {"APPID", make<OdDbRegAppTable, OdDbSymbolTable>},
+    {"DIMSTYLE", make<OdDbDimStyleTable, OdDbSymbolTable>},
+    {"BLOCK_RECORD", make<OdDbBlockTable, OdDbSymbolTable>},
+};
+static_assert(std::size(kTables) == OdDbDatabaseData::kTableCount);
+
+template <class Raw, class Base, std::size_t N>
+OdSmartPtr<Base> made(const Maker<Base> (&makers)[N], std::string_view name) {
+  static const auto byName = [&] {
+    std::unordered_map<std::string_view, OdSmartPtr<Base> (*)()> all;
+    for (const auto& maker : makers) all.emplace(maker.name, maker.make);
+    return all;
+  }();
+  const auto at = byName.find(name);
+  if (at != byName.end()) return at->second();
+  return odrxMake<Raw>(QByteArray(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+} // namespace
+
+OdDbEntityPtr oddxf::makeEntity(std::string_view name) {
+  return made<OdDbRawEntity>(kEntities, name);
+}
+
+OdDbObjectPtr oddxf::makeObject(std::string_view name) {
+  return made<OdDbRawObject>(kObjects, name);
+}
+
+std::string_view oddxf::tableName(std::size_t table) { return kTables[table].name; }
+OdDbSymbolTablePtr oddxf::makeTable(std::size_t table) { return kTables[table].make(); }
