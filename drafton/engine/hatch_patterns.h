@@ -1,0 +1,28 @@
+// Finding hatch patterns by name.
+#pragma once
+
+#include "drawing/patterns/hatch_pattern.h"
+
+#include <optional>
+
+namespace drafton {
+
+class Document;
+class Engine;
+
+/// The file of the predefined patterns.
+inline constexpr QStringView kPatternFile = u"draftoniso.pat";
+
+/// The pattern of a name, in any case: in `file` if one is given and has it, among the predefined
+/// ones, or in a file of the pattern's own name. Files are looked for as findSupportFile() does.
+std::optional<OdHatchPattern> findHatchPattern(Engine& engine, const Document* document,
+                                               const OdString& name, const OdString& file = {});
+
+/// The file of the pattern's own name, if there is one that has it and the pattern is none of the
+/// predefined ones; else empty.
+OdString customPatternFile(Engine& engine, const Document* document, const OdString& name);
+
+/// The predefined patterns in the order of their file; empty if it is missing.
+std::vector<OdHatchPattern> predefinedPatterns(Engine& engine, const Document* document);
+
+} // namespace drafton
