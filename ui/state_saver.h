@@ -45,6 +45,7 @@ class TcUiStateSaver : public ITcUiStateSaver {
 class OdTcStateSaverImpl : public OdTcPersistImpl<OdTcPersist> {
  public:
   bool read(const OdString& key, OdVariant& out) const { return m_store.read(key, out); }
+  using OdTcPersistImpl<OdTcPersist>::write;
   void write(const OdString& key, OdVariant& value) { m_store.write(key, value); }
 
   /// The saver of the module; null before its start and after its stop.
