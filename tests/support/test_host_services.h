@@ -62,6 +62,7 @@ class TestDocument : public IHostDocument, public IHostCommandInput {
   explicit TestDocument(const OdString& name)
     : variableSet(name)
     , m_name(name) {}
+  virtual ~TestDocument() = default;
 
   OdDbDatabase* databaseOfDocument = nullptr; ///< borrowed
   bool hasCommandInput = true;
