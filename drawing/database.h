@@ -3,6 +3,7 @@
 
 #include "drawing/database_reactor.h"
 #include "drawing/header_vars.h"
+#include "drawing/id_mapping.h"
 #include "drawing/objects/dictionary.h"
 #include "drawing/tables/block_table.h"
 #include "drawing/tables/dim_style_table.h"
@@ -86,6 +87,37 @@ class OdDbDatabase : public OdRxObject {
   OdDbHandle handseed() const;
   /// The box around the model space; empty if there is nothing in it.
   OdGeExtents3d extents() const;
+
+  // --- copying within and between drawings (drawing/cloning/)
+
+  /// Copies objects of this drawing, and what they own, to a new owner in it: entities to a block,
+  /// objects to a dictionary (under `*name` if theirs is taken). References among the copies go
+  /// to the copies, all others stay. Adds every pair to `mapping`.
+  void deepCloneObjects(const std::vector<OdDbObjectId>& objects, OdDbObjectId owner,
+                        OdDbIdMapping& mapping);
+  /// Copies objects of another drawing to an owner in this one, with what they own and need.
+  /// Records and named objects that this drawing has already are treated as `cloning` says;
+  /// references to what does not come along are left out.
+  void wblockCloneObjects(const std::vector<OdDbObjectId>& objects, OdDbObjectId owner,
+                          OdDbIdMapping& mapping,
+                          OdDb::DuplicateRecordCloning cloning = OdDb::kDrcIgnore);
+  /// A new drawing with all of this one that is in use.
+  OdDbDatabasePtr wblock() const;
+  /// A new drawing whose model space has what a block consists of; the block's base point becomes
+  /// its $INSBASE.
+  OdDbDatabasePtr wblock(OdDbObjectId block) const;
+  /// A new drawing with copies of entities; `basePoint` comes to its origin.
+  OdDbDatabasePtr wblock(const std::vector<OdDbObjectId>& entities,
+                         const OdGePoint3d& basePoint) const;
+  /// Makes the model space of another drawing a block of this one; a block of that name gets the
+  /// new contents. Records of this drawing win over those of the other. Without `preserve` the
+  /// other drawing may be left empty.
+  OdDbObjectId insert(const OdString& blockName, OdDbDatabase* source, bool preserve = true);
+  /// Makes one block of another drawing a block of this one under a name.
+  OdDbObjectId insert(const OdString& sourceBlockName, const OdString& blockName,
+                      OdDbDatabase* source, bool preserve = true);
+  /// Adds the model space of another drawing, moved, to this one's.
+  void insert(const OdGeMatrix3d& transform, OdDbDatabase* source, bool preserve = true);
 
   /// Puts a new object into the drawing. Containers do this; nobody else needs to.
   OdDbObjectId addObject(OdDbObject* object, OdDbObjectId owner, OdDbHandle handle = {});

@@ -112,7 +112,7 @@ OdDbBlockTableRecord& OdDbDxfReader::spaceFor(OdDbObjectId block) {
 
 void OdDbDxfReader::readEntity(OdDbObjectId block) {
   m_name = m_in.tag().text;
-  const OdDbEntityPtr entity = oddxf::makeEntity(m_name);
+  OdDbEntityPtr entity = oddxf::makeEntity(m_name);
   const bool follows = m_name == "VERTEX" || m_name == "ATTRIB" || m_name == "SEQEND";
   m_in.readTags(*entity);
   if (m_in.isDamaged()) return;
@@ -121,6 +121,7 @@ void OdDbDxfReader::readEntity(OdDbObjectId block) {
     m_in.damage(QStringLiteral("this %1 is left out").arg(shown(m_name)));
     return;
   }
+  if (const OdDbEntityPtr other = entity->readAs()) entity = other;
   if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
   if (follows && m_parent) {
     m_in.enterFollower(*entity, m_parent->objectId());

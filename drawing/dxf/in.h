@@ -61,6 +61,10 @@ class OdDbDxfIn {
   OdDbObjectId textStyle(std::string_view name) {
     return record(OdDbDatabaseData::kTextStyles, name);
   }
+  OdDbObjectId dimStyle(std::string_view name) {
+    return record(OdDbDatabaseData::kDimStyles, name);
+  }
+  OdDbObjectId block(std::string_view name) { return record(OdDbDatabaseData::kBlocks, name); }
 
   /// Tells what cannot be taken over, with the place.
   void damage(const OdString& what);

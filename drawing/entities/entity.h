@@ -70,6 +70,8 @@ class OdDbEntity : public OdDbObject {
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
+  /// The entity that this one turned out to be when all of its tags were read; null: itself.
+  virtual OdDbEntityPtr readAs() const { return nullptr; }
   /// True if vertices or attributes that stand behind the entity in a file belong to it.
   virtual bool takesFollowers() const { return false; }
   /// Takes such an entity, or the end mark, while a file is read.

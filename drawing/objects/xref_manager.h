@@ -1,0 +1,40 @@
+// External references: drawings shown within others.
+#pragma once
+
+#include "drawing/database.h"
+
+/// Loads, attaches and detaches drawings that blocks stand for. What is loaded is held in the block
+/// and in records named "NAME|Layer", and is not saved: a saved drawing has only the path.
+class OdDbXRefMan {
+ public:
+  enum class Result : std::uint8_t {
+    kLoaded,
+    kNotAnXRef,   ///< the block is no external reference
+    kFileMissing, ///< no file where the path points to
+    kCircular,    ///< the file is one of those that are being loaded around it
+    kUnreadable,  ///< message() tells why
+  };
+  /// What became of one reference.
+  struct Report {
+    Result result = Result::kLoaded;
+    OdString blockName, path, message;
+  };
+
+  /// Reads the file of a block and fills the block with it, nested references included; an overlay
+  /// within the file is left out. What was loaded before goes. Tells of the block itself first,
+  /// then of those nested in it.
+  static std::vector<Report> load(OdDbBlockTableRecord* block);
+  static std::vector<Report> load(OdDbObjectId block);
+  /// All external references of a drawing.
+  static std::vector<Report> loadAll(OdDbDatabase& database);
+  /// Empties the block; it stays a reference.
+  static void unload(OdDbObjectId block);
+  /// Makes a block for a file, and loads it. `name` is made another one if it is taken.
+  static OdDbObjectId attach(OdDbDatabase& database, const OdString& path, const OdString& name,
+                             bool overlay, std::vector<Report>* reports = nullptr);
+  /// Takes a reference away with its inserts. False for a block that is none.
+  static bool detach(OdDbObjectId block);
+  /// The file of a reference: the stored path, made absolute by the drawing's folder, or a file of
+  /// its name beside the drawing. Empty if there is no such file.
+  static OdString resolvedPath(const OdDbBlockTableRecord& block);
+};
