@@ -1,10 +1,16 @@
 // The classes of the drawing database, and their registration.
 #include "drawing/database.h"
 #include "drawing/entities/arc.h"
+#include "drawing/entities/attribute.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/polyline2d.h"
+#include "drawing/entities/solid.h"
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/objects/raw_object.h"
@@ -20,7 +26,17 @@ CLASS(OdDbArc, OdDbCurve);
 CLASS(OdDbPolyline, OdDbCurve);
 CLASS(OdDbEllipse, OdDbCurve);
 CLASS(OdDbSpline, OdDbCurve);
+CLASS(OdDb2dPolyline, OdDbCurve);
+CLASS(OdDbLeader, OdDbCurve);
+CLASS(OdDbVertex, OdDbEntity);
+CLASS(OdDbPoint, OdDbEntity);
+CLASS(OdDbSolid, OdDbEntity);
+CLASS(OdDbTrace, OdDbSolid);
+CLASS(OdDbMText, OdDbEntity);
 CLASS(OdDbText, OdDbEntity);
+CLASS(OdDbAttributeText, OdDbText);
+CLASS(OdDbAttributeDefinition, OdDbAttributeText);
+CLASS(OdDbAttribute, OdDbAttributeText);
 CLASS(OdDbRawEntity, OdDbEntity);
 CLASS(OdDbRawObject, OdDbObject);
 CLASS(OdDbDictionary, OdDbObject);
@@ -65,7 +81,9 @@ void addAll() {
 /// Registers the classes when the library is loaded, bases before what derives from them.
 const bool g_registered = [] {
   addAll<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
-         OdDbEllipse, OdDbSpline, OdDbText,
+         OdDbEllipse, OdDbSpline, OdDb2dPolyline, OdDbLeader, OdDbVertex, OdDbPoint,
+         OdDbSolid, OdDbTrace, OdDbMText, OdDbText, OdDbAttributeText, OdDbAttributeDefinition,
+         OdDbAttribute,
          OdDbRawEntity, OdDbRawObject, OdDbDictionary, OdDbDictionaryVar, OdDbSymbolTableRecord,
          OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbTextStyleTableRecord,
          OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbViewTableRecord,

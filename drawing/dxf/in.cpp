@@ -288,9 +288,11 @@ void OdDbDxfIn::readTags(OdDbObject& object) {
       if (!m_knownSubclass) keepTag(object);
     } else if (code == kEmbeddedObject) {
       // Its tags have the codes of the object around it, but other meanings.
-      m_knownSubclass = false;
-      m_subclass = "Embedded Object";
-      keepTag(object);
+      m_knownSubclass = object.dxfInTag(m_tag, *this);
+      if (!m_knownSubclass) {
+        m_subclass = "Embedded Object";
+        keepTag(object);
+      }
     } else if ((code < 1000 && !m_knownSubclass) || !object.dxfInTag(m_tag, *this)) {
       if (code == 66 && m_tag.text.ends_with('1')) m_hasFollowers = true;
       keepTag(object);

@@ -1,10 +1,16 @@
 #include "drawing/dxf/makers.h"
 
 #include "drawing/entities/arc.h"
+#include "drawing/entities/attribute.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/polyline2d.h"
+#include "drawing/entities/solid.h"
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/objects/raw_object.h"
@@ -25,10 +31,22 @@ struct Maker {
 };
 
 constexpr Maker<OdDbEntity> kEntities[] = {
-    {"LINE", make<OdDbLine, OdDbEntity>},     {"LWPOLYLINE", make<OdDbPolyline, OdDbEntity>},
-    {"CIRCLE", make<OdDbCircle, OdDbEntity>}, {"ARC", make<OdDbArc, OdDbEntity>},
-    {"TEXT", make<OdDbText, OdDbEntity>},     {"ELLIPSE", make<OdDbEllipse, OdDbEntity>},
+    {"LINE", make<OdDbLine, OdDbEntity>},
+    {"LWPOLYLINE", make<OdDbPolyline, OdDbEntity>},
+    {"CIRCLE", make<OdDbCircle, OdDbEntity>},
+    {"ARC", make<OdDbArc, OdDbEntity>},
+    {"TEXT", make<OdDbText, OdDbEntity>},
+    {"ELLIPSE", make<OdDbEllipse, OdDbEntity>},
     {"SPLINE", make<OdDbSpline, OdDbEntity>},
+    {"POLYLINE", make<OdDb2dPolyline, OdDbEntity>},
+    {"VERTEX", make<OdDbVertex, OdDbEntity>},
+    {"POINT", make<OdDbPoint, OdDbEntity>},
+    {"SOLID", make<OdDbSolid, OdDbEntity>},
+    {"TRACE", make<OdDbTrace, OdDbEntity>},
+    {"MTEXT", make<OdDbMText, OdDbEntity>},
+    {"ATTDEF", make<OdDbAttributeDefinition, OdDbEntity>},
+    {"ATTRIB", make<OdDbAttribute, OdDbEntity>},
+    {"LEADER", make<OdDbLeader, OdDbEntity>},
 };
 
 constexpr Maker<OdDbObject> kObjects[] = {

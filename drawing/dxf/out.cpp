@@ -176,6 +176,12 @@ void OdDbDxfOut::endSubclass() {
     if (const QByteArray* lines = m_residue->of(m_subclass)) kept(*lines);
 }
 
+void OdDbDxfOut::endSubclassHere() {
+  endSubclass();
+  // No subclass has this name, so nothing is written again.
+  m_subclass = "-";
+}
+
 void OdDbDxfOut::subclass(const char* name) {
   // A marker that stands twice has its kept tags behind the second one.
   if (m_subclass != name) endSubclass();

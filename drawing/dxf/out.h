@@ -41,6 +41,8 @@ class OdDbDxfOut {
 
   /// Ends the subclass before, with what is kept of its tags, and begins another.
   void subclass(const char* name);
+  /// Writes what is kept of the subclass at hand, since what follows has to stand behind it.
+  void endSubclassHere();
   /// A whole object with everything that is kept of it. Erased objects are left out by the caller.
   void object(const OdDbObject& object);
   /// The beginning of a table, up to the count of its records.

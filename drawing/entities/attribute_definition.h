@@ -1,6 +1,7 @@
 // ATTDEF.
 #pragma once
 
+#include "drawing/entities/mtext.h"
 #include "drawing/entities/text.h"
 
 /// What attributes and their definitions share beyond a text.
@@ -25,23 +26,28 @@ class OdDbAttributeText : public OdDbText {
   /// The place belongs to the block and cannot be moved by itself.
   bool lockPositionInBlock() const { return m_attribute.lockPosition != 0; }
   void setLockPositionInBlock(bool lock);
-  /// True if the text has several lines with formatting codes; they are written in place of
+  /// True if the text has several lines with formatting codes; they are shown in place of
   /// textString().
-  bool isMTextAttribute() const;
-  /// That text, or nothing.
-  OdString mtextContents() const;
+  bool isMTextAttribute() const { return !m_mtext.isNull(); }
+  /// A copy of that text, or null.
+  OdDbMTextPtr getMTextAttribute() const;
+  /// Makes the attribute one with several lines; null makes it a plain one again.
+  void setMTextAttribute(const OdDbMText* text);
   /// Of one with several lines, also changes these.
   void setTextString(const OdString& text) override;
 
+  bool transformBy(const OdGeMatrix3d& transform) override;
   void worldDraw(OdGiWorldDraw& draw) const override;
   void assignFrom(const OdDbObject& other) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
+  void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
 
   /// What the file knows of an attribute.
   struct Data {
     OdString tag, prompt;
-    int flags = 0, fieldLength = 0, lockPosition = 0, version = 0, textKind = 0;
+    int flags = 0, fieldLength = 0, lockPosition = 0, version = 0;
+    bool hasKind = false; ///< the file tells whether there are several lines
   };
 
  protected:
@@ -52,7 +58,10 @@ class OdDbAttributeText : public OdDbText {
   Data m_attribute;
 
  private:
+  OdDbMTextPtr m_mtext;    ///< shared by copies: replaced, never changed
   bool m_embedded = false; ///< while reading
+  int m_locksRead = 0;
+  bool takeOwnTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
 };
 
 /// The place and the look of a text that each insert of a block fills in for itself.

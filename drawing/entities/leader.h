@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/curve.h"
+#include "drawing/geometry/nurbs.h"
 
 /// A line with an arrow head at its first corner that leads to a note.
 class OdDbLeader : public OdDbCurve {
@@ -63,7 +64,12 @@ class OdDbLeader : public OdDbCurve {
   };
 
  private:
-  OdGePoint3d& editVertex(unsigned index);
+  /// The curve of a splined leader; empty for a straight one.
+  OdGeNurbs spline() const;
+  /// The corners of a filled head, or the block that stands for it.
+  std::vector<OdGePoint3d> arrowHead(OdDbObjectId& block, OdGeMatrix3d& blockToWorld) const;
+  /// The line below the note; empty if there is none.
+  std::vector<OdGePoint3d> underline() const;
   Data m_leader;
 };
 using OdDbLeaderPtr = OdSmartPtr<OdDbLeader>;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/graphics/world_draw.h"
 #include "drawing/mtext/layout.h"
 
 /// Text of several lines with formatting codes.
@@ -73,6 +74,8 @@ class OdDbMText : public OdDbEntity {
 
   /// The columns of the text as the file tells them; count 0 if there are none.
   const OdMTextColumns& columns() const { return m_mtext.columns; }
+  /// Files of R2018 and later have them.
+  void setColumns(const OdMTextColumns& columns);
 
   /// Where each run of letters comes to stand, in the text's own plane: x along the lines, the
   /// attachment point at the origin.
@@ -91,6 +94,10 @@ class OdDbMText : public OdDbEntity {
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
 
+  /// Takes and writes the fields without the rest of an entity, as attributes have them.
+  bool takeField(const OdDbDxfTag& tag, OdDbDxfIn& in);
+  void putFields(OdDbDxfOut& out) const;
+
   /// What the file knows of the text.
   struct Data {
     OdGePoint3d location;
@@ -103,12 +110,18 @@ class OdDbMText : public OdDbEntity {
     OdString contents;
     OdDbObjectId style;
     int attachment = 1, flow = 1, spacingStyle = 1, background = 0, fillTransparency = 0;
+    bool hasEmbedded = false;   ///< the file has the part that tells the columns
     bool directionLast = false; ///< the direction stood behind the rotation, and so counts
+    bool hasFillColor = false;
     OdCmColor fillColor;
     OdMTextColumns columns;
   };
 
  private:
+  std::vector<OdGiTextRun> runsOf(const OdMTextLayout& shown) const;
+  static int mirrored(int attachment, bool alongLines);
+  void putColumns(OdDbDxfOut& out) const;
+  bool takeColumnField(const OdDbDxfTag& tag, OdDbDxfIn& in);
   Data m_mtext;
   bool m_embedded = false; ///< while reading
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// A point, shown as $PDMODE asks for.
 class OdDbPoint : public OdDbEntity {
@@ -12,9 +13,9 @@ class OdDbPoint : public OdDbEntity {
   /// In world coordinates.
   const OdGePoint3d& position() const { return m_point.position; }
   void setPosition(const OdGePoint3d& position);
-  double thickness() const { return m_point.thickness; }
+  double thickness() const { return m_point.extrusion.thickness(); }
   void setThickness(double thickness);
-  const OdGeVector3d& normal() const { return m_point.normal; }
+  const OdGeVector3d& normal() const { return m_point.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
   /// The angle of the sign's x axis when it was drawn; radians.
   double ecsRotation() const { return m_point.rotation; }
@@ -30,8 +31,8 @@ class OdDbPoint : public OdDbEntity {
   /// What the file knows of a point.
   struct Data {
     OdGePoint3d position;
-    double thickness = 0, rotation = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    double rotation = 0;
+    OdDbExtrusion extrusion;
   };
 
  private:

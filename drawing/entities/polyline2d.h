@@ -3,6 +3,10 @@
 
 #include "drawing/entities/curve.h"
 #include "drawing/entities/vertex.h"
+#include "drawing/geometry/extrusion.h"
+
+class OdDbPolyline;
+struct OdDbFlatPolyline;
 
 /// A polyline of the old kind: flat with bulges and widths, possibly fitted with curves or a
 /// spline; in space; or the edges of a mesh or of a polyface.
@@ -56,9 +60,9 @@ class OdDb2dPolyline : public OdDbCurve {
   void setMeshSize(int m, int n);
   double elevation() const { return m_polyline.elevation.z; }
   void setElevation(double elevation);
-  double thickness() const { return m_polyline.thickness; }
+  double thickness() const { return m_polyline.extrusion.thickness(); }
   void setThickness(double thickness);
-  const OdGeVector3d& normal() const { return m_polyline.normal; }
+  const OdGeVector3d& normal() const { return m_polyline.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
   double getStartParam() const override { return 0; }
@@ -88,19 +92,25 @@ class OdDb2dPolyline : public OdDbCurve {
   struct Data {
     std::vector<Vertex> vertices;
     OdGePoint3d elevation; ///< only z says something
-    double thickness = 0, startWidth = 0, endWidth = 0;
+    double startWidth = 0, endWidth = 0;
     int flags = 0, mCount = 0, nCount = 0, mDensity = 0, nDensity = 0, smoothType = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    OdDbExtrusion extrusion;
     OdDbObjectId end; ///< the end mark
   };
 
  protected:
   void enteredDatabase() override;
   OdGeVector3d rise() const override { return normal() * thickness(); }
+  bool dashesRunThrough() const override { return kind() != k2d || hasPlinegen(); }
 
  private:
-  struct Shown; ///< the corners that make the curve
-  Shown shown() const;
+  const char* dxfSubclass() const;
+  const char* vertexSubclass(const Vertex& vertex) const;
+  /// The corners that make the curve: all but the frame of a spline.
+  std::vector<const Vertex*> shown() const;
+  OdDbFlatPolyline flat() const;
+  /// A light polyline of the same shape.
+  OdSmartPtr<OdDbPolyline> asLight() const;
   void addEntry(Vertex& vertex);
   /// Both ends of each edge of a mesh or polyface.
   std::vector<OdGePoint3d> edges() const;

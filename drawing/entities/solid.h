@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/entities/entity.h"
+#include "drawing/geometry/extrusion.h"
 
 /// A filled triangle or quadrangle. Its corners go across: first, second, fourth, third; the third
 /// and the fourth fall together in a triangle.
@@ -15,9 +16,9 @@ class OdDbSolid : public OdDbEntity {
   /// In world coordinates; `index` from 0 to 3, OdError_InvalidIndex.
   OdGePoint3d getPointAt(unsigned index) const;
   void setPointAt(unsigned index, const OdGePoint3d& point);
-  double thickness() const { return m_solid.thickness; }
+  double thickness() const { return m_solid.extrusion.thickness(); }
   void setThickness(double thickness);
-  const OdGeVector3d& normal() const { return m_solid.normal; }
+  const OdGeVector3d& normal() const { return m_solid.extrusion.normal(); }
   void setNormal(const OdGeVector3d& normal);
 
   void worldDraw(OdGiWorldDraw& draw) const override;
@@ -31,8 +32,7 @@ class OdDbSolid : public OdDbEntity {
   /// What the file knows of a solid; corners in the coordinates of its plane.
   struct Data {
     OdGePoint3d p0, p1, p2, p3;
-    double thickness = 0;
-    OdGeVector3d normal = OdGeVector3d::zAxis();
+    OdDbExtrusion extrusion;
   };
 
  private:

@@ -72,6 +72,10 @@ class OdDbText : public OdDbEntity {
   };
 
  protected:
+  /// For attributes, which have the same fields and say them elsewhere.
+  void textOut(OdDbDxfOut& out) const;
+  void putAlignment(OdDbDxfOut& out) const;
+  void setVerticalField(int mode) { m_text.vertical = mode; }
   /// The runs of another text in this one's place and look.
   std::vector<OdGiTextRun> runsOf(const OdString& text) const;
 

@@ -36,11 +36,15 @@ class OdDbVertex : public OdDbEntity {
   ODDB_CONCRETE(OdDbVertex, "VERTEX")
 
   const OdDbVertexData& vertex() const { return m_vertex; }
-  /// Gives the object what is written; the polyline does this before it writes.
-  void show(const OdDbVertexData& vertex, const char* ownerKind) {
+  /// Gives the object what is written, with the name of its last subclass; the polyline does this
+  /// before it writes.
+  void show(const OdDbVertexData& vertex, const char* subclass) {
     m_vertex = vertex;
-    m_ownerKind = ownerKind;
+    m_subclass = subclass;
   }
+  /// False for a width that the file leaves to the polyline.
+  bool hasStartWidth() const { return m_hasStart; }
+  bool hasEndWidth() const { return m_hasEnd; }
 
   bool transformBy(const OdGeMatrix3d&) override { return false; }
   bool getGeomExtents(OdGeExtents3d& extents) const override;
@@ -49,5 +53,6 @@ class OdDbVertex : public OdDbEntity {
 
  private:
   OdDbVertexData m_vertex;
-  const char* m_ownerKind = nullptr; ///< the last subclass of the entry
+  const char* m_subclass = nullptr;
+  bool m_hasStart = false, m_hasEnd = false; ///< while reading
 };

@@ -16,12 +16,11 @@ struct OdMTextColumns {
 
 /// What a layout depends on besides the pieces.
 struct OdMTextFrame {
-  double height = 1;     ///< of the text, by which distances of lines go
-  double width = 0;      ///< at which lines wrap; 0: never
-  int attachment = 1;    ///< 1 top left, row by row, to 9 bottom right
-  double spacing = 1;    ///< the factor for the distance of lines
-  bool exactly = false;  ///< that distance counts for higher letters, too
-  bool vertical = false; ///< letters below each other
+  double height = 1;    ///< of the text, by which distances of lines go
+  double width = 0;     ///< at which lines wrap; 0: never
+  int attachment = 1;   ///< 1 top left, row by row, to 9 bottom right
+  double spacing = 1;   ///< the factor for the distance of lines
+  bool exactly = false; ///< that distance counts for higher letters, too
   OdMTextColumns columns;
 };
 

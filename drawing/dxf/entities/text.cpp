@@ -42,19 +42,25 @@ void OdDbText::dxfInEnd(OdDbDxfIn& in) {
   oddxf::mendNormal(m_text.extrusion, in);
 }
 
-void OdDbText::dxfOut(OdDbDxfOut& out) const {
+void OdDbText::putAlignment(OdDbDxfOut& out) const { out.point(11, m_text.alignment); }
+
+void OdDbText::textOut(OdDbDxfOut& out) const {
   OdDbEntity::dxfOut(out);
   out.subclass("AcDbText");
   for (const TextField& field : kTextFields) {
     // A fastened text has its second point even where that is the origin.
     if (field.code == 11 && !isDefaultAlignment())
-      out.point(11, m_text.alignment);
+      putAlignment(out);
     else
       oddxf::putField(field, m_text, out);
     if (field.code == 51 && !m_text.style.isNull() &&
         m_text.style != out.database().data().textStyleStandard)
       out.recordName(7, m_text.style, "Standard");
   }
+}
+
+void OdDbText::dxfOut(OdDbDxfOut& out) const {
+  textOut(out);
   // The marker stands twice. What is kept of the subclass belongs before the second one.
   out.subclass("AcDbText");
   oddxf::putField(kTextVertical, m_text, out);

@@ -1,0 +1,211 @@
+// How MTEXT stands in files.
+#include "drawing/entities/mtext.h"
+#include "drawing/dxf/fields.h"
+#include "drawing/dxf/text.h"
+
+namespace {
+
+using Field = OdDbDxfField<OdDbMText::Data>;
+constexpr Field kFields[] = {
+    {10, &OdDbMText::Data::location},   {40, &OdDbMText::Data::height},
+    {41, &OdDbMText::Data::width},      {46, &OdDbMText::Data::definedHeight, Field::kUnlessPreset},
+    {71, &OdDbMText::Data::attachment}, {72, &OdDbMText::Data::flow},
+};
+constexpr Field kTail[] = {
+    {210, &OdDbMText::Data::normal, Field::kUnlessPreset},
+    {42, &OdDbMText::Data::extentsWidth, Field::kUnlessPreset},
+    {43, &OdDbMText::Data::extentsHeight, Field::kUnlessPreset},
+};
+constexpr Field kRotation = {50, &OdDbMText::Data::rotation, Field::kAngleUnlessPreset};
+constexpr Field kDirection = {11, &OdDbMText::Data::direction, Field::kUnlessPreset};
+constexpr Field kSpacing[] = {
+    {73, &OdDbMText::Data::spacingStyle},
+    {44, &OdDbMText::Data::spacingFactor},
+};
+constexpr Field kBackground = {90, &OdDbMText::Data::background};
+constexpr Field kFill[] = {
+    {45, &OdDbMText::Data::fillScale},
+    {441, &OdDbMText::Data::fillTransparency, Field::kUnlessPreset},
+};
+
+/// A text longer than this stands in several tags.
+constexpr qsizetype kChunk = 250;
+constexpr int kEmbedded = 101;
+
+} // namespace
+
+bool OdDbMText::takeField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  switch (tag.code) {
+  case 1:
+  case 3:
+    m_mtext.contents += in.text(tag.text);
+    return true;
+  case 7:
+    m_mtext.style = in.textStyle(tag.text);
+    return true;
+  case 50:
+    m_mtext.directionLast = false;
+    break;
+  case 11:
+    m_mtext.directionLast = true;
+    break;
+  case 63: {
+    const int index = in.integer(tag, 0);
+    if (index < 0 || index > OdCmColor::kACInone) return false;
+    m_mtext.hasFillColor = true;
+    if (!m_mtext.fillColor.isByColor()) m_mtext.fillColor.setColorIndex(index);
+    return true;
+  }
+  default:
+    break;
+  }
+  if (tag.code >= 420 && tag.code <= 429) {
+    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
+    m_mtext.hasFillColor = true;
+    m_mtext.fillColor.setRGB(static_cast<std::uint8_t>(rgb >> 16),
+                             static_cast<std::uint8_t>(rgb >> 8), static_cast<std::uint8_t>(rgb));
+    return true;
+  }
+  if (tag.code >= 430 && tag.code <= 439) {
+    const OdString names = in.text(tag.text);
+    const qsizetype at = names.indexOf(QLatin1Char('$'));
+    m_mtext.fillColor.setNames(names.mid(at + 1), at < 0 ? OdString() : names.left(at));
+    return true;
+  }
+  return oddxf::takeTag<Data>(kFields, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>(kTail, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>({&kRotation, 1}, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>({&kDirection, 1}, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>(kSpacing, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>({&kBackground, 1}, m_mtext, tag, in) ||
+         oddxf::takeTag<Data>(kFill, m_mtext, tag, in);
+}
+
+bool OdDbMText::takeColumnField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  OdMTextColumns& c = m_mtext.columns;
+  switch (tag.code) {
+  case 70: // places and sizes stand with the text itself
+  case 10:
+  case 20:
+  case 30:
+  case 11:
+  case 21:
+  case 31:
+  case 40:
+  case 42:
+  case 43:
+    return true;
+  case 41:
+    c.height = in.real(tag, 0);
+    return true;
+  case 71: {
+    const int kind = in.integer(tag, 0);
+    if (kind < OdMTextColumns::kNone || kind > OdMTextColumns::kDynamic) return false;
+    c.kind = static_cast<OdMTextColumns::Kind>(kind);
+    return true;
+  }
+  case 72:
+    c.count = in.integer(tag, 0);
+    return true;
+  case 44:
+    c.width = in.real(tag, 0);
+    return true;
+  case 45:
+    c.gutter = in.real(tag, 0);
+    return true;
+  case 73:
+    c.autoHeight = in.integer(tag, 0) != 0;
+    return true;
+  case 74:
+    c.reversed = in.integer(tag, 0) != 0;
+    return true;
+  case 46:
+    c.heights.push_back(in.real(tag, 0));
+    return true;
+  default:
+    return false;
+  }
+}
+
+bool OdDbMText::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  if (OdDbEntity::dxfInTag(tag, in)) return true;
+  if (!in.in("AcDbMText")) return false;
+  if (tag.code == kEmbedded) {
+    m_embedded = m_mtext.hasEmbedded = true;
+    return true;
+  }
+  if (tag.code >= 1000) return false;
+  if (m_embedded) return takeColumnField(tag, in);
+  return tag.code == 100 || takeField(tag, in);
+}
+
+void OdDbMText::dxfInEnd(OdDbDxfIn& in) {
+  OdDbEntity::dxfInEnd(in);
+  oddxf::mendNormal(m_mtext.normal, in);
+  m_embedded = false;
+  // Nobody can lay out more columns than there are letters.
+  OdMTextColumns& c = m_mtext.columns;
+  c.count = std::clamp<int>(c.count, 0, static_cast<int>(m_mtext.contents.size()) + 1);
+}
+
+void OdDbMText::putFields(OdDbDxfOut& out) const {
+  oddxf::putFields<Data>(kFields, m_mtext, out);
+  const OdString contents = oddxf::oneLine(m_mtext.contents);
+  qsizetype at = 0;
+  while (contents.size() - at > kChunk) {
+    qsizetype end = at + kChunk;
+    // Both halves of a character and of a caret stay together.
+    while (contents[end].isLowSurrogate() || contents[end - 1] == u'^') --end;
+    out.text(3, contents.mid(at, end - at));
+    at = end;
+  }
+  out.text(1, contents.mid(at));
+  out.recordName(7, m_mtext.style, "Standard");
+  oddxf::putFields<Data>(kTail, m_mtext, out);
+  if (m_mtext.directionLast) {
+    oddxf::putField(kRotation, m_mtext, out);
+    oddxf::putField(kDirection, m_mtext, out);
+  } else {
+    oddxf::putField(kDirection, m_mtext, out);
+    oddxf::putField(kRotation, m_mtext, out);
+  }
+  oddxf::putFields<Data>(kSpacing, m_mtext, out);
+  if (m_mtext.background == 0 && !m_mtext.hasFillColor) return;
+  if (out.version() < OdDb::kR2004) return;
+  oddxf::putField(kBackground, m_mtext, out);
+  const OdCmColor& color = m_mtext.fillColor;
+  out.integer(63, color.colorIndex());
+  if (color.isByColor()) out.integer(421, color.color() & 0xFFFFFF);
+  if (color.hasNames()) out.text(431, color.bookName() + QLatin1Char('$') + color.colorName());
+  oddxf::putFields<Data>(kFill, m_mtext, out);
+}
+
+void OdDbMText::putColumns(OdDbDxfOut& out) const {
+  const OdMTextColumns& c = m_mtext.columns;
+  out.raw(kEmbedded, "Embedded Object");
+  out.integer(70, 1);
+  const OdGeVector3d x = direction();
+  out.point(10, {x.x, x.y, x.z});
+  out.point(11, m_mtext.location);
+  out.real(40, m_mtext.width);
+  out.real(41, c.height);
+  out.real(42, m_mtext.extentsWidth);
+  out.real(43, m_mtext.extentsHeight);
+  out.integer(71, c.kind);
+  if (c.kind == OdMTextColumns::kNone) return;
+  out.integer(72, c.count);
+  out.real(44, c.width);
+  out.real(45, c.gutter);
+  out.integer(73, c.autoHeight);
+  out.integer(74, c.reversed);
+  for (const double height : c.heights) out.real(46, height);
+}
+
+void OdDbMText::dxfOut(OdDbDxfOut& out) const {
+  OdDbEntity::dxfOut(out);
+  out.subclass("AcDbMText");
+  putFields(out);
+  if (!m_mtext.hasEmbedded || out.version() < OdDb::kR2018) return;
+  out.endSubclassHere();
+  putColumns(out);
+}
