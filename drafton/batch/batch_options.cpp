@@ -3,18 +3,38 @@
 namespace drafton {
 namespace {
 
+/// The options as far as they were read.
+struct Reading {
+  BatchOptions options;
+  PictureOptions picture;
+};
+
+void storePicture(Reading& reading, const char16_t* option, const OdString& file) {
+  reading.picture.option = OdString::fromUtf16(option);
+  reading.picture.file = file;
+}
+
 /// An option that takes a value.
 struct ValueOption {
   const char16_t* name;
-  void (*store)(BatchOptions& options, const OdString& value);
+  void (*store)(Reading& reading, const OdString& value);
 };
 
 constexpr ValueOption kOptions[] = {
-    {u"--catalogs", [](BatchOptions& o, const OdString& value) { o.catalogs = value; }},
-    {u"--profile", [](BatchOptions& o, const OdString& value) { o.profile = value; }},
-    {u"--script", [](BatchOptions& o, const OdString& value) { o.script = value; }},
-    {u"--out", [](BatchOptions& o, const OdString& value) { o.out = value; }},
+    {u"--catalogs", [](Reading& r, const OdString& value) { r.options.catalogs = value; }},
+    {u"--profile", [](Reading& r, const OdString& value) { r.options.profile = value; }},
+    {u"--script", [](Reading& r, const OdString& value) { r.options.script = value; }},
+    {u"--out", [](Reading& r, const OdString& value) { r.options.out = value; }},
+    {u"--png", [](Reading& r, const OdString& value) { storePicture(r, u"--png", value); }},
+    {u"--pdf", [](Reading& r, const OdString& value) { storePicture(r, u"--pdf", value); }},
+    {u"--svg", [](Reading& r, const OdString& value) { storePicture(r, u"--svg", value); }},
+    {u"--size", [](Reading& r, const OdString& value) { r.picture.size = value; }},
+    {u"--background", [](Reading& r, const OdString& value) { r.picture.background = value; }},
+    {u"--window", [](Reading& r, const OdString& value) { r.picture.window = value; }},
+    {u"--layout", [](Reading& r, const OdString& value) { r.picture.layout = value; }},
 };
+
+const OdString kExtents = QStringLiteral("--extents");
 
 BatchArguments wrong(const OdString& error) {
   return {.wish = BatchArguments::Wish::kWrong, .options = {}, .error = error};
@@ -29,7 +49,7 @@ const ValueOption* findOption(QStringView name) {
 } // namespace
 
 BatchArguments parseArguments(const QStringList& arguments) {
-  BatchArguments result;
+  Reading result;
   for (const OdString& argument : arguments) {
     if (argument == QLatin1String("--help") || argument == QLatin1String("-h"))
       return {.wish = BatchArguments::Wish::kHelp, .options = {}, .error = {}};
@@ -47,11 +67,15 @@ BatchArguments parseArguments(const QStringList& arguments) {
     } else if (!onlyNames && argument.startsWith(QLatin1String("--"))) {
       const qsizetype equals = argument.indexOf(u'=');
       const OdString name = equals < 0 ? argument : argument.left(equals);
+      if (argument == kExtents) {
+        result.picture.extents = true;
+        continue;
+      }
       const ValueOption* const option = findOption(name);
       if (!option) return wrong(QStringLiteral("unknown option %1").arg(name));
       if (equals < 0 && i + 1 >= arguments.size())
         return wrong(QStringLiteral("%1 needs a value").arg(name));
-      option->store(result.options, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
+      option->store(result, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
     } else if (!onlyNames && argument.size() > 1 && argument.startsWith(u'-')) {
       return wrong(QStringLiteral("unknown option %1").arg(argument));
     } else if (!result.options.drawing.isEmpty()) {
@@ -63,13 +87,18 @@ BatchArguments parseArguments(const QStringList& arguments) {
       result.options.drawing = argument;
     }
   }
-  return result;
+  OdString error;
+  const std::optional<PictureRequest> picture = pictureRequest(result.picture, error);
+  if (!picture) return wrong(error);
+  if (result.picture.isWanted()) result.options.picture = picture;
+  return {.wish = BatchArguments::Wish::kRun, .options = result.options, .error = {}};
 }
 
 OdString helpText() {
   return QStringLiteral(
       "Usage: drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
-      "                     [--out FILE.dxf] [DRAWING.dxf]\n"
+      "                     [--out FILE.dxf] [--png FILE [--size WxH] [--background COLOR]\n"
+      "                     [--extents | --window X1,Y1,X2,Y2] [--layout NAME]] [DRAWING.dxf]\n"
       "\n"
       "Runs Drafton without a window. The lines of the script, or of standard input, are\n"
       "typed into the command line; each is followed by Enter. What the command line shows\n"
@@ -80,6 +109,14 @@ OdString helpText() {
       "  --profile FILE   the settings file; without it the user's own\n"
       "  --script FILE    the script; without it, or with -, standard input\n"
       "  --out FILE.dxf   saves the active drawing there at the end, unless the script failed\n"
+      "  --png FILE       draws the active drawing into a picture at the end, unless the script\n"
+      "                   failed; the name's end says which kind: .png, .pdf or .svg. --pdf FILE\n"
+      "                   and --svg FILE do the same\n"
+      "  --size WxH       the picture's width and height in pixels; for pages 96 make an inch\n"
+      "  --background C   its colour: a name, #RRGGBB, or transparent; without it white\n"
+      "  --extents        shows all that the space has; without it a layout shows its sheet\n"
+      "  --window CORNERS shows what is between two corners, as X1,Y1,X2,Y2\n"
+      "  --layout NAME    shows a layout in the place of the model\n"
       "  --help           shows this text\n"
       "  --version        shows the version\n"
       "\n"
@@ -89,8 +126,8 @@ OdString helpText() {
       "command waits is a comment. The script ends at the first command that is unknown or\n"
       "fails, or that still waits at its end.\n"
       "\n"
-      "Exit codes: 0 all was done, 1 the script failed, 2 wrong arguments, 3 a drawing cannot\n"
-      "be opened or saved.\n");
+      "Exit codes: 0 all was done, 1 the script failed, 2 wrong arguments, 3 a drawing\n"
+      "or its picture cannot be opened or saved.\n");
 }
 
 } // namespace drafton

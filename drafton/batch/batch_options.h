@@ -1,7 +1,7 @@
 // The command line of `drafton batch`.
 #pragma once
 
-#include "frame/string.h"
+#include "drafton/batch/picture_options.h"
 
 #include <optional>
 
@@ -12,7 +12,7 @@ enum ExitCode : int {
   kExitOk = 0,
   kExitScriptFailed = 1,
   kExitUsage = 2,
-  kExitDrawing = 3, ///< a drawing cannot be opened or saved
+  kExitDrawing = 3, ///< a drawing or its picture cannot be opened or saved
 };
 
 struct BatchOptions {
@@ -21,6 +21,7 @@ struct BatchOptions {
   OdString script; ///< empty for standard input
   OdString out;
   OdString drawing;
+  std::optional<PictureRequest> picture;
 };
 
 /// What the arguments ask for.

@@ -37,6 +37,7 @@ class BatchRun {
   int runScript(Engine& engine, ScriptSource& script);
   bool openDrawing(Engine& engine);
   bool saveDrawing(Engine& engine);
+  bool drawPicture(Engine& engine);
   int failWith(int code, const OdString& text);
 
   BatchOptions m_options;
@@ -97,6 +98,24 @@ bool BatchRun::saveDrawing(Engine& engine) {
   return true;
 }
 
+bool BatchRun::drawPicture(Engine& engine) {
+  const PictureRequest& request = *m_options.picture;
+  const auto fail = [&](const OdString& reason) {
+    failWith(kExitDrawing, translated(u"%1 is not drawn: %2").arg(request.file, reason));
+    return false;
+  };
+  Document* const document = engine.documents().current();
+  if (!document) return fail(translated(u"no drawing is open"));
+  try {
+    writePicture(*document->database(), request);
+  } catch (const OdFileError& error) {
+    return fail(error.reason());
+  } catch (const OdError& error) {
+    return fail(error.description());
+  }
+  return true;
+}
+
 int BatchRun::runScript(Engine& engine, ScriptSource& script) {
   while (!script.hasFailed() && !engine.isExiting() && script.waitForInput()) engine.run();
   QStringList waiting;
@@ -132,8 +151,10 @@ int BatchRun::run() {
   m_console.setTroubleHandler([&](const OdString& text) { script.fail(text); });
   const int code = runScript(engine, script);
   m_console.setTroubleHandler({});
-  if (code == kExitOk && !m_options.out.isEmpty() && !saveDrawing(engine)) return kExitDrawing;
-  return code;
+  if (code != kExitOk) return code;
+  if (!m_options.out.isEmpty() && !saveDrawing(engine)) return kExitDrawing;
+  if (m_options.picture && !drawPicture(engine)) return kExitDrawing;
+  return kExitOk;
 }
 
 } // namespace

@@ -1,0 +1,48 @@
+// Draws lines in their line types.
+#pragma once
+
+#include "drafton/render/dash_pattern.h"
+#include "drafton/render/surface.h"
+#include "drafton/render/view.h"
+
+#include <functional>
+#include <span>
+
+namespace drafton {
+
+/// Walks a path and draws the dashes of a pattern along it.
+class DashWalker {
+ public:
+  /// Draws an ornament of the pattern that stands at a place of the path; `along` is the path's
+  /// direction there, of length 1.
+  using DrawOrnament = std::function<void(const DashOrnament& ornament, const OdGePoint3d& at,
+                                          const OdGeVector3d& along)>;
+
+  /// `scale` multiplies the pattern's lengths to those of the path. Ornaments reach no further than
+  /// `reach` pixels.
+  DashWalker(Surface& surface, const Projection& projection, const DashPattern& pattern,
+             double scale, double reach, DrawOrnament drawOrnament);
+
+  /// The points are in the coordinates that the projection takes.
+  void draw(std::span<const OdGePoint3d> points, bool closed);
+
+ private:
+  void segment(const OdGePoint3d& from, const OdGePoint3d& to);
+  void seek(double position);
+  void addPoint(const QPointF& point);
+  void endDash();
+
+  Surface& m_surface;
+  const Projection& m_projection;
+  const DashPattern& m_pattern;
+  double m_scale;
+  QRectF m_seen;
+  DrawOrnament m_drawOrnament;
+
+  double m_position = 0;         // along the path, in its lengths, behind the pattern's start
+  std::size_t m_dash = 0;        // the dash that is being drawn
+  double m_left = 0;             // of it
+  std::vector<QPointF> m_points; // of the dash that is being drawn
+};
+
+} // namespace drafton

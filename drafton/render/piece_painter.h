@@ -1,0 +1,84 @@
+// Draws single pieces of entities.
+#pragma once
+
+#include "drafton/render/dash_walker.h"
+#include "drafton/render/render_options.h"
+#include "drafton/render/shape_list.h"
+
+namespace drafton {
+
+/// How points look, and how line types are scaled, as the drawing's variables tell.
+struct DrawingScales {
+  double linetypeScale = 1;
+  int pointMode = 0;
+  double pointSize = 0;      ///< above 0 in drawing units, else parts of a hundred of the picture
+  double defaultWeight = 25; ///< hundredths of a millimetre
+  /// Dashes seen through a window have their lengths on the sheet.
+  bool dashesByPaper = true;
+
+  explicit DrawingScales(const OdDbDatabase& database);
+};
+
+/// Draws pieces on a surface through one projection.
+class PiecePainter {
+ public:
+  PiecePainter(Surface& surface, const RenderOptions& options, const DrawingScales& scales);
+
+  /// The projection that pieces drawn from now on go through; it must live as long.
+  void setProjection(const Projection& projection);
+  /// The looks of the pieces drawn from now on.
+  void setStyle(const Style& style, const DashPattern& linetype);
+  /// In a window that line types do not grow with, their lengths are multiplied by this.
+  void setWindowScale(double factor) { m_windowScale = factor; }
+  double windowScale() const { return m_windowScale; }
+  /// Draws all lines in one colour and wider by some pixels; 0 ends that.
+  void setHalo(QRgb color, double extraWidth);
+
+  void draw(const ShapeList& list, const Piece& piece, const QRectF& itemBox);
+  /// The trace of something too small to be seen.
+  void drawSpeck(const QPointF& at);
+  void polyline(std::span<const OdGePoint3d> points, bool closed);
+  /// A closed thin continuous line in the style's colour.
+  void drawFrame(std::span<const OdGePoint3d> corners);
+  /// A raster image with its frame; a missing one as a frame with its name.
+  void drawImage(const OdDbRasterImage& image);
+
+  Surface& surface() { return m_surface; }
+  QRgb color() const { return m_color; }
+
+ private:
+  void applyColor(const Piece& piece);
+  void plainLine(std::span<const OdGePoint3d> points, bool closed);
+  void arc(const OdGiArc& arc);
+  void arcPart(const OdGiArc& arc, double from, double to, const QPointF& a, const QPointF& b,
+               int depth);
+  bool isDashed() const;
+  void dashed(std::span<const OdGePoint3d> points, bool closed);
+  void ornament(const DashOrnament& ornament, const OdGePoint3d& at, const OdGeVector3d& along);
+  QPainterPath pathOf(const ShapeList& list, const AreaPiece& area);
+  void area(const ShapeList& list, const AreaPiece& area);
+  void gradient(const ShapeList& list, const GradientPiece& piece);
+  void strokes(const ShapeList& list, const Piece& piece, const QRectF& itemBox);
+  void text(const OdGiTextRun& run);
+  void mark(const PointPiece& point);
+  void drawPicture(const QImage& picture, const QTransform& placed, const OdDbRasterImage& image,
+                   std::span<const OdGePoint3d> edge);
+  void drawMissing(const OdString& name, std::span<const OdGePoint3d> corners);
+
+  Surface& m_surface;
+  const RenderOptions& m_options;
+  const DrawingScales& m_scales;
+  const Projection* m_projection = nullptr;
+  double m_scale = 1; // of the projection
+  double m_windowScale = 1;
+  Style m_style;
+  const DashPattern* m_linetype = nullptr;
+  QRgb m_color = 0;
+  double m_width = 1;
+  QRgb m_haloColor = 0;
+  double m_haloWidth = 0;
+  std::vector<QPointF> m_buffer;
+  std::vector<OdGePoint3d> m_chords;
+};
+
+} // namespace drafton

@@ -1,0 +1,29 @@
+// What is asked of a picture.
+#pragma once
+
+#include "drafton/render/style.h"
+
+#include <unordered_set>
+
+namespace drafton {
+
+struct RenderOptions {
+  Ground ground{qRgb(255, 255, 255)};
+  /// Layers that are not plotted are left out.
+  bool isPlotting = false;
+  /// Lines have their weights; else all have the width of a pixel.
+  bool showsLineWeights = true;
+  /// Pixels of a millimetre of line weight.
+  double pixelsPerMillimetre = 96 / 25.4;
+  /// What is too small to be seen may be drawn as less: right for pixels, wrong for what can be
+  /// enlarged afterwards.
+  bool simplifies = true;
+  /// Entities of the block that is drawn which stand out; null for none.
+  const std::unordered_set<OdDbObjectId>* highlighted = nullptr;
+  QRgb highlightColor = qRgb(0, 120, 215);
+  /// Entities of the drawing's own block that are left out, as others are drawn in their place;
+  /// null for none.
+  const std::unordered_set<OdDbObjectId>* hidden = nullptr;
+};
+
+} // namespace drafton

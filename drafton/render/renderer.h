@@ -1,0 +1,33 @@
+// Draws drawings, for the canvas, for previews and for files.
+#pragma once
+
+#include "drafton/render/render_options.h"
+#include "drafton/render/scene.h"
+#include "drafton/render/view.h"
+
+#include <QImage>
+
+#include <span>
+
+class QPainter;
+
+namespace drafton {
+
+/// Entities to draw over all else which are in no drawing, or not at this place.
+using TransientEntities = std::span<const OdDbEntityPtr>;
+
+/// Draws a block of the scene's drawing into a picture. The view's size and origin are pixels of
+/// the picture; what lies outside of them stays as it is, the ground is not painted. `picture` has
+/// the format RGB32 or ARGB32_Premultiplied; others are slower.
+void render(QImage& picture, Scene& scene, OdDbObjectId block, const View& view,
+            const RenderOptions& options, TransientEntities transient = {});
+/// The same on any device. The painter's transformation has to be that of the device.
+void render(QPainter& painter, Scene& scene, OdDbObjectId block, const View& view,
+            const RenderOptions& options, TransientEntities transient = {});
+
+/// A picture of some entities of one drawing, all of them seen: for previews. Null if there is
+/// nothing to see. `margin` is the part of the picture that stays free all around.
+QImage renderEntities(std::span<const OdDbObjectId> entities, const QSize& size, double margin,
+                      const RenderOptions& options);
+
+} // namespace drafton

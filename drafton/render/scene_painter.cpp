@@ -1,0 +1,235 @@
+#include "drafton/render/scene_painter.h"
+
+#include "drafton/render/shape_recorder.h"
+#include "drawing/entities/raster_image.h"
+#include "drawing/entities/viewport.h"
+
+#include <cmath>
+
+namespace drafton {
+namespace {
+
+/// A quarter of a pixel is not seen.
+constexpr double kSeenDeviation = 0.25;
+/// Blocks nested deeper than this are not drawn.
+constexpr std::size_t kDeepest = 100;
+/// Inserts with more entities than this are asked through their index.
+constexpr std::size_t kManyItems = 400;
+/// Thick lines and points reach so many pixels beyond their geometry.
+constexpr double kReach = 40;
+constexpr double kHaloWidth = 4;
+constexpr int kHaloAlpha = 110;
+
+/// Keeps a block from being drawn within itself.
+class Opened {
+ public:
+  Opened(std::unordered_set<OdDbObjectId>& all, OdDbObjectId id)
+    : m_all(all)
+    , m_id(id) {
+    m_all.insert(id);
+  }
+  ~Opened() { m_all.erase(m_id); }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
+ private:
+  std::unordered_set<OdDbObjectId>& m_all;
+  OdDbObjectId m_id;
+};
+
+/// The part of the xy plane that is under a rectangle of the picture; nothing if the plane is seen
+/// from the side or askew, where heights count.
+std::optional<QRectF> planeUnder(const QRectF& rect, const Projection& projection) {
+  const QPointF height = projection(OdGeVector3d::zAxis());
+  const double scale = projection.scale();
+  if (!(scale > 0) || std::hypot(height.x(), height.y()) > 1e-9 * scale) return std::nullopt;
+  bool canInvert = false;
+  const QTransform back = projection.planeTransform().inverted(&canInvert);
+  if (!canInvert) return std::nullopt;
+  return back.mapRect(rect);
+}
+
+} // namespace
+
+double deviationFor(double scale) {
+  if (!(scale > 0) || !std::isfinite(scale)) return 1;
+  return std::pow(4, std::floor(std::log2(kSeenDeviation / scale) / 2));
+}
+
+ScenePainter::ScenePainter(Scene& scene, Surface& surface, const RenderOptions& options)
+  : m_scene(scene)
+  , m_surface(surface)
+  , m_options(options)
+  , m_scales(*scene.database())
+  , m_pieces(m_surface, m_options, m_scales) {
+  m_layers.isPlotting = options.isPlotting;
+}
+
+bool ScenePainter::isTooSmall(const QRectF& box) const {
+  return m_options.simplifies && box.width() < 1 && box.height() < 1;
+}
+
+void ScenePainter::draw(OdDbObjectId block, const View& view) {
+  drawSpace(block, view.projection());
+}
+
+void ScenePainter::drawSpace(OdDbObjectId block, const Projection& projection) {
+  const double deviation = deviationFor(projection.scale());
+  if (m_open.contains(block)) return;
+  BlockShapes* const shapes = m_scene.shapes(block, deviation);
+  if (shapes == nullptr) return;
+  const Opened opened(m_open, block);
+  std::vector<std::uint32_t> numbers;
+  shapes->find(
+      planeUnder(m_surface.clipRect().adjusted(-kReach, -kReach, kReach, kReach), projection),
+      numbers);
+  shapes->refine(numbers, deviation);
+  drawLevel({*shapes, projection, nullptr, true}, numbers);
+}
+
+void ScenePainter::drawLevel(const Level& level, const std::vector<std::uint32_t>& numbers) {
+  const bool marks = level.isTop && !m_isInWindow;
+  for (const std::uint32_t number : numbers) {
+    const ShapeItem& item = level.shapes.items()[number];
+    if (item.pieceCount == 0) continue;
+    if (marks && m_options.hidden != nullptr && m_options.hidden->contains(item.id)) continue;
+    if (marks && m_options.highlighted != nullptr && m_options.highlighted->contains(item.id)) {
+      m_isHalo = true;
+      m_pieces.setHalo(qRgba(qRed(m_options.highlightColor), qGreen(m_options.highlightColor),
+                             qBlue(m_options.highlightColor), kHaloAlpha),
+                       kHaloWidth);
+      drawItem(level, item);
+      m_pieces.setHalo(0, 0);
+      m_isHalo = false;
+    }
+    drawItem(level, item);
+  }
+}
+
+void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
+  const StyleTables& tables = m_scene.styles();
+  const Style style = resolved(item.traits, tables, level.insert);
+  const LayerState& layer = tables.layer(style.layer);
+  if (m_layers.isFrozen(style.layer, layer)) return;
+  const bool showsLines = m_layers.shows(style.layer, layer);
+  // What a block's own layers show is seen even where the insert's layer is off.
+  if (!showsLines && !item.hasBlocks) return;
+  QRectF box;
+  if (!item.box.isEmpty()) {
+    box = level.projection.boxOf(item.box);
+    if (!box.adjusted(-kReach, -kReach, kReach, kReach).intersects(m_surface.clipRect())) return;
+  }
+  m_pieces.setProjection(level.projection);
+  m_pieces.setStyle(style, tables.linetype(style.linetype));
+  const Piece* const first = &level.shapes.list().pieces[item.firstPiece];
+  if (!item.box.isEmpty() && isTooSmall(box) && first->kind != PieceKind::kPoint) {
+    if (showsLines) m_pieces.drawSpeck(box.center());
+    return;
+  }
+  for (std::uint32_t i = 0; i < item.pieceCount; ++i)
+    drawPiece(level.projection, level.shapes.list(),
+              level.shapes.list().pieces[item.firstPiece + i], style, showsLines, box);
+}
+
+/// Drawing what a piece holds may record more, but never into the list of the piece itself.
+void ScenePainter::drawPiece(const Projection& projection, const ShapeList& list,
+                             const Piece& piece, const Style& style, bool showsLines,
+                             const QRectF& box) {
+  switch (piece.kind) {
+  case PieceKind::kBlock:
+    drawBlock(projection, list.blocks[piece.first], style);
+    m_pieces.setProjection(projection);
+    m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
+    break;
+  case PieceKind::kImage:
+    if (showsLines)
+      if (const OdDbRasterImagePtr image =
+              odrxCast<OdDbRasterImage>(list.objects[piece.first].open().get()))
+        m_pieces.drawImage(*image);
+    break;
+  case PieceKind::kViewport:
+    if (const OdDbViewportPtr viewport =
+            odrxCast<OdDbViewport>(list.objects[piece.first].open().get())) {
+      drawViewport(projection, *viewport, showsLines);
+      m_pieces.setProjection(projection);
+      m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
+    }
+    break;
+  default:
+    if (showsLines) m_pieces.draw(list, piece, box);
+  }
+}
+
+std::vector<bool> ScenePainter::frozenIn(const OdDbViewport& viewport) {
+  std::vector<bool> frozen;
+  for (const OdDbObjectId id : viewport.frozenLayers()) {
+    const std::uint32_t number = m_scene.styles().layerNumber(id);
+    if (frozen.size() <= number) frozen.resize(number + 1);
+    frozen[number] = true;
+  }
+  return frozen;
+}
+
+void ScenePainter::drawViewport(const Projection& projection, const OdDbViewport& viewport,
+                                bool showsLines) {
+  if (m_isInWindow || viewport.isOverall()) return;
+  const auto edge = viewport.boundary(deviationFor(projection.scale()));
+  if (viewport.isOn() && !m_isHalo) {
+    QPolygonF outline;
+    for (const OdGePoint3d& p : edge) outline << projection(p);
+    QPainterPath path;
+    path.addPolygon(outline);
+    path.closeSubpath();
+    m_surface.clip(path);
+    m_isInWindow = true;
+    LayerFilter outside = std::exchange(m_layers, {m_options.isPlotting, frozenIn(viewport)});
+    // Dashes have their lengths on the sheet, however small the model stands on it.
+    if (m_scales.dashesByPaper && viewport.customScale() > 0)
+      m_pieces.setWindowScale(1 / viewport.customScale());
+    drawSpace(m_scene.database()->getModelSpaceId(), projection.after(viewport.modelToPaper()));
+    m_pieces.setWindowScale(1);
+    m_layers = std::move(outside);
+    m_isInWindow = false;
+    m_surface.restore();
+  }
+  if (!showsLines) return;
+  m_pieces.setProjection(projection);
+  m_pieces.drawFrame(edge);
+}
+
+void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, const Style& style) {
+  if (m_open.contains(block.block) || m_open.size() >= kDeepest) return;
+  const Projection projection = outer.after(block.transform);
+  const double deviation = deviationFor(projection.scale());
+  BlockShapes* const shapes = m_scene.shapes(block.block, deviation);
+  if (shapes == nullptr) return;
+  const Opened opened(m_open, block.block);
+  const Level inner{*shapes, projection, &style, false};
+  std::vector<std::uint32_t> numbers;
+  std::optional<QRectF> part;
+  if (shapes->items().size() > kManyItems)
+    part = planeUnder(m_surface.clipRect().adjusted(-kReach, -kReach, kReach, kReach), projection);
+  shapes->find(part, numbers);
+  shapes->refine(numbers, deviation);
+  drawLevel(inner, numbers);
+}
+
+void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const View& view) {
+  const Projection projection = view.projection();
+  ShapeList list;
+  ShapeRecorder recorder(list, deviationFor(view.scale));
+  for (const OdDbEntityPtr& entity : entities) {
+    if (!entity || !entity->isVisible()) continue;
+    const Style style = resolved(Traits(*entity, m_scene.styles()), m_scene.styles(), nullptr);
+    const std::size_t first = list.pieces.size();
+    entity->worldDraw(recorder);
+    const OdGeExtents3d extents = recorder.takeBox();
+    m_pieces.setProjection(projection);
+    m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
+    const QRectF box = extents.isEmpty() ? QRectF() : projection.boxOf(extents);
+    for (std::size_t i = first; i < list.pieces.size(); ++i)
+      drawPiece(projection, list, list.pieces[i], style, true, box);
+  }
+}
+
+} // namespace drafton

@@ -1,0 +1,83 @@
+// What entities show, recorded for drawing again and again.
+#pragma once
+
+#include "drawing/entities/entity.h"
+#include "drawing/graphics/world_draw.h"
+
+namespace drafton {
+
+enum class PieceKind : std::uint8_t {
+  kPolyline, ///< points
+  kRing,     ///< points, closed
+  kArc,
+  kArea,
+  kGradient,
+  kStrokes, ///< pairs of points
+  kText,
+  kPoint,
+  kBlock,
+  kImage,
+  kViewport,
+};
+
+/// One piece of an entity. `first` is an index into what its kind is kept in.
+struct Piece {
+  PieceKind kind;
+  bool hasColor = false; ///< `color` counts and not that of the entity
+  std::uint32_t first = 0, count = 0;
+  std::uint32_t color = 0;
+  float length = 0; ///< of all strokes together
+};
+
+/// Rings that stand one behind another.
+struct AreaPiece {
+  std::uint32_t firstRing = 0, ringCount = 0;
+};
+
+struct GradientPiece {
+  OdGiGradient gradient;
+  AreaPiece area;
+};
+
+struct PointPiece {
+  OdGePoint3d position;
+  OdGeVector3d normal;
+};
+
+struct BlockPiece {
+  OdDbObjectId block;
+  OdGeMatrix3d transform;
+};
+
+/// An image or a viewport; `own` only if it is in no drawing.
+struct ObjectPiece {
+  OdDbObjectId id;
+  OdDbEntityPtr own;
+
+  OdDbObjectPtr open() const { return own ? OdDbObjectPtr(own) : id.openObject(); }
+};
+
+/// Pieces of many entities in few arrays, so that drawing runs through memory in order.
+class ShapeList {
+ public:
+  std::vector<Piece> pieces;
+  std::vector<OdGePoint3d> points;
+  std::vector<std::uint32_t> ringSizes; ///< rings stand in `points` one behind another
+  std::vector<std::uint32_t> ringStarts;
+  std::vector<OdGiArc> arcs;
+  std::vector<AreaPiece> areas;
+  std::vector<GradientPiece> gradients;
+  std::vector<OdGiTextRun> texts;
+  std::vector<PointPiece> marks;
+  std::vector<BlockPiece> blocks;
+  std::vector<ObjectPiece> objects;
+
+  std::span<const OdGePoint3d> pointsOf(const Piece& piece) const {
+    return std::span(points).subspan(piece.first, piece.count);
+  }
+  std::span<const OdGePoint3d> ring(std::uint32_t index) const {
+    return std::span(points).subspan(ringStarts[index], ringSizes[index]);
+  }
+};
+
+} // namespace drafton

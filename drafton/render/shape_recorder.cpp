@@ -1,0 +1,144 @@
+#include "drafton/render/shape_recorder.h"
+
+#include "drawing/entities/raster_image.h"
+#include "drawing/entities/viewport.h"
+
+#include <algorithm>
+
+namespace drafton {
+namespace {
+
+bool isFinite(const OdGeVector3d& v) {
+  return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+}
+
+} // namespace
+
+void ShapeRecorder::add(PieceKind kind, std::size_t first, std::size_t count) {
+  Piece piece{.kind = kind,
+              .hasColor = m_color.has_value(),
+              .first = static_cast<std::uint32_t>(first),
+              .count = static_cast<std::uint32_t>(count),
+              .color = 0,
+              .length = 0};
+  if (m_color) piece.color = m_color->color();
+  m_list.pieces.push_back(piece);
+}
+
+bool ShapeRecorder::areFinite(std::span<const OdGePoint3d> points) const {
+  return std::ranges::all_of(points, odgeIsFinite);
+}
+
+void ShapeRecorder::addPoints(std::span<const OdGePoint3d> points) {
+  for (const OdGePoint3d& p : points) m_box.addPoint(p);
+  m_list.points.insert(m_list.points.end(), points.begin(), points.end());
+}
+
+void ShapeRecorder::polyline(std::span<const OdGePoint3d> points, bool closed) {
+  if (points.empty() || !areFinite(points)) return;
+  m_isCoarse = m_isCoarse || points.size() > 2;
+  add(closed ? PieceKind::kRing : PieceKind::kPolyline, m_list.points.size(), points.size());
+  addPoints(points);
+}
+
+void ShapeRecorder::arc(const OdGiArc& arc) {
+  if (!odgeIsFinite(arc.center) || !isFinite(arc.u) || !isFinite(arc.v) ||
+      !std::isfinite(arc.start) || !std::isfinite(arc.sweep))
+    return;
+  add(PieceKind::kArc, m_list.arcs.size(), 1);
+  m_list.arcs.push_back(arc);
+  m_box.addExt(odgi::extentsOf(arc));
+}
+
+AreaPiece ShapeRecorder::addRings(const OdGiRings& rings) {
+  AreaPiece area{static_cast<std::uint32_t>(m_list.ringSizes.size()), 0};
+  for (const auto& ring : rings) {
+    if (ring.empty() || !areFinite(ring)) continue;
+    m_list.ringStarts.push_back(static_cast<std::uint32_t>(m_list.points.size()));
+    m_list.ringSizes.push_back(static_cast<std::uint32_t>(ring.size()));
+    addPoints(ring);
+    ++area.ringCount;
+    m_isCoarse = m_isCoarse || ring.size() > 4;
+  }
+  return area;
+}
+
+void ShapeRecorder::area(const OdGiRings& rings) {
+  const AreaPiece area = addRings(rings);
+  if (area.ringCount == 0) return;
+  add(PieceKind::kArea, m_list.areas.size(), 1);
+  m_list.areas.push_back(area);
+}
+
+void ShapeRecorder::gradient(const OdGiRings& rings, const OdGiGradient& gradient) {
+  const AreaPiece area = addRings(rings);
+  if (area.ringCount == 0) return;
+  add(PieceKind::kGradient, m_list.gradients.size(), 1);
+  m_list.gradients.push_back({gradient, area});
+}
+
+void ShapeRecorder::strokes(std::span<const OdGePoint3d> ends) {
+  const std::span pairs = ends.first(ends.size() / 2 * 2);
+  if (pairs.empty() || !areFinite(pairs)) return;
+  add(PieceKind::kStrokes, m_list.points.size(), pairs.size());
+  double length = 0;
+  for (std::size_t i = 0; i < pairs.size(); i += 2) length += pairs[i].distanceTo(pairs[i + 1]);
+  m_list.pieces.back().length = static_cast<float>(length);
+  addPoints(pairs);
+}
+
+void ShapeRecorder::text(const OdGiTextRun& run) {
+  if (run.text.isEmpty() || !odgeIsFinite(run.origin) || !isFinite(run.along) || !isFinite(run.up))
+    return;
+  add(PieceKind::kText, m_list.texts.size(), 1);
+  m_list.texts.push_back(run);
+  const OdGiTextMetrics& metrics = OdGiTextMetrics::current();
+  const double width =
+      metrics.advance(run.text, run.font) + run.tracking * static_cast<double>(run.text.size());
+  const double depth = metrics.descent(run.font);
+  // Accents reach above the height of capitals.
+  constexpr double kAbove = 1.35;
+  const OdGePoint3d end = run.origin + run.along * width;
+  for (const OdGePoint3d& p : {run.origin, end}) {
+    m_box.addPoint(p - run.up * depth);
+    m_box.addPoint(p + run.up * kAbove);
+  }
+}
+
+void ShapeRecorder::point(const OdGePoint3d& position, const OdGeVector3d& normal) {
+  if (!odgeIsFinite(position)) return;
+  add(PieceKind::kPoint, m_list.marks.size(), 1);
+  m_list.marks.push_back({position, normal});
+  m_box.addPoint(position);
+}
+
+void ShapeRecorder::block(OdDbObjectId block, const OdGeMatrix3d& transform, const OdDbEntity&) {
+  for (int row = 0; row < 3; ++row)
+    for (int column = 0; column < 4; ++column)
+      if (!std::isfinite(transform(row, column))) return;
+  add(PieceKind::kBlock, m_list.blocks.size(), 1);
+  m_list.blocks.push_back({block, transform});
+}
+
+void ShapeRecorder::addObject(PieceKind kind, const OdDbEntity& entity,
+                              std::span<const OdGePoint3d> corners) {
+  if (!areFinite(corners)) return;
+  add(kind, m_list.objects.size(), 1);
+  ObjectPiece piece{.id = entity.objectId(), .own = {}};
+  if (piece.id.isNull()) piece.own = const_cast<OdDbEntity*>(&entity);
+  m_list.objects.push_back(std::move(piece));
+  for (const OdGePoint3d& p : corners) m_box.addPoint(p);
+}
+
+void ShapeRecorder::image(const OdDbRasterImage& image) {
+  addObject(PieceKind::kImage, image, image.corners());
+}
+
+void ShapeRecorder::viewport(const OdDbViewport& viewport) {
+  const OdGePoint3d& middle = viewport.centerPoint();
+  const OdGeVector3d half{viewport.width() / 2, viewport.height() / 2, 0};
+  const OdGePoint3d corners[] = {middle - half, middle + half};
+  addObject(PieceKind::kViewport, viewport, corners);
+}
+
+} // namespace drafton

@@ -1,0 +1,49 @@
+// Records what an entity shows.
+#pragma once
+
+#include "drafton/render/shape_list.h"
+
+namespace drafton {
+
+/// Adds the pieces of entities to a list and measures them. Blocks are recorded by reference; the
+/// box of such a piece is for the caller to add.
+class ShapeRecorder : public OdGiWorldDraw {
+ public:
+  /// Chords leave their curves by no more than `deviation`.
+  ShapeRecorder(ShapeList& list, double deviation)
+    : m_list(list)
+    , m_deviation(deviation) {}
+
+  /// The box around all pieces since the last call, blocks excepted.
+  OdGeExtents3d takeBox() { return std::exchange(m_box, {}); }
+  /// True if pieces since the last call could be finer with a smaller deviation.
+  bool takeIsCoarse() { return std::exchange(m_isCoarse, false); }
+
+  double deviation() const override { return m_deviation; }
+  void polyline(std::span<const OdGePoint3d> points, bool closed) override;
+  void arc(const OdGiArc& arc) override;
+  void area(const OdGiRings& rings) override;
+  void gradient(const OdGiRings& rings, const OdGiGradient& gradient) override;
+  void strokes(std::span<const OdGePoint3d> ends) override;
+  void text(const OdGiTextRun& run) override;
+  void point(const OdGePoint3d& position, const OdGeVector3d& normal) override;
+  void block(OdDbObjectId block, const OdGeMatrix3d& transform, const OdDbEntity& insert) override;
+  void image(const OdDbRasterImage& image) override;
+  void viewport(const OdDbViewport& viewport) override;
+  void setPieceColor(const std::optional<OdCmColor>& color) override { m_color = color; }
+
+ private:
+  void addObject(PieceKind kind, const OdDbEntity& entity, std::span<const OdGePoint3d> corners);
+  void add(PieceKind kind, std::size_t first, std::size_t count);
+  void addPoints(std::span<const OdGePoint3d> points);
+  bool areFinite(std::span<const OdGePoint3d> points) const;
+  AreaPiece addRings(const OdGiRings& rings);
+
+  ShapeList& m_list;
+  double m_deviation;
+  OdGeExtents3d m_box;
+  bool m_isCoarse = false;
+  std::optional<OdCmColor> m_color;
+};
+
+} // namespace drafton
