@@ -4,7 +4,7 @@ OdDbStub& OdDbDatabaseData::stubFor(OdDbHandle handle) {
   std::uint32_t number = byHandle.find(handle);
   if (number == OdDbHandleTable::kNone) {
     number = stubs.add(handle);
-    byHandle.insert(number);
+    byHandle.insert(handle, number);
   }
   return stubs[number];
 }

@@ -22,7 +22,6 @@ struct OdDbDatabaseData {
   OdDbDatabaseData& operator=(const OdDbDatabaseData&) = delete;
   explicit OdDbDatabaseData(OdDbDatabase& database)
     : stubs(database)
-    , byHandle(stubs)
     , undo(database) {}
 
   OdDbStubPool stubs;

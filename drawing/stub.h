@@ -3,6 +3,7 @@
 
 #include "drawing/object.h"
 
+#include <deque>
 #include <vector>
 
 /// One entry for each object that was ever in the drawing, or that the file only refers to. Stubs
@@ -44,27 +45,32 @@ class OdDbStubPool {
   std::uint32_t m_size = 0;
 };
 
-/// Stubs by their handles.
+/// The numbers of stubs by their handles. Handles mostly follow each other: those that share all
+/// but the last digit stand together.
 class OdDbHandleTable {
  public:
-  explicit OdDbHandleTable(const OdDbStubPool& stubs)
-    : m_stubs(stubs) {}
-
-  /// The number of the stub; kNone if there is none.
-  std::uint32_t find(OdDbHandle handle) const;
-  /// `number` is that of a stub whose handle is not there yet.
-  void insert(std::uint32_t number);
-  void remove(OdDbHandle handle);
-  /// Makes room for so many at once.
-  void reserve(std::size_t count);
-
   static constexpr std::uint32_t kNone = ~std::uint32_t{0};
 
- private:
-  std::size_t placeOf(OdDbHandle handle) const;
-  void grow(std::size_t places);
+  /// kNone if the handle is not there.
+  std::uint32_t find(OdDbHandle handle) const {
+    const Group* const group = findGroup(handle / kGroupSize);
+    return group ? group->numbers[handle % kGroupSize] : kNone;
+  }
+  /// Replaces the number if the handle is there.
+  void insert(OdDbHandle handle, std::uint32_t number);
+  void remove(OdDbHandle handle);
 
-  const OdDbStubPool& m_stubs;
-  std::vector<std::uint32_t> m_places; ///< a power of two of them
-  std::size_t m_count = 0;
+ private:
+  static constexpr std::uint64_t kGroupSize = 16;
+  struct Group {
+    std::uint64_t key;
+    std::uint32_t numbers[kGroupSize];
+  };
+  const Group* findGroup(std::uint64_t key) const;
+  std::size_t placeOf(std::uint64_t key) const;
+  void grow();
+
+  std::deque<Group> m_groups;
+  std::vector<std::uint32_t> m_places; ///< groups by their keys; a power of two of places
+  mutable const Group* m_recent = nullptr;
 };

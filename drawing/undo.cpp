@@ -203,7 +203,7 @@ void OdDbUndo::play(Appended& change, bool backwards) {
     change.detached = object;
   } else {
     if (change.listed) (block ? block->m_entities : table->m_records).push_back(id);
-    data.byHandle.insert(change.number);
+    data.byHandle.insert(stub.handle, change.number);
     stub.object = object;
     object->m_stub = &stub;
     change.detached = nullptr;

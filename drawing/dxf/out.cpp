@@ -2,11 +2,33 @@
 
 #include "drawing/dxf/text.h"
 
+#include <array>
+#include <bit>
 #include <charconv>
+#include <cstring>
 
 namespace {
 
-constexpr qsizetype kBufferSize = 256 * 1024;
+constexpr std::size_t kBufferSize = 256 * 1024;
+// No code and no number is longer, line ends included.
+constexpr std::size_t kShortTag = 64;
+
+/// The lines of all group codes, each with its length behind it.
+constexpr std::size_t kCodeLine = 8;
+constexpr int kCodes = 1072;
+constexpr auto kCodeLines = [] {
+  std::array<char, kCodeLine * kCodes> lines{};
+  for (std::size_t code = 0; code < kCodes; ++code) {
+    char* const line = &lines[kCodeLine * code];
+    const std::size_t digits = code >= 1000 ? 4 : 3;
+    std::size_t rest = code;
+    for (std::size_t i = digits; i-- > 0; rest /= 10)
+      line[i] = rest > 0 || i + 1 == digits ? static_cast<char>('0' + rest % 10) : ' ';
+    line[digits] = '\n';
+    line[kCodeLine - 1] = static_cast<char>(digits + 1);
+  }
+  return lines;
+}();
 
 bool isPlain(const QByteArray& bytes) {
   return std::all_of(bytes.begin(), bytes.end(),
@@ -23,6 +45,8 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
   : m_database(database)
   , m_version(version)
   , m_sink(std::move(sink))
+  , m_buffer(std::make_unique<char[]>(kBufferSize))
+  , m_at(m_buffer.get())
   , m_utf8(version >= OdDb::kR2007) {
   const OdDbDatabaseData& data = database.data();
   const QByteArray codePage =
@@ -39,48 +63,68 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
 }
 
 void OdDbDxfOut::flush() {
-  if (!m_buffer.isEmpty()) m_sink(m_buffer);
-  m_buffer.clear();
+  const qsizetype size = m_at - m_buffer.get();
+  m_at = m_buffer.get();
+  if (size > 0) m_sink(QByteArray::fromRawData(m_buffer.get(), size));
+}
+
+void OdDbDxfOut::ensureRoom() {
+  if (m_buffer.get() + kBufferSize - m_at < static_cast<std::ptrdiff_t>(kShortTag)) flush();
+}
+
+void OdDbDxfOut::append(std::string_view bytes) {
+  const auto room = static_cast<std::size_t>(m_buffer.get() + kBufferSize - m_at);
+  if (bytes.size() > room) {
+    flush();
+    // Long ones need not pass through the buffer.
+    if (bytes.size() > kBufferSize) {
+      m_sink(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+      return;
+    }
+  }
+  std::memcpy(m_at, bytes.data(), bytes.size());
+  m_at += bytes.size();
 }
 
 void OdDbDxfOut::code(int code) {
-  if (m_buffer.size() >= kBufferSize) {
-    m_sink(m_buffer);
-    m_buffer.resize(0);
+  ensureRoom();
+  if (code >= 0 && code < kCodes) {
+    const char* const line = &kCodeLines[kCodeLine * static_cast<std::size_t>(code)];
+    std::memcpy(m_at, line, kCodeLine);
+    m_at += line[kCodeLine - 1];
+    return;
   }
-  oddxf::addCode(m_buffer, code);
+  m_at = std::to_chars(m_at, m_at + kShortTag / 2, code).ptr;
+  *m_at++ = '\n';
 }
 
 void OdDbDxfOut::raw(int groupCode, std::string_view value) {
   code(groupCode);
-  m_buffer.append(value.data(), static_cast<qsizetype>(value.size()));
-  m_buffer.append('\n');
+  append(value);
+  ensureRoom();
+  *m_at++ = '\n';
 }
 
 void OdDbDxfOut::text(int groupCode, const OdString& value) {
   code(groupCode);
-  appendEncoded(oddxf::oneLine(value));
-  m_buffer.append('\n');
+  append(encoded(oddxf::oneLine(value)));
+  append("\n");
 }
 
-void OdDbDxfOut::appendEncoded(QStringView line) {
-  if (m_utf8) {
-    m_buffer.append(line.toUtf8());
-    return;
-  }
+std::string OdDbDxfOut::encoded(QStringView line) {
+  if (m_utf8) return line.toUtf8().toStdString();
   const QByteArray whole = inCodePage(line);
-  if (!whole.isEmpty() || line.isEmpty()) {
-    m_buffer.append(whole);
-    return;
-  }
+  if (!whole.isEmpty() || line.isEmpty()) return whole.toStdString();
   // Character by character, so that only those outside of the code page are escaped.
+  std::string bytes;
   for (const QChar& c : line) {
     if (const QByteArray one = inCodePage(QStringView(&c, 1)); !one.isEmpty())
-      m_buffer.append(one);
+      bytes += view(one);
     else
-      m_buffer.append("\\U+").append(
-          QByteArray::number(c.unicode(), 16).toUpper().rightJustified(4, '0'));
+      bytes += "\\U+" +
+               QByteArray::number(c.unicode(), 16).toUpper().rightJustified(4, '0').toStdString();
   }
+  return bytes;
 }
 
 QByteArray OdDbDxfOut::inCodePage(QStringView text) {
@@ -93,9 +137,10 @@ QByteArray OdDbDxfOut::inCodePage(QStringView text) {
 }
 
 void OdDbDxfOut::integer(int groupCode, std::int64_t value) {
-  char digits[24];
-  const auto [end, error] = std::to_chars(digits, digits + sizeof digits, value);
-  raw(groupCode, {digits, static_cast<std::size_t>(end - digits)});
+  code(groupCode);
+  ensureRoom();
+  m_at = std::to_chars(m_at, m_at + kShortTag / 2, value).ptr;
+  *m_at++ = '\n';
 }
 
 void OdDbDxfOut::real(int groupCode, double value) {
@@ -132,42 +177,40 @@ void OdDbDxfOut::point2d(int groupCode, const OdGePoint2d& p, int yCode) {
 }
 
 void OdDbDxfOut::handle(int groupCode, OdDbHandle value) {
-  char digits[20];
-  const auto [end, error] =
-      std::to_chars(digits, digits + sizeof digits, static_cast<std::uint64_t>(value), 16);
-  for (char* c = digits; c != end; ++c)
-    if (*c >= 'a') *c = static_cast<char>(*c - 'a' + 'A');
-  raw(groupCode, {digits, static_cast<std::size_t>(end - digits)});
+  code(groupCode);
+  ensureRoom();
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  const std::uint64_t number = value;
+  for (int shift = std::max(0, (static_cast<int>(std::bit_width(number)) - 1) / 4) * 4; shift >= 0; shift -= 4)
+    *m_at++ = kDigits[number >> shift & 15];
+  *m_at++ = '\n';
 }
 
 void OdDbDxfOut::recordName(int groupCode, OdDbObjectId id, const char* fallback) {
-  // The object is looked at without opening it: this runs for every entity.
-  const OdDbStub* const stub = id.stub();
-  if (const auto* record =
-          stub ? dynamic_cast<const OdDbSymbolTableRecord*>(stub->object.get()) : nullptr)
-    text(groupCode, record->getName());
-  else
-    raw(groupCode, fallback);
+  RecentName& recent = m_recentNames[static_cast<std::size_t>(groupCode) % kRecentNames];
+  if (id.isNull() || recent.id != id) {
+    // The object is looked at without opening it: this runs for every entity.
+    const OdDbStub* const stub = id.stub();
+    const auto* const record = stub ? odrxCast<OdDbSymbolTableRecord>(stub->object.get()) : nullptr;
+    if (!record) return raw(groupCode, fallback);
+    recent.id = id;
+    recent.bytes = encoded(oddxf::oneLine(record->getName()));
+  }
+  raw(groupCode, recent.bytes);
 }
 
 void OdDbDxfOut::kept(const QByteArray& lines) {
   if (lines.isEmpty()) return;
   if (!m_transcode || isPlain(lines)) {
-    // Long ones need not pass through the buffer.
-    if (lines.size() < kBufferSize) {
-      m_buffer.append(lines);
-    } else {
-      flush();
-      m_sink(lines);
-    }
+    append(view(lines));
     return;
   }
   m_keptDecoder.resetState();
   const OdString decoded = m_keptDecoder.decode(lines);
   for (const QStringView line : QStringView(decoded).split(u'\n')) {
     if (line.isEmpty() && line.data() == decoded.constData() + decoded.size()) break;
-    appendEncoded(line);
-    m_buffer.append('\n');
+    append(encoded(line));
+    append("\n");
   }
 }
 
@@ -209,8 +252,7 @@ void OdDbDxfOut::endObject() {
 }
 
 void OdDbDxfOut::object(const OdDbObject& object) {
-  const auto* const record = dynamic_cast<const OdDbSymbolTableRecord*>(&object);
-  beginObject(object, object.dxfName(), record ? record->dxfHandleCode() : 5, object.ownerId());
+  beginObject(object, object.dxfName(), object.dxfHandleCode(), object.ownerId());
   object.dxfOut(*this);
   endSubclass();
   if (m_residue) kept(m_residue->tail);

@@ -8,6 +8,7 @@
 #include <QStringEncoder>
 
 #include <functional>
+#include <string>
 
 /// Writes the tags of one drawing.
 class OdDbDxfOut {
@@ -58,17 +59,28 @@ class OdDbDxfOut {
   void flush();
 
  private:
+  /// Room for a short tag, to be filled from m_at on.
+  void ensureRoom();
   void code(int code);
+  void append(std::string_view bytes);
   void endSubclass();
-  /// Adds one line's text in the encoding of the file; what its code page lacks is escaped.
-  void appendEncoded(QStringView line);
+  /// One line's text in the encoding of the file; what its code page lacks is escaped.
+  std::string encoded(QStringView line);
   /// The bytes in the code page of the file; empty if it lacks a character.
   QByteArray inCodePage(QStringView text);
 
   const OdDbDatabase& m_database;
   OdDb::DwgVersion m_version;
   Sink m_sink;
-  QByteArray m_buffer;
+  std::unique_ptr<char[]> m_buffer;
+  char* m_at; ///< behind the last byte in the buffer
+  // Neighbours mostly share their records, whose names need not be encoded again.
+  struct RecentName {
+    OdDbObjectId id;
+    std::string bytes;
+  };
+  static constexpr std::size_t kRecentNames = 16;
+  RecentName m_recentNames[kRecentNames];
   QStringEncoder m_encoder;
   QStringDecoder m_keptDecoder;
   QStringDecoder m_codePageDecoder;

@@ -1,7 +1,10 @@
 #include "drawing/dxf/text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cmath>
+#include <cstring>
 
 QByteArray oddxf::encodingOf(std::string_view codePage) {
   struct Row {
@@ -101,7 +104,61 @@ OdString oddxf::oneLine(const OdString& text) {
   return result;
 }
 
+namespace {
+
+constexpr auto kDigitPairs = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
+/// Writes the digits so that they end at `end`; gives where they begin.
+char* digitsBefore(char* end, std::uint64_t value) {
+  while (value >= 100) {
+    end -= 2;
+    std::memcpy(end, &kDigitPairs[2 * (value % 100)], 2);
+    value /= 100;
+  }
+  if (value < 10) {
+    *--end = static_cast<char>('0' + value);
+    return end;
+  }
+  end -= 2;
+  std::memcpy(end, &kDigitPairs[2 * value], 2);
+  return end;
+}
+
+/// The text of a number with at most six decimals, which most have; empty for others. The quotient
+/// of two numbers that are exact is what a reader gets from these digits.
+std::string_view shortText(char (&buffer)[oddxf::kRealDigits], double value) {
+  constexpr double kLargest = 1e9;
+  constexpr double kMillion = 1e6;
+  const double size = std::abs(value);
+  if (!(size < kLargest) || (size == 0 && std::signbit(value))) return {};
+  const auto millionths = static_cast<std::uint64_t>(size * kMillion + 0.5);
+  if (static_cast<double>(millionths) / kMillion != size) return {};
+  std::uint64_t whole = millionths / 1'000'000;
+  auto rest = static_cast<std::uint32_t>(millionths % 1'000'000);
+  char* const point = buffer + 16;
+  char* end = point + 7;
+  *point = '.';
+  for (int i = 6; i > 0; i -= 2) {
+    std::memcpy(point + i - 1, &kDigitPairs[2 * (rest % 100)], 2);
+    rest /= 100;
+  }
+  while (end[-1] == '0' && end > point + 2) --end;
+  char* begin = digitsBefore(point, whole);
+  if (value < 0) *--begin = '-';
+  return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+} // namespace
+
 std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
+  if (const std::string_view text = shortText(buffer, value); !text.empty()) return text;
   auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer - 2, value);
   if (std::none_of(buffer, end, [](char c) { return c == '.' || c == 'e'; })) {
     *end++ = '.';
