@@ -26,6 +26,7 @@ function(drafton_layer target)
   # shared libraries publish all that their headers declare.
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
   target_link_libraries(${target} PUBLIC ${ARG_LINKS})
+  drafton_use_precompiled(${target})
 endfunction()
 
 # drafton_test(<name> [FOLDER <dir>] LINKS <targets...> [ENV <name=value>...])
@@ -52,6 +53,7 @@ function(drafton_test name)
     SOURCE_DIR="${CMAKE_SOURCE_DIR}"
     BINARY_DIR="${CMAKE_BINARY_DIR}/bin")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  drafton_use_precompiled(${name})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ARG_ENV}" LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT})

@@ -2,7 +2,9 @@
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  # ccache takes precompiled headers for what they are only if it is told to.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
 endif()
 
 find_program(MOLD_PROGRAM mold)
@@ -27,4 +29,10 @@ if(DRAFTON_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer -O1)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(DRAFTON_FUZZ)
+  # The libraries tell the fuzzer which of their ways were gone; fuzzers themselves link its engine.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_link_options(-fsanitize=fuzzer-no-link)
 endif()
