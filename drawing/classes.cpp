@@ -2,17 +2,25 @@
 #include "drawing/database.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/attribute.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/hatch.h"
 #include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
 #include "drawing/entities/polyline2d.h"
+#include "drawing/entities/raster_image.h"
 #include "drawing/entities/solid.h"
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
+#include "drawing/entities/viewport.h"
+#include "drawing/objects/group.h"
+#include "drawing/objects/image_def.h"
+#include "drawing/objects/layout.h"
 #include "drawing/objects/raw_object.h"
 
 #define CLASS(Class, Parent) ODRX_DEFINE_MEMBERS(Class, Parent, #Class)
@@ -37,6 +45,25 @@ CLASS(OdDbText, OdDbEntity);
 CLASS(OdDbAttributeText, OdDbText);
 CLASS(OdDbAttributeDefinition, OdDbAttributeText);
 CLASS(OdDbAttribute, OdDbAttributeText);
+CLASS(OdDbBlockReference, OdDbEntity);
+CLASS(OdDbHatch, OdDbEntity);
+CLASS(OdDbDimension, OdDbEntity);
+CLASS(OdDbAlignedDimension, OdDbDimension);
+CLASS(OdDbRotatedDimension, OdDbAlignedDimension);
+CLASS(OdDbRadialDimension, OdDbDimension);
+CLASS(OdDbDiametricDimension, OdDbDimension);
+CLASS(OdDb2LineAngularDimension, OdDbDimension);
+CLASS(OdDb3PointAngularDimension, OdDbDimension);
+CLASS(OdDbOrdinateDimension, OdDbDimension);
+CLASS(OdDbArcDimension, OdDbDimension);
+CLASS(OdDbReadDimension, OdDbDimension);
+CLASS(OdDbRasterImage, OdDbEntity);
+CLASS(OdDbViewport, OdDbEntity);
+CLASS(OdDbGroup, OdDbObject);
+CLASS(OdDbRasterImageDef, OdDbObject);
+CLASS(OdDbRasterImageDefReactor, OdDbObject);
+CLASS(OdDbPlotSettings, OdDbObject);
+CLASS(OdDbLayout, OdDbPlotSettings);
 CLASS(OdDbRawEntity, OdDbEntity);
 CLASS(OdDbRawObject, OdDbObject);
 CLASS(OdDbDictionary, OdDbObject);
@@ -81,15 +108,19 @@ void addAll() {
 /// Registers the classes when the library is loaded, bases before what derives from them.
 const bool g_registered = [] {
   addAll<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
-         OdDbEllipse, OdDbSpline, OdDb2dPolyline, OdDbLeader, OdDbVertex, OdDbPoint,
-         OdDbSolid, OdDbTrace, OdDbMText, OdDbText, OdDbAttributeText, OdDbAttributeDefinition,
-         OdDbAttribute,
-         OdDbRawEntity, OdDbRawObject, OdDbDictionary, OdDbDictionaryVar, OdDbSymbolTableRecord,
-         OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbTextStyleTableRecord,
-         OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbViewTableRecord,
-         OdDbViewportTableRecord, OdDbUCSTableRecord, OdDbRegAppTableRecord, OdDbSymbolTable,
-         OdDbLayerTable, OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable, OdDbBlockTable,
-         OdDbViewTable, OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable, OdDbDatabase>();
+         OdDbEllipse, OdDbSpline, OdDb2dPolyline, OdDbLeader, OdDbVertex, OdDbPoint, OdDbSolid,
+         OdDbTrace, OdDbMText, OdDbText, OdDbAttributeText, OdDbAttributeDefinition, OdDbAttribute,
+         OdDbBlockReference, OdDbHatch, OdDbDimension, OdDbAlignedDimension, OdDbRotatedDimension,
+         OdDbRadialDimension, OdDbDiametricDimension, OdDb2LineAngularDimension,
+         OdDb3PointAngularDimension, OdDbOrdinateDimension, OdDbArcDimension, OdDbReadDimension,
+         OdDbRasterImage, OdDbViewport, OdDbGroup, OdDbRasterImageDef, OdDbRasterImageDefReactor,
+         OdDbPlotSettings, OdDbLayout, OdDbRawEntity, OdDbRawObject, OdDbDictionary,
+         OdDbDictionaryVar, OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord,
+         OdDbTextStyleTableRecord, OdDbDimStyleTableRecord, OdDbBlockTableRecord,
+         OdDbViewTableRecord, OdDbViewportTableRecord, OdDbUCSTableRecord, OdDbRegAppTableRecord,
+         OdDbSymbolTable, OdDbLayerTable, OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable,
+         OdDbBlockTable, OdDbViewTable, OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable,
+         OdDbDatabase>();
   return true;
 }();
 

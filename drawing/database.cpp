@@ -94,7 +94,13 @@ OdDbObjectId OdDbDatabase::getUCSTableId() const { return m_data->tables[Data::k
 OdDbObjectId OdDbDatabase::getRegAppTableId() const { return m_data->tables[Data::kRegApps]; }
 OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const { return m_data->rootDictionary; }
 OdDbObjectId OdDbDatabase::getModelSpaceId() const { return m_data->modelSpace; }
-OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return m_data->paperSpace; }
+OdDbObjectId OdDbDatabase::getPaperSpaceId() const {
+  // Which sheet is shown is told by its name alone.
+  const OdDbBlockTablePtr blocks = m_data->tables[Data::kBlocks].openObject();
+  const OdDbObjectId named =
+      blocks ? blocks->getAt(QStringLiteral("*Paper_Space")) : OdDbObjectId();
+  return named.isNull() ? m_data->paperSpace : named;
+}
 OdDbObjectId OdDbDatabase::getCurrentSpaceId() const {
   return sysVarInt("TILEMODE") != 0 ? getModelSpaceId() : getPaperSpaceId();
 }

@@ -94,8 +94,10 @@ void OdDbDimStyleTableRecord::dxfOutFields(OdDbDxfOut& out) const {
   OdDbSymbolTableRecord::dxfOutFields(out);
   static const Values kPreset;
   for (const OdDbDimVarInfo& row : oddbDimVars()) {
-    if (row.code == 0 || since(row.code) > out.version()) continue;
     const bool inFile = m_inFile.test(static_cast<std::size_t>(&row - oddbDimVars().data()));
+    // What an old file has although it should not is kept, but nothing new is told to old programs.
+    const bool isOwn = inFile && out.version() >= out.database().originalFileVersion();
+    if (row.code == 0 || (since(row.code) > out.version() && !isOwn)) continue;
     std::visit(
         [&](auto member) {
           if (inFile || m_values.*member != kPreset.*member) put(row.code, m_values.*member, out);

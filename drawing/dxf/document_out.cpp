@@ -1,6 +1,7 @@
 // Writing whole drawings.
 #include "drawing/dxf/document_out.h"
 
+#include "drawing/dxf/class_list.h"
 #include "drawing/dxf/out.h"
 #include "drawing/dxf/text.h"
 
@@ -22,16 +23,17 @@ class Writer {
     header();
     m_out.section("CLASSES");
     m_out.kept(m_data.classes);
+    m_out.kept(oddxf::missingClasses(m_database));
     m_out.endSection();
     tables();
     blocks();
     m_out.section("ENTITIES");
     entitiesOf(m_data.modelSpace);
-    entitiesOf(m_data.paperSpace);
+    entitiesOf(m_database.getPaperSpaceId());
     m_out.endSection();
     m_out.section("OBJECTS");
     for (const OdDbObjectId id : m_data.objects)
-      if (id.isValid()) m_out.object(*id.stub()->object);
+      if (id.isValid() && !oddxf::isOrphan(id)) m_out.object(*id.stub()->object);
     m_out.endSection();
     for (const OdDbRawSection& section : m_data.otherSections) {
       m_out.section(section.name.constData());
@@ -128,7 +130,8 @@ class Writer {
       block->dxfOutBegin(m_out);
       m_out.endObject();
       // What stands in the two current spaces has a section of its own.
-      if (block->objectId() != m_data.modelSpace && block->objectId() != m_data.paperSpace)
+      if (block->objectId() != m_data.modelSpace &&
+          block->objectId() != m_database.getPaperSpaceId())
         entitiesOf(block->objectId());
       const OdDbObjectPtr end = block->blockEndId().safeOpenObject();
       m_out.beginObject(*end, "ENDBLK", 5, block->objectId());

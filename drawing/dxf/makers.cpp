@@ -2,17 +2,25 @@
 
 #include "drawing/entities/arc.h"
 #include "drawing/entities/attribute.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/hatch.h"
 #include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
 #include "drawing/entities/polyline2d.h"
+#include "drawing/entities/raster_image.h"
 #include "drawing/entities/solid.h"
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
+#include "drawing/entities/viewport.h"
+#include "drawing/objects/group.h"
+#include "drawing/objects/image_def.h"
+#include "drawing/objects/layout.h"
 #include "drawing/objects/raw_object.h"
 
 #include <unordered_map>
@@ -47,11 +55,22 @@ constexpr Maker<OdDbEntity> kEntities[] = {
     {"ATTDEF", make<OdDbAttributeDefinition, OdDbEntity>},
     {"ATTRIB", make<OdDbAttribute, OdDbEntity>},
     {"LEADER", make<OdDbLeader, OdDbEntity>},
+    {"INSERT", make<OdDbBlockReference, OdDbEntity>},
+    {"HATCH", make<OdDbHatch, OdDbEntity>},
+    {"DIMENSION", make<OdDbReadDimension, OdDbEntity>},
+    {"ARC_DIMENSION", make<OdDbArcDimension, OdDbEntity>},
+    {"IMAGE", make<OdDbRasterImage, OdDbEntity>},
+    {"VIEWPORT", make<OdDbViewport, OdDbEntity>},
 };
 
 constexpr Maker<OdDbObject> kObjects[] = {
     {"DICTIONARY", make<OdDbDictionary, OdDbObject>},
     {"ACDBDICTIONARYWDFLT", [] { return OdDbObjectPtr(odrxMake<OdDbDictionary>(true)); }},
+    {"GROUP", make<OdDbGroup, OdDbObject>},
+    {"IMAGEDEF", make<OdDbRasterImageDef, OdDbObject>},
+    {"IMAGEDEF_REACTOR", make<OdDbRasterImageDefReactor, OdDbObject>},
+    {"LAYOUT", make<OdDbLayout, OdDbObject>},
+    {"PLOTSETTINGS", make<OdDbPlotSettings, OdDbObject>},
     {"DICTIONARYVAR", make<OdDbDictionaryVar, OdDbObject>},
 };
 

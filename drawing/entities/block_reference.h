@@ -3,6 +3,8 @@
 
 #include "drawing/entities/attribute.h"
 
+#include <QHash>
+
 /// The components of a scaling along three axes.
 struct OdGeScale3d {
   double sx = 1, sy = 1, sz = 1;
@@ -88,7 +90,7 @@ class OdDbBlockReference : public OdDbEntity {
   void enteredDatabase() override;
 
  private:
-  void explodeCell(const OdGeMatrix3d& transform, std::vector<OdDbEntityPtr>& pieces,
+  bool explodeCell(const OdGeMatrix3d& transform, std::vector<OdDbEntityPtr>& pieces,
                    std::vector<OdDbObjectId>& open) const;
   void addEnd();
 

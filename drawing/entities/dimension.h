@@ -67,7 +67,6 @@ class OdDbDimension : public OdDbEntity {
   virtual bool recomputeDimBlock() { return false; }
 
   void worldDraw(OdGiWorldDraw& draw) const override;
-  bool getGeomExtents(OdGeExtents3d& extents) const override;
   /// Moves the points; the block is drawn anew where that is possible, else moved with it.
   bool transformBy(const OdGeMatrix3d& transform) override;
   /// Into what the block consists of.
@@ -94,7 +93,6 @@ class OdDbDimension : public OdDbEntity {
     double arcStart = 0, arcEnd = 0;
     int isPartial = 0, hasLeader = 0, arcSymbol = 0;
     OdGePoint3d leaderFirst, leaderSecond;
-    OdGeVector3d blockShift; ///< where the block stands now, in world coordinates
   };
   const Data& dimensionData() const { return m_dimension; }
 
@@ -103,6 +101,19 @@ class OdDbDimension : public OdDbEntity {
   void enteredDatabase() override;
   /// The subclasses behind AcDbDimension.
   virtual void dxfOutKind(OdDbDxfOut& out) const = 0;
+  /// From the block's coordinates to the world's.
+  OdGeMatrix3d blockTransform() const;
+  /// Gives the dimension a new block, which is empty.
+  OdDbObjectId makeBlock();
+  /// Takes over what was read, whatever the kind.
+  void takeData(const OdDbDimension& read);
   Data m_dimension;
+
+ private:
+  void unshareBlock();
+  void moveBlock(const OdGeMatrix3d& transform);
+  // A copy shows the block of its original until it comes to a drawing.
+  bool m_blockIsShared = false;
+  OdGeMatrix3d m_pendingMove; ///< of such a copy, since it was made
 };
 using OdDbDimensionPtr = OdSmartPtr<OdDbDimension>;

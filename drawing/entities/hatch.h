@@ -18,9 +18,6 @@ class OdDbHatch : public OdDbEntity {
   /// Where the pattern comes from.
   enum HatchPatternType : std::uint8_t { kUserDefined = 0, kPreDefined = 1, kCustomDefined = 2 };
 
-  /// Also clears loops: a hatch belongs to its own boundary.
-  void setDatabaseDefaults(const OdDbDatabase& database) override;
-
   // --- boundary
 
   unsigned numLoops() const { return static_cast<unsigned>(m_hatch.loops.size()); }
@@ -105,7 +102,8 @@ class OdDbHatch : public OdDbEntity {
   double shadeTintValue() const { return m_hatch.tint; }
   void setShadeTintValue(double tint);
   OdCmColor gradientColor1() const { return m_hatch.color1; }
-  OdCmColor gradientColor2() const { return m_hatch.color2; }
+  /// Of a one-colour gradient what the tint makes of the first one.
+  OdCmColor gradientColor2() const;
   void setGradientColors(const OdCmColor& first, const OdCmColor& second);
 
   void worldDraw(OdGiWorldDraw& draw) const override;
@@ -117,7 +115,6 @@ class OdDbHatch : public OdDbEntity {
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
-  void dxfOutXData(OdDbDxfOut& out) const override;
 
   /// What the file knows of a hatch; points in the coordinates of its plane, angles in radians.
   struct Data {
@@ -138,14 +135,23 @@ class OdDbHatch : public OdDbEntity {
     OdCmColor background = OdCmColor(OdCmColor::kNone);
   };
 
+ protected:
+  void enteredDatabase() override;
+
  private:
-  struct Reading;
+  /// Where in the file entry the tag at hand stands.
+  enum class Stage : std::uint8_t { kHead, kLoops, kPattern, kSeeds, kGradient };
+
   void relayLines(double factor, double turn);
+  void keepXData();
+  void readXData();
   bool readLoopTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
+  bool readEdgeTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
   bool readPatternTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
   bool readGradientTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
-  bool readXDataTag(const OdDbDxfTag& tag, OdDbDxfIn& in);
   Data m_hatch;
-  std::shared_ptr<Reading> m_reading; ///< while reading
+  Stage m_stage = Stage::kHead; ///< while reading
+  bool m_secondColor = false;   ///< while reading
+  int m_colorsRead = 0;         ///< while reading
 };
 using OdDbHatchPtr = OdSmartPtr<OdDbHatch>;

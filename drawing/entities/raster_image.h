@@ -64,6 +64,7 @@ class OdDbRasterImage : public OdDbEntity {
   void worldDraw(OdGiWorldDraw& draw) const override;
   bool getGeomExtents(OdGeExtents3d& extents) const override;
   bool transformBy(const OdGeMatrix3d& transform) override;
+  OdRxObjectPtr clone() const override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;

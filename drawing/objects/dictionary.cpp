@@ -51,6 +51,26 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
   return id;
 }
 
+void OdDbDictionary::setName(OdDbObjectId id, const OdString& name) {
+  if (name.isEmpty())
+    throw OdDbError(eInvalidName, QStringLiteral("An entry of a dictionary needs a name"));
+  const OdDbObjectId other = getAt(name);
+  if (!other.isNull() && other != id)
+    throw OdDbError(eDuplicateRecordName,
+                    QStringLiteral("There is an entry \"%1\" already").arg(name));
+  assertWriteEnabled();
+  std::erase_if(m_entries, [&](const Entry& e) { return e.name == name && e.id != id; });
+  for (Entry& entry : m_entries)
+    if (entry.id == id) entry.name = name;
+}
+
+bool OdDbDictionary::remove(const OdString& name) {
+  if (getAt(name).isNull()) return false;
+  assertWriteEnabled();
+  std::erase_if(m_entries, [&](const Entry& entry) { return entry.name == name; });
+  return true;
+}
+
 OdDbDictionaryVar::OdDbDictionaryVar() = default;
 
 void OdDbDictionaryVar::assignFrom(const OdDbObject& other) {

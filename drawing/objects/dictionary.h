@@ -28,6 +28,10 @@ class OdDbDictionary : public OdDbObject {
   /// Puts a new object into the dictionary, and so into the drawing; an entry of the name is
   /// replaced.
   OdDbObjectId setAt(const OdString& name, OdDbObject* object);
+  /// Gives an entry another name. Raises OdDbError (eInvalidName, eDuplicateRecordName).
+  void setName(OdDbObjectId id, const OdString& name);
+  /// Forgets an entry; the object stays. False if there is none of that name.
+  bool remove(const OdString& name);
   const std::vector<Entry>& entries() const { return m_entries; }
 
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;

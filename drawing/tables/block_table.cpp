@@ -2,11 +2,10 @@
 
 #include "drawing/checks.h"
 #include "drawing/database.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/objects/raw_object.h"
 
 namespace {
-constexpr int kXref = 4;
-constexpr int kXrefOverlay = 8;
 const QLatin1String kModelSpace("*Model_Space");
 const QLatin1String kPaperSpace("*Paper_Space");
 } // namespace
@@ -52,6 +51,71 @@ bool OdDbBlockTableRecord::isFromExternalReference() const {
 
 bool OdDbBlockTableRecord::isFromOverlayReference() const {
   return m_block.blockFlags & kXrefOverlay;
+}
+
+void OdDbBlockTableRecord::setComments(const OdString& text) {
+  assertWriteEnabled();
+  m_block.comments = text;
+}
+
+void OdDbBlockTableRecord::setPathName(const OdString& path) {
+  assertWriteEnabled();
+  m_block.xrefPath = path;
+}
+
+void OdDbBlockTableRecord::setBlockFlag(int flag, bool on) {
+  assertWriteEnabled();
+  m_block.blockFlags = on ? m_block.blockFlags | flag : m_block.blockFlags & ~flag;
+}
+
+void OdDbBlockTableRecord::setIsFromExternalReference(bool xref, bool overlay) {
+  setBlockFlag(kXref, xref);
+  setBlockFlag(kXrefOverlay, xref && overlay);
+}
+
+void OdDbBlockTableRecord::setIsUnloaded(bool unloaded) { setBlockFlag(kResolved, !unloaded); }
+void OdDbBlockTableRecord::setIsAnonymous(bool on) { setBlockFlag(kAnonymousBlock, on); }
+
+bool OdDbBlockTableRecord::hasAttributeDefinitions() const {
+  for (const auto it = newIterator(); !it->done(); it->step()) {
+    const OdDbEntityPtr entity = it->entity();
+    const auto* const definition = odrxCast<OdDbAttributeDefinition>(entity.get());
+    if (definition && !definition->isConstant()) return true;
+  }
+  return false;
+}
+
+std::vector<OdDbObjectId> OdDbBlockTableRecord::getBlockReferenceIds() const {
+  std::vector<OdDbObjectId> inserts;
+  const auto blocks = database()->getBlockTableId().openAs<OdDbBlockTable>();
+  for (const auto block = blocks->newIterator(); !block->done(); block->step()) {
+    const OdDbBlockTableRecordPtr record = block->getRecord();
+    for (const auto it = record->newIterator(); !it->done(); it->step()) {
+      const OdDbEntityPtr entity = it->entity();
+      const auto* const insert = odrxCast<OdDbBlockReference>(entity.get());
+      if (insert && insert->blockTableRecord() == objectId()) inserts.push_back(it->objectId());
+    }
+  }
+  return inserts;
+}
+
+OdDbObjectId oddb::addAnonymousBlock(OdDbDatabase& database, QChar letter) {
+  const auto blocks = database.getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite);
+  const OdString start = QStringLiteral("*") + letter;
+  // Numbers below the highest one are not looked for: they are of erased blocks, which may come
+  // back.
+  int number = 0;
+  for (const OdDbObjectId id : blocks->recordIds()) {
+    const OdSmartPtr<OdDbBlockTableRecord> record = id.openObject(OdDb::kForRead, true);
+    if (!record || !record->getName().startsWith(start, Qt::CaseInsensitive)) continue;
+    bool isNumber = false;
+    const int used = QStringView(record->getName()).mid(2).toInt(&isNumber);
+    if (isNumber) number = std::max(number, used + 1);
+  }
+  const auto block = odrxMake<OdDbBlockTableRecord>();
+  block->setName(start + OdString::number(number));
+  block->setIsAnonymous(true);
+  return blocks->add(block);
 }
 
 void OdDbBlockTableRecord::setOrigin(const OdGePoint3d& origin) {

@@ -30,7 +30,22 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   const OdGePoint3d& origin() const { return m_block.origin; }
   void setOrigin(const OdGePoint3d& origin);
   const OdString& comments() const { return m_block.comments; }
+  void setComments(const OdString& text);
+  /// The file of an external reference as the drawing stores it.
   const OdString& pathName() const { return m_block.xrefPath; }
+  void setPathName(const OdString& path);
+  /// Makes the block stand for another drawing, or a block of its own again.
+  void setIsFromExternalReference(bool xref, bool overlay = false);
+  /// True while the other drawing's contents are there.
+  bool isUnloaded() const { return isFromExternalReference() && !(m_block.blockFlags & kResolved); }
+  void setIsUnloaded(bool unloaded);
+  /// A block that programs name by themselves ("*D12").
+  bool isAnonymous() const { return m_block.blockFlags & kAnonymousBlock; }
+  void setIsAnonymous(bool anonymous);
+  /// True if the block has a definition of an attribute that is not constant.
+  bool hasAttributeDefinitions() const;
+  /// The inserts of the block anywhere in the drawing.
+  std::vector<OdDbObjectId> getBlockReferenceIds() const;
   /// As $INSUNITS.
   int blockInsertUnits() const { return m_block.units; }
   void setBlockInsertUnits(int units);
@@ -50,6 +65,13 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   /// Takes over what was read with the beginning of the block.
   void takeBegin(const OdDbBlockTableRecord& read);
 
+  enum BlockFlag : int {
+    kAnonymousBlock = 1,
+    kHasAttributes = 2,
+    kXref = 4,
+    kXrefOverlay = 8,
+    kResolved = 32
+  };
   struct Data {
     OdGePoint3d origin;
     OdString comments, xrefPath;
@@ -69,6 +91,7 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   friend class OdDbDatabase;
   friend class OdDbDxfIn;
   friend class OdDbUndo;
+  void setBlockFlag(int flag, bool on);
   Data m_block;
   std::vector<OdDbObjectId> m_entities;
 };
@@ -92,3 +115,10 @@ class OdDbBlockIterator {
 
 /// The drawing's blocks; *Model_Space and *Paper_Space are always there.
 ODDB_TABLE(OdDbBlockTable, OdDbBlockTableRecord, "BLOCK_RECORD");
+
+namespace oddb {
+
+/// Adds a new block whose name ("*D12") is made from a letter and the next free number.
+OdDbObjectId addAnonymousBlock(OdDbDatabase& database, QChar letter);
+
+} // namespace oddb

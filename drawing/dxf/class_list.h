@@ -1,0 +1,16 @@
+// What a drawing has to tell of the classes of its objects.
+#pragma once
+
+#include "drawing/object_id.h"
+
+#include <QByteArray>
+
+namespace oddxf {
+
+/// Lines for the classes that the drawing uses, that files have to tell, and that its own list does
+/// not have.
+QByteArray missingClasses(const OdDbDatabase& database);
+/// True for an object whose owner, or an owner of that, is erased: it went with it.
+bool isOrphan(OdDbObjectId object);
+
+} // namespace oddxf

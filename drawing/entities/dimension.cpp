@@ -1,0 +1,204 @@
+#include "drawing/entities/dimension.h"
+
+#include "drawing/checks.h"
+#include "drawing/database.h"
+#include "drawing/entities/dimension_text.h"
+#include "drawing/entities/plane_transform.h"
+#include "drawing/graphics/world_draw.h"
+#include "drawing/xdata.h"
+
+namespace {
+
+OdDbBlockTableRecordPtr blockOf(OdDbObjectId id, OdDb::OpenMode mode = OdDb::kForRead) {
+  const OdDbObjectPtr object = id.openObject(mode);
+  return OdDbBlockTableRecordPtr(odrxCast<OdDbBlockTableRecord>(object.get()));
+}
+
+} // namespace
+
+OdDbDimension::OdDbDimension() = default;
+
+void OdDbDimension::assignFrom(const OdDbObject& other) {
+  OdDbEntity::assignFrom(other);
+  const auto& dimension = static_cast<const OdDbDimension&>(other);
+  m_dimension = dimension.m_dimension;
+  m_blockIsShared = dimension.m_blockIsShared;
+  m_pendingMove = dimension.m_pendingMove;
+}
+
+OdRxObjectPtr OdDbDimension::clone() const {
+  const OdDbDimensionPtr copy = OdDbEntity::clone();
+  // Each dimension has a block of its own, which the copy gets when it comes to its drawing.
+  copy->m_dimension.flags |= kOwnBlock;
+  copy->m_blockIsShared = !m_dimension.block.isNull();
+  if (database()) copy->m_pendingMove = {};
+  return copy;
+}
+
+void OdDbDimension::enteredDatabase() {
+  oddb::registerApplications(*this);
+  if (m_dimension.block.isNull())
+    recomputeDimBlock();
+  else if (m_blockIsShared && !recomputeDimBlock())
+    unshareBlock();
+  m_blockIsShared = false;
+  m_pendingMove = {};
+}
+
+void OdDbDimension::unshareBlock() {
+  const OdDbBlockTableRecordPtr from = blockOf(m_dimension.block);
+  if (!from || from->database() != database()) {
+    m_dimension.block = {};
+    return;
+  }
+  std::vector<OdDbObjectId> entities;
+  for (const auto it = from->newIterator(); !it->done(); it->step())
+    entities.push_back(it->objectId());
+  OdDbIdMapping mapping;
+  database()->deepCloneObjects(entities, makeBlock(), mapping);
+  moveBlock(m_pendingMove);
+}
+
+OdDbObjectId OdDbDimension::makeBlock() {
+  assertWriteEnabled();
+  m_dimension.block = oddb::addAnonymousBlock(*database(), u'D');
+  m_blockIsShared = false;
+  return m_dimension.block;
+}
+
+void OdDbDimension::setDatabaseDefaults(const OdDbDatabase& database) {
+  OdDbEntity::setDatabaseDefaults(database);
+  setDimensionStyle(database.currentDimStyle());
+}
+
+void OdDbDimension::setDimBlockId(OdDbObjectId block) {
+  assertWriteEnabled();
+  m_dimension.block = block;
+}
+
+void OdDbDimension::setDimensionStyle(OdDbObjectId style) {
+  assertWriteEnabled();
+  m_dimension.style = style;
+}
+
+void OdDbDimension::setDimensionText(const OdString& text) {
+  assertWriteEnabled();
+  m_dimension.text = text;
+}
+
+OdGePoint3d OdDbDimension::textPosition() const {
+  return OdGeMatrix3d::planeToWorld(m_dimension.normal) * m_dimension.textMiddle;
+}
+
+void OdDbDimension::setTextPosition(const OdGePoint3d& position) {
+  odcheck::finite(position);
+  assertWriteEnabled();
+  m_dimension.textMiddle = OdGeMatrix3d::planeToWorld(m_dimension.normal).inverse() * position;
+  m_dimension.flags |= kTextPlaced;
+}
+
+void OdDbDimension::useDefaultTextPosition() {
+  assertWriteEnabled();
+  m_dimension.flags &= ~kTextPlaced;
+}
+
+void OdDbDimension::setTextRotation(double angle) {
+  odcheck::finite(angle);
+  assertWriteEnabled();
+  m_dimension.textRotation = angle;
+}
+
+void OdDbDimension::setHorizontalRotation(double angle) {
+  odcheck::finite(angle);
+  assertWriteEnabled();
+  m_dimension.horizontalDirection = angle;
+}
+
+void OdDbDimension::setNormal(const OdGeVector3d& normal) {
+  const OdGeVector3d n = odcheck::direction(normal);
+  assertWriteEnabled();
+  m_dimension.normal = n;
+}
+
+OdString OdDbDimension::displayedText() const {
+  const bool isAngle = kind() == kAngular || kind() == k3PointAngular;
+  return oddb::dimensionText(m_dimension.text, getMeasurement(), isAngle, dimVars());
+}
+
+OdDbDimVarValues OdDbDimension::dimVars() const {
+  const OdDbObjectPtr record = m_dimension.style.openObject();
+  const auto* const style = odrxCast<OdDbDimStyleTableRecord>(record.get());
+  OdDbDimVarValues values = style ? style->values() : OdDbDimVarValues();
+  oddb::applyDimOverrides(*this, values);
+  return values;
+}
+
+void OdDbDimension::setDimVarOverride(const OdString& name, const OdDbVarValue& value) {
+  oddb::setDimOverride(*this, name, value);
+}
+
+void OdDbDimension::worldDraw(OdGiWorldDraw& draw) const {
+  if (m_dimension.block.isValid()) draw.block(m_dimension.block, blockTransform(), *this);
+}
+
+OdGeMatrix3d OdDbDimension::blockTransform() const {
+  const OdGePoint3d place = OdGeMatrix3d::planeToWorld(m_dimension.normal) * m_dimension.insertion;
+  return m_pendingMove * OdGeMatrix3d::translation(place.asVector());
+}
+
+bool OdDbDimension::transformBy(const OdGeMatrix3d& transform) {
+  const OdGePlaneTransform plane(transform, m_dimension.normal);
+  if (!plane.valid) return false;
+  Data moved = m_dimension;
+  for (OdGePoint3d Data::*point : {&Data::definition, &Data::first, &Data::second, &Data::third,
+                                   &Data::leaderFirst, &Data::leaderSecond})
+    moved.*point = transform * (m_dimension.*point);
+  for (OdGePoint3d Data::*point : {&Data::textMiddle, &Data::arcPoint})
+    moved.*point = plane.inPlane * (m_dimension.*point);
+  moved.normal = plane.normal;
+  moved.rotation = plane.angle(m_dimension.rotation);
+  moved.leaderLength *= plane.scale();
+  if (plane.mirrors) moved.oblique = -moved.oblique;
+  if (moved.measurement > 0 && kind() != kAngular && kind() != k3PointAngular)
+    moved.measurement *= plane.scale();
+  if (!odcheck::areFinite(moved.definition, moved.first, moved.second, moved.third,
+                          moved.textMiddle, moved.rotation))
+    return false;
+  assertWriteEnabled();
+  m_dimension = std::move(moved);
+  if (!database())
+    m_pendingMove = transform * m_pendingMove;
+  else if (!recomputeDimBlock())
+    moveBlock(transform);
+  return true;
+}
+
+void OdDbDimension::moveBlock(const OdGeMatrix3d& transform) {
+  const OdDbBlockTableRecordPtr block = blockOf(m_dimension.block);
+  if (!block) return;
+  m_pendingMove = {};
+  const OdGeMatrix3d place = blockTransform();
+  const OdGeMatrix3d within = place.inverse() * transform * place;
+  for (const auto it = block->newIterator(); !it->done(); it->step())
+    it->entity(OdDb::kForWrite)->transformBy(within);
+}
+
+bool OdDbDimension::explode(std::vector<OdDbEntityPtr>& pieces) const {
+  const OdDbBlockTableRecordPtr block = blockOf(m_dimension.block);
+  if (!block) return false;
+  const OdGeMatrix3d place = blockTransform();
+  std::vector<OdDbEntityPtr> found;
+  for (const auto it = block->newIterator(); !it->done(); it->step()) {
+    const OdDbEntityPtr entity = it->entity();
+    // Points on this layer only say where the dimension is fastened.
+    if (entity->layer().compare(QLatin1String("Defpoints"), Qt::CaseInsensitive) == 0) continue;
+    const OdDbEntityPtr copy = entity->getTransformedCopy(place);
+    if (!copy) return false;
+    if (copy->layerId() == block->database()->getLayerZeroId() && !layerId().isNull())
+      copy->setLayer(layerId());
+    found.push_back(copy);
+  }
+  if (found.empty()) return false;
+  pieces.insert(pieces.end(), found.begin(), found.end());
+  return true;
+}

@@ -1,0 +1,213 @@
+#include "drawing/entities/dimension_block.h"
+
+#include "drawing/database.h"
+#include "drawing/entities/block_reference.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/point.h"
+#include "drawing/entities/solid.h"
+
+namespace {
+
+const QLatin1String kDefPoints("Defpoints");
+
+OdDbObjectId definitionLayer(OdDbDatabase& database) {
+  const auto layers = database.getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite);
+  if (const OdDbObjectId found = layers->getAt(kDefPoints); !found.isNull()) return found;
+  const auto layer = odrxMake<OdDbLayerTableRecord>();
+  layer->setName(kDefPoints);
+  layer->setIsPlottable(false);
+  return layers->add(layer);
+}
+
+/// Arrows that the dimension line runs through up to the tip.
+bool runsThrough(const OdString& name) {
+  static constexpr const char* kNames[] = {"_ARCHTICK", "_OBLIQUE",  "_NONE",   "_DOTSMALL",
+                                           "_INTEGRAL", "_SMALL",    "_ORIGIN", "_ORIGIN2",
+                                           "_DOTBLANK", "_BOXBLANK", "_GENERIC"};
+  return std::any_of(std::begin(kNames), std::end(kNames), [&](const char* known) {
+    return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+  });
+}
+
+} // namespace
+
+oddb::DimensionBlock::DimensionBlock(const OdDbDimension& dimension)
+  : m_dimension(dimension)
+  , m_database(*dimension.database())
+  , m_vars(dimension.dimVars())
+  , m_scale(m_vars.dimscale > 0 ? m_vars.dimscale : 1)
+  , m_toWorld(OdGeMatrix3d::planeToWorld(dimension.normal())) {}
+
+void oddb::DimensionBlock::add(OdDbEntity* entity, const Look& look) {
+  entity->setLayer(m_database.getLayerZeroId());
+  entity->setColor(look.color);
+  entity->setLineWeight(look.weight);
+  entity->setLinetype(look.linetype.isNull() ? m_database.getLinetypeByBlockId() : look.linetype);
+  m_pieces.emplace_back(entity);
+}
+
+void oddb::DimensionBlock::line(const OdGePoint3d& from, const OdGePoint3d& to, const Look& look) {
+  if (from.distanceTo(to) <= 1e-9 * (m_scale + from.asVector().length())) return;
+  add(odrxMake<OdDbLine>(m_toWorld * from, m_toWorld * to), look);
+}
+
+oddb::DimensionBlock::Look oddb::DimensionBlock::lineLook() const {
+  return {m_vars.dimclrd, m_vars.dimlwd, m_vars.dimltype};
+}
+
+double oddb::DimensionBlock::textHeight() const {
+  const OdDbObjectPtr record = m_vars.dimtxsty.openObject();
+  const auto* const style = odrxCast<OdDbTextStyleTableRecord>(record.get());
+  // A style with a height of its own has the last word.
+  return style && style->textSize() > 0 ? style->textSize() : scaled(std::max(m_vars.dimtxt, 1e-9));
+}
+
+OdGePoint2d oddb::DimensionBlock::textSize(const OdString& text) const {
+  if (text.isEmpty()) return {};
+  const auto sample = odrxMake<OdDbMText>();
+  sample->setTextHeight(textHeight());
+  if (!m_vars.dimtxsty.isNull()) sample->setTextStyle(m_vars.dimtxsty);
+  sample->setContents(text);
+  return {sample->actualWidth(), std::max(sample->actualHeight(), textHeight())};
+}
+
+void oddb::DimensionBlock::extensionLine(const OdGePoint3d& from, const OdGePoint3d& to,
+                                         bool isFirst) {
+  if (isFirst ? m_vars.dimse1 : m_vars.dimse2) return;
+  const OdGeVector3d way = to - from;
+  const double length = way.length();
+  if (!(length > 0)) return;
+  const OdGeVector3d direction = way * (1 / length);
+  double start = std::min(scaled(m_vars.dimexo), length);
+  if (m_vars.dimfxlon) start = std::max(start, length - scaled(m_vars.dimfxl));
+  line(from + direction * start, to + direction * scaled(m_vars.dimexe),
+       {m_vars.dimclre, m_vars.dimlwe, isFirst ? m_vars.dimltex1 : m_vars.dimltex2});
+}
+
+void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoint3d& to) {
+  line(from, to, lineLook());
+}
+
+void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoint3d& to,
+                                         const OdGePoint3d& middle, const OdGePoint2d& size,
+                                         double turn) {
+  const OdGeVector3d way = to - from;
+  const double length = way.length();
+  if (!(length > 0)) return;
+  const OdGeVector3d d = way * (1 / length);
+  const double gap = std::abs(scaled(m_vars.dimgap));
+  const double halfWidth = size.x / 2 + gap;
+  const double halfHeight = size.y / 2 + gap;
+  // The line in the coordinates of the text's box.
+  const OdGeMatrix3d toBox = OdGeMatrix3d::rotation(-turn, OdGeVector3d::zAxis()) *
+                             OdGeMatrix3d::translation(-middle.asVector());
+  const OdGePoint3d p = toBox * from;
+  const OdGeVector3d v = toBox * d;
+  double enter = 0;
+  double leave = length;
+  const auto clip = [&](double at, double by, double half) {
+    if (std::abs(by) < 1e-12) {
+      if (std::abs(at) >= half) leave = -1;
+      return;
+    }
+    const double a = (-half - at) / by;
+    const double b = (half - at) / by;
+    enter = std::max(enter, std::min(a, b));
+    leave = std::min(leave, std::max(a, b));
+  };
+  clip(p.x, v.x, halfWidth);
+  clip(p.y, v.y, halfHeight);
+  if (size.x <= 0 || leave <= enter) {
+    dimensionLine(from, to);
+    return;
+  }
+  dimensionLine(from, from + d * enter);
+  dimensionLine(from + d * leave, to);
+}
+
+double oddb::DimensionBlock::arrow(const OdGePoint3d& tip, const OdGeVector3d& direction,
+                                   bool isFirst) {
+  if (isFirst ? m_vars.dimsd1 : m_vars.dimsd2) return 0;
+  const OdGeVector3d across{-direction.y, direction.x, 0};
+  if (m_vars.dimtsz > 0) {
+    const OdGeVector3d tick = (direction + across) * scaled(m_vars.dimtsz);
+    line(tip - tick, tip + tick, lineLook());
+    return 0;
+  }
+  const double size = arrowSize();
+  if (!(size > 0)) return 0;
+  OdDbObjectId blockId = m_vars.dimblk;
+  if (m_vars.dimsah) blockId = isFirst ? m_vars.dimblk1 : m_vars.dimblk2;
+  const OdDbObjectPtr record = blockId.openObject();
+  if (const auto* const block = odrxCast<OdDbBlockTableRecord>(record.get())) {
+    const auto insert = odrxMake<OdDbBlockReference>(blockId, OdGePoint3d());
+    insert->setNormal(m_dimension.normal());
+    insert->setPosition(m_toWorld * tip);
+    insert->setScaleFactors({size, size, size});
+    insert->setRotation(std::atan2(direction.y, direction.x));
+    add(insert, lineLook());
+    return runsThrough(block->getName()) ? 0 : size;
+  }
+  const OdGePoint3d base = tip - direction * size;
+  const OdGeVector3d half = across * (size / 6);
+  const OdGePoint3d end = m_toWorld * tip;
+  add(odrxMake<OdDbSolid>(m_toWorld * (base + half), m_toWorld * (base - half), end, end,
+                          m_dimension.normal()),
+      lineLook());
+  return size;
+}
+
+void oddb::DimensionBlock::text(const OdString& text, const OdGePoint3d& middle, double angle) {
+  if (text.isEmpty()) return;
+  const auto mtext = odrxMake<OdDbMText>();
+  mtext->setNormal(m_dimension.normal());
+  mtext->setTextHeight(textHeight());
+  mtext->setTextStyle(m_vars.dimtxsty.isNull() ? m_database.currentTextStyle() : m_vars.dimtxsty);
+  mtext->setAttachment(OdDbMText::kMiddleCenter);
+  mtext->setLocation(m_toWorld * middle);
+  mtext->setRotation(angle);
+  mtext->setContents(text);
+  if (m_vars.dimtfill != 0) {
+    mtext->setBackgroundFill(true);
+    mtext->setUseBackgroundColor(m_vars.dimtfill == 1);
+    if (m_vars.dimtfill == 2) mtext->setBackgroundFillColor(m_vars.dimtfillclr);
+  }
+  add(mtext, {m_vars.dimclrt, OdDb::kLnWtByBlock, {}});
+  if (!(m_vars.dimgap < 0)) return;
+  // A gap below 0 asks for a frame.
+  const OdGePoint2d size = textSize(text);
+  const double gap = std::abs(scaled(m_vars.dimgap));
+  const OdGeMatrix3d place = OdGeMatrix3d::translation(middle.asVector()) *
+                             OdGeMatrix3d::rotation(angle, OdGeVector3d::zAxis());
+  const double x = size.x / 2 + gap;
+  const double y = size.y / 2 + gap;
+  const OdGePoint3d corners[] = {{-x, -y, 0}, {x, -y, 0}, {x, y, 0}, {-x, y, 0}};
+  for (std::size_t i = 0; i < 4; ++i)
+    line(place * corners[i], place * corners[(i + 1) % 4], lineLook());
+}
+
+void oddb::DimensionBlock::centerMark(const OdGePoint3d& center, double radius) {
+  const double size = scaled(std::abs(m_vars.dimcen));
+  if (!(size > 0) || size > radius) return;
+  for (const OdGeVector3d& d : {OdGeVector3d::xAxis(), OdGeVector3d::yAxis()}) {
+    line(center - d * size, center + d * size, lineLook());
+    // Below 0: lines through the circle as well.
+    if (!(m_vars.dimcen < 0) || !(radius > 2 * size)) continue;
+    line(center + d * (2 * size), center + d * (radius + size), lineLook());
+    line(center - d * (2 * size), center - d * (radius + size), lineLook());
+  }
+}
+
+void oddb::DimensionBlock::definitionPoint(const OdGePoint3d& point) {
+  const auto entity = odrxMake<OdDbPoint>(m_toWorld * point);
+  add(entity, {OdCmColor(OdCmColor::kByBlock), OdDb::kLnWtByBlock, {}});
+  entity->setLayer(definitionLayer(m_database));
+}
+
+void oddb::DimensionBlock::putInto(OdDbObjectId blockId) {
+  const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  for (const auto it = block->newIterator(); !it->done(); it->step())
+    it->entity(OdDb::kForWrite)->erase();
+  for (const OdDbEntityPtr& piece : m_pieces) block->appendOdDbEntity(piece);
+}

@@ -1,0 +1,58 @@
+// Draws dimensions. Not for use outside of the library.
+#pragma once
+
+#include "drawing/entities/dimension.h"
+#include "drawing/entities/text_font.h"
+
+namespace oddb {
+
+/// Collects the pieces of a dimension in its plane and puts them into its block. Lengths are
+/// drawing units, with the style's overall scale already in them.
+class DimensionBlock {
+ public:
+  explicit DimensionBlock(const OdDbDimension& dimension);
+
+  const OdDbDimVarValues& vars() const { return m_vars; }
+  /// A length of the style in drawing units.
+  double scaled(double length) const { return length * m_scale; }
+  double arrowSize() const { return scaled(m_vars.dimasz); }
+  double textHeight() const;
+  /// The size of the text as it would be laid out.
+  OdGePoint2d textSize(const OdString& text) const;
+
+  void extensionLine(const OdGePoint3d& from, const OdGePoint3d& to, bool isFirst);
+  void dimensionLine(const OdGePoint3d& from, const OdGePoint3d& to);
+  /// A dimension line that leaves room for a text around `middle`, turned by `turn`.
+  void dimensionLine(const OdGePoint3d& from, const OdGePoint3d& to, const OdGePoint3d& middle,
+                     const OdGePoint2d& size, double turn);
+  /// An arrow whose tip is at a point, pointing along a direction of length 1. Gives how far the
+  /// dimension line must stay away from the tip.
+  double arrow(const OdGePoint3d& tip, const OdGeVector3d& direction, bool isFirst);
+  void text(const OdString& text, const OdGePoint3d& middle, double angle);
+  /// The marks of a centre.
+  void centerMark(const OdGePoint3d& center, double radius);
+  /// A point that only says where the dimension is fastened.
+  void definitionPoint(const OdGePoint3d& point);
+
+  /// Puts all into a block in place of what was there.
+  void putInto(OdDbObjectId block);
+
+ private:
+  struct Look {
+    OdCmColor color;
+    OdDb::LineWeight weight = OdDb::kLnWtByBlock;
+    OdDbObjectId linetype;
+  };
+  void add(OdDbEntity* entity, const Look& look);
+  void line(const OdGePoint3d& from, const OdGePoint3d& to, const Look& look);
+  Look lineLook() const;
+
+  const OdDbDimension& m_dimension;
+  OdDbDatabase& m_database;
+  OdDbDimVarValues m_vars;
+  double m_scale;
+  OdGeMatrix3d m_toWorld;
+  std::vector<OdDbEntityPtr> m_pieces;
+};
+
+} // namespace oddb

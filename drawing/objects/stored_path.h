@@ -1,0 +1,13 @@
+// Paths of files that drawings refer to. Not for use outside of the library.
+#pragma once
+
+#include "frame/string.h"
+
+namespace oddb {
+
+/// The file that a stored path stands for: the path itself, taken from the drawing's folder if it
+/// is relative, or a file of its name in that folder. Empty if there is none; `drawing` may be
+/// empty.
+OdString findStoredFile(const OdString& path, const OdString& drawing);
+
+} // namespace oddb
