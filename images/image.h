@@ -1,11 +1,14 @@
 // One picture of an item, at one size.
 #pragma once
 
+#include "drawing/color.h"
+#include "drawing/object_id.h"
 #include "module/persist.h"
 
 #include <QImage>
 
 #include <cstdint>
+#include <optional>
 
 class QPainter;
 
@@ -42,10 +45,23 @@ class OdTcImage : public OdTcPersist {
   /// True if the picture lies in the program's button resources.
   virtual bool isResource() const = 0;
 
-  /// Takes the picture of a file, scaled to the size kind, and names it after the file; a name that
-  /// the palette's folder has already is replaced by a fresh one. False, with nothing changed, if
-  /// the file cannot be read.
+  // Pictures of what a tool acts on, in the pixels of the size kind, to be saved as PNG when the
+  // image is next written. Each is false, with nothing changed, if no picture came of it.
+
+  /// Shows a block or an entity and names the picture after the block, a layout's after its
+  /// drawing. Needs the host.
+  virtual bool makeFromBlock(OdDbObjectId source) = 0;
+  /// Shows a gradient by its stored name; an unknown one is taken for LINEAR.
+  virtual bool makeFromGradient(const OdString& name, const OdCmColor& first,
+                                const OdCmColor& second) = 0;
+  /// Shows a hatch pattern. The pattern SOLID with a colour needs no host.
+  virtual bool makeFromPattern(const OdString& name, const std::optional<OdCmColor>& color) = 0;
+  /// Shows a picture file, whose proportions are not kept, under its name; a name that the
+  /// palette's folder has already is replaced by a fresh one.
   virtual bool setSrcFromFile(const OdString& path) = 0;
+  /// Shows the preview that a drawing file keeps, or else the icon of files of its kind.
+  virtual bool makeFromDrawing(const OdString& path) = 0;
+
   /// Saves the picture in a format by its code: 1 bmp, 2 wmf, 3 ico, 4 emf, 5 jpeg, 6 png, 7 gif,
   /// 8 tiff, -1 by the path's extension, any other png. A path without an extension gets the
   /// format's. False if there is no picture or it cannot be saved.

@@ -129,20 +129,15 @@ void OdTcImageImpl::setBitmap(const QImage& bitmap, const OdString& src) {
   m_format = kPngFormat;
 }
 
+OdString OdTcImageImpl::uniqueName(const OdString& label) const {
+  const OdString name = uniquePictureName(label);
+  return freeName(name, label);
+}
+
 OdString OdTcImageImpl::freeName(const OdString& name, const OdString& label) const {
   const OdString path = imageFilePath(database(), name);
   return !path.isEmpty() && odrxSystemServices()->fileExists(path) ? uniquePictureName(label)
                                                                    : name;
-}
-
-bool OdTcImageImpl::setSrcFromFile(const OdString& path) {
-  const QImage loaded = loadPicture(path);
-  if (loaded.isNull()) return false;
-  const int pixels = pixelsOfKind(m_sizeKind);
-  setBitmap(scaledTo(loaded, pixels, pixels),
-            freeName(titledPictureName(odpath::titleOf(path), m_sizeKind),
-                     QStringLiteral("Raster tool instrument")));
-  return true;
 }
 
 bool OdTcImageImpl::saveTo(const OdString& path, std::int32_t format) {

@@ -30,6 +30,11 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   void releaseBitmap() override;
   bool isResource() const override;
   bool setSrcFromFile(const OdString& path) override;
+  bool makeFromBlock(OdDbObjectId source) override;
+  bool makeFromGradient(const OdString& name, const OdCmColor& first,
+                        const OdCmColor& second) override;
+  bool makeFromPattern(const OdString& name, const std::optional<OdCmColor>& color) override;
+  bool makeFromDrawing(const OdString& path) override;
   bool saveTo(const OdString& path, std::int32_t format) override;
   bool loadFromFile(const OdString& path) override;
   void draw(QPainter* painter, int x, int y, int width, int height) override;
@@ -52,6 +57,11 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   QImage resourcePicture() const;
   void resolveAfterReading();
   void saveBesidePalette();
+  /// Takes a preview and names it after `title`, or freshly after the label if there is no title
+  /// or the palette's folder has a file of that name. False for a null image.
+  bool takePreview(const QImage& picture, const OdString& title, QStringView label);
+  /// A name with a fresh id. Should its file exist all the same, another is taken untested.
+  OdString uniqueName(const OdString& label) const;
   /// `src`, or a fresh name if the palette's folder has a file of that one.
   OdString freeName(const OdString& src, const OdString& label) const;
 

@@ -5,6 +5,7 @@
 #include "module/enum.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace tc {
 
@@ -25,6 +26,9 @@ class OdTcImageList : public OdTcPersist {
   /// pixels. The files of the former ones go. False, with an empty list, if the file cannot be
   /// read.
   virtual bool setFromFile(const OdString& path) = 0;
+  /// The same with pictures that `make` makes: it is given each image, of its size kind and already
+  /// in the list's palette, and is false if no picture came of it. The list then has none.
+  virtual bool setFrom(const std::function<bool(OdTcImage& image)>& make) = 0;
 };
 using OdTcImageListPtr = OdSmartPtr<OdTcImageList>;
 

@@ -37,13 +37,20 @@ OdTcImage* OdTcImageListImpl::findBySize(std::int32_t sizeKind) const {
 }
 
 bool OdTcImageListImpl::setFromFile(const OdString& path) {
+  return setFrom([&](OdTcImage& image) { return image.setSrcFromFile(path); });
+}
+
+bool OdTcImageListImpl::setFrom(const std::function<bool(OdTcImage& image)>& make) {
   removeAll(true);
   for (const std::int32_t kind : {1, 3, 4}) {
     auto image = odrxMake<OdTcImageImpl>();
     // The owner comes first: the picture's name depends on what the palette's folder has.
     image->setOwner(this);
     image->setSizeKind(kind);
-    if (!image->setSrcFromFile(path)) return false;
+    if (!make(*image)) {
+      m_images.clear();
+      return false;
+    }
     m_images.push_back(image);
   }
   return true;

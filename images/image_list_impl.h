@@ -20,6 +20,7 @@ class OdTcImageListImpl final : public OdTcPersistImpl<OdTcImageList> {
   int count() const override { return static_cast<int>(m_images.size()); }
   std::uint32_t options() const override { return m_options; }
   bool setFromFile(const OdString& path) override;
+  bool setFrom(const std::function<bool(OdTcImage& image)>& make) override;
 
   void writeFields(OdTcFiler* filer) override;
   bool readField(const OdString& name, const OdVariant& value) override;

@@ -162,6 +162,7 @@ bool OdTcToolHatchCommandImpl::onPropertyChanged(OdTcProperty* property) {
   if (!property || property->getDisplayName() != translated(u"General.Color")) return true;
   if (const std::optional<OdCmColor> color = colorFromVariant(property->getValue()))
     m_previewColor = *color;
+  updateImages(m_fields.patternName);
   return true;
 }
 

@@ -11,6 +11,8 @@
 
 namespace tc {
 
+class OdTcImage;
+
 /// What a hatch tool keeps; angles are in radians.
 struct OdTcHatchFields {
   OdString patternName;
@@ -41,8 +43,17 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   bool execute(IHostDocument* document) override;
   void beginExecution(IHostDocument* document) override;
   void endExecution(IHostDocument* document) override;
-  /// Takes the tool's general colour for its pictures. Always true.
+  /// Takes the tool's general colour for its pictures, and makes these anew. Always true.
   bool onPropertyChanged(OdTcProperty* property) override;
+  /// Puts pictures of our own in the place of those that lie in a library of another program;
+  /// false if the tool has others, or no picture came of it.
+  bool refreshImages(IHostDocument* document) override;
+  /// Makes the pictures of a pattern in all sizes and hands them to open dialogs. Nothing happens
+  /// while images are disabled.
+  void updateImages(const OdString& pattern);
+  void setImagesEnabled(bool enabled) { m_imagesEnabled = enabled; }
+  /// Makes the tool's picture in an image of a size; false if there is none.
+  bool renderImage(OdTcImage& image) const;
 
   bool readElements(OdTcFiler* filer) override;
   void writeProperties(OdTcFiler* filer) override;
@@ -114,6 +125,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdCmColor gradientColor(std::size_t index) const;
   void setGradientColor(std::size_t index, const OdCmColor& color);
   std::optional<OdCmColor> generalColor() const;
+  bool renderPattern(OdTcImage& image, const OdString& pattern) const;
   void beginHatch(IHostDocument& document);
   void beginGradient(IHostDocument& document);
   void takePatternName(const OdString& name);
@@ -122,6 +134,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdTcHatchFields m_fields;
   OdSmartPtr<OdTcGradientColorsImpl> m_colors;
   OdCmColor m_previewColor;
+  bool m_imagesEnabled = true;
   std::unique_ptr<Saved> m_saved;
   // The pattern name of a file that tells it before the hatch type.
   CompactText m_earlyPattern;

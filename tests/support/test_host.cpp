@@ -55,6 +55,7 @@ void TestHost::reset() {
                           QStringLiteral("INSERTRASTER")};
   menu.entries.clear();
   icons.images.clear();
+  previews.reset();
   hatch.values.clear();
   translations.clear();
   routeMap.clear();
@@ -84,6 +85,7 @@ bool TestHost::queryInterface(KVInterfaceId id, void** out) {
          give(static_cast<IHostCommandService*>(&commandService)) ||
          give(static_cast<IHostCommandMenu*>(&menu)) ||
          give(static_cast<IHostIconService*>(&icons)) ||
+         give(static_cast<IHostPreviewService*>(&previews)) ||
          give(static_cast<IHostHatchSettings*>(&hatch));
 }
 

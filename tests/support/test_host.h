@@ -61,6 +61,7 @@ class TestHost : public IHostServices {
   TestCommandService commandService;
   TestCommandMenu menu;
   TestIconService icons;
+  TestPreviewService previews;
   TestHatchSettings hatch;
 
   /// Registered commands by name; registering a name anew replaces it.

@@ -262,6 +262,32 @@ QImage TestIconService::icon(const OdString& name, int pixels) {
   return image.isNull() ? image : image.scaled(pixels, pixels);
 }
 
+QImage TestPreviewService::picture(bool isThere, const QString& what, int pixels) {
+  asked << QStringLiteral("%1 %2").arg(what).arg(pixels);
+  if (!isThere) return {};
+  QImage made(pixels, pixels, QImage::Format_ARGB32);
+  made.fill(Qt::blue);
+  return made;
+}
+
+QImage TestPreviewService::renderObjects(std::span<const OdDbObjectId> objects,
+                                         const OdGeExtents3d& shown, int pixels) {
+  view = shown;
+  return picture(canRender, QStringLiteral("objects %1").arg(objects.size()), pixels);
+}
+
+QImage TestPreviewService::renderPattern(const OdString& name, int pixels) {
+  return picture(canRender, QStringLiteral("pattern ") + name, pixels);
+}
+
+QImage TestPreviewService::storedPreview(const OdString& path, int pixels) {
+  return picture(hasStoredPreview, QStringLiteral("stored ") + path, pixels);
+}
+
+QImage TestPreviewService::fileIcon(const OdString& path, int pixels) {
+  return picture(hasFileIcon, QStringLiteral("icon ") + path, pixels);
+}
+
 bool TestHatchSettings::get(const OdString& key, OdVariant& out) {
   return lookUp(values, key, out);
 }

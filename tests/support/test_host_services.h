@@ -10,6 +10,7 @@
 #include "host/hatch_settings.h"
 #include "host/icon_service.h"
 #include "host/messages.h"
+#include "host/preview_service.h"
 #include "host/services.h"
 #include "host/user_input.h"
 #include "host/variables.h"
@@ -256,6 +257,28 @@ class TestIconService : public CKVUnknownImpl<IHostIconService> {
   QMap<OdString, QImage> images;
 
   QImage icon(const OdString& name, int pixels) override;
+};
+
+/// Gives one-coloured pictures and notes what it was asked for.
+class TestPreviewService : public CKVUnknownImpl<IHostPreviewService> {
+ public:
+  bool canRender = true, hasStoredPreview = true, hasFileIcon = true;
+  QStringList asked; ///< such as "pattern ANSI31 32"
+  OdGeExtents3d view;
+
+  void reset() {
+    canRender = hasStoredPreview = hasFileIcon = true;
+    asked.clear();
+    view = {};
+  }
+  QImage renderObjects(std::span<const OdDbObjectId> objects, const OdGeExtents3d& shown,
+                       int pixels) override;
+  QImage renderPattern(const OdString& name, int pixels) override;
+  QImage storedPreview(const OdString& path, int pixels) override;
+  QImage fileIcon(const OdString& path, int pixels) override;
+
+ private:
+  QImage picture(bool isThere, const QString& what, int pixels);
 };
 
 class TestHatchSettings : public CKVUnknownImpl<IHostHatchSettings> {

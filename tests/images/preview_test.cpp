@@ -1,0 +1,151 @@
+#include "drawing/database.h"
+#include "drawing/entities/line.h"
+#include "images/gradient_picture.h"
+#include "images/image_fixture.h"
+#include "properties/gradient_names.h"
+
+namespace {
+
+using namespace tc;
+using testhost::host;
+
+OdString text(const char16_t* s) { return OdString::fromUtf16(s); }
+
+struct PreviewTest : testhost::ImageFixture {
+  OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+
+  OdDbObjectId addBlock(const char16_t* name) {
+    const auto table = drawing->getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite);
+    const auto block = odrxMake<OdDbBlockTableRecord>();
+    block->setName(text(name));
+    const OdDbObjectId id = table->add(block);
+    block->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{10, 20, 0}, OdGePoint3d{30, 24, 0}));
+    return id;
+  }
+};
+
+QColor at(const QImage& picture, double x, double y) {
+  return picture.pixelColor(static_cast<int>(x * picture.width()),
+                            static_cast<int>(y * picture.height()));
+}
+
+TEST_F(PreviewTest, ShowsABlockInAViewATenthLargerThanItAndIsNamedAfterIt) {
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromBlock(addBlock(u"Door")));
+  EXPECT_EQ(host().previews.asked, QStringList(text(u"objects 1 32")));
+  EXPECT_EQ(host().previews.view.minPoint(), (OdGePoint3d{9, 19.8, 0}));
+  EXPECT_EQ(host().previews.view.maxPoint(), (OdGePoint3d{31, 24.2, 0}));
+  EXPECT_EQ(image->src(), text(u"\\Images\\Door32.png"));
+  EXPECT_EQ(image->getBitmap().width(), 32);
+  EXPECT_EQ(image->format(), 6);
+}
+
+TEST_F(PreviewTest, OfALayoutIsNamedAfterTheDrawing) {
+  drawing->setFileName(text(u"C:\\plans\\House.dxf"));
+  const auto image = newImage(4);
+  ASSERT_TRUE(image->makeFromBlock(drawing->getModelSpaceId()));
+  EXPECT_EQ(image->src(), text(u"\\Images\\House64.png"));
+}
+
+TEST_F(PreviewTest, OfABlockTakesAFreshNameWhereTheFileOfItsOwnExists) {
+  makePicture(QStringLiteral("Images/Door32.png"), 32, qRgb(0, 0, 0));
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromBlock(addBlock(u"Door")));
+  EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Block tool instrument_{")))
+      << image->src().toStdString();
+}
+
+TEST_F(PreviewTest, OfAnEntityHasAFreshName) {
+  const OdDbObjectId block = addBlock(u"Door");
+  const auto line = block.openAs<OdDbBlockTableRecord>()->entityIds().front();
+  const auto image = newImage(1);
+  ASSERT_TRUE(image->makeFromBlock(line));
+  EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Block tool instrument_{")));
+}
+
+TEST_F(PreviewTest, ThatFailsLeavesTheSourceAsItWas) {
+  const auto image = newImage(3);
+  image->setResource(text(u"old"), OdString());
+  host().previews.canRender = host().previews.hasStoredPreview = host().previews.hasFileIcon =
+      false;
+  EXPECT_FALSE(image->makeFromBlock(addBlock(u"Door")));
+  EXPECT_FALSE(image->makeFromBlock(OdDbObjectId()));
+  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), std::nullopt));
+  EXPECT_FALSE(image->makeFromDrawing(text(u"C:\\a.dxf")));
+  EXPECT_FALSE(image->setSrcFromFile(stored(QStringLiteral("missing.png"))));
+  host().switchOff(IHostPreviewService::kId);
+  EXPECT_FALSE(image->makeFromBlock(addBlock(u"Window")));
+  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), std::nullopt));
+  EXPECT_FALSE(image->makeFromDrawing(text(u"C:\\a.dxf")));
+  EXPECT_EQ(image->src(), text(u"old"));
+}
+
+TEST_F(PreviewTest, OfAPatternComesFromTheHostUnderAFreshName) {
+  const auto image = newImage(4);
+  ASSERT_TRUE(image->makeFromPattern(text(u"ANSI31"), OdCmColor::fromRgb(1, 2, 3)));
+  EXPECT_EQ(host().previews.asked, QStringList(text(u"pattern ANSI31 64")));
+  EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Hatch tool instrument_{")));
+}
+
+TEST_F(PreviewTest, OfASolidWithAColourIsASquareOfItWithoutTheHost) {
+  host().switchOff(IHostPreviewService::kId);
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromPattern(text(u"solid"), OdCmColor::fromRgb(10, 200, 30)));
+  const QImage picture = image->getBitmap();
+  for (int y = 0; y < 32; ++y)
+    for (int x = 0; x < 32; ++x) ASSERT_EQ(picture.pixelColor(x, y), QColor(10, 200, 30));
+}
+
+TEST_F(PreviewTest, OfADrawingFileIsTheOneItKeepsOrElseTheIconOfItsKind) {
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromDrawing(text(u"C:\\plans\\House.dxf")));
+  EXPECT_EQ(image->src(), text(u"\\Images\\House32.png"));
+  host().previews.hasStoredPreview = false;
+  ASSERT_TRUE(image->makeFromDrawing(text(u"C:\\plans\\Barn.dxf")));
+  EXPECT_EQ(image->src(), text(u"\\Images\\Barn32.png"));
+  EXPECT_EQ(host().previews.asked, QStringList({text(u"stored C:\\plans\\House.dxf 32"),
+                                                text(u"stored C:\\plans\\Barn.dxf 32"),
+                                                text(u"icon C:\\plans\\Barn.dxf 32")}));
+}
+
+TEST_F(PreviewTest, TwoToolsOfOnePictureFileInOnePaletteHaveDifferentNames) {
+  makePicture(QStringLiteral("door.png"), 10, qRgb(255, 0, 0));
+  const auto first = newImage(3), second = newImage(3);
+  ASSERT_TRUE(first->setSrcFromFile(stored(QStringLiteral("door.png"))));
+  testhost::written(first);
+  ASSERT_TRUE(second->setSrcFromFile(stored(QStringLiteral("door.png"))));
+  EXPECT_EQ(first->src(), text(u"\\Images\\door32.png"));
+  EXPECT_TRUE(second->src().startsWith(text(u"\\Images\\Raster tool instrument_{")));
+}
+
+TEST_F(PreviewTest, OfAnUnknownGradientIsLinear) {
+  const OdCmColor red = OdCmColor::fromRgb(255, 0, 0), blue = OdCmColor::fromRgb(0, 0, 255);
+  EXPECT_EQ(gradientPicture(text(u"PLAID"), red, blue, 32),
+            gradientPicture(text(u"LINEAR"), red, blue, 32));
+  // Names are compared exactly.
+  EXPECT_EQ(gradientPicture(text(u"spherical"), red, blue, 32),
+            gradientPicture(text(u"LINEAR"), red, blue, 32));
+}
+
+TEST_F(PreviewTest, EveryGradientHasAPictureOfItsOwn) {
+  const OdCmColor red = OdCmColor::fromRgb(255, 0, 0), blue = OdCmColor::fromRgb(0, 0, 255);
+  std::vector<QImage> seen;
+  for (const GradientRow& row : kGradients) {
+    const QImage picture = gradientPicture(row.key.toString(), red, blue, 64);
+    for (const QImage& other : seen) EXPECT_NE(picture, other) << row.key.toString().toStdString();
+    seen.push_back(picture);
+  }
+}
+
+TEST_F(PreviewTest, OfALinearGradientGoesFromTheFirstColourToTheSecond) {
+  const QImage picture = gradientPicture(text(u"LINEAR"), OdCmColor::fromRgb(255, 0, 0),
+                                         OdCmColor::fromRgb(0, 0, 255), 64);
+  EXPECT_GT(at(picture, 0, 0.5).red(), 240);
+  EXPECT_GT(at(picture, 0.99, 0.5).blue(), 240);
+  const QImage ball = gradientPicture(text(u"INVSPHERICAL"), OdCmColor::fromRgb(255, 0, 0),
+                                      OdCmColor::fromRgb(0, 0, 255), 64);
+  EXPECT_GT(at(ball, 0.5, 0.5).red(), 240);
+  EXPECT_GT(at(ball, 0, 0).blue(), 240);
+}
+
+} // namespace

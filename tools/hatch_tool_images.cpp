@@ -1,0 +1,66 @@
+// The pictures of a hatch tool.
+#include "images/image_list.h"
+#include "module/catalog_item.h"
+#include "properties/gradient_names.h"
+#include "tools/conveyor_impl.h"
+#include "tools/hatch_tool.h"
+
+namespace tc {
+namespace {
+
+/// The library in which the pictures of another program's tools lie.
+constexpr QStringView kForeignPictures = u"AcTpCatalogRes.dll";
+
+/// The tool that the agent stands in; null outside of one.
+OdTcCatalogItem* itemAround(const OdTcPersist& agent) {
+  for (OdTcPersist* around = agent.owner(); around; around = around->owner())
+    if (auto* const item = dynamic_cast<OdTcCatalogItem*>(around)) return item;
+  return nullptr;
+}
+
+bool hasForeignPictures(const OdTcImageList& images) {
+  const auto all = images.enumImages();
+  while (const OdTcImage* const image = all->next())
+    if (image->src() == kForeignPictures) return true;
+  return false;
+}
+
+} // namespace
+
+bool OdTcToolHatchCommandImpl::renderPattern(OdTcImage& image, const OdString& pattern) const {
+  if (m_fields.hatchObjectType == 1)
+    return image.makeFromGradient(m_fields.gradientName, getGradientColor1(), getGradientColor2());
+  if (m_fields.hatchObjectType == 0) return image.makeFromPattern(pattern, m_previewColor);
+  return false;
+}
+
+bool OdTcToolHatchCommandImpl::renderImage(OdTcImage& image) const {
+  return renderPattern(image, m_fields.patternName);
+}
+
+void OdTcToolHatchCommandImpl::updateImages(const OdString& pattern) {
+  OdTcConveyorImpl* const conveyor = OdTcConveyorImpl::instance();
+  if (!m_imagesEnabled || !conveyor) return;
+  for (const std::int32_t kind : {4, 3, 1}) {
+    const OdTcImagePtr image = OdTcImage::createObject();
+    // In the palette, so that the name that the picture gets is free there.
+    image->setOwner(this);
+    image->setSizeKind(kind);
+    if (renderPattern(*image, pattern)) conveyor->push(image);
+  }
+  conveyor->flush();
+}
+
+bool OdTcToolHatchCommandImpl::refreshImages(IHostDocument*) {
+  OdTcCatalogItem* const item = itemAround(*this);
+  OdTcImageList* const images = item ? item->images() : nullptr;
+  if (!images || !hasForeignPictures(*images)) return false;
+  if (const std::optional<OdCmColor> color = generalColor()) m_previewColor = *color;
+  const OdTcImageListPtr fresh = OdTcImageList::createObject();
+  fresh->setOwner(images->owner());
+  if (!fresh->setFrom([this](OdTcImage& image) { return renderImage(image); })) return false;
+  item->setImages(fresh);
+  return true;
+}
+
+} // namespace tc
