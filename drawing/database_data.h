@@ -4,6 +4,8 @@
 #include "drawing/database.h"
 #include "drawing/undo.h"
 
+#include <unordered_set>
+
 /// A section or a part of one that is written back as it was read.
 struct OdDbRawSection {
   QByteArray name;
@@ -50,6 +52,7 @@ struct OdDbDatabaseData {
 
   QByteArray classes;
   std::vector<OdDbRawSection> otherSections;
+  std::unordered_set<OdDbObjectId> transient; ///< came with external references: files lack them
   std::vector<OdDbObjectId> objects; ///< of the OBJECTS section, in the order of the file
   QByteArray encoding = "UTF-8";     ///< in which kept tags stand
 

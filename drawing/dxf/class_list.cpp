@@ -81,7 +81,10 @@ QByteArray oddxf::missingClasses(const OdDbDatabase& database) {
   return lines;
 }
 
-bool oddxf::isOrphan(OdDbObjectId id) {
+bool oddxf::isLeftOut(OdDbObjectId id) {
+  if (const OdDbDatabase* const database = id.database();
+      database && database->data().transient.contains(id))
+    return true;
   // Owners that go round in a circle own nothing.
   constexpr int kDeepest = 64;
   for (int depth = 0; depth < kDeepest; ++depth) {

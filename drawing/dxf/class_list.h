@@ -10,7 +10,8 @@ namespace oddxf {
 /// Lines for the classes that the drawing uses, that files have to tell, and that its own list does
 /// not have.
 QByteArray missingClasses(const OdDbDatabase& database);
-/// True for an object whose owner, or an owner of that, is erased: it went with it.
-bool isOrphan(OdDbObjectId object);
+/// True for an object that is not written: it came with an external reference, or its owner, or an
+/// owner of that, is erased, and it went with it.
+bool isLeftOut(OdDbObjectId object);
 
 } // namespace oddxf

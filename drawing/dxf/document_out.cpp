@@ -33,7 +33,7 @@ class Writer {
     m_out.endSection();
     m_out.section("OBJECTS");
     for (const OdDbObjectId id : m_data.objects)
-      if (id.isValid() && !oddxf::isOrphan(id)) m_out.object(*id.stub()->object);
+      if (id.isValid() && !oddxf::isLeftOut(id)) m_out.object(*id.stub()->object);
     m_out.endSection();
     for (const OdDbRawSection& section : m_data.otherSections) {
       m_out.section(section.name.constData());
@@ -108,10 +108,12 @@ class Writer {
       const auto table = id.openAs<OdDbSymbolTable>();
       m_out.beginTable(*table);
       std::int64_t count = 0;
-      for (auto it = table->newIterator(); !it->done(); it->step()) ++count;
+      for (auto it = table->newIterator(); !it->done(); it->step())
+        if (!m_data.transient.contains(it->getRecordId())) ++count;
       m_out.integer(70, count);
       m_out.endObject();
-      for (auto it = table->newIterator(); !it->done(); it->step()) m_out.object(*it->getRecord());
+      for (auto it = table->newIterator(); !it->done(); it->step())
+        if (!m_data.transient.contains(it->getRecordId())) m_out.object(*it->getRecord());
       m_out.raw(0, "ENDTAB");
     }
     m_out.endSection();
@@ -121,6 +123,7 @@ class Writer {
     m_out.section("BLOCKS");
     const auto table = m_database.getBlockTableId().openAs<OdDbBlockTable>();
     for (auto it = table->newIterator(); !it->done(); it->step()) {
+      if (m_data.transient.contains(it->getRecordId())) continue;
       const OdSmartPtr<OdDbBlockTableRecord> block = it->getRecord();
       m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
       const OdDbObjectPtr begin = block->blockBeginId().safeOpenObject();
@@ -146,7 +149,7 @@ class Writer {
     const auto block = blockId.openAs<OdDbBlockTableRecord>();
     m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
     for (const OdDbObjectId id : block->entityIds()) {
-      if (!id.isValid()) continue;
+      if (!id.isValid() || (!m_data.transient.empty() && m_data.transient.contains(id))) continue;
       const OdDbObject& entity = *id.stub()->object;
       m_out.object(entity);
       static_cast<const OdDbEntity&>(entity).dxfOutFollowers(m_out);

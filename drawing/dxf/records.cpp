@@ -345,7 +345,7 @@ void OdDbDictionary::dxfOut(OdDbDxfOut& out) const {
   if (m_hardOwner >= 0) out.integer(280, m_hardOwner);
   if (m_cloning >= 0) out.integer(281, m_cloning);
   for (const Entry& entry : m_entries) {
-    if (entry.id.isErased()) continue;
+    if (entry.id.isErased() || out.database().data().transient.contains(entry.id)) continue;
     out.text(3, entry.name);
     out.reference(m_entryCode, entry.id);
   }

@@ -20,6 +20,8 @@ class OdDbRasterImage : public OdDbEntity {
   OdDbObjectId imageDefId() const { return m_image.definition; }
   void setImageDefId(OdDbObjectId definition);
   OdDbObjectId reactorId() const { return m_image.reactor; }
+  /// Makes sure that the definition knows of the image; the image does this by itself.
+  void addReactor();
   /// The lower left corner, and the whole lower and left edge, in world coordinates.
   void getOrientation(OdGePoint3d& origin, OdGeVector3d& u, OdGeVector3d& v) const;
   /// Raises OdError(eInvalidInput) for edges that enclose no area.
@@ -84,7 +86,6 @@ class OdDbRasterImage : public OdDbEntity {
   void enteredDatabase() override;
 
  private:
-  void addReactor();
   Data m_image;
 };
 using OdDbRasterImagePtr = OdSmartPtr<OdDbRasterImage>;

@@ -42,13 +42,18 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object) {
     throw OdDbError(eInvalidName, QStringLiteral("An entry of a dictionary needs a name"));
   assertWriteEnabled();
   const OdDbObjectId id = database()->addObject(object, objectId());
+  setEntry(name, id);
+  return id;
+}
+
+void OdDbDictionary::setEntry(const OdString& name, OdDbObjectId id) {
+  assertWriteEnabled();
   const auto at = std::find_if(m_entries.begin(), m_entries.end(),
                                [&](const Entry& entry) { return entry.name == name; });
   if (at == m_entries.end())
     m_entries.push_back({name, id});
   else
     at->id = id;
-  return id;
 }
 
 void OdDbDictionary::setName(OdDbObjectId id, const OdString& name) {

@@ -28,6 +28,9 @@ class OdDbDictionary : public OdDbObject {
   /// Puts a new object into the dictionary, and so into the drawing; an entry of the name is
   /// replaced.
   OdDbObjectId setAt(const OdString& name, OdDbObject* object);
+  /// Enters an object that is in the drawing already, or comes to it; nothing is put into the
+  /// drawing.
+  void setEntry(const OdString& name, OdDbObjectId id);
   /// Gives an entry another name. Raises OdDbError (eInvalidName, eDuplicateRecordName).
   void setName(OdDbObjectId id, const OdString& name);
   /// Forgets an entry; the object stays. False if there is none of that name.

@@ -27,6 +27,17 @@ void OdDbSymbolTableRecord::setFlag(int bit, bool on) {
   m_flags = on ? m_flags | bit : m_flags & ~bit;
 }
 
+void OdDbSymbolTableRecord::setIsDependent(bool dependent) {
+  setFlag(kDependent | kResolved, dependent);
+}
+
+void OdDbSymbolTableRecord::replaceBy(const OdDbSymbolTableRecord& other) {
+  assertWriteEnabled();
+  const OdString name = m_name;
+  assignFrom(other);
+  m_name = name;
+}
+
 void OdDbSymbolTableRecord::assignFrom(const OdDbObject& other) {
   OdDbObject::assignFrom(other);
   const auto& record = static_cast<const OdDbSymbolTableRecord&>(other);

@@ -18,7 +18,11 @@ class OdDbSymbolTableRecord : public OdDbObject {
   void setName(const OdString& name);
   /// The flags of the file's code 70; bits that no accessor knows are kept.
   int flags() const { return m_flags; }
-  bool isDependent() const { return m_flags & 16; }
+  /// True for what came with an external reference.
+  bool isDependent() const { return m_flags & kDependent; }
+  void setIsDependent(bool dependent);
+  /// Takes over all of a record of the same class but its name.
+  void replaceBy(const OdDbSymbolTableRecord& other);
 
   void assignFrom(const OdDbObject& other) override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
@@ -34,6 +38,8 @@ class OdDbSymbolTableRecord : public OdDbObject {
   virtual void dxfOutFields(OdDbDxfOut& out) const;
 
  private:
+  static constexpr int kDependent = 16;
+  static constexpr int kResolved = 32;
   OdString m_name;
   int m_flags = 0;
 };
