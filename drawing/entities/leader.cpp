@@ -13,6 +13,13 @@ void OdDbLeader::assignFrom(const OdDbObject& other) {
 void OdDbLeader::setDatabaseDefaults(const OdDbDatabase& database) {
   OdDbCurve::setDatabaseDefaults(database);
   setDimensionStyle(database.currentDimStyle());
+  // A new leader says what it is.
+  if (m_leader.arrowHead < 0) m_leader.arrowHead = 1;
+  if (m_leader.annoType < 0) m_leader.annoType = kNoAnno;
+  for (int Data::*member : {&Data::splined, &Data::hookDirection, &Data::hookLine})
+    m_leader.*member = std::max(m_leader.*member, 0);
+  for (double Data::*member : {&Data::textHeight, &Data::textWidth})
+    m_leader.*member = std::max(m_leader.*member, 0.0);
 }
 
 const OdGePoint3d& OdDbLeader::vertexAt(unsigned index) const {
@@ -96,8 +103,8 @@ bool OdDbLeader::transformBy(const OdGeMatrix3d& transform) {
   if (!finite || !odcheck::areFinite(x, z, moved.blockOffset, moved.annotationOffset)) return false;
   if (!x.isZeroLength()) moved.horizontal = x.normal();
   if (!z.isZeroLength()) moved.normal = z.normal();
-  moved.textWidth *= x.length();
-  moved.textHeight *= x.length();
+  for (double Data::*member : {&Data::textHeight, &Data::textWidth})
+    if (moved.*member > 0) moved.*member *= x.length();
   assertWriteEnabled();
   m_leader = std::move(moved);
   return true;

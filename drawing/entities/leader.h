@@ -21,9 +21,9 @@ class OdDbLeader : public OdDbCurve {
   void removeLastVertex();
   bool hasArrowHead() const { return m_leader.arrowHead != 0; }
   void setHasArrowHead(bool on);
-  bool isSplined() const { return m_leader.splined != 0; }
+  bool isSplined() const { return m_leader.splined > 0; }
   void setSplined(bool on);
-  bool hasHookLine() const { return m_leader.hookLine != 0; }
+  bool hasHookLine() const { return m_leader.hookLine > 0; }
   void setHasHookLine(bool on);
   AnnoType annoType() const;
   /// The note: an MTEXT, a tolerance or an insert; null if there is none.
@@ -56,8 +56,10 @@ class OdDbLeader : public OdDbCurve {
   struct Data {
     std::vector<OdGePoint3d> vertices;
     OdDbObjectId dimStyle, annotation;
-    int arrowHead = 1, splined = 0, annoType = kNoAnno, hookDirection = 0, hookLine = 0, color = 0;
-    double textHeight = 0, textWidth = 0;
+    /// Below 0: not given.
+    int arrowHead = -1, splined = -1, annoType = -1, hookDirection = -1, hookLine = -1;
+    double textHeight = -1, textWidth = -1;
+    int color = 0;
     OdGeVector3d normal = OdGeVector3d::zAxis();
     OdGeVector3d horizontal = OdGeVector3d::xAxis();
     OdGeVector3d blockOffset, annotationOffset;

@@ -144,6 +144,8 @@ void OdDbMText::setUseBackgroundColor(bool on) {
 void OdDbMText::setBackgroundFillColor(const OdCmColor& color) {
   assertWriteEnabled();
   m_mtext.fillColor = color;
+  m_mtext.hasFillColor = true;
+  m_mtext.fillIndex = -1;
 }
 
 void OdDbMText::setBackgroundScaleFactor(double factor) {

@@ -42,7 +42,7 @@ class OdDbMText : public OdDbEntity {
   /// Raises OdError(eInvalidInput) unless above 0.
   void setTextHeight(double height);
   /// The width at which lines wrap; 0 for no wrapping.
-  double width() const { return m_mtext.width; }
+  double width() const { return std::max(m_mtext.width, 0.0); }
   void setWidth(double width);
   /// Radians, from the x axis of the text's plane.
   double rotation() const;
@@ -101,7 +101,8 @@ class OdDbMText : public OdDbEntity {
   /// What the file knows of the text.
   struct Data {
     OdGePoint3d location;
-    double height = 1, width = 0, definedHeight = 0;
+    double height = 1, definedHeight = 0;
+    double width = -1; ///< below 0: not given
     double spacingFactor = 1, fillScale = 1.5;
     double rotation = 0;    ///< counts unless there is a direction
     OdGeVector3d direction; ///< in world coordinates; without length: not given
@@ -113,6 +114,7 @@ class OdDbMText : public OdDbEntity {
     bool hasEmbedded = false;   ///< the file has the part that tells the columns
     bool directionLast = false; ///< the direction stood behind the rotation, and so counts
     bool hasFillColor = false;
+    int fillIndex = -1; ///< as the file has it beside a true colour
     OdCmColor fillColor;
     OdMTextColumns columns;
   };

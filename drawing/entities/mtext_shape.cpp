@@ -18,7 +18,7 @@ OdMTextLayout OdDbMText::layout() const {
   }
   OdMTextFrame frame;
   frame.height = m_mtext.height;
-  frame.width = m_mtext.width;
+  frame.width = width();
   frame.attachment = attachment();
   frame.spacing = m_mtext.spacingFactor;
   frame.exactly = lineSpacingStyle() == kExactly;

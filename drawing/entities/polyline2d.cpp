@@ -64,10 +64,10 @@ void OdDb2dPolyline::addVertexAt(unsigned index, const OdGePoint3d& point, doubl
   v.startWidth = startWidth;
   v.endWidth = endWidth;
   v.flags = kFlags[kind()];
-  addVertexAt(index, v);
+  insertVertexAt(index, v);
 }
 
-void OdDb2dPolyline::addVertexAt(unsigned index, const Vertex& vertex) {
+void OdDb2dPolyline::insertVertexAt(unsigned index, const Vertex& vertex) {
   if (index > numVerts()) throw OdError_InvalidIndex(index, numVerts());
   requireFinite(vertex);
   assertWriteEnabled();

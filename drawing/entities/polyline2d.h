@@ -38,7 +38,7 @@ class OdDb2dPolyline : public OdDbCurve {
   /// else in the world's.
   void addVertexAt(unsigned index, const OdGePoint3d& point, double bulge = 0,
                    double startWidth = 0, double endWidth = 0);
-  void addVertexAt(unsigned index, const Vertex& vertex);
+  void insertVertexAt(unsigned index, const Vertex& vertex);
   void removeVertexAt(unsigned index);
   OdGePoint3d worldPointAt(unsigned index) const;
 

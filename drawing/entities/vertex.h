@@ -36,11 +36,14 @@ class OdDbVertex : public OdDbEntity {
   ODDB_CONCRETE(OdDbVertex, "VERTEX")
 
   const OdDbVertexData& vertex() const { return m_vertex; }
-  /// Gives the object what is written, with the name of its last subclass; the polyline does this
-  /// before it writes.
-  void show(const OdDbVertexData& vertex, const char* subclass) {
+  /// Gives the object what is written, with the name of its last subclass and the widths that the
+  /// polyline says for all; the polyline does this before it writes.
+  void show(const OdDbVertexData& vertex, const char* subclass, double usualStart,
+            double usualEnd) {
     m_vertex = vertex;
     m_subclass = subclass;
+    m_hasStart = vertex.startWidth != usualStart;
+    m_hasEnd = vertex.endWidth != usualEnd;
   }
   /// False for a width that the file leaves to the polyline.
   bool hasStartWidth() const { return m_hasStart; }
@@ -54,5 +57,5 @@ class OdDbVertex : public OdDbEntity {
  private:
   OdDbVertexData m_vertex;
   const char* m_subclass = nullptr;
-  bool m_hasStart = false, m_hasEnd = false; ///< while reading
+  bool m_hasStart = false, m_hasEnd = false; ///< widths of its own
 };

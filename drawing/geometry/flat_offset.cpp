@@ -48,8 +48,9 @@ class Offsetter {
 
   std::vector<Path> paths() {
     if (m_path.empty()) return {};
-    makeRaw();
+    m_raw = rawBeside(m_distance);
     cut();
+    dropTwins();
     return stitch();
   }
 
@@ -58,35 +59,39 @@ class Offsetter {
   /// arc, as needles help nobody.
   static constexpr double kLongestPoint = 50;
 
-  void makeRaw() {
+  /// The pieces at a distance as they come, with what joins them.
+  std::vector<Piece> rawBeside(double distance) const {
     std::vector<Piece> moved;
-    for (const Piece& p : m_path) moved.push_back(beside(p, m_distance));
+    for (const Piece& p : m_path) moved.push_back(beside(p, distance));
     const std::size_t count = moved.size();
     // Corners first move the ends of straight pieces that have to meet.
     std::vector<std::vector<Piece>> bridges(count);
     for (std::size_t i = 0; i < count; ++i) {
       if (i + 1 == count && !m_closed) break;
-      join(moved[i], moved[(i + 1) % count], m_path[i], m_path[(i + 1) % count], bridges[i]);
+      join(moved[i], moved[(i + 1) % count], m_path[i], m_path[(i + 1) % count], distance,
+           bridges[i]);
     }
+    std::vector<Piece> raw;
     for (std::size_t i = 0; i < count; ++i) {
-      if (moved[i].length() > m_slack) m_raw.push_back(moved[i]);
-      m_raw.insert(m_raw.end(), bridges[i].begin(), bridges[i].end());
+      if (moved[i].length() > m_slack) raw.push_back(moved[i]);
+      raw.insert(raw.end(), bridges[i].begin(), bridges[i].end());
     }
+    return raw;
   }
 
-  void join(Piece& a, Piece& b, const Piece& oldA, const Piece& oldB,
+  void join(Piece& a, Piece& b, const Piece& oldA, const Piece& oldB, double distance,
             std::vector<Piece>& bridge) const {
     if (a.end.distanceTo(b.start) <= m_slack) return;
     const OdGePoint2d u = oldA.directionAt(1);
     const OdGePoint2d v = oldB.directionAt(0);
     // On the outer side of the corner there is a gap; on the inner side the pieces cross, and what
     // is too near is cut away.
-    const bool isOuter = cross(u, v) * m_distance > 0 || (u.x * v.x + u.y * v.y) < -1 + 1e-12;
+    const bool isOuter = cross(u, v) * distance > 0 || (u.x * v.x + u.y * v.y) < -1 + 1e-12;
     if (isOuter && a.isLine() && b.isLine()) {
       const auto meeting = odge::meetings(a, b, true);
       if (!meeting.empty()) {
         const OdGePoint2d tip = a.pointAt(meeting[0].first);
-        if (tip.distanceTo(oldA.end) <= kLongestPoint * std::abs(m_distance) &&
+        if (tip.distanceTo(oldA.end) <= kLongestPoint * std::abs(distance) &&
             meeting[0].first >= 1) {
           a = {a.start, tip, 0};
           b = {tip, b.end, 0};
@@ -96,11 +101,24 @@ class Offsetter {
     }
     if (isOuter) {
       double sweep = std::atan2(cross(u, v), u.x * v.x + u.y * v.y);
-      if (sweep * m_distance < 0) sweep = -sweep;
+      if (sweep * distance < 0) sweep = -sweep;
       bridge.push_back({a.end, b.start, std::tan(sweep / 4)});
       return;
     }
-    // By way of the corner itself, so that every crossing is found: this is cut away for sure.
+    // What goes on behind the crossing of neighbours is too near for sure.
+    const auto crossings = odge::meetings(a, b);
+    if (!crossings.empty()) {
+      const auto m = *std::max_element(crossings.begin(), crossings.end(),
+                                       [](const auto& one, const auto& other) {
+                                         return one.first - one.second < other.first - other.second;
+                                       });
+      const Piece first = a.between(0, m.first);
+      b = b.between(m.second, 1);
+      a = first;
+      b.start = a.end;
+      return;
+    }
+    // By way of the corner itself, so that every other crossing is found: this is cut away.
     bridge.push_back({a.end, oldA.end, 0});
     bridge.push_back({oldA.end, b.start, 0});
   }
@@ -111,32 +129,45 @@ class Offsetter {
     return best;
   }
 
-  /// Cuts the raw pieces where they meet, and keeps those that are far enough from the path.
-  void cut() {
-    std::vector<std::vector<double>> cuts(m_raw.size(), {0.0, 1.0});
-    struct Box {
-      double left, right;
-      std::size_t index;
-    };
-    std::vector<Box> boxes;
-    for (std::size_t i = 0; i < m_raw.size(); ++i) {
-      const Piece& p = m_raw[i];
+  struct Box {
+    double left, right;
+    std::size_t index;
+    bool own; ///< of the pieces that are cut
+  };
+  void addBoxes(const std::vector<Piece>& pieces, bool own, std::vector<Box>& boxes) const {
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+      const Piece& p = pieces[i];
       double left = std::min(p.start.x, p.end.x);
       double right = std::max(p.start.x, p.end.x);
       if (!p.isLine()) {
         left = p.center.x - p.radius;
         right = p.center.x + p.radius;
       }
-      boxes.push_back({left - m_slack, right + m_slack, i});
+      boxes.push_back({left - m_slack, right + m_slack, i, own});
     }
+  }
+
+  /// Cuts the raw pieces where they meet, and keeps those that are far enough from the path. Where
+  /// the path crosses itself, they come too near between their own side and the other one.
+  void cut() {
+    const std::vector<Piece> others = rawBeside(-m_distance);
+    std::vector<std::vector<double>> cuts(m_raw.size(), {0.0, 1.0});
+    std::vector<Box> boxes;
+    addBoxes(m_raw, true, boxes);
+    addBoxes(others, false, boxes);
     std::sort(boxes.begin(), boxes.end(),
               [](const Box& a, const Box& b) { return a.left < b.left; });
     for (std::size_t i = 0; i < boxes.size(); ++i)
-      for (std::size_t k = i + 1; k < boxes.size() && boxes[k].left <= boxes[i].right; ++k)
-        for (const auto& m : odge::meetings(m_raw[boxes[i].index], m_raw[boxes[k].index])) {
-          cuts[boxes[i].index].push_back(m.first);
-          cuts[boxes[k].index].push_back(m.second);
+      for (std::size_t k = i + 1; k < boxes.size() && boxes[k].left <= boxes[i].right; ++k) {
+        const Box& a = boxes[i];
+        const Box& b = boxes[k];
+        if (!a.own && !b.own) continue;
+        for (const auto& m :
+             odge::meetings((a.own ? m_raw : others)[a.index], (b.own ? m_raw : others)[b.index])) {
+          if (a.own) cuts[a.index].push_back(m.first);
+          if (b.own) cuts[b.index].push_back(m.second);
         }
+      }
     if (!m_closed) cutAroundEnds(cuts);
     for (std::size_t i = 0; i < m_raw.size(); ++i) {
       auto& parts = cuts[i];
@@ -147,6 +178,37 @@ class Offsetter {
         if (isFarEnough(piece)) m_kept.push_back(piece);
       }
     }
+  }
+
+  /// Pieces that lie on each other count once; those that run against each other have nothing
+  /// between them, and go.
+  void dropTwins() {
+    const double near = 100 * m_slack;
+    std::vector<char> gone(m_kept.size());
+    std::vector<std::size_t> order(m_kept.size());
+    std::vector<OdGePoint2d> middles;
+    for (std::size_t i = 0; i < m_kept.size(); ++i) {
+      order[i] = i;
+      middles.push_back(m_kept[i].pointAt(0.5));
+    }
+    std::sort(order.begin(), order.end(),
+              [&](std::size_t a, std::size_t b) { return middles[a].x < middles[b].x; });
+    for (std::size_t i = 0; i < order.size(); ++i)
+      for (std::size_t k = i + 1;
+           k < order.size() && middles[order[k]].x - middles[order[i]].x <= near; ++k) {
+        const std::size_t a = order[i];
+        const std::size_t b = order[k];
+        if (gone[a] || gone[b] || middles[a].distanceTo(middles[b]) > near) continue;
+        const Piece& p = m_kept[a];
+        const Piece& q = m_kept[b];
+        if (p.start.distanceTo(q.start) <= near && p.end.distanceTo(q.end) <= near) gone[b] = 1;
+        if (p.start.distanceTo(q.end) <= near && p.end.distanceTo(q.start) <= near)
+          gone[a] = gone[b] = 1;
+      }
+    std::vector<Piece> left;
+    for (std::size_t i = 0; i < m_kept.size(); ++i)
+      if (!gone[i]) left.push_back(m_kept[i]);
+    m_kept = std::move(left);
   }
 
   /// What passes the end of an open path may come too near to it without crossing anything.

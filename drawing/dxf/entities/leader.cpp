@@ -6,17 +6,20 @@ namespace {
 
 using Field = OdDbDxfField<OdDbLeader::Data>;
 constexpr Field kFields[] = {
-    {71, &OdDbLeader::Data::arrowHead}, {72, &OdDbLeader::Data::splined},
-    {73, &OdDbLeader::Data::annoType},  {74, &OdDbLeader::Data::hookDirection},
-    {75, &OdDbLeader::Data::hookLine},  {40, &OdDbLeader::Data::textHeight},
-    {41, &OdDbLeader::Data::textWidth},
+    {71, &OdDbLeader::Data::arrowHead, Field::kUnlessPreset},
+    {72, &OdDbLeader::Data::splined, Field::kUnlessPreset},
+    {73, &OdDbLeader::Data::annoType, Field::kUnlessPreset},
+    {74, &OdDbLeader::Data::hookDirection, Field::kUnlessPreset},
+    {75, &OdDbLeader::Data::hookLine, Field::kUnlessPreset},
+    {40, &OdDbLeader::Data::textHeight, Field::kUnlessPreset},
+    {41, &OdDbLeader::Data::textWidth, Field::kUnlessPreset},
 };
 constexpr Field kTail[] = {
     {77, &OdDbLeader::Data::color, Field::kUnlessPreset},
-    {210, &OdDbLeader::Data::normal},
-    {211, &OdDbLeader::Data::horizontal},
-    {212, &OdDbLeader::Data::blockOffset},
-    {213, &OdDbLeader::Data::annotationOffset},
+    {210, &OdDbLeader::Data::normal, Field::kUnlessPreset},
+    {211, &OdDbLeader::Data::horizontal, Field::kUnlessPreset},
+    {212, &OdDbLeader::Data::blockOffset, Field::kUnlessPreset},
+    {213, &OdDbLeader::Data::annotationOffset, Field::kUnlessPreset},
 };
 
 } // namespace

@@ -7,9 +7,12 @@ namespace {
 
 using Field = OdDbDxfField<OdDbMText::Data>;
 constexpr Field kFields[] = {
-    {10, &OdDbMText::Data::location},   {40, &OdDbMText::Data::height},
-    {41, &OdDbMText::Data::width},      {46, &OdDbMText::Data::definedHeight, Field::kUnlessPreset},
-    {71, &OdDbMText::Data::attachment}, {72, &OdDbMText::Data::flow},
+    {10, &OdDbMText::Data::location},
+    {40, &OdDbMText::Data::height},
+    {41, &OdDbMText::Data::width, Field::kUnlessPreset},
+    {46, &OdDbMText::Data::definedHeight, Field::kUnlessPreset},
+    {71, &OdDbMText::Data::attachment},
+    {72, &OdDbMText::Data::flow},
 };
 constexpr Field kTail[] = {
     {210, &OdDbMText::Data::normal, Field::kUnlessPreset},
@@ -53,6 +56,7 @@ bool OdDbMText::takeField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     const int index = in.integer(tag, 0);
     if (index < 0 || index > OdCmColor::kACInone) return false;
     m_mtext.hasFillColor = true;
+    m_mtext.fillIndex = index;
     if (!m_mtext.fillColor.isByColor()) m_mtext.fillColor.setColorIndex(index);
     return true;
   }
@@ -174,7 +178,7 @@ void OdDbMText::putFields(OdDbDxfOut& out) const {
   if (out.version() < OdDb::kR2004) return;
   oddxf::putField(kBackground, m_mtext, out);
   const OdCmColor& color = m_mtext.fillColor;
-  out.integer(63, color.colorIndex());
+  out.integer(63, m_mtext.fillIndex >= 0 ? m_mtext.fillIndex : color.colorIndex());
   if (color.isByColor()) out.integer(421, color.color() & 0xFFFFFF);
   if (color.hasNames()) out.text(431, color.bookName() + QLatin1Char('$') + color.colorName());
   oddxf::putFields<Data>(kFill, m_mtext, out);
@@ -187,7 +191,7 @@ void OdDbMText::putColumns(OdDbDxfOut& out) const {
   const OdGeVector3d x = direction();
   out.point(10, {x.x, x.y, x.z});
   out.point(11, m_mtext.location);
-  out.real(40, m_mtext.width);
+  out.real(40, width());
   out.real(41, c.height);
   out.real(42, m_mtext.extentsWidth);
   out.real(43, m_mtext.extentsHeight);

@@ -1,7 +1,6 @@
 // How POLYLINE stands in files.
 #include "drawing/entities/polyline2d.h"
 #include "drawing/dxf/fields.h"
-#include "drawing/stub.h"
 
 namespace {
 
@@ -58,8 +57,15 @@ void OdDb2dPolyline::dxfOutFollowers(OdDbDxfOut& out) const {
   for (const Vertex& v : m_polyline.vertices) {
     const OdSmartPtr<OdDbVertex> entry = v.entry.openObject();
     if (!entry) continue;
-    entry->show(v, vertexSubclass(v));
+    entry->show(v, vertexSubclass(v), m_polyline.startWidth, m_polyline.endWidth);
     out.object(*entry);
   }
-  if (const OdDbObjectPtr end = m_polyline.end.openObject()) out.object(*end);
+  if (const OdDbObjectPtr end = m_polyline.end.openObject()) {
+    out.object(*end);
+    return;
+  }
+  // A file that lacks the end mark gets one, as nothing ends the corners otherwise.
+  out.raw(0, "SEQEND");
+  out.raw(100, "AcDbEntity");
+  out.recordName(8, layerId(), "0");
 }

@@ -7,9 +7,9 @@ namespace {
 using Field = OdDbDxfField<OdDbVertexData>;
 constexpr Field kPoint = {10, &OdDbVertexData::point};
 constexpr Field kFlags = {70, &OdDbVertexData::flags};
+constexpr Field kStart = {40, &OdDbVertexData::startWidth};
+constexpr Field kEnd = {41, &OdDbVertexData::endWidth};
 constexpr Field kFlatFields[] = {
-    {40, &OdDbVertexData::startWidth},
-    {41, &OdDbVertexData::endWidth},
     {42, &OdDbVertexData::bulge, Field::kUnlessPreset},
     {50, &OdDbVertexData::tangent, Field::kAngleUnlessPreset},
 };
@@ -46,6 +46,8 @@ bool OdDbVertex::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   }
   return oddxf::takeTag<OdDbVertexData>({&kPoint, 1}, m_vertex, tag, in) ||
          oddxf::takeTag<OdDbVertexData>({&kFlags, 1}, m_vertex, tag, in) ||
+         oddxf::takeTag<OdDbVertexData>({&kStart, 1}, m_vertex, tag, in) ||
+         oddxf::takeTag<OdDbVertexData>({&kEnd, 1}, m_vertex, tag, in) ||
          oddxf::takeTag<OdDbVertexData>(kFlatFields, m_vertex, tag, in);
 }
 
@@ -56,6 +58,8 @@ void OdDbVertex::dxfOut(OdDbDxfOut& out) const {
   if (m_subclass) out.subclass(m_subclass);
   oddxf::putField(kPoint, m_vertex, out);
   if (m_subclass && std::string_view(m_subclass) == "AcDb2dVertex") {
+    if (m_hasStart) oddxf::putField(kStart, m_vertex, out);
+    if (m_hasEnd) oddxf::putField(kEnd, m_vertex, out);
     oddxf::putFields<OdDbVertexData>(kFlatFields, m_vertex, out);
     if (m_vertex.identifier != 0 && out.version() >= OdDb::kR2010)
       out.integer(91, m_vertex.identifier);
