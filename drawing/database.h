@@ -37,15 +37,24 @@ class OdDbDatabase : public OdRxObject {
   static OdDbDatabasePtr readDxf(QByteArrayView bytes, const OdString& name);
   /// Writes the drawing into a new file beside `path`, hands it to the disk, and puts it in the
   /// place of the old one, whose permissions it keeps. The version is that of the drawing unless
-  /// another is given (R2000 and later). Raises OdFileError; the old file is then as it was.
+  /// another is given (R2000 and later). With `keepBackup` the old file stays beside the new one
+  /// with ".bak" in the place of its suffix. Raises OdFileError; the old file is then as it was.
   /// Neither looks at unknownContent() nor changes fileName().
-  void writeFile(const OdString& path, OdDb::DwgVersion version = OdDb::kVersionUnknown);
+  void writeFile(const OdString& path, OdDb::DwgVersion version = OdDb::kVersionUnknown,
+                 bool keepBackup = false);
   /// The same into memory.
   QByteArray writeDxf(OdDb::DwgVersion version = OdDb::kVersionUnknown) const;
 
   /// The stored path of the file that the drawing came from or was last saved to; empty if none.
   const OdString& fileName() const;
   void setFileName(const OdString& path);
+  /// True if somebody else has changed, replaced or removed the drawing's file since it was read or
+  /// last written: saving over it would lose what they did.
+  bool isFileChangedByOthers() const;
+  /// The preview picture that the file carries: a device-independent bitmap without file header;
+  /// empty if there is none. It is no part of undo.
+  QByteArray thumbnail() const;
+  void setThumbnail(const QByteArray& bytes);
   /// What the file has and the drawing could not take over: saving over the file would lose it.
   const QStringList& unknownContent() const;
   /// What was mended while reading, without loss.

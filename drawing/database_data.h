@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/database.h"
+#include "drawing/file_stamp.h"
 #include "drawing/undo.h"
 
 #include <unordered_set>
@@ -53,10 +54,11 @@ struct OdDbDatabaseData {
   QByteArray classes;
   std::vector<OdDbRawSection> otherSections;
   std::unordered_set<OdDbObjectId> transient; ///< came with external references: files lack them
-  std::vector<OdDbObjectId> objects; ///< of the OBJECTS section, in the order of the file
-  QByteArray encoding = "UTF-8";     ///< in which kept tags stand
+  std::vector<OdDbObjectId> objects;          ///< of the OBJECTS section, in the order of the file
+  QByteArray encoding = "UTF-8";              ///< in which kept tags stand
 
   OdString fileName;
+  OdDbFileStamp fileStamp; ///< of the file when it was read or written
   QStringList unknownContent, readNotes;
   OdDb::DwgVersion version = OdDb::kR2018;
   bool modified = false;

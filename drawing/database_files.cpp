@@ -93,8 +93,11 @@ OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
     if (!file.seek(0)) refuse(eFileAccess);
     return OdDbDxfSource::of(OdDbDxfBytes(file));
   };
+  // Taken before reading: what others write meanwhile counts as a change.
+  const OdDbFileStamp stamp = OdDbFileStamp::of(path);
   const OdDbDatabasePtr database = load(fromStart, path);
   database->setFileName(path);
+  database->data().fileStamp = stamp;
   return database;
 }
 
@@ -104,7 +107,19 @@ QByteArray OdDbDatabase::writeDxf(OdDb::DwgVersion version) const {
   return all;
 }
 
-void OdDbDatabase::writeFile(const OdString& path, OdDb::DwgVersion version) {
+OdDbFileStamp OdDbFileStamp::of(const OdString& path) {
+  const QFileInfo info(odpath::toPlatform(path));
+  return {path, info.exists() ? info.size() : -1, info.lastModified()};
+}
+
+bool OdDbDatabase::isFileChangedByOthers() const {
+  const OdDbFileStamp& known = m_data->fileStamp;
+  return !known.path.isEmpty() && odpath::samePlace(known.path, m_data->fileName) &&
+         OdDbFileStamp::of(known.path) != known;
+}
+
+void OdDbDatabase::writeFile(const OdString& path, OdDb::DwgVersion version, bool keepBackup) {
   QSaveFile file(odpath::toPlatform(path));
-  oddxf::saveDocument(*this, version, file, path);
+  oddxf::saveDocument(*this, version, file, path, keepBackup);
+  m_data->fileStamp = OdDbFileStamp::of(path);
 }

@@ -2,6 +2,7 @@
 #include "drawing/dxf/document_out.h"
 
 #include "drawing/dxf/class_list.h"
+#include "drawing/dxf/newer.h"
 #include "drawing/dxf/out.h"
 #include "drawing/dxf/text.h"
 
@@ -22,8 +23,8 @@ class Writer {
   void write() {
     header();
     m_out.section("CLASSES");
-    m_out.kept(m_data.classes);
-    m_out.kept(oddxf::missingClasses(m_database));
+    m_out.keptOf({}, m_data.classes);
+    m_out.keptOf({}, oddxf::missingClasses(m_database));
     m_out.endSection();
     tables();
     blocks();
@@ -36,6 +37,7 @@ class Writer {
       if (id.isValid() && !oddxf::isLeftOut(id)) m_out.object(*id.stub()->object);
     m_out.endSection();
     for (const OdDbRawSection& section : m_data.otherSections) {
+      if (oddxf::sectionSince(section.name.constData()) > m_out.version()) continue;
       m_out.section(section.name.constData());
       m_out.kept(section.tags);
       m_out.endSection();
@@ -171,8 +173,35 @@ void oddxf::writeDocument(const OdDbDatabase& database, OdDb::DwgVersion version
   Writer(database, version, sink).write();
 }
 
+namespace {
+
+/// A copy of the file with another suffix, which is whole or is not there.
+void backUp(const OdString& file, const OdString& path) {
+  QFile old(file);
+  const QFileInfo info(old);
+  if (!info.exists()) return;
+  const OdString name =
+      info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral(".bak");
+  const auto refuse = [&](const QFileDevice& device) {
+    throw OdFileError(eFileAccess, path,
+                      QStringLiteral("no copy can be kept: ") + device.errorString());
+  };
+  if (!old.open(QIODevice::ReadOnly)) refuse(old);
+  QSaveFile copy(name);
+  copy.setDirectWriteFallback(false);
+  if (!copy.open(QIODevice::WriteOnly)) refuse(copy);
+  copy.setPermissions(info.permissions());
+  constexpr qint64 kPiece = 1024 * 1024;
+  for (QByteArray piece = old.read(kPiece); !piece.isEmpty(); piece = old.read(kPiece))
+    if (copy.write(piece) != piece.size()) refuse(copy);
+  if (old.error() != QFileDevice::NoError) refuse(old);
+  if (!copy.commit()) refuse(copy);
+}
+
+} // namespace
+
 void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version, QSaveFile& file,
-                         const OdString& path) {
+                         const OdString& path, bool keepBackup) {
   const auto require = [&](bool ok) {
     if (!ok) throw OdFileError(eFileAccess, path, file.errorString());
   };
@@ -185,5 +214,6 @@ void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
                 [&](const QByteArray& piece) { require(file.write(piece) == piece.size()); });
   // commit() would not notice that the last bytes found no room.
   require(file.flush());
+  if (keepBackup) backUp(file.fileName(), path);
   require(file.commit());
 }

@@ -15,8 +15,9 @@ void writeDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
                    const std::function<void(const QByteArray&)>& sink);
 
 /// Writes the drawing through `file`, which is not open yet: only when all of it has reached the
-/// disk it takes the place of the file at `path`. Raises OdFileError with that path.
+/// disk it takes the place of the file at `path`, of which a copy stays if `keepBackup` says so.
+/// Raises OdFileError with that path.
 void saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version, QSaveFile& file,
-                  const OdString& path);
+                  const OdString& path, bool keepBackup = false);
 
 } // namespace oddxf

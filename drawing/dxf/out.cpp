@@ -1,5 +1,6 @@
 #include "drawing/dxf/out.h"
 
+#include "drawing/dxf/newer.h"
 #include "drawing/dxf/text.h"
 
 #include <array>
@@ -49,16 +50,18 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
   , m_at(m_buffer.get())
   , m_utf8(version >= OdDb::kR2007) {
   const OdDbDatabaseData& data = database.data();
-  const QByteArray codePage =
-      m_utf8 ? QByteArray("UTF-8")
-             : oddxf::encodingOf(view(database.sysVarText("DWGCODEPAGE").toLatin1()));
+  const auto encodingOf = [](std::string_view codePage) {
+    const QByteArray encoding = oddxf::encodingOf(codePage);
+    // A code page that nobody knows was read as this one.
+    return QStringEncoder(encoding.constData()).isValid() ? encoding
+                                                          : oddxf::encodingOf("ANSI_1252");
+  };
+  const QByteArray codePage = m_utf8
+                                  ? QByteArray("UTF-8")
+                                  : encodingOf(view(database.sysVarText("DWGCODEPAGE").toLatin1()));
   m_encoder = QStringEncoder(codePage.constData());
   m_codePageDecoder = QStringDecoder(codePage.constData());
-  if (!m_encoder.isValid()) {
-    m_encoder = QStringEncoder(QStringEncoder::Latin1);
-    m_codePageDecoder = QStringDecoder(QStringDecoder::Latin1);
-  }
-  m_transcode = codePage != data.encoding && data.encoding != "ISO-8859-1";
+  m_transcode = codePage != data.encoding;
   if (m_transcode) m_keptDecoder = QStringDecoder(data.encoding.constData());
 }
 
@@ -181,7 +184,8 @@ void OdDbDxfOut::handle(int groupCode, OdDbHandle value) {
   ensureRoom();
   constexpr char kDigits[] = "0123456789ABCDEF";
   const std::uint64_t number = value;
-  for (int shift = std::max(0, (static_cast<int>(std::bit_width(number)) - 1) / 4) * 4; shift >= 0; shift -= 4)
+  for (int shift = std::max(0, (static_cast<int>(std::bit_width(number)) - 1) / 4) * 4; shift >= 0;
+       shift -= 4)
     *m_at++ = kDigits[number >> shift & 15];
   *m_at++ = '\n';
 }
@@ -214,9 +218,16 @@ void OdDbDxfOut::kept(const QByteArray& lines) {
   }
 }
 
+void OdDbDxfOut::keptOf(std::string_view subclass, const QByteArray& lines) {
+  if (m_version < m_database.originalFileVersion())
+    kept(oddxf::fitting(lines, subclass, m_version));
+  else
+    kept(lines);
+}
+
 void OdDbDxfOut::endSubclass() {
   if (m_residue)
-    if (const QByteArray* lines = m_residue->of(m_subclass)) kept(*lines);
+    if (const QByteArray* lines = m_residue->of(m_subclass)) keptOf(m_subclass, *lines);
 }
 
 void OdDbDxfOut::endSubclassHere() {
@@ -245,7 +256,7 @@ void OdDbDxfOut::beginObject(const OdDbObject& object, const char* name, int han
 void OdDbDxfOut::endObject() {
   endSubclass();
   if (m_residue) {
-    kept(m_residue->tail);
+    keptOf({}, m_residue->tail);
     kept(m_residue->xdata);
   }
   m_residue = nullptr;
@@ -255,7 +266,7 @@ void OdDbDxfOut::object(const OdDbObject& object) {
   beginObject(object, object.dxfName(), object.dxfHandleCode(), object.ownerId());
   object.dxfOut(*this);
   endSubclass();
-  if (m_residue) kept(m_residue->tail);
+  if (m_residue) keptOf({}, m_residue->tail);
   object.dxfOutXData(*this);
   if (m_residue) kept(m_residue->xdata);
   m_residue = nullptr;

@@ -53,6 +53,8 @@ class OdDbDxfOut {
   void endObject();
   /// Lines that were kept from the file.
   void kept(const QByteArray& lines);
+  /// The same for lines of a subclass: without tags that are newer than the version written.
+  void keptOf(std::string_view subclass, const QByteArray& lines);
 
   void section(const char* name);
   void endSection() { raw(0, "ENDSEC"); }

@@ -3,6 +3,7 @@
 #include "drawing/dxf/binary_source.h"
 #include "drawing/dxf/text_source.h"
 
+#include <algorithm>
 #include <charconv>
 
 std::unique_ptr<OdDbDxfSource> OdDbDxfSource::of(OdDbDxfBytes bytes) {
@@ -33,5 +34,7 @@ void OdDbDxfShortSource::raise(OdDbDxfTag& tag) {
   if (handle == 0) return;
   const auto [end, error] =
       std::to_chars(m_handle, m_handle + sizeof m_handle, handle + m_lastHandle, 16);
+  std::transform(m_handle, end, m_handle,
+                 [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
   tag.text = {m_handle, static_cast<std::size_t>(end - m_handle)};
 }

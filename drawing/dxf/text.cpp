@@ -1,5 +1,7 @@
 #include "drawing/dxf/text.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -13,9 +15,10 @@ QByteArray oddxf::encodingOf(std::string_view codePage) {
   };
   // Those that do not follow one of the rules below.
   static constexpr Row kRows[] = {
-      {"ASCII", "ISO-8859-1"},    {"ANSI_936", "GBK"},   {"GB2312", "GBK"},      {"BIG5", "Big5"},
-      {"ANSI_950", "Big5"},       {"KSC5601", "EUC-KR"}, {"ANSI_1361", "Johab"}, {"JOHAB", "Johab"},
-      {"MACINTOSH", "macintosh"}, {"UTF-8", "UTF-8"},    {"ANSI_949", "EUC-KR"},
+      {"ASCII", "ISO-8859-1"},    {"ANSI_936", "GBK"},  {"GB2312", "GBK"},
+      {"BIG5", "Big5"},           {"ANSI_950", "Big5"}, {"KSC5601", "windows-949"},
+      {"ANSI_1361", "Johab"},     {"JOHAB", "Johab"},   {"MACINTOSH", "macintosh"},
+      {"MAC-ROMAN", "macintosh"}, {"UTF-8", "UTF-8"},   {"ANSI_949", "windows-949"},
   };
   const QByteArray upper =
       QByteArray(codePage.data(), static_cast<qsizetype>(codePage.size())).trimmed().toUpper();
@@ -27,23 +30,47 @@ QByteArray oddxf::encodingOf(std::string_view codePage) {
   return upper;
 }
 
+namespace {
+
+/// The character of \M+nXXXX: its code in one of five code pages.
+OdString multiByte(int page, ushort code) {
+  static constexpr const char* kPages[] = {"ANSI_932", "ANSI_950", "ANSI_949", "ANSI_1361",
+                                           "ANSI_936"};
+  if (page < 1 || page > static_cast<int>(std::size(kPages))) return {};
+  QStringDecoder decoder(oddxf::encodingOf(kPages[page - 1]).constData());
+  const char bytes[] = {static_cast<char>(code >> 8), static_cast<char>(code)};
+  const OdString text = decoder.decode(QByteArrayView(bytes, 2));
+  return decoder.hasError() ? OdString() : text;
+}
+
+/// What the escape at the beginning of `text` stands for, and its length; nothing if there is none.
+std::pair<OdString, qsizetype> escape(QStringView text) {
+  constexpr qsizetype kDigits = 4;
+  bool ok = false;
+  if (text.startsWith(u"\\U+") && text.size() >= 3 + kDigits) {
+    const ushort unit = text.mid(3, kDigits).toUShort(&ok, 16);
+    if (ok) return {OdString(QChar(unit)), 3 + kDigits};
+  }
+  if (text.startsWith(u"\\M+") && text.size() >= 4 + kDigits) {
+    const ushort code = text.mid(4, kDigits).toUShort(&ok, 16);
+    if (ok) return {multiByte(text[3].digitValue(), code), 4 + kDigits};
+  }
+  return {};
+}
+
+} // namespace
+
 OdString oddxf::withoutEscapes(const OdString& text) {
-  const QLatin1String kMark("\\U+");
-  if (!text.contains(kMark)) return text;
   OdString result;
   qsizetype at = 0;
   for (;;) {
-    const qsizetype mark = text.indexOf(kMark, at);
+    const qsizetype mark = text.indexOf(u'\\', at);
     if (mark < 0) return result += QStringView(text).mid(at);
-    bool ok = false;
-    const QStringView digits = QStringView(text).mid(mark + 3, 4);
-    const ushort unit = digits.toUShort(&ok, 16);
     result += QStringView(text).mid(at, mark - at);
-    if (ok && digits.size() == 4)
-      result += QChar(unit);
-    else
-      result += QStringView(text).mid(mark, 7);
-    at = std::min(mark + 7, text.size());
+    const auto [meaning, length] = escape(QStringView(text).mid(mark));
+    if (meaning.isEmpty()) result += u'\\';
+    result += meaning;
+    at = mark + (meaning.isEmpty() ? 1 : length);
   }
 }
 

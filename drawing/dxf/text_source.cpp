@@ -64,11 +64,12 @@ bool OdDbDxfTextSource::nextLine(std::string_view& line, std::size_t longest) {
         return true;
       }
       if (m_bytes.more()) continue;
-      if (m_bytes.left() == 0) return false;
+      if (m_bytes.left() == 0 || !m_bytes.problem().isEmpty()) return false;
       next = stop = m_bytes.end;
     }
     if (stop != m_bytes.at && stop[-1] == '\r') --stop;
     line = {m_bytes.at, static_cast<std::size_t>(stop - m_bytes.at)};
+    m_tooLong = line.size() > longest;
     m_bytes.at = next;
     ++m_nextLine;
     return true;
