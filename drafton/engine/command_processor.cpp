@@ -402,7 +402,10 @@ void CommandProcessor::cancelCommands() {
   m_word.clear();
   m_wordTooLong = false;
   m_paused = false;
-  if (m_frames.empty()) return;
+  if (m_frames.empty()) {
+    if (m_document) m_document->preselection().clear();
+    return;
+  }
   m_engine.print(translated(u"*Cancel*"));
   for (const auto& frame : m_frames) frame->isCancelled = true;
   // All but the innermost are on the stack and see the mark when control comes back to them.

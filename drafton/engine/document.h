@@ -51,6 +51,9 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   std::map<OdString, OdVariant>& values() { return m_values; }
   /// Entities that "Previous" chooses.
   std::vector<OdDbObjectId>& previousSelection() { return m_previousSelection; }
+  /// Entities that were chosen while no command ran; the next command that asks for entities takes
+  /// them.
+  std::vector<OdDbObjectId>& preselection() { return m_preselection; }
 
   /// From now on there is no drawing for anybody who asks.
   void beginClosing();
@@ -64,7 +67,7 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   OdString m_name;
   HostVariables m_variables;
   std::map<OdString, OdVariant> m_values;
-  std::vector<OdDbObjectId> m_previousSelection;
+  std::vector<OdDbObjectId> m_previousSelection, m_preselection;
   OdGePoint3d m_lastPoint;
   int m_locks = 0;
   std::optional<OdString> m_lockStep; ///< the name of the step that the lock opened

@@ -65,6 +65,8 @@ class Engine {
   Console& console() { return m_console; }
   /// Prints a line of its own.
   void print(const OdString& text) { m_console.print(u'\n' + text); }
+  /// The folder of the program, where its data stand; empty if there is none.
+  const OdString& programFolder() const { return m_options.programFolder; }
   /// The stored path of the command route map; empty if it is missing.
   OdString commandRouteMap() const;
 

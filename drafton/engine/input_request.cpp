@@ -100,7 +100,7 @@ InputRequest::InputRequest(const RealPrompt& prompt)
 }
 
 InputRequest::InputRequest(const StringPrompt& prompt)
-  : InputRequest(Kind::kString, prompt.text, {}, prompt.allowEmpty) {
+  : InputRequest(Kind::kString, prompt.text, prompt.keywords, prompt.allowEmpty) {
   m_allowBlanks = prompt.allowBlanks;
   if (!prompt.defaultValue) return;
   m_shownDefault = prompt.defaultValue->toString();

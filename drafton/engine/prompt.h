@@ -75,6 +75,7 @@ struct RealPrompt {
 
 struct StringPrompt {
   QStringView text;
+  QStringView keywords = {};
   /// A blank belongs to the text and only Enter ends it. Without it a text with blanks is put in
   /// double quotes. In both forms one pair of quotes around the whole text is taken off.
   bool allowBlanks = false;

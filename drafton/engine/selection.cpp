@@ -1,227 +1,206 @@
 #include "drafton/engine/selection.h"
 
+#include "drafton/engine/commands/property_prompts.h"
+#include "drafton/engine/document.h"
 #include "drafton/engine/engine.h"
-#include "drafton/engine/entity_outline.h"
-
-#include <algorithm>
-#include <unordered_set>
+#include "drafton/engine/entity_groups.h"
+#include "drafton/engine/selection_set.h"
 
 namespace drafton {
 namespace {
 
-/// An entity that can be chosen, with its box.
-struct Candidate {
-  OdDbObjectId id;
-  OdGeExtents3d box;
+constexpr QStringView kKeywords =
+    u"Window Crossing BOX ALL Last Previous Fence WPolygon CPolygon Add Remove Undo SIngle Handle "
+    u"FIlter";
+
+/// A way of choosing that needs two corners.
+struct BoxWay {
+  const char16_t* keyword;
+  enum { kInside, kMeeting, kByDirection } how;
 };
 
-bool isReachable(const OdDbEntity& entity) {
-  if (!entity.isVisible()) return false;
-  const OdDbLayerTableRecordPtr layer = entity.layerId().openObject();
-  return !layer || !(layer->isOff() || layer->isFrozen() || layer->isLocked());
-}
+constexpr BoxWay kBoxWays[] = {
+    {u"Window", BoxWay::kInside}, {u"Crossing", BoxWay::kMeeting}, {u"BOX", BoxWay::kByDirection}};
 
-std::vector<Candidate> candidates(OdDbDatabase& database) {
-  std::vector<Candidate> found;
-  const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
-  for (auto at = space->newIterator(); !at->done(); at->step()) {
-    const OdDbEntityPtr entity = at->entity();
-    if (!entity || !isReachable(*entity)) continue;
-    Candidate candidate{at->objectId(), {}};
-    entity->getGeomExtents(candidate.box);
-    found.push_back(candidate);
-  }
-  return found;
-}
-
-OdGeExtents3d boxOf(const OdGePoint3d& a, const OdGePoint3d& b) {
-  OdGeExtents3d box;
-  box.addPoint(a);
-  box.addPoint(b);
-  return box;
-}
-
-bool isInside(const OdGeExtents3d& inner, const OdGeExtents3d& outer) {
-  return !inner.isEmpty() && inner.minPoint().x >= outer.minPoint().x &&
-         inner.minPoint().y >= outer.minPoint().y && inner.maxPoint().x <= outer.maxPoint().x &&
-         inner.maxPoint().y <= outer.maxPoint().y;
-}
-
-bool meets(const OdGeExtents3d& a, const OdGeExtents3d& b) {
-  return !a.isEmpty() && a.minPoint().x <= b.maxPoint().x && b.minPoint().x <= a.maxPoint().x &&
-         a.minPoint().y <= b.maxPoint().y && b.minPoint().y <= a.maxPoint().y;
-}
-
-/// How far a point may lie from what it picks. Without a view a thousandth of the drawing stands
-/// for a pixel.
-double pickDistance(CommandContext& context) {
-  OdVariant pixels;
-  context.variables().get(QStringLiteral("PICKBOX"), pixels);
-  const OdDbObjectId space = context.database().getCurrentSpaceId();
-  const OdGeExtents3d box = space.openAs<OdDbBlockTableRecord>()->extents();
-  if (box.isEmpty()) return 0;
-  const OdGeVector3d size = box.maxPoint() - box.minPoint();
-  return pixels.toDouble() * std::max({size.x, size.y, 1e-6}) / 1000;
-}
-
-/// One running choice.
-class Chooser {
- public:
-  explicit Chooser(CommandContext& context)
-    : m_context(context) {}
-
-  void add(const Selection& found, bool removing);
-  void undo();
-  Selection all() const {
-    return candidatesThat([](const OdGeExtents3d&) { return true; });
-  }
-  Selection last() const;
-  Selection previous() const;
-  Selection at(const OdGePoint3d& point) const;
-  Selection inWindow(const OdGePoint3d& a, const OdGePoint3d& b) const;
-  Selection crossing(const OdGePoint3d& a, const OdGePoint3d& b) const;
-  Selection byHandle(const OdString& handle) const;
-  const Selection& chosen() const { return m_chosen; }
-
- private:
-  template <class Test>
-  Selection candidatesThat(const Test& test) const {
-    Selection found;
-    for (const Candidate& candidate : candidates(m_context.database()))
-      if (test(candidate.box)) found.push_back(candidate.id);
-    return found;
-  }
-
-  CommandContext& m_context;
-  Selection m_chosen;
-  std::vector<Selection> m_history;
+/// A way of choosing that needs a line of points.
+struct LineWay {
+  const char16_t* keyword;
+  std::size_t fewest; ///< points
+  const char16_t* tooFew;
 };
 
-void Chooser::add(const Selection& found, bool removing) {
-  const std::unordered_set<OdDbObjectId> now(m_chosen.begin(), m_chosen.end());
-  Selection next = m_chosen;
-  if (removing) {
-    const std::unordered_set<OdDbObjectId> doomed(found.begin(), found.end());
-    std::erase_if(next, [&](const OdDbObjectId& id) { return doomed.contains(id); });
-  } else {
-    std::copy_if(found.begin(), found.end(), std::back_inserter(next),
-                 [&](const OdDbObjectId& id) { return !now.contains(id); });
-  }
-  m_history.push_back(std::exchange(m_chosen, std::move(next)));
-  m_context.print(translated(u"%1 found, %2 in total").arg(found.size()).arg(m_chosen.size()));
-}
+constexpr LineWay kLineWays[] = {
+    {u"WPolygon", 3, u"A polygon needs three corners."},
+    {u"CPolygon", 3, u"A polygon needs three corners."},
+    {u"Fence", 2, u"A fence needs two points."},
+};
 
-void Chooser::undo() {
-  if (m_history.empty()) return m_context.print(translated(u"There is nothing to undo."));
-  m_chosen = std::move(m_history.back());
-  m_history.pop_back();
-}
-
-Selection Chooser::last() const {
-  const Selection every = all();
-  return every.empty() ? Selection() : Selection{every.back()};
-}
-
-Selection Chooser::previous() const {
-  Selection found;
-  const OdDbObjectId space = m_context.database().getCurrentSpaceId();
-  for (const OdDbObjectId& id : m_context.document().previousSelection())
-    if (const OdDbEntityPtr entity = id.openObject();
-        entity && entity->ownerId() == space && isReachable(*entity))
-      found.push_back(id);
-  return found;
-}
-
-Selection Chooser::at(const OdGePoint3d& point) const {
-  // What is drawn last lies on top.
-  const std::vector<Candidate> all = candidates(m_context.database());
-  const double reach = pickDistance(m_context);
-  for (auto candidate = all.rbegin(); candidate != all.rend(); ++candidate) {
-    const OdDbEntityPtr entity = candidate->id.openObject();
-    if (entity && distanceTo(outlineOf(*entity), point) <= reach) return {candidate->id};
-  }
-  return {};
-}
-
-Selection Chooser::inWindow(const OdGePoint3d& a, const OdGePoint3d& b) const {
-  const OdGeExtents3d window = boxOf(a, b);
-  return candidatesThat([&](const OdGeExtents3d& box) { return isInside(box, window); });
-}
-
-Selection Chooser::crossing(const OdGePoint3d& a, const OdGePoint3d& b) const {
-  Selection found;
-  const OdGeExtents3d window = boxOf(a, b);
-  for (const Candidate& candidate : candidates(m_context.database())) {
-    if (!meets(candidate.box, window)) continue;
-    const OdDbEntityPtr entity = candidate.id.openObject();
-    if (isInside(candidate.box, window) || (entity && meetsBox(outlineOf(*entity), window)))
-      found.push_back(candidate.id);
-  }
-  return found;
-}
-
-Selection Chooser::byHandle(const OdString& handle) const {
-  const std::optional<OdDbHandle> number = OdDbHandle::fromText(handle.toLatin1().toStdString());
-  const OdDbObjectId id = number ? m_context.database().getOdDbObjectId(*number) : OdDbObjectId();
-  // What belongs to an entity, or bounds the space, has a handle as well.
-  const Selection every = all();
-  return std::find(every.begin(), every.end(), id) != every.end() ? Selection{id} : Selection();
-}
-
-Task<Selection> askWindow(CommandContext& context, const Chooser& chooser, bool crossing) {
-  const Answer<OdGePoint3d> first =
-      co_await context.input().point({.text = u"Specify first corner"});
+Task<Selection> askBox(CommandContext& context, const SelectionPicker& picker, OdGePoint3d first,
+                       BoxWay way) {
   const Answer<OdGePoint3d> second =
-      co_await context.input().point({.text = u"Specify opposite corner", .base = first.value});
-  co_return crossing ? chooser.crossing(first.value, second.value)
-                     : chooser.inWindow(first.value, second.value);
+      co_await context.input().point({.text = u"Specify opposite corner", .base = first});
+  const SelectionRegion window = SelectionRegion::window(first, second.value);
+  const bool meeting =
+      way.how == BoxWay::kMeeting || (way.how == BoxWay::kByDirection && second.value.x < first.x);
+  co_return meeting ? picker.meeting(window) : picker.inside(window);
+}
+
+/// The corners of a polygon or the points of a fence, until Enter.
+Task<std::vector<OdGePoint3d>> askLine(CommandContext& context, bool isFence) {
+  CommandInput& input = context.input();
+  const QStringView question = isFence ? u"Specify first fence point" : u"First polygon point";
+  const Answer<OdGePoint3d> first = co_await input.point({.text = question});
+  std::vector<OdGePoint3d> points(1, first.value);
+  for (;;) {
+    const Answer<OdGePoint3d> next =
+        co_await input.point({.text = isFence ? QStringView(u"Specify next fence point")
+                                              : QStringView(u"Specify endpoint of line"),
+                              .keywords = u"Undo",
+                              .base = points.back(),
+                              .allowEmpty = true});
+    if (next.isEmpty()) co_return points;
+    if (next.isValue())
+      points.push_back(next.value);
+    else if (points.size() > 1)
+      points.pop_back();
+    else
+      context.print(translated(u"There is nothing to undo."));
+  }
+}
+
+Task<Selection> askLineWay(CommandContext& context, const SelectionPicker& picker,
+                           const LineWay& way) {
+  const bool isFence = way.fewest == 2;
+  const std::vector<OdGePoint3d> points = co_await askLine(context, isFence);
+  if (points.size() < way.fewest) {
+    context.print(translated(way.tooFew));
+    co_return Selection();
+  }
+  if (isFence) co_return picker.meeting(SelectionRegion::fence(points));
+  const SelectionRegion polygon = SelectionRegion::polygon(points);
+  co_return QStringView(way.keyword) == u"WPolygon" ? picker.inside(polygon)
+                                                    : picker.meeting(polygon);
+}
+
+/// Asks for patterns of names.
+Task<OdString> askPatterns(CommandContext& context, const char16_t* question) {
+  const Answer<OdString> patterns =
+      co_await context.input().string({.text = question, .defaultValue = u"*"});
+  co_return patterns.value;
+}
+
+Task<void> askFilter(CommandContext& context, SelectionFilter& filter) {
+  const Answer<OdString> kind =
+      co_await context.input().keyword({.text = u"Enter what to filter by",
+                                        .keywords = u"Type Layer Color LType None",
+                                        .defaultValue = u"Type"});
+  if (kind.is(u"None")) filter = {};
+  if (kind.is(u"Type")) filter.types = co_await askPatterns(context, u"Enter type(s) of objects");
+  if (kind.is(u"Layer")) filter.layers = co_await askPatterns(context, u"Enter layer name(s)");
+  if (kind.is(u"LType"))
+    filter.linetypes = co_await askPatterns(context, u"Enter linetype name(s)");
+  if (kind.is(u"Color"))
+    filter.color = co_await askColor(context, u"Enter color", OdCmColor(), ColorKinds::kAll);
+  context.print(filter.isSet() ? translated(u"Filter: %1").arg(filter.shown())
+                               : translated(u"No filter."));
+}
+
+/// The entities that one answer at the prompt means.
+Task<Selection> found(CommandContext& context, SelectionPicker& picker,
+                      Answer<OdGePoint3d> answer) {
+  if (answer.is(u"ALL")) co_return picker.all();
+  if (answer.is(u"Last")) co_return picker.last();
+  if (answer.is(u"Previous")) co_return picker.previous();
+  if (answer.is(u"Handle")) {
+    const Answer<OdString> handle = co_await context.input().string({.text = u"Enter the handle"});
+    co_return picker.byHandle(handle.value);
+  }
+  for (const BoxWay& way : kBoxWays)
+    if (answer.is(way.keyword)) {
+      const Answer<OdGePoint3d> first =
+          co_await context.input().point({.text = u"Specify first corner"});
+      co_return co_await askBox(context, picker, first.value, way);
+    }
+  for (const LineWay& way : kLineWays)
+    if (answer.is(way.keyword)) co_return co_await askLineWay(context, picker, way);
+  Selection picked = picker.at(answer.value);
+  // An empty place begins a window.
+  if (picked.empty()) picked = co_await askBox(context, picker, answer.value, kBoxWays[2]);
+  co_return picked;
+}
+
+void remember(CommandContext& context, const Selection& chosen) {
+  if (!chosen.empty()) context.document().previousSelection() = chosen;
+}
+
+/// True if an entity is chosen with the others of its group.
+bool picksGroups(CommandContext& context) {
+  OdVariant style;
+  return context.variables().get(QStringLiteral("PICKSTYLE"), style) && (style.toInt32() & 1);
+}
+
+/// What was chosen before the command; empty if nothing was, or it shall not count.
+Selection takePreselection(CommandContext& context) {
+  const Selection before = std::exchange(context.document().preselection(), {});
+  OdVariant counts;
+  if (!context.variables().get(QStringLiteral("PICKFIRST"), counts) || counts.toInt32() == 0)
+    return {};
+  return SelectionPicker(context.document()).amongst(before);
 }
 
 } // namespace
 
 Task<Selection> selectObjects(CommandContext& context, QStringView prompt) {
   const OdString question = prompt.toString();
-  Chooser chooser(context);
-  bool removing = false;
+  if (const Selection before = takePreselection(context); !before.empty()) {
+    context.print(translated(u"%1 found").arg(before.size()));
+    remember(context, before);
+    co_return before;
+  }
+  SelectionPicker picker(context.document());
+  SelectionSet set;
+  bool removing = false, isSingle = false;
   for (;;) {
     const Answer<OdGePoint3d> answer = co_await context.input().point(
         {.text = removing ? QStringView(u"Remove objects") : QStringView(question),
-         .keywords = u"Window Crossing ALL Last Previous Add Remove Handle Undo",
+         .keywords = kKeywords,
          .allowEmpty = true});
     if (answer.isEmpty()) break;
     if (answer.is(u"Add") || answer.is(u"Remove")) {
       removing = answer.is(u"Remove");
-      continue;
+    } else if (answer.is(u"Undo")) {
+      if (!set.undo()) context.print(translated(u"There is nothing to undo."));
+    } else if (answer.is(u"SIngle")) {
+      isSingle = true;
+    } else if (answer.is(u"FIlter")) {
+      co_await askFilter(context, picker.filter());
+    } else {
+      Selection more = co_await found(context, picker, answer);
+      if (picksGroups(context)) more = picker.amongst(withGroups(context.database(), more));
+      removing ? set.remove(more) : set.add(more);
+      context.print(translated(u"%1 found, %2 in total").arg(more.size()).arg(set.chosen().size()));
+      if (isSingle && !more.empty()) break;
     }
-    if (answer.is(u"Undo")) {
-      chooser.undo();
-      continue;
-    }
-    Selection found;
-    if (answer.is(u"ALL")) found = chooser.all();
-    if (answer.is(u"Last")) found = chooser.last();
-    if (answer.is(u"Previous")) found = chooser.previous();
-    if (answer.is(u"Window")) found = co_await askWindow(context, chooser, false);
-    if (answer.is(u"Crossing")) found = co_await askWindow(context, chooser, true);
-    if (answer.is(u"Handle")) {
-      const Answer<OdString> handle =
-          co_await context.input().string({.text = u"Enter the handle"});
-      found = chooser.byHandle(handle.value);
-    }
-    if (answer.isValue()) {
-      found = chooser.at(answer.value);
-      if (found.empty()) {
-        // An empty place begins a window: to the right what is inside, to the left what is met.
-        const Answer<OdGePoint3d> corner = co_await context.input().point(
-            {.text = u"Specify opposite corner", .base = answer.value});
-        found = corner.value.x < answer.value.x ? chooser.crossing(answer.value, corner.value)
-                                                : chooser.inWindow(answer.value, corner.value);
-      }
-    }
-    chooser.add(found, removing);
   }
-  if (!chooser.chosen().empty()) context.document().previousSelection() = chooser.chosen();
-  co_return chooser.chosen();
+  remember(context, set.chosen());
+  co_return set.chosen();
+}
+
+Task<PickedEntity> selectEntity(CommandContext& context, QStringView prompt, QStringView keywords) {
+  const OdString question = prompt.toString();
+  const SelectionPicker picker(context.document());
+  const OdString every = keywords.toString() + QStringLiteral(" Last");
+  for (;;) {
+    const Answer<OdGePoint3d> answer =
+        co_await context.input().point({.text = question, .keywords = every, .allowEmpty = true});
+    if (answer.isEmpty()) co_return PickedEntity();
+    if (!answer.isValue() && !answer.is(u"Last")) co_return PickedEntity{{}, {}, answer.keyword};
+    const Selection picked = answer.isValue() ? picker.at(answer.value) : picker.last();
+    if (!picked.empty())
+      co_return PickedEntity{
+          picked.front(), answer.isValue() ? answer.value : context.lastPoint(), {}};
+    context.print(translated(u"Nothing was found there."));
+  }
 }
 
 } // namespace drafton

@@ -2,22 +2,33 @@
 #pragma once
 
 #include "drafton/engine/command_context.h"
+#include "drafton/engine/selection_picker.h"
 #include "drafton/engine/task.h"
-
-#include "drawing/object.h"
-
-#include <vector>
 
 namespace drafton {
 
-/// Entities in the order in which they were chosen, each once.
-using Selection = std::vector<OdDbObjectId>;
-
-/// Asks for entities until Enter: a point picks the topmost entity near it; Window and Crossing
-/// take two corners (two corners from an empty place choose between them by direction); ALL, Last
-/// and Previous; Remove and Add switch what a choice does; Undo takes back the last choice; #1F
-/// names an entity by its handle. Only the space that is shown counts. Entities on locked, off or
-/// frozen layers are left out. Empty if nothing was chosen. What is chosen becomes "Previous".
+/// Asks for entities until Enter. What was chosen before the command is taken without a question.
+///
+/// A point picks the topmost entity near it; two corners from an empty place choose by their
+/// direction, as BOX does: to the right what is inside, to the left what is met. Window and
+/// WPolygon take what lies inside, Crossing and CPolygon also what is cut, Fence what a line meets;
+/// ALL, Last, Previous; Handle names an entity; FIlter sets what may be chosen at all. Remove and
+/// Add switch what a choice does, Undo takes back the last one, SIngle ends with the next one.
+/// An entity of a group brings the others with it unless PICKSTYLE says otherwise.
+/// Only the space that is shown counts, and entities on locked, off or frozen layers are left out.
+/// Empty if nothing was chosen. What is chosen becomes "Previous".
 Task<Selection> selectObjects(CommandContext& context, QStringView prompt = u"Select objects");
+
+/// One entity, and where it was pointed at.
+struct PickedEntity {
+  OdDbObjectId id; ///< null if Enter or a keyword was given
+  OdGePoint3d point;
+  OdString keyword; ///< empty if none was given
+};
+
+/// Asks for one entity: a point on it, or Last. Enter ends without one. `keywords` are those of the
+/// command.
+Task<PickedEntity> selectEntity(CommandContext& context, QStringView prompt,
+                                QStringView keywords = {});
 
 } // namespace drafton

@@ -122,7 +122,10 @@ void OdDbDimension::setNormal(const OdGeVector3d& normal) {
 
 OdString OdDbDimension::displayedText() const {
   const bool isAngle = kind() == kAngular || kind() == k3PointAngular;
-  return oddb::dimensionText(m_dimension.text, getMeasurement(), isAngle, dimVars());
+  const OdString symbol = kind() == kRadial      ? QStringLiteral("R")
+                          : kind() == kDiametric ? QStringLiteral("%%c")
+                                                 : OdString();
+  return oddb::dimensionText(m_dimension.text, getMeasurement(), isAngle, dimVars(), symbol);
 }
 
 OdDbDimVarValues OdDbDimension::dimVars() const {

@@ -1,6 +1,5 @@
 #include "drafton/engine/selection.h"
 
-#include "drafton/engine/entity_outline.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
@@ -82,6 +81,31 @@ constexpr ChoiceRow kChoices[] = {
     {"all undo", ""},
     {"5,0 all", "lc"},
     {"5,0 5,0", "l"},
+    {"box -1,-3 30,3", "lc"},
+    {"box 6,3 5,-3", "l"},
+    {"wp 0,-1 10,-1 5,9 \n", ""}, // the line's ends are outside of the triangle
+    {"wp -5,-1 15,-1 5,9 \n", "l"},
+    {"wp -5,-1 15,-1 5,9 15,9 u u 5,9 \n", "l"},
+    {"wp -5,-1 15,-1 \n", ""}, // no polygon
+    {"cp 4,-1 6,-1 5,1 \n", "l"},
+    {"cp 4,1 6,1 5,2 \n", ""},
+    {"f 5,-1 5,1 15,1 \n", "l"},
+    {"f 19.5,0 20.5,0 \n", ""}, // inside of the circle is not on it
+    {"f 5,-1 5,1 30,1 \n", "lc"},
+    {"f 5,-1 \n", ""},
+    {"si 5,0", "l"},
+    {"si 5,0 20,2", "l"},
+    {"fi t circle all", "c"},
+    {"fi t LINE,CIRCLE all", "lc"},
+    {"fi t ~LINE -5,-5 30,5", "c"},
+    {"fi t OdDbCircle all", "c"},
+    {"fi l 0 all", "lc"},
+    {"fi l Other all", ""},
+    {"fi c 1 all", ""},
+    {"fi c bylayer all", "lc"},
+    {"fi lt ByLayer all", "lc"},
+    {"fi lt Continuous all", ""},
+    {"fi t circle fi n all", "lc"},
 };
 
 TEST_P(Choices, AreMade) {
@@ -129,28 +153,4 @@ TEST_F(SelectionTest, WhatBoundsASpaceIsNotChosenByItsHandle) {
   const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
   for (const OdDbObjectId id : {space->blockBeginId(), space->blockEndId()})
     EXPECT_EQ(chosenBy(QStringLiteral("h ") + id.getHandle().ascii()), QString());
-}
-
-TEST(EntityOutline, FollowsBulgesFromBothSides) {
-  const auto polyline = odrxMake<OdDbPolyline>();
-  polyline->addVertexAt(0, {0, 0}, 1);
-  polyline->addVertexAt(1, {10, 0});
-  // A half circle counterclockwise from left to right runs below.
-  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, -5, 0}), 0, 0.01);
-  EXPECT_GT(distanceTo(outlineOf(*polyline), {5, 5, 0}), 4);
-  polyline->setBulgeAt(0, -1);
-  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, 5, 0}), 0, 0.01);
-  polyline->setBulgeAt(0, 0);
-  polyline->setClosed(true);
-  EXPECT_NEAR(distanceTo(outlineOf(*polyline), {5, 0, 0}), 0, 1e-9);
-}
-
-TEST(EntityOutline, AnArcIsOnlyItsArc) {
-  const auto arc = odrxMake<OdDbArc>(OdGePoint3d{}, OdGeVector3d::zAxis(), 10.0, 0.0, kOdaPi / 2);
-  EXPECT_NEAR(distanceTo(outlineOf(*arc), {0, 10, 0}), 0, 1e-9);
-  EXPECT_GT(distanceTo(outlineOf(*arc), {0, -10, 0}), 9);
-  OdGeExtents3d box;
-  box.addPoint({-20, -20, 0});
-  box.addPoint({-1, -1, 0});
-  EXPECT_FALSE(meetsBox(outlineOf(*arc), box));
 }

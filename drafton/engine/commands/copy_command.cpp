@@ -2,7 +2,7 @@
 
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/displacement.h"
-#include "drafton/engine/commands/new_entities.h"
+#include "drafton/engine/commands/modified_entities.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 
@@ -17,20 +17,8 @@ class CopyMaker {
     , m_originals(originals) {}
 
   void copyBy(const OdGeVector3d& shift) {
-    Selection made;
-    int failed = 0;
-    for (const OdDbObjectId& id : m_originals) {
-      const auto original = id.openAs<OdDbEntity>();
-      const OdDbEntityPtr copy = original->clone();
-      if (!copy->transformBy(OdGeMatrix3d::translation(shift))) {
-        ++failed;
-        continue;
-      }
-      const auto owner = original->ownerId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
-      made.push_back(owner->appendOdDbEntity(copy));
-    }
-    m_runs.push_back(std::move(made));
-    if (failed > 0) m_context.print(translated(u"%1 could not be copied.").arg(failed));
+    m_runs.push_back(copyEntities(m_context, m_originals, by(OdGeMatrix3d::translation(shift)),
+                                  u"%1 could not be copied."));
   }
 
   /// False if there is no copy.

@@ -21,6 +21,8 @@ class DrawingSession : public OdRxObject {
   RectangleModes rectangle;
   double rectangleLength = 10, rectangleWidth = 10, rectangleArea = 100;
   double textRotation = 0;
+  double rotation = 0, scale = 1; ///< of ROTATE (radians) and SCALE
+  double donutInside = 0.5, donutOutside = 1;
 };
 
 } // namespace drafton

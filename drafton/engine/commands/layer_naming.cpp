@@ -1,6 +1,8 @@
 // LAYER: listing, making and renaming layers, and choosing the current one.
 
 #include "drafton/engine/commands/layer_options.h"
+#include "drafton/engine/commands/record_names.h"
+#include "drafton/engine/commands/shown_values.h"
 #include "drafton/engine/commands/wildcard.h"
 #include "drafton/engine/translator.h"
 
@@ -33,7 +35,7 @@ OdString stateOf(const OdDbLayerTableRecord& layer) {
 
 void printLayer(CommandContext& context, const OdDbLayerTableRecord& layer) {
   OdString line = QStringLiteral("\"%1\"  %2  %3  %4  %5")
-                      .arg(layer.getName(), stateOf(layer), shownLayerColor(layer.color()),
+                      .arg(layer.getName(), stateOf(layer), shownColor(layer.color()),
                            linetypeName(layer), shownLineWeight(layer.lineWeight()));
   if (const OdString text = layer.description(); !text.isEmpty())
     line += QStringLiteral("  ") + text;
@@ -42,7 +44,7 @@ void printLayer(CommandContext& context, const OdDbLayerTableRecord& layer) {
 
 /// True if layers may get the name; if not, tells why.
 bool checkName(CommandContext& context, const OdString& name) {
-  const OdString fault = layerNameFault(name);
+  const OdString fault = recordNameFault(name);
   if (fault.isEmpty()) return true;
   context.print(translated(u"\"%1\" is no name for a layer: %2.").arg(name.left(60), fault));
   return false;

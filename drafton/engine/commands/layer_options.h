@@ -33,9 +33,4 @@ Task<void> describeLayers(CommandContext& context);
 /// Enter gives the current layer if `allowsCurrent`, else no layer.
 Task<LayerSet::Match> askLayers(CommandContext& context, OdString question, bool allowsCurrent);
 
-/// A colour as LAYER shows it: "red", "30" or "255,128,0".
-OdString shownLayerColor(const OdCmColor& color);
-/// "0.25mm" or "Default".
-OdString shownLineWeight(OdDb::LineWeight weight);
-
 } // namespace drafton

@@ -4,27 +4,6 @@
 #include "drafton/engine/translator.h"
 
 namespace drafton {
-namespace {
-
-constexpr qsizetype kLongestName = 255;
-
-QStringView forbiddenSigns() { return u"<>/\\\":;?*|,=`"; }
-
-} // namespace
-
-OdString layerNameFault(QStringView name) {
-  if (name.isEmpty()) return translated(u"it is empty");
-  if (name.size() > kLongestName)
-    return translated(u"it is longer than %1 characters").arg(kLongestName);
-  for (const QChar c : name) {
-    if (forbiddenSigns().contains(c)) return translated(u"the character %1 is not allowed").arg(c);
-    if (c.category() == QChar::Other_Control)
-      return translated(u"control characters are not allowed");
-  }
-  if (name.trimmed() != name) return translated(u"it begins or ends with a blank");
-  return {};
-}
-
 QStringList namesInList(const OdString& list) {
   QStringList names;
   for (const OdString& part : list.split(u','))

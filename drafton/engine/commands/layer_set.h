@@ -8,9 +8,6 @@
 
 namespace drafton {
 
-/// Why a text cannot be the name of a layer; empty if it can.
-OdString layerNameFault(QStringView name);
-
 /// The texts between commas, without blanks around them and without empty ones.
 QStringList namesInList(const OdString& list);
 

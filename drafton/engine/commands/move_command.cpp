@@ -2,9 +2,8 @@
 
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/displacement.h"
+#include "drafton/engine/commands/modified_entities.h"
 #include "drafton/engine/selection.h"
-#include "drafton/engine/translator.h"
-#include "drawing/entities/entity.h"
 
 namespace drafton {
 namespace {
@@ -27,12 +26,7 @@ Task<void> move(CommandContext& context) {
   const Selection chosen = co_await selectObjects(context);
   if (chosen.empty()) co_return;
   const OdGeVector3d shift = co_await askMove(context);
-  int failed = 0;
-  for (const OdDbObjectId& id : chosen) {
-    const auto entity = id.openAs<OdDbEntity>(OdDb::kForWrite);
-    if (!entity->transformBy(OdGeMatrix3d::translation(shift))) ++failed;
-  }
-  if (failed > 0) context.print(translated(u"%1 could not be moved.").arg(failed));
+  moveEntities(context, chosen, by(OdGeMatrix3d::translation(shift)), u"%1 could not be moved.");
 }
 
 } // namespace drafton

@@ -4,52 +4,19 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/new_entities.h"
+#include "drafton/engine/commands/shown_values.h"
 #include "drafton/engine/commands/text_line.h"
+#include "drafton/engine/commands/text_style_prompt.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
 
 namespace drafton {
 namespace {
 
-OdString styleName(const OdDbDatabase& database) {
-  const OdDbTextStyleTableRecordPtr style = database.currentTextStyle().openObject();
-  return style ? style->getName() : OdString();
-}
-
 /// The height that the current style prescribes; 0 if texts choose their own.
 double fixedHeight(const OdDbDatabase& database) {
   const OdDbTextStyleTableRecordPtr style = database.currentTextStyle().openObject();
   return style ? style->textSize() : 0;
-}
-
-void printStyles(CommandContext& context) {
-  context.print(translated(u"Text styles:"));
-  const auto styles = context.database().getTextStyleTableId().openAs<OdDbTextStyleTable>();
-  for (auto at = styles->newIterator(); !at->done(); at->step()) {
-    const OdDbTextStyleTableRecordPtr style = at->getRecord();
-    if (style && !style->isShapeFile())
-      context.print(translated(u"  %1  Font: %2  Height: %3")
-                        .arg(style->getName(), style->fileName(), shownReal(style->textSize())));
-  }
-}
-
-Task<void> askStyle(CommandContext& context) {
-  for (;;) {
-    const OdString current = styleName(context.database());
-    const Answer<OdString> name = co_await context.input().string(
-        {.text = u"Enter style name or ?", .defaultValue = QStringView(current)});
-    if (name.value == QLatin1String("?")) {
-      printStyles(context);
-      continue;
-    }
-    const auto styles = context.database().getTextStyleTableId().openAs<OdDbTextStyleTable>();
-    const OdDbTextStyleTableRecordPtr style = styles->getAt(name.value).openObject();
-    if (style && !style->isShapeFile()) {
-      context.database().setCurrentTextStyle(style->objectId());
-      co_return;
-    }
-    context.print(translated(u"There is no text style \"%1\".").arg(name.value));
-  }
 }
 
 Task<OdGePoint3d> askSecondPoint(CommandContext& context, OdGePoint3d first) {
@@ -75,7 +42,7 @@ Task<std::optional<TextLayout>> askPlace(CommandContext& context) {
         co_await input.point({.text = question, .keywords = keywords, .allowEmpty = mayContinue});
     if (start.isEmpty()) co_return std::nullopt;
     if (start.is(u"Style")) {
-      co_await askStyle(context);
+      co_await askCurrentTextStyle(context);
     } else if (start.is(u"Justify")) {
       const OdString modes = textJustificationKeywords();
       const Answer<OdString> mode =
@@ -123,7 +90,8 @@ Task<void> askSize(CommandContext& context, TextLayout& layout) {
 Task<void> text(CommandContext& context) {
   OdDbDatabase& database = context.database();
   const OdString current = translated(u"Current text style: \"%1\"  Text height: %2");
-  context.print(current.arg(styleName(database), shownReal(database.sysVarReal("TEXTSIZE"))));
+  context.print(current.arg(recordName(database.currentTextStyle()),
+                            shownReal(database.sysVarReal("TEXTSIZE"))));
   std::optional<TextLayout> layout;
   while (!layout) {
     layout = co_await askPlace(context);

@@ -3,9 +3,17 @@
 
 #include "engine/commands/scripts.h"
 #include "engine/support/engine_fixture.h"
+#include "frame/file_path.h"
 
 class CommandFixture : public EngineFixture {
  protected:
+  /// The program's data stand where they are kept, so that commands find them.
+  static drafton::EngineOptions withProgramFolder() {
+    drafton::EngineOptions options;
+    options.programFolder =
+        odpath::fromPlatform(QStringLiteral(TEST_DATA_DIR "/../../drafton/engine/data"));
+    return options;
+  }
   static QStringList wordsOf(const char16_t* text) {
     return text ? OdString::fromUtf16(text).split(u'|') : QStringList();
   }

@@ -5,8 +5,13 @@
 #include "drafton/engine/value_parser.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/ellipse.h"
+#include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 
 using drafton::shownAngle;
@@ -76,12 +81,72 @@ OdString describe(const OdDbText& text) {
   return line;
 }
 
+OdString joined(const std::vector<OdGePoint3d>& points) {
+  QStringList texts;
+  for (const OdGePoint3d& point : points) texts << shownPoint(point);
+  return texts.join(QStringLiteral(" / "));
+}
+
+OdString describe(const OdDbPoint& point) {
+  return QStringLiteral("POINT ") + shownPoint(point.position()) + raised(point.thickness());
+}
+
+OdString describe(const OdDbEllipse& ellipse) {
+  return QStringLiteral("ELLIPSE %1 axis%2 ratio%3 %4..%5")
+      .arg(shownPoint(ellipse.center()), shownPoint(OdGePoint3d() + ellipse.majorAxis()),
+           shownReal(ellipse.radiusRatio()), shownAngle(ellipse.startParam()),
+           shownAngle(ellipse.endParam()));
+}
+
+OdString describe(const OdDbSpline& spline) {
+  OdString text = QStringLiteral("SPLINE fit ") + joined(spline.fitPoints());
+  if (!spline.startTangent().isZeroLength())
+    text += QStringLiteral(" from") + shownPoint(OdGePoint3d() + spline.startTangent());
+  if (!spline.endTangent().isZeroLength())
+    text += QStringLiteral(" to") + shownPoint(OdGePoint3d() + spline.endTangent());
+  return text;
+}
+
+OdString describe(const OdDbMText& text) {
+  OdString line = QStringLiteral("MTEXT \"%1\" at %2 h%3 w%4 %5")
+                      .arg(text.contents(), shownPoint(text.location()),
+                           shownReal(text.textHeight()), shownReal(text.width()))
+                      .arg(int{text.attachment()});
+  if (text.lineSpacingFactor() != 1)
+    line += QStringLiteral(" spacing") + shownReal(text.lineSpacingFactor());
+  if (text.lineSpacingStyle() == OdDbMText::kExactly) line += QStringLiteral(" exactly");
+  if (text.rotation() != 0) line += QStringLiteral(" rot") + shownAngle(text.rotation());
+  return line;
+}
+
+OdString describe(const OdDbLeader& leader) {
+  OdString head = QStringLiteral("LEADER ");
+  if (leader.isSplined()) head += QStringLiteral("splined ");
+  if (!leader.hasArrowHead()) head += QStringLiteral("noarrow ");
+  std::vector<OdGePoint3d> corners;
+  for (unsigned i = 0; i < leader.numVertices(); ++i) corners.push_back(leader.vertexAt(i));
+  return head + joined(corners) + (leader.hasHookLine() ? QStringLiteral(" hook") : OdString());
+}
+
+template <class Entity>
+bool describeAs(const OdDbObject& object, OdString& text) {
+  const Entity* const entity = odrxCast<Entity>(&object);
+  if (entity) text = describe(*entity);
+  return entity != nullptr;
+}
+
+using Describer = bool (*)(const OdDbObject& object, OdString& text);
+constexpr Describer kDescribers[] = {
+    describeAs<OdDbLine>,     describeAs<OdDbCircle>, describeAs<OdDbArc>,
+    describeAs<OdDbPolyline>, describeAs<OdDbText>,   describeAs<OdDbPoint>,
+    describeAs<OdDbEllipse>,  describeAs<OdDbSpline>, describeAs<OdDbMText>,
+    describeAs<OdDbLeader>,
+};
+
 OdString describe(const OdDbObject& object) {
-  if (const auto* line = odrxCast<OdDbLine>(&object)) return describe(*line);
-  if (const auto* circle = odrxCast<OdDbCircle>(&object)) return describe(*circle);
-  if (const auto* arc = odrxCast<OdDbArc>(&object)) return describe(*arc);
-  if (const auto* polyline = odrxCast<OdDbPolyline>(&object)) return describe(*polyline);
-  if (const auto* text = odrxCast<OdDbText>(&object)) return describe(*text);
+  OdString text;
+  for (const Describer describer : kDescribers)
+    if (describer(object, text)) return text;
   return QLatin1String(object.dxfName());
 }
 

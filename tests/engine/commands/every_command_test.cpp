@@ -7,7 +7,7 @@ namespace {
 class EveryCommand : public CommandFixture, public ::testing::WithParamInterface<Script> {
  protected:
   void setUpDrawing() {
-    restart({});
+    restart(withProgramFolder());
     runScript(GetParam().setup);
     ASSERT_FALSE(isRunning()) << "the setup does not end";
     console().clear();

@@ -2,9 +2,10 @@
 
 std::vector<Script> allScripts() {
   std::vector<Script> all;
-  for (const auto& table :
-       {lineScripts(), polylineScripts(), circleScripts(), arcScripts(), rectangleScripts(),
-        textScripts(), modifyScripts(), zoomScripts(), setvarScripts(), layerScripts()})
+  for (const auto& table : {lineScripts(), polylineScripts(), circleScripts(), arcScripts(),
+                            rectangleScripts(), textScripts(), modifyScripts(), zoomScripts(),
+                            setvarScripts(), layerScripts(), editScripts(), propertyScripts(),
+                            shapeScripts(), dimensionScripts()})
     all.insert(all.end(), table.begin(), table.end());
   return all;
 }

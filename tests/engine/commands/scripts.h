@@ -27,6 +27,10 @@ std::span<const Script> modifyScripts();
 std::span<const Script> zoomScripts();
 std::span<const Script> setvarScripts();
 std::span<const Script> layerScripts();
+std::span<const Script> editScripts();
+std::span<const Script> propertyScripts();
+std::span<const Script> shapeScripts();
+std::span<const Script> dimensionScripts();
 
 /// All of the above.
 std::vector<Script> allScripts();

@@ -1,0 +1,42 @@
+// MIRROR.
+
+#include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/modified_entities.h"
+#include "drafton/engine/commands/readable_mirror.h"
+#include "drafton/engine/selection.h"
+#include "drafton/engine/translator.h"
+#include "drawing/database.h"
+
+namespace drafton {
+
+Task<void> mirror(CommandContext& context) {
+  CommandInput& input = context.input();
+  const Selection chosen = co_await selectObjects(context);
+  if (chosen.empty()) co_return;
+  const Answer<OdGePoint3d> first =
+      co_await input.point({.text = u"Specify first point of mirror line"});
+  OdGeVector3d line;
+  for (;;) {
+    const Answer<OdGePoint3d> second =
+        co_await input.point({.text = u"Specify second point of mirror line", .base = first.value});
+    line = second.value - first.value;
+    line.z = 0;
+    if (!line.isZeroLength()) break;
+    context.print(translated(u"The two points must differ."));
+  }
+  const Answer<OdString> erase = co_await input.keyword(
+      {.text = u"Erase source objects?", .keywords = u"Yes No", .defaultValue = u"No"});
+
+  const OdGeVector3d across = line.crossProduct(OdGeVector3d::zAxis());
+  const OdGeMatrix3d mirroring = OdGeMatrix3d::mirroring(first.value, across);
+  const bool mirrorsTexts = context.database().sysVarInt("MIRRTEXT") != 0;
+  const EntityMover mover = [&](OdDbEntity& entity) {
+    return mirrorsTexts ? entity.transformBy(mirroring) : mirrorReadably(entity, mirroring);
+  };
+  if (erase.is(u"Yes"))
+    moveEntities(context, chosen, mover, u"%1 could not be mirrored.");
+  else
+    copyEntities(context, chosen, mover, u"%1 could not be mirrored.");
+}
+
+} // namespace drafton

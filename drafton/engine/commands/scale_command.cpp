@@ -1,0 +1,61 @@
+// SCALE.
+
+#include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/drawing_session.h"
+#include "drafton/engine/commands/modified_entities.h"
+#include "drafton/engine/selection.h"
+#include "drafton/engine/translator.h"
+
+namespace drafton {
+namespace {
+
+/// A new length beside one that is there.
+Task<double> askReference(CommandContext& context, OdGePoint3d base) {
+  CommandInput& input = context.input();
+  const Answer<double> reference = co_await input.distance(
+      {.text = u"Specify reference length", .defaultValue = 1.0, .range = NumberRange::kPositive});
+  Answer<double> wanted = co_await input.distance({.text = u"Specify new length",
+                                                   .keywords = u"Points",
+                                                   .base = base,
+                                                   .defaultValue = 1.0,
+                                                   .range = NumberRange::kPositive});
+  if (wanted.is(u"Points"))
+    wanted =
+        co_await input.distance({.text = u"Specify first point", .range = NumberRange::kPositive});
+  co_return wanted.value / reference.value;
+}
+
+} // namespace
+
+Task<void> scale(CommandContext& context) {
+  const Selection chosen = co_await selectObjects(context);
+  if (chosen.empty()) co_return;
+  const Answer<OdGePoint3d> base = co_await context.input().point({.text = u"Specify base point"});
+  double& last = DrawingSession::of(context).scale;
+  bool copies = false;
+  std::optional<double> factor;
+  while (!factor) {
+    const Answer<double> answer =
+        co_await context.input().distance({.text = u"Specify scale factor",
+                                           .keywords = u"Copy Reference",
+                                           .base = base.value,
+                                           .defaultValue = last,
+                                           .range = NumberRange::kPositive});
+    if (answer.is(u"Copy")) {
+      copies = true;
+      context.print(translated(u"Scaling a copy of the selected objects."));
+    } else if (answer.is(u"Reference")) {
+      factor = co_await askReference(context, base.value);
+    } else {
+      factor = answer.value;
+    }
+  }
+  last = *factor;
+  const EntityMover grow = by(OdGeMatrix3d::scaling(*factor, base.value));
+  if (copies)
+    copyEntities(context, chosen, grow, u"%1 could not be scaled.");
+  else
+    moveEntities(context, chosen, grow, u"%1 could not be scaled.");
+}
+
+} // namespace drafton

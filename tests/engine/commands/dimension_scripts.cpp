@@ -1,0 +1,98 @@
+// DIMLINEAR, DIMALIGNED, DIMRADIUS, DIMDIAMETER.
+
+#include "drafton/engine/value_parser.h"
+#include "drawing/entities/dimension_kinds.h"
+#include "engine/commands/scripts.h"
+
+using namespace drafton;
+
+namespace {
+
+/// "rotated 90: 0,0,0 10,5,0 line 12,5,0 = 5": the points, and the text.
+OdString describe(const OdDbDimension& dimension) {
+  OdString line;
+  if (const auto* rotated = odrxCast<OdDbRotatedDimension>(&dimension))
+    line = QStringLiteral("rotated %1: ").arg(shownAngle(rotated->rotation()));
+  else if (odrxCast<OdDbAlignedDimension>(&dimension))
+    line = QStringLiteral("aligned: ");
+  if (const auto* linear = odrxCast<OdDbAlignedDimension>(&dimension))
+    line += QStringLiteral("%1 %2 line %3")
+                .arg(shownPoint(linear->xLine1Point()), shownPoint(linear->xLine2Point()),
+                     shownPoint(linear->dimLinePoint()));
+  if (const auto* radius = odrxCast<OdDbRadialDimension>(&dimension))
+    line = QStringLiteral("radius: %1 to %2 leader %3")
+               .arg(shownPoint(radius->center()), shownPoint(radius->chordPoint()),
+                    shownReal(radius->leaderLength()));
+  if (const auto* diameter = odrxCast<OdDbDiametricDimension>(&dimension))
+    line = QStringLiteral("diameter: %1 to %2 leader %3")
+               .arg(shownPoint(diameter->chordPoint()), shownPoint(diameter->farChordPoint()),
+                    shownReal(diameter->leaderLength()));
+  line += QStringLiteral(" = ") + dimension.displayedText();
+  if (dimension.textRotation() != 0)
+    line += QStringLiteral(" turned ") + shownAngle(dimension.textRotation());
+  if (dimension.dimBlockId().isNull()) line += QStringLiteral(" without a block");
+  return line;
+}
+
+OdString describeDimensions(OdDbDatabase& database) {
+  QStringList lines;
+  const auto space = database.getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  for (auto at = space->newIterator(); !at->done(); at->step()) {
+    const OdDbEntityPtr entity = at->entity();
+    if (const auto* dimension = odrxCast<OdDbDimension>(entity.get()))
+      lines << describe(*dimension);
+  }
+  return lines.join(u'\n');
+}
+
+constexpr char16_t kShapes[] = u"LINE|0,0|10,4||CIRCLE|30,0|5|ARC|c|50,0|55,0|50,5";
+
+constexpr Script kDimensions[] = {
+    {"Above", u"DIMLINEAR|0,0|10,5|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr,
+     describeDimensions},
+    {"Beside", u"DIMLINEAR|0,0|10,5|12,3", u"rotated 90: 0,0,0 10,5,0 line 12,5,0 = 5", nullptr,
+     describeDimensions},
+    {"Horizontal", u"DIMLINEAR|0,0|10,5|h|12,3", u"rotated 0: 0,0,0 10,5,0 line 10,3,0 = 10",
+     nullptr, describeDimensions},
+    {"Vertical", u"DIMLINEAR|0,0|10,5|v|4,9", u"rotated 90: 0,0,0 10,5,0 line 4,5,0 = 5", nullptr,
+     describeDimensions},
+    {"Rotated", u"DIMLINEAR|0,0|10,10|r|45|0,20", u"rotated 45: 0,0,0 10,10,0 line 0,20,0 = 14,14",
+     nullptr, describeDimensions},
+    {"EqualOriginsAreAskedAgain", u"DIMLINEAR|0,0|0,0|10,5|4,9",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr, describeDimensions},
+    {"OfALine", u"DIMLINEAR||5,2|5,9", u"rotated 0: 0,0,0 10,4,0 line 10,9,0 = 10", kShapes,
+     describeDimensions},
+    {"OfACircle", u"DIMLINEAR||35,0|30,9", u"rotated 0: 25,0,0 35,0,0 line 35,9,0 = 10", kShapes,
+     describeDimensions},
+    {"OfAText", u"DIMLINEAR||l|0,0|10,5|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10",
+     u"TEXT|0,0|5|0|abc|", describeDimensions},
+    {"OwnText", u"DIMLINEAR|0,0|10,5|t|about <>|4,9",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = about 10", nullptr, describeDimensions},
+    {"OwnLines", u"DIMLINEAR|0,0|10,5|m|wide|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = wide",
+     nullptr, describeDimensions},
+    {"MeasuredTextOnEnter", u"DIMLINEAR|0,0|10,5|t|wide|t|10|4,9",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr, describeDimensions},
+    {"TurnedText", u"DIMLINEAR|0,0|10,5|a|30|4,9",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10 turned 30", nullptr, describeDimensions},
+    {"Along", u"DIMALIGNED|0,0|30,40|0,20", u"aligned: 0,0,0 30,40,0 line 20.4,47.2,0 = 50",
+     nullptr, describeDimensions},
+    {"AlongALine", u"DIMALIGNED||5,2|0,5", u"aligned: 0,0,0 10,4,0 line 8.2759,8.3103,0 = 10,77",
+     kShapes, describeDimensions},
+    {"AlongWithText", u"DIMALIGNED|0,0|30,40|t|<> m|a|90|0,20",
+     u"aligned: 0,0,0 30,40,0 line 20.4,47.2,0 = 50 m turned 90", nullptr, describeDimensions},
+    {"OutsideACircle", u"DIMRADIUS|35,0|30,12", u"radius: 30,0,0 to 30,5,0 leader 7 = R5", kShapes,
+     describeDimensions},
+    {"WithinACircle", u"DIMRADIUS|35,0|28,0", u"radius: 30,0,0 to 25,0,0 leader 0 = R5", kShapes,
+     describeDimensions},
+    {"OfAnArc", u"DIMRADIUS|l|60,0", u"radius: 50,0,0 to 55,0,0 leader 5 = R5", kShapes,
+     describeDimensions},
+    {"OfALineIsAskedAgain", u"DIMRADIUS|5,2|l|t|5 all round|60,0",
+     u"radius: 50,0,0 to 55,0,0 leader 5 = 5 all round", kShapes, describeDimensions},
+    {"GivenUp", u"DIMRADIUS|", u"", kShapes, describeDimensions},
+    {"Across", u"DIMDIAMETER|35,0|30,12", u"diameter: 30,5,0 to 30,-5,0 leader 7 = %%c10", kShapes,
+     describeDimensions},
+};
+
+} // namespace
+
+std::span<const Script> dimensionScripts() { return kDimensions; }

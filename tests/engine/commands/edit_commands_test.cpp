@@ -1,0 +1,196 @@
+// Choosing before a command, groups, files of line types, dimension styles.
+
+#include "drawing/entities/dimension_kinds.h"
+#include "drawing/objects/group.h"
+#include "drawing/objects/named_styles.h"
+#include "engine/commands/command_fixture.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class EditCommands : public CommandFixture {
+ protected:
+  OdDbObjectId entityAt(int index) {
+    const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
+    auto at = space->newIterator();
+    while (index-- > 0) at->step();
+    return at->objectId();
+  }
+  OdDbDictionaryPtr groups() {
+    return oddb::createNamedDictionary(database(), oddb::NamedKind::kGroup)
+        .safeOpenObject(OdDb::kForWrite);
+  }
+  /// Two lines in a group, and a third one.
+  void makeGroup() {
+    runScript(u"LINE|0,0|10,0||LINE|0,5|10,5||LINE|0,10|10,10|");
+    const OdDbGroupPtr group = odrxMake<OdDbGroup>();
+    groups()->setAt(QStringLiteral("Pair"), group);
+    group->append(entityAt(0));
+    group->append(entityAt(1));
+  }
+};
+
+} // namespace
+
+TEST_F(EditCommands, WhatIsChosenBeforeACommandIsNotAskedFor) {
+  runScript(u"LINE|0,0|10,0||CIRCLE|20,0|2|QSELECT|CIRCLE|*|*||i|ERASE");
+  EXPECT_FALSE(isRunning());
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,0,0 10,0,0"));
+}
+
+TEST_F(EditCommands, QselectCanExclude) {
+  runScript(u"LINE|0,0|10,0||CIRCLE|20,0|2|QSELECT|CIRCLE|*|*||e|ERASE");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("CIRCLE 20,0,0 r2"));
+}
+
+TEST_F(EditCommands, QselectByColorAndLayer) {
+  runScript(u"LAYER|m|Walls||COLOR|1|LINE|0,0|10,0||COLOR|2|LINE|0,5|10,5||QSELECT|*|Walls|*|1|i|"
+            u"ERASE");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,5,0 10,5,0"));
+}
+
+TEST_F(EditCommands, TheChoiceBeforeACommandServesOnce) {
+  runScript(u"LINE|0,0|10,0||CIRCLE|20,0|2|QSELECT|CIRCLE|*|*||i|MOVE|0,0|0,5|MOVE");
+  EXPECT_TRUE(isRunning());
+  EXPECT_EQ(prompt().left(14), QStringLiteral("Select objects"));
+}
+
+TEST_F(EditCommands, CancelWithoutACommandForgetsTheChoice) {
+  runScript(u"LINE|0,0|10,0||QSELECT|*|*|*||i");
+  type(QStringLiteral("^C"));
+  runScript(u"ERASE");
+  EXPECT_TRUE(isRunning());
+}
+
+TEST_F(EditCommands, WithoutPickfirstCommandsAsk) {
+  runScript(u"LINE|0,0|10,0||PICKFIRST|0|QSELECT|*|*|*||i|ERASE");
+  EXPECT_TRUE(isRunning());
+}
+
+TEST_F(EditCommands, AnEntityBringsItsGroup) {
+  makeGroup();
+  runScript(u"ERASE|5,0|");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,10,0 10,10,0"));
+}
+
+TEST_F(EditCommands, AnEntityComesAloneIfGroupsAreNotPicked) {
+  makeGroup();
+  runScript(u"PICKSTYLE|0|ERASE|5,0|");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,5,0 10,5,0\nLINE 0,10,0 10,10,0"));
+}
+
+TEST_F(EditCommands, GroupMembersOnLockedLayersStay) {
+  makeGroup();
+  runScript(u"LAYER|n|Locked|lo|Locked||");
+  const auto layers = database().getLayerTableId().openAs<OdDbLayerTable>();
+  entityAt(1)
+      .openAs<OdDbEntity>(OdDb::kForWrite)
+      ->setLayer(layers->getAt(QStringLiteral("Locked")));
+  runScript(u"ERASE|5,0|");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("LINE 0,5,0 10,5,0\nLINE 0,10,0 10,10,0"));
+}
+
+TEST_F(EditCommands, CopiesOfAGroupAreAGroup) {
+  makeGroup();
+  runScript(u"COPY|5,0||0,0|0,100|");
+  std::vector<OdDbGroupPtr> all;
+  for (const OdDbDictionary::Entry& entry : groups()->entries())
+    all.push_back(entry.id.safeOpenObject());
+  ASSERT_EQ(all.size(), 2u);
+  EXPECT_EQ(all[0]->allEntityIds(), (std::vector<OdDbObjectId>{entityAt(0), entityAt(1)}));
+  EXPECT_EQ(all[1]->allEntityIds(), (std::vector<OdDbObjectId>{entityAt(3), entityAt(4)}));
+}
+
+TEST_F(EditCommands, CopiesOfAPartOfAGroupAreNone) {
+  makeGroup();
+  runScript(u"PICKSTYLE|0|COPY|5,0||0,0|0,100|");
+  EXPECT_EQ(groups()->entries().size(), 1u);
+}
+
+TEST_F(EditCommands, LinetypesAreLoadedFromFiles) {
+  QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("ours.lin")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("*DASHES,Dash dash\nA,1,-1\n*DOTS,Dot dot\nA,0,-1\n");
+  file.close();
+  const OdString load = QStringLiteral("LINETYPE\nl\n%1\n") + file.fileName() + u'\n';
+  type(load.arg(QStringLiteral("DASH*")) + u'\n');
+  const auto table = database().getLinetypeTableId().openAs<OdDbLinetypeTable>();
+  EXPECT_TRUE(table->has(QStringLiteral("DASHES")));
+  EXPECT_FALSE(table->has(QStringLiteral("DOTS")));
+
+  const OdDbLinetypeTableRecordPtr dashes =
+      table->getAt(QStringLiteral("DASHES")).safeOpenObject(OdDb::kForWrite);
+  dashes->setDashLengthAt(0, 7);
+  type(load.arg(QStringLiteral("DASHES")) + QStringLiteral("n\n\n"));
+  EXPECT_EQ(dashes->dashLengthAt(0), 7);
+  type(load.arg(QStringLiteral("*")) + QStringLiteral("y\n\n"));
+  EXPECT_EQ(dashes->dashLengthAt(0), 1);
+  EXPECT_EQ(dashes->comments(), QStringLiteral("Dash dash"));
+  EXPECT_TRUE(table->has(QStringLiteral("DOTS")));
+  type(load.arg(QStringLiteral("NONE")) + u'\n');
+  EXPECT_TRUE(console().shows(QStringLiteral("The file has no line type \"NONE\".")));
+  EXPECT_FALSE(isRunning());
+}
+
+TEST_F(EditCommands, DimensionStylesAreSavedAndRestored) {
+  runScript(u"DIMTXT|9|DIMSTYLE|s|Large|DIMSTYLE|r|Standard");
+  EXPECT_EQ(database().sysVarReal("DIMTXT"), 2.5);
+  runScript(u"DIMSTYLE|r|Large");
+  EXPECT_EQ(database().sysVarReal("DIMTXT"), 9);
+  EXPECT_EQ(database().sysVarText("DIMSTYLE"), QStringLiteral("Large"));
+}
+
+TEST_F(EditCommands, NewDimensionsHaveWhatWasSetBesideTheStyle) {
+  runScript(u"DIMTXT|9|DIMLINEAR|0,0|10,5|4,9");
+  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
+  EXPECT_EQ(dimension->dimVars().dimtxt, 9);
+  const OdDbDimStyleTableRecordPtr style = dimension->dimensionStyle().safeOpenObject();
+  EXPECT_EQ(style->dimtxt(), 2.5);
+}
+
+TEST_F(EditCommands, ARedefinedStyleShowsAtOnce) {
+  runScript(u"DIMLINEAR|0,0|10,5|4,9|DIMPOST|<>mm|DIMSTYLE|s|Standard|y");
+  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
+  EXPECT_EQ(dimension->displayedText(), QStringLiteral("10mm"));
+}
+
+TEST_F(EditCommands, AStyleIsAppliedToDimensions) {
+  runScript(u"DIMLINEAR|0,0|10,5|4,9|DIMTXT|9|DIMSTYLE|s|Large|DIMSTYLE|a|l|");
+  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
+  const OdDbDimStyleTableRecordPtr style = dimension->dimensionStyle().safeOpenObject();
+  EXPECT_EQ(style->getName(), QStringLiteral("Large"));
+}
+
+TEST_F(EditCommands, AddselectedDrawsAnotherOfTheKind) {
+  restart(withProgramFolder());
+  runScript(u"LAYER|m|Walls||COLOR|1|CIRCLE|0,0|5|COLOR|bylayer|LAYER|s|0|");
+  input().lines = {QStringLiteral("20,0"), QStringLiteral("3")};
+  runScript(u"ADDSELECTED|5,0");
+  EXPECT_EQ(describeEntities(database()), QStringLiteral("CIRCLE 0,0,0 r5\nCIRCLE 20,0,0 r3"));
+  EXPECT_FALSE(isRunning());
+  const OdDbEntityPtr made = entityAt(1).safeOpenObject();
+  EXPECT_EQ(made->layer(), QStringLiteral("Walls"));
+  EXPECT_EQ(made->color(), OdCmColor::fromColorIndex(1));
+  EXPECT_EQ(database().currentColor(), OdCmColor());
+  EXPECT_EQ(database().currentLayer(), database().getLayerZeroId());
+}
+
+TEST_F(EditCommands, ACancelInAddselectedBringsTheCurrentValuesBack) {
+  restart(withProgramFolder());
+  runScript(u"LAYER|m|Walls||CIRCLE|0,0|5|LAYER|s|0|");
+  const QByteArray before = dxf();
+  input().lines = {QStringLiteral("20,0"), QStringLiteral("^C")};
+  runScript(u"ADDSELECTED|5,0");
+  EXPECT_FALSE(isRunning());
+  EXPECT_EQ(dxf(), before);
+}
+
+TEST_F(EditCommands, AddselectedNeedsACommandForTheKind) {
+  runScript(u"CIRCLE|0,0|5|ADDSELECTED|5,0");
+  EXPECT_TRUE(
+      console().shows(QStringLiteral("There is no command that draws objects of this kind.")));
+  EXPECT_TRUE(isRunning());
+}
