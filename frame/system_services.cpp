@@ -8,6 +8,7 @@
 #include <QUuid>
 
 #include <cstdlib>
+#include <filesystem>
 #include <new>
 
 namespace {
@@ -80,6 +81,15 @@ OdRxSystemServices* g_services = nullptr;
 } // namespace
 
 OdRxSystemServices::~OdRxSystemServices() = default;
+
+bool OdRxSystemServices::replaceFile(const OdString& from, const OdString& to) {
+  const auto native = [](const OdString& path) {
+    return QFileInfo(odpath::toPlatform(path)).filesystemFilePath();
+  };
+  std::error_code error;
+  std::filesystem::rename(native(from), native(to), error);
+  return !error;
+}
 
 OdRxSystemServices* odrxSystemServices() { return g_services ? g_services : &platformServices(); }
 

@@ -41,6 +41,9 @@ class OdRxSystemServices {
   virtual bool createFolder(const OdString& path) = 0;
   /// Deletes a file; false if that fails.
   virtual bool removeFile(const OdString& path) = 0;
+  /// Puts a file in the place of another in one step, so that whoever opens that one finds either
+  /// the old or the new; false, with both as they were, if that fails.
+  virtual bool replaceFile(const OdString& from, const OdString& to);
   /// Copies a file; an existing target or a failure raises OdFileError.
   virtual void copyFile(const OdString& from, const OdString& to) = 0;
   /// The names of the files directly in a folder, sorted; hidden files and folders are left out.

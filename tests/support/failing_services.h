@@ -73,6 +73,9 @@ class FailingServices : public OdRxSystemServices {
   bool removeFile(const OdString& path) override {
     return !isDenied(path) && m_former->removeFile(path);
   }
+  bool replaceFile(const OdString& from, const OdString& to) override {
+    return !isDenied(from) && !isDenied(to) && m_former->replaceFile(from, to);
+  }
   void copyFile(const OdString& from, const OdString& to) override {
     if (isDenied(to)) throw OdFileError(eFileAccess, to, QStringLiteral("Permission denied"));
     m_former->copyFile(from, to);
