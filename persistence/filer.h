@@ -7,6 +7,8 @@
 
 namespace tc {
 
+struct OdTcForeignContent;
+
 /// Reads objects from a document and writes them into one. Objects see names and values; the filer
 /// owns the document and keeps a cursor: `parent`, to which new children are linked and whose
 /// children are walked, and `current`, the element to be read next.
@@ -71,6 +73,12 @@ using OdTcFilerPtr = OdSmartPtr<OdTcFiler>;
 OdTcFilerPtr makeCatalogFiler();
 /// A filer for palette documents.
 OdTcFilerPtr makePaletteFiler();
+/// A filer for palettes of other programs: in reading it also fills `content`, borrowed until the
+/// filer goes, with what the document says besides what the classes take.
+OdTcFilerPtr makeForeignPaletteFiler(OdTcForeignContent& content);
+/// A filer that writes palettes in the form in which other programs exchange them. `imageFolder` is
+/// the name of the folder beside the file that holds the pictures. It reads like the former two.
+OdTcFilerPtr makeExchangeFiler(const OdString& imageFolder);
 
 /// "TRUE" or "FALSE", "true" or "false", "1" or "0".
 enum class BoolStyle { kCapitals, kLower, kDigit };

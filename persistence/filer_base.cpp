@@ -237,11 +237,16 @@ OdTcPersistPtr OdTcFilerImplBase<T>::readObject(OdTcPersist* owner) {
 }
 
 template <class T>
-bool OdTcFilerImplBase<T>::writeRoot(OdStreamBuf* stream, OdTcPersist* root) {
+void OdTcFilerImplBase<T>::beginDocument(OdStreamBuf* stream) {
   m_stream = stream;
   m_saving = true;
   m_document.Clear();
   m_target = nullptr;
+}
+
+template <class T>
+bool OdTcFilerImplBase<T>::writeRoot(OdStreamBuf* stream, OdTcPersist* root) {
+  beginDocument(stream);
   writeObject(root);
   return root != nullptr;
 }

@@ -59,18 +59,26 @@ class OdTcFilerImplBase : public T {
 
   /// Reads and parses the stream; false, with the problem kept, if there is no document.
   bool parse(OdStreamBuf* stream);
+  const TiXmlElement* rootElement() const { return m_document.RootElement(); }
   /// The first element of that name, the document's own included, or null.
   const TiXmlElement* findElement(const char* name) const;
   /// Reads the root from the cursor on. False, with the problem kept, if that raises an error.
   bool readRoot(OdTcPersist* root);
   bool writeRoot(OdStreamBuf* stream, OdTcPersist* root);
+  /// Makes ready for writing a new document.
+  void beginDocument(OdStreamBuf* stream);
   /// Puts the reason before what there is to say already, and gives false.
   bool failed(const OdString& reason);
   /// Tells the user of the problem, if there is one.
   void report() const;
 
+  /// A new element at the end of what is being written to, or of the document.
+  TiXmlElement* addElement(const std::string& name);
+
   const TiXmlElement* m_parent = nullptr;
   const TiXmlElement* m_current = nullptr;
+  /// The element that is being written to; null for the document itself.
+  TiXmlElement* m_target = nullptr;
   OdStreamBufPtr m_stream;
   bool m_saving = false;
   bool m_converted = false;
@@ -82,10 +90,8 @@ class OdTcFilerImplBase : public T {
     return valueText(value, numberForm(name));
   }
   void setAttribute(TiXmlElement& element, const OdString& name, const OdVariant& value) const;
-  TiXmlElement* addElement(const std::string& name);
 
   TiXmlDocument m_document;
-  TiXmlElement* m_target = nullptr;
   std::vector<OdTcPersist*> m_stack;
   // A deque: maps of outer objects stay where they are while inner ones are added.
   std::deque<OdTcFieldMap> m_maps;

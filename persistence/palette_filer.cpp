@@ -1,6 +1,7 @@
 #include "persistence/palette_filer.h"
 
 #include "host/host_locator.h"
+#include "persistence/foreign_content.h"
 
 namespace tc {
 namespace {
@@ -15,14 +16,6 @@ constexpr CreateInfoName kCreateInfoNames[] = {
     {"Dimstyle", u"DimStyleCreateInfo"},
 };
 
-/// Raises OdError_NotThatKindOfClass unless the object is a palette's database. The class stands in
-/// a higher layer, so it is known here by name.
-void requireDatabase(const OdTcPersist* root) {
-  const OdString wanted = QStringLiteral("OdTcDatabase");
-  if (root && root->isKindOf(odrxFindClass(wanted))) return;
-  throw OdError_NotThatKindOfClass(root ? root->elementName() : QStringLiteral("(null)"), wanted);
-}
-
 void showUnreadable() {
   if (const KVPtr<IHostMessages> messages = host::service<IHostMessages>())
     messages->messageBox(host::translate(QStringLiteral("Error while reading tool palette file.")),
@@ -31,15 +24,23 @@ void showUnreadable() {
 
 } // namespace
 
+void OdTcPalettePropertiesFilerImpl::requireDatabase(const OdTcPersist* root) {
+  const OdString wanted = QStringLiteral("OdTcDatabase");
+  if (root && root->isKindOf(odrxFindClass(wanted))) return;
+  throw OdError_NotThatKindOfClass(root ? root->elementName() : QStringLiteral("(null)"), wanted);
+}
+
 bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersist* root,
                                                  bool saving) {
   requireDatabase(root);
   if (saving) return writeRoot(stream, root);
   m_root = root;
   const bool found = parse(stream) && findPalette();
+  if (found && m_foreign) gatherForeignContent(*rootElement(), *m_parent, *m_foreign);
   const bool done = found && read();
   report();
   if (!found) showUnreadable();
+  if (m_foreign) m_foreign->isReported = !found;
   return done;
 }
 
@@ -85,5 +86,9 @@ void OdTcPalettePropertiesFilerImpl::writeAttributes(const OdTcFieldMap& map) {
 }
 
 OdTcFilerPtr makePaletteFiler() { return odrxMake<OdTcPalettePropertiesFilerImpl>(); }
+
+OdTcFilerPtr makeForeignPaletteFiler(OdTcForeignContent& content) {
+  return odrxMake<OdTcPalettePropertiesFilerImpl>(&content);
+}
 
 } // namespace tc

@@ -10,6 +10,9 @@ namespace tc {
 /// in each parent.
 class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
  public:
+  explicit OdTcPalettePropertiesFilerImpl(OdTcForeignContent* foreign = nullptr)
+    : m_foreign(foreign) {}
+
   bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool saving) override;
   void writeAttributes(const OdTcFieldMap& map) override;
 
@@ -21,6 +24,10 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
   }
   OdTcNumberForm numberForm(const OdString& name) const override;
 
+  /// Raises OdError_NotThatKindOfClass unless the object is a palette's database. The class stands
+  /// in a higher layer, so it is known here by name.
+  static void requireDatabase(const OdTcPersist* root);
+
  private:
   /// Puts the cursor on the palette's first child; false, with the problem kept, if there is none.
   bool findPalette();
@@ -28,6 +35,7 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
   /// Reads what stands beside the content of a palette that another program exported.
   bool readBesideContent();
 
+  OdTcForeignContent* const m_foreign;
   OdTcPersistPtr m_root;
   QStringList m_skipNames;
 };

@@ -2,8 +2,19 @@
 
 #include "host/host_locator.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tc {
 namespace {
+
+constexpr std::array<QStringView, 21> kUnsupportedCommands = {
+    u"imageframe",   u"MTextEdit",    u"nsf",          u"pface",
+    u"qparams",      u"refclose",     u"refset",       u"SplitViewport_2",
+    u"FitViewport",  u"NetLoad",      u"lsp",          u"appload",
+    u"ATTRNORMAL",   u"ATTROFF",      u"ATTRON",       u"Lock_Unlock_Viewport",
+    u"objeciorder1", u"objeciorder2", u"objeciorder3", u"ON_OFF_Viewport",
+    u"ViewZoomScale"};
 
 // Not an object at namespace scope: the storage must not outlive what its end needs.
 OdSmartPtr<OdTcValueStorageImpl>& holder() {
@@ -24,6 +35,17 @@ OdString OdTcValueStorageImpl::toolPaletteFolders() const {
 }
 
 OdString OdTcValueStorageImpl::fontFolders() const { return setting(QStringLiteral("Shx")); }
+
+bool OdTcValueStorageImpl::isCommandUnsupported(const OdString& name) {
+  return std::find(kUnsupportedCommands.begin(), kUnsupportedCommands.end(), QStringView(name)) !=
+         kUnsupportedCommands.end();
+}
+
+const QMap<OdString, OdString>& OdTcValueStorageImpl::kindNames() {
+  static const QMap<OdString, OdString> names = {
+      {QStringLiteral("VisualStyle"), QStringLiteral("Visual style")}};
+  return names;
+}
 
 OdTcValueStorageImpl* OdTcValueStorageImpl::instance() { return holder(); }
 

@@ -3,6 +3,8 @@
 
 #include "module/persist_impl.h"
 
+#include <QMap>
+
 namespace tc {
 
 /// Reads the configured folders from the host's application object. Without a host, or without the
@@ -13,6 +15,11 @@ class OdTcValueStorageImpl : public OdTcPersistImpl<OdTcPersist> {
   OdString toolPaletteFolders() const;
   /// The setting `Shx`: folders of fonts.
   OdString fontFolders() const;
+
+  /// True for the name (compared exactly) of a command of another program that cannot run here.
+  static bool isCommandUnsupported(const OdString& name);
+  /// How the kinds of tool are called that are not called as their elements are, in English.
+  static const QMap<OdString, OdString>& kindNames();
 
   /// The storage of the process; null before the module's start and after its stop.
   static OdTcValueStorageImpl* instance();
