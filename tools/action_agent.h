@@ -38,6 +38,10 @@ class OdTcToolActionAgent : public OdTcPersist {
   virtual bool refreshImages(IHostDocument* document) = 0;
   /// Takes from the host what the agent shows of it.
   virtual void updateFromHost() = 0;
+  /// The stored path of the file that the tool brings in; empty if there is none.
+  virtual OdString sourcePath() const { return {}; }
+  /// Does nothing on kinds that bring no file in.
+  virtual void setSourcePath(const OdString& /*path*/) {}
   /// A general property of the tool changed; true if the agent acted on it.
   virtual bool onPropertyChanged(OdTcProperty* property) = 0;
 };

@@ -33,6 +33,8 @@ class OdTcToolBlockCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   void endExecution(IHostDocument* document) override;
 
   void writeProperties(OdTcFiler* filer) override;
+  OdString sourcePath() const override { return m_fields.sourceFile; }
+  void setSourcePath(const OdString& path) override { m_fields.sourceFile = path; }
   bool readProperty(const OdString& name, const OdVariant& value) override;
   void createProperties() override;
   OdRxObjectPtr clone() const override;
