@@ -1,0 +1,28 @@
+#include "module/message_table.h"
+
+#include "host/host_locator.h"
+#include "module/string_table.h"
+
+#include <array>
+
+namespace tc {
+namespace {
+
+constexpr char16_t kProduct[] = u"Drafton";
+
+/// By code.
+constexpr std::array kMessages = {StringId::kMustBeDigit,        StringId::kPaletteReadError,
+                                  StringId::kNoBlockDefinitions, StringId::kFileReadError,
+                                  StringId::kNoCatalogInFolder,  StringId::kSaveDrawingFirst};
+
+} // namespace
+
+OdString showMessage(int code, bool showBox) {
+  if (code < 0 || static_cast<std::size_t>(code) >= kMessages.size()) return {};
+  const OdString text = stringText(kMessages[static_cast<std::size_t>(code)]);
+  const KVPtr<IHostMessages> messages = showBox ? host::service<IHostMessages>() : nullptr;
+  if (messages && !text.isEmpty()) messages->messageBox(text, OdString::fromUtf16(kProduct));
+  return text;
+}
+
+} // namespace tc

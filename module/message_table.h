@@ -1,0 +1,12 @@
+// The numbered errors that the user sees.
+#pragma once
+
+#include "frame/string.h"
+
+namespace tc {
+
+/// The text of an error by its code, 0 to 5, in the user's language; empty for an unknown code.
+/// With `showBox` the text, if there is one, is also shown in a message box.
+OdString showMessage(int code, bool showBox);
+
+} // namespace tc
