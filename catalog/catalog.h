@@ -2,7 +2,9 @@
 #pragma once
 
 #include "catalog/group.h"
+#include "catalog/import_report.h"
 #include "catalog/palette_loader.h"
+#include "catalog/tool_palette.h"
 
 namespace tc {
 
@@ -38,6 +40,16 @@ class OdTcCatalog : public OdTcCatalogItem {
   /// Reads the catalog file and its palettes. False if that fails: without a message if there is no
   /// file, else with the path and the reason on the command line. The path is kept in all cases.
   virtual bool load(const OdString& path) = 0;
+
+  /// Reads a palette that another program exported, takes what can run here into the catalog,
+  /// copies the pictures, and saves the palette and the catalog. Null, with nothing changed in
+  /// memory or on disk, if that fails at any point; a file that cannot be read is told on the
+  /// command line.
+  virtual OdTcToolPalette* importPaletteFile(const OdString& path) = 0;
+  /// The same in other ways, with a report of what became of each tool. A dry run gives the palette
+  /// as it would be, which is in no catalog.
+  virtual OdTcToolPalettePtr importPalette(const OdString& path, const OdTcImportOptions& options,
+                                           OdTcImportReport& report) = 0;
 
   /// Gives the palette its place and file path in this catalog and takes it in. A new file is named
   /// after the palette as it stands, but for separators, which would lead out of the folder.

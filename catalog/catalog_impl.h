@@ -34,6 +34,9 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   bool isDefault() const override { return m_isDefault; }
   void setDefault(bool isDefault) override { m_isDefault = isDefault; }
   bool load(const OdString& path) override;
+  OdTcToolPalette* importPaletteFile(const OdString& path) override;
+  OdTcToolPalettePtr importPalette(const OdString& path, const OdTcImportOptions& options,
+                                   OdTcImportReport& report) override;
   void addPalette(OdTcToolPalette* palette) override;
   OdTcGroupList* groups() const override { return m_groups; }
   OdTcPaletteLoaderList* loaders() const override { return m_loaders; }
@@ -63,6 +66,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
 
  private:
   friend class CatalogSave;
+  friend class CatalogEntry;
   using Palettes = std::vector<OdTcToolPalettePtr>;
 
   void clearContent();

@@ -5,6 +5,7 @@
 #include "catalog/palette_loader_impl.h"
 #include "catalog/write_file.h"
 #include "frame/file_path.h"
+#include "host/host_locator.h"
 #include "persistence/path_operations.h"
 
 #include <utility>
@@ -22,10 +23,11 @@ OdString changedField(std::size_t position) {
 
 } // namespace
 
-CatalogSave::CatalogSave(OdTcCatalogImpl& catalog, const OdString& path)
+CatalogSave::CatalogSave(OdTcCatalogImpl& catalog, const OdString& path, Way way)
   : m_catalog(catalog)
   , m_path(path)
-  , m_formerPath(catalog.m_path) {}
+  , m_formerPath(catalog.m_path)
+  , m_way(way) {}
 
 CatalogSave::~CatalogSave() {
   if (m_isDone) return;
@@ -43,10 +45,28 @@ bool CatalogSave::run() {
   m_catalog.m_path = m_path;
   for (const OdTcToolPalettePtr& palette : m_catalog.m_palettes)
     if (!palette->isDeleted()) updateLoader(*palette);
-  m_isDone = writeFile(m_path, creationFor(m_path), *makeCatalogFiler(), &m_catalog,
-                       &OdTcFiler::openCatalog);
+  m_isDone = write();
   if (m_isDone) m_catalog.m_unread.noteWritten(m_path);
   return m_isDone;
+}
+
+bool CatalogSave::write() {
+  const OdTcFilerPtr filer = makeCatalogFiler();
+  if (m_way == Way::kInPlace)
+    return writeFile(m_path, creationFor(m_path), *filer, &m_catalog, &OdTcFiler::openCatalog);
+  OdRxSystemServices* const services = odrxSystemServices();
+  const OdString fresh = m_path + QLatin1String(".new");
+  try {
+    if (!writeFile(fresh, Oda::kCreateAlways, *filer, &m_catalog, &OdTcFiler::openCatalog))
+      return false;
+  } catch (const OdFileError&) {
+    services->removeFile(fresh);
+    throw;
+  }
+  if (services->replaceFile(fresh, m_path)) return true;
+  services->removeFile(fresh);
+  throw OdFileError(eFileAccess, m_path,
+                    host::translate(QStringLiteral("the file cannot be replaced")));
 }
 
 void CatalogSave::updateLoader(OdTcToolPalette& palette) {

@@ -12,7 +12,10 @@ namespace tc {
 /// unless the save went through.
 class CatalogSave {
  public:
-  CatalogSave(OdTcCatalogImpl& catalog, const OdString& path);
+  /// How the file is written: in place, or in one step once all of it is on the disk.
+  enum class Way { kInPlace, kAtOnce };
+
+  CatalogSave(OdTcCatalogImpl& catalog, const OdString& path, Way way = Way::kInPlace);
   CatalogSave(const CatalogSave&) = delete;
   CatalogSave& operator=(const CatalogSave&) = delete;
   ~CatalogSave();
@@ -30,10 +33,12 @@ class CatalogSave {
   void updateLoader(OdTcToolPalette& palette);
   void addLoader(OdTcToolPalette& palette);
   OdString hrefFor(const OdString& file) const;
+  bool write();
 
   OdTcCatalogImpl& m_catalog;
   OdString m_path;
   OdString m_formerPath;
+  const Way m_way;
   bool m_isDone = false;
   std::vector<OdTcPaletteLoaderPtr> m_added;
   std::vector<Renamed> m_renamed;

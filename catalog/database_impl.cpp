@@ -60,7 +60,13 @@ void OdTcDatabaseImpl::attachObject(OdTcPersist* object) {
   if (object && object != this) m_attached.emplace_back(object);
 }
 
-bool OdTcDatabaseImpl::load(const OdString& path) {
+bool OdTcDatabaseImpl::load(const OdString& path) { return readWith(makePaletteFiler(), path); }
+
+bool OdTcDatabaseImpl::loadForeign(const OdString& path, OdTcForeignContent& content) {
+  return readWith(makeForeignPaletteFiler(content), path);
+}
+
+bool OdTcDatabaseImpl::readWith(const OdTcFilerPtr& filer, const OdString& path) {
   m_path = path;
   m_unread.note(path, OdString());
   OdRxSystemServices* const services = odrxSystemServices();
@@ -70,18 +76,17 @@ bool OdTcDatabaseImpl::load(const OdString& path) {
     return false;
   }
   if (!services->fileExists(path)) return false;
-  const ReadOutcome outcome = readFile(path, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+  const ReadOutcome outcome = readFile(path, *filer, this, &OdTcFiler::openPalette);
   m_unread.note(path, outcome.problem);
   return outcome.isRead;
 }
 
 /// Writes the file at the path in force. Why that failed, if it did, is told on the command line
 /// and kept.
-bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation) {
+bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation, const OdTcFilerPtr& filer) {
   try {
     m_unread.keepBefore(m_path);
-    const bool isWritten =
-        tc::writeFile(m_path, creation, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+    const bool isWritten = tc::writeFile(m_path, creation, *filer, this, &OdTcFiler::openPalette);
     m_saveProblem = isWritten ? OdString() : m_path;
   } catch (const OdFileError& error) {
     m_saveProblem = error.description();
@@ -97,7 +102,7 @@ bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation) {
 
 bool OdTcDatabaseImpl::saveAs(const OdString& path) {
   const OdString former = std::exchange(m_path, path);
-  if (!writeFile(creationFor(path))) {
+  if (!writeFile(creationFor(path), makePaletteFiler())) {
     m_path = former;
     return false;
   }
@@ -108,10 +113,18 @@ bool OdTcDatabaseImpl::saveAs(const OdString& path) {
 bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(OdString(m_path)); }
 
 bool OdTcDatabaseImpl::saveCopy(const OdString& path) {
+  return writeCopy(path, makePaletteFiler());
+}
+
+bool OdTcDatabaseImpl::saveExchange(const OdString& path, const OdString& imageFolder) {
+  return writeCopy(path, makeExchangeFiler(imageFolder));
+}
+
+bool OdTcDatabaseImpl::writeCopy(const OdString& path, const OdTcFilerPtr& filer) {
   // Pictures are written beside the path that is in force. A failed copy leaves its path behind,
   // as it always did.
   const OdString former = std::exchange(m_path, path);
-  if (!writeFile(Oda::kCreateAlways)) return false;
+  if (!writeFile(Oda::kCreateAlways, filer)) return false;
   m_path = former;
   return true;
 }

@@ -6,6 +6,7 @@
 #include "catalog/unread_file.h"
 #include "frame/system_services.h"
 #include "module/catalog_item_impl.h"
+#include "persistence/filer.h"
 
 #include <cstdint>
 #include <vector>
@@ -25,6 +26,11 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   /// A file that is there but cannot be read, or a folder in its place, is reported on the command
   /// line.
   bool load(const OdString& path) override;
+  /// As load, for a file of another program: `content` takes what no class here takes.
+  bool loadForeign(const OdString& path, OdTcForeignContent& content);
+  /// As saveCopy, in the form in which palettes are exchanged with other programs; `imageFolder`
+  /// is where that program is to look for the pictures.
+  bool saveExchange(const OdString& path, const OdString& imageFolder);
   /// A save that fails leaves the path as it was.
   bool saveAs(const OdString& path) override;
   bool save() override;
@@ -58,7 +64,9 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   OdRxObjectPtr clone() const override { return clone(true); }
 
  private:
-  bool writeFile(Oda::FileCreationDisposition creation);
+  bool readWith(const OdTcFilerPtr& filer, const OdString& path);
+  bool writeFile(Oda::FileCreationDisposition creation, const OdTcFilerPtr& filer);
+  bool writeCopy(const OdString& path, const OdTcFilerPtr& filer);
 
   OdString m_path;
   OdString m_fileRevision;

@@ -1,5 +1,6 @@
 #include "catalog/import_prompt.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace tc {
@@ -13,9 +14,30 @@ KVPtr<IProfile> openStore() {
   return section ? section->openSection(QStringLiteral("ToolPaletteManager"), true) : nullptr;
 }
 
+ImportConversation* g_conversation = nullptr;
+
 } // namespace
 
+ImportConversation::ImportConversation(bool isSilent)
+  : m_outer(g_conversation)
+  , m_isSilent(isSilent) {
+  g_conversation = this;
+}
+
+ImportConversation::~ImportConversation() { g_conversation = m_outer; }
+
+bool ImportConversation::isNew(std::u16string_view key) {
+  if (std::find(m_shown.begin(), m_shown.end(), key) != m_shown.end()) return false;
+  m_shown.push_back(key);
+  return true;
+}
+
+void printImported(const OdString& text) {
+  if (!g_conversation || !g_conversation->isSilent()) host::print(text);
+}
+
 void showImportPrompt(const ImportPrompt& prompt) {
+  if (g_conversation && (g_conversation->isSilent() || !g_conversation->isNew(prompt.key))) return;
   const OdString key = QStringView(prompt.key).toString();
   const KVPtr<IProfile> store = openStore();
   OdVariant isOff;

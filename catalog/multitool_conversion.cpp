@@ -67,7 +67,8 @@ void convertMultitool(OdTcToolImpl& tool) {
     tool.setConvertedAgent(agent);
   }
   addButtonImages(tool, command->commandName);
-  host::print(formatText(stringText(StringId::kMultitoolConverted), tool.name()));
+  tool.setConverted();
+  printImported(formatText(stringText(StringId::kMultitoolConverted), tool.name()));
 }
 
 } // namespace tc

@@ -9,6 +9,7 @@
 namespace tc {
 
 class OdTcCatalog;
+class OdTcToolPalette;
 
 /// Hears of changes among the catalogs. Calls are synchronous.
 class OdTcPaletteManagerReactor {
@@ -58,6 +59,9 @@ class OdTcPaletteManager : public OdRxObject {
   virtual OdString imagesFolder(const OdTcCatalog* catalog) const = 0;
   /// The first catalog that says that it is the default, or null.
   virtual OdTcCatalog* defaultCatalog() const = 0;
+  /// Imports a palette into the catalog, or the active one for null, as its importPaletteFile does.
+  /// If that fails the user is told in a message box.
+  virtual OdTcToolPalette* importPalette(OdTcCatalog* catalog, const OdString& path) = 0;
   /// Brings the catalogs in line with the configured folders.
   virtual void reloadCatalogs() = 0;
   virtual bool openCatalog(const OdString& path) = 0;

@@ -4,6 +4,7 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "module/message_table.h"
 #include "module/string_table.h"
 #include "persistence/path_operations.h"
 
@@ -203,6 +204,18 @@ OdString OdTcPaletteManagerImpl::imagesFolder(const OdTcCatalog* catalog) const 
 OdTcCatalog* OdTcPaletteManagerImpl::defaultCatalog() const {
   for (const auto& [path, catalog] : m_catalogs)
     if (catalog->isDefault()) return catalog;
+  return nullptr;
+}
+
+OdTcToolPalette* OdTcPaletteManagerImpl::importPalette(OdTcCatalog* catalog, const OdString& path) {
+  OdTcCatalog* const target = catalog ? catalog : m_active;
+  if (!target) return nullptr;
+  OdTcImportReport report;
+  const OdTcToolPalettePtr palette = target->importPalette(path, {}, report);
+  if (palette) return palette;
+  if (!report.isReported) showMessage(static_cast<int>(StringId::kPaletteReadError), true);
+  host::print(
+      formatText(host::translate(QStringLiteral("\nCannot import %s: %s")), path, report.problem));
   return nullptr;
 }
 

@@ -41,6 +41,7 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   OdString palettesFolder(const OdTcCatalog* catalog) const override;
   OdString imagesFolder(const OdTcCatalog* catalog) const override;
   OdTcCatalog* defaultCatalog() const override;
+  OdTcToolPalette* importPalette(OdTcCatalog* catalog, const OdString& path) override;
   void reloadCatalogs() override;
   bool openCatalog(const OdString& path) override;
   bool isImageExtension(const OdString& extension) const override;

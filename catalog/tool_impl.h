@@ -34,6 +34,9 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   OdTcToolCustomData* customData() const { return m_foreign ? m_foreign->customData : nullptr; }
   OdTcToolFlyout* flyout() const { return m_foreign ? m_foreign->flyout : nullptr; }
   void dropForeignRecords() { m_foreign.reset(); }
+  /// True if the tool came as one of several commands and now runs one.
+  bool wasConverted() const { return m_isConverted; }
+  void setConverted() { m_isConverted = true; }
   /// Gives a converted tool its agent, which goes into a record of data that is read later unless
   /// that one has an agent of its own.
   void setConvertedAgent(OdTcToolActionAgent* agent);
@@ -65,6 +68,7 @@ class OdTcToolImpl : public OdTcCatalogItemImplBase<OdTcTool> {
   std::uint32_t m_toolType = kNoType;
   bool m_isRunning = false;
   bool m_hasConvertedAgent = false;
+  bool m_isConverted = false;
 };
 
 } // namespace tc

@@ -64,6 +64,9 @@ class OdTcToolPalette : public OdTcCatalogItem {
   virtual void suspendAutoSave() = 0;
   virtual void resumeAutoSave() = 0;
 
+  /// True for a palette that came in from another program since the program was started.
+  virtual bool isImported() const = 0;
+  virtual void setImported() = 0;
   /// Tells the palette's reactors that it is about to leave its catalog.
   virtual void announceRemoval() = 0;
 };

@@ -42,6 +42,10 @@ bool hasUnsupportedAgent(const OdTcTool& tool) {
 
 } // namespace
 
+bool isUnsupportedTool(const OdTcTool& tool) {
+  return hasUnsupportedAgent(tool) || !tool.isRegular();
+}
+
 OdTcToolPaletteImpl::OdTcToolPaletteImpl()
   : OdTcToolPaletteImpl(odrxMake<OdTcDatabaseImpl>()) {}
 
@@ -134,8 +138,7 @@ void OdTcToolPaletteImpl::collectUnsupportedKinds(QStringList& labels,
 }
 
 void OdTcToolPaletteImpl::stripUnsupportedTools() {
-  m_database->tools()->removeWhere(
-      [](const OdTcTool& tool) { return hasUnsupportedAgent(tool) || !tool.isRegular(); });
+  m_database->tools()->removeWhere(isUnsupportedTool);
 }
 
 void OdTcToolPaletteImpl::adoptFileName(const OdString& path) {

@@ -8,6 +8,9 @@
 
 namespace tc {
 
+/// True for a tool that cannot run here: its kind is not supported, or it is no tool at all.
+bool isUnsupportedTool(const OdTcTool& tool);
+
 /// The handle of a palette. Id, name and all else of an item are those of the database, so that the
 /// two show as one.
 class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
@@ -49,6 +52,8 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   void renewIds() override;
   void suspendAutoSave() override { m_autoSave = false; }
   void resumeAutoSave() override { m_autoSave = true; }
+  bool isImported() const override { return m_isImported; }
+  void setImported() override { m_isImported = true; }
   void announceRemoval() override { notifyRemoved(this); }
 
   /// Takes tools; false for anything else. If the file cannot be written afterwards, that is told
@@ -67,6 +72,7 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
     m_database->setModified();
     OdTcCatalogItemImplBase::setModified();
   }
+  OdTcDatabaseImpl& content() const { return *m_database; }
   bool hasStoredId() const { return m_database->hasStoredId(); }
 
   OdString elementName() const override { return QStringLiteral("ToolPalette"); }
@@ -84,6 +90,7 @@ class OdTcToolPaletteImpl : public OdTcCatalogItemImplBase<OdTcToolPalette> {
   bool m_isReferenced = false;
   bool m_isReadOnlyStyle = false;
   bool m_autoSave = true;
+  bool m_isImported = false;
 };
 
 } // namespace tc

@@ -1,0 +1,154 @@
+#include "catalog/import_review.h"
+
+#include "catalog/foreign_paths.h"
+#include "catalog/tool_palette_impl.h"
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "host/host_locator.h"
+#include "persistence/path_operations.h"
+#include "persistence/value_storage.h"
+#include "tools/action_agent.h"
+
+#include <array>
+
+namespace tc {
+namespace {
+
+OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
+
+/// Kinds of entry that have no agent to name them.
+struct TypeName {
+  OdTcTool::Type type;
+  const char16_t* name;
+};
+constexpr std::array kTypeNames = {TypeName{OdTcTool::kText, u"Text"},
+                                   TypeName{OdTcTool::kSeparator, u"Separator"}};
+
+OdString kindOf(const OdTcTool& tool) {
+  if (const OdTcToolActionAgent* const agent = tool.getActionAgent()) {
+    const OdString element = agent->elementName();
+    return OdTcValueStorageImpl::kindNames().value(element, element);
+  }
+  for (const TypeName& row : kTypeNames)
+    if (tool.getToolType() == row.type) return OdString::fromUtf16(row.name);
+  return {};
+}
+
+/// The name of the command that a macro begins with.
+OdString commandOf(const OdString& macro) {
+  OdString text = macro;
+  while (text.startsWith(u'^') || text.startsWith(u'\'')) text.remove(0, text[0] == u'^' ? 2 : 1);
+  qsizetype end = 0;
+  while (end < text.size() &&
+         (text[end].isLetterOrNumber() || QStringView(u"_.-").contains(text[end])))
+    ++end;
+  text.truncate(end);
+  while (!text.isEmpty() && QStringView(u"_.-").contains(text[0])) text.remove(0, 1);
+  return text;
+}
+
+bool isMultitool(const OdTcToolImpl& tool) { return tool.customData() && tool.flyout(); }
+
+OdString whyNotConverted(const OdTcToolImpl& tool) {
+  return translated(u"a tool of several commands, and none of them draws a \"%1\" here")
+      .arg(tool.customData()->className());
+}
+
+OdString whySkipped(const OdTcToolImpl& tool) {
+  if (tool.getActionAgent() && !tool.getActionAgent()->isSupported())
+    return translated(u"tools of the kind \"%1\" cannot run here").arg(kindOf(tool));
+  if (const OdString kind = kindOf(tool); !tool.getActionAgent() && !kind.isEmpty())
+    return translated(u"entries of the kind \"%1\" have no place here").arg(kind);
+  if (isMultitool(tool)) return whyNotConverted(tool);
+  return translated(u"it is of type %1, which cannot run here").arg(tool.getToolType());
+}
+
+void reviewMissingAgent(OdTcToolImpl& tool, const OdTcForeignTool& foreign, bool convert,
+                        OdTcImportedTool& row) {
+  if (foreign.record.isEmpty()) {
+    row.reason = isMultitool(tool) ? whyNotConverted(tool)
+                                   : translated(u"the file does not say what it does");
+    return;
+  }
+  if (!convert || foreign.macro.isEmpty()) {
+    row.reason = translated(u"its record \"%1\" belongs to another product; the tool does nothing")
+                     .arg(foreign.record);
+    row.command = foreign.macro;
+    return;
+  }
+  const OdSmartPtr<OdTcToolCommand> agent = OdTcToolCommand::createObject();
+  agent->setCommandString(foreign.macro);
+  tool.setActionAgent(agent);
+  row.fate = OdTcToolFate::kConverted;
+  row.reason = translated(u"the macro in its record \"%1\" is now a command").arg(foreign.record);
+}
+
+/// The rest of the path behind the folder; nothing if the path does not lie in it.
+bool liesIn(const OdString& path, const OdString& folder, OdString& rest) {
+  OdString beginning = odpath::fromPlatform(folder);
+  while (beginning.endsWith(u'\\')) beginning.chop(1);
+  const OdString stored = odpath::fromPlatform(path);
+  if (beginning.isEmpty() || !stored.startsWith(beginning, Qt::CaseInsensitive)) return false;
+  rest = stored.mid(beginning.size());
+  return rest.isEmpty() || rest.startsWith(u'\\');
+}
+
+OdString mapped(const OdString& path, const OdTcImportOptions& options) {
+  OdString rest;
+  for (const auto& [from, to] : options.folderMap) {
+    if (!liesIn(path, from, rest)) continue;
+    OdString target = odpath::fromPlatform(to);
+    while (target.endsWith(u'\\')) target.chop(1);
+    return target + rest;
+  }
+  return path;
+}
+
+} // namespace
+
+void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdString& paletteFile,
+                  OdTcImportedTool& row) {
+  OdTcToolActionAgent* const agent = tool.getActionAgent();
+  const OdString path = agent ? agent->sourcePath() : OdString();
+  // A pattern file without a folder is one of the host's own.
+  const bool isHosts =
+      odpath::fileNameOf(path) == path && agent->isKindOf(OdTcToolHatchCommand::desc());
+  if (path.isEmpty() || isHosts) return;
+  row.sourceFile = mapped(path, options);
+  if (row.sourceFile != path) agent->setSourcePath(row.sourceFile);
+  if (const OdString why = whyNotLookedFor(row.sourceFile); !why.isEmpty()) {
+    row.source = OdTcSourceFate::kRefused;
+    if (row.reason.isEmpty()) row.reason = translated(u"its source is not looked for: %1").arg(why);
+    return;
+  }
+  const OdString place =
+      isRelativePath(row.sourceFile) ? combinePath(row.sourceFile, paletteFile) : row.sourceFile;
+  row.source =
+      odrxSystemServices()->fileExists(place) ? OdTcSourceFate::kFound : OdTcSourceFate::kMissing;
+}
+
+void reviewKind(OdTcToolImpl& tool, const OdTcForeignTool& foreign,
+                const OdTcImportOptions& options, OdTcImportedTool& row) {
+  row.name = tool.name();
+  if (isUnsupportedTool(tool)) {
+    row.fate = OdTcToolFate::kSkipped;
+    row.kind = kindOf(tool);
+    row.reason = whySkipped(tool);
+    if (row.name.isEmpty()) row.name = row.kind;
+    return;
+  }
+  if (!tool.getActionAgent()) reviewMissingAgent(tool, foreign, options.convertCommands, row);
+  row.kind = kindOf(tool);
+  if (tool.wasConverted()) {
+    row.fate = OdTcToolFate::kConverted;
+    row.reason = translated(u"one command in the place of several");
+  }
+  const OdTcToolActionAgent* const agent = tool.getActionAgent();
+  if (!agent) return;
+  row.command = agent->commandString();
+  const OdString command = commandOf(row.command);
+  if (OdTcValueStorageImpl::isCommandUnsupported(command))
+    row.reason = translated(u"the command \"%1\" is not available here").arg(command);
+}
+
+} // namespace tc
