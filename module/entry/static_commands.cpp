@@ -1,6 +1,7 @@
 #include "module/entry/static_commands.h"
 
 #include "host/host_locator.h"
+#include "module/entry/exchange_commands.h"
 #include "module/entry/tool_palettes_command.h"
 #include "tools/deferred_command.h"
 #include "tools/execute_tool_command.h"
@@ -13,12 +14,21 @@ OdString name(const char16_t* text) { return OdString::fromUtf16(text); }
 
 constexpr char16_t kGroup[] = u"HOST";
 
+struct CommandRow {
+  const char16_t* name;
+  CmdCreator create;
+};
+constexpr CommandRow kCommands[] = {{u"ToolPalettes", &TcCmd::create},
+                                    {u"ToolPalettesImport", &makeImportCommand},
+                                    {u"ToolPalettesExport", &makeExportCommand}};
+
 } // namespace
 
 void registerStaticCommands() {
   // Each registration has a factory of its own.
-  if (const KVPtr<ICmdFactory> factory = host::newCmdFactory())
-    factory->registerCommand(name(u"ToolPalettes"), &TcCmd::create, name(kGroup), 0);
+  for (const CommandRow& row : kCommands)
+    if (const KVPtr<ICmdFactory> factory = host::newCmdFactory())
+      factory->registerCommand(name(row.name), row.create, name(kGroup), 0);
   if (const KVPtr<ICmdFactory> factory = host::newCmdFactory())
     factory->registerFunction(name(kGroup), name(kExecuteToolCommand), 0, &executeToolCommand);
 }

@@ -29,10 +29,11 @@ TEST_F(ToolPalettesCommandTest, LinkingTheLayersRegistersNothing) {
   EXPECT_TRUE(host().commands.isEmpty());
 }
 
-TEST_F(ToolPalettesCommandTest, RegistersBothCommandsWithFactoriesThatAreReleased) {
+TEST_F(ToolPalettesCommandTest, RegistersItsCommandsWithFactoriesThatAreReleased) {
   registerStaticCommands();
   ASSERT_EQ(host().commands.keys(),
-            QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("__executetool")}));
+            QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
+                         QStringLiteral("ToolPalettesImport"), QStringLiteral("__executetool")}));
   const testhost::RegisteredCommand palettes = host().commands[QStringLiteral("ToolPalettes")];
   EXPECT_EQ(palettes.group, QStringLiteral("HOST"));
   EXPECT_EQ(palettes.flags, 0u);

@@ -1,0 +1,93 @@
+#include "module/entry/exchange_commands.h"
+
+#include "catalog/catalog.h"
+#include "catalog/palette_manager.h"
+#include "frame/file_path.h"
+#include "support/module_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace tc;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using testhost::host;
+
+struct ExchangeCommandsTest : testhost::ModuleFixture {
+  ExchangeCommandsTest() {
+    write(u"c/DrfTcCatalog.dtc"_s, "<Catalog><ItemID idValue=\"{C}\"/></Catalog>");
+    write(u"p.xtp"_s, "<Palette><ItemID idValue=\"{P}\"/><Tools><Tool><ToolType>1</ToolType><Data>"
+                      "<Command Macro=\"_LINE\"/></Data></Tool></Tools></Palette>");
+    OdTcPaletteManager::instance()->openCatalog(stored(u"c/DrfTcCatalog.dtc"_s));
+  }
+
+  OdString stored(const QString& name) const {
+    return odpath::fromPlatform(m_folder.filePath(name));
+  }
+  void write(const QString& name, const QByteArray& bytes) const {
+    QDir().mkpath(QFileInfo(m_folder.filePath(name)).path());
+    QFile file(m_folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+  bool exists(const QString& name) const { return QFileInfo::exists(m_folder.filePath(name)); }
+  OdTcCatalog* catalog() const {
+    const auto all = OdTcPaletteManager::instance()->catalogsEnum();
+    OdString path;
+    OdTcCatalog* found = nullptr;
+    all->next(path, found);
+    return found;
+  }
+  /// Runs a command with answers to its prompts; 0 on success.
+  static int run(ICmdProcess* (*make)(), const QStringList& answers) {
+    testhost::TestDocument& document = host().documents.open(u"A.dxf"_s);
+    for (const QString& answer : answers) document.input.answer(answer);
+    return KVPtr<ICmdProcess>::attach(make())->Run();
+  }
+
+ private:
+  QTemporaryDir m_folder;
+};
+
+TEST_F(ExchangeCommandsTest, ImportsIntoTheCatalogAndTheGroupThatWereNamed) {
+  EXPECT_EQ(run(&makeImportCommand, {u'"' + stored(u"p.xtp"_s) + u'"', stored(u"c"_s), u"Site"_s}),
+            0);
+  ASSERT_TRUE(catalog()->findPaletteByName(u"p"_s));
+  EXPECT_TRUE(catalog()->findPaletteByName(u"p"_s)->isReferenced());
+  EXPECT_TRUE(host().messages.printed.join(u'\n').contains(u"is now the palette \"p\"."_s));
+}
+
+TEST_F(ExchangeCommandsTest, TwoEnterMeanTheFirstCatalogAndNoGroup) {
+  EXPECT_EQ(run(&makeImportCommand, {stored(u"p.xtp"_s), {}, {}}), 0);
+  ASSERT_TRUE(catalog()->findPaletteByName(u"p"_s));
+  EXPECT_FALSE(catalog()->findPaletteByName(u"p"_s)->isReferenced());
+}
+
+TEST_F(ExchangeCommandsTest, FailsForAFileOrACatalogThatIsNotThereAndForNoAnswer) {
+  EXPECT_NE(run(&makeImportCommand, {stored(u"none.xtp"_s), {}, {}}), 0);
+  EXPECT_NE(run(&makeImportCommand, {stored(u"p.xtp"_s), stored(u"elsewhere"_s), {}}), 0);
+  EXPECT_NE(run(&makeImportCommand, {QString()}), 0);
+  EXPECT_NE(run(&makeImportCommand, {stored(u"p.xtp"_s)}), 0) << "cancelled at the second prompt";
+  EXPECT_EQ(catalog()->findPaletteByName(u"p"_s), nullptr);
+}
+
+TEST_F(ExchangeCommandsTest, WithoutADocumentNothingCanBeAsked) {
+  EXPECT_NE(KVPtr<ICmdProcess>::attach(makeImportCommand())->Run(), 0);
+  EXPECT_NE(KVPtr<ICmdProcess>::attach(makeExportCommand())->Run(), 0);
+}
+
+TEST_F(ExchangeCommandsTest, ExportsAPaletteAndAddsTheEndingThatIsMissing) {
+  ASSERT_EQ(run(&makeImportCommand, {stored(u"p.xtp"_s), {}, {}}), 0);
+  EXPECT_EQ(run(&makeExportCommand, {u"p"_s, stored(u"q"_s)}), 0);
+  EXPECT_TRUE(exists(u"q.xtp"_s));
+  EXPECT_EQ(
+      run(&makeExportCommand, {catalog()->findPaletteByName(u"p"_s)->id(), stored(u"r.xtp"_s)}), 0);
+  EXPECT_TRUE(exists(u"r.xtp"_s));
+  EXPECT_NE(run(&makeExportCommand, {u"Nothing"_s, stored(u"s.xtp"_s)}), 0);
+  EXPECT_TRUE(host().messages.printed.join(u'\n').contains(u"There is no palette \"Nothing\"."_s));
+}
+
+} // namespace
