@@ -11,7 +11,7 @@ namespace tpal {
 ExitCode checkCommand(const Arguments& arguments, Console& console) {
   const ModuleClasses classes;
   std::vector<Finding> findings;
-  for (const OdString& folder : arguments.folders)
+  for (const OdString& folder : arguments.words)
     for (Finding& finding : examine(loadCatalog(folder))) findings.push_back(std::move(finding));
 
   if (arguments.json) {

@@ -5,6 +5,9 @@
 
 #include <QTextStream>
 
+#include <utility>
+#include <vector>
+
 namespace tpal {
 
 /// Stable exit codes, for scripts.
@@ -17,9 +20,15 @@ enum ExitCode {
 
 /// A parsed command line.
 struct Arguments {
-  QStringList folders;
+  QStringList words; ///< what is no option: folders and files
   OdString to;       ///< --to
-  bool json = false; ///< --json
+  OdString into;     ///< --into
+  OdString group;    ///< --group
+  /// --map, in the order of the command line
+  std::vector<std::pair<OdString, OdString>> map;
+  bool json = false;            ///< --json
+  bool dryRun = false;          ///< --dry-run
+  bool convertCommands = false; ///< --convert-commands
 };
 
 /// Where a command writes.
@@ -33,14 +42,18 @@ struct Command {
   const char* name;
   const char* synopsis;
   const char* description;
-  bool takesTo;
-  bool severalFolders;
+  /// The options that it takes besides --json, each followed by a blank.
+  const char* options;
+  int leastWords;
+  int mostWords;
   ExitCode (*run)(const Arguments& arguments, Console& console);
 };
 
 ExitCode listCommand(const Arguments& arguments, Console& console);
 ExitCode checkCommand(const Arguments& arguments, Console& console);
 ExitCode resaveCommand(const Arguments& arguments, Console& console);
+ExitCode importCommand(const Arguments& arguments, Console& console);
+ExitCode exportCommand(const Arguments& arguments, Console& console);
 
 /// Runs the tool with its arguments (without the program's name).
 ExitCode runTool(const QStringList& arguments, Console& console);

@@ -4,6 +4,7 @@
 #include "host/application.h"
 #include "host/messages.h"
 #include "host/services.h"
+#include "tpal/command_routes.h"
 
 namespace tpal {
 
@@ -42,8 +43,9 @@ class ConsoleHost {
 
   class Services : public Permanent<IHostServices> {
    public:
-    explicit Services(Messages* messages)
-      : m_messages(messages) {}
+    Services(Messages* messages, RouteMenu* menu)
+      : m_messages(messages)
+      , m_menu(menu) {}
     bool queryInterface(KVInterfaceId id, void** out) override;
     IHostDocumentManager* documentManager() override { return nullptr; }
     IHostEditorEvents* editorEvents() override { return nullptr; }
@@ -51,6 +53,7 @@ class ConsoleHost {
 
    private:
     Messages* m_messages;
+    RouteMenu* m_menu;
   };
 
   class Application : public IHostApplication {
@@ -64,7 +67,8 @@ class ConsoleHost {
   };
 
   Messages m_messages;
-  Services m_services{&m_messages};
+  RouteMenu m_menu;
+  Services m_services{&m_messages, &m_menu};
   Application m_application;
 };
 

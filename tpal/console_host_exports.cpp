@@ -19,4 +19,9 @@ Q_DECL_EXPORT hostexport::HostObjectGetter get_host_funcptr(int index) {
 
 Q_DECL_EXPORT IHostApplication* GetApp() { return tpal::ConsoleHost::instance().application(); }
 
+Q_DECL_EXPORT bool hostGetCmdRouteMap(OdString& out) {
+  out = tpal::commandRouteMap();
+  return !out.isEmpty();
+}
+
 } // extern "C"

@@ -97,7 +97,7 @@ ExitCode listCommand(const Arguments& arguments, Console& console) {
   const ModuleClasses classes;
   ExitCode result = kOk;
   QJsonArray trees;
-  for (const OdString& folder : arguments.folders) {
+  for (const OdString& folder : arguments.words) {
     const LoadedCatalog loaded = loadCatalog(folder);
     for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
     if (!loaded.isRead) {

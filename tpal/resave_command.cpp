@@ -116,7 +116,7 @@ void report(const std::vector<Outcome>& outcomes, bool json, QTextStream& out) {
 
 ExitCode resaveCommand(const Arguments& arguments, Console& console) {
   const ModuleClasses classes;
-  const LoadedCatalog loaded = loadCatalog(arguments.folders.first());
+  const LoadedCatalog loaded = loadCatalog(arguments.words.first());
   for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
   if (!loaded.isRead) return kFailed;
   try {

@@ -6,17 +6,29 @@
 namespace tpal {
 namespace {
 
+constexpr int kAnyNumber = 1 << 20;
+
 constexpr Command kCommands[] = {
     {"list", "list DIR... [--json]",
-     "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.", false,
-     true, listCommand},
+     "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.", "", 1,
+     kAnyNumber, listCommand},
     {"check", "check DIR... [--json]",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
      "      references, ids that stand twice, tools that do nothing and paths that lead nowhere.",
-     false, true, checkCommand},
+     "", 1, kAnyNumber, checkCommand},
     {"resave", "resave DIR [--to DIR] [--json]",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
-     true, false, resaveCommand},
+     "--to ", 1, 1, resaveCommand},
+    {"import",
+     "import FILE... --into DIR [--group NAME] [--dry-run] [--map OLD=NEW]...\n"
+     "       [--convert-commands] [--json]",
+     "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
+     "its\n"
+     "      stores (.atc), and all of these in a folder. Says of each tool what became of it.",
+     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, importCommand},
+    {"export", "export DIR PALETTE FILE.xtp [--json]",
+     "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
+     "", 3, 3, exportCommand},
 };
 
 void printHelp(QTextStream& out) {
@@ -27,10 +39,64 @@ void printHelp(QTextStream& out) {
     out << "  tpal " << c.synopsis << "\n      " << c.description << "\n\n";
   out << "  --json       the result as JSON on standard output\n"
          "  --to DIR     where to write instead\n"
+         "  --into DIR   the folder of the catalog that takes the palettes; a new one is made if\n"
+         "               there is none\n"
+         "  --group NAME the group that is to hold them; made if it is not there\n"
+         "  --dry-run    only looks and reports\n"
+         "  --map OLD=NEW  drawings below the folder OLD are looked for below NEW from now on\n"
+         "  --convert-commands  makes command tools of other products' tools that are but a macro\n"
          "  --help       this text\n"
          "  --version    the version\n\n"
          "Exit codes: 0 all is well; 1 something was found or left out; 2 wrong usage;\n"
          "3 a catalog cannot be read or written.\n";
+}
+
+/// Takes an option's value into the arguments; says what is wrong with it, if anything is.
+using TakeValue = OdString (*)(Arguments& arguments, const OdString& value);
+
+struct Option {
+  const char* name;
+  const char* value; ///< what it needs behind it, in words; null for a switch
+  TakeValue take;
+};
+
+template <OdString Arguments::*Member>
+OdString takeText(Arguments& arguments, const OdString& value) {
+  arguments.*Member = value;
+  return {};
+}
+
+template <bool Arguments::*Member>
+OdString takeSwitch(Arguments& arguments, const OdString&) {
+  arguments.*Member = true;
+  return {};
+}
+
+OdString takeMap(Arguments& arguments, const OdString& value) {
+  const qsizetype at = value.indexOf(u'=');
+  if (at <= 0) return QStringLiteral("--map needs OLD=NEW, not \"%1\"").arg(value);
+  arguments.map.emplace_back(value.left(at), value.mid(at + 1));
+  return {};
+}
+
+constexpr Option kOptions[] = {
+    {"--json", nullptr, takeSwitch<&Arguments::json>},
+    {"--to", "a folder", takeText<&Arguments::to>},
+    {"--into", "a folder", takeText<&Arguments::into>},
+    {"--group", "a name", takeText<&Arguments::group>},
+    {"--dry-run", nullptr, takeSwitch<&Arguments::dryRun>},
+    {"--map", "OLD=NEW", takeMap},
+    {"--convert-commands", nullptr, takeSwitch<&Arguments::convertCommands>},
+};
+
+const Option* findOption(const Command& command, const OdString& word) {
+  for (const Option& option : kOptions) {
+    const QLatin1String name(option.name);
+    const bool isOffered = name == QLatin1String("--json") ||
+                           QLatin1String(command.options).contains(name + QLatin1Char(' '));
+    if (word == name && isOffered) return &option;
+  }
+  return nullptr;
 }
 
 /// Says what is wrong with the command line, if anything is.
@@ -38,20 +104,23 @@ std::optional<OdString> parse(const Command& command, const QStringList& words,
                               Arguments& arguments) {
   for (qsizetype i = 0; i < words.size(); ++i) {
     const OdString& word = words[i];
-    if (word == QLatin1String("--json")) {
-      arguments.json = true;
-    } else if (word == QLatin1String("--to") && command.takesTo) {
-      if (++i == words.size()) return QStringLiteral("--to needs a folder");
-      arguments.to = words[i];
-    } else if (word.startsWith(u'-') && word.size() > 1) {
-      return QStringLiteral("unknown option %1").arg(word);
-    } else {
-      arguments.folders << word;
+    if (!word.startsWith(u'-') || word.size() == 1) {
+      arguments.words << word;
+      continue;
     }
+    const Option* const option = findOption(command, word);
+    if (!option) return QStringLiteral("unknown option %1").arg(word);
+    if (option->value && ++i == words.size())
+      return QStringLiteral("%1 needs %2").arg(word, QLatin1String(option->value));
+    const OdString wrong = option->take(arguments, option->value ? words[i] : OdString());
+    if (!wrong.isEmpty()) return wrong;
   }
-  if (arguments.folders.isEmpty()) return QStringLiteral("a folder is missing");
-  if (!command.severalFolders && arguments.folders.size() > 1)
-    return QStringLiteral("one folder only, not %1").arg(arguments.folders.size());
+  const qsizetype count = arguments.words.size();
+  if (count == 0) return QStringLiteral("a folder is missing");
+  if (count < command.leastWords) return QStringLiteral("something is missing");
+  if (count > command.mostWords && command.mostWords == 1)
+    return QStringLiteral("one folder only, not %1").arg(count);
+  if (count > command.mostWords) return QStringLiteral("there is something too much");
   return std::nullopt;
 }
 

@@ -1,0 +1,68 @@
+// tpal export: a palette of a catalog for other programs.
+#include "catalog/palette_export.h"
+#include "frame/file_path.h"
+#include "frame/system_services.h"
+#include "tpal/command.h"
+#include "tpal/loaded_catalog.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace tpal {
+namespace {
+
+/// The palette of that id or, failing that, of that name.
+tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word) {
+  tc::OdTcToolPalette* const byId = catalog.findPalette(word);
+  return byId ? byId : catalog.findPaletteByName(word);
+}
+
+void print(const tc::OdTcExportReport& report, bool json, Console& console) {
+  if (json) {
+    const QJsonObject row{
+        {QStringLiteral("file"), report.file},
+        {QStringLiteral("imageFolder"), report.imageFolder},
+        {QStringLiteral("pictures"), report.pictures},
+        {QStringLiteral("withoutPicture"), QJsonArray::fromStringList(report.withoutPicture)},
+        {QStringLiteral("written"), report.problem.isEmpty()},
+        {QStringLiteral("problem"), report.problem}};
+    console.out << OdString::fromUtf8(QJsonDocument(row).toJson());
+    return;
+  }
+  if (report.problem.isEmpty())
+    console.out << report.file << ": written, " << report.pictures << " pictures in "
+                << report.imageFolder << "\n";
+  else
+    console.out << report.file << ": not written: " << report.problem << "\n";
+  for (const OdString& name : report.withoutPicture)
+    console.out << "  without its picture: " << name << "\n";
+}
+
+} // namespace
+
+ExitCode exportCommand(const Arguments& arguments, Console& console) {
+  const OdString& word = arguments.words[1];
+  const QFileInfo target(odpath::toPlatform(arguments.words[2]));
+  if (target.suffix().compare(QLatin1String("xtp"), Qt::CaseInsensitive) != 0) {
+    console.err << "tpal: " << arguments.words[2] << " does not end in .xtp\n";
+    return kUsage;
+  }
+  const ModuleClasses classes;
+  const LoadedCatalog loaded = loadCatalog(arguments.words[0]);
+  for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
+  if (!loaded.isRead) return kFailed;
+  tc::OdTcToolPalette* const palette = findPalette(*loaded.catalog, word);
+  if (!palette) {
+    console.err << "tpal: " << loaded.file << " has no palette \"" << word << "\"\n";
+    return kFailed;
+  }
+  const tc::OdTcExportReport report =
+      tc::exportPalette(*palette, odpath::fromPlatform(target.absoluteFilePath()));
+  print(report, arguments.json, console);
+  if (!report.problem.isEmpty()) return kFailed;
+  return report.withoutPicture.isEmpty() ? kOk : kFindings;
+}
+
+} // namespace tpal
