@@ -76,7 +76,7 @@ void BlockShapes::record(ShapeItem& item, OdDbEntity& entity) {
   item.deviation = m_deviation;
   if (!entity.isVisible() || (m_isInserted && isFilledInByInserts(entity))) return;
   ShapeRecorder recorder(m_list, m_deviation);
-  entity.worldDraw(recorder);
+  recorder.record(entity);
   item.pieceCount = static_cast<std::uint32_t>(m_list.pieces.size()) - item.firstPiece;
   item.isCoarse = recorder.takeIsCoarse();
   for (std::uint32_t i = 0; i < item.pieceCount && !item.hasBlocks; ++i)

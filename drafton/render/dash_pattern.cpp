@@ -57,14 +57,13 @@ void DashPattern::measure() {
   m_length = 0;
 }
 
-std::optional<double> DashPattern::startFor(double lineLength) const {
+std::optional<double> DashPattern::endFor(double lineLength) const {
   if (m_dashes.empty()) return std::nullopt;
   const double first = std::max(0.0, m_dashes.front().length);
   const double repeats = std::floor(lineLength / m_length);
   if (repeats < 1) return std::nullopt;
-  // The dash at each end has half of what the whole patterns leave, and half of itself.
-  const double end = (lineLength - repeats * m_length + first) / 2;
-  return first - end;
+  // Each end has half of what whole patterns leave, and half of the dash that they lack.
+  return (lineLength - repeats * m_length + first) / 2;
 }
 
 } // namespace drafton

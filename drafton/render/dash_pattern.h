@@ -33,10 +33,10 @@ class DashPattern {
   double length() const { return m_length; }
   const std::vector<Dash>& dashes() const { return m_dashes; }
   const std::vector<DashOrnament>& ornaments() const { return m_ornaments; }
-  /// Where in the pattern a line of a length (in the pattern's units) begins so that both of its
-  /// ends show the first dash alike; nothing if the line is too short for the pattern, and is then
-  /// drawn continuous.
-  std::optional<double> startFor(double lineLength) const;
+  /// How long the first dash is at both ends of a line of a length (in the pattern's units), so
+  /// that they look alike; nothing if the line is too short for the pattern, and is then drawn
+  /// continuous.
+  std::optional<double> endFor(double lineLength) const;
 
  private:
   void measure();

@@ -1,8 +1,16 @@
 #include "drafton/render/dash_walker.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace drafton {
+namespace {
+
+constexpr double kEndless = std::numeric_limits<double>::infinity();
+constexpr double kAstray = 1e-6;
+
+} // namespace
 
 DashWalker::DashWalker(Surface& surface, const Projection& projection, const DashPattern& pattern,
                        double scale, double reach, DrawOrnament drawOrnament)
@@ -18,34 +26,47 @@ void DashWalker::draw(std::span<const OdGePoint3d> points, bool closed) {
   double total = 0;
   for (std::size_t i = 0; i + 1 < points.size(); ++i) total += points[i].distanceTo(points[i + 1]);
   if (closed) total += points.back().distanceTo(points.front());
-  const std::optional<double> start = m_pattern.startFor(total / m_scale);
-  if (!start) {
+  const std::optional<double> end = m_pattern.endFor(total / m_scale);
+  if (!end) {
     std::vector<QPointF> shown;
     for (const OdGePoint3d& p : points) shown.push_back(m_projection(p));
     m_surface.polyline(shown, closed);
     return;
   }
-  m_position = closed ? 0 : *start * m_scale;
-  seek(m_position);
+  const double first = std::max(0.0, m_pattern.dashes()[0].length) * m_scale;
+  m_start = closed ? first : *end * m_scale;
+  m_lastStart = closed || first == 0 ? kEndless : total - *end * m_scale;
+  m_position = 0;
+  seek(0);
   m_points.clear();
   for (std::size_t i = 0; i + 1 < points.size(); ++i) segment(points[i], points[i + 1]);
   if (closed) segment(points.back(), points.front());
   endDash();
 }
 
-/// Finds the dash at a position; one before the pattern's start is in its first dash, which is then
-/// longer than usual.
+/// Goes on with a dash at a position.
+void DashWalker::startDash(std::size_t dash, double position) {
+  m_dash = dash;
+  m_left = std::abs(m_pattern.dashes()[dash].length) * m_scale;
+  // The last one has what is left; a little arithmetic may have gone astray on the way.
+  if (dash == 0 && position > m_lastStart - kAstray * m_scale * m_pattern.length())
+    m_left = kEndless;
+}
+
+/// Finds the dash at a position.
 void DashWalker::seek(double position) {
-  const double length = m_pattern.length() * m_scale;
-  m_dash = 0;
-  if (position < 0) {
-    m_left = std::abs(m_pattern.dashes()[0].length) * m_scale - position;
+  if (position < m_start || position > m_lastStart) {
+    m_dash = 0;
+    m_left = position < m_start ? m_start - position : kEndless;
     return;
   }
-  double inside = std::fmod(position, length);
-  for (;; m_dash = (m_dash + 1) % m_pattern.dashes().size()) {
-    m_left = std::abs(m_pattern.dashes()[m_dash].length) * m_scale - inside;
-    if (m_left > 0 || (m_left == 0 && m_pattern.dashes()[m_dash].length == 0)) return;
+  const double length = m_pattern.length() * m_scale;
+  const double first = std::abs(m_pattern.dashes()[0].length) * m_scale;
+  double inside = std::fmod(position - m_start + first, length);
+  for (std::size_t dash = 0;; dash = (dash + 1) % m_pattern.dashes().size()) {
+    startDash(dash, position);
+    m_left -= inside;
+    if (m_left > 0 || (inside == 0 && m_pattern.dashes()[dash].length == 0)) return;
     inside = -m_left;
   }
 }
@@ -90,8 +111,7 @@ void DashWalker::segment(const OdGePoint3d& from, const OdGePoint3d& to) {
     if (dash.ornament >= 0 && m_drawOrnament)
       m_drawOrnament(m_pattern.ornaments()[static_cast<std::size_t>(dash.ornament)],
                      from + along * at, along);
-    m_dash = (m_dash + 1) % m_pattern.dashes().size();
-    m_left = std::abs(m_pattern.dashes()[m_dash].length) * m_scale;
+    startDash((m_dash + 1) % m_pattern.dashes().size(), start + at);
     addPoint(point);
   }
   m_left -= last - at;

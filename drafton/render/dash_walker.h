@@ -29,6 +29,7 @@ class DashWalker {
  private:
   void segment(const OdGePoint3d& from, const OdGePoint3d& to);
   void seek(double position);
+  void startDash(std::size_t dash, double position);
   void addPoint(const QPointF& point);
   void endDash();
 
@@ -39,7 +40,9 @@ class DashWalker {
   QRectF m_seen;
   DrawOrnament m_drawOrnament;
 
-  double m_position = 0;         // along the path, in its lengths, behind the pattern's start
+  double m_start = 0;            // how long the first dash is at the beginning of the path
+  double m_lastStart = 0;        // where the first dash begins that runs to the end of the path
+  double m_position = 0;         // along the path
   std::size_t m_dash = 0;        // the dash that is being drawn
   double m_left = 0;             // of it
   std::vector<QPointF> m_points; // of the dash that is being drawn

@@ -3,6 +3,7 @@
 #include "drafton/render/gradient_brush.h"
 #include "drafton/render/text_shapes.h"
 #include "drawing/patterns/line_shapes.h"
+#include "drawing/patterns/pattern_strokes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +21,9 @@ constexpr double kFinestPattern = 3;
 /// Texts lower than this are shown as strips.
 constexpr double kLowestText = 3;
 /// The part of an area's pixels that a pattern may cover before it is thinned out.
-constexpr double kDensestStrokes = 0.8;
+constexpr double kDensestStrokes = 0.6;
+/// How much colour stands for a pattern that is too dense or too large to draw.
+constexpr double kLightestTint = 0.25, kDarkestTint = 0.75;
 /// Line types' texts and shapes reach no further from their line, in their own sizes.
 constexpr double kOrnamentReach = 12;
 /// Points without a size are this part of the picture's height.
@@ -110,6 +113,9 @@ void PiecePainter::draw(const ShapeList& list, const Piece& piece, const QRectF&
     break;
   case PieceKind::kStrokes:
     strokes(list, piece, itemBox);
+    break;
+  case PieceKind::kPattern:
+    pattern(list, list.patterns[piece.first]);
     break;
   case PieceKind::kText:
     text(list.texts[piece.first]);
@@ -307,13 +313,50 @@ void PiecePainter::strokes(const ShapeList& list, const Piece& piece, const QRec
   std::size_t every = 1;
   if (m_options.simplifies && ink > extent * kDensestStrokes)
     every = static_cast<std::size_t>(std::ceil(ink / (extent * kDensestStrokes)));
-  for (std::size_t i = 0; i + 1 < ends.size(); i += 2 * every) {
-    const QPointF from = (*m_projection)(ends[i]), to = (*m_projection)(ends[i + 1]);
-    if (from == to)
-      m_surface.dot(from);
-    else
-      m_surface.line(from, to);
+  for (std::size_t i = 0; i + 1 < ends.size(); i += 2 * every) stroke(ends[i], ends[i + 1]);
+}
+
+void PiecePainter::stroke(const OdGePoint3d& from, const OdGePoint3d& to) {
+  const QPointF a = (*m_projection)(from), b = (*m_projection)(to);
+  if (a == b)
+    m_surface.dot(a);
+  else
+    m_surface.line(a, b);
+}
+
+void PiecePainter::pattern(const ShapeList& list, const PatternPiece& pattern) {
+  const double cover = m_scale > 0 ? pattern.ink / m_scale : 0;
+  if (m_haloWidth > 0 || !m_options.simplifies || cover < kDensestStrokes) {
+    const auto ends = std::span(list.points).subspan(pattern.firstStroke, pattern.strokeCount);
+    for (std::size_t i = 0; i + 1 < ends.size(); i += 2) stroke(ends[i], ends[i + 1]);
+    if (pattern.rings.empty() || seenStrokes(pattern)) return;
   }
+  // The eye sees a tint where lines are so close.
+  const double tint = std::clamp(cover, kLightestTint, kDarkestTint);
+  m_surface.setPen(withAlpha(m_color, static_cast<std::uint8_t>(qAlpha(m_color) * tint)), m_width);
+  m_surface.fill(pathOf(list, pattern.area));
+}
+
+/// Draws the part of a large pattern that is seen; false if that is still too much.
+bool PiecePainter::seenStrokes(const PatternPiece& pattern) {
+  bool canInvert = false;
+  const QTransform back = m_projection->planeOf(pattern.toWorld).inverted(&canInvert);
+  if (!canInvert) return false;
+  const QRectF seen = back.mapRect(m_surface.clipRect());
+  odpattern::Rings rings;
+  for (const auto& ring : pattern.rings) {
+    QPolygonF polygon;
+    for (const OdGePoint2d& p : ring) polygon << QPointF(p.x, p.y);
+    auto& cut = rings.emplace_back();
+    for (const QPointF& p : cutPolygon(polygon, seen)) cut.push_back({p.x(), p.y()});
+    if (cut.size() < 3) rings.pop_back();
+  }
+  m_ends.clear();
+  if (!odpattern::appendStrokes(rings, pattern.lines, odpattern::kUsualLimit, m_ends)) return false;
+  for (std::size_t i = 0; i + 1 < m_ends.size(); i += 2)
+    stroke(pattern.toWorld * OdGePoint3d{m_ends[i].x, m_ends[i].y, 0},
+           pattern.toWorld * OdGePoint3d{m_ends[i + 1].x, m_ends[i + 1].y, 0});
+  return true;
 }
 
 void PiecePainter::text(const OdGiTextRun& run) {

@@ -55,9 +55,12 @@ class PiecePainter {
   bool isDashed() const;
   void dashed(std::span<const OdGePoint3d> points, bool closed);
   void ornament(const DashOrnament& ornament, const OdGePoint3d& at, const OdGeVector3d& along);
+  void stroke(const OdGePoint3d& from, const OdGePoint3d& to);
   QPainterPath pathOf(const ShapeList& list, const AreaPiece& area);
   void area(const ShapeList& list, const AreaPiece& area);
   void gradient(const ShapeList& list, const GradientPiece& piece);
+  void pattern(const ShapeList& list, const PatternPiece& pattern);
+  bool seenStrokes(const PatternPiece& pattern);
   void strokes(const ShapeList& list, const Piece& piece, const QRectF& itemBox);
   void text(const OdGiTextRun& run);
   void mark(const PointPiece& point);
@@ -79,6 +82,7 @@ class PiecePainter {
   double m_haloWidth = 0;
   std::vector<QPointF> m_buffer;
   std::vector<OdGePoint3d> m_chords;
+  std::vector<OdGePoint2d> m_ends;
 };
 
 } // namespace drafton

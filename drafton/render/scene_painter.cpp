@@ -37,18 +37,6 @@ class Opened {
   OdDbObjectId m_id;
 };
 
-/// The part of the xy plane that is under a rectangle of the picture; nothing if the plane is seen
-/// from the side or askew, where heights count.
-std::optional<QRectF> planeUnder(const QRectF& rect, const Projection& projection) {
-  const QPointF height = projection(OdGeVector3d::zAxis());
-  const double scale = projection.scale();
-  if (!(scale > 0) || std::hypot(height.x(), height.y()) > 1e-9 * scale) return std::nullopt;
-  bool canInvert = false;
-  const QTransform back = projection.planeTransform().inverted(&canInvert);
-  if (!canInvert) return std::nullopt;
-  return back.mapRect(rect);
-}
-
 } // namespace
 
 double deviationFor(double scale) {
@@ -222,7 +210,7 @@ void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const 
     if (!entity || !entity->isVisible()) continue;
     const Style style = resolved(Traits(*entity, m_scene.styles()), m_scene.styles(), nullptr);
     const std::size_t first = list.pieces.size();
-    entity->worldDraw(recorder);
+    recorder.record(*entity);
     const OdGeExtents3d extents = recorder.takeBox();
     m_pieces.setProjection(projection);
     m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));

@@ -3,6 +3,7 @@
 
 #include "drawing/entities/entity.h"
 #include "drawing/graphics/world_draw.h"
+#include "drawing/patterns/hatch_pattern.h"
 
 namespace drafton {
 
@@ -13,6 +14,7 @@ enum class PieceKind : std::uint8_t {
   kArea,
   kGradient,
   kStrokes, ///< pairs of points
+  kPattern,
   kText,
   kPoint,
   kBlock,
@@ -37,6 +39,17 @@ struct AreaPiece {
 struct GradientPiece {
   OdGiGradient gradient;
   AreaPiece area;
+};
+
+/// The area of a hatch with its pattern. How much of the pattern is worth drawing depends on the
+/// view: few lines are recorded, many are made for the part that is seen.
+struct PatternPiece {
+  AreaPiece area;
+  std::vector<OdHatchPatternLine> lines;
+  OdGeMatrix3d toWorld;                           ///< from the plane of rings and lines
+  std::vector<std::vector<OdGePoint2d>> rings;    ///< empty if the strokes are recorded
+  std::uint32_t firstStroke = 0, strokeCount = 0; ///< ends in the points
+  double ink = 0;                                 ///< the length of its lines in an area of 1
 };
 
 struct PointPiece {
@@ -67,6 +80,7 @@ class ShapeList {
   std::vector<OdGiArc> arcs;
   std::vector<AreaPiece> areas;
   std::vector<GradientPiece> gradients;
+  std::vector<PatternPiece> patterns;
   std::vector<OdGiTextRun> texts;
   std::vector<PointPiece> marks;
   std::vector<BlockPiece> blocks;

@@ -1,7 +1,9 @@
 #include "drafton/render/shape_recorder.h"
 
+#include "drawing/entities/hatch.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/entities/viewport.h"
+#include "drawing/patterns/pattern_strokes.h"
 
 #include <algorithm>
 
@@ -12,7 +14,62 @@ bool isFinite(const OdGeVector3d& v) {
   return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
+/// Patterns with fewer strokes than this are recorded.
+constexpr std::size_t kFewStrokes = 20000;
+
+/// The length of the lines of a pattern in an area of 1; dots count for nothing.
+double inkOf(const std::vector<OdHatchPatternLine>& lines) {
+  double ink = 0;
+  for (const OdHatchPatternLine& line : lines) {
+    const double distance =
+        std::abs(line.offset.y * std::cos(line.angle) - line.offset.x * std::sin(line.angle));
+    if (!(distance > 0)) continue;
+    double drawn = 0, period = 0;
+    for (const double dash : line.dashes) {
+      drawn += std::max(dash, 0.0);
+      period += std::abs(dash);
+    }
+    ink += (period > 0 ? drawn / period : 1) / distance;
+  }
+  return ink;
+}
+
 } // namespace
+
+void ShapeRecorder::record(const OdDbEntity& entity) {
+  const auto* const hatch = odrxCast<OdDbHatch>(&entity);
+  if (hatch != nullptr && !hatch->isSolidFill() && !hatch->isGradient())
+    pattern(*hatch);
+  else
+    entity.worldDraw(*this);
+}
+
+void ShapeRecorder::pattern(const OdDbHatch& hatch) {
+  const OdGiRings rings = hatch.filledRings(m_deviation);
+  if (rings.empty()) return;
+  if (!hatch.backgroundColor().isNone()) {
+    setPieceColor(hatch.backgroundColor());
+    area(rings);
+    setPieceColor(std::nullopt);
+  }
+  PatternPiece piece;
+  piece.area = addRings(rings);
+  piece.lines = hatch.patternLines();
+  piece.ink = inkOf(piece.lines);
+  piece.toWorld = OdGeMatrix3d::planeToWorld(hatch.normal()) *
+                  OdGeMatrix3d::translation({0, 0, hatch.elevation()});
+  piece.rings = hatch.filledPlaneRings(m_deviation);
+  std::vector<OdGePoint2d> ends;
+  if (odpattern::appendStrokes(piece.rings, piece.lines, kFewStrokes, ends)) {
+    piece.rings.clear();
+    piece.firstStroke = static_cast<std::uint32_t>(m_list.points.size());
+    piece.strokeCount = static_cast<std::uint32_t>(ends.size());
+    for (const OdGePoint2d& p : ends)
+      m_list.points.push_back(piece.toWorld * OdGePoint3d{p.x, p.y, 0});
+  }
+  add(PieceKind::kPattern, m_list.patterns.size(), 1);
+  m_list.patterns.push_back(std::move(piece));
+}
 
 void ShapeRecorder::add(PieceKind kind, std::size_t first, std::size_t count) {
   Piece piece{.kind = kind,

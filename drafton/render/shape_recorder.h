@@ -3,6 +3,8 @@
 
 #include "drafton/render/shape_list.h"
 
+class OdDbHatch;
+
 namespace drafton {
 
 /// Adds the pieces of entities to a list and measures them. Blocks are recorded by reference; the
@@ -13,6 +15,9 @@ class ShapeRecorder : public OdGiWorldDraw {
   ShapeRecorder(ShapeList& list, double deviation)
     : m_list(list)
     , m_deviation(deviation) {}
+
+  /// Records all that an entity shows.
+  void record(const OdDbEntity& entity);
 
   /// The box around all pieces since the last call, blocks excepted.
   OdGeExtents3d takeBox() { return std::exchange(m_box, {}); }
@@ -37,6 +42,7 @@ class ShapeRecorder : public OdGiWorldDraw {
   void add(PieceKind kind, std::size_t first, std::size_t count);
   void addPoints(std::span<const OdGePoint3d> points);
   bool areFinite(std::span<const OdGePoint3d> points) const;
+  void pattern(const OdDbHatch& hatch);
   AreaPiece addRings(const OdGiRings& rings);
 
   ShapeList& m_list;

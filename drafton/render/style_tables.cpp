@@ -1,5 +1,7 @@
 #include "drafton/render/style_tables.h"
 
+#include "drawing/tables/layer_transparency.h"
+
 namespace drafton {
 namespace {
 
@@ -33,6 +35,7 @@ void StyleTables::read(LayerState& layer) {
                          ? kContinuous
                          : linetypeNumber(record->linetypeObjectId());
     state.lineWeight = record->lineWeight();
+    state.alpha = oddbLayerTransparency(*record).alpha();
     state.isOff = record->isOff();
     state.isFrozen = record->isFrozen();
     state.isPlottable =

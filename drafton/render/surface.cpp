@@ -154,13 +154,18 @@ void Surface::dot(const QPointF& at) {
   fill(spot);
 }
 
+QPolygonF cutPolygon(QPolygonF polygon, const QRectF& rect) {
+  for (const Side& side : kSides) polygon = cutAt(polygon, rect, side);
+  return polygon;
+}
+
 QPainterPath Surface::cut(QPainterPath path) const {
   const QRectF near = m_clip.adjusted(-kFar, -kFar, kFar, kFar);
   if (near.contains(path.controlPointRect())) return path;
   const Qt::FillRule rule = path.fillRule();
   QPainterPath result;
-  for (QPolygonF& polygon : path.toSubpathPolygons()) {
-    for (const Side& side : kSides) polygon = cutAt(polygon, near, side);
+  for (QPolygonF polygon : path.toSubpathPolygons()) {
+    polygon = cutPolygon(polygon, near);
     if (polygon.size() > 2) result.addPolygon(polygon);
   }
   result.setFillRule(rule);

@@ -64,4 +64,7 @@ class Surface {
   bool m_isThin = true, m_penApplied = false;
 };
 
+/// The part of a polygon that is inside of a rectangle.
+QPolygonF cutPolygon(QPolygonF polygon, const QRectF& rect);
+
 } // namespace drafton

@@ -44,6 +44,16 @@ std::array<OdGeVector3d, 3> View::axes() const {
   return {x * c - y * s, x * s + y * c, z};
 }
 
+std::optional<QRectF> planeUnder(const QRectF& rect, const Projection& projection) {
+  const QPointF height = projection(OdGeVector3d::zAxis());
+  const double scale = projection.scale();
+  if (!(scale > 0) || std::hypot(height.x(), height.y()) > 1e-9 * scale) return std::nullopt;
+  bool canInvert = false;
+  const QTransform back = projection.planeTransform().inverted(&canInvert);
+  if (!canInvert) return std::nullopt;
+  return back.mapRect(rect);
+}
+
 Projection View::projection() const {
   const auto [right, up, towards] = axes();
   const OdGeVector3d from = target.asVector();

@@ -8,6 +8,8 @@
 #include <QRectF>
 #include <QTransform>
 
+#include <optional>
+
 namespace drafton {
 
 /// An affine map from the drawing onto a picture: x to the right, y down, in pixels.
@@ -39,6 +41,10 @@ class Projection {
  private:
   std::array<double, 4> m_x{1, 0, 0, 0}, m_y{0, -1, 0, 0};
 };
+
+/// The part of the xy plane that is under a rectangle of the picture; nothing if the plane is seen
+/// from the side or askew, where heights count.
+std::optional<QRectF> planeUnder(const QRectF& rect, const Projection& projection);
 
 /// A parallel view of the drawing.
 struct View {

@@ -12,7 +12,7 @@ constexpr OdLineShape kShapes[] = {
     {131, u"ZIG", "M 0 0 L 0.5 1 L 1.5 -1 L 2 0"},
     {132, u"BOX", "M 0 -1 L 2 -1 L 2 1 L 0 1 L 0 -1"},
     {133, u"CIRC1", "A 1 0 1 180 360"},
-    {134, u"BAT", "M 0.35 -1.6 L 0 1 A 1 1 1 180 -180 L 1.65 -1.6"},
+    {134, u"BAT", "M 0 0 L 0 1 A 1 1 1 180 -180 L 2 0"},
     {200, u"ARROW", "M 0 1 L 2 0 L 0 -1"},
     {201, u"CROSS", "M 0 -1 L 2 1 M 0 1 L 2 -1"},
     {202, u"DIAMOND", "M 0 0 L 1 1 L 2 0 L 1 -1 L 0 0"},

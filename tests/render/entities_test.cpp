@@ -1,8 +1,15 @@
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/dimension_kinds.h"
+#include "drawing/entities/ellipse.h"
+#include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
-#include "drawing/entities/text.h"
+#include "drawing/entities/polyline2d.h"
+#include "drawing/entities/solid.h"
+#include "drawing/entities/spline.h"
 #include "render/picture_fixture.h"
 
 namespace render_test {
@@ -57,24 +64,120 @@ TEST_F(EntityPictures, PolylinesWithBulgesAndWidths) {
 }
 
 TEST_F(EntityPictures, Texts) {
-  const auto addText = [&](const char16_t* words, double x, double y, double height, double angle) {
-    auto text = odrxMake<OdDbText>();
-    text->setDatabaseDefaults(database());
-    text->setTextString(OdString::fromUtf16(words));
-    text->setPosition({x, y, 0});
-    text->setHeight(height);
-    text->setRotation(angle);
-    add(text);
-    return text;
-  };
-  addText(u"Plain text", -100, 50, 14, 0);
-  addText(u"Größe Ø 25 ±0.1", -100, 25, 10, 0);
-  addText(u"%%uunderlined%%u %%ooverlined", -100, 5, 10, 0);
-  addText(u"Small text is a strip when it cannot be read", -100, -10, 1.2, 0);
-  addText(u"Turned", 40, -60, 12, kOdaPi / 3);
-  addText(u"Narrow", -100, -35, 12, 0)->setWidthFactor(0.6);
-  addText(u"Oblique", -100, -60, 12, 0)->setOblique(0.35);
+  addText(QStringLiteral(u"Plain text"), -100, 50, 14);
+  addText(QStringLiteral(u"Größe Ø 25 ±0.1"), -100, 25, 10);
+  addText(QStringLiteral(u"%%uunderlined%%u %%ooverlined"), -100, 5, 10);
+  addText(QStringLiteral(u"Small text is a strip when it cannot be read"), -100, -10, 1.2);
+  addText(QStringLiteral(u"Turned"), 40, -60, 12)->setRotation(kOdaPi / 3);
+  addText(QStringLiteral(u"Narrow"), -100, -35, 12)->setWidthFactor(0.6);
+  addText(QStringLiteral(u"Oblique"), -100, -60, 12)->setOblique(0.35);
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "text"));
+}
+
+TEST_F(EntityPictures, EllipsesAndSplines) {
+  add(odrxMake<OdDbEllipse>(OdGePoint3d{-60, 20, 0}, OdGeVector3d::zAxis(), OdGeVector3d{40, 15, 0},
+                            0.5));
+  add(odrxMake<OdDbEllipse>(OdGePoint3d{-60, -50, 0}, OdGeVector3d::zAxis(), OdGeVector3d{40, 0, 0},
+                            0.4, 0.5, 4));
+  auto fitted = odrxMake<OdDbSpline>(
+      std::vector<OdGePoint3d>{{0, -60, 0}, {20, 40, 0}, {40, -40, 0}, {60, 50, 0}, {100, 0, 0}});
+  fitted->setColor(OdCmColor::fromColorIndex(1));
+  add(fitted);
+  auto controlled = odrxMake<OdDbSpline>(
+      3, std::vector<OdGePoint3d>{{0, -70, 0}, {30, 0, 0}, {70, 0, 0}, {100, -70, 0}},
+      std::vector<double>{0, 0, 0, 0, 1, 1, 1, 1});
+  controlled->setColor(OdCmColor::fromColorIndex(5));
+  add(controlled);
+  EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "ellipse_spline"));
+}
+
+TEST_F(EntityPictures, PointsInEveryMode) {
+  database().setSysVar(QStringLiteral("PDSIZE"), 12.0);
+  const int forms[] = {0, 1, 2, 3, 4};
+  QImage sheet(320, 240, QImage::Format_RGB32);
+  sheet.fill(Qt::white);
+  add(odrxMake<OdDbPoint>(OdGePoint3d{0, 0, 0}));
+  for (int row = 0; row < 4; ++row) {
+    for (int form : forms) {
+      database().setSysVar(QStringLiteral("PDMODE"), std::int64_t{form + 32 * row});
+      const QImage one = picture(-20, -20, 20, 20, {64, 60});
+      for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+          sheet.setPixel(form * 64 + x, row * 60 + y, one.pixel(x, y));
+    }
+  }
+  EXPECT_TRUE(looksLike(sheet, "point"));
+}
+
+TEST_F(EntityPictures, SolidsAndOldPolylines) {
+  auto solid = odrxMake<OdDbSolid>(OdGePoint3d{-100, 0, 0}, OdGePoint3d{-50, 10, 0},
+                                   OdGePoint3d{-90, 50, 0}, OdGePoint3d{-40, 40, 0});
+  solid->setColor(OdCmColor::fromColorIndex(30));
+  add(solid);
+  auto flat = odrxMake<OdDb2dPolyline>();
+  flat->addVertexAt(0, {-20, 0, 0}, 0.5, 3, 8);
+  flat->addVertexAt(1, {30, 0, 0}, 0, 3, 3);
+  flat->addVertexAt(2, {60, 50, 0});
+  add(flat);
+  auto space = odrxMake<OdDb2dPolyline>(OdDb2dPolyline::k3d);
+  space->addVertexAt(0, {-100, -60, 0});
+  space->addVertexAt(1, {0, -20, 40});
+  space->addVertexAt(2, {90, -60, -20});
+  space->setColor(OdCmColor::fromColorIndex(6));
+  add(space);
+  EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "solid_polyline2d"));
+}
+
+TEST_F(EntityPictures, TextsOfSeveralLines) {
+  auto text = odrxMake<OdDbMText>();
+  text->setDatabaseDefaults(database());
+  text->setContents(QStringLiteral(
+      "Plain, {\\C1;red} and {\\fDejaVu Serif|b1|i0;serif bold}\\P"
+      "{\\H1.6x;Larger} \\Lunder\\l \\Oover\\o \\Kstruck\\k\\P"
+      "Fractions \\S1/2; \\S+0.1^-0.2; \\S3#4; and a line that is too long for the width"));
+  text->setLocation({-100, 70, 0});
+  text->setTextHeight(9);
+  text->setWidth(200);
+  add(text);
+  auto turned = odrxMake<OdDbMText>();
+  turned->setDatabaseDefaults(database());
+  turned->setContents(QStringLiteral("Middle\\Pof a turned\\Ptext"));
+  turned->setLocation({60, -40, 0});
+  turned->setAttachment(OdDbMText::kMiddleCenter);
+  turned->setTextHeight(8);
+  turned->setRotation(0.4);
+  add(turned);
+  EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "mtext"));
+}
+
+TEST_F(EntityPictures, Leaders) {
+  auto straight = odrxMake<OdDbLeader>();
+  straight->setDatabaseDefaults(database());
+  for (const OdGePoint3d& p : {OdGePoint3d{-20, -12, 0}, {-5, 5, 0}, {5, 5, 0}})
+    straight->appendVertex(p);
+  add(straight);
+  auto curved = odrxMake<OdDbLeader>();
+  curved->setDatabaseDefaults(database());
+  for (const OdGePoint3d& p : {OdGePoint3d{0, -12, 0}, {8, 0, 0}, {18, -6, 0}, {22, 8, 0}})
+    curved->appendVertex(p);
+  curved->setSplined(true);
+  add(curved);
+  EXPECT_TRUE(looksLike(picture(-25, -18, 25, 18), "leader"));
+}
+
+TEST_F(EntityPictures, Dimensions) {
+  const auto dimension = [&](OdDbDimension* made) {
+    made->setDatabaseDefaults(database());
+    add(made);
+    made->recomputeDimBlock();
+  };
+  add(odrxMake<OdDbCircle>(OdGePoint3d{60, 10, 0}, OdGeVector3d::zAxis(), 20));
+  dimension(odrxMake<OdDbRotatedDimension>(0, OdGePoint3d{-50, -20, 0}, OdGePoint3d{20, -10, 0},
+                                           OdGePoint3d{-50, -35, 0}));
+  dimension(odrxMake<OdDbAlignedDimension>(OdGePoint3d{-50, -10, 0}, OdGePoint3d{10, 30, 0},
+                                           OdGePoint3d{-55, 0, 0}));
+  dimension(odrxMake<OdDbRadialDimension>(OdGePoint3d{60, 10, 0}, OdGePoint3d{74, 24, 0}, 5));
+  EXPECT_TRUE(looksLike(picture(-75, -50, 95, 60, {480, 320}), "dimension"));
 }
 
 } // namespace

@@ -42,12 +42,11 @@ testing::AssertionResult looksLike(const QImage& picture, const char* name) {
   if (expected.isNull() || expected.size() != actual.size()) {
     actual.save(actualPath);
     return testing::AssertionFailure()
-           << golden.toStdString()
-           << (expected.isNull() ? " cannot be read" : " has another size") << "; the picture is "
-           << actualPath.toStdString();
+           << golden.toStdString() << (expected.isNull() ? " cannot be read" : " has another size")
+           << "; the picture is " << actualPath.toStdString();
   }
-  QImage difference = expected.convertToFormat(QImage::Format_Grayscale8)
-                          .convertToFormat(QImage::Format_RGB32);
+  QImage difference =
+      expected.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_RGB32);
   qint64 wrong = 0;
   for (int y = 0; y < actual.height(); ++y) {
     for (int x = 0; x < actual.width(); ++x) {
@@ -60,10 +59,10 @@ testing::AssertionResult looksLike(const QImage& picture, const char* name) {
   if (wrong <= most) return testing::AssertionSuccess();
   actual.save(actualPath);
   difference.save(differencePath);
-  return testing::AssertionFailure() << wrong << " pixels differ from " << golden.toStdString()
-                                     << ", " << most << " may; the picture is "
-                                     << actualPath.toStdString() << ", the differences are in "
-                                     << differencePath.toStdString();
+  return testing::AssertionFailure()
+         << wrong << " pixels differ from " << golden.toStdString() << ", " << most
+         << " may; the picture is " << actualPath.toStdString() << ", the differences are in "
+         << differencePath.toStdString();
 }
 
 } // namespace render_test

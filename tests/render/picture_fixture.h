@@ -3,6 +3,8 @@
 
 #include "drafton/render/renderer.h"
 #include "drawing/database.h"
+#include "drawing/entities/hatch.h"
+#include "drawing/entities/text.h"
 #include "render/golden_picture.h"
 
 namespace render_test {
@@ -15,14 +17,9 @@ class PictureTest : public testing::Test {
   OdDbDatabase& database() { return *m_database; }
   Scene& scene() { return m_scene; }
 
-  /// Puts an entity into the model space, with the drawing's current values unless it has a layer.
+  /// Puts an entity into the model space.
   OdDbObjectId add(OdDbEntity* entity) { return addTo(m_database->getModelSpaceId(), entity); }
   OdDbObjectId addTo(OdDbObjectId block, OdDbEntity* entity) {
-    if (entity->layerId().isNull()) {
-      const OdCmColor color = entity->color();
-      entity->setDatabaseDefaults(*m_database);
-      entity->setColor(color);
-    }
     return block.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(entity);
   }
   OdDbObjectId addBlock(const char16_t* name) {
@@ -35,6 +32,29 @@ class PictureTest : public testing::Test {
     layer->setName(OdString::fromUtf16(name));
     layer->setColor(OdCmColor::fromColorIndex(color));
     return m_database->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(layer);
+  }
+
+  /// A line of text at its left end.
+  OdDbTextPtr addText(const OdString& words, double x, double y, double height) {
+    auto text = odrxMake<OdDbText>();
+    text->setDatabaseDefaults(*m_database);
+    text->setTextString(words);
+    text->setPosition({x, y, 0});
+    text->setHeight(height);
+    add(text);
+    return text;
+  }
+  /// A hatch of a rectangle, solid and by layer, in no drawing yet.
+  static OdDbHatchPtr hatchOf(double x0, double y0, double x1, double y1) {
+    auto hatch = odrxMake<OdDbHatch>();
+    hatch->appendLoop(rectangle(x0, y0, x1, y1));
+    return hatch;
+  }
+  static OdDbHatchLoop rectangle(double x0, double y0, double x1, double y1) {
+    OdDbHatchLoop loop;
+    loop.flags = OdDbHatchLoop::kExternal | OdDbHatchLoop::kPolyline;
+    loop.vertices = {{{x0, y0}, 0}, {{x1, y0}, 0}, {{x1, y1}, 0}, {{x0, y1}, 0}};
+    return loop;
   }
 
   /// The model space from corner to corner.

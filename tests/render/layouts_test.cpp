@@ -1,0 +1,160 @@
+#include "drafton/render/sheet.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/polyline.h"
+#include "drawing/entities/raster_image.h"
+#include "drawing/entities/viewport.h"
+#include "drawing/patterns/linetype_file.h"
+#include "frame/file_path.h"
+#include "render/picture_fixture.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QTemporaryDir>
+
+namespace render_test {
+namespace {
+
+class LayoutPictures : public PictureTest {
+ protected:
+  OdDbLayoutPtr sheet() {
+    const OdDbObjectId id = oddb::createLayout(database(), QStringLiteral("Sheet"));
+    auto layout = id.openAs<OdDbLayout>(OdDb::kForWrite);
+    layout->setPlotPaperSize(297, 210);
+    layout->setPlotPaperMargins(10, 10, 10, 10);
+    return layout;
+  }
+  OdDbViewportPtr window(const OdDbLayout& layout, double x, double y, double w, double h) {
+    auto made = odrxMake<OdDbViewport>();
+    made->setCenterPoint({x, y, 0});
+    made->setWidth(w);
+    made->setHeight(h);
+    made->setViewHeight(h);
+    addTo(layout.getBlockTableRecordId(), made);
+    return made;
+  }
+  QImage sheetPicture(const OdDbLayout& layout) {
+    QImage image(594, 420, QImage::Format_RGB32);
+    View view;
+    view.size = image.size();
+    view = view.fitted(sheetOf(layout), 0.05);
+    {
+      QPainter painter(&image);
+      drawSheet(painter, layout, view, qRgb(128, 128, 128), qRgb(255, 255, 255));
+    }
+    render(image, scene(), layout.getBlockTableRecordId(), view, {});
+    return image;
+  }
+  void fillModel() {
+    const OdLinetypeFile file =
+        OdLinetypeFile::read(QStringLiteral(SOURCE_DIR "/drafton/engine/data/draftoniso.lin"));
+    auto circle = odrxMake<OdDbCircle>(OdGePoint3d{0, 0, 0}, OdGeVector3d::zAxis(), 40);
+    add(circle);
+    auto axis = odrxMake<OdDbLine>(OdGePoint3d{-60, 0, 0}, OdGePoint3d{60, 0, 0});
+    axis->setLinetype(file.find(QStringLiteral("DASHED"))->addTo(database()));
+    axis->setColor(OdCmColor::fromColorIndex(1));
+    add(axis);
+    auto extra = odrxMake<OdDbLine>(OdGePoint3d{0, -60, 0}, OdGePoint3d{0, 60, 0});
+    m_layer = addLayer(u"Extra", 5);
+    extra->setLayer(m_layer);
+    add(extra);
+    addText(QStringLiteral("Model"), -20, 10, 10);
+  }
+
+  OdDbObjectId m_layer;
+};
+
+TEST_F(LayoutPictures, WindowsWithScalesTwistFrozenLayersAndOtherShapes) {
+  fillModel();
+  const OdDbLayoutPtr layout = sheet();
+  window(*layout, 65, 140, 110, 90);
+  const OdDbViewportPtr half = window(*layout, 180, 140, 100, 90);
+  half->setCustomScale(0.5);
+  half->setFrozenLayers({m_layer});
+  const OdDbViewportPtr twisted = window(*layout, 65, 45, 110, 80);
+  twisted->setTwistAngle(kOdaPi / 6);
+  auto edge = odrxMake<OdDbCircle>(OdGePoint3d{180, 45, 0}, OdGeVector3d::zAxis(), 38);
+  const OdDbObjectId edgeId = addTo(layout->getBlockTableRecordId(), edge);
+  const OdDbViewportPtr round = window(*layout, 180, 45, 76, 76);
+  round->setNonRectClipEntityId(edgeId);
+  const OdDbViewportPtr off = window(*layout, 255, 140, 40, 90);
+  off->setOn(false);
+  const OdDbViewportPtr askew = window(*layout, 250, 45, 50, 76);
+  askew->setViewDirection({1, -1, 1});
+  EXPECT_TRUE(looksLike(sheetPicture(*layout), "layout"));
+}
+
+TEST_F(LayoutPictures, SheetsTurnWithTheirMargins) {
+  const OdDbLayoutPtr layout = sheet();
+  layout->setPlotPaperMargins(10, 20, 30, 40);
+  EXPECT_EQ(sheetOf(*layout).minPoint(), (OdGePoint3d{-10, -20, 0}));
+  EXPECT_EQ(sheetOf(*layout).maxPoint(), (OdGePoint3d{287, 190, 0}));
+  layout->setPlotRotation(OdDbPlotSettings::k90degrees);
+  EXPECT_EQ(sheetOf(*layout).minPoint(), (OdGePoint3d{-20, -30, 0}));
+  EXPECT_EQ(sheetOf(*layout).maxPoint(), (OdGePoint3d{190, 267, 0}));
+  layout->setPlotRotation(OdDbPlotSettings::k0degrees);
+  layout->setPlotPaperUnits(OdDbPlotSettings::kInches);
+  EXPECT_NEAR(sheetOf(*layout).maxPoint().x, 287 / 25.4, 1e-9);
+}
+
+class ImagePictures : public PictureTest {
+ protected:
+  /// A picture file of four colours with an edge.
+  OdString file() {
+    QImage image(64, 48, QImage::Format_RGB32);
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 64; ++x)
+        image.setPixel(x, y,
+                       x < 32 ? (y < 24 ? qRgb(220, 60, 40) : qRgb(240, 220, 80))
+                              : (y < 24 ? qRgb(60, 120, 220) : qRgb(60, 170, 90)));
+    const QString path = m_folder.filePath(QStringLiteral("four.png"));
+    image.save(path);
+    return odpath::fromPlatform(path);
+  }
+  OdDbRasterImagePtr place(const OdString& path, double x, double y) {
+    auto definition = odrxMake<OdDbRasterImageDef>();
+    definition->setSourceFileName(path);
+    definition->setSize({64, 48});
+    const OdDbObjectId dictionary = OdDbRasterImageDef::createImageDictionary(database());
+    const OdDbObjectId id = dictionary.openAs<OdDbDictionary>(OdDb::kForWrite)
+                                ->setAt(OdString::number(m_count++), definition);
+    auto image = odrxMake<OdDbRasterImage>();
+    image->setImageDefId(id);
+    image->setImageSize({64, 48});
+    image->setOrientation({x, y, 0}, {64, 0, 0}, {0, 48, 0});
+    add(image);
+    return image;
+  }
+
+  QTemporaryDir m_folder;
+  int m_count = 0;
+};
+
+TEST_F(ImagePictures, WholeTurnedClippedTonedAndMissing) {
+  const OdString path = file();
+  place(path, -105, 20);
+  const OdDbRasterImagePtr turned = place(path, 0, 0);
+  turned->setOrientation({0, 10, 0}, {50, 30, 0}, {-20, 34, 0});
+  place(path, -105, -70)->setClipBoundary({{8, 8}, {40, 40}});
+  const OdDbRasterImagePtr polygon = place(path, -35, -70);
+  polygon->setClipBoundary({{0, 0}, {64, 0}, {32, 48}});
+  const OdDbRasterImagePtr pale = place(path, 40, 20);
+  pale->setOrientation({62, 20, 0}, {44, 0, 0}, {0, 33, 0});
+  pale->setFade(70);
+  place(odpath::fromPlatform(m_folder.filePath(QStringLiteral("lost.png"))), 40, -70);
+  EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80, {440, 320}), "image"));
+}
+
+TEST_F(ImagePictures, AFolderOrADamagedFileIsMissing) {
+  QFile damaged(m_folder.filePath(QStringLiteral("damaged.png")));
+  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+  damaged.write("\x89PNG\r\n\x1a\n and nothing that belongs to it");
+  damaged.close();
+  place(odpath::fromPlatform(damaged.fileName()), 0, 0);
+  place(odpath::fromPlatform(m_folder.path()), 80, 0);
+  const QImage image = picture(-5, -5, 150, 55);
+  EXPECT_FALSE(image.isNull());
+}
+
+} // namespace
+} // namespace render_test
