@@ -52,5 +52,9 @@ using Translate = bool (*)(const OdString& text, OdString& out);
 /// Exported by the main module: the stored path of the command route map, an XML file.
 inline constexpr const char* kGetCmdRouteMap = "hostGetCmdRouteMap";
 using GetCmdRouteMap = bool (*)(OdString& out);
+/// Exported by draftoncmd1.dll or by the main module: the stored path of the user's own file that a
+/// hatch pattern stands in; false for predefined and unknown patterns.
+inline constexpr const char* kGetCustomPatternFileName = "hostGetCustomPatternFileName";
+using GetCustomPatternFileName = bool (*)(const OdString& pattern, OdString& out);
 
 } // namespace hostexport

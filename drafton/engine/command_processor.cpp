@@ -378,11 +378,17 @@ void CommandProcessor::closeUndoStep(const Frame& frame, Outcome outcome) {
   if (!database) return;
   const bool keeps = outcome == Outcome::kEnded;
   if (frame.mark && !keeps) database->rollbackTo(*frame.mark);
-  if (!frame.hasUndoStep) return;
-  if (keeps)
+  if (!frame.hasUndoStep) {
+    if (!frame.mark) m_document->forgetHatchChanges();
+    return;
+  }
+  if (keeps) {
+    m_document->updateHatches();
     database->endUndoRecord();
-  else
+  } else {
     database->abandonUndoRecord();
+    m_document->forgetHatchChanges();
+  }
   m_document->resumeLockStep();
 }
 

@@ -13,6 +13,8 @@ struct Alias {
 constexpr Alias kAliases[] = {
     {u"A", u"ARC"},
     {u"ADDSEL", u"ADDSELECTED"},
+    {u"BH", u"BHATCH"},
+    {u"BO", u"BOUNDARY"},
     {u"C", u"CIRCLE"},
     {u"CH", u"CHPROP"},
     {u"CLOSE", u"CloseDocument"},
@@ -28,6 +30,7 @@ constexpr Alias kAliases[] = {
     {u"DT", u"TEXT"},
     {u"E", u"ERASE"},
     {u"EL", u"ELLIPSE"},
+    {u"H", u"BHATCH"},
     {u"L", u"LINE"},
     {u"LA", u"LAYER"},
     {u"LEAD", u"LEADER"},

@@ -11,6 +11,7 @@ Document::Document(Engine& engine, OdDbDatabasePtr database, OdString name)
   , m_database(std::move(database))
   , m_name(std::move(name))
   , m_variables(engine, this)
+  , m_hatchKeeper(*m_database)
   , m_processor(engine, this) {
   m_database->addReactor(this);
 }
@@ -20,6 +21,12 @@ Document::~Document() { m_database->removeReactor(this); }
 OdString Document::name() const {
   const OdString file = m_database->fileName();
   return file.isEmpty() ? m_name : odpath::fileNameOf(file);
+}
+
+void Document::updateHatches() {
+  OdVariant gap;
+  m_variables.get(QStringLiteral("HPGAPTOL"), gap);
+  m_hatchKeeper.follow(gap.toDouble());
 }
 
 void Document::beginClosing() { m_isClosing = true; }

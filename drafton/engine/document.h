@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drafton/engine/command_processor.h"
+#include "drafton/engine/hatch_keeper.h"
 #include "drafton/engine/host_variables.h"
 #include "drawing/database.h"
 #include "host/document.h"
@@ -55,6 +56,11 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   /// them.
   std::vector<OdDbObjectId>& preselection() { return m_preselection; }
 
+  /// Lets associative hatches follow what the command changed whose step is about to end.
+  void updateHatches();
+  /// Passes over changes that bring former states back.
+  void forgetHatchChanges() { m_hatchKeeper.forget(); }
+
   /// From now on there is no drawing for anybody who asks.
   void beginClosing();
 
@@ -66,6 +72,7 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   OdDbDatabasePtr m_database;
   OdString m_name;
   HostVariables m_variables;
+  HatchKeeper m_hatchKeeper;
   std::map<OdString, OdVariant> m_values;
   std::vector<OdDbObjectId> m_previousSelection, m_preselection;
   OdGePoint3d m_lastPoint;

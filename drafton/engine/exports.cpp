@@ -1,6 +1,7 @@
 #include "drafton/engine/exports.h"
 
 #include "drafton/engine/engine.h"
+#include "drafton/engine/hatch_patterns.h"
 #include "drafton/engine/mem_param.h"
 #include "frame/dynamic_library.h"
 #include "host/exports.h"
@@ -49,6 +50,16 @@ Q_DECL_EXPORT bool Supp_Translate(const OdString& text, OdString& out) {
 Q_DECL_EXPORT bool hostGetCmdRouteMap(OdString& out) {
   Engine* const engine = Engine::current();
   const OdString path = engine ? engine->commandRouteMap() : OdString();
+  if (path.isEmpty()) return false;
+  out = path;
+  return true;
+}
+
+Q_DECL_EXPORT bool hostGetCustomPatternFileName(const OdString& pattern, OdString& out) {
+  Engine* const engine = Engine::current();
+  const OdString path =
+      engine ? drafton::customPatternFile(*engine, engine->documents().current(), pattern)
+             : OdString();
   if (path.isEmpty()) return false;
   out = path;
   return true;

@@ -23,33 +23,44 @@ bool isFileName(const OdString& name) {
          !name.startsWith(u'.');
 }
 
-} // namespace
+OdString pathOf(Engine& engine, const Document* document, const OdString& file) {
+  return file.isEmpty() ? OdString()
+                        : findSupportFile(engine, document, file, QStringLiteral("pat"));
+}
 
-std::optional<OdHatchPattern> findHatchPattern(Engine& engine, const Document* document,
-                                               const OdString& name, const OdString& file) {
-  const auto pat = QStringLiteral("pat");
-  for (const OdString& wanted :
-       {file, kPatternFile.toString(), isFileName(name) ? name : OdString()}) {
-    if (wanted.isEmpty()) continue;
-    const OdHatchPatternFile patterns = patternsOf(findSupportFile(engine, document, wanted, pat));
-    if (const OdHatchPattern* const found = patterns.find(name)) return *found;
+/// The pattern in a file of its own name, as it is typed or in one case.
+std::optional<FoundPattern> findCustomPattern(Engine& engine, const Document* document,
+                                              const OdString& name) {
+  if (!isFileName(name)) return std::nullopt;
+  for (const OdString& file : {name, name.toLower(), name.toUpper()}) {
+    const OdString path = pathOf(engine, document, file);
+    const OdHatchPatternFile patterns = patternsOf(path);
+    if (const OdHatchPattern* const found = patterns.find(name))
+      return FoundPattern{*found, path, false};
   }
   return std::nullopt;
 }
 
+} // namespace
+
+std::optional<FoundPattern> findHatchPattern(Engine& engine, const Document* document,
+                                             const OdString& name, const OdString& file) {
+  const OdString predefined = pathOf(engine, document, kPatternFile.toString());
+  for (const OdString& path : {pathOf(engine, document, file), predefined}) {
+    const OdHatchPatternFile patterns = patternsOf(path);
+    if (const OdHatchPattern* const found = patterns.find(name))
+      return FoundPattern{*found, path, path == predefined};
+  }
+  return findCustomPattern(engine, document, name);
+}
+
 OdString customPatternFile(Engine& engine, const Document* document, const OdString& name) {
-  if (!isFileName(name)) return {};
-  const auto pat = QStringLiteral("pat");
-  if (patternsOf(findSupportFile(engine, document, kPatternFile.toString(), pat)).find(name))
-    return {};
-  const OdString path = findSupportFile(engine, document, name, pat);
-  return patternsOf(path).find(name) ? path : OdString();
+  const std::optional<FoundPattern> found = findHatchPattern(engine, document, name);
+  return found && !found->isPredefined ? found->file : OdString();
 }
 
 std::vector<OdHatchPattern> predefinedPatterns(Engine& engine, const Document* document) {
-  return patternsOf(
-             findSupportFile(engine, document, kPatternFile.toString(), QStringLiteral("pat")))
-      .patterns();
+  return patternsOf(pathOf(engine, document, kPatternFile.toString())).patterns();
 }
 
 } // namespace drafton

@@ -13,10 +13,17 @@ class Engine;
 /// The file of the predefined patterns.
 inline constexpr QStringView kPatternFile = u"draftoniso.pat";
 
+/// A pattern and where it stands.
+struct FoundPattern {
+  OdHatchPattern pattern;
+  OdString file; ///< the stored path
+  bool isPredefined = false;
+};
+
 /// The pattern of a name, in any case: in `file` if one is given and has it, among the predefined
 /// ones, or in a file of the pattern's own name. Files are looked for as findSupportFile() does.
-std::optional<OdHatchPattern> findHatchPattern(Engine& engine, const Document* document,
-                                               const OdString& name, const OdString& file = {});
+std::optional<FoundPattern> findHatchPattern(Engine& engine, const Document* document,
+                                             const OdString& name, const OdString& file = {});
 
 /// The file of the pattern's own name, if there is one that has it and the pattern is none of the
 /// predefined ones; else empty.

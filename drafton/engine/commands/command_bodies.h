@@ -46,5 +46,9 @@ Task<void> redo(CommandContext& context);
 Task<void> zoom(CommandContext& context);
 Task<void> setVariable(CommandContext& context);
 Task<void> layer(CommandContext& context);
+Task<void> boundaryHatch(CommandContext& context);
+Task<void> fastHatch(CommandContext& context);
+Task<void> fastGradient(CommandContext& context);
+Task<void> boundary(CommandContext& context);
 
 } // namespace drafton

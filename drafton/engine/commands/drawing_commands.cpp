@@ -52,6 +52,10 @@ constexpr NativeCommand kCommands[] = {
     {u"LAYER", kOrdinary, layer},
     // With the dash users ask for the prompts where LAYER by itself may open a window.
     {u"-LAYER", kOrdinary, layer},
+    {u"BHATCH", kOrdinary, boundaryHatch},
+    {u"FASTHATCHCMD", kOrdinary, fastHatch},
+    {u"FASTGRADIENTCMD", kOrdinary, fastGradient},
+    {u"BOUNDARY", kOrdinary, boundary},
 };
 
 } // namespace

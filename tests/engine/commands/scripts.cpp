@@ -5,7 +5,7 @@ std::vector<Script> allScripts() {
   for (const auto& table : {lineScripts(), polylineScripts(), circleScripts(), arcScripts(),
                             rectangleScripts(), textScripts(), modifyScripts(), zoomScripts(),
                             setvarScripts(), layerScripts(), editScripts(), propertyScripts(),
-                            shapeScripts(), dimensionScripts()})
+                            shapeScripts(), dimensionScripts(), hatchScripts(), boundaryScripts()})
     all.insert(all.end(), table.begin(), table.end());
   return all;
 }

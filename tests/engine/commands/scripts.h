@@ -31,6 +31,8 @@ std::span<const Script> editScripts();
 std::span<const Script> propertyScripts();
 std::span<const Script> shapeScripts();
 std::span<const Script> dimensionScripts();
+std::span<const Script> hatchScripts();
+std::span<const Script> boundaryScripts();
 
 /// All of the above.
 std::vector<Script> allScripts();
