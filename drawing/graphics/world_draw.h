@@ -82,6 +82,7 @@ class OdGiWorldDraw {
   virtual void viewport(const OdDbViewport& viewport) = 0;
 
   /// The colour of the pieces that follow; nothing gives the entity's own again.
+  /// OdCmColor::kNone is that of the ground on which the drawing is shown.
   virtual void setPieceColor(const std::optional<OdCmColor>& color) = 0;
 };
 
