@@ -51,6 +51,7 @@ Engine::Engine(EngineOptions options, Console& console, InputSource* input)
   g_engine = this;
   m_commands.add(documentCommands());
   m_commands.add(drawingCommands());
+  m_commands.add(blockCommands());
   if (!m_settings->problem().isEmpty()) print(m_settings->problem());
 }
 

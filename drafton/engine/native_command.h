@@ -32,5 +32,7 @@ struct NativeCommand {
 std::span<const NativeCommand> documentCommands();
 /// Everything that draws, edits or shows (drafton/engine/commands/).
 std::span<const NativeCommand> drawingCommands();
+/// Blocks, external references, pictures and layouts (drafton/engine/blocks/).
+std::span<const NativeCommand> blockCommands();
 
 } // namespace drafton

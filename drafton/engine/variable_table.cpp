@@ -98,6 +98,7 @@ constexpr VariableRow kVariables[] = {
     {u"HPNAME", Type::kText, Scope::kSession, u"ANSI31"},
     {u"HPSCALE", Type::kReal, Scope::kSession, u"1", kAboveZero, kNoLimit},
     {u"HPSPACE", Type::kReal, Scope::kSession, u"1", kAboveZero, kNoLimit},
+    {u"INSNAME", Type::kText, Scope::kDocument, u""},
     {u"ISAVEBAK", Type::kInteger, Scope::kProfile, u"1", 0, 1},
     {u"LASTPOINT", Type::kPoint, Scope::kComputed, u"0,0,0", -kNoLimit, kNoLimit, lastPoint,
      setLastPoint},

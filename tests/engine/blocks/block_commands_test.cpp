@@ -1,0 +1,304 @@
+#include "drawing/entities/raster_image.h"
+#include "drawing/entities/viewport.h"
+#include "drawing/objects/layout.h"
+#include "drawing/objects/xref_manager.h"
+#include "engine/blocks/block_fixture.h"
+
+#include <QImage>
+
+namespace {
+
+// --- BLOCK and WBLOCK
+
+class BlockTest : public BlockFixture {};
+
+TEST_F(BlockTest, TakesObjectsOutOfTheDrawingIntoABlock) {
+  words("LINE|5,5|9,5||BLOCK|Bar|5,5|all||");
+  EXPECT_FALSE(isBusy()) << output().toStdString();
+  EXPECT_TRUE(all<OdDbLine>().empty());
+  ASSERT_TRUE(hasBlock(u"Bar"));
+  words("INSERT|Bar|1,1|||");
+  OdGeExtents3d box;
+  ASSERT_TRUE(inserts().at(0)->getGeomExtents(box));
+  EXPECT_EQ(box.minPoint(), (OdGePoint3d{1, 1, 0}));
+  EXPECT_EQ(box.maxPoint(), (OdGePoint3d{5, 1, 0}));
+}
+
+TEST_F(BlockTest, RedefinesABlockOnlyIfToldTo) {
+  addLineBlock(u"Bar");
+  words("LINE|0,0|0,1||BLOCK|Bar|");
+  EXPECT_FALSE(isBusy());
+  EXPECT_EQ(all<OdDbLine>().size(), 1u);
+  words("BLOCK|Bar|y|0,0|all||");
+  EXPECT_TRUE(all<OdDbLine>().empty());
+  words("INSERT|*Bar|0,0|||");
+  ASSERT_EQ(all<OdDbLine>().size(), 1u);
+  EXPECT_EQ(all<OdDbLine>()[0]->endPoint(), (OdGePoint3d{0, 1, 0}));
+}
+
+TEST_F(BlockTest, RefusesToContainItself) {
+  addLineBlock(u"Bar");
+  words("INSERT|Bar|0,0|||");
+  const QByteArray before = database().writeDxf();
+  words("BLOCK|Bar|y|0,0|all||");
+  EXPECT_TRUE(console().shows(QStringLiteral("Block \"Bar\" would contain itself.")));
+  EXPECT_EQ(database().writeDxf(), before);
+}
+
+TEST_F(BlockTest, RefusesNamesThatRecordsCannotHave) {
+  words("BLOCK|a:b");
+  EXPECT_TRUE(isBusy());
+  EXPECT_TRUE(console().shows(QStringLiteral("is no name for a block")));
+  type(QStringLiteral("^C"));
+}
+
+TEST_F(BlockTest, IsUndoneAtOnce) {
+  words("LINE|5,5|9,5|");
+  const QByteArray before = database().writeDxf();
+  words("BLOCK|Bar|5,5|all||U");
+  EXPECT_EQ(database().writeDxf(), before);
+}
+
+TEST_F(BlockTest, IsWrittenToAFileByItsName) {
+  addLineBlock(u"Bar");
+  words("WBLOCK|" + path("bar.dxf") + "|=");
+  EXPECT_FALSE(isBusy());
+  EXPECT_TRUE(QFile::exists(path("bar.dxf"))) << output().toStdString();
+}
+
+TEST_F(BlockTest, WritesABlockTheWholeDrawingOrChosenObjects) {
+  addLineBlock(u"Bar");
+  words("LINE|5,5|9,5|");
+  words("WBLOCK|" + path("block.dxf") + "|Bar");
+  words("WBLOCK|" + path("whole.dxf") + "|*");
+  words("WBLOCK|" + path("part.dxf") + "||5,5|all|");
+  const auto lineOf = [&](const char* name) {
+    const OdDbDatabasePtr drawing = OdDbDatabase::readFile(odpath::fromPlatform(path(name)));
+    const auto space = drawing->getModelSpaceId().openAs<OdDbBlockTableRecord>();
+    EXPECT_EQ(space->entityIds().size(), 1u) << name;
+    const OdDbLinePtr line = space->newIterator()->entity();
+    return std::pair(line->startPoint(), line->endPoint());
+  };
+  EXPECT_EQ(lineOf("block.dxf"), std::pair(OdGePoint3d{}, OdGePoint3d{10, 0, 0}));
+  EXPECT_EQ(lineOf("whole.dxf"), std::pair(OdGePoint3d{5, 5, 0}, OdGePoint3d{9, 5, 0}));
+  EXPECT_EQ(lineOf("part.dxf"), std::pair(OdGePoint3d{}, OdGePoint3d{4, 0, 0}));
+  EXPECT_EQ(all<OdDbLine>().size(), 1u) << "what was chosen stays";
+}
+
+TEST_F(BlockTest, ReplacesAFileOnlyIfToldTo) {
+  writeDrawing("old.dxf", 3);
+  addLineBlock(u"Bar");
+  words("WBLOCK|" + path("old.dxf") + "|");
+  EXPECT_FALSE(isBusy());
+  EXPECT_TRUE(OdDbDatabase::readFile(odpath::fromPlatform(path("old.dxf")))
+                  ->getModelSpaceId()
+                  .openAs<OdDbBlockTableRecord>()
+                  ->newIterator()
+                  ->entity()
+                  ->isKindOf(OdDbCircle::desc()));
+}
+
+// --- external references
+
+class ReferenceTest : public BlockFixture {};
+
+TEST_F(ReferenceTest, IsAttachedAndShown) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||1,1|||");
+  ASSERT_EQ(inserts().size(), 1u) << output().toStdString();
+  const auto block = inserts()[0]->blockTableRecord().openAs<OdDbBlockTableRecord>();
+  EXPECT_TRUE(block->isFromExternalReference());
+  EXPECT_FALSE(block->isFromOverlayReference());
+  OdGeExtents3d box;
+  ASSERT_TRUE(inserts()[0]->getGeomExtents(box));
+  EXPECT_NEAR(box.maxPoint().x, 3, 1e-9);
+}
+
+TEST_F(ReferenceTest, ByAModuleIsAnOverlayIfTold) {
+  writeDrawing("wheel.dxf", 2);
+  EXPECT_TRUE(runWith(u"XATTACH",
+                      {{u"ToolPaletteCall", odpath::fromPlatform(path("wheel.dxf"))},
+                       {u"XATT_REFTYPE", std::int32_t{2}},
+                       {u"XATT_SCALE", 2.0},
+                       {u"XATT_ROTATION", kOdaPi},
+                       {u"XATT_PROMPT_ROTATION", std::int32_t{0}},
+                       {u"XATT_IS_EXPLODE", std::int32_t{0}}},
+                      {"3,3"}));
+  ASSERT_EQ(inserts().size(), 1u) << output().toStdString();
+  EXPECT_TRUE(
+      inserts()[0]->blockTableRecord().openAs<OdDbBlockTableRecord>()->isFromOverlayReference());
+  EXPECT_DOUBLE_EQ(inserts()[0]->rotation(), kOdaPi);
+  EXPECT_EQ(inserts()[0]->scaleFactors().sx, 2);
+}
+
+TEST_F(ReferenceTest, TheSameFileIsAttachedOnce) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||1,1|||");
+  words("XATTACH|" + path("wheel.dxf") + "||5,5|||");
+  ASSERT_EQ(inserts().size(), 2u);
+  EXPECT_EQ(inserts()[0]->blockTableRecord(), inserts()[1]->blockTableRecord());
+}
+
+TEST_F(ReferenceTest, FileThatIsMissingOrBrokenAttachesNothing) {
+  const QByteArray before = database().writeDxf();
+  words("XATTACH|" + path("missing.dxf") + "|");
+  EXPECT_TRUE(console().shows(QStringLiteral("There is no file")));
+  QFile file(path("broken.dxf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("no drawing");
+  file.close();
+  words("XATTACH|" + path("broken.dxf") + "|");
+  EXPECT_TRUE(console().shows(QStringLiteral("was not attached"))) << output().toStdString();
+  EXPECT_EQ(database().writeDxf(), before);
+}
+
+TEST_F(ReferenceTest, IsListedReloadedUnloadedAndDetached) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||0,0||||XREF|?");
+  ASSERT_EQ(inserts().size(), 1u);
+  EXPECT_TRUE(console().shows(QStringLiteral("\"wheel\"  attached"))) << output().toStdString();
+  writeDrawing("wheel.dxf", 5);
+  words("XREF|r|wheel");
+  OdGeExtents3d box;
+  ASSERT_TRUE(inserts()[0]->getGeomExtents(box));
+  EXPECT_NEAR(box.maxPoint().x, 5, 1e-9);
+  words("XREF|u|*");
+  EXPECT_FALSE(inserts()[0]->getGeomExtents(box));
+  words("XREF|d|wheel");
+  EXPECT_TRUE(inserts().empty());
+  EXPECT_FALSE(hasBlock(u"wheel"));
+  words("XREF|d|wheel");
+  EXPECT_TRUE(console().shows(QStringLiteral("No external reference fits \"wheel\".")));
+}
+
+// --- pictures
+
+class RasterTest : public BlockFixture {
+ protected:
+  void writePicture(const char* name) {
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(path(name)));
+  }
+};
+
+TEST_F(RasterTest, IsOneUnitWideAtScaleOneAndKeepsItsProportions) {
+  writePicture("photo.png");
+  words("INSERTRASTER|" + path("photo.png") + "|1,2|4|0");
+  const auto images = all<OdDbRasterImage>();
+  ASSERT_EQ(images.size(), 1u) << output().toStdString();
+  OdGePoint3d origin;
+  OdGeVector3d u, v;
+  images[0]->getOrientation(origin, u, v);
+  EXPECT_EQ(origin, (OdGePoint3d{1, 2, 0}));
+  EXPECT_NEAR(u.length(), 4, 1e-9);
+  EXPECT_NEAR(v.length(), 2, 1e-9);
+}
+
+TEST_F(RasterTest, ByAModuleTakesNamePathScaleAndRotation) {
+  writePicture("photo.png");
+  EXPECT_TRUE(runWith(u"INSERTRASTER",
+                      {{u"PathScaleRotationNoDialog", QStringLiteral("PathScaleRotationNoDialog")},
+                       {u"DefName", QStringLiteral("Site")},
+                       {u"Path", odpath::fromPlatform(path("photo.png"))},
+                       {u"Scale", 3.0},
+                       {u"Rotation", kOdaPi / 2}},
+                      {"5,5"}));
+  const auto images = all<OdDbRasterImage>();
+  ASSERT_EQ(images.size(), 1u) << output().toStdString();
+  const OdDbRasterImageDefPtr definition = images[0]->imageDefId().openObject();
+  EXPECT_EQ(definition->name(), QStringLiteral("Site"));
+  EXPECT_TRUE(
+      odpath::samePlace(definition->activeFileName(), odpath::fromPlatform(path("photo.png"))));
+  OdGePoint3d origin;
+  OdGeVector3d u, v;
+  images[0]->getOrientation(origin, u, v);
+  EXPECT_NEAR(u.y, 3, 1e-9);
+}
+
+TEST_F(RasterTest, OfOneFileShareTheirDefinition) {
+  writePicture("photo.png");
+  words("INSERTRASTER|" + path("photo.png") + "|1,2|4|0");
+  words("INSERTRASTER|" + path("photo.png") + "|5,2|4|0");
+  const auto images = all<OdDbRasterImage>();
+  ASSERT_EQ(images.size(), 2u);
+  EXPECT_EQ(images[0]->imageDefId(), images[1]->imageDefId());
+}
+
+TEST_F(RasterTest, RefusesWhatIsNoPictureAndAScaleOfNothing) {
+  writeDrawing("plan.dxf", 1);
+  writePicture("photo.png");
+  words("INSERTRASTER|" + path("plan.dxf"));
+  EXPECT_TRUE(console().shows(QStringLiteral("cannot be read as a picture")))
+      << output().toStdString();
+  EXPECT_FALSE(runWith(u"INSERTRASTER",
+                       {{u"Path", odpath::fromPlatform(path("photo.png"))}, {u"Scale", 0.0}}, {}));
+  EXPECT_TRUE(all<OdDbRasterImage>().empty());
+}
+
+// --- layouts
+
+class LayoutTest : public BlockFixture {
+ protected:
+  QStringList names() {
+    QStringList all;
+    for (const OdDbLayoutPtr& one : oddb::layouts(database())) all << one->getLayoutName();
+    return all;
+  }
+  QString current() {
+    const OdDbLayoutPtr active = oddb::activeLayout(database()).openObject();
+    return active->getLayoutName();
+  }
+};
+
+TEST_F(LayoutTest, IsMadeChosenRenamedCopiedAndDeleted) {
+  const qsizetype before = names().size();
+  words("LAYOUT|n|Sheet");
+  EXPECT_TRUE(names().contains(QStringLiteral("Sheet")));
+  words("LAYOUT|s|Sheet");
+  EXPECT_EQ(current(), QStringLiteral("Sheet"));
+  words("LINE|0,0|5,5||LAYOUT|c|Sheet|Second");
+  words("LAYOUT|s|Second");
+  EXPECT_EQ(all<OdDbLine>().size(), 1u) << "what stands on a sheet is copied with it";
+  words("LAYOUT|r|Second|Third|LAYOUT|d|Third");
+  EXPECT_EQ(names().size(), before + 1);
+  words("MODEL");
+  EXPECT_EQ(current(), QStringLiteral("Model"));
+  EXPECT_TRUE(all<OdDbLine>().empty());
+}
+
+TEST_F(LayoutTest, RefusesTakenNamesAndTheModel) {
+  words("LAYOUT|n|Sheet|LAYOUT|n|sheet");
+  EXPECT_TRUE(isBusy());
+  EXPECT_TRUE(console().shows(QStringLiteral("There is a layout \"sheet\" already.")));
+  type(QStringLiteral("^C"));
+  words("LAYOUT|d|Model");
+  EXPECT_TRUE(console().shows(QStringLiteral("The model cannot be deleted.")));
+}
+
+TEST_F(LayoutTest, ViewShowsAllOfTheModel) {
+  words("LINE|0,0|100,50||LAYOUT|n|Sheet|LAYOUT|s|Sheet|MVIEW|10,10|210,110");
+  std::vector<OdDbViewportPtr> views;
+  for (const OdDbViewportPtr& view : all<OdDbViewport>())
+    if (!view->isOverall()) views.push_back(view);
+  ASSERT_EQ(views.size(), 1u) << output().toStdString();
+  EXPECT_EQ(views[0]->centerPoint(), (OdGePoint3d{110, 60, 0}));
+  const OdGeMatrix3d toPaper = views[0]->modelToPaper();
+  const OdGePoint3d corner = toPaper * OdGePoint3d{100, 50, 0};
+  EXPECT_LT(corner.x, 210);
+  EXPECT_LT(corner.y, 110);
+  EXPECT_GT(corner.x, 180);
+}
+
+TEST_F(LayoutTest, ViewTakesAScale) {
+  words("LINE|0,0|100,50||LAYOUT|n|Sheet|LAYOUT|s|Sheet|MVIEW|10,10|210,110");
+  words("MVIEW|s|l||0.5");
+  for (const OdDbViewportPtr& view : all<OdDbViewport>())
+    if (!view->isOverall()) {
+      EXPECT_NEAR(view->customScale(), 0.5, 1e-12);
+    }
+  words("MODEL|MVIEW");
+  EXPECT_TRUE(console().shows(QStringLiteral("Views of the model stand on layouts.")));
+}
+
+} // namespace
