@@ -13,7 +13,6 @@ Task<void> insertBlock(CommandContext& context);
 Task<void> insertBlockByName(CommandContext& context);
 Task<void> makeBlock(CommandContext& context);
 Task<void> writeBlock(CommandContext& context);
-Task<void> attributeDefinition(CommandContext& context);
 /// XATTACH. A parameter set gives the file as `ToolPaletteCall`, `XATT_REFTYPE` (2 overlays),
 /// `XATT_SCALE`, `XATT_ROTATION` (radians), `XATT_PROMPT_ROTATION` (0 or 1).
 Task<void> attachReference(CommandContext& context);
