@@ -115,7 +115,8 @@ void oddb::Cloner::make(Item& item) {
   if (auto* const entity = odrxCast<OdDbEntity>(object.get()))
     if (const OdDbEntityPtr other = entity->readAs()) object = OdDbObjectPtr(other);
   auto* const record = odrxCast<OdDbSymbolTableRecord>(object.get());
-  if (record && !item.newName.isEmpty()) record->setName(item.newName);
+  if (record && !item.newName.isEmpty() && record->getName() != item.newName)
+    record->setName(item.newName);
   if (!item.replaced.isNull()) {
     const OdDbObjectPtr existing = item.replaced.safeOpenObject(OdDb::kForWrite);
     auto* const block = odrxCast<OdDbBlockTableRecord>(existing.get());

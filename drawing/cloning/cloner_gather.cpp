@@ -29,6 +29,19 @@ bool isCommon(const OdString& name, Data::Table table) {
   });
 }
 
+/// The entry for the same file of shapes: such entries have no names.
+OdDbObjectId sameShapeFile(const OdDbSymbolTable& styles, const OdDbSymbolTableRecord& record) {
+  const auto* const wanted = odrxCast<OdDbTextStyleTableRecord>(&record);
+  for (const auto it = styles.newIterator(); wanted && !it->done(); it->step()) {
+    const OdDbSymbolTableRecordPtr each = it->getRecord();
+    const auto* const style = odrxCast<OdDbTextStyleTableRecord>(each.get());
+    if (style && style->isShapeFile() &&
+        style->fileName().compare(wanted->fileName(), Qt::CaseInsensitive) == 0)
+      return style->objectId();
+  }
+  return {};
+}
+
 } // namespace
 
 oddb::Cloner::Cloner(OdDbDatabase& source, OdDbDatabase& target, OdDbIdMapping& mapping,
@@ -171,7 +184,13 @@ OdDbObjectId oddb::Cloner::addRecord(const OdDbSymbolTableRecord& record, Data::
     });
   };
   OdDbObjectId replaced;
-  if (block && isAnonymous(name)) {
+  if (name.isEmpty()) {
+    existing = sameShapeFile(*records, record);
+    if (!existing.isNull()) {
+      m_mapping.assign({record.objectId(), existing, false});
+      return existing;
+    }
+  } else if (block && isAnonymous(name)) {
     const OdDbObjectId made = addAnonymousBlock(m_target, name.size() > 1 ? name[1] : u'U');
     // The name is taken from now on; what the block is comes with the copy.
     newName = made.openAs<OdDbBlockTableRecord>()->getName();

@@ -148,6 +148,10 @@ void OdDbDxfReader::readTable() {
 void OdDbDxfReader::readRecord(OdDbSymbolTable& table) {
   const OdDbSymbolTableRecordPtr record = table.newRecord();
   m_in.readTags(*record);
+  if (record->getName().isEmpty() && record->mayBeNameless()) {
+    m_in.enter(*record, table.objectId());
+    return;
+  }
   if (record->getName().isEmpty()) {
     m_in.damage(QStringLiteral("a %1 without a name is left out")
                     .arg(QLatin1String(table.dxfRecordName())));

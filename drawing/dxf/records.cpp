@@ -54,6 +54,7 @@ bool OdDbLayerTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     const int index = in.integer(tag, OdCmColor::kACIforeground);
     if (std::abs(index) > OdCmColor::kACInone) return false;
     m_layer.off = index < 0;
+    m_layer.indexInFile = static_cast<std::int16_t>(std::abs(index));
     if (!m_layer.color.isByColor()) m_layer.color.setColorIndex(std::abs(index));
     return true;
   }
@@ -93,7 +94,8 @@ void OdDbLayerTableRecord::dxfInEnd(OdDbDxfIn&) {}
 
 void OdDbLayerTableRecord::dxfOutFields(OdDbDxfOut& out) const {
   OdDbSymbolTableRecord::dxfOutFields(out);
-  const int index = m_layer.color.colorIndex();
+  const bool isToldSo = m_layer.color.isByColor() && m_layer.indexInFile > 0;
+  const int index = isToldSo ? m_layer.indexInFile : m_layer.color.colorIndex();
   out.integer(62, m_layer.off ? -index : index);
   if (m_layer.color.isByColor() && out.version() >= OdDb::kR2004)
     out.integer(420, m_layer.color.color() & 0xFFFFFF);
@@ -317,6 +319,10 @@ void OdDbBlockTableRecord::dxfOutBegin(OdDbDxfOut& out) const {
 }
 
 bool OdDbDictionary::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  if (m_withDefault && in.in("AcDbDictionaryWithDefault")) {
+    if (tag.code == 340) m_default = in.reference(tag);
+    return tag.code == 340 || tag.code == 100;
+  }
   if (!in.in("AcDbDictionary")) return false;
   switch (tag.code) {
   case 100:
@@ -349,6 +355,9 @@ void OdDbDictionary::dxfOut(OdDbDxfOut& out) const {
     out.text(3, entry.name);
     out.reference(m_entryCode, entry.id);
   }
+  if (!m_withDefault) return;
+  out.subclass("AcDbDictionaryWithDefault");
+  out.reference(340, m_default);
 }
 
 bool OdDbDictionaryVar::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {

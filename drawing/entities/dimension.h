@@ -88,6 +88,7 @@ class OdDbDimension : public OdDbEntity {
     OdGePoint3d definition, first, second, third;
     OdGePoint3d textMiddle, insertion, arcPoint; ///< in the coordinates of the plane
     OdGeVector3d normal = OdGeVector3d::zAxis();
+    bool obliqueFirst = false; ///< the file tells the slant among what all dimensions have
     double rotation = 0, oblique = 0, leaderLength = 0;
     // Of arc lengths.
     double arcStart = 0, arcEnd = 0;

@@ -241,6 +241,7 @@ void OdDbHatch::setGradientColors(const OdCmColor& first, const OdCmColor& secon
   assertWriteEnabled();
   m_hatch.color1 = first;
   m_hatch.color2 = second;
+  m_hatch.colorIndex1 = m_hatch.colorIndex2 = -1;
 }
 
 OdCmColor OdDbHatch::gradientColor2() const {

@@ -129,6 +129,7 @@ class OdDbHatch : public OdDbEntity {
     int gradient = 0, gradientReserved = 0, oneColor = 0, colorCount = 2;
     double gradientAngle = 0, gradientShift = 0, tint = 0;
     double colorValue1 = 0, colorValue2 = 1;
+    int colorIndex1 = -1, colorIndex2 = -1; ///< told beside true colours; below 0: not told
     OdCmColor color1 = OdCmColor::fromRgb(0, 0, 255), color2 = OdCmColor::fromRgb(255, 255, 153);
     OdString gradientName = QStringLiteral("LINEAR");
     OdGePoint2d origin;

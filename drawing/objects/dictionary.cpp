@@ -22,6 +22,7 @@ void OdDbDictionary::assignFrom(const OdDbObject& other) {
   m_hardOwner = dictionary.m_hardOwner;
   m_cloning = dictionary.m_cloning;
   m_entryCode = dictionary.m_entryCode;
+  m_default = dictionary.m_default;
 }
 
 OdDbObjectId OdDbDictionary::getAt(const OdString& name) const {

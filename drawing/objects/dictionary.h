@@ -35,6 +35,8 @@ class OdDbDictionary : public OdDbObject {
   void setName(OdDbObjectId id, const OdString& name);
   /// Forgets an entry; the object stays. False if there is none of that name.
   bool remove(const OdString& name);
+  /// The object that answers unknown names; null if there is none.
+  OdDbObjectId defaultId() const { return m_default; }
   const std::vector<Entry>& entries() const { return m_entries; }
 
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
@@ -50,6 +52,7 @@ class OdDbDictionary : public OdDbObject {
   // The code of the entries' references: 350 soft, 360 hard.
   int m_entryCode = 350;
   OdString m_pendingName;
+  OdDbObjectId m_default; ///< what answers unknown names
 };
 using OdDbDictionaryPtr = OdSmartPtr<OdDbDictionary>;
 

@@ -13,6 +13,7 @@ void OdDbLayerTableRecord::assignFrom(const OdDbObject& other) {
 void OdDbLayerTableRecord::setColor(const OdCmColor& color) {
   assertWriteEnabled();
   m_layer.color = color;
+  m_layer.indexInFile = -1;
 }
 
 void OdDbLayerTableRecord::setLinetypeObjectId(OdDbObjectId linetype) {

@@ -51,6 +51,7 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
     OdString plotStyleName;
     OdDb::LineWeight lineWeight = OdDb::kLnWtByLwDefault;
     bool plottable = true, off = false;
+    std::int16_t indexInFile = -1; ///< that the file tells beside a true colour; below 0: none
   };
   void registerDescriptions();
   Data m_layer;

@@ -48,6 +48,8 @@ void OdDbSymbolTableRecord::assignFrom(const OdDbObject& other) {
 OdDbSymbolTable::OdDbSymbolTable() = default;
 
 OdDbObjectId OdDbSymbolTable::getAt(const OdString& name) const {
+  // What has no name is not found by one.
+  if (name.isEmpty()) return {};
   if (!m_indexed) {
     m_index.clear();
     m_index.reserve(static_cast<qsizetype>(m_records.size()));
@@ -64,7 +66,7 @@ OdDbObjectId OdDbSymbolTable::getAt(const OdString& name) const {
 }
 
 OdDbObjectId OdDbSymbolTable::add(OdDbSymbolTableRecord* record) {
-  if (!record || record->getName().isEmpty())
+  if (!record || (record->getName().isEmpty() && !record->mayBeNameless()))
     throw OdDbError(eInvalidName, QStringLiteral("A record needs a name"));
   if (has(record->getName()))
     throw OdDbError(eDuplicateRecordName,

@@ -29,6 +29,8 @@ class OdDbSymbolTableRecord : public OdDbObject {
   void dxfOut(OdDbDxfOut& out) const override;
   /// The subclass marker behind that of all records ("AcDbLayerTableRecord").
   virtual const char* dxfSubclass() const = 0;
+  /// Such a record is known by what it says, not by a name.
+  virtual bool mayBeNameless() const { return false; }
 
  protected:
   OdDbSymbolTableRecord();

@@ -45,6 +45,7 @@ class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
   void font(OdString& typeFace, bool& bold, bool& italic, int& charSet, int& pitchAndFamily) const;
   void setFont(const OdString& typeFace, bool bold, bool italic, int charSet, int pitchAndFamily);
 
+  bool mayBeNameless() const override { return isShapeFile(); }
   const char* dxfSubclass() const override { return "AcDbTextStyleTableRecord"; }
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;

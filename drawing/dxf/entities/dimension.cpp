@@ -36,7 +36,7 @@ constexpr F kAligned[] = {
 };
 constexpr F kPoints[] = {{13, &Dim::first}, {14, &Dim::second}, {15, &Dim::third}};
 constexpr F kArcPoint = {16, &Dim::arcPoint};
-constexpr F kRound[] = {{15, &Dim::third}, {40, &Dim::leaderLength}};
+constexpr F kRound[] = {{15, &Dim::third}, {40, &Dim::leaderLength, F::kUnlessPreset}};
 constexpr F kOrdinateFields[] = {{13, &Dim::first}, {14, &Dim::second}};
 constexpr F kArc[] = {
     {70, &Dim::isPartial}, {40, &Dim::arcStart},    {41, &Dim::arcEnd},
@@ -50,12 +50,16 @@ struct Subclass {
 };
 constexpr F kAngularFields[] = {kPoints[0], kPoints[1], kPoints[2], kArcPoint};
 constexpr F kArcLengthFields[] = {kPoints[0], kPoints[1], kPoints[2], kArc[0], kArc[1],
-                            kArc[2],    kArc[3],    kArc[4],    kArc[5]};
+                                  kArc[2],    kArc[3],    kArc[4],    kArc[5]};
 constexpr Subclass kSubclasses[] = {
-    {"AcDbAlignedDimension", kAligned},      {"AcDbRotatedDimension", kAligned},
-    {"AcDb2LineAngularDimension", kAngularFields}, {"AcDb3PointAngularDimension", kPoints},
-    {"AcDbRadialDimension", kRound},         {"AcDbDiametricDimension", kRound},
-    {"AcDbOrdinateDimension", kOrdinateFields},    {"AcDbArcDimension", kArcLengthFields},
+    {"AcDbAlignedDimension", kAligned},
+    {"AcDbRotatedDimension", kAligned},
+    {"AcDb2LineAngularDimension", kAngularFields},
+    {"AcDb3PointAngularDimension", kPoints},
+    {"AcDbRadialDimension", kRound},
+    {"AcDbDiametricDimension", kRound},
+    {"AcDbOrdinateDimension", kOrdinateFields},
+    {"AcDbArcDimension", kArcLengthFields},
 };
 // Files of R12 have no subclasses, and no code there has two meanings.
 constexpr F kAllKinds[] = {kPoints[0], kPoints[1],  kPoints[2],  kArcPoint,
@@ -74,6 +78,10 @@ bool OdDbDimension::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
       return true;
     case 3:
       m_dimension.style = in.dimStyle(tag.text);
+      return true;
+    case 52:
+      m_dimension.oblique = in.angle(tag, 0);
+      m_dimension.obliqueFirst = !in.isPlain();
       return true;
     default:
       break;
@@ -101,7 +109,8 @@ void OdDbDimension::dxfOut(OdDbDxfOut& out) const {
   if (m_dimension.block.isValid()) out.recordName(2, m_dimension.block, "");
   Data written = m_dimension;
   constexpr int kKindBits = 15;
-  written.flags = (written.flags & ~kKindBits) | kind();
+  // Files do not tell the kind of the length of an arc so.
+  if (kind() != kArcLength) written.flags = (written.flags & ~kKindBits) | kind();
   for (const F& field : kCommon) {
     if (field.code == 12 && !written.insertion.asVector().isZeroLength())
       out.point(12, written.insertion);
@@ -110,6 +119,7 @@ void OdDbDimension::dxfOut(OdDbDxfOut& out) const {
       oddxf::putField(field, written, out);
     if (field.code == 51) out.recordName(3, m_dimension.style, "Standard");
   }
+  if (m_dimension.obliqueFirst) out.angle(52, m_dimension.oblique);
   dxfOutKind(out);
 }
 
@@ -117,7 +127,7 @@ void OdDbAlignedDimension::dxfOutKind(OdDbDxfOut& out) const {
   out.subclass("AcDbAlignedDimension");
   out.point(13, m_dimension.first);
   out.point(14, m_dimension.second);
-  if (m_dimension.oblique != 0) out.angle(52, m_dimension.oblique);
+  if (m_dimension.oblique != 0 && !m_dimension.obliqueFirst) out.angle(52, m_dimension.oblique);
 }
 
 void OdDbRotatedDimension::dxfOutKind(OdDbDxfOut& out) const {
@@ -125,7 +135,7 @@ void OdDbRotatedDimension::dxfOutKind(OdDbDxfOut& out) const {
   out.point(13, m_dimension.first);
   out.point(14, m_dimension.second);
   out.angle(50, m_dimension.rotation);
-  if (m_dimension.oblique != 0) out.angle(52, m_dimension.oblique);
+  if (m_dimension.oblique != 0 && !m_dimension.obliqueFirst) out.angle(52, m_dimension.oblique);
   out.subclass("AcDbRotatedDimension");
 }
 

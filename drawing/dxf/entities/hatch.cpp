@@ -189,9 +189,9 @@ void putPatternLine(const OdHatchPatternLine& line, OdDbDxfOut& out) {
   for (const double dash : line.dashes) out.real(49, dash);
 }
 
-void putGradientColor(double value, const OdCmColor& color, OdDbDxfOut& out) {
+void putGradientColor(double value, const OdCmColor& color, int index, OdDbDxfOut& out) {
   out.real(463, value);
-  out.integer(63, color.colorIndex());
+  if (index >= 0) out.integer(63, index);
   out.integer(421, color.rgb());
 }
 
@@ -336,7 +336,9 @@ bool OdDbHatch::readGradientTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   }
   case 63: {
     const int index = std::abs(in.integer(tag, 7));
-    if (index <= OdCmColor::kACInone) color.setColorIndex(index);
+    if (index > OdCmColor::kACInone) return true;
+    color.setColorIndex(index);
+    (m_secondColor ? m_hatch.colorIndex2 : m_hatch.colorIndex1) = index;
     return true;
   }
   case 421: {
@@ -377,7 +379,7 @@ void OdDbHatch::dxfOut(OdDbDxfOut& out) const {
   for (const OdGePoint2d& p : m_hatch.seeds) out.point2d(10, p);
   if (!isGradient() || out.version() < OdDb::kR2004) return;
   oddxf::putFields<Data>(kGradient, m_hatch, out);
-  putGradientColor(m_hatch.colorValue1, m_hatch.color1, out);
-  if (m_hatch.colorCount > 1) putGradientColor(m_hatch.colorValue2, m_hatch.color2, out);
+  putGradientColor(m_hatch.colorValue1, m_hatch.color1, m_hatch.colorIndex1, out);
+  if (m_hatch.colorCount > 1) putGradientColor(m_hatch.colorValue2, m_hatch.color2, m_hatch.colorIndex2, out);
   oddxf::putField(kGradientName, m_hatch, out);
 }

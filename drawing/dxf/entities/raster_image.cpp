@@ -22,7 +22,7 @@ constexpr ImageField kLook[] = {
     {283, &Image::fade},
 };
 constexpr ImageField kClipType = {71, &Image::clipType};
-constexpr ImageField kInverted = {290, &Image::inverted, ImageField::kUnlessPreset};
+constexpr ImageField kInverted = {290, &Image::inverted};
 
 } // namespace
 
