@@ -110,10 +110,9 @@ void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdStri
                   OdTcImportedTool& row) {
   OdTcToolActionAgent* const agent = tool.getActionAgent();
   const OdString path = agent ? agent->sourcePath() : OdString();
+  if (path.isEmpty()) return;
   // A pattern file without a folder is one of the host's own.
-  const bool isHosts =
-      odpath::fileNameOf(path) == path && agent->isKindOf(OdTcToolHatchCommand::desc());
-  if (path.isEmpty() || isHosts) return;
+  if (odpath::fileNameOf(path) == path && agent->isKindOf(OdTcToolHatchCommand::desc())) return;
   row.sourceFile = mapped(path, options);
   if (row.sourceFile != path) agent->setSourcePath(row.sourceFile);
   if (const OdString why = whyNotLookedFor(row.sourceFile); !why.isEmpty()) {
