@@ -1,0 +1,131 @@
+#include "catalog/palette_export.h"
+
+#include "catalog/import_fixture.h"
+
+#include <QXmlStreamReader>
+
+namespace {
+
+using namespace testhost;
+
+struct PaletteExportTest : ImportFixture {
+  PaletteExportTest() {
+    writeFile(u"in\\p\\Images\\a.png"_s, png());
+    palette = import(exported(
+        toolXml("A",
+                "<GeneralProperties><Color><BasicPropInfo><PropValue unspecified=\"FALSE\"/>"
+                "</BasicPropInfo><CreateInfo><AcCmColor mRGB=\"-1023410175\"/></CreateInfo></Color>"
+                "</GeneralProperties><Command Macro=\"_A&#10;  b\"/>",
+                "1", imageXml(".\\Images\\a.png")) +
+            toolXml("B", "<Block><BlockName>D</BlockName><SourceFile>C:\\b.dwg</SourceFile>"
+                         "<Scale>2</Scale></Block>"),
+        "p", "<DependentFilesPath>p</DependentFilesPath>",
+        "<Tool idValue=\"{B}\"/><Tool idValue=\"{A}\"/>"));
+  }
+  OdTcExportReport exportTo(const OdString& file) { return exportPalette(*palette, stored(file)); }
+  /// The names of the elements down to the first one called `name`.
+  static QStringList pathTo(const QByteArray& bytes, const OdString& name) {
+    QXmlStreamReader xml(bytes);
+    QStringList path;
+    while (!xml.atEnd()) {
+      xml.readNext();
+      if (xml.isStartElement()) path << xml.name().toString();
+      if (xml.isStartElement() && xml.name() == name) return path;
+      if (xml.isEndElement()) path.removeLast();
+    }
+    return {};
+  }
+
+  OdTcToolPalettePtr palette;
+};
+
+TEST_F(PaletteExportTest, HasTheFormThatOtherProgramsLookFor) {
+  const OdTcExportReport done = exportTo(u"out\\q.xtp"_s);
+  EXPECT_TRUE(done.problem.isEmpty()) << text(done.problem);
+  const QByteArray bytes = readFile(u"out\\q.xtp"_s);
+  EXPECT_TRUE(bytes.startsWith("<ToolPaletteExport>"));
+  EXPECT_TRUE(bytes.contains("<DependentFilesPath>q</DependentFilesPath>"));
+  const QStringList data{u"ToolPaletteExport"_s, u"PaletteSets"_s, u"PaletteSetData"_s,
+                         u"PaletteSetContent"_s, u"Palettes"_s,    u"PaletteData"_s};
+  EXPECT_EQ(pathTo(bytes, u"Palette"_s), data + QStringList({u"PaletteContent"_s, u"Palette"_s}));
+  EXPECT_EQ(pathTo(bytes, u"PaletteUI"_s), data + QStringList(u"PaletteUI"_s));
+  EXPECT_EQ(pathTo(bytes, u"PaletteSetUI"_s), data.mid(0, 3) + QStringList(u"PaletteSetUI"_s));
+  EXPECT_TRUE(bytes.contains("<CreateInfo>"));
+  EXPECT_FALSE(bytes.contains("ColorCreateInfo"));
+  EXPECT_TRUE(bytes.contains("src=\".\\Images\\a.png\""));
+  EXPECT_TRUE(bytes.contains("<Tool idValue="));
+  EXPECT_EQ(readFile(u"out\\q\\Images\\a.png"_s), png());
+}
+
+TEST_F(PaletteExportTest, ComesBackAsItWasButForIdsAndTimes) {
+  ASSERT_TRUE(exportTo(u"out\\p.xtp"_s).problem.isEmpty());
+  const QByteArray before = withoutChance(readFile(u"out\\p.xtp"_s));
+  writeFile(u"other\\DrfTcCatalog.dtc"_s, catalogXml({}));
+  const OdTcCatalogPtr other = load(stored(u"other\\DrfTcCatalog.dtc"_s));
+  const OdTcToolPalettePtr back = other->importPalette(stored(u"out\\p.xtp"_s), {}, report);
+  ASSERT_TRUE(back) << text(report.problem);
+  for (const OdTcImportedTool& tool : report.tools) EXPECT_EQ(tool.fate, OdTcToolFate::kTaken);
+  ASSERT_TRUE(exportPalette(*back, stored(u"again\\p.xtp"_s)).problem.isEmpty());
+  EXPECT_EQ(withoutChance(readFile(u"again\\p.xtp"_s)).toStdString(), before.toStdString());
+  EXPECT_EQ(readFile(u"again\\p\\Images\\a.png"_s), png());
+}
+
+TEST_F(PaletteExportTest, TheFormThatSaveCopyWritesComesBackAsWell) {
+  palette->setExporting(true);
+  ASSERT_TRUE(palette->saveCopy(stored(u"out.xtp"_s)));
+  palette->setExporting(false);
+  EXPECT_TRUE(readFile(u"out.xtp"_s).startsWith("<Palette "));
+  EXPECT_TRUE(exists(u"out\\Images\\a.png"_s));
+  const OdTcToolPalettePtr back = import(stored(u"out.xtp"_s));
+  ASSERT_TRUE(back);
+  EXPECT_EQ(toolsOf(*back).size(), 2u);
+  EXPECT_EQ(row(u"A"_s).picture, OdTcPictureFate::kFound);
+}
+
+TEST_F(PaletteExportTest, LeavesThePaletteWhereItIs) {
+  const OdString path = palette->getPath();
+  const auto before = allFiles();
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  EXPECT_EQ(palette->getPath(), path);
+  EXPECT_FALSE(palette->getDatabase()->isExporting());
+  {
+    FailingServices services;
+    services.deniedFolder = stored(u"out\\q.xtp"_s);
+    const OdTcExportReport failed = exportTo(u"out\\q.xtp"_s);
+    EXPECT_TRUE(failed.problem.contains(u"Permission denied"_s));
+  }
+  EXPECT_EQ(palette->getPath(), path);
+  EXPECT_FALSE(palette->getDatabase()->isExporting());
+  for (auto file = before.begin(); file != before.end(); ++file)
+    EXPECT_EQ(allFiles().value(file.key()), file.value()) << text(file.key());
+}
+
+TEST_F(PaletteExportTest, ReplacesThePicturesOfAFormerExport) {
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  writeFile(u"out\\q\\Images\\a.png"_s, "old");
+  writeFile(u"out\\q\\Images\\other.png"_s, "other");
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  EXPECT_EQ(readFile(u"out\\q\\Images\\a.png"_s), png());
+  EXPECT_EQ(readFile(u"out\\q\\Images\\other.png"_s), "other");
+}
+
+TEST_F(PaletteExportTest, NamesToolsWhosePictureIsGone) {
+  for (const OdString& name : odrxSystemServices()->filesIn(stored(u"c\\Palettes\\Images"_s)))
+    QFile::remove(platform(u"c\\Palettes\\Images\\"_s + name));
+  QDir().mkpath(platform(u"out"_s));
+  const OdTcCatalogPtr again = load(catalog().path());
+  const OdTcExportReport done =
+      exportPalette(*again->findPalette(palette->id()), stored(u"out\\q.xtp"_s));
+  EXPECT_TRUE(done.problem.isEmpty());
+  EXPECT_EQ(done.withoutPicture, QStringList(u"A"_s));
+}
+
+TEST_F(PaletteExportTest, KeepsTextsThatLookLikeReferences) {
+  toolsOf(*palette)[0]->setName(u"&#x41; <b> ]]>"_s);
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  const OdTcToolPalettePtr back = import(stored(u"out\\q.xtp"_s));
+  ASSERT_TRUE(back);
+  EXPECT_EQ(toolsOf(*back)[0]->name(), u"&#x41; <b> ]]>"_s);
+}
+
+} // namespace
