@@ -6,7 +6,8 @@ using Tool = ToolFixture;
 
 TEST_F(Tool, ExplainsItself) {
   EXPECT_EQ(run({QStringLiteral("--help")}), tpal::kOk);
-  for (const char* word : {"list", "check", "resave", "--json", "Exit codes"})
+  for (const char* word :
+       {"list", "check", "resave", "import", "export", "--json", "--map", "Exit codes"})
     EXPECT_TRUE(out().contains(QLatin1String(word))) << word;
 }
 
@@ -40,6 +41,19 @@ INSTANTIATE_TEST_SUITE_P(
         WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("y")},
                    "one folder only"},
         WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("--to")},
-                   "--to needs a folder"}));
+                   "--to needs a folder"},
+        WrongUsage{{QStringLiteral("import"), QStringLiteral("x.xtp")}, "--into is missing"},
+        WrongUsage{{QStringLiteral("import"), QStringLiteral("x"), QStringLiteral("--map"),
+                    QStringLiteral("old")},
+                   "--map needs OLD=NEW"},
+        WrongUsage{{QStringLiteral("import"), QStringLiteral("x"), QStringLiteral("--map")},
+                   "--map needs OLD=NEW"},
+        WrongUsage{{QStringLiteral("export"), QStringLiteral("x"), QStringLiteral("y")},
+                   "something is missing"},
+        WrongUsage{{QStringLiteral("export"), QStringLiteral("x"), QStringLiteral("y"),
+                    QStringLiteral("z.xtp"), QStringLiteral("w")},
+                   "something too much"},
+        WrongUsage{{QStringLiteral("list"), QStringLiteral("x"), QStringLiteral("--dry-run")},
+                   "unknown option --dry-run"}));
 
 } // namespace
