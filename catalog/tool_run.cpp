@@ -1,7 +1,7 @@
 // The road of one click: a tool is carried out in a document, and everything is put back after it.
 #include "catalog/tool_impl.h"
 
-#include "host/host_locator.h"
+#include "host/document_lock.h"
 #include "module/string_table.h"
 #include "properties/property_bag.h"
 #include "properties/property_filter.h"
@@ -10,28 +10,6 @@
 
 namespace tc {
 namespace {
-
-/// Holds a document's write lock. A host without documents has nothing to lock.
-class DocumentLock {
- public:
-  explicit DocumentLock(IHostDocument* document)
-    : m_manager(host::documentManager())
-    , m_document(document)
-    , m_isRefused(m_manager && !m_manager->lockDocument(
-                                   document, IHostDocumentManager::kWriteLock,
-                                   host::ownText(QStringLiteral("EXECUTETOOL")), nullptr, 1)) {}
-  DocumentLock(const DocumentLock&) = delete;
-  DocumentLock& operator=(const DocumentLock&) = delete;
-  ~DocumentLock() {
-    if (m_manager && !m_isRefused) m_manager->unlockDocument(m_document);
-  }
-  bool isRefused() const { return m_isRefused; }
-
- private:
-  IHostDocumentManager* m_manager;
-  IHostDocument* m_document;
-  bool m_isRefused;
-};
 
 /// Calls `operation` of each general property that the agent does not hide.
 void walkProperties(const OdTcToolImpl& tool, OdDbDatabase* database,
@@ -56,7 +34,7 @@ void OdTcToolImpl::leaveGuard() {
 }
 
 bool OdTcToolImpl::applyGeneralProperties(IHostDocument* document) {
-  const DocumentLock lock(document);
+  const HostDocumentLock lock(document);
   if (lock.isRefused()) return false;
   walkProperties(*this, document->database(), &OdTcProperty::applyToDatabase);
   return true;

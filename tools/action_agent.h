@@ -34,7 +34,8 @@ class OdTcToolActionAgent : public OdTcPersist {
 
   /// Called after the agent's fields were copied into a clone.
   virtual void afterClone() = 0;
-  /// Makes the pictures of the tool anew where imported ones are useless; false if nothing was done.
+  /// Makes the pictures of the tool anew where imported ones are useless; false if nothing was
+  /// done.
   virtual bool refreshImages(IHostDocument* document) = 0;
   /// Takes from the host what the agent shows of it.
   virtual void updateFromHost() = 0;

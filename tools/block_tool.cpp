@@ -6,6 +6,7 @@
 #include "module/string_table.h"
 #include "tools/deferred_command.h"
 #include "tools/object_property_families.h"
+#include "tools/plot_scale.h"
 
 namespace tc {
 namespace {
@@ -160,10 +161,11 @@ OdTcBlockRequest OdTcToolBlockCommandImpl::makeRequest(IHostDocument& document) 
   request.name = m_fields.name;
   request.sourceFile = m_fields.sourceFile;
   request.scale = m_fields.scale;
-  // The standard scale of a layout without plot settings is 1, and drawings keep none so far.
-  if (m_auxScale == AuxScale::kDimscale)
-    if (const OdDbDatabase* const database = document.database())
-      request.scale *= database->sysVarReal("DIMSCALE");
+  if (const OdDbDatabase* const database = document.database()) {
+    if (m_auxScale == AuxScale::kDimscale) request.scale *= database->sysVarReal("DIMSCALE");
+    if (m_auxScale == AuxScale::kPlotScale)
+      request.scale *= activePlotScale(*database).value_or(1.0);
+  }
   request.rotation = m_fields.rotation;
   request.askRotation = m_fields.isAskForRotation;
   request.explode = m_fields.isExplode;

@@ -31,7 +31,8 @@ struct OdTcRasterRequest {
   double rotation = 0.0; ///< radians
 };
 
-/// Holds one request of each kind: a second one overwrites the first, and taking it empties the box.
+/// Holds one request of each kind: a second one overwrites the first, and taking it empties the
+/// box.
 class OdTcCommandConveyor : public OdRxObject {
   ODRX_DECLARE_MEMBERS(OdTcCommandConveyor);
 

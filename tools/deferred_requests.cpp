@@ -1,7 +1,8 @@
 // What the words of the hidden command run.
 #include "drawing/database.h"
+#include "drawing/objects/xref_manager.h"
 #include "frame/system_services.h"
-#include "host/host_locator.h"
+#include "host/document_lock.h"
 #include "module/string_table.h"
 #include "tools/command_conveyor.h"
 #include "tools/execute_tool_command.h"
@@ -24,25 +25,53 @@ void runHostCommand(const char16_t* command, Parameters parameters) {
 /// A switch in a parameter set.
 OdVariant flag(bool value) { return std::int32_t{value}; }
 
-bool isDefined(OdDbDatabase& drawing, const OdString& block) {
+OdDbObjectId definitionIn(const OdDbDatabase& drawing, const OdString& block) {
   const OdDbBlockTablePtr table = drawing.getBlockTableId().openObject();
-  return table->has(block);
+  return table->getAt(block);
+}
+
+/// External references of a drawing bring their contents along.
+void loadReferences(OdDbDatabase& drawing) {
+  const OdDbBlockTablePtr table = drawing.getBlockTableId().openObject();
+  for (auto at = table->newIterator(); !at->done(); at->step()) {
+    const OdDbBlockTableRecordPtr block = at->getRecord();
+    if (block->isFromExternalReference() || block->isFromOverlayReference())
+      OdDbXRefMan::load(block->objectId());
+  }
+}
+
+/// What is to become the block: the whole source, or one block of it in a drawing of its own; null
+/// if it has no such block.
+OdDbDatabasePtr contentsOf(OdDbDatabase& source, const OdTcBlockRequest& request) {
+  if (request.wholeDrawing) {
+    loadReferences(source);
+    return OdDbDatabasePtr(&source);
+  }
+  const OdDbObjectId block = definitionIn(source, request.name);
+  if (block.isNull()) return {};
+  const OdDbDatabasePtr contents = source.wblock(block);
+  contents->setSysVar(QStringLiteral("INSUNITS"), source.sysVarInt("INSUNITS"));
+  return contents;
 }
 
 /// Sees to it that the drawing has the definition of the block. False, with a message, if the
 /// source file does not have it either.
-bool ensureDefinition(OdDbDatabase& drawing, const OdTcBlockRequest& request) {
-  if (isDefined(drawing, request.name)) return true;
+bool ensureDefinition(IHostDocument& document, OdDbDatabase& drawing,
+                      const OdTcBlockRequest& request) {
+  // The definition in the drawing wins: the source file is not even read.
+  if (!definitionIn(drawing, request.name).isNull()) return true;
+  const HostDocumentLock lock(&document);
   const OdDbDatabasePtr source = OdDbDatabase::readFile(request.sourceFile);
-  if (!request.wholeDrawing && !isDefined(*source, request.name)) {
+  const OdDbDatabasePtr contents = contentsOf(*source, request);
+  if (!contents) {
     host::print(
         formatText(stringText(StringId::kBlockNotDefined), request.name, request.sourceFile));
     return false;
   }
-  throw OdError(eNotApplicable,
-                QStringLiteral("Block %1 is not in the drawing, and definitions cannot be copied "
-                               "from %2: insert that file first")
-                    .arg(request.name, request.sourceFile));
+  const OdDbObjectId made = drawing.insert(request.name, contents, true);
+  made.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->setBlockInsertUnits(static_cast<int>(source->sysVarInt("INSUNITS")));
+  return true;
 }
 
 } // namespace
@@ -60,7 +89,7 @@ void insertRequestedBlock() {
   }
   IHostDocument* const document = host::curDocument();
   OdDbDatabase* const drawing = document ? document->database() : nullptr;
-  if (!drawing || !ensureDefinition(*drawing, *request)) return;
+  if (!drawing || !ensureDefinition(*document, *drawing, *request)) return;
   runHostCommand(u"InsertBlock", {{u"BC_RUN_BY_NAME_SCALE_ROT_EXPLODE", u"Run"},
                                   {u"name", request->name},
                                   {u"BC_SCALE", request->scale},

@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 
+class OdDbDatabase;
+
 namespace tc {
 
 class OdTcImage;
@@ -128,6 +130,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   void setGradientColor(std::size_t index, const OdCmColor& color);
   std::optional<OdCmColor> generalColor() const;
   bool renderPattern(OdTcImage& image, const OdString& pattern) const;
+  void takeAuxiliaryScale(const OdDbDatabase* database);
   void beginHatch(IHostDocument& document);
   void beginGradient(IHostDocument& document);
   void takePatternName(const OdString& name);

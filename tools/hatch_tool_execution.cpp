@@ -7,6 +7,7 @@
 #include "properties/gradient_names.h"
 #include "properties/property_basic_info.h"
 #include "tools/hatch_tool.h"
+#include "tools/plot_scale.h"
 #include "tools/tool_data.h"
 
 namespace tc {
@@ -99,6 +100,16 @@ void OdTcToolHatchCommandImpl::beginExecution(IHostDocument* document) {
     beginGradient(*document);
 }
 
+/// The field itself takes the effective scale: multiplied by the drawing's dimension scale, or
+/// replaced by the layout's plot scale.
+void OdTcToolHatchCommandImpl::takeAuxiliaryScale(const OdDbDatabase* database) {
+  if (!database) return;
+  if (getAuxScale() == host::translate(QStringLiteral("Dimscale")))
+    m_fields.scale *= database->sysVarReal("DIMSCALE");
+  else if (getAuxScale() == host::translate(QStringLiteral("Plot scale")))
+    m_fields.scale = activePlotScale(*database).value_or(m_fields.scale);
+}
+
 void OdTcToolHatchCommandImpl::beginHatch(IHostDocument& document) {
   IHostVariables* const variables = document.variables();
   const KVPtr<IHostHatchSettings> settings = host::service<IHostHatchSettings>();
@@ -109,11 +120,7 @@ void OdTcToolHatchCommandImpl::beginHatch(IHostDocument& document) {
   }
   OdString patternFile = m_fields.sourceFile;
   if (m_fields.patternName == host::translate(QStringLiteral("_USER"))) patternFile.clear();
-  // The field itself takes the effective scale. The standard scale of a layout would take its place
-  // under "Plot scale"; without plot settings it stays.
-  if (getAuxScale() == host::translate(QStringLiteral("Dimscale")))
-    if (const OdDbDatabase* const database = document.database())
-      m_fields.scale *= database->sysVarReal("DIMSCALE");
+  takeAuxiliaryScale(document.database());
   if (settings) {
     settings->set(hostName(kTypeSetting), hostHatchType(m_fields.hatchType));
     settings->set(hostName(kFileSetting), host::ownText(patternFile));

@@ -1,6 +1,8 @@
 #include "tools/execute_tool_command.h"
 
 #include "drawing/database.h"
+#include "drawing/entities/block_reference.h"
+#include "drawing/entities/line.h"
 #include "frame/file_path.h"
 #include "support/module_fixture.h"
 #include "tools/command_conveyor.h"
@@ -235,6 +237,69 @@ TEST_F(ExecuteToolTest, AMissingSourceFileBlocksEvenADefinedBlock) {
             QStringList(QStringLiteral(
                 "\nCould not find the original file \"C:\\gone.dxf\" for block \"Door\"")));
   EXPECT_TRUE(host().commandService.runs.empty());
+}
+
+/// A drawing file with a block "Door" of one line, the block inserted in its model space, in
+/// metres.
+OdString writeSource(const QTemporaryDir& folder) {
+  const OdDbDatabasePtr source = OdDbDatabase::createDatabase();
+  source->setSysVar(QStringLiteral("INSUNITS"), std::int64_t{6});
+  ExecuteToolTest::addBlock(*source, QStringLiteral("Door"));
+  const auto table = source->getBlockTableId().openAs<OdDbBlockTable>();
+  const auto block =
+      table->getAt(QStringLiteral("Door")).openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  block->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{}, OdGePoint3d{1, 0, 0}));
+  const auto space = source->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  space->appendOdDbEntity(odrxMake<OdDbBlockReference>(block->objectId(), OdGePoint3d{5, 5, 0}));
+  const OdString path = odpath::fromPlatform(folder.filePath(QStringLiteral("source.dxf")));
+  source->writeFile(path);
+  return path;
+}
+
+/// The entities of a block of the drawing; empty if there is no such block.
+std::vector<OdDbEntityPtr> entitiesOf(OdDbDatabase& drawing, const char16_t* name) {
+  std::vector<OdDbEntityPtr> entities;
+  const auto table = drawing.getBlockTableId().openAs<OdDbBlockTable>();
+  const OdDbBlockTableRecordPtr block = table->getAt(OdString::fromUtf16(name)).openObject();
+  if (!block) return entities;
+  for (auto at = block->newIterator(); !at->done(); at->step()) entities.push_back(at->entity());
+  return entities;
+}
+
+TEST_F(ExecuteToolTest, ABlockOfTheSourceComesIntoTheDrawingUnderALockWithItsUnits) {
+  conveyor.setBlockRequest({.name = QStringLiteral("Door"), .sourceFile = writeSource(folder)});
+  type(QStringLiteral("<block>"));
+  const auto entities = entitiesOf(*drawing, u"Door");
+  ASSERT_EQ(entities.size(), 1u);
+  EXPECT_TRUE(entities[0]->isKindOf(OdDbLine::desc()));
+  const auto table = drawing->getBlockTableId().openAs<OdDbBlockTable>();
+  EXPECT_EQ(table->getAt(QStringLiteral("Door")).openAs<OdDbBlockTableRecord>()->blockInsertUnits(),
+            6);
+  ASSERT_EQ(host().documents.locks.size(), 1u);
+  EXPECT_EQ(host().documents.locks[0].commandName, QStringLiteral("EXECUTETOOL"));
+  EXPECT_EQ(host().documents.locks[0].mode, 4);
+  EXPECT_TRUE(host().documents.locked.empty()) << "the lock is given back";
+  EXPECT_EQ(host().commandService.runs.size(), 1u);
+}
+
+TEST_F(ExecuteToolTest, AWholeDrawingComesAsOneBlock) {
+  conveyor.setBlockRequest(
+      {.name = QStringLiteral("House"), .sourceFile = writeSource(folder), .wholeDrawing = true});
+  type(QStringLiteral("<block>"));
+  const auto entities = entitiesOf(*drawing, u"House");
+  ASSERT_EQ(entities.size(), 1u);
+  EXPECT_TRUE(entities[0]->isKindOf(OdDbBlockReference::desc()));
+  EXPECT_EQ(entitiesOf(*drawing, u"Door").size(), 1u) << "what it needs comes along";
+  EXPECT_EQ(host().commandService.runs.size(), 1u);
+}
+
+TEST_F(ExecuteToolTest, TheDefinitionOfTheDrawingWinsOverTheSource) {
+  addBlock(*drawing, QStringLiteral("Door"));
+  conveyor.setBlockRequest({.name = QStringLiteral("Door"), .sourceFile = writeSource(folder)});
+  type(QStringLiteral("<block>"));
+  EXPECT_TRUE(entitiesOf(*drawing, u"Door").empty()) << "the drawing's own block is empty";
+  EXPECT_TRUE(host().documents.locks.empty());
+  EXPECT_EQ(host().commandService.runs.size(), 1u);
 }
 
 TEST_F(ExecuteToolTest, ABlockThatTheSourceLacksIsNamed) {

@@ -1,6 +1,7 @@
 #include "tools/hatch_tool.h"
 
 #include "drawing/database.h"
+#include "drawing/objects/layout.h"
 #include "properties/color_value.h"
 #include "properties/general_properties.h"
 #include "support/golden.h"
@@ -129,7 +130,22 @@ TEST_F(HatchToolTest, ScaleGrowsWithEachRunUnderDimscale) {
   EXPECT_EQ(agent->getScale(), 32);
 }
 
+TEST_F(HatchToolTest, PlotScaleTakesThePlaceOfTheStoredScale) {
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  document.databaseOfDocument = drawing;
+  const OdDbLayoutPtr layout = oddb::activeLayout(*drawing).openObject(OdDb::kForWrite);
+  layout->setUseStandardScale(false);
+  layout->setCustomPrintScale(1, 50);
+  agent->setScale(2);
+  agent->setAuxScale(text(u"Plot scale"));
+  agent->beginExecution(&document);
+  EXPECT_EQ(agent->getScale(), layout->getStdScale());
+}
+
 TEST_F(HatchToolTest, PlotScaleWithoutALayoutKeepsTheStoredScale) {
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  document.databaseOfDocument = drawing;
+  oddb::activeLayout(*drawing).openObject(OdDb::kForWrite)->erase();
   agent->setScale(2);
   agent->setAuxScale(text(u"Plot scale"));
   agent->beginExecution(&document);
