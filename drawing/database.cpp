@@ -57,8 +57,10 @@ OdDbObjectId OdDbDatabase::addObject(OdDbObject* object, OdDbObjectId owner, OdD
   object->m_owner = owner;
   const OdDbObjectId id(&stub);
   const OdDbObject* const container = owner.stub() ? owner.stub()->object.get() : nullptr;
-  if (auto* block = odrxCast<OdDbBlockTableRecord>(container)) {
-    // The bounds of a block come to its drawing before or after its entities, outside of the list.
+  auto* const block = odrxCast<OdDbBlockTableRecord>(container);
+  if (block && odrxCast<OdDbEntity>(object)) {
+    // The bounds of a block come to its drawing before or after its entities, outside of the list;
+    // a block may own other things beside, such as its extension dictionary.
     if (std::string_view(object->dxfName()) != "BLOCK" &&
         std::string_view(object->dxfName()) != "ENDBLK")
       block->m_entities.push_back(id);
