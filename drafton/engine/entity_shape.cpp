@@ -2,6 +2,8 @@
 
 #include "drafton/engine/flat_geometry.h"
 #include "drawing/database.h"
+#include "drawing/entities/raster_image.h"
+#include "drawing/entities/viewport.h"
 #include "drawing/graphics/world_draw.h"
 
 #include <algorithm>
@@ -82,9 +84,11 @@ class ShapeGatherer : public OdGiWorldDraw {
     --m_depth;
     m_transform = outer;
   }
-  // These have no pieces; their boxes stand for them.
-  void image(const OdDbRasterImage&) override {}
-  void viewport(const OdDbViewport&) override {}
+  // Of these the edges are taken hold of, so that what lies on them can be reached.
+  void image(const OdDbRasterImage& image) override { polyline(image.shownBoundary(), true); }
+  void viewport(const OdDbViewport& viewport) override {
+    polyline(viewport.boundary(m_deviation), true);
+  }
   void setPieceColor(const std::optional<OdCmColor>&) override {}
 
   EntityShape take() { return std::move(m_shape); }

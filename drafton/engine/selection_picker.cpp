@@ -1,6 +1,7 @@
 #include "drafton/engine/selection_picker.h"
 
 #include "drafton/engine/document.h"
+#include "drawing/entities/viewport.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -11,6 +12,9 @@ OdDbDatabase& SelectionPicker::database() const { return *m_document.database();
 
 bool SelectionPicker::isReachable(const OdDbEntity& entity) const {
   if (!entity.isVisible() || !m_filter.accepts(entity)) return false;
+  // The window that stands for the sheet is nothing that a user has drawn.
+  if (const auto* const view = odrxCast<OdDbViewport>(&entity); view && view->isOverall())
+    return false;
   const OdDbLayerTableRecordPtr layer = entity.layerId().openObject();
   return !layer || !(layer->isOff() || layer->isFrozen() || layer->isLocked());
 }

@@ -1,6 +1,9 @@
 // Choosing before a command, groups, files of line types, dimension styles.
 
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/dimension_kinds.h"
+#include "drawing/entities/line.h"
+#include "drawing/entities/raster_image.h"
 #include "drawing/objects/group.h"
 #include "drawing/objects/named_styles.h"
 #include "engine/commands/command_fixture.h"
@@ -21,6 +24,27 @@ class EditCommands : public CommandFixture {
   OdDbDictionaryPtr groups() {
     return oddb::createNamedDictionary(database(), oddb::NamedKind::kGroup)
         .safeOpenObject(OdDb::kForWrite);
+  }
+  /// An insert at 10,0 with an attribute in the middle of 20,5.
+  void makeInsert() {
+    const auto definition = odrxMake<OdDbAttributeDefinition>();
+    definition->setTag(QStringLiteral("NAME"));
+    definition->setTextString(QStringLiteral("abc"));
+    definition->setHorizontalMode(OdDb::kTextCenter);
+    definition->setVerticalMode(OdDb::kTextVertMid);
+    definition->setAlignmentPoint({10, 5, 0});
+    const auto block = odrxMake<OdDbBlockTableRecord>();
+    block->setName(QStringLiteral("Mark"));
+    const OdDbObjectId id =
+        database().getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite)->add(block);
+    block->appendOdDbEntity(definition);
+    block->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{}, OdGePoint3d{10, 0, 0}));
+    const auto insert = odrxMake<OdDbBlockReference>(id, OdGePoint3d{10, 0, 0});
+    database()
+        .getModelSpaceId()
+        .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+        ->appendOdDbEntity(insert);
+    insert->appendAttributesFromBlock();
   }
   /// Two lines in a group, and a third one.
   void makeGroup() {
@@ -107,6 +131,50 @@ TEST_F(EditCommands, CopiesOfAPartOfAGroupAreNone) {
   makeGroup();
   runScript(u"PICKSTYLE|0|COPY|5,0||0,0|0,100|");
   EXPECT_EQ(groups()->entries().size(), 1u);
+}
+
+TEST_F(EditCommands, CopiesOfAnInsertHaveAttributesOfTheirOwn) {
+  makeInsert();
+  runScript(u"COPY|l||0,0|0,100|");
+  const OdDbBlockReferencePtr copy = entityAt(1).safeOpenObject();
+  ASSERT_EQ(copy->attributes().size(), 1u);
+  const OdDbAttributePtr text = copy->attributes()[0];
+  EXPECT_EQ(text->textString(), QStringLiteral("abc"));
+  EXPECT_EQ(text->alignmentPoint(), (OdGePoint3d{20, 105, 0}));
+  EXPECT_EQ(text->ownerId(), copy->objectId());
+  runScript(u"ERASE|l|");
+  EXPECT_EQ(OdDbBlockReferencePtr(entityAt(0).safeOpenObject())->attributes().size(), 1u);
+}
+
+TEST_F(EditCommands, AttributesOfAMirroredInsertStayReadable) {
+  makeInsert();
+  runScript(u"MIRRTEXT|0|MIRROR|l||0,0|0,1|y");
+  const OdDbBlockReferencePtr insert = entityAt(0).safeOpenObject();
+  const OdDbAttributePtr text = insert->attributes()[0];
+  EXPECT_NEAR(text->alignmentPoint().x, -20, 1e-9);
+  EXPECT_NEAR(text->alignmentPoint().y, 5, 1e-9);
+  EXPECT_NEAR(text->normal().z, 1, 1e-9);
+  EXPECT_NEAR(text->rotation(), 0, 1e-9);
+  EXPECT_FALSE(text->isMirroredInX());
+  EXPECT_FALSE(text->isMirroredInY());
+}
+
+TEST_F(EditCommands, ImagesAreTakenByTheirTurnedEdge) {
+  const OdDbRasterImagePtr image = odrxMake<OdDbRasterImage>();
+  image->setOrientation({0, 0, 0}, {10, 10, 0}, {-10, 10, 0});
+  database()
+      .getModelSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(image);
+  runScript(u"SELECT|c|8,0|9,1||");
+  EXPECT_TRUE(console().shows(QStringLiteral("0 selected"))) << output().toStdString();
+  runScript(u"SELECT|5,5|");
+  EXPECT_TRUE(console().shows(QStringLiteral("1 selected"))) << output().toStdString();
+}
+
+TEST_F(EditCommands, TheWindowOfTheSheetIsNotChosen) {
+  runScript(u"LAYOUT|n|Sheet|LAYOUT|s|Sheet|LINE|0,0|5,5||SELECT|all|");
+  EXPECT_TRUE(console().shows(QStringLiteral("1 selected"))) << output().toStdString();
 }
 
 TEST_F(EditCommands, LinetypesAreLoadedFromFiles) {
