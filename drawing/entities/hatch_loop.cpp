@@ -25,14 +25,18 @@ double sweepOf(double start, double end) {
   return sweep <= 0 ? sweep + kTurn : sweep;
 }
 
-/// The parameter of an ellipse at an angle from its major axis, and back; full turns stay.
+/// The angle next to another one that points in a direction.
+double nextTo(double angle, double y, double x) {
+  return angle + std::remainder(std::atan2(y, x) - angle, kTurn);
+}
+
+/// The parameter of an ellipse at an angle from its major axis, and back; both lie in the same
+/// quarter, so that full turns stay.
 double paramOf(double angle, double ratio) {
-  const double turns = std::floor(angle / kTurn) * kTurn;
-  return turns + odgeNormalAngle(std::atan2(std::sin(angle), ratio * std::cos(angle)));
+  return nextTo(angle, std::sin(angle), ratio * std::cos(angle));
 }
 double angleOf(double param, double ratio) {
-  const double turns = std::floor(param / kTurn) * kTurn;
-  return turns + odgeNormalAngle(std::atan2(ratio * std::sin(param), std::cos(param)));
+  return nextTo(param, ratio * std::sin(param), std::cos(param));
 }
 
 OdGeCurveSegment segmentOf(const Arc& arc) {
