@@ -31,6 +31,8 @@ constexpr Kind kKinds[] = {
 
 /// How far the middle moves, to the left and up, as a part of the area.
 constexpr double kShiftReach = 0.25;
+/// The radius of a ball, which leaves the corners of its square dark.
+constexpr double kBall = 0.6;
 /// Steps between the colours: enough for eyes not to see that they are steps.
 constexpr int kSteps = 16;
 
@@ -52,7 +54,7 @@ Circles circlesOf(Form form, double shift) {
   const double left = 0.5 - kShiftReach * shift;
   switch (form) {
   case Form::kSphere:
-    return {{left, 1 - left}, 0, std::sqrt(0.5)};
+    return {{left, 1 - left}, 0, kBall};
   case Form::kHemisphere:
     return {{left, 0}, 0, std::hypot(1 - left, 1)};
   default:
@@ -99,8 +101,8 @@ QBrush gradientBrush(const OdGiGradient& gradient, const QPolygonF& outline, con
     QRadialGradient radial(circles.middle, circles.outer);
     for (int i = 0; i <= kSteps; ++i) {
       const double part = static_cast<double>(i) / kSteps;
-      // A ball is brightest near to its middle and darkens quickly at its edge.
-      const double tone = kind.form == Form::kCurve ? 1 - part : std::sqrt(1 - part * part);
+      // A ball is brightest near to its middle and darkens towards its edge.
+      const double tone = kind.form == Form::kCurve ? 1 - part : std::cos(part * kOdaPi / 2);
       const double at = (circles.inner + (circles.outer - circles.inner) * part) / circles.outer;
       radial.setColorAt(at, mixed(first, second, tone));
     }

@@ -137,6 +137,8 @@ void writePng(const Job& job, QIODevice& device) {
 void drawPage(const Job& job, QPainter& painter, const QSizeF& dots, double dpi) {
   RenderOptions options = job.options(dpi / kMillimetresPerInch);
   options.simplifies = false;
+  // A line of one dot can hardly be seen on paper.
+  options.showsLineWeights = true;
   if (job.request.background.isValid() && job.request.background.alpha() > 0)
     painter.fillRect(QRectF(QPointF(0, 0), dots), job.request.background);
   render(painter, job.scene, job.scope.block, job.view(dots), options);

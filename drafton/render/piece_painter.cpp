@@ -61,9 +61,9 @@ PiecePainter::PiecePainter(Surface& surface, const RenderOptions& options,
   , m_options(options)
   , m_scales(scales) {}
 
-void PiecePainter::setProjection(const Projection& projection) {
+void PiecePainter::setProjection(const Projection& projection, double scale) {
   m_projection = &projection;
-  m_scale = projection.scale();
+  m_scale = scale;
 }
 
 void PiecePainter::setStyle(const Style& style, const DashPattern& linetype) {

@@ -24,8 +24,9 @@ class PiecePainter {
  public:
   PiecePainter(Surface& surface, const RenderOptions& options, const DrawingScales& scales);
 
-  /// The projection that pieces drawn from now on go through; it must live as long.
-  void setProjection(const Projection& projection);
+  /// The projection that pieces drawn from now on go through; it must live as long. `scale` is its
+  /// scale, which is not for nothing.
+  void setProjection(const Projection& projection, double scale);
   /// The looks of the pieces drawn from now on.
   void setStyle(const Style& style, const DashPattern& linetype);
   /// In a window that line types do not grow with, their lengths are multiplied by this.

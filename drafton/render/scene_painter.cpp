@@ -72,7 +72,7 @@ void ScenePainter::drawSpace(OdDbObjectId block, const Projection& projection) {
       planeUnder(m_surface.clipRect().adjusted(-kReach, -kReach, kReach, kReach), projection),
       numbers);
   shapes->refine(numbers, deviation);
-  drawLevel({*shapes, projection, nullptr, true}, numbers);
+  drawLevel({*shapes, projection, projection.scale(), nullptr, true}, numbers);
 }
 
 void ScenePainter::drawLevel(const Level& level, const std::vector<std::uint32_t>& numbers) {
@@ -107,7 +107,7 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
     box = level.projection.boxOf(item.box);
     if (!box.adjusted(-kReach, -kReach, kReach, kReach).intersects(m_surface.clipRect())) return;
   }
-  m_pieces.setProjection(level.projection);
+  m_pieces.setProjection(level.projection, level.scale);
   m_pieces.setStyle(style, tables.linetype(style.linetype));
   const Piece* const first = &level.shapes.list().pieces[item.firstPiece];
   if (!item.box.isEmpty() && isTooSmall(box) && first->kind != PieceKind::kPoint) {
@@ -115,18 +115,18 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
     return;
   }
   for (std::uint32_t i = 0; i < item.pieceCount; ++i)
-    drawPiece(level.projection, level.shapes.list(),
+    drawPiece(level.projection, level.scale, level.shapes.list(),
               level.shapes.list().pieces[item.firstPiece + i], style, showsLines, box);
 }
 
 /// Drawing what a piece holds may record more, but never into the list of the piece itself.
-void ScenePainter::drawPiece(const Projection& projection, const ShapeList& list,
+void ScenePainter::drawPiece(const Projection& projection, double scale, const ShapeList& list,
                              const Piece& piece, const Style& style, bool showsLines,
                              const QRectF& box) {
   switch (piece.kind) {
   case PieceKind::kBlock:
     drawBlock(projection, list.blocks[piece.first], style);
-    m_pieces.setProjection(projection);
+    m_pieces.setProjection(projection, scale);
     m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
     break;
   case PieceKind::kImage:
@@ -139,7 +139,7 @@ void ScenePainter::drawPiece(const Projection& projection, const ShapeList& list
     if (const OdDbViewportPtr viewport =
             odrxCast<OdDbViewport>(list.objects[piece.first].open().get())) {
       drawViewport(projection, *viewport, showsLines);
-      m_pieces.setProjection(projection);
+      m_pieces.setProjection(projection, scale);
       m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
     }
     break;
@@ -181,7 +181,7 @@ void ScenePainter::drawViewport(const Projection& projection, const OdDbViewport
     m_surface.restore();
   }
   if (!showsLines) return;
-  m_pieces.setProjection(projection);
+  m_pieces.setProjection(projection, projection.scale());
   m_pieces.drawFrame(edge);
 }
 
@@ -192,7 +192,7 @@ void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, c
   BlockShapes* const shapes = m_scene.shapes(block.block, deviation);
   if (shapes == nullptr) return;
   const Opened opened(m_open, block.block);
-  const Level inner{*shapes, projection, &style, false};
+  const Level inner{*shapes, projection, projection.scale(), &style, false};
   std::vector<std::uint32_t> numbers;
   std::optional<QRectF> part;
   if (shapes->items().size() > kManyItems)
@@ -204,6 +204,7 @@ void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, c
 
 void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const View& view) {
   const Projection projection = view.projection();
+  const double scale = projection.scale();
   ShapeList list;
   ShapeRecorder recorder(list, deviationFor(view.scale));
   for (const OdDbEntityPtr& entity : entities) {
@@ -212,11 +213,11 @@ void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const 
     const std::size_t first = list.pieces.size();
     recorder.record(*entity);
     const OdGeExtents3d extents = recorder.takeBox();
-    m_pieces.setProjection(projection);
+    m_pieces.setProjection(projection, scale);
     m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
     const QRectF box = extents.isEmpty() ? QRectF() : projection.boxOf(extents);
     for (std::size_t i = first; i < list.pieces.size(); ++i)
-      drawPiece(projection, list, list.pieces[i], style, true, box);
+      drawPiece(projection, scale, list, list.pieces[i], style, true, box);
   }
 }
 

@@ -22,13 +22,14 @@ class ScenePainter {
   struct Level {
     BlockShapes& shapes;
     Projection projection;
+    double scale; ///< of the projection
     const Style* insert;
     bool isTop;
   };
   void drawLevel(const Level& level, const std::vector<std::uint32_t>& numbers);
   void drawItem(const Level& level, const ShapeItem& item);
-  void drawPiece(const Projection& projection, const ShapeList& list, const Piece& piece,
-                 const Style& style, bool showsLines, const QRectF& box);
+  void drawPiece(const Projection& projection, double scale, const ShapeList& list,
+                 const Piece& piece, const Style& style, bool showsLines, const QRectF& box);
   void drawBlock(const Projection& outer, const BlockPiece& block, const Style& style);
   void drawSpace(OdDbObjectId block, const Projection& projection);
   void drawViewport(const Projection& projection, const OdDbViewport& viewport, bool showsLines);

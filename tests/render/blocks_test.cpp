@@ -5,6 +5,8 @@
 #include "drawing/entities/polyline.h"
 #include "render/picture_fixture.h"
 
+#include <array>
+
 namespace render_test {
 namespace {
 
@@ -199,6 +201,46 @@ TEST_F(BlockPictures, TransparencyWeightsAndOrder) {
     y += 13;
   }
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "transparency_weight"));
+}
+
+TEST_F(BlockPictures, EntitiesAreDrawnInTheOrderThatTheirTableTells) {
+  auto red = hatchOf(0, 0, 10, 10), blue = hatchOf(0, 0, 10, 10);
+  red->setColor(OdCmColor::fromColorIndex(1));
+  blue->setColor(OdCmColor::fromColorIndex(5));
+  const OdDbObjectId redId = add(red), blueId = add(blue);
+  EXPECT_EQ(picture(0, 0, 10, 10, {20, 20}).pixel(10, 10), qRgb(0, 0, 255));
+
+  // The table as files have it: beside the block, with each entity and the handle that counts.
+  const auto handle = [](OdDbObjectId id) { return id.getHandle().ascii().toLatin1(); };
+  const QByteArray space = handle(database().getModelSpaceId());
+  QByteArray file = database().writeDxf();
+  const QByteArray dictionary = "F001", table = "F002";
+  const QByteArray head = "BLOCK_RECORD\r\n  5\r\n" + space + "\r\n";
+  const bool hasReturns = file.contains("\r\n");
+  const auto lines = [&](QByteArray text) {
+    return hasReturns ? text : text.replace("\r\n", "\n");
+  };
+  ASSERT_TRUE(file.contains(lines(head)));
+  file.replace(lines(head), lines(head + "102\r\n{ACAD_XDICTIONARY\r\n360\r\n" + dictionary +
+                                  "\r\n102\r\n}\r\n"));
+  const QByteArray objects = lines("OBJECTS\r\n");
+  const qsizetype end = file.indexOf(lines("  0\r\nENDSEC\r\n"), file.indexOf(objects));
+  ASSERT_GT(end, 0);
+  file.insert(end, lines("  0\r\nDICTIONARY\r\n  5\r\n" + dictionary + "\r\n330\r\n" + space +
+                         "\r\n100\r\nAcDbDictionary\r\n280\r\n1\r\n281\r\n1\r\n  3\r\n"
+                         "ACAD_SORTENTS\r\n360\r\n" +
+                         table + "\r\n  0\r\nSORTENTSTABLE\r\n  5\r\n" + table + "\r\n330\r\n" +
+                         dictionary + "\r\n100\r\nAcDbSortentsTable\r\n330\r\n" + space +
+                         "\r\n331\r\n" + handle(redId) + "\r\n  5\r\n" + handle(blueId) +
+                         "\r\n331\r\n" + handle(blueId) + "\r\n  5\r\n" + handle(redId) + "\r\n"));
+  const OdDbDatabasePtr sorted = OdDbDatabase::readDxf(file, QStringLiteral("sorted.dxf"));
+  Scene other(*sorted);
+  QImage image(20, 20, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  View view;
+  view.size = image.size();
+  render(image, other, sorted->getModelSpaceId(), view.fitted(sorted->extents()), {});
+  EXPECT_EQ(image.pixel(10, 10), qRgb(255, 0, 0));
 }
 
 TEST_F(BlockPictures, HighlightedHiddenAndTransientEntities) {

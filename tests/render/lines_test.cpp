@@ -1,0 +1,167 @@
+#include "drafton/render/dash_walker.h"
+#include "drafton/render/image_cache.h"
+#include "drafton/render/surface.h"
+#include "frame/file_path.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace render_test {
+namespace {
+
+using namespace drafton;
+
+QImage white(int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  return image;
+}
+
+/// The ink of a picture in pixels.
+double inkOf(const QImage& image) {
+  double ink = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) ink += (255 - qGray(image.pixel(x, y))) / 255.0;
+  return ink;
+}
+
+ThinLines linesOn(QImage& image) {
+  ThinLines lines(image.bits(), image.bytesPerLine(), image.size());
+  lines.setColor(qRgb(0, 0, 0));
+  return lines;
+}
+
+TEST(ThinLines, HaveAsMuchInkAsTheyAreLongAlongTheirAxis) {
+  for (const QPointF to : {QPointF(80, 10), QPointF(80, 45), QPointF(10, 80), QPointF(80, 80)}) {
+    QImage image = white(100, 100);
+    linesOn(image).draw({10, 10}, to);
+    const double longest = std::max(to.x() - 10, to.y() - 10);
+    EXPECT_NEAR(inkOf(image), longest, 2) << to.x() << ',' << to.y();
+    QImage back = white(100, 100);
+    linesOn(back).draw(to, {10, 10});
+    EXPECT_EQ(image, back);
+  }
+}
+
+TEST(ThinLines, StayInTheClipHoweverFarTheyGo) {
+  QImage image = white(100, 100);
+  ThinLines lines = linesOn(image);
+  lines.setClip(QRect(20, 20, 60, 60));
+  lines.draw({-1e9, -1e9}, {1e9, 1e9});
+  lines.draw({50, -1e15}, {50, 1e15});
+  EXPECT_EQ(image.pixel(10, 10), qRgb(255, 255, 255));
+  EXPECT_EQ(image.pixel(90, 90), qRgb(255, 255, 255));
+  EXPECT_LT(qGray(image.pixel(40, 40)), 255);
+}
+
+TEST(ThinLines, MixTheirColourByItsAlpha) {
+  QImage image = white(10, 10);
+  ThinLines lines = linesOn(image);
+  lines.setColor(qRgba(255, 0, 0, 128));
+  lines.draw({0, 5.5}, {10, 5.5});
+  const QColor mixed = image.pixelColor(5, 5);
+  EXPECT_NEAR(mixed.red(), 255, 3);
+  EXPECT_NEAR(mixed.green(), 127, 4);
+}
+
+TEST(ThinLines, AClippedLineIsTheSameWhereItIsSeen) {
+  double enters = 0, leaves = 0;
+  EXPECT_TRUE(clipLine(QRectF(0, 0, 10, 10), {-10, 5}, {30, 5}, enters, leaves));
+  EXPECT_DOUBLE_EQ(enters, 0.25);
+  EXPECT_DOUBLE_EQ(leaves, 0.5);
+  EXPECT_FALSE(clipLine(QRectF(0, 0, 10, 10), {-10, 11}, {30, 11}, enters, leaves));
+  EXPECT_FALSE(clipLine(QRectF(0, 0, 10, 10), {-5, 4}, {4, -6}, enters, leaves));
+}
+
+/// The drawn parts of a line along x, as runs of dark pixels.
+std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double length) {
+  QImage image = white(200, 5);
+  {
+    QPainter painter(&image);
+    Surface surface(painter, QRectF(image.rect()));
+    surface.setPen(qRgb(0, 0, 0), 1);
+    const Projection projection({1, 0, 0, 0}, {0, -1, 0, 2.5});
+    DashWalker walker(surface, projection, pattern, 1, 10, {});
+    const OdGePoint3d points[] = {{0, 0, 0}, {length / 3, 0, 0}, {length, 0, 0}};
+    walker.draw(points, false);
+  }
+  std::vector<std::pair<int, int>> runs;
+  for (int x = 0; x < 200; ++x) {
+    if (qGray(image.pixel(x, 2)) > 128) continue;
+    if (!runs.empty() && runs.back().second == x)
+      ++runs.back().second;
+    else
+      runs.emplace_back(x, x + 1);
+  }
+  return runs;
+}
+
+TEST(DashWalker, BothEndsOfALineShowTheFirstDash) {
+  const DashPattern pattern({{10, -1}, {-5, -1}});
+  // Two whole patterns and what is left: 7 and a half at each end.
+  EXPECT_EQ(dashesOf(pattern, 30), (std::vector<std::pair<int, int>>{{0, 5}, {10, 20}, {25, 30}}));
+  EXPECT_EQ(dashesOf(pattern, 40), (std::vector<std::pair<int, int>>{{0, 10}, {15, 25}, {30, 40}}));
+}
+
+TEST(DashWalker, ALineShorterThanThePatternIsContinuous) {
+  const DashPattern pattern({{10, -1}, {-5, -1}});
+  EXPECT_EQ(dashesOf(pattern, 14), (std::vector<std::pair<int, int>>{{0, 14}}));
+}
+
+TEST(DashPattern, WithoutInkOrLengthIsContinuous) {
+  EXPECT_TRUE(DashPattern().isContinuous());
+  EXPECT_TRUE(DashPattern({{-5, -1}, {-3, -1}}).isContinuous());
+  EXPECT_TRUE(DashPattern({{0, -1}, {0, -1}}).isContinuous());
+  EXPECT_TRUE(DashPattern({{std::numeric_limits<double>::infinity(), -1}}).isContinuous());
+  EXPECT_FALSE(DashPattern({{0, -1}, {-3, -1}}).isContinuous());
+}
+
+TEST(Surface, CutsWhatIsFarAwayAndKeepsTheRest) {
+  QImage image = white(50, 50);
+  QPainter painter(&image);
+  Surface surface(painter, QRectF(image.rect()));
+  QPainterPath path;
+  path.addRect(QRectF(-1e9, 10, 2e9, 20));
+  const QRectF cut = surface.cut(path).boundingRect();
+  EXPECT_LT(cut.width(), 1e5);
+  EXPECT_EQ(cut.top(), 10);
+  EXPECT_EQ(cut.bottom(), 30);
+  surface.setPen(qRgb(0, 0, 0), 1);
+  surface.fill(surface.cut(path));
+  painter.end();
+  EXPECT_EQ(image.pixel(25, 20), qRgb(0, 0, 0));
+  EXPECT_EQ(image.pixel(25, 40), qRgb(255, 255, 255));
+}
+
+TEST(ImageCache, KeepsWithinItsBoundAndSeesChangedFiles) {
+  QTemporaryDir folder;
+  const auto file = [&](int i) { return folder.filePath(QStringLiteral("%1.png").arg(i)); };
+  QImage picture(100, 100, QImage::Format_RGB32);
+  ImageCache cache;
+  cache.setLimit(3 * 100 * 100 * 4);
+  for (int i = 0; i < 6; ++i) {
+    picture.fill(QColor::fromHsv(i * 40, 255, 255));
+    ASSERT_TRUE(picture.save(file(i)));
+    EXPECT_FALSE(cache.find(odpath::fromPlatform(file(i)), 100, {}, 0).isNull());
+    EXPECT_LE(cache.size(), 3 * 100 * 100 * 4);
+  }
+  // Half the width needs half the pixels.
+  EXPECT_EQ(cache.find(odpath::fromPlatform(file(0)), 40, {}, 0).width(), 50);
+  EXPECT_TRUE(cache.find(QStringLiteral("nowhere.png"), 10, {}, 0).isNull());
+  picture.fill(Qt::black);
+  ASSERT_TRUE(picture.save(file(0)));
+  QFile touched(file(0));
+  ASSERT_TRUE(touched.open(QIODevice::ReadWrite));
+  touched.setFileTime(QDateTime::currentDateTime().addSecs(10), QFileDevice::FileModificationTime);
+  touched.close();
+  EXPECT_EQ(cache.find(odpath::fromPlatform(file(0)), 100, {}, 0).pixel(5, 5), qRgb(0, 0, 0));
+}
+
+} // namespace
+} // namespace render_test
