@@ -55,11 +55,12 @@ void OdDbDimension::unshareBlock() {
   for (const auto it = from->newIterator(); !it->done(); it->step())
     entities.push_back(it->objectId());
   OdDbIdMapping mapping;
-  database()->deepCloneObjects(entities, makeBlock(), mapping);
+  database()->deepCloneObjects(entities, ownBlock(), mapping);
   moveBlock(m_pendingMove);
 }
 
-OdDbObjectId OdDbDimension::makeBlock() {
+OdDbObjectId OdDbDimension::ownBlock() {
+  if (m_dimension.block.isValid() && !m_blockIsShared) return m_dimension.block;
   assertWriteEnabled();
   m_dimension.block = oddb::addAnonymousBlock(*database(), u'D');
   m_blockIsShared = false;
@@ -176,7 +177,7 @@ bool OdDbDimension::transformBy(const OdGeMatrix3d& transform) {
   return true;
 }
 
-void OdDbDimension::moveBlock(const OdGeMatrix3d& transform) {
+void OdDbDimension::moveBlock(OdGeMatrix3d transform) {
   const OdDbBlockTableRecordPtr block = blockOf(m_dimension.block);
   if (!block) return;
   m_pendingMove = {};

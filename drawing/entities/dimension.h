@@ -104,15 +104,15 @@ class OdDbDimension : public OdDbEntity {
   virtual void dxfOutKind(OdDbDxfOut& out) const = 0;
   /// From the block's coordinates to the world's.
   OdGeMatrix3d blockTransform() const;
-  /// Gives the dimension a new block, which is empty.
-  OdDbObjectId makeBlock();
+  /// The block that shows this dimension alone; made if there is none.
+  OdDbObjectId ownBlock();
   /// Takes over what was read, whatever the kind.
   void takeData(const OdDbDimension& read);
   Data m_dimension;
 
  private:
   void unshareBlock();
-  void moveBlock(const OdGeMatrix3d& transform);
+  void moveBlock(OdGeMatrix3d transform);
   // A copy shows the block of its original until it comes to a drawing.
   bool m_blockIsShared = false;
   OdGeMatrix3d m_pendingMove; ///< of such a copy, since it was made

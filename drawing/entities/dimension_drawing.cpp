@@ -166,7 +166,7 @@ bool OdDbAlignedDimension::recomputeDimBlock() {
   m_dimension.textMiddle = middle;
   m_dimension.measurement = getMeasurement();
   m_dimension.insertion = {};
-  block.putInto(m_dimension.block.isValid() ? m_dimension.block : makeBlock());
+  block.putInto(ownBlock());
   return true;
 }
 
@@ -182,7 +182,7 @@ bool OdDbRadialDimension::recomputeDimBlock() {
   for (const OdGePoint3d& p : {round.center, round.tip}) block.definitionPoint(p);
   m_dimension.measurement = getMeasurement();
   m_dimension.insertion = {};
-  block.putInto(m_dimension.block.isValid() ? m_dimension.block : makeBlock());
+  block.putInto(ownBlock());
   return true;
 }
 
@@ -200,6 +200,6 @@ bool OdDbDiametricDimension::recomputeDimBlock() {
   for (const OdGePoint3d& p : {tip, far}) block.definitionPoint(p);
   m_dimension.measurement = getMeasurement();
   m_dimension.insertion = {};
-  block.putInto(m_dimension.block.isValid() ? m_dimension.block : makeBlock());
+  block.putInto(ownBlock());
   return true;
 }
