@@ -17,7 +17,7 @@ def site_2005():
     p.command("Kreis \"groß\"", "^C^C_CIRCLE 50,50 25",
               [p.image("circle.png", 64, BLUE)], general=p.general(p.color(INDEX, 1)),
               description="Zeichnet\neinen  Kreis\n\tmit Radius 25")
-    p.command("Zwei Zeilen", "^C^C_LINE 0,0\n10,0  10,10\n;", [p.image("gone.png", 64)])
+    p.command("Zwei Zeilen", "^C^C_LINE 0,0\n10,0\n10,10;", [p.image("gone.png", 64)])
     p.entry("Bauteile", 3)
     p.block("Küche", "%UserProfileFolder%\\Blocks\\Küche.dwg", "Kitchen©",
             [p.image("kitchen.png", 64, GREEN)], scale=2, rotation=1.5707963)
@@ -36,7 +36,7 @@ def site_2005():
 def office_2012():
     p = Palette(HERE, "office-2012", "Office", "18.1")
     p.command("Line", "^C^C_line \\\\;", [p.resource("acadbtn.xmx", "RCDATA_16_LINE")])
-    p.command("Wall \"A\" 'outer'", "^C^C_PLINE 0,0 10,0 ;", [p.image("wall32.png", 32, RED),
+    p.command("Wall \"A\" 'outer'", "^C^C_PLINE 0,0 10,0;", [p.image("wall32.png", 32, RED),
                                                            p.image("wall64.png", 64, RED)],
               general=p.general(p.layer("WALLS", 3), p.value("LineWeight", 50, INTEGER),
                                 p.value("Linetype", "ByLayer"),
