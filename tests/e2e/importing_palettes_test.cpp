@@ -1,0 +1,98 @@
+// Palettes of other programs, from the shell to the drawing.
+#include "batch_run.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString sample(const char* name) {
+  return QStringLiteral(SOURCE_DIR "/samples/xtp/") + QLatin1String(name);
+}
+
+RunResult import(const Workbench& bench, const QStringList& words) {
+  return runProgram(QStringLiteral("tpal"),
+                    QStringList{QStringLiteral("import")} + words +
+                        QStringList{QStringLiteral("--into"), bench.path(QStringLiteral("c")),
+                                    QStringLiteral("--group"), QStringLiteral("Imported")});
+}
+
+QString field(const QJsonArray& files, const QString& tool, const char* name) {
+  for (const QJsonValue& file : files)
+    for (const QJsonValue& row : file[QStringLiteral("tools")].toArray())
+      if (row[QStringLiteral("name")].toString() == tool)
+        return row[QLatin1String(name)].toString();
+  return QStringLiteral("(no such tool)");
+}
+
+TEST(ImportingPalettes, ToolsOfTheSamplesDrawWhatTheyDrew) {
+  const Workbench bench;
+  const RunResult imported =
+      import(bench, {sample("site-2005.xtp"), sample("office-2012.xtp"), sample("civil-2026.xtp"),
+                     QStringLiteral("--convert-commands")});
+  ASSERT_EQ(imported.exitCode, 1) << "some tools have no place here" << qPrintable(imported.err);
+  const RunResult run = bench.batch(bench.path(QStringLiteral("c")), "TOOL:Wände & Türen\n"
+                                                                     "TOOL:Kreis \"groß\"\n"
+                                                                     "TOOL:Zwei Zeilen\n"
+                                                                     "TOOL:Wall \"A\" 'outer'\n"
+                                                                     "TOOL:Kerb\n"
+                                                                     "TOOL:Bare macro\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  const QJsonArray entities = bench.entities();
+  const auto is = [&](int at, const char* type) {
+    return entities[at][QStringLiteral("type")].toString() == QLatin1String(type);
+  };
+  ASSERT_EQ(entities.size(), 7) << qPrintable(run.out);
+  EXPECT_TRUE(is(0, "LINE"));
+  EXPECT_TRUE(is(1, "CIRCLE"));
+  EXPECT_EQ(entities[1][QStringLiteral("color")].toInt(), 1);
+  EXPECT_EQ(entities[1][QStringLiteral("radius")].toDouble(), 25.0);
+  EXPECT_TRUE(is(2, "LINE") && is(3, "LINE")) << "a macro over several lines";
+  EXPECT_EQ(entities[4][QStringLiteral("layer")].toString(), QStringLiteral("WALLS"));
+  EXPECT_TRUE(is(5, "LINE"));
+  EXPECT_TRUE(is(6, "CIRCLE")) << "a macro of an add-on product, made a command";
+  EXPECT_EQ(entities[6][QStringLiteral("radius")].toDouble(), 3.0);
+}
+
+TEST(ImportingPalettes, ToolsOfSeveralCommandsBecomeToolsOfOne) {
+  const Workbench bench;
+  const RunResult imported = import(bench, {sample("office-2012.xtp"), QStringLiteral("--json")});
+  const QJsonArray files = QJsonDocument::fromJson(imported.out.toUtf8()).array();
+  EXPECT_EQ(field(files, QStringLiteral("Circle"), "fate"), QStringLiteral("converted"))
+      << qPrintable(imported.out);
+  const RunResult run = bench.batch(bench.path(QStringLiteral("c")), "TOOL:Circle\n5,5\n2\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
+}
+
+TEST(ImportingPalettes, AScriptImportsRunsAndExports) {
+  const Workbench bench;
+  const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});
+  const QByteArray script = "ToolPalettesImport\n" + sample("site-2005.xtp").toUtf8() +
+                            "\n\nImported\n"
+                            "TOOL:Wände & Türen\n"
+                            "ToolPalettesExport\nsite-2005\n" +
+                            bench.path(QStringLiteral("back.xtp")).toUtf8() + "\n";
+  const RunResult run = bench.batch(catalog, script);
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  EXPECT_EQ(bench.count(QStringLiteral("LINE")), 1);
+  EXPECT_TRUE(run.out.contains(QStringLiteral("Skipped unsupported tool: Bauteile")))
+      << qPrintable(run.out);
+  EXPECT_TRUE(QFileInfo::exists(bench.path(QStringLiteral("back.xtp"))));
+  EXPECT_TRUE(QFileInfo::exists(bench.path(QStringLiteral("back/Images/walls.png"))));
+}
+
+TEST(ImportingPalettes, AScriptFailsAtAFileThatCannotBeImported) {
+  const Workbench bench;
+  const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});
+  const QString bad = bench.write(QStringLiteral("bad.xtp"), "<Palette");
+  const RunResult run = bench.batch(catalog, "ToolPalettesImport\n" + bad.toUtf8() + "\n\n\n");
+  EXPECT_EQ(run.exitCode, 1) << qPrintable(run.out + run.err);
+  EXPECT_FALSE(run.crashed);
+}
+
+} // namespace
