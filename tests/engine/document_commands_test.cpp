@@ -24,13 +24,13 @@ class DocumentCommandsTest : public EngineFixture {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
   }
 
-  /// Opens an old drawing with a point, which is not understood in that version.
+  /// Opens a drawing with a point whose place is no number, which leaves it out.
   void openForeign() {
     QFile file(path("foreign.dxf"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("0\nSECTION\n2\nENTITIES\n"
                "0\nLINE\n8\n0\n10\n1\n20\n2\n11\n3\n21\n4\n"
-               "0\nPOINT\n8\n0\n10\n1\n20\n2\n0\nENDSEC\n0\nEOF\n");
+               "0\nPOINT\n8\n0\n10\neast\n20\n2\n0\nENDSEC\n0\nEOF\n");
     file.close();
     ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("other")));
     type(QStringLiteral("OpenDocument ") + path("foreign.dxf") + u'\n');

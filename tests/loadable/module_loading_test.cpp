@@ -59,11 +59,12 @@ TEST_F(ModuleLoadingTest, LoadingAloneRegistersTheCommands) {
   const OdModuleHandle handle = oddynlib::load(kLibrary, nullptr);
   ASSERT_TRUE(handle);
   EXPECT_EQ(host().commands.keys(),
-            QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("__executetool")}));
+            QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
+                         QStringLiteral("ToolPalettesImport"), QStringLiteral("__executetool")}));
   EXPECT_EQ(host().liveFactories, 0);
   EXPECT_FALSE(odrxFindClass(QStringLiteral("OdTcPersist"))) << "nothing else is up yet";
   oddynlib::unload(handle);
-  EXPECT_EQ(host().commands.size(), 2) << "the registrations are not taken back";
+  EXPECT_EQ(host().commands.size(), 4) << "the registrations are not taken back";
 }
 
 TEST_F(ModuleLoadingTest, RunsFromLoadingToUnloadingAHundredTimes) {
