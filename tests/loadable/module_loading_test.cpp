@@ -108,7 +108,7 @@ TEST_F(ModuleLoadingTest, NothingThatTheHostKeepsPointsIntoTheLibrary) {
   ASSERT_FALSE(isLoaded());
   // The library's memory is gone: to read a text that stood in it would crash.
   EXPECT_EQ(host().commands.keys().join(QLatin1Char(' ')),
-            QStringLiteral("ToolPalettes __executetool"));
+            QStringLiteral("ToolPalettes ToolPalettesExport ToolPalettesImport __executetool"));
   for (const testhost::RegisteredCommand& command : host().commands)
     EXPECT_EQ(command.group, QStringLiteral("HOST"));
   EXPECT_EQ(host().messages.printed.size(), 2) << "a folder without a catalog, twice";
