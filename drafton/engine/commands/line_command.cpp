@@ -23,7 +23,8 @@ class LineChain {
   const OdGePoint3d& end() const { return m_points.back(); }
   bool canClose() const { return m_lines.size() >= 2; }
 
-  void lineTo(const OdGePoint3d& point) {
+  /// By value: closing goes to the first of the very points that grow here.
+  void lineTo(OdGePoint3d point) {
     const OdDbLinePtr line = odrxMake<OdDbLine>(end(), point);
     m_lines.push_back(addNewThickEntity(m_context.database(), *line));
     m_points.push_back(point);
