@@ -81,7 +81,7 @@ void PiecePainter::drawMissing(const OdString& name, std::span<const OdGePoint3d
   run.along = u.normal() * height;
   run.up = v.normal() * height;
   run.origin = corners[0] + u * 0.5 + v * 0.5 - run.along * (advance / 2) - run.up * 0.5;
-  text(run);
+  text(run, advance);
 }
 
 } // namespace drafton

@@ -35,10 +35,20 @@ QRgb withAlpha(QRgb color, std::uint8_t alpha) { return (color & 0xFFFFFFu) | QR
 
 double lengthOf(const QPointF& p) { return std::hypot(p.x(), p.y()); }
 
+/// Where a text may have ink.
+QRectF placedReach(const QPointF& along, const QPointF& up, const QPointF& origin, double advance,
+                   double depth) {
+  constexpr double kAround = 2;
+  const double reach =
+      lengthOf(along) * (std::abs(advance) + kAround) + lengthOf(up) * (depth + kAround);
+  return {origin.x() - reach, origin.y() - reach, 2 * reach, 2 * reach};
+}
+
 /// Chords of an arc whose radius on the picture is `radius`.
 int chordCount(double radius, double sweep) {
   if (!(radius > kChordError)) return 1;
-  const double step = 2 * std::acos(1 - kChordError / radius);
+  // The cosine of small angles, solved for the angle.
+  const double step = 2 * std::sqrt(2 * kChordError / radius);
   return static_cast<int>(std::clamp(std::ceil(std::abs(sweep) / step), 1.0, 1e7));
 }
 
@@ -118,7 +128,7 @@ void PiecePainter::draw(const ShapeList& list, const Piece& piece, const QRectF&
     pattern(list, list.patterns[piece.first]);
     break;
   case PieceKind::kText:
-    text(list.texts[piece.first]);
+    text(list.texts[piece.first], static_cast<double>(piece.length));
     break;
   case PieceKind::kPoint:
     mark(list.marks[piece.first]);
@@ -193,7 +203,7 @@ void PiecePainter::ornament(const DashOrnament& ornament, const OdGePoint3d& at,
     run.origin = origin;
     run.along = x;
     run.up = y;
-    return text(run);
+    return text(run, OdGiTextMetrics::current().advance(run.text, run.font));
   }
   const OdLineShape* const shape = odpattern::findShape(ornament.shape);
   if (shape == nullptr) return;
@@ -359,27 +369,27 @@ bool PiecePainter::seenStrokes(const PatternPiece& pattern) {
   return true;
 }
 
-void PiecePainter::text(const OdGiTextRun& run) {
+void PiecePainter::text(const OdGiTextRun& run, double advance) {
   const QPointF along = (*m_projection)(run.along), up = (*m_projection)(run.up);
   const QPointF origin = (*m_projection)(run.origin);
   QRgb color = m_color;
   if (run.color && !run.color->isByLayer() && !run.color->isByBlock())
     color = withAlpha(m_options.ground.paint(run.color->color()), m_style.alpha);
   if (m_haloWidth > 0) color = m_haloColor;
-  TextShapes& shapes = TextShapes::instance();
   if (m_options.simplifies && lengthOf(up) < kLowestText) {
-    const double width = shapes.advance(run.text, run.font);
     const QPointF from = origin + up * 0.5;
     m_surface.setPen(withAlpha(color, static_cast<std::uint8_t>(qAlpha(color) / 2)),
                      std::max(1.0, lengthOf(up) * 0.7));
-    m_surface.line(from, from + along * width);
+    m_surface.line(from, from + along * advance);
     return;
   }
-  const TextShape& shape = shapes.shape(run.text, run.font, run.tracking);
+  const QRectF reach = placedReach(
+      along, up, origin, advance,
+      run.font.vertical ? TextShapes::kColumnStep * static_cast<double>(run.text.size()) : 0);
+  if (!m_surface.clipRect().intersects(reach)) return;
+  const TextShape& shape = TextShapes::instance().shape(run.text, run.font, run.tracking);
   const QTransform placed(along.x(), along.y(), up.x(), up.y(), origin.x(), origin.y());
   m_surface.setPen(color, m_width);
-  const QRectF box = placed.mapRect(shape.path.boundingRect());
-  if (!m_surface.clipRect().intersects(box.adjusted(-1, -1, 1, 1))) return;
   QPainterPath path = m_surface.cut(placed.map(shape.path));
   path.setFillRule(Qt::WindingFill);
   // Where the lines of text stand: under, over and through it.

@@ -63,7 +63,7 @@ class PiecePainter {
   void pattern(const ShapeList& list, const PatternPiece& pattern);
   bool seenStrokes(const PatternPiece& pattern);
   void strokes(const ShapeList& list, const Piece& piece, const QRectF& itemBox);
-  void text(const OdGiTextRun& run);
+  void text(const OdGiTextRun& run, double advance);
   void mark(const PointPiece& point);
   void drawPicture(const QImage& picture, const QTransform& placed, const OdDbRasterImage& image,
                    std::span<const OdGePoint3d> edge);

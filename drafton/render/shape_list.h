@@ -28,7 +28,7 @@ struct Piece {
   bool hasColor = false; ///< `color` counts and not that of the entity
   std::uint32_t first = 0, count = 0;
   std::uint32_t color = 0;
-  float length = 0; ///< of all strokes together
+  float length = 0; ///< of all strokes together; the advance of a text
 };
 
 /// Rings that stand one behind another.

@@ -1,5 +1,6 @@
 #include "drafton/render/shape_recorder.h"
 
+#include "drafton/render/text_shapes.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/entities/viewport.h"
@@ -155,9 +156,16 @@ void ShapeRecorder::text(const OdGiTextRun& run) {
   const double depth = metrics.descent(run.font);
   // Accents reach above the height of capitals.
   constexpr double kAbove = 1.35;
-  const OdGePoint3d end = run.origin + run.along * width;
-  for (const OdGePoint3d& p : {run.origin, end}) {
-    m_box.addPoint(p - run.up * depth);
+  double low = -depth, left = 0, right = width;
+  if (run.font.vertical) {
+    // A column, below and on both sides of its origin.
+    low = -TextShapes::kColumnStep * static_cast<double>(run.text.size());
+    left = -width / 2;
+    right = width / 2;
+  }
+  for (const double along : {left, right}) {
+    const OdGePoint3d p = run.origin + run.along * along;
+    m_box.addPoint(p + run.up * low);
     m_box.addPoint(p + run.up * kAbove);
   }
 }

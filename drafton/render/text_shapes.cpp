@@ -17,8 +17,6 @@ constexpr double kPixelSize = 256;
 constexpr qsizetype kMostShapes = 20000, kMostAdvances = 200000;
 /// Used while there are no fonts.
 constexpr double kUsualAdvance = 0.75, kUsualDescent = 0.3;
-/// How far the characters of upright columns stand below each other.
-constexpr double kColumnStep = 1.5;
 
 OdString keyOf(const OdGiFont& font) {
   return font.typeface + u'\x1f' + font.file + u'\x1f' + font.bigFile + u'\x1f' +

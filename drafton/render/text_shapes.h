@@ -22,6 +22,9 @@ struct TextShape {
 /// texts have no outlines and estimated widths. For one thread.
 class TextShapes : public OdGiTextMetrics {
  public:
+  /// How far the characters of upright columns stand below each other, in heights.
+  static constexpr double kColumnStep = 1.5;
+
   TextShapes();
   ~TextShapes() override;
 

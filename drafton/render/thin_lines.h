@@ -25,13 +25,15 @@ class ThinLines {
   void draw(QPointF from, QPointF to);
 
  private:
-  void blend(int x, int y, unsigned coverage);
+  static constexpr unsigned kFull = 256;
+  template <bool kIsSteep, bool kIsInside>
+  void walk(double along0, double across0, double along1, double across1);
 
   uchar* m_bits;
   qsizetype m_bytesPerLine;
   QRect m_bounds, m_clip;
-  unsigned m_alpha = 255;
-  QRgb m_color = 0; // premultiplied
+  unsigned m_alpha = kFull;
+  QRgb m_color = 0; // opaque
 };
 
 /// Cuts a line at a rectangle. False if nothing of it is inside; else the parts of the way, 0 to 1,
