@@ -13,6 +13,7 @@ struct Alias {
 constexpr Alias kAliases[] = {
     {u"A", u"ARC"},
     {u"ADDSEL", u"ADDSELECTED"},
+    {u"ATT", u"ATTDEF"},
     {u"BH", u"BHATCH"},
     {u"BO", u"BOUNDARY"},
     {u"C", u"CIRCLE"},

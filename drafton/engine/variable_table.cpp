@@ -68,6 +68,7 @@ bool setTransparency(Engine&, Document* document, const OdVariant& value) {
 
 // Sorted by name.
 constexpr VariableRow kVariables[] = {
+    {u"AFLAGS", Type::kInteger, Scope::kSession, u"16", 0, 31},
     {u"APERTURE", Type::kInteger, Scope::kProfile, u"10", 1, 50},
     {u"ATTDIA", Type::kInteger, Scope::kSession, u"0", 0, 1},
     {u"ATTREQ", Type::kInteger, Scope::kSession, u"1", 0, 1},

@@ -212,7 +212,10 @@ void OdDbBlockReference::appendAttributesFromBlock(const QHash<OdString, OdStrin
     const auto attribute = odrxMake<OdDbAttribute>();
     attribute->setAttributeFromBlock(*definition, transform);
     const auto value = byTag.constFind(definition->tag().toCaseFolded());
-    if (value != byTag.cend()) attribute->setTextString(*value);
+    if (value != byTag.cend()) {
+      attribute->setTextString(*value);
+      attribute->adjustAlignment();
+    }
     appendAttribute(attribute);
   }
 }

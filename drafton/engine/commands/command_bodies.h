@@ -11,6 +11,7 @@ Task<void> circle(CommandContext& context);
 Task<void> arc(CommandContext& context);
 Task<void> rectangle(CommandContext& context);
 Task<void> text(CommandContext& context);
+Task<void> defineAttribute(CommandContext& context);
 Task<void> erase(CommandContext& context);
 Task<void> move(CommandContext& context);
 Task<void> copy(CommandContext& context);

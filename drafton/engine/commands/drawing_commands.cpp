@@ -10,6 +10,8 @@ constexpr NativeCommand kCommands[] = {
     {u"ARC", kOrdinary, arc},
     {u"RECTANG", kOrdinary, rectangle},
     {u"TEXT", kOrdinary, text},
+    {u"ATTDEF", kOrdinary, defineAttribute},
+    {u"-ATTDEF", kOrdinary, defineAttribute},
     {u"ERASE", kOrdinary, erase},
     {u"MOVE", kOrdinary, move},
     {u"COPY", kOrdinary, copy},

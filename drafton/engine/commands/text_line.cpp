@@ -34,25 +34,21 @@ void fill(OdDbText& text, const TextLayout& layout, double distance) {
 
 } // namespace
 
-OdDbTextPtr makeTextLine(const OdDbDatabase& database, TextLayout& layout, const OdString& string) {
-  const OdDbTextPtr text = odrxMake<OdDbText>();
-  text->setDatabaseDefaults(database);
-  applyStyle(*text, database);
-  text->setTextString(string);
-  if (layout.height > 0) text->setHeight(layout.height);
+void layOutText(const OdDbDatabase& database, TextLayout& layout, OdDbText& text) {
+  text.setDatabaseDefaults(database);
+  applyStyle(text, database);
+  if (layout.height > 0) text.setHeight(layout.height);
   const TextJustification& justification = *layout.justification;
-  if (justification.hasTwoPoints())
-    fill(*text, layout, layout.point.distanceTo(layout.secondPoint));
+  if (justification.hasTwoPoints()) fill(text, layout, layout.point.distanceTo(layout.secondPoint));
 
-  const TextBox box{widthOf(*text), text->height()};
-  text->setPosition(baseLineStart(layout.point, justification, box, layout.rotation));
-  text->setRotation(layout.rotation);
-  text->setHorizontalMode(justification.horizontal);
-  text->setVerticalMode(justification.vertical);
-  if (!text->isDefaultAlignment())
-    text->setAlignmentPoint(justification.hasTwoPoints() ? layout.secondPoint : layout.point);
-  layout.height = text->height();
-  return text;
+  const TextBox box{widthOf(text), text.height()};
+  text.setPosition(baseLineStart(layout.point, justification, box, layout.rotation));
+  text.setRotation(layout.rotation);
+  text.setHorizontalMode(justification.horizontal);
+  text.setVerticalMode(justification.vertical);
+  if (!text.isDefaultAlignment())
+    text.setAlignmentPoint(justification.hasTwoPoints() ? layout.secondPoint : layout.point);
+  layout.height = text.height();
 }
 
 void advanceLine(TextLayout& layout) {
@@ -60,13 +56,13 @@ void advanceLine(TextLayout& layout) {
   layout.secondPoint = nextTextLine(layout.secondPoint, layout.height, layout.rotation);
 }
 
-std::optional<TextLayout> layoutBelowLastText(const OdDbDatabase& database) {
+std::optional<TextLayout> layoutBelowLast(const OdDbDatabase& database, const OdRxClass* kind) {
   const auto space = database.getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
   const std::vector<OdDbObjectId>& ids = space->entityIds();
   for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
     const OdDbObjectPtr object = id->openObject();
-    const auto* text = odrxCast<OdDbText>(object.get());
-    if (!text) continue;
+    if (!object || !object->isKindOf(kind)) continue;
+    const auto* const text = odrxCast<OdDbText>(object.get());
     TextLayout layout;
     layout.justification = &textJustification(text->horizontalMode(), text->verticalMode());
     layout.point = text->position();

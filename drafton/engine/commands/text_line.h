@@ -17,14 +17,16 @@ struct TextLayout {
   double rotation = 0;     ///< radians
 };
 
-/// A line of text in the drawing's current style. Its height, which Align finds out, goes back into
-/// the layout.
-OdDbTextPtr makeTextLine(const OdDbDatabase& database, TextLayout& layout, const OdString& string);
+/// Gives a text that shows something, and belongs to no drawing yet, the drawing's current style
+/// and the place and size of the layout. Its height, which Align finds out, goes back into the
+/// layout.
+void layOutText(const OdDbDatabase& database, TextLayout& layout, OdDbText& text);
 
 /// Moves the layout to the line below.
 void advanceLine(TextLayout& layout);
 
-/// The layout for a line below the latest text of the current space; none if there is no text.
-std::optional<TextLayout> layoutBelowLastText(const OdDbDatabase& database);
+/// The layout for a line below the latest text of a class in the current space; none if there is no
+/// such text.
+std::optional<TextLayout> layoutBelowLast(const OdDbDatabase& database, const OdRxClass* kind);
 
 } // namespace drafton

@@ -114,6 +114,31 @@ TEST_F(InsertTest, WithoutAttreqTakesTheValuesOfTheBlock) {
   EXPECT_EQ(inserts()[0]->attributes().at(0)->textString(), QStringLiteral("1"));
 }
 
+TEST_F(InsertTest, AsksOnlyForWhatIsNeitherConstantNorPreset) {
+  words("ATTDEF||no|Number?|1|0,0|3|0");
+  words("ATTDEF|v|p||material|Material?|wood|0,-5|3|0");
+  words("ATTDEF|p|c||kind|a door|0,-10|3|0");
+  words("ATTDEF|c||name|Name?||j|r|0,-15|3|0");
+  words("BLOCK|Door|0,0|all|");
+  EXPECT_EQ(all<OdDbAttributeDefinition>().size(), 0u);
+  words("INSERT|Door|100,0|2|2|90|42|Front|Front door");
+  ASSERT_EQ(inserts().size(), 1u);
+  QStringList texts;
+  for (const OdDbAttributePtr& one : inserts()[0]->attributes())
+    texts << one->tag() + u'=' + one->textString();
+  EXPECT_EQ(texts.join(u' ').toStdString(), "NO=42 MATERIAL=wood NAME=Front door");
+  EXPECT_TRUE(console().shows(QStringLiteral("Name? <Front>:"))) << output().toStdString();
+  EXPECT_FALSE(isBusy());
+
+  // A text at the right ends where its definition does, however long its value is.
+  const OdDbAttributePtr name = inserts()[0]->attributes()[2];
+  EXPECT_LT(name->alignmentPoint().distanceTo({130, 0, 0}), 1e-9);
+  OdGeExtents3d box;
+  ASSERT_TRUE(name->getGeomExtents(box));
+  EXPECT_NEAR(box.maxPoint().y, 0, 1e-9);
+  EXPECT_NEAR(box.minPoint().y, name->position().y, 1e-9);
+}
+
 TEST_F(InsertTest, NamesWhatIsNotThere) {
   words("INSERT|nowhere");
   EXPECT_TRUE(console().shows(QStringLiteral("There is neither a block nor a file \"nowhere\".")))

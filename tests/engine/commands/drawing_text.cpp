@@ -4,6 +4,7 @@
 #include "drafton/engine/commands/layer_set.h"
 #include "drafton/engine/value_parser.h"
 #include "drawing/entities/arc.h"
+#include "drawing/entities/attribute_definition.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/ellipse.h"
 #include "drawing/entities/leader.h"
@@ -81,6 +82,18 @@ OdString describe(const OdDbText& text) {
   return line;
 }
 
+OdString describe(const OdDbAttributeDefinition& definition) {
+  const std::pair<bool, const char*> modes[] = {{definition.isInvisible(), " invisible"},
+                                                {definition.isConstant(), " constant"},
+                                                {definition.isVerifiable(), " verified"},
+                                                {definition.isPreset(), " preset"},
+                                                {definition.lockPositionInBlock(), " locked"}};
+  OdString text = QStringLiteral("ATTDEF %1 \"%2\"").arg(definition.tag(), definition.prompt());
+  for (const auto& [on, word] : modes)
+    if (on) text += QLatin1String(word);
+  return text + QStringLiteral(": ") + describe(static_cast<const OdDbText&>(definition));
+}
+
 OdString joined(const std::vector<OdGePoint3d>& points) {
   QStringList texts;
   for (const OdGePoint3d& point : points) texts << shownPoint(point);
@@ -137,9 +150,16 @@ bool describeAs(const OdDbObject& object, OdString& text) {
 
 using Describer = bool (*)(const OdDbObject& object, OdString& text);
 constexpr Describer kDescribers[] = {
-    describeAs<OdDbLine>,     describeAs<OdDbCircle>, describeAs<OdDbArc>,
-    describeAs<OdDbPolyline>, describeAs<OdDbText>,   describeAs<OdDbPoint>,
-    describeAs<OdDbEllipse>,  describeAs<OdDbSpline>, describeAs<OdDbMText>,
+    describeAs<OdDbAttributeDefinition>,
+    describeAs<OdDbLine>,
+    describeAs<OdDbCircle>,
+    describeAs<OdDbArc>,
+    describeAs<OdDbPolyline>,
+    describeAs<OdDbText>,
+    describeAs<OdDbPoint>,
+    describeAs<OdDbEllipse>,
+    describeAs<OdDbSpline>,
+    describeAs<OdDbMText>,
     describeAs<OdDbLeader>,
 };
 

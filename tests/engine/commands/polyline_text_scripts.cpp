@@ -1,4 +1,4 @@
-// PLINE and TEXT.
+// PLINE, TEXT and ATTDEF.
 
 #include "engine/commands/scripts.h"
 
@@ -83,7 +83,42 @@ constexpr Script kTexts[] = {
     {"Style", u"TEXT|s|?|nothing|Standard|0,0|3|0|x|", u"TEXT \"x\" at 0,0,0 h3"},
 };
 
+constexpr Script kAttributes[] = {
+    {"Asked", u"ATTDEF||no|Number?|1|1,2|3|0",
+     u"ATTDEF NO \"Number?\" locked: TEXT \"1\" at 1,2,0 h3"},
+    {"WithoutPromptAndValue", u"ATTDEF||no|||1,2|3|0",
+     u"ATTDEF NO \"\" locked: TEXT \"\" at 1,2,0 h3"},
+    {"Modes", u"ATTDEF|i|v|p|l||no|Number?|1|1,2|3|0",
+     u"ATTDEF NO \"Number?\" invisible verified preset: TEXT \"1\" at 1,2,0 h3"},
+    {"ModeTwiceIsOffAgain", u"ATTDEF|i|i||no|Number?|1|1,2|3|0",
+     u"ATTDEF NO \"Number?\" locked: TEXT \"1\" at 1,2,0 h3"},
+    {"ConstantHasNoPrompt", u"ATTDEF|c||maker|Us and co|1,2|3|0",
+     u"ATTDEF MAKER \"\" constant locked: TEXT \"Us and co\" at 1,2,0 h3"},
+    {"ModesAreKept", u"ATTDEF||b||2|0,0|3|0",
+     u"ATTDEF A \"\" verified locked: TEXT \"1\" at 0,0,0 h3;"
+     u"ATTDEF B \"\" verified locked: TEXT \"2\" at 0,0,0 h3",
+     u"ATTDEF|v||a||1|0,0|3|0"},
+    {"TagIsNeeded", u"ATTDEF||||no|||1,2|3|0", u"ATTDEF NO \"\" locked: TEXT \"\" at 1,2,0 h3"},
+    {"TagHasNoBlanks", u"ATTDEF||\"n o\"|no|||1,2|3|0",
+     u"ATTDEF NO \"\" locked: TEXT \"\" at 1,2,0 h3"},
+    {"BelowTheLastAttribute", u"ATTDEF||b||2|",
+     u"ATTDEF A \"\" locked: TEXT \"1\" at 0,0,0 h3 rot90;TEXT \"between\" at 50,0,0 h2.5;"
+     u"ATTDEF B \"\" locked: TEXT \"2\" at 5,0,0 h3 rot90",
+     u"ATTDEF||a||1|0,0|3|90|TEXT|50,0|2.5|0|between|"},
+    {"NothingToGoOnFromIsAskedAgain", u"ATTDEF||b||2||0,0|3|0",
+     u"TEXT \"x\" at 50,0,0 h2.5;ATTDEF B \"\" locked: TEXT \"2\" at 0,0,0 h3",
+     u"TEXT|50,0|2.5|0|x|"},
+    // The place follows from the tag, which is what is shown.
+    {"JustifyRight", u"-ATTDEF||no||long|j|r|0,0|3|0",
+     u"ATTDEF NO \"\" locked: TEXT \"long\" at -4.5,0,0 h3 to 0,0,0 2/0"},
+    {"JustifyFit", u"ATTDEF||no||long|j|f|0,0|12,0|5",
+     u"ATTDEF NO \"\" locked: TEXT \"long\" at 0,0,0 h5 wide1.6 to 12,0,0 5/0"},
+    {"Style", u"ATTDEF||no|||s|?|nothing|Standard|0,0|3|0",
+     u"ATTDEF NO \"\" locked: TEXT \"\" at 0,0,0 h3"},
+};
+
 } // namespace
 
+std::span<const Script> attributeScripts() { return kAttributes; }
 std::span<const Script> polylineScripts() { return kPolylines; }
 std::span<const Script> textScripts() { return kTexts; }

@@ -23,6 +23,7 @@ std::span<const Script> circleScripts();
 std::span<const Script> arcScripts();
 std::span<const Script> rectangleScripts();
 std::span<const Script> textScripts();
+std::span<const Script> attributeScripts();
 std::span<const Script> modifyScripts();
 std::span<const Script> zoomScripts();
 std::span<const Script> setvarScripts();
