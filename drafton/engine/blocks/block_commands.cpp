@@ -19,6 +19,8 @@ constexpr NativeCommand kCommands[] = {
     {u"-LAYOUT", kOrdinary, layout},
     {u"MODEL", kOrdinary, modelSpace},
     {u"MVIEW", kOrdinary, makeView},
+    {u"VPLAYER", kOrdinary, layersOfViews},
+    {u"PAGESETUP", kOrdinary, pageSetup},
 };
 
 } // namespace

@@ -22,5 +22,8 @@ Task<void> insertRaster(CommandContext& context);
 Task<void> layout(CommandContext& context);
 Task<void> modelSpace(CommandContext& context);
 Task<void> makeView(CommandContext& context);
+/// VPLAYER: layers that are frozen in single views of a sheet.
+Task<void> layersOfViews(CommandContext& context);
+Task<void> pageSetup(CommandContext& context);
 
 } // namespace drafton

@@ -1,19 +1,13 @@
-// LAYOUT, MODEL and MVIEW.
+// LAYOUT and MODEL.
 
 #include "drafton/engine/blocks/block_commands.h"
-#include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/commands/record_names.h"
-#include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 #include "drawing/database.h"
-#include "drawing/entities/viewport.h"
 #include "drawing/objects/layout.h"
 
 namespace drafton {
 namespace {
-
-/// How much more than the model a fitted view shows.
-constexpr double kFitMargin = 1.05;
 
 OdDbLayoutPtr activeLayout(const OdDbDatabase& database) {
   return oddb::activeLayout(database).openObject();
@@ -81,58 +75,6 @@ Task<void> copyLayout(CommandContext& context) {
   database.deepCloneObjects(shapes, made->getBlockTableRecordId(), copies);
 }
 
-// --- views of the model on a sheet
-
-OdGeExtents3d modelExtents(const OdDbDatabase& database) {
-  return database.getModelSpaceId().openAs<OdDbBlockTableRecord>()->extents();
-}
-
-/// Shows all of the model, as large as it goes.
-void fitModel(const OdDbDatabase& database, OdDbViewport& view) {
-  const OdGeExtents3d model = modelExtents(database);
-  if (model.isEmpty()) {
-    view.setViewHeight(view.height());
-    return;
-  }
-  const OdGeVector3d size = model.maxPoint() - model.minPoint();
-  const OdGePoint3d middle = model.minPoint() + size * 0.5;
-  const double height = std::max(size.y, size.x * view.height() / view.width());
-  view.setViewCenter({middle.x, middle.y});
-  view.setViewHeight(height > 0 ? height * kFitMargin : view.height());
-}
-
-void addView(CommandContext& context, const OdGePoint3d& a, const OdGePoint3d& b) {
-  const double width = std::abs(b.x - a.x), height = std::abs(b.y - a.y);
-  if (width == 0 || height == 0)
-    throw CommandFailure(translated(u"A view needs a width and a height."));
-  const auto view = odrxMake<OdDbViewport>();
-  view->setCenterPoint({(a.x + b.x) / 2, (a.y + b.y) / 2, 0});
-  view->setWidth(width);
-  view->setHeight(height);
-  int highest = 1;
-  const auto sheet = context.database().getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
-  for (auto at = sheet->newIterator(); !at->done(); at->step()) {
-    const OdDbEntityPtr entity = at->entity();
-    if (const auto* const other = odrxCast<OdDbViewport>(entity))
-      highest = std::max(highest, other->number());
-  }
-  view->setNumber(highest + 1);
-  fitModel(context.database(), *view);
-  addNewEntity(context.database(), *view);
-}
-
-/// The views among chosen objects, open for writing.
-Task<std::vector<OdDbViewportPtr>> askViews(CommandContext& context) {
-  const Selection chosen = co_await selectObjects(context);
-  std::vector<OdDbViewportPtr> views;
-  for (const OdDbObjectId& id : chosen) {
-    const OdDbEntityPtr entity = id.openObject(OdDb::kForWrite);
-    if (auto* const view = odrxCast<OdDbViewport>(entity)) views.emplace_back(view);
-  }
-  if (views.empty()) context.print(translated(u"No view was chosen."));
-  co_return views;
-}
-
 } // namespace
 
 Task<void> layout(CommandContext& context) {
@@ -171,43 +113,6 @@ Task<void> modelSpace(CommandContext& context) {
   OdDbDatabase& database = context.database();
   oddb::setActiveLayout(database, oddb::layouts(database).front()->objectId());
   co_return;
-}
-
-Task<void> makeView(CommandContext& context) {
-  const OdDbLayoutPtr active = activeLayout(context.database());
-  if (!active || active->isModelType())
-    throw CommandFailure(
-        translated(u"Views of the model stand on layouts. Choose a layout first."));
-  const Answer<OdGePoint3d> corner = co_await context.input().point(
-      {.text = u"Specify corner of view", .keywords = u"ON OFF Fit Lock Scale"});
-  if (corner.isValue()) {
-    const Answer<OdGePoint3d> opposite =
-        co_await context.input().point({.text = u"Specify opposite corner", .base = corner.value});
-    addView(context, corner.value, opposite.value);
-    co_return;
-  }
-  if (corner.is(u"Fit")) {
-    const OdGePoint2d paper = active->getPlotPaperSize();
-    double left = 0, bottom = 0, right = 0, top = 0;
-    active->getPlotPaperMargins(left, bottom, right, top);
-    addView(context, {0, 0, 0}, {paper.x - left - right, paper.y - bottom - top, 0});
-    co_return;
-  }
-  const auto views = co_await askViews(context);
-  if (views.empty()) co_return;
-  if (corner.is(u"Scale")) {
-    const Answer<double> scale =
-        co_await context.input().real({.text = u"Enter sheet units for one unit of the model",
-                                       .defaultValue = 1,
-                                       .range = NumberRange::kPositive});
-    for (const OdDbViewportPtr& view : views) view->setCustomScale(scale.value);
-  } else if (corner.is(u"Lock")) {
-    const Answer<OdString> lock = co_await context.input().keyword(
-        {.text = u"Lock views?", .keywords = u"Yes No", .defaultValue = u"Yes"});
-    for (const OdDbViewportPtr& view : views) view->setLocked(lock.is(u"Yes"));
-  } else {
-    for (const OdDbViewportPtr& view : views) view->setOn(corner.is(u"ON"));
-  }
 }
 
 } // namespace drafton
