@@ -18,6 +18,8 @@ Task<void> copy(CommandContext& context);
 Task<void> rotate(CommandContext& context);
 Task<void> scale(CommandContext& context);
 Task<void> mirror(CommandContext& context);
+Task<void> trim(CommandContext& context);
+Task<void> extend(CommandContext& context);
 Task<void> explode(CommandContext& context);
 Task<void> offset(CommandContext& context);
 Task<void> multilineText(CommandContext& context);

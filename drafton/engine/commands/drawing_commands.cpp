@@ -20,6 +20,8 @@ constexpr NativeCommand kCommands[] = {
     {u"MIRROR", kOrdinary, mirror},
     {u"EXPLODE", kOrdinary, explode},
     {u"OFFSET", kOrdinary, offset},
+    {u"TRIM", kOrdinary, trim},
+    {u"EXTEND", kOrdinary, extend},
     {u"MTEXT", kOrdinary, multilineText},
     {u"LINETYPE", kOrdinary, linetype},
     {u"-LINETYPE", kOrdinary, linetype},

@@ -247,6 +247,27 @@ TEST_F(Hatching, AnotherProgramReadsTheSameAreas) {
   EXPECT_EQ(sum(at(3, "sources").toArray()), 0);
 }
 
+TEST_F(Hatching, NumbersAtTheirLimitsAreLivedWith) {
+  for (const char16_t* const words :
+       {u"RECTANG|-1e308,-1e308|1e308,1e308|BHATCH|p|u||1|n|0,0|1e308,0|",
+        u"RECTANG|0,0|1e40,1e40|BHATCH|p|u||1e-300|y|1e39,1e39|",
+        u"RECTANG|0,0|10,8|BHATCH|p|u|1e300|1e300|n|5,4|", u"CIRCLE|0,0|1e308|BHATCH|1,1|",
+        u"CIRCLE|0,0|1e-300|BHATCH|0,0|s|all||",
+        u"LINE|0,0|1e-200,0|1e-200,1e-200|c|BHATCH|s|all||",
+        u"ELLIPSE|c|1e308,0|@1e300,0|1e-300|BHATCH|1e308,0|", u"RECTANG|0,0|10,8|BHATCH|5,4,1e308|",
+        u"RECTANG|1e15,1e15|@10,8|BHATCH|1e15,1e15|@5,4|", u"CIRCLE|0,0|1e308|BOUNDARY|1,1|",
+        u"CIRCLE|0,0|5|CIRCLE|1e300,0|1e300|BHATCH|1,1|MOVE|handle|30||0,0|1e308,0"}) {
+    SCOPED_TRACE(OdString::fromUtf16(words).toStdString());
+    restart({});
+    runScript(u"SETVAR|HPNAME|SOLID");
+    runScript(words);
+    type(QStringLiteral("^C"));
+    const OdDbDatabasePtr read = OdDbDatabase::readDxf(dxf(), QStringLiteral("memory"));
+    EXPECT_TRUE(read->unknownContent().isEmpty());
+    EXPECT_EQ(read->writeDxf(), dxf());
+  }
+}
+
 TEST_F(Hatching, SurvivesTheFile) {
   runScript(u"RECTANG|0,0|10,8|CIRCLE|5,4|2|SETVAR|HPNAME|SOLID|BHATCH|1,1|");
   const OdDbDatabasePtr read = OdDbDatabase::readDxf(dxf(), QStringLiteral("memory"));
