@@ -2,6 +2,8 @@
 
 #include "drafton/batch/batch_console.h"
 #include "drafton/batch/script_source.h"
+#include "drafton/engine/hatch_patterns.h"
+#include "drafton/previews/preview_service.h"
 #include "frame/file_path.h"
 
 #include <QFile>
@@ -21,6 +23,18 @@ void printTo(std::FILE* file, const OdString& text) {
 OdString defaultProfile() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
          QLatin1String("/drafton/drafton.ini");
+}
+
+/// Modules get pictures of drawings; patterns are found as a hatch finds them.
+void offerPreviews(Engine& engine) {
+  const auto findPattern = [&engine](const OdString& name) -> std::optional<OdHatchPattern> {
+    OdVariant file;
+    engine.hatchSettings()->get(QStringLiteral("hatch_pattern_file"), file);
+    auto found = findHatchPattern(engine, engine.documents().current(), name, file.toString());
+    if (!found) return std::nullopt;
+    return std::move(found->pattern);
+  };
+  engine.services().offer(IHostPreviewService::kId, kvMake<PreviewService>(findPattern).get());
 }
 
 /// One run from its options to its exit code.
@@ -145,6 +159,7 @@ int BatchRun::run() {
   script.setEngine(engine);
   if (m_options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
+  offerPreviews(engine);
   if (!openDrawing(engine)) return kExitDrawing;
   engine.loadModule(OdString::fromUtf16(kModule));
   engine.runStartupCommands();

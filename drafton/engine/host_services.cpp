@@ -60,7 +60,13 @@ bool HostServices::queryInterface(KVInterfaceId id, void** out) {
   }
   for (const ServiceRow& row : kServices)
     if (row.id == id) *out = row.make(m_engine);
+  if (const auto offered = m_offered.find(id); offered != m_offered.end())
+    return offered->second->queryInterface(id, out);
   return *out != nullptr;
+}
+
+void HostServices::offer(KVInterfaceId id, KVPtr<IKVUnknown> object) {
+  m_offered[id] = std::move(object);
 }
 
 IHostDocumentManager* HostServices::documentManager() { return &m_engine.documents(); }

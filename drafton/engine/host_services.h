@@ -5,6 +5,8 @@
 #include "host/messages.h"
 #include "host/services.h"
 
+#include <map>
+
 namespace drafton {
 
 class Engine;
@@ -16,10 +18,15 @@ class HostServices : public IHostServices {
   explicit HostServices(Engine& engine)
     : m_engine(engine) {}
 
-  /// Messages, the command service, the command menu, the hatch settings and the settings.
+  /// Messages, the command service, the command menu, the hatch settings, the settings, and what
+  /// the program offers.
   bool queryInterface(KVInterfaceId id, void** out) override;
   unsigned long addRef() override { return ++m_refs; }
   unsigned long release() override { return --m_refs; }
+
+  /// Adds a service that the engine itself does not have, as pictures or windows. `object` is the
+  /// interface `id`.
+  void offer(KVInterfaceId id, KVPtr<IKVUnknown> object);
 
   IHostDocumentManager* documentManager() override;
   IHostEditorEvents* editorEvents() override;
@@ -27,6 +34,7 @@ class HostServices : public IHostServices {
 
  private:
   Engine& m_engine;
+  std::map<KVInterfaceId, KVPtr<IKVUnknown>> m_offered;
   unsigned long m_refs = 1;
 };
 

@@ -1,5 +1,9 @@
 #include "drafton/render/style.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 namespace drafton {
 namespace {
 
@@ -9,6 +13,35 @@ constexpr OdCmColor::Method methodOf(std::uint32_t value) {
 
 constexpr std::uint32_t kForeground =
     std::uint32_t{OdCmColor::kByACI} << 24 | OdCmColor::kACIforeground;
+
+/// The least and the greatest luminance that a colour may have to be seen both on white and on a
+/// nearly black ground: the contrast is about 3 to 1 on either side.
+constexpr double kLeastLuminance = 0.14, kGreatestLuminance = 0.3;
+
+using LinearColor = std::array<double, 3>;
+
+double linear(int part) {
+  const double value = part / 255.0;
+  return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+int encoded(double part) {
+  const double value = part <= 0.0031308 ? part * 12.92 : 1.055 * std::pow(part, 1 / 2.4) - 0.055;
+  return static_cast<int>(std::lround(std::clamp(value, 0.0, 1.0) * 255));
+}
+double luminance(const LinearColor& color) {
+  return 0.2126 * color[0] + 0.7152 * color[1] + 0.0722 * color[2];
+}
+
+/// The colour in its own hue, made lighter or darker until it can be seen anywhere.
+QRgb legibleOnAnyTone(QRgb rgb) {
+  LinearColor color = {linear(qRed(rgb)), linear(qGreen(rgb)), linear(qBlue(rgb))};
+  const double light = luminance(color);
+  if (light >= kLeastLuminance && light <= kGreatestLuminance) return rgb;
+  const double white = light < kLeastLuminance ? (kLeastLuminance - light) / (1 - light) : 0.0;
+  const double factor = light > kGreatestLuminance ? kGreatestLuminance / light : 1.0;
+  for (double& part : color) part = (part + (1 - part) * white) * factor;
+  return qRgb(encoded(color[0]), encoded(color[1]), encoded(color[2]));
+}
 
 } // namespace
 
@@ -60,11 +93,23 @@ Ground::Ground(QRgb color)
   : m_color(color)
   , m_isDark(qGray(color) < 128) {}
 
+Ground Ground::ofAnyTone() {
+  Ground ground(qRgba(0, 0, 0, 0));
+  ground.m_isAnyTone = true;
+  return ground;
+}
+
 QRgb Ground::paint(std::uint32_t value) const {
+  const QRgb plain = plainPaint(value);
+  return m_isAnyTone ? legibleOnAnyTone(plain) : plain;
+}
+
+QRgb Ground::plainPaint(std::uint32_t value) const {
   const OdCmColor::Method method = methodOf(value);
   if (method == OdCmColor::kByColor) return 0xFF000000u | (value & 0xFFFFFFu);
   const bool isForeground =
       method != OdCmColor::kByACI || (value & 0xFFFFu) == 0 || value == kForeground;
+  if (isForeground && m_isAnyTone) return kNeutralTone;
   if (isForeground) return m_isDark ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
   return 0xFF000000u | OdCmColor::lookUpRGB(static_cast<std::uint8_t>(value));
 }

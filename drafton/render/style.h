@@ -50,20 +50,28 @@ struct LayerFilter {
 /// takes the insert's layer, and what is by block the insert's values.
 Style resolved(const Traits& traits, const StyleTables& tables, const Style* insert);
 
+/// The foreground colour on a ground of any tone.
+inline constexpr QRgb kNeutralTone = qRgb(122, 122, 122);
+
 /// What the picture is drawn on, and the palette colours that depend on it.
 class Ground {
  public:
   explicit Ground(QRgb color);
+  /// A transparent ground behind which anything may lie: no colour comes near to white or black.
+  static Ground ofAnyTone();
 
   QRgb color() const { return m_color; }
   bool isDark() const { return m_isDark; }
   /// The colour to paint with, opaque. `value` is that of an OdCmColor; the foreground colour is
-  /// white on dark ground and black on light ground.
+  /// white on dark ground, black on light ground and grey where the ground is not known.
   QRgb paint(std::uint32_t value) const;
 
  private:
+  QRgb plainPaint(std::uint32_t value) const;
+
   QRgb m_color;
   bool m_isDark;
+  bool m_isAnyTone = false;
 };
 
 } // namespace drafton

@@ -1,0 +1,159 @@
+#include "drafton/previews/stored_preview.h"
+
+#include "drafton/previews/preview_service.h"
+#include "drawing/database.h"
+#include "drawing/entities/text.h"
+#include "frame/file_path.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace drafton;
+
+class StoredPreviews : public testing::Test {
+ protected:
+  QString file() const { return m_folder.filePath(QStringLiteral("drawing.dxf")); }
+  OdString path() const { return odpath::fromPlatform(file()); }
+  void write(const QByteArray& bytes) const {
+    QFile out(file());
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(bytes);
+  }
+  QByteArray read() const {
+    QFile in(file());
+    EXPECT_TRUE(in.open(QIODevice::ReadOnly));
+    return in.readAll();
+  }
+
+  QTemporaryDir m_folder;
+};
+
+QImage picture() {
+  QImage image(40, 20, QImage::Format_RGB32);
+  image.fill(qRgb(10, 120, 200));
+  image.setPixel(0, 0, qRgb(255, 0, 0));
+  return image;
+}
+
+/// As a drawing keeps it.
+QByteArray bitmapOf(const QImage& image) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "BMP");
+  return bytes.mid(14);
+}
+
+OdDbDatabasePtr drawingWith(const QByteArray& preview) {
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  drawing->setThumbnail(preview);
+  return drawing;
+}
+
+QByteArray binaryTag(int code, const QByteArray& value) {
+  QByteArray tag;
+  tag += static_cast<char>(code & 0xFF);
+  tag += static_cast<char>(code >> 8);
+  return tag + value;
+}
+QByteArray binaryText(int code, const char* value) {
+  return binaryTag(code, QByteArray(value) + '\0');
+}
+
+} // namespace
+
+TEST_F(StoredPreviews, AreReadFromTextFiles) {
+  drawingWith(bitmapOf(picture()))->writeFile(path());
+  const QImage found = readStoredPreview(path());
+  ASSERT_EQ(found.size(), QSize(40, 20));
+  EXPECT_EQ(found.pixel(0, 0), qRgb(255, 0, 0));
+  EXPECT_EQ(found.pixel(39, 19), qRgb(10, 120, 200));
+}
+
+TEST_F(StoredPreviews, AreReadWithTheLineEndsOfOtherSystems) {
+  drawingWith(bitmapOf(picture()))->writeFile(path());
+  QByteArray bytes = read();
+  bytes.replace("\r\n", "\n");
+  write(bytes);
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+  bytes.replace("\n", "\r\n");
+  write(bytes);
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+}
+
+TEST_F(StoredPreviews, AreReadFromBinaryFiles) {
+  QByteArray bytes("AutoCAD Binary DXF\r\n\x1A\0", 22);
+  bytes += binaryText(0, "SECTION") + binaryText(2, "THUMBNAILIMAGE");
+  const QByteArray bitmap = bitmapOf(picture());
+  bytes += binaryTag(90, QByteArray("\x28\x0d\0\0", 4));
+  for (qsizetype i = 0; i < bitmap.size(); i += 127) {
+    const QByteArray piece = bitmap.mid(i, 127);
+    bytes += binaryTag(310, QByteArray(1, static_cast<char>(piece.size())) + piece);
+  }
+  bytes += binaryText(0, "ENDSEC") + binaryText(0, "EOF");
+  write(bytes);
+  EXPECT_EQ(readStoredPreview(path()).pixel(0, 0), qRgb(255, 0, 0));
+}
+
+TEST_F(StoredPreviews, AreFoundBehindATextThatNamesTheirSection) {
+  const OdDbDatabasePtr drawing = drawingWith(bitmapOf(picture()));
+  auto words = odrxMake<OdDbText>();
+  words->setDatabaseDefaults(*drawing);
+  words->setTextString(QStringLiteral("THUMBNAILIMAGE"));
+  drawing->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(words);
+  drawing->writeFile(path());
+  ASSERT_EQ(read().count("THUMBNAILIMAGE"), 2);
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+}
+
+TEST_F(StoredPreviews, AreFoundAcrossThePiecesThatTheSearchReads) {
+  drawingWith(bitmapOf(picture()))->writeFile(path());
+  const QByteArray bytes = read();
+  const qsizetype at = bytes.indexOf("THUMBNAILIMAGE");
+  QByteArray comment;
+  while (comment.size() < (1 << 20) - at - 7 - 6) comment += "999\nx\n";
+  write(comment + bytes);
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+}
+
+TEST_F(StoredPreviews, OfSixteenColorsAndWithAlphaAreReadToo) {
+  const QImage few = picture().convertToFormat(QImage::Format_Indexed8);
+  EXPECT_EQ(pictureOfPreview(bitmapOf(few)).size(), QSize(40, 20));
+  QByteArray png;
+  QBuffer buffer(&png);
+  buffer.open(QIODevice::WriteOnly);
+  picture().save(&buffer, "PNG");
+  EXPECT_EQ(pictureOfPreview(png).size(), QSize(40, 20));
+}
+
+TEST_F(StoredPreviews, AreNothingWhereThereIsNoPicture) {
+  EXPECT_TRUE(readStoredPreview(path()).isNull());
+  EXPECT_TRUE(readStoredPreview(odpath::fromPlatform(m_folder.path())).isNull());
+  OdDbDatabase::createDatabase()->writeFile(path());
+  EXPECT_TRUE(readStoredPreview(path()).isNull());
+  const QByteArray bitmap = bitmapOf(picture());
+  for (const qsizetype length : {qsizetype{0}, qsizetype{3}, qsizetype{39}, qsizetype{60}}) {
+    drawingWith(bitmap.left(length))->writeFile(path());
+    readStoredPreview(path()); // whatever it gives, it ends
+  }
+  drawingWith(QByteArray(4000, '\xFF'))->writeFile(path());
+  EXPECT_TRUE(readStoredPreview(path()).isNull());
+  drawingWith(bitmap)->writeFile(path());
+  const QByteArray whole = read();
+  write(whole.left(whole.indexOf("THUMBNAILIMAGE") + 20));
+  EXPECT_TRUE(readStoredPreview(path()).isNull());
+}
+
+TEST_F(StoredPreviews, KeepTheirProportionsInASquare) {
+  drawingWith(bitmapOf(picture()))->writeFile(path());
+  const auto service = kvMake<PreviewService>([](const OdString&) { return std::nullopt; });
+  const QImage square = service->storedPreview(path(), 32);
+  ASSERT_EQ(square.size(), QSize(32, 32));
+  EXPECT_EQ(qAlpha(square.pixel(16, 2)), 0);
+  EXPECT_EQ(qAlpha(square.pixel(16, 16)), 255);
+}
