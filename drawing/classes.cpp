@@ -74,9 +74,11 @@ CLASS(OdDbLinetypeTableRecord, OdDbSymbolTableRecord);
 CLASS(OdDbTextStyleTableRecord, OdDbSymbolTableRecord);
 CLASS(OdDbDimStyleTableRecord, OdDbSymbolTableRecord);
 CLASS(OdDbBlockTableRecord, OdDbSymbolTableRecord);
-CLASS(OdDbViewTableRecord, OdDbSymbolTableRecord);
-CLASS(OdDbViewportTableRecord, OdDbSymbolTableRecord);
-CLASS(OdDbUCSTableRecord, OdDbSymbolTableRecord);
+CLASS(OdDbKeptRecord, OdDbSymbolTableRecord);
+CLASS(OdDbAbstractViewTableRecord, OdDbKeptRecord);
+CLASS(OdDbViewTableRecord, OdDbAbstractViewTableRecord);
+CLASS(OdDbViewportTableRecord, OdDbAbstractViewTableRecord);
+CLASS(OdDbUCSTableRecord, OdDbKeptRecord);
 CLASS(OdDbRegAppTableRecord, OdDbSymbolTableRecord);
 CLASS(OdDbSymbolTable, OdDbObject);
 CLASS(OdDbLayerTable, OdDbSymbolTable);
@@ -116,11 +118,11 @@ const bool g_registered = [] {
          OdDbRasterImage, OdDbViewport, OdDbGroup, OdDbRasterImageDef, OdDbRasterImageDefReactor,
          OdDbPlotSettings, OdDbLayout, OdDbRawEntity, OdDbRawObject, OdDbDictionary,
          OdDbDictionaryVar, OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord,
-         OdDbTextStyleTableRecord, OdDbDimStyleTableRecord, OdDbBlockTableRecord,
-         OdDbViewTableRecord, OdDbViewportTableRecord, OdDbUCSTableRecord, OdDbRegAppTableRecord,
-         OdDbSymbolTable, OdDbLayerTable, OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable,
-         OdDbBlockTable, OdDbViewTable, OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable,
-         OdDbDatabase>();
+         OdDbTextStyleTableRecord, OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbKeptRecord,
+         OdDbAbstractViewTableRecord, OdDbViewTableRecord, OdDbViewportTableRecord,
+         OdDbUCSTableRecord, OdDbRegAppTableRecord, OdDbSymbolTable, OdDbLayerTable,
+         OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable, OdDbBlockTable, OdDbViewTable,
+         OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable, OdDbDatabase>();
   return true;
 }();
 

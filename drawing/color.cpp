@@ -92,6 +92,11 @@ std::uint16_t OdCmColor::colorIndex() const {
     return lookUpACI(red(), green(), blue());
   case kByACI:
     return blue();
+  case kForeground:
+    return kACIforeground;
+  case kByPen:
+  case kLayerOff:
+  case kLayerFrozen:
   case kNone:
     break;
   }

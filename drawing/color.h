@@ -17,6 +17,10 @@ class OdCmColor {
     kByBlock = 0xC1,
     kByColor = 0xC2, ///< red, green, blue
     kByACI = 0xC3,   ///< an index into the palette
+    kByPen = 0xC4,
+    kForeground = 0xC5, ///< what stands out against the ground
+    kLayerOff = 0xC6,
+    kLayerFrozen = 0xC7,
     kNone = 0xC8,
   };
   static constexpr std::uint16_t kACIbyBlock = 0;
@@ -42,6 +46,8 @@ class OdCmColor {
   bool isByBlock() const { return colorMethod() == kByBlock; }
   bool isByColor() const { return colorMethod() == kByColor; }
   bool isByACI() const { return colorMethod() == kByACI; }
+  bool isByPen() const { return colorMethod() == kByPen; }
+  bool isForeground() const { return colorMethod() == kForeground; }
   bool isNone() const { return colorMethod() == kNone; }
 
   /// Parts of the value as they stand; for an index see rgb().

@@ -9,6 +9,9 @@ constexpr double kFewestChords = 8, kMostChords = 4096;
 
 } // namespace
 
+void OdGiWorldDraw::endless(const OdGePoint3d&, const OdGeVector3d&, bool) {}
+void OdGiWorldDraw::setPieceLinetype(OdDbObjectId) {}
+
 void OdGiWorldDraw::arc(const OdGiArc& arc) {
   std::vector<OdGePoint3d> points;
   odgi::appendChords(arc, deviation(), points);

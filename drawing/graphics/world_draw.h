@@ -67,6 +67,9 @@ class OdGiWorldDraw {
   virtual void polyline(std::span<const OdGePoint3d> points, bool closed) = 0;
   /// A curve in the entity's line type. As it stands, chords of it are given to polyline().
   virtual void arc(const OdGiArc& arc);
+  /// A line without end from `origin` along `direction`, in the entity's line type; to the other
+  /// side too if `bothWays`. As it stands nothing: it has no box.
+  virtual void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays);
   /// An area in the entity's colour.
   virtual void area(const OdGiRings& rings) = 0;
   virtual void gradient(const OdGiRings& rings, const OdGiGradient& gradient) = 0;
@@ -84,6 +87,9 @@ class OdGiWorldDraw {
   /// The colour of the pieces that follow; nothing gives the entity's own again.
   /// OdCmColor::kNone is that of the ground on which the drawing is shown.
   virtual void setPieceColor(const std::optional<OdCmColor>& color) = 0;
+  /// The line type of the pieces that follow; a null id gives the entity's own again. As it stands
+  /// nothing.
+  virtual void setPieceLinetype(OdDbObjectId linetype);
 };
 
 namespace odgi {

@@ -20,11 +20,6 @@ OdRxObjectPtr OdDbRawEntity::clone() const {
                 QStringLiteral("Objects of class %1 cannot be copied").arg(QLatin1String(m_name)));
 }
 
-bool OdDbRawEntity::getGeomExtents(OdGeExtents3d& extents) const {
-  extents = {};
-  return false;
-}
-
 bool OdDbRawEntity::transformBy(const OdGeMatrix3d&) { return false; }
 
 void OdDbRawEntity::dxfOutFollowers(OdDbDxfOut& out) const {

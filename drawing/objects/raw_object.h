@@ -44,8 +44,10 @@ class OdDbRawEntity : public OdDbEntity {
   void addFollower(OdDbEntity& follower) override { m_followers.push_back(follower.objectId()); }
   void dxfOutFollowers(OdDbDxfOut& out) const override;
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
-  /// Unknown: false.
-  bool getGeomExtents(OdGeExtents3d& extents) const override;
+  /// Shows the block or the graphic that the file has of it; nothing without either.
+  void worldDraw(OdGiWorldDraw& draw) const override;
+  /// None: null.
+  OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
   /// Not possible: false.
   bool transformBy(const OdGeMatrix3d& transform) override;
 

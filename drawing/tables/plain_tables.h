@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/tables/symbol_table.h"
+#include "drawing/tables/view_table.h"
 
 /// Declares a record of which the name and the flags are understood.
 #define ODDB_PLAIN_RECORD(Class, DXF_NAME, SUBCLASS)                                               \
@@ -16,13 +17,7 @@
     OdDbObjectPtr newInstance() const override { return odrxMake<Class>(); }                       \
   }
 
-/// A saved view.
-ODDB_PLAIN_RECORD(OdDbViewTableRecord, "VIEW", "AcDbViewTableRecord");
-/// A user coordinate system.
-ODDB_PLAIN_RECORD(OdDbUCSTableRecord, "UCS", "AcDbUCSTableRecord");
 /// An application that keeps extended data in the drawing.
 ODDB_PLAIN_RECORD(OdDbRegAppTableRecord, "APPID", "AcDbRegAppTableRecord");
 
-ODDB_TABLE(OdDbViewTable, OdDbViewTableRecord, "VIEW");
-ODDB_TABLE(OdDbUCSTable, OdDbUCSTableRecord, "UCS");
 ODDB_TABLE(OdDbRegAppTable, OdDbRegAppTableRecord, "APPID");

@@ -195,6 +195,12 @@ TEST(Color, MethodIsTheHighByteAndPartsFollow) {
 }
 
 TEST(Color, IndicesStandForMethodsToo) {
+  EXPECT_TRUE(OdCmColor(OdCmColor::kByPen).isByPen());
+  EXPECT_EQ(OdCmColor(OdCmColor::kByPen).color(), 0xC4000000u);
+  EXPECT_EQ(OdCmColor(OdCmColor::kByPen).colorIndex(), OdCmColor::kACInone);
+  EXPECT_TRUE(OdCmColor(OdCmColor::kForeground).isForeground());
+  EXPECT_EQ(OdCmColor(OdCmColor::kForeground).color(), 0xC5000000u);
+  EXPECT_EQ(OdCmColor(OdCmColor::kForeground).colorIndex(), OdCmColor::kACIforeground);
   for (int i = 0; i <= 257; ++i) EXPECT_EQ(OdCmColor::fromColorIndex(i).colorIndex(), i);
   EXPECT_TRUE(OdCmColor::fromColorIndex(0).isByBlock());
   EXPECT_TRUE(OdCmColor::fromColorIndex(256).isByLayer());

@@ -17,17 +17,27 @@ class Recorder : public OdGiWorldDraw {
   };
   std::vector<Line> lines;
   std::vector<OdGiArc> arcs;
+  struct Endless {
+    OdGePoint3d origin;
+    OdGeVector3d direction;
+    bool bothWays;
+  };
+  std::vector<Endless> endlessLines;
   std::vector<OdGiRings> areas;
   std::vector<OdGiTextRun> texts;
   std::vector<OdGePoint3d> points;
   std::vector<std::pair<OdDbObjectId, OdGeMatrix3d>> blocks;
   std::vector<std::optional<OdCmColor>> colors;
+  std::vector<OdDbObjectId> linetypes;
 
   double deviation() const override { return m_deviation; }
   void polyline(std::span<const OdGePoint3d> line, bool closed) override {
     lines.push_back({{line.begin(), line.end()}, closed});
   }
   void arc(const OdGiArc& arc) override { arcs.push_back(arc); }
+  void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays) override {
+    endlessLines.push_back({origin, direction, bothWays});
+  }
   void area(const OdGiRings& rings) override { areas.push_back(rings); }
   void gradient(const OdGiRings& rings, const OdGiGradient&) override { areas.push_back(rings); }
   void strokes(std::span<const OdGePoint3d>) override {}
@@ -41,6 +51,7 @@ class Recorder : public OdGiWorldDraw {
   void image(const OdDbRasterImage&) override {}
   void viewport(const OdDbViewport&) override {}
   void setPieceColor(const std::optional<OdCmColor>& color) override { colors.push_back(color); }
+  void setPieceLinetype(OdDbObjectId linetype) override { linetypes.push_back(linetype); }
 
  private:
   double m_deviation;

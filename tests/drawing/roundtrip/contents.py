@@ -144,6 +144,37 @@ def make_layouts(doc, version):
     cut.dxf.flags = 0x10000
 
 
+# What the parts of the window and saved views have in common.
+LOOK = {"direction": (0, -0.6, 0.8), "target": (1, 2, 3), "height": 33, "focal_length": 35,
+        "front_clipping": 5.5, "back_clipping": -6.5, "view_twist": 12.5, "view_mode": 17}
+LOOK_SINCE_R2000 = {"render_mode": 2, "ucs_origin": (4, 5, 6), "ucs_xaxis": (0, 1, 0),
+                    "ucs_yaxis": (-1, 0, 0), "ucs_ortho_type": 3, "elevation": 7.5}
+
+
+def make_views(doc, ucs, version):
+    view = doc.views.new("Front", dxfattribs=dict(LOOK, center=(4, 5), width=44))
+    doc.views.new("Sheet", dxfattribs={"flags": 1, "center": (100, 80), "height": 20})
+    port = doc.viewports.new("Three", dxfattribs=dict(
+        LOOK, center=(7, 8), lower_left=(0.25, 0.5), upper_right=(0.75, 1), snap_base=(1, 2),
+        snap_spacing=(0.5, 0.25), grid_spacing=(5, 6), aspect_ratio=1.75, snap_rotation=15,
+        circle_sides=200, fast_zoom=0, ucs_icon=1, snap_on=1, grid_on=1, snap_style=1,
+        snap_isopair=2))
+    if version == "R12":
+        return
+    for one in (view, port):
+        one.update_dxf_attribs(LOOK_SINCE_R2000)
+        one.dxf.ucs_handle = ucs.dxf.handle
+    view.dxf.ucs = 1
+    port.dxf.ucs_vp = 1
+    port.dxf.unknown1 = 3
+    if version >= "R2007":
+        view.dxf.camera_plottable = 1
+        port.update_dxf_attribs({
+            "plot_style_sheet": "mono.ctb", "shade_plot_setting": 2, "major_grid_lines": 7,
+            "default_lighting_on": 0, "default_lighting_type": 0, "brightness": 0.5,
+            "contrast": 0.25, "ambient_color_aci": 5, "ambient_true_color": 0x102030})
+
+
 def make_tables(doc, version):
     doc.layers.add("Things", color=5, linetype="DASHED", lineweight=35, true_color=0x102030,
                    plot=False)
@@ -164,12 +195,9 @@ def make_tables(doc, version):
     style.dxf.flags = 4
     style.dxf.generation_flags = 6
     doc.styles.add("Bold", font="arialbd.ttf").set_extended_font_data("Arial", bold=True, italic=True)
-    doc.ucs.new("Turned", dxfattribs={"origin": (1, 2, 3), "xaxis": (0, 1, 0), "yaxis": (-1, 0, 0)})
-    view = doc.views.new("Front")
-    view.dxf.center = (4, 5)
-    view.dxf.height = 33
-    view.dxf.width = 44
-    view.dxf.direction = (0, -1, 0)
+    ucs = doc.ucs.new("Turned", dxfattribs={"origin": (1, 2, 3), "xaxis": (0, 1, 0),
+                                            "yaxis": (-1, 0, 0)})
+    make_views(doc, ucs, version)
     doc.appids.add("DRAFTON_TEST")
     doc.layers.add("VIEWPORTS")
 
