@@ -150,8 +150,10 @@ void OdDbDxfOut::real(int groupCode, double value) {
   if (!std::isfinite(value))
     throw OdError(eInvalidInput,
                   QStringLiteral("A number under group code %1 is not finite").arg(groupCode));
-  char digits[oddxf::kRealDigits];
-  raw(groupCode, oddxf::realText(digits, value));
+  code(groupCode);
+  ensureRoom();
+  m_at = oddxf::putReal(m_at, value);
+  *m_at++ = '\n';
 }
 
 void OdDbDxfOut::angle(int groupCode, double radians) {

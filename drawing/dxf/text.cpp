@@ -143,7 +143,7 @@ constexpr auto kDigitPairs = [] {
 }();
 
 /// Writes the digits so that they end at `end`; gives where they begin.
-char* digitsBefore(char* end, std::uint64_t value) {
+char* digitsBefore(char* end, std::uint32_t value) {
   while (value >= 100) {
     end -= 2;
     std::memcpy(end, &kDigitPairs[2 * (value % 100)], 2);
@@ -158,40 +158,48 @@ char* digitsBefore(char* end, std::uint64_t value) {
   return end;
 }
 
-/// The text of a number with at most six decimals, which most have; empty for others. The quotient
-/// of two numbers that are exact is what a reader gets from these digits.
-std::string_view shortText(char (&buffer)[oddxf::kRealDigits], double value) {
+/// Writes a number with at most six decimals, which most have; null for others. The quotient of two
+/// numbers that are exact is what a reader gets from these digits.
+char* putShort(char* to, double value) {
   constexpr double kLargest = 1e9;
   constexpr double kMillion = 1e6;
   const double size = std::abs(value);
-  if (!(size < kLargest) || (size == 0 && std::signbit(value))) return {};
+  if (!(size < kLargest) || (size == 0 && std::signbit(value))) return nullptr;
   const auto millionths = static_cast<std::uint64_t>(size * kMillion + 0.5);
-  if (static_cast<double>(millionths) / kMillion != size) return {};
-  std::uint64_t whole = millionths / 1'000'000;
+  if (static_cast<double>(millionths) / kMillion != size) return nullptr;
+  const auto whole = static_cast<std::uint32_t>(millionths / 1'000'000);
   auto rest = static_cast<std::uint32_t>(millionths % 1'000'000);
-  char* const point = buffer + 16;
-  char* end = point + 7;
+  // The whole part has up to nine digits.
+  char digits[32];
+  char* const point = digits + 10;
   *point = '.';
-  for (int i = 6; i > 0; i -= 2) {
-    std::memcpy(point + i - 1, &kDigitPairs[2 * (rest % 100)], 2);
+  for (int i = 5; i > 0; i -= 2) {
+    std::memcpy(point + i, &kDigitPairs[2 * (rest % 100)], 2);
     rest /= 100;
   }
+  char* end = point + 7;
   while (end[-1] == '0' && end > point + 2) --end;
   char* begin = digitsBefore(point, whole);
   if (value < 0) *--begin = '-';
-  return {begin, static_cast<std::size_t>(end - begin)};
+  // A fixed number of bytes is copied faster than the right one.
+  std::memcpy(to, begin, 17);
+  return to + (end - begin);
 }
 
 } // namespace
 
-std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
-  if (const std::string_view text = shortText(buffer, value); !text.empty()) return text;
-  auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer - 2, value);
-  if (std::none_of(buffer, end, [](char c) { return c == '.' || c == 'e'; })) {
+char* oddxf::putReal(char* to, double value) {
+  if (char* const end = putShort(to, value)) return end;
+  auto [end, error] = std::to_chars(to, to + kRealDigits - 2, value);
+  if (std::none_of(to, end, [](char c) { return c == '.' || c == 'e'; })) {
     *end++ = '.';
     *end++ = '0';
   }
-  return {buffer, static_cast<std::size_t>(end - buffer)};
+  return end;
+}
+
+std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
+  return {buffer, static_cast<std::size_t>(putReal(buffer, value) - buffer)};
 }
 
 void oddxf::addCode(QByteArray& lines, int code) {

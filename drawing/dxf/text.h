@@ -26,6 +26,8 @@ void addLines(QByteArray& lines, int code, std::string_view value);
 /// exponent. The text stands in `buffer`.
 constexpr std::size_t kRealDigits = 40;
 std::string_view realText(char (&buffer)[kRealDigits], double value);
+/// The same at `to`, where as many have to fit; gives the end.
+char* putReal(char* to, double value);
 /// Adds the line of a group code.
 void addCode(QByteArray& lines, int code);
 
