@@ -1,4 +1,5 @@
-// The commands that menus show.
+// The commands that menus show: all of Drafton's own, but for second names of the same and those
+// that modules run.
 #pragma once
 
 #include "host/command_menu.h"

@@ -1,5 +1,6 @@
 #include "drafton/engine/host_services.h"
 
+#include "drafton/engine/command_menu.h"
 #include "engine/support/engine_fixture.h"
 #include "frame/dynamic_library.h"
 #include "frame/file_path.h"
@@ -101,6 +102,20 @@ TEST_F(HostServicesTest, EveryCommandOfTheMenuIsThere) {
   }
   EXPECT_FALSE(menu->entry(-1).isCommand);
   EXPECT_FALSE(menu->entry(menu->count()).isCommand);
+}
+
+TEST_F(HostServicesTest, TheMenuHasEachCommandOnce) {
+  // What other rows do as well, and what is typed by modules only.
+  const QStringList others = {QStringLiteral("U"), QStringLiteral("InsertBlock"),
+                              QStringLiteral("FASTHATCHCMD"), QStringLiteral("FASTGRADIENTCMD")};
+  QStringList wanted, shown;
+  for (const OdString& name : engine().commands().namesIn(QStringLiteral("DRAFTON")))
+    if (!name.startsWith(u'-') && !others.contains(name)) wanted << name;
+  for (const drafton::MenuRow& row : drafton::commandMenu())
+    shown << OdString::fromUtf16(row.command);
+  wanted.sort();
+  shown.sort();
+  EXPECT_EQ(shown.join(u' ').toStdString(), wanted.join(u' ').toStdString());
 }
 
 TEST_F(HostServicesTest, ATickedMessageIsNotShownAgain) {
