@@ -7,9 +7,11 @@ class IHostDocument;
 
 namespace tc {
 
+class OdTcImage;
 class OdTcProperty;
 class OdTcPropertyBag;
 class OdTcPropertyFilter;
+class OdTcSourceDrawings;
 class OdTcTool;
 
 /// Decides how a tool runs. The element name of the agent inside a tool's `Data` says its kind.
@@ -37,6 +39,11 @@ class OdTcToolActionAgent : public OdTcPersist {
   /// Makes the pictures of the tool anew where imported ones are useless; false if nothing was
   /// done.
   virtual bool refreshImages(IHostDocument* document) = 0;
+  /// Makes the picture of what the tool acts on in the size of `image`, which knows its palette.
+  /// False, with nothing changed, if the kind has none or none comes of it.
+  virtual bool makePicture(OdTcImage& /*image*/, OdTcSourceDrawings& /*drawings*/) const {
+    return false;
+  }
   /// Takes from the host what the agent shows of it.
   virtual void updateFromHost() = 0;
   /// The stored path of the file that the tool brings in; empty if there is none.

@@ -23,6 +23,7 @@ class OdTcToolRasterCommandImpl final : public OdTcToolActionAgentImplBase<OdTcT
   bool execute(IHostDocument* document) override;
 
   void writeProperties(OdTcFiler* filer) override;
+  bool makePicture(OdTcImage& image, OdTcSourceDrawings& drawings) const override;
   OdString sourcePath() const override { return m_fields.sourceFile; }
   void setSourcePath(const OdString& path) override { m_fields.sourceFile = path; }
   bool readProperty(const OdString& name, const OdVariant& value) override;

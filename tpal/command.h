@@ -29,6 +29,8 @@ struct Arguments {
   bool json = false;            ///< --json
   bool dryRun = false;          ///< --dry-run
   bool convertCommands = false; ///< --convert-commands
+  bool missing = false;         ///< --missing
+  bool rebuild = false;         ///< --rebuild
 };
 
 /// Where a command writes.
@@ -53,6 +55,7 @@ ExitCode listCommand(const Arguments& arguments, Console& console);
 ExitCode checkCommand(const Arguments& arguments, Console& console);
 ExitCode resaveCommand(const Arguments& arguments, Console& console);
 ExitCode importCommand(const Arguments& arguments, Console& console);
+ExitCode imagesCommand(const Arguments& arguments, Console& console);
 ExitCode exportCommand(const Arguments& arguments, Console& console);
 
 /// Runs the tool with its arguments (without the program's name).

@@ -3,6 +3,7 @@
 
 #include "host/application.h"
 #include "host/messages.h"
+#include "host/preview_service.h"
 #include "host/services.h"
 #include "tpal/command_routes.h"
 
@@ -18,6 +19,11 @@ class ConsoleHost {
   QStringList takeMessages();
   /// The `ToolPaletteDir` setting, which the macro for the samples folder expands to.
   void setToolPaletteFolders(const QStringList& folders);
+
+  /// Makes the pictures of tools; null for none.
+  void setPreviews(KVPtr<IHostPreviewService> previews) {
+    m_services.previews = std::move(previews);
+  }
 
   IHostServices* services() { return &m_services; }
   IHostApplication* application() { return &m_application; }
@@ -50,6 +56,7 @@ class ConsoleHost {
     IHostDocumentManager* documentManager() override { return nullptr; }
     IHostEditorEvents* editorEvents() override { return nullptr; }
     HostEdCompletion::Registry* completionRegistry() override { return nullptr; }
+    KVPtr<IHostPreviewService> previews;
 
    private:
     Messages* m_messages;

@@ -1,12 +1,46 @@
 // The catalog manager's tool.
+#include "drafton/previews/preview_service.h"
+#include "drawing/patterns/pattern_file.h"
+#include "frame/error.h"
+#include "frame/file_path.h"
 #include "tpal/command.h"
+#include "tpal/console_host.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <cstdio>
 
+namespace {
+
+/// A pattern of the file beside the program, which is read when the first one is asked for.
+class Patterns {
+ public:
+  std::optional<OdHatchPattern> operator()(const OdString& name) {
+    if (!m_file) m_file = read();
+    const OdHatchPattern* const found = m_file->find(name);
+    return found ? std::optional(*found) : std::nullopt;
+  }
+
+ private:
+  static OdHatchPatternFile read() {
+    const QString path = QCoreApplication::applicationDirPath() + QLatin1String("/draftoniso.pat");
+    try {
+      return OdHatchPatternFile::read(odpath::fromPlatform(path));
+    } catch (const OdFileError&) {
+      return {}; // without the file there are no patterns to show
+    }
+  }
+  std::optional<OdHatchPatternFile> m_file;
+};
+
+} // namespace
+
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
+  // Pictures need fonts, but no display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  drafton::PreviewService::installFonts();
+  tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
   QTextStream out(stdout);
   QTextStream err(stderr);
   tpal::Console console{out, err};

@@ -29,6 +29,9 @@ constexpr Command kCommands[] = {
     {"export", "export DIR PALETTE FILE.xtp [--json]",
      "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
      "", 3, 3, exportCommand},
+    {"images", "images DIR [--missing | --rebuild] [--json]",
+     "Says which tools lack a picture at which size; makes those that are missing, or all anew.",
+     "--missing --rebuild ", 1, 1, imagesCommand},
 };
 
 void printHelp(QTextStream& out) {
@@ -45,6 +48,8 @@ void printHelp(QTextStream& out) {
          "  --dry-run    only looks and reports\n"
          "  --map OLD=NEW  drawings below the folder OLD are looked for below NEW from now on\n"
          "  --convert-commands  makes command tools of other products' tools that are but a macro\n"
+         "  --missing    makes the pictures that are missing\n"
+         "  --rebuild    makes all pictures anew\n"
          "  --help       this text\n"
          "  --version    the version\n\n"
          "Exit codes: 0 all is well; 1 something was found or left out; 2 wrong usage;\n"
@@ -87,6 +92,8 @@ constexpr Option kOptions[] = {
     {"--dry-run", nullptr, takeSwitch<&Arguments::dryRun>},
     {"--map", "OLD=NEW", takeMap},
     {"--convert-commands", nullptr, takeSwitch<&Arguments::convertCommands>},
+    {"--missing", nullptr, takeSwitch<&Arguments::missing>},
+    {"--rebuild", nullptr, takeSwitch<&Arguments::rebuild>},
 };
 
 const Option* findOption(const Command& command, const OdString& word) {

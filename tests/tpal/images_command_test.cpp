@@ -1,0 +1,216 @@
+#include "drawing/database.h"
+#include "drawing/entities/circle.h"
+#include "frame/file_path.h"
+#include "tpal/console_host.h"
+#include "tpal/tool_fixture.h"
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// Makes pictures of one colour, and says what was asked for.
+class PlainPreviews : public CKVUnknownImpl<IHostPreviewService> {
+ public:
+  QImage renderObjects(std::span<const OdDbObjectId>, const OdGeExtents3d&, int pixels) override {
+    ++objects;
+    return plain(pixels);
+  }
+  QImage renderPattern(const OdString&, int pixels) override { return plain(pixels); }
+  QImage storedPreview(const OdString&, int) override { return {}; }
+  QImage fileIcon(const OdString&, int pixels) override { return plain(pixels); }
+
+  int objects = 0;
+
+ private:
+  static QImage plain(int pixels) {
+    QImage picture(pixels, pixels, QImage::Format_ARGB32);
+    picture.fill(qRgb(0, 100, 0));
+    return picture;
+  }
+};
+
+class Images : public ToolFixture {
+ protected:
+  Images() { tpal::ConsoleHost::instance().setPreviews(previews.get()); }
+  ~Images() override { tpal::ConsoleHost::instance().setPreviews(nullptr); }
+
+  QByteArray blockTool(const QByteArray& id, const QByteArray& block, const QByteArray& source) {
+    return tool(id, block,
+                "<Block><BlockType>1</BlockType><BlockName>" + block + "</BlockName><SourceFile>" +
+                    source + "</SourceFile></Block>");
+  }
+  /// A drawing with the block "Door"; its stored path.
+  QByteArray writeSource() {
+    const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+    const auto block = odrxMake<OdDbBlockTableRecord>();
+    block->setName(QStringLiteral("Door"));
+    drawing->getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite)->add(block);
+    block->appendOdDbEntity(odrxMake<OdDbCircle>(OdGePoint3d{0, 0, 0}, OdGeVector3d::zAxis(), 5.0));
+    const OdString stored = odpath::fromPlatform(path(QStringLiteral("doors.dxf")));
+    drawing->writeFile(stored);
+    return stored.toUtf8();
+  }
+  int images(const QStringList& options = {}) {
+    return run(QStringList{QStringLiteral("images"), path(QStringLiteral("c"))} + options);
+  }
+  QStringList pictures() const {
+    return QDir(path(QStringLiteral("c/Palettes/Images"))).entryList(QDir::Files, QDir::Name);
+  }
+
+  KVPtr<PlainPreviews> previews = kvMake<PlainPreviews>();
+};
+
+const QString kMissing = QStringLiteral("--missing"), kRebuild = QStringLiteral("--rebuild");
+
+TEST_F(Images, AreNamedWhereTheyAreMissing) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  const QByteArray before = read(QStringLiteral("c/Palettes/p.dtc"));
+  EXPECT_EQ(images(), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("P: Door (block): lacks 16, 32, 64")))
+      << qPrintable(out());
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/p.dtc")), before);
+  EXPECT_TRUE(pictures().isEmpty());
+}
+
+TEST_F(Images, AreMadeWhereTheyAreMissing) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  EXPECT_EQ(images({kMissing}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(pictures(), (QStringList{QStringLiteral("Door16.png"), QStringLiteral("Door32.png"),
+                                     QStringLiteral("Door64.png")}));
+  EXPECT_EQ(images(), tpal::kOk);
+  EXPECT_TRUE(out().isEmpty()) << qPrintable(out());
+}
+
+TEST_F(Images, ThatAreThereStayWhenOthersAreMade) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  images({kMissing});
+  QFile::remove(path(QStringLiteral("c/Palettes/Images/Door32.png")));
+  const QByteArray large = read(QStringLiteral("c/Palettes/Images/Door64.png"));
+  previews->objects = 0;
+  EXPECT_EQ(images({kMissing}), tpal::kOk);
+  EXPECT_TRUE(out().contains(QStringLiteral("made 32"))) << qPrintable(out());
+  EXPECT_EQ(previews->objects, 1);
+  EXPECT_EQ(pictures().size(), 3);
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/Images/Door64.png")), large);
+}
+
+TEST_F(Images, ThatCannotBeReadCountAsMissing) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  images({kMissing});
+  write(QStringLiteral("c/Palettes/Images/Door64.png"), "no picture");
+  EXPECT_EQ(images(), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("lacks 64"))) << qPrintable(out());
+}
+
+TEST_F(Images, AreAllMadeAnewInTheirFilesOnDemand) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  images({kMissing});
+  QImage old(64, 64, QImage::Format_RGB32);
+  old.fill(Qt::red);
+  old.save(path(QStringLiteral("c/Palettes/Images/Door64.png")));
+  EXPECT_EQ(images({kRebuild}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_TRUE(out().contains(QStringLiteral("made 16, 32, 64"))) << qPrintable(out());
+  ASSERT_EQ(pictures().size(), 3);
+  for (const QString& name : pictures())
+    EXPECT_EQ(QImage(path(QStringLiteral("c/Palettes/Images/") + name)).pixel(0, 0),
+              qRgb(0, 100, 0));
+  EXPECT_EQ(images(), tpal::kOk);
+}
+
+TEST_F(Images, StayWhenNothingCanBeMadeOfTheSource) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  images({kMissing});
+  QFile::remove(path(QStringLiteral("doors.dxf")));
+  EXPECT_EQ(images({kRebuild}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(pictures().size(), 3);
+  EXPECT_EQ(images(), tpal::kOk);
+}
+
+TEST_F(Images, ThatCannotBeMadeAreNamedWithTheReason) {
+  writeCatalog(blockTool("{1}", "Gone", "C:\\no\\such.dxf") +
+               blockTool("{2}", "Absent", writeSource()) +
+               tool("{3}", "Macro", "<Command><CommandString>LINE </CommandString></Command>"));
+  EXPECT_EQ(images({kMissing, QStringLiteral("--json")}), tpal::kFindings);
+  const QJsonArray rows = QJsonDocument::fromJson(out().toUtf8()).array();
+  ASSERT_EQ(rows.size(), 3);
+  const auto reason = [&](int i) {
+    return rows[i].toObject()[QStringLiteral("reason")].toString();
+  };
+  EXPECT_TRUE(reason(0).contains(QStringLiteral("such.dxf"))) << qPrintable(reason(0));
+  EXPECT_TRUE(reason(1).contains(QStringLiteral("doors.dxf"))) << qPrintable(reason(1));
+  EXPECT_EQ(reason(2), QStringLiteral("there is nothing to make a picture of"));
+  EXPECT_EQ(rows[0].toObject()[QStringLiteral("missing")].toArray().size(), 3);
+}
+
+TEST_F(Images, OfToolsFromOneSourceReadItOnce) {
+  const QByteArray source = writeSource();
+  QByteArray tools;
+  for (int i = 0; i < 20; ++i)
+    tools += blockTool("{" + QByteArray::number(i) + "}", "Door", source);
+  writeCatalog(tools);
+  EXPECT_EQ(images({kMissing}), tpal::kOk);
+  EXPECT_EQ(pictures().size(), 60);
+}
+
+TEST_F(Images, OfHatchesAndPicturesAreMadeOfThemselves) {
+  QImage photo(100, 50, QImage::Format_RGB32);
+  photo.fill(Qt::blue);
+  photo.save(path(QStringLiteral("photo.png")));
+  writeCatalog(tool("{1}", "Bricks",
+                    "<Hatch><HatchType>1</HatchType><PatternName>BRICK</PatternName></Hatch>") +
+               tool("{2}", "Photo",
+                    "<Raster><SourceFile>" +
+                        odpath::fromPlatform(path(QStringLiteral("photo.png"))).toUtf8() +
+                        "</SourceFile></Raster>") +
+               tool("{3}", "Plan",
+                    "<Block><BlockType>2</BlockType><SourceFile>" + writeSource() +
+                        "</SourceFile></Block>"));
+  EXPECT_EQ(images({kMissing}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(pictures().size(), 9);
+}
+
+TEST_F(Images, AreNotMadeAndRebuiltAtOnce) {
+  writeCatalog({});
+  EXPECT_EQ(images({kMissing, kRebuild}), tpal::kUsage);
+}
+
+TEST_F(Images, ThatCannotBeWrittenAreNamed) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  write(QStringLiteral("c/Palettes/Images"), "a file where the folder should be");
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("cannot be written"))) << qPrintable(out() + err());
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/Images")), "a file where the folder should be");
+}
+
+TEST_F(Images, OfTwoBlocksOfOneNameAreTwo) {
+  const QByteArray source = writeSource();
+  ASSERT_TRUE(QFile::copy(path(QStringLiteral("doors.dxf")), path(QStringLiteral("other.dxf"))));
+  QByteArray other = source;
+  other.replace("doors.dxf", "other.dxf");
+  writeCatalog(blockTool("{1}", "Door", source) + blockTool("{2}", "Door", other));
+  EXPECT_EQ(images({kMissing}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(pictures().size(), 6);
+}
+
+TEST_F(Images, ThatOthersShowAsWellStayWhenOneIsMadeAnew) {
+  const QByteArray pictures16 =
+      "<Images><Image cx=\"16\" cy=\"16\" src=\"\\Images\\shared.png\"/></Images>";
+  QByteArray lost = blockTool("{2}", "Lost", "C:\\no\\such.dxf");
+  QByteArray door = blockTool("{1}", "Door", writeSource());
+  for (QByteArray* const each : {&lost, &door})
+    each->replace("</ItemName>", "</ItemName>" + pictures16);
+  writeCatalog(door + lost);
+  QImage shared(16, 16, QImage::Format_RGB32);
+  shared.fill(Qt::red);
+  QDir().mkpath(path(QStringLiteral("c/Palettes/Images")));
+  ASSERT_TRUE(shared.save(path(QStringLiteral("c/Palettes/Images/shared.png"))));
+  images({kRebuild});
+  EXPECT_EQ(QImage(path(QStringLiteral("c/Palettes/Images/shared.png"))).pixel(0, 0),
+            qRgb(255, 0, 0));
+  EXPECT_TRUE(pictures().contains(QStringLiteral("Door16.png")));
+}
+
+} // namespace
