@@ -26,8 +26,13 @@ OdDbDatabase* OdTcSourceDrawings::open(const OdString& path) {
       m_entries.back().problem = error.description();
     }
   }
-  m_problem = m_entries.back().problem;
   return m_entries.back().drawing.get();
+}
+
+OdString OdTcSourceDrawings::problemOf(const OdString& path) const {
+  for (const Entry& entry : m_entries)
+    if (entry.path == path) return entry.problem;
+  return {};
 }
 
 } // namespace tc

@@ -11,11 +11,10 @@ namespace tc {
 /// often share a source, which is then read once. Only the last few stay in memory.
 class OdTcSourceDrawings {
  public:
-  /// The drawing of a stored path, borrowed until the next call; null if it cannot be read, and
-  /// problem() then says why. A file that failed is not tried again.
+  /// The drawing of a stored path, borrowed until the next call; null if it cannot be read.
   OdDbDatabase* open(const OdString& path);
-  /// Why the last call gave nothing; empty if it did not.
-  const OdString& problem() const { return m_problem; }
+  /// Why the drawing that was asked for not long ago cannot be read; empty otherwise.
+  OdString problemOf(const OdString& path) const;
 
  private:
   struct Entry {
@@ -24,7 +23,6 @@ class OdTcSourceDrawings {
     OdString problem;
   };
   std::vector<Entry> m_entries; ///< the last one used is the last
-  OdString m_problem;
 };
 
 } // namespace tc

@@ -116,8 +116,8 @@ class PictureMaker {
     return isThere(list.findBySize(codeOf(size))) ? tc::OdTcImagePtr() : scaled(list, size);
   }
   OdString whyNot(const tc::OdTcToolActionAgent* agent) const {
-    if (!m_sources.problem().isEmpty()) return m_sources.problem();
     const OdString source = agent ? agent->sourcePath() : OdString();
+    if (const OdString problem = m_sources.problemOf(source); !problem.isEmpty()) return problem;
     return source.isEmpty() ? QStringLiteral("there is nothing to make a picture of")
                             : QStringLiteral("no picture comes of %1").arg(source);
   }

@@ -1,12 +1,11 @@
 // The catalog manager's tool.
+#include "drafton/previews/offscreen_application.h"
 #include "drafton/previews/preview_service.h"
 #include "drawing/patterns/pattern_file.h"
 #include "frame/error.h"
 #include "frame/file_path.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
-
-#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -36,10 +35,7 @@ class Patterns {
 } // namespace
 
 int main(int argc, char** argv) {
-  // Pictures need fonts, but no display.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  drafton::PreviewService::installFonts();
+  const drafton::OffscreenApplication application(argc, argv);
   tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
   QTextStream out(stdout);
   QTextStream err(stderr);

@@ -5,7 +5,6 @@
 #include "drafton/previews/picture_tones.h"
 #include "drafton/previews/sheet_icon.h"
 #include "drafton/previews/stored_preview.h"
-#include "drafton/render/text_shapes.h"
 #include "frame/file_path.h"
 
 namespace drafton {
@@ -20,8 +19,6 @@ constexpr QStringView kSolid = u"SOLID";
 bool isPossible(int pixels) { return pixels > 0 && pixels <= kLargest; }
 
 } // namespace
-
-void PreviewService::installFonts() { TextShapes::install(); }
 
 QImage PreviewService::renderObjects(std::span<const OdDbObjectId> objects,
                                      const OdGeExtents3d& view, int pixels) {

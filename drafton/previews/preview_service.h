@@ -16,9 +16,6 @@ class PreviewService : public CKVUnknownImpl<IHostPreviewService> {
   /// The pattern of a name, in any case; nothing if there is none.
   using PatternFinder = std::function<std::optional<OdHatchPattern>(const OdString& name)>;
 
-  /// Lets texts have the fonts of the system. Needs an application object; once in a program.
-  static void installFonts();
-
   explicit PreviewService(PatternFinder findPattern)
     : m_findPattern(std::move(findPattern)) {}
 
