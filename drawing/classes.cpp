@@ -6,6 +6,7 @@
 #include "drawing/entities/circle.h"
 #include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/face.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
@@ -18,6 +19,7 @@
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/entities/viewport.h"
+#include "drawing/entities/xline.h"
 #include "drawing/objects/group.h"
 #include "drawing/objects/image_def.h"
 #include "drawing/objects/layout.h"
@@ -40,6 +42,9 @@ CLASS(OdDbVertex, OdDbEntity);
 CLASS(OdDbPoint, OdDbEntity);
 CLASS(OdDbSolid, OdDbEntity);
 CLASS(OdDbTrace, OdDbSolid);
+CLASS(OdDbFace, OdDbEntity);
+CLASS(OdDbXline, OdDbEntity);
+CLASS(OdDbRay, OdDbXline);
 CLASS(OdDbMText, OdDbEntity);
 CLASS(OdDbText, OdDbEntity);
 CLASS(OdDbAttributeText, OdDbText);
@@ -111,18 +116,19 @@ void addAll() {
 const bool g_registered = [] {
   addAll<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
          OdDbEllipse, OdDbSpline, OdDb2dPolyline, OdDbLeader, OdDbVertex, OdDbPoint, OdDbSolid,
-         OdDbTrace, OdDbMText, OdDbText, OdDbAttributeText, OdDbAttributeDefinition, OdDbAttribute,
-         OdDbBlockReference, OdDbHatch, OdDbDimension, OdDbAlignedDimension, OdDbRotatedDimension,
-         OdDbRadialDimension, OdDbDiametricDimension, OdDb2LineAngularDimension,
-         OdDb3PointAngularDimension, OdDbOrdinateDimension, OdDbArcDimension, OdDbReadDimension,
-         OdDbRasterImage, OdDbViewport, OdDbGroup, OdDbRasterImageDef, OdDbRasterImageDefReactor,
-         OdDbPlotSettings, OdDbLayout, OdDbRawEntity, OdDbRawObject, OdDbDictionary,
-         OdDbDictionaryVar, OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord,
-         OdDbTextStyleTableRecord, OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbKeptRecord,
-         OdDbAbstractViewTableRecord, OdDbViewTableRecord, OdDbViewportTableRecord,
-         OdDbUCSTableRecord, OdDbRegAppTableRecord, OdDbSymbolTable, OdDbLayerTable,
-         OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable, OdDbBlockTable, OdDbViewTable,
-         OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable, OdDbDatabase>();
+         OdDbTrace, OdDbFace, OdDbXline, OdDbRay, OdDbMText, OdDbText, OdDbAttributeText,
+         OdDbAttributeDefinition, OdDbAttribute, OdDbBlockReference, OdDbHatch, OdDbDimension,
+         OdDbAlignedDimension, OdDbRotatedDimension, OdDbRadialDimension, OdDbDiametricDimension,
+         OdDb2LineAngularDimension, OdDb3PointAngularDimension, OdDbOrdinateDimension,
+         OdDbArcDimension, OdDbReadDimension, OdDbRasterImage, OdDbViewport, OdDbGroup,
+         OdDbRasterImageDef, OdDbRasterImageDefReactor, OdDbPlotSettings, OdDbLayout, OdDbRawEntity,
+         OdDbRawObject, OdDbDictionary, OdDbDictionaryVar, OdDbSymbolTableRecord,
+         OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbTextStyleTableRecord,
+         OdDbDimStyleTableRecord, OdDbBlockTableRecord, OdDbKeptRecord, OdDbAbstractViewTableRecord,
+         OdDbViewTableRecord, OdDbViewportTableRecord, OdDbUCSTableRecord, OdDbRegAppTableRecord,
+         OdDbSymbolTable, OdDbLayerTable, OdDbLinetypeTable, OdDbTextStyleTable, OdDbDimStyleTable,
+         OdDbBlockTable, OdDbViewTable, OdDbViewportTable, OdDbUCSTable, OdDbRegAppTable,
+         OdDbDatabase>();
   return true;
 }();
 

@@ -14,6 +14,8 @@ namespace {
 
 /// Blocks that stand in each other beyond this depth are not looked into.
 constexpr int kDeepestBlock = 32;
+/// Lines without ends are as long as nobody looks, to either side.
+constexpr double kEndless = 1e9;
 
 /// Gathers what entities show.
 class ShapeGatherer : public OdGiWorldDraw {
@@ -42,6 +44,11 @@ class ShapeGatherer : public OdGiWorldDraw {
     const OdGeExtents3d box = odgi::extentsOf(now);
     m_shape.box.add(flat(box.minPoint()));
     m_shape.box.add(flat(box.maxPoint()));
+  }
+  void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays) override {
+    const OdGeVector3d way = direction.normal() * kEndless;
+    const OdGePoint3d ends[] = {origin - way, origin, origin + way};
+    polyline(std::span(ends).subspan(bothWays ? 0 : 1), false);
   }
   void area(const OdGiRings& rings) override {
     std::vector<Outline> area;

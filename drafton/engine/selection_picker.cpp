@@ -29,6 +29,10 @@ std::vector<SelectionPicker::Candidate> SelectionPicker::candidates() const {
     if (OdGeExtents3d box; entity->getGeomExtents(box) && !box.isEmpty()) {
       candidate.box.add(flat(box.minPoint()));
       candidate.box.add(flat(box.maxPoint()));
+    } else {
+      // Lines without ends have no box of their own, but can be taken.
+      constexpr double kCoarse = 1;
+      candidate.box = shapeOf(*entity, kCoarse).box;
     }
     found.push_back(candidate);
   }

@@ -71,7 +71,7 @@ void BlockShapes::record(ShapeItem& item, OdDbEntity& entity) {
   item.pieceCount = 0;
   item.box = {};
   item.hasBlocks = false;
-  item.isCoarse = false;
+  item.isCoarse = item.isEndless = false;
   item.size = 0;
   item.deviation = m_deviation;
   if (!entity.isVisible() || (m_isInserted && isFilledInByInserts(entity))) return;
@@ -79,11 +79,34 @@ void BlockShapes::record(ShapeItem& item, OdDbEntity& entity) {
   recorder.record(entity);
   item.pieceCount = static_cast<std::uint32_t>(m_list.pieces.size()) - item.firstPiece;
   item.isCoarse = recorder.takeIsCoarse();
+  item.isEndless = recorder.takeIsEndless();
   for (std::uint32_t i = 0; i < item.pieceCount && !item.hasBlocks; ++i)
     item.hasBlocks = m_list.pieces[item.firstPiece + i].kind == PieceKind::kBlock;
   item.size = static_cast<std::uint32_t>(m_list.pieces.size() + m_list.points.size() - before);
   item.box = recorder.takeBox();
-  if (item.hasBlocks) item.box.addExt(boxOf(item));
+  if (item.hasBlocks) {
+    item.box.addExt(boxOf(item));
+    item.isEndless = item.isEndless || holdsEndless(item);
+  }
+  if (!item.isEndless) return;
+  const auto number = static_cast<std::uint32_t>(&item - m_items.data());
+  const auto at = std::ranges::lower_bound(m_endless, number);
+  if (at == m_endless.end() || *at != number) m_endless.insert(at, number);
+}
+
+bool BlockShapes::holdsEndless(const ShapeItem& item) const {
+  for (std::uint32_t i = 0; i < item.pieceCount; ++i) {
+    const Piece& piece = m_list.pieces[item.firstPiece + i];
+    if (piece.kind != PieceKind::kBlock) continue;
+    const OdDbObjectId block = m_list.blocks[piece.first].block;
+    const BlockShapes* const shapes = m_scene.shapes(block, m_deviation);
+    if (shapes != nullptr && shapes->isEndless()) return true;
+  }
+  return false;
+}
+
+bool BlockShapes::isEndless() const {
+  return std::ranges::any_of(m_endless, [&](std::uint32_t i) { return m_items[i].isEndless; });
 }
 
 /// The box around the blocks among an item's pieces.
@@ -144,6 +167,10 @@ void BlockShapes::find(const std::optional<QRectF>& rect, std::vector<std::uint3
   for (auto it = m_index->tree.qbegin(bg::index::intersects(wanted)); it != m_index->tree.qend();
        ++it)
     found.push_back(it->second);
+  for (const std::uint32_t i : m_endless)
+    if (const ShapeItem& item = m_items[i];
+        item.isEndless && (item.box.isEmpty() || !bg::intersects(drafton::boxOf(item.box), wanted)))
+      found.push_back(i);
   if (m_order.empty()) {
     // Sorting a few is quicker than walking over all marks.
     if (found.size() < count / 16) {

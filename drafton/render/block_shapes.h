@@ -21,8 +21,9 @@ struct ShapeItem {
   std::uint32_t size = 0; ///< pieces and points in the list
   OdGeExtents3d box;      ///< empty for what shows nothing
   bool hasBlocks = false;
-  bool isCoarse = false; ///< has chords in the place of curves
-  double deviation = 0;  ///< how far these may leave the curves
+  bool isCoarse = false;  ///< has chords in the place of curves
+  bool isEndless = false; ///< reaches beyond its box
+  double deviation = 0;   ///< how far these may leave the curves
 };
 
 /// The recorded entities of one block, kept up with the drawing by its scene.
@@ -37,8 +38,11 @@ class BlockShapes {
   /// The box around everything.
   const OdGeExtents3d& box() const;
 
-  /// Numbers of the items whose boxes touch a rectangle of the xy plane, in the order in which they
-  /// are drawn. Everything if the rectangle is null.
+  /// True if something in it has no end.
+  bool isEndless() const;
+
+  /// Numbers of the items whose boxes touch a rectangle of the xy plane or that have no end, in the
+  /// order in which they are drawn. Everything if the rectangle is null.
   void find(const std::optional<QRectF>& rect, std::vector<std::uint32_t>& found) const;
   /// The number of an entity's item; nothing if it has none.
   std::optional<std::uint32_t> itemOf(OdDbObjectId entity) const;
@@ -63,6 +67,7 @@ class BlockShapes {
   void addItem(OdDbObjectId id, OdDbEntity& entity, bool indexed);
   void setBox(std::uint32_t number, const OdGeExtents3d& before);
   OdGeExtents3d boxOf(const ShapeItem& item) const;
+  bool holdsEndless(const ShapeItem& item) const;
   void buildIndex();
 
   Scene& m_scene;
@@ -75,6 +80,7 @@ class BlockShapes {
   mutable OdGeExtents3d m_box;
   mutable bool m_isBoxLoose = false; ///< m_box may be larger than needed
   std::size_t m_wasted = 0;
+  std::vector<std::uint32_t> m_endless; ///< items that have or had no end, in order
   std::unique_ptr<Index> m_index;
   mutable std::unordered_map<OdDbObjectId, std::uint32_t> m_numbers; ///< filled when first asked
   mutable std::vector<std::uint8_t> m_marks;                         ///< for find()

@@ -1,5 +1,6 @@
 #include "drafton/render/pick.h"
 
+#include "drafton/render/endless_line.h"
 #include "drafton/render/scene_painter.h"
 #include "drafton/render/text_shapes.h"
 #include "drafton/render/thin_lines.h"
@@ -132,6 +133,14 @@ void Test::piece(const ShapeList& list, const Piece& piece, const Projection& pr
   }
   case PieceKind::kArea:
     return rings(list, list.areas[piece.first], projection);
+  case PieceKind::kXline:
+  case PieceKind::kRay: {
+    const auto points = list.pointsOf(piece);
+    m_leaves = true;
+    m_touches = m_touches || seenPart(points[0], points[1] - points[0],
+                                      piece.kind == PieceKind::kXline, projection, m_rect);
+    return;
+  }
   case PieceKind::kGradient:
     return rings(list, list.gradients[piece.first].area, projection);
   case PieceKind::kPattern:
@@ -171,7 +180,7 @@ void Test::item(const BlockShapes& shapes, const ShapeItem& item, const Projecti
   if (layer.isFrozen || (layer.isOff && !item.hasBlocks)) return;
   const QRectF box = projection.boxOf(item.box);
   // Boxes of upright lines have no width, which Qt takes for nothing.
-  if (!box.adjusted(-1, -1, 1, 1).intersects(m_rect)) {
+  if (!item.isEndless && !box.adjusted(-1, -1, 1, 1).intersects(m_rect)) {
     m_leaves = true;
     return;
   }

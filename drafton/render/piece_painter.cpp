@@ -1,5 +1,6 @@
 #include "drafton/render/piece_painter.h"
 
+#include "drafton/render/endless_line.h"
 #include "drafton/render/gradient_brush.h"
 #include "drafton/render/text_shapes.h"
 #include "drawing/patterns/line_shapes.h"
@@ -28,6 +29,7 @@ constexpr double kLightestTint = 0.25, kDarkestTint = 0.75;
 constexpr double kOrnamentReach = 12;
 /// Points without a size are this part of the picture's height.
 constexpr double kUsualPointPart = 0.05;
+constexpr double kMoreThanWhole = 1e-6;
 /// Dashes are walked along chords of an arc.
 constexpr int kMostDashChords = 20000;
 
@@ -115,6 +117,10 @@ void PiecePainter::draw(const ShapeList& list, const Piece& piece, const QRectF&
   case PieceKind::kArc:
     arc(list.arcs[piece.first]);
     break;
+  case PieceKind::kXline:
+  case PieceKind::kRay:
+    endless(list.pointsOf(piece), piece.kind == PieceKind::kXline);
+    break;
   case PieceKind::kArea:
     area(list, list.areas[piece.first]);
     break;
@@ -157,6 +163,25 @@ void PiecePainter::polyline(std::span<const OdGePoint3d> points, bool closed) {
     dashed(points, closed);
   else
     plainLine(points, closed);
+}
+
+void PiecePainter::endless(std::span<const OdGePoint3d> points, bool bothWays) {
+  const OdGeVector3d way = points[1] - points[0];
+  const double reach = 2 * m_surface.penWidth();
+  const auto seen = seenPart(points[0], way, bothWays, *m_projection,
+                             m_surface.clipRect().adjusted(-reach, -reach, reach, reach));
+  if (!seen) return;
+  auto [first, last] = *seen;
+  if (isDashed()) {
+    // Whole patterns from the point on, so that dashes stay where they are however much is seen.
+    const double pattern =
+        m_linetype->length() * m_scales.linetypeScale * m_style.linetypeScale * m_windowScale;
+    first = bothWays ? (std::floor(first / pattern) - 1) * pattern : 0;
+    // A little more than whole, so that rounding does not leave one out.
+    last = (std::ceil(last / pattern) + 1 + kMoreThanWhole) * pattern;
+  }
+  const OdGePoint3d ends[] = {points[0] + way * first, points[0] + way * last};
+  polyline(ends, false);
 }
 
 void PiecePainter::plainLine(std::span<const OdGePoint3d> points, bool closed) {

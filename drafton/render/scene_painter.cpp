@@ -103,14 +103,15 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
   // What a block's own layers show is seen even where the insert's layer is off.
   if (!showsLines && !item.hasBlocks) return;
   QRectF box;
-  if (!item.box.isEmpty()) {
+  if (!item.box.isEmpty() && !item.isEndless) {
     box = level.projection.boxOf(item.box);
     if (!box.adjusted(-kReach, -kReach, kReach, kReach).intersects(m_surface.clipRect())) return;
   }
   m_pieces.setProjection(level.projection, level.scale);
   m_pieces.setStyle(style, tables.linetype(style.linetype));
   const Piece* const first = &level.shapes.list().pieces[item.firstPiece];
-  if (!item.box.isEmpty() && isTooSmall(box) && first->kind != PieceKind::kPoint) {
+  if (!item.box.isEmpty() && !item.isEndless && isTooSmall(box) &&
+      first->kind != PieceKind::kPoint) {
     if (showsLines) m_pieces.drawSpeck(box.center());
     return;
   }
@@ -144,7 +145,17 @@ void ScenePainter::drawPiece(const Projection& projection, double scale, const S
     }
     break;
   default:
-    if (showsLines) m_pieces.draw(list, piece, box);
+    if (!showsLines) break;
+    if (piece.linetype == 0) {
+      m_pieces.draw(list, piece, box);
+      break;
+    }
+    StyleTables& tables = m_scene.styles();
+    const std::uint32_t own = tables.linetypeNumber(list.linetypes[piece.linetype - 1]);
+    const bool isOther = own != StyleTables::kByLayer && own != StyleTables::kByBlock;
+    m_pieces.setStyle(style, tables.linetype(isOther ? own : style.linetype));
+    m_pieces.draw(list, piece, box);
+    m_pieces.setStyle(style, tables.linetype(style.linetype));
   }
 }
 

@@ -11,6 +11,8 @@ enum class PieceKind : std::uint8_t {
   kPolyline, ///< points
   kRing,     ///< points, closed
   kArc,
+  kXline, ///< a point and the next one along a line without ends
+  kRay,   ///< the same, from the point on
   kArea,
   kGradient,
   kStrokes, ///< pairs of points
@@ -25,7 +27,8 @@ enum class PieceKind : std::uint8_t {
 /// One piece of an entity. `first` is an index into what its kind is kept in.
 struct Piece {
   PieceKind kind;
-  bool hasColor = false; ///< `color` counts and not that of the entity
+  bool hasColor = false;      ///< `color` counts and not that of the entity
+  std::uint16_t linetype = 0; ///< above 0: one before this in the list, not that of the entity
   std::uint32_t first = 0, count = 0;
   std::uint32_t color = 0;
   float length = 0; ///< of all strokes together; the advance of a text
@@ -85,6 +88,7 @@ class ShapeList {
   std::vector<PointPiece> marks;
   std::vector<BlockPiece> blocks;
   std::vector<ObjectPiece> objects;
+  std::vector<OdDbObjectId> linetypes; ///< of pieces that differ from their entities
 
   std::span<const OdGePoint3d> pointsOf(const Piece& piece) const {
     return std::span(points).subspan(piece.first, piece.count);

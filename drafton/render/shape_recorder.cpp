@@ -7,6 +7,7 @@
 #include "drawing/patterns/pattern_strokes.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace drafton {
 namespace {
@@ -75,6 +76,7 @@ void ShapeRecorder::pattern(const OdDbHatch& hatch) {
 void ShapeRecorder::add(PieceKind kind, std::size_t first, std::size_t count) {
   Piece piece{.kind = kind,
               .hasColor = m_color.has_value(),
+              .linetype = m_linetype,
               .first = static_cast<std::uint32_t>(first),
               .count = static_cast<std::uint32_t>(count),
               .color = 0,
@@ -106,6 +108,27 @@ void ShapeRecorder::arc(const OdGiArc& arc) {
   add(PieceKind::kArc, m_list.arcs.size(), 1);
   m_list.arcs.push_back(arc);
   m_box.addExt(odgi::extentsOf(arc));
+}
+
+void ShapeRecorder::endless(const OdGePoint3d& origin, const OdGeVector3d& direction,
+                            bool bothWays) {
+  const OdGePoint3d ends[] = {origin, origin + direction.normal()};
+  if (!areFinite(ends) || direction.isZeroLength()) return;
+  m_isEndless = true;
+  add(bothWays ? PieceKind::kXline : PieceKind::kRay, m_list.points.size(), 2);
+  m_list.points.insert(m_list.points.end(), std::begin(ends), std::end(ends));
+}
+
+void ShapeRecorder::setPieceLinetype(OdDbObjectId linetype) {
+  m_linetype = 0;
+  if (linetype.isNull()) return;
+  auto& all = m_list.linetypes;
+  auto at = std::ranges::find(all, linetype);
+  if (at == all.end()) {
+    if (all.size() >= std::numeric_limits<std::uint16_t>::max()) return;
+    at = all.insert(all.end(), linetype);
+  }
+  m_linetype = static_cast<std::uint16_t>(at - all.begin() + 1);
 }
 
 AreaPiece ShapeRecorder::addRings(const OdGiRings& rings) {

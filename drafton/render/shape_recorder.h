@@ -24,9 +24,13 @@ class ShapeRecorder : public OdGiWorldDraw {
   /// True if pieces since the last call could be finer with a smaller deviation.
   bool takeIsCoarse() { return std::exchange(m_isCoarse, false); }
 
+  /// True if pieces since the last call have no end, so that their box says nothing.
+  bool takeIsEndless() { return std::exchange(m_isEndless, false); }
+
   double deviation() const override { return m_deviation; }
   void polyline(std::span<const OdGePoint3d> points, bool closed) override;
   void arc(const OdGiArc& arc) override;
+  void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays) override;
   void area(const OdGiRings& rings) override;
   void gradient(const OdGiRings& rings, const OdGiGradient& gradient) override;
   void strokes(std::span<const OdGePoint3d> ends) override;
@@ -36,6 +40,7 @@ class ShapeRecorder : public OdGiWorldDraw {
   void image(const OdDbRasterImage& image) override;
   void viewport(const OdDbViewport& viewport) override;
   void setPieceColor(const std::optional<OdCmColor>& color) override { m_color = color; }
+  void setPieceLinetype(OdDbObjectId linetype) override;
 
  private:
   void addObject(PieceKind kind, const OdDbEntity& entity, std::span<const OdGePoint3d> corners);
@@ -48,8 +53,9 @@ class ShapeRecorder : public OdGiWorldDraw {
   ShapeList& m_list;
   double m_deviation;
   OdGeExtents3d m_box;
-  bool m_isCoarse = false;
+  bool m_isCoarse = false, m_isEndless = false;
   std::optional<OdCmColor> m_color;
+  std::uint16_t m_linetype = 0;
 };
 
 } // namespace drafton

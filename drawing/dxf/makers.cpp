@@ -6,6 +6,7 @@
 #include "drawing/entities/circle.h"
 #include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/ellipse.h"
+#include "drawing/entities/face.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
@@ -18,6 +19,7 @@
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 #include "drawing/entities/viewport.h"
+#include "drawing/entities/xline.h"
 #include "drawing/objects/group.h"
 #include "drawing/objects/image_def.h"
 #include "drawing/objects/layout.h"
@@ -51,6 +53,9 @@ constexpr Maker<OdDbEntity> kEntities[] = {
     {"POINT", make<OdDbPoint, OdDbEntity>},
     {"SOLID", make<OdDbSolid, OdDbEntity>},
     {"TRACE", make<OdDbTrace, OdDbEntity>},
+    {"3DFACE", make<OdDbFace, OdDbEntity>},
+    {"XLINE", make<OdDbXline, OdDbEntity>},
+    {"RAY", make<OdDbRay, OdDbEntity>},
     {"MTEXT", make<OdDbMText, OdDbEntity>},
     {"ATTDEF", make<OdDbAttributeDefinition, OdDbEntity>},
     {"ATTRIB", make<OdDbAttribute, OdDbEntity>},

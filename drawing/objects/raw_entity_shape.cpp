@@ -3,6 +3,7 @@
 #include "drawing/dxf/kept_tags.h"
 #include "drawing/dxf/residue.h"
 #include "drawing/graphics/world_draw.h"
+#include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
 
@@ -70,6 +71,10 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
   const OdDbKeptTags tail(residue()->tail);
   if (const Shown shown = shownBy(*database(), tail); !shown.block.isNull()) {
     draw.block(shown.block, shown.transform, *this);
+    return;
+  }
+  if (const OdDbKeptTags mline = tagsOf(tail, "AcDbMline"); !mline.tags.empty()) {
+    oddb::drawMline(mline, *database(), draw);
     return;
   }
   const QByteArray* const common = residue()->of("AcDbEntity");

@@ -94,18 +94,19 @@ TEST_F(SavedFiles, TagsOfNewerVersionsAreLeftOutOfOlderFiles) {
   QByteArray text = m_db->writeDxf();
   text.replace(
       "  2\nENTITIES\n",
-      "  2\nENTITIES\n  0\n3DFACE\n  5\nF0\n330\n1F\n100\nAcDbEntity\n  8\n0\n347\n0\n160\n4\n"
-      "310\n01020304\n284\n1\n100\nAcDbFace\n 10\n0\n 20\n0\n 30\n0\n"
+      "  2\nENTITIES\n  0\nBODY\n  5\nF0\n330\n1F\n100\nAcDbEntity\n  8\n0\n347\n0\n160\n4\n"
+      "310\n01020304\n284\n1\n100\nAcDbModelerGeometry\n 10\n0\n 20\n0\n 30\n0\n"
       "101\nEmbedded Object\n 70\n1\n1001\nACAD\n1000\nlast\n");
   text.replace("  0\nEOF\n", "  0\nSECTION\n  2\nACDSDATA\n 70\n2\n  0\nENDSEC\n  0\nEOF\n");
   const OdDbDatabasePtr db = reread(text);
   EXPECT_TRUE(db->writeDxf() == reread(db->writeDxf())->writeDxf());
   EXPECT_TRUE(db->writeDxf().contains("347\n0\n160\n4\n310\n01020304\n284\n1\n"));
   const QByteArray old = db->writeDxf(OdDb::kR2000);
-  EXPECT_TRUE(old.contains(" 92\n4\n310\n01020304\n100\nAcDbFace\n 10\n0\n 20\n0\n 30\n0\n1001\n"));
+  EXPECT_TRUE(old.contains(
+      " 92\n4\n310\n01020304\n100\nAcDbModelerGeometry\n 10\n0\n 20\n0\n 30\n0\n1001\n"));
   EXPECT_FALSE(old.contains("ACDSDATA"));
   const QByteArray middle = db->writeDxf(OdDb::kR2010);
-  EXPECT_TRUE(middle.contains("347\n0\n160\n4\n310\n01020304\n284\n1\n100\nAcDbFace\n"));
+  EXPECT_TRUE(middle.contains("347\n0\n160\n4\n310\n01020304\n284\n1\n100\nAcDbModelerGeometry\n"));
   EXPECT_FALSE(middle.contains("Embedded Object"));
 }
 

@@ -35,6 +35,12 @@ def make_flat(msp, version):
                 dxfattribs=dict(at, elevation=4.25, flags=128))
             light.closed = True
     msp.add_solid([(0, 0), (1, 0), (0, 1)])
+    msp.add_3dface([(0, 0, 1), (5, 0, 2), (5, 4, 3), (0, 4, 4)], dxfattribs=dict(
+        COMMON, invisible=5))
+    msp.add_3dface([(0, 0, 1), (5, 0, 2), (5, 4, 3)])
+    if version != "R12":
+        msp.add_xline((1, 2, 3), (0.36, 0.48, 0.8), dxfattribs=COMMON)
+        msp.add_ray((1, 2, 3), (0, -1, 0), dxfattribs=COMMON)
     if version != "R12":
         msp.add_ellipse((0, 0), (4, 0), 1.0)
         msp.add_lwpolyline([(0, 0), (7, 1)], dxfattribs={"const_width": 0.75})
