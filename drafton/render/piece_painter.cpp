@@ -35,7 +35,7 @@ constexpr int kMostDashChords = 20000;
 
 QRgb withAlpha(QRgb color, std::uint8_t alpha) { return (color & 0xFFFFFFu) | QRgb{alpha} << 24; }
 
-double lengthOf(const QPointF& p) { return std::hypot(p.x(), p.y()); }
+double lengthOf(const QPointF& p) { return std::sqrt(QPointF::dotProduct(p, p)); }
 
 /// Where a text may have ink.
 QRectF placedReach(const QPointF& along, const QPointF& up, const QPointF& origin, double advance,
@@ -52,6 +52,15 @@ int chordCount(double radius, double sweep) {
   // The cosine of small angles, solved for the angle.
   const double step = 2 * std::sqrt(2 * kChordError / radius);
   return static_cast<int>(std::clamp(std::ceil(std::abs(sweep) / step), 1.0, 1e7));
+}
+
+/// Cosine and sine, for small angles without the price of exact ones.
+std::pair<double, double> turnBy(double angle) {
+  constexpr double kSmall = 0.4;
+  if (std::abs(angle) > kSmall) return {std::cos(angle), std::sin(angle)};
+  const double q = angle * angle;
+  return {1 - q / 2 * (1 - q / 12 * (1 - q / 30 * (1 - q / 56 * (1 - q / 90)))),
+          angle * (1 - q / 6 * (1 - q / 20 * (1 - q / 42 * (1 - q / 72))))};
 }
 
 } // namespace
@@ -267,9 +276,12 @@ void PiecePainter::arc(const OdGiArc& arc) {
   }
   // The points turn on by the same angle each time, which needs one sine and cosine in all.
   const QPointF center = project(arc.center), u = project(arc.u), v = project(arc.v);
-  const double step = arc.sweep / count;
-  const double turnCos = std::cos(step), turnSin = std::sin(step);
-  double c = std::cos(arc.start), s = std::sin(arc.start);
+  const auto [turnCos, turnSin] = turnBy(arc.sweep / count);
+  double c = 1, s = 0;
+  if (arc.start != 0) {
+    c = std::cos(arc.start);
+    s = std::sin(arc.start);
+  }
   const bool closed = arc.isClosed();
   m_buffer.clear();
   for (int i = 0; i <= count - (closed && count > 2 ? 1 : 0); ++i) {
@@ -298,18 +310,14 @@ void PiecePainter::arcPart(const OdGiArc& arc, double from, double to, const QPo
   arcPart(arc, middle, to, at, b, depth + 1);
 }
 
-QPainterPath PiecePainter::pathOf(const ShapeList& list, const AreaPiece& area) {
-  QPainterPath path;
-  path.setFillRule(Qt::OddEvenFill);
+std::vector<QPolygonF> PiecePainter::ringsOf(const ShapeList& list, const AreaPiece& area) const {
+  std::vector<QPolygonF> rings(area.ringCount);
   for (std::uint32_t r = 0; r < area.ringCount; ++r) {
     const auto ring = list.ring(area.firstRing + r);
-    QPolygonF polygon;
-    polygon.reserve(static_cast<qsizetype>(ring.size()) + 1);
-    for (const OdGePoint3d& p : ring) polygon << (*m_projection)(p);
-    if (!polygon.isEmpty()) polygon << polygon.first();
-    path.addPolygon(polygon);
+    rings[r].reserve(static_cast<qsizetype>(ring.size()));
+    for (const OdGePoint3d& p : ring) rings[r] << (*m_projection)(p);
   }
-  return m_surface.cut(std::move(path));
+  return rings;
 }
 
 void PiecePainter::area(const ShapeList& list, const AreaPiece& area) {
@@ -326,18 +334,22 @@ void PiecePainter::area(const ShapeList& list, const AreaPiece& area) {
     }
     if (std::abs(doubled) < around) return plainLine(ring, true);
   }
-  m_surface.fill(pathOf(list, area));
+  m_surface.fill(ringsOf(list, area), Qt::OddEvenFill);
 }
 
 void PiecePainter::gradient(const ShapeList& list, const GradientPiece& piece) {
   const double c = std::cos(piece.gradient.angle), s = std::sin(piece.gradient.angle);
   QPolygonF corners;
-  for (std::uint32_t r = 0; r < piece.area.ringCount; ++r)
-    for (const OdGePoint3d& p : list.ring(piece.area.firstRing + r)) corners << (*m_projection)(p);
+  QPainterPath path;
+  for (const QPolygonF& ring : ringsOf(list, piece.area)) {
+    corners << ring;
+    path.addPolygon(ring);
+    path.closeSubpath();
+  }
   const QBrush brush =
       gradientBrush(piece.gradient, corners, (*m_projection)(OdGeVector3d{c, s, 0}),
                     (*m_projection)(OdGeVector3d{-s, c, 0}), m_options.ground, m_style.alpha);
-  m_surface.painter().fillPath(pathOf(list, piece.area), brush);
+  m_surface.painter().fillPath(m_surface.cut(std::move(path)), brush);
 }
 
 void PiecePainter::strokes(const ShapeList& list, const Piece& piece, const QRectF& itemBox) {
@@ -369,7 +381,7 @@ void PiecePainter::pattern(const ShapeList& list, const PatternPiece& pattern) {
   // The eye sees a tint where lines are so close.
   const double tint = std::clamp(cover, kLightestTint, kDarkestTint);
   m_surface.setPen(withAlpha(m_color, static_cast<std::uint8_t>(qAlpha(m_color) * tint)), m_width);
-  m_surface.fill(pathOf(list, pattern.area));
+  m_surface.fill(ringsOf(list, pattern.area), Qt::OddEvenFill);
 }
 
 /// Draws the part of a large pattern that is seen; false if that is still too much.
@@ -415,6 +427,17 @@ void PiecePainter::text(const OdGiTextRun& run, double advance) {
   const TextShape& shape = TextShapes::instance().shape(run.text, run.font, run.tracking);
   const QTransform placed(along.x(), along.y(), up.x(), up.y(), origin.x(), origin.y());
   m_surface.setPen(color, m_width);
+  const bool hasBars = run.underlined || run.overlined || run.struckThrough;
+  if (m_options.simplifies && !hasBars && lengthOf(up) < TextShapes::kContourHeight) {
+    const auto& contours = lengthOf(up) < TextShapes::kCoarseHeight ? shape.coarse : shape.contours;
+    if (m_rings.size() < contours.size()) m_rings.resize(contours.size());
+    for (std::size_t i = 0; i < contours.size(); ++i) {
+      m_rings[i].resize(contours[i].size());
+      std::ranges::transform(contours[i], m_rings[i].begin(),
+                             [&](const QPointF& p) { return origin + along * p.x() + up * p.y(); });
+    }
+    return m_surface.fill(std::span(m_rings).first(contours.size()), Qt::WindingFill);
+  }
   QPainterPath path = m_surface.cut(placed.map(shape.path));
   path.setFillRule(Qt::WindingFill);
   // Where the lines of text stand: under, over and through it.
@@ -440,7 +463,7 @@ void PiecePainter::mark(const PointPiece& point) {
   double size = m_scales.pointSize * m_scale;
   if (m_scales.pointSize <= 0) {
     const double part = m_scales.pointSize < 0 ? -m_scales.pointSize / 100 : kUsualPointPart;
-    size = part * m_surface.clipRect().height();
+    size = part * m_pictureHeight;
   }
   const double half = size / 2;
   const auto stroke = [&](double x0, double y0, double x1, double y1) {

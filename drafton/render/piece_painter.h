@@ -17,6 +17,7 @@ struct DrawingScales {
   bool dashesByPaper = true;
 
   explicit DrawingScales(const OdDbDatabase& database);
+  bool operator==(const DrawingScales&) const = default;
 };
 
 /// Draws pieces on a surface through one projection.
@@ -32,6 +33,8 @@ class PiecePainter {
   /// In a window that line types do not grow with, their lengths are multiplied by this.
   void setWindowScale(double factor) { m_windowScale = factor; }
   double windowScale() const { return m_windowScale; }
+  /// In pixels; points without a size are a part of it.
+  void setPictureHeight(double height) { m_pictureHeight = height; }
   /// Draws all lines in one colour and wider by some pixels; 0 ends that.
   void setHalo(QRgb color, double extraWidth);
 
@@ -58,7 +61,7 @@ class PiecePainter {
   void dashed(std::span<const OdGePoint3d> points, bool closed);
   void ornament(const DashOrnament& ornament, const OdGePoint3d& at, const OdGeVector3d& along);
   void stroke(const OdGePoint3d& from, const OdGePoint3d& to);
-  QPainterPath pathOf(const ShapeList& list, const AreaPiece& area);
+  std::vector<QPolygonF> ringsOf(const ShapeList& list, const AreaPiece& area) const;
   void area(const ShapeList& list, const AreaPiece& area);
   void gradient(const ShapeList& list, const GradientPiece& piece);
   void pattern(const ShapeList& list, const PatternPiece& pattern);
@@ -76,6 +79,7 @@ class PiecePainter {
   const Projection* m_projection = nullptr;
   double m_scale = 1; // of the projection
   double m_windowScale = 1;
+  double m_pictureHeight = 1;
   Style m_style;
   const DashPattern* m_linetype = nullptr;
   QRgb m_color = 0;
@@ -83,6 +87,7 @@ class PiecePainter {
   QRgb m_haloColor = 0;
   double m_haloWidth = 0;
   std::vector<QPointF> m_buffer;
+  std::vector<QPolygonF> m_rings;
   std::vector<OdGePoint3d> m_chords;
   std::vector<OdGePoint2d> m_ends;
 };

@@ -3,12 +3,16 @@
 
 #include "drafton/render/style.h"
 
+#include <QRect>
+
 #include <unordered_set>
 
 namespace drafton {
 
 struct RenderOptions {
   Ground ground{qRgb(255, 255, 255)};
+  /// Only this part of the picture is drawn, in pixels of the device; all of it if it is empty.
+  QRect part;
   /// Layers that are not plotted are left out.
   bool isPlotting = false;
   /// Lines have their weights; else all have the width of a pixel.

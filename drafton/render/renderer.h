@@ -25,6 +25,10 @@ void render(QImage& picture, Scene& scene, OdDbObjectId block, const View& view,
 void render(QPainter& painter, Scene& scene, OdDbObjectId block, const View& view,
             const RenderOptions& options, TransientEntities transient = {});
 
+/// Draws just entities that are in no drawing, or not at this place, over a picture.
+void renderTransient(QImage& picture, Scene& scene, const View& view, const RenderOptions& options,
+                     TransientEntities transient);
+
 /// A picture of some entities of one drawing, all of them seen: for previews. Null if there is
 /// nothing to see. `margin` is the part of the picture that stays free all around.
 QImage renderEntities(std::span<const OdDbObjectId> entities, const QSize& size, double margin,

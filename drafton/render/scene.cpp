@@ -61,6 +61,7 @@ OdGeExtents3d Scene::boxOf(OdDbObjectId block, double deviation) {
 void Scene::update() {
   if (m_database == nullptr) return;
   m_database->deliverChanges();
+  if (isStale()) ++m_revision;
   if (m_allDirty) {
     m_blocks.clear();
     m_styles.refresh();

@@ -23,6 +23,8 @@ class Scene : public OdDbDatabaseReactor {
 
   /// Takes over what was changed since the last call. Drawing and picking do this by themselves.
   void update();
+  /// Grows with each update() that took over something.
+  std::uint64_t revision() const { return m_revision; }
   /// What a block shows, with curves at least as smooth as `deviation` where they are recorded
   /// newly; null if there is no such block. The reference holds until the next update().
   BlockShapes* shapes(OdDbObjectId block, double deviation);
@@ -49,6 +51,7 @@ class Scene : public OdDbDatabaseReactor {
   std::unordered_set<OdDbObjectId> m_building; ///< blocks that are just being recorded
   std::unordered_set<OdDbObjectId> m_dirty;
   bool m_allDirty = false;
+  std::uint64_t m_revision = 0;
 };
 
 } // namespace drafton

@@ -41,7 +41,9 @@ class Opened {
 
 double deviationFor(double scale) {
   if (!(scale > 0) || !std::isfinite(scale)) return 1;
-  return std::pow(4, std::floor(std::log2(kSeenDeviation / scale) / 2));
+  // The power of four below.
+  const int exponent = std::ilogb(kSeenDeviation / scale);
+  return std::ldexp(1, exponent - (exponent & 1));
 }
 
 ScenePainter::ScenePainter(Scene& scene, Surface& surface, const RenderOptions& options)
@@ -58,6 +60,7 @@ bool ScenePainter::isTooSmall(const QRectF& box) const {
 }
 
 void ScenePainter::draw(OdDbObjectId block, const View& view) {
+  m_pieces.setPictureHeight(view.size.height());
   drawSpace(block, view.projection());
 }
 
@@ -216,6 +219,7 @@ void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, c
 void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const View& view) {
   const Projection projection = view.projection();
   const double scale = projection.scale();
+  m_pieces.setPictureHeight(view.size.height());
   ShapeList list;
   ShapeRecorder recorder(list, deviationFor(view.scale));
   for (const OdDbEntityPtr& entity : entities) {

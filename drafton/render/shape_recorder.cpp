@@ -106,7 +106,13 @@ void ShapeRecorder::arc(const OdGiArc& arc) {
       !std::isfinite(arc.start) || !std::isfinite(arc.sweep))
     return;
   add(PieceKind::kArc, m_list.arcs.size(), 1);
-  m_list.arcs.push_back(arc);
+  // Axes that start where the arc does save each drawing a sine and a cosine.
+  const double c = std::cos(arc.start), s = std::sin(arc.start);
+  OdGiArc turned = arc;
+  turned.u = arc.u * c + arc.v * s;
+  turned.v = arc.v * c - arc.u * s;
+  turned.start = 0;
+  m_list.arcs.push_back(turned);
   m_box.addExt(odgi::extentsOf(arc));
 }
 
@@ -176,6 +182,7 @@ void ShapeRecorder::text(const OdGiTextRun& run) {
   const OdGiTextMetrics& metrics = OdGiTextMetrics::current();
   const double width =
       metrics.advance(run.text, run.font) + run.tracking * static_cast<double>(run.text.size());
+  m_list.pieces.back().length = static_cast<float>(width);
   const double depth = metrics.descent(run.font);
   // Accents reach above the height of capitals.
   constexpr double kAbove = 1.35;

@@ -65,6 +65,7 @@ class Ground {
   /// The colour to paint with, opaque. `value` is that of an OdCmColor; the foreground colour is
   /// white on dark ground, black on light ground and grey where the ground is not known.
   QRgb paint(std::uint32_t value) const;
+  bool operator==(const Ground&) const = default;
 
  private:
   QRgb plainPaint(std::uint32_t value) const;

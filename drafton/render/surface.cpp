@@ -35,12 +35,12 @@ QPolygonF cutAt(const QPolygonF& polygon, const QRectF& rect, const Side& side) 
 
 } // namespace
 
-Surface::Surface(QPainter& painter, const QRectF& rect, std::optional<ThinLines> raster)
+Surface::Surface(QPainter& painter, const QRectF& rect, TileRaster* raster)
   : m_painter(painter)
   , m_clip(rect)
-  , m_raster(std::move(raster))
-  , m_usesRaster(m_raster.has_value()) {
-  if (m_raster) m_raster->setClip(rect.toAlignedRect());
+  , m_raster(raster)
+  , m_usesRaster(raster != nullptr) {
+  if (m_raster != nullptr) m_raster->setClip(rect.toAlignedRect());
 }
 
 Surface::~Surface() { flush(); }
@@ -60,7 +60,7 @@ void Surface::clip(const QPainterPath& outline) {
     m_painter.setClipPath(outline, Qt::IntersectClip);
   m_clip &= box;
   m_usesRaster = m_usesRaster && isRectangle;
-  if (m_raster) m_raster->setClip(m_clip.toRect());
+  if (m_raster != nullptr) m_raster->setClip(m_clip.toRect());
 }
 
 void Surface::restore() {
@@ -69,26 +69,26 @@ void Surface::restore() {
   m_clip = m_saved.back().clip;
   m_usesRaster = m_saved.back().usesRaster;
   m_saved.pop_back();
-  if (m_raster) m_raster->setClip(m_clip.toAlignedRect());
+  if (m_raster != nullptr) m_raster->setClip(m_clip.toAlignedRect());
   m_penApplied = false;
 }
 
 void Surface::setPen(QRgb color, double width) {
   const bool isThin = width <= kThin;
   if (color == m_color && isThin == m_isThin && (isThin || width == m_width)) return;
-  flush();
+  if (!m_lines.empty()) flush();
   m_color = color;
   m_width = width;
   m_isThin = isThin;
   m_penApplied = false;
-  if (m_raster) m_raster->setColor(color);
+  if (m_raster != nullptr) m_raster->setColor(color);
 }
 
 void Surface::applyPen() {
   if (m_penApplied) return;
   m_penApplied = true;
   QPen pen(QColor::fromRgba(m_color), m_isThin ? std::min(1.0, std::max(m_width, 0.01)) : m_width);
-  if (m_raster && m_isThin) pen.setWidthF(1);
+  if (m_raster != nullptr && m_isThin) pen.setWidthF(1);
   pen.setCapStyle(m_isThin ? Qt::FlatCap : Qt::RoundCap);
   pen.setJoinStyle(Qt::RoundJoin);
   m_painter.setPen(pen);
@@ -100,7 +100,9 @@ QPainter& Surface::painter() {
   return m_painter;
 }
 
+/// Ends what was gathered, so that the painter may go on.
 void Surface::flush() {
+  if (m_raster != nullptr) m_raster->flush();
   if (m_lines.empty()) return;
   applyPen();
   m_painter.drawLines(m_lines.data(), static_cast<int>(m_lines.size()));
@@ -108,12 +110,17 @@ void Surface::flush() {
 }
 
 void Surface::line(const QPointF& from, const QPointF& to) {
-  if (m_isThin && m_usesRaster) return m_raster->draw(from, to);
+  if (m_isThin && m_usesRaster) return m_raster->line(from, to);
   double enters = 0, leaves = 1;
   const double reach = m_width + 2;
   if (!clipLine(m_clip.adjusted(-reach, -reach, reach, reach), from, to, enters, leaves)) return;
-  const QPointF way = to - from;
-  m_lines.emplace_back(from + way * enters, from + way * leaves);
+  const QRectF near = m_clip.adjusted(-kFar, -kFar, kFar, kFar);
+  if (near.contains(from) && near.contains(to)) {
+    m_lines.emplace_back(from, to);
+  } else {
+    const QPointF way = to - from;
+    m_lines.emplace_back(from + way * enters, from + way * leaves);
+  }
   if (m_lines.size() >= kMostGathered) flush();
 }
 
@@ -172,9 +179,35 @@ QPainterPath Surface::cut(QPainterPath path) const {
   return result;
 }
 
+bool Surface::fillSmall(std::span<const QPolygonF> rings, const QRectF& box, Qt::FillRule rule) {
+  if (!m_usesRaster || !SmallAreas::fits(box)) return false;
+  if (!m_lines.empty()) flush();
+  if (box.intersects(m_clip)) m_raster->area(rings, box, rule == Qt::OddEvenFill);
+  return true;
+}
+
 void Surface::fill(const QPainterPath& path) {
+  const QRectF box = path.controlPointRect();
+  if (m_usesRaster && SmallAreas::fits(box)) {
+    const QList<QPolygonF> rings = path.toSubpathPolygons();
+    if (fillSmall(rings, box, path.fillRule())) return;
+  }
   flush();
   m_painter.fillPath(path, QColor::fromRgba(m_color));
+}
+
+void Surface::fill(std::span<const QPolygonF> rings, Qt::FillRule rule) {
+  QRectF box;
+  for (const QPolygonF& ring : rings) box |= ring.boundingRect();
+  if (fillSmall(rings, box, rule)) return;
+  QPainterPath path;
+  path.setFillRule(rule);
+  for (const QPolygonF& ring : rings) {
+    path.addPolygon(ring);
+    path.closeSubpath();
+  }
+  flush();
+  m_painter.fillPath(cut(std::move(path)), QColor::fromRgba(m_color));
 }
 
 } // namespace drafton

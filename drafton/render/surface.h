@@ -1,13 +1,12 @@
 // What pictures are drawn on.
 #pragma once
 
-#include "drafton/render/thin_lines.h"
+#include "drafton/render/tile_raster.h"
 
 #include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -18,9 +17,8 @@ namespace drafton {
 class Surface {
  public:
   /// `painter` is active; its transformation is that of the device. If it draws on a picture,
-  /// `raster` tells where the picture's memory is, and thin lines go there straight.
-  explicit Surface(QPainter& painter, const QRectF& rect,
-                   std::optional<ThinLines> raster = std::nullopt);
+  /// thin lines and small areas go through `raster`, which draws on the same one; else it is null.
+  explicit Surface(QPainter& painter, const QRectF& rect, TileRaster* raster = nullptr);
   ~Surface();
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
@@ -42,12 +40,14 @@ class Surface {
   QPainterPath cut(QPainterPath path) const;
   /// Fills with the pen's colour.
   void fill(const QPainterPath& path);
+  void fill(std::span<const QPolygonF> rings, Qt::FillRule rule);
   /// The painter for all else; what was drawn before is then on the device.
   QPainter& painter();
 
  private:
   void flush();
   void applyPen();
+  bool fillSmall(std::span<const QPolygonF> rings, const QRectF& box, Qt::FillRule rule);
 
   struct Saved {
     QRectF clip;
@@ -55,7 +55,7 @@ class Surface {
   };
   QPainter& m_painter;
   QRectF m_clip;
-  std::optional<ThinLines> m_raster;
+  TileRaster* m_raster;
   bool m_usesRaster;
   std::vector<Saved> m_saved;
   std::vector<QLineF> m_lines;

@@ -23,9 +23,22 @@ OdString keyOf(const OdGiFont& font) {
          QChar(u'0' + (font.bold ? 1 : 0) + (font.italic ? 2 : 0) + (font.vertical ? 4 : 0));
 }
 
+/// Chords that are not told from curves if the height of 1 is shown with so many pixels.
+std::vector<QPolygonF> contoursOf(const QPainterPath& path, double pixels) {
+  // Chords stay within about half a unit of their curves.
+  const double fine = 2 * pixels;
+  const QTransform back = QTransform::fromScale(1 / fine, 1 / fine);
+  std::vector<QPolygonF> contours;
+  for (const QPolygonF& contour : path.toSubpathPolygons(QTransform::fromScale(fine, fine)))
+    contours.push_back(back.map(contour));
+  return contours;
+}
+
 } // namespace
 
 struct TextShapes::Face {
+  /// The outlines of the letters that were used.
+  mutable QHash<std::pair<QRawFont, quint32>, QPainterPath> outlines;
   QFont font;
   double capHeight = kPixelSize * 0.7;
   double descent = kUsualDescent;
@@ -96,7 +109,11 @@ TextShape TextShapes::horizontal(const Face& face, const OdString& text, double 
     const QList<QPointF> positions = run.positions();
     for (qsizetype i = 0; i < glyphs.size(); ++i) {
       const QTransform placed = QTransform::fromTranslate(positions[i].x(), positions[i].y());
-      shape.path.addPath((placed * toUnit).map(raw.pathForGlyph(glyphs[i])));
+      const std::pair letter(raw, glyphs[i]);
+      auto outline = face.outlines.constFind(letter);
+      if (outline == face.outlines.cend())
+        outline = face.outlines.insert(letter, raw.pathForGlyph(glyphs[i]));
+      shape.path.addPath((placed * toUnit).map(*outline));
     }
   }
   shape.path.setFillRule(Qt::WindingFill);
@@ -128,6 +145,8 @@ const TextShape& TextShapes::shape(const OdString& text, const OdGiFont& font, d
   } else {
     made.advance = kUsualAdvance * static_cast<double>(text.size());
   }
+  made.coarse = contoursOf(made.path, kCoarseHeight);
+  made.contours = contoursOf(made.path, kContourHeight);
   return *m_shapes.insert(key, made);
 }
 

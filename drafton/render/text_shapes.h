@@ -5,9 +5,11 @@
 
 #include <QHash>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 namespace drafton {
 
@@ -15,6 +17,8 @@ namespace drafton {
 /// right, y points up.
 struct TextShape {
   QPainterPath path;
+  /// The same with chords in the place of curves: for small texts, and for larger ones.
+  std::vector<QPolygonF> coarse, contours;
   double advance = 0;
 };
 
@@ -24,6 +28,8 @@ class TextShapes : public OdGiTextMetrics {
  public:
   /// How far the characters of upright columns stand below each other, in heights.
   static constexpr double kColumnStep = 1.5;
+  /// Contours are smooth enough for texts up to so many pixels.
+  static constexpr double kCoarseHeight = 10, kContourHeight = 48;
 
   TextShapes();
   ~TextShapes() override;

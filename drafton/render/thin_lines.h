@@ -6,6 +6,17 @@
 
 namespace drafton {
 
+/// A line with its ends in parts of a pixel: what is drawn of it does not depend on what else of
+/// the picture is drawn at the same time.
+struct ThinLine {
+  static constexpr int kShift = 8, kPixel = 1 << kShift;
+  std::int32_t x0, y0, x1, y1;
+};
+
+/// Rounds a line's ends, which may lie anywhere as long as they are finite. False for one that is
+/// too far from all pictures.
+bool roundLine(QPointF from, QPointF to, ThinLine& line);
+
 /// Draws lines of one pixel's width, smoothed, into the memory of a picture: a drawing has hundreds
 /// of thousands of them, and the way through a painter costs many times the drawing itself.
 class ThinLines {
@@ -21,17 +32,19 @@ class ThinLines {
   void setClip(const QRect& clip);
   /// Not premultiplied.
   void setColor(QRgb color);
-  /// The ends may lie anywhere, as long as they are finite.
-  void draw(QPointF from, QPointF to);
+  void draw(const ThinLine& line);
 
  private:
   static constexpr unsigned kFull = 256;
+  template <bool kIsSteep>
+  void draw(std::int32_t along0, std::int32_t across0, std::int32_t along1, std::int32_t across1);
   template <bool kIsSteep, bool kIsInside>
-  void walk(double along0, double across0, double along1, double across1);
+  void walk(std::int32_t along0, std::int32_t across0, std::int32_t along1, std::int32_t across1);
 
   uchar* m_bits;
   qsizetype m_bytesPerLine;
-  QRect m_bounds, m_clip;
+  QRect m_bounds;
+  int m_left = 0, m_top = 0, m_right = -1, m_bottom = -1; // of the clip, all within
   unsigned m_alpha = kFull;
   QRgb m_color = 0; // opaque
 };

@@ -1,6 +1,7 @@
 #include "drafton/render/view.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace drafton {
 
@@ -58,11 +59,21 @@ Projection View::projection() const {
   const auto [right, up, towards] = axes();
   const OdGeVector3d from = target.asVector();
   const double middleX = origin.x() + size.width() / 2, middleY = origin.y() + size.height() / 2;
+  const auto placed = [this](double offset) { return isSettled ? std::round(offset) : offset; };
   const std::array x{right.x * scale, right.y * scale, right.z * scale,
-                     middleX - (right.dotProduct(from) + center.x) * scale};
+                     placed(middleX - (right.dotProduct(from) + center.x) * scale)};
   const std::array y{-up.x * scale, -up.y * scale, -up.z * scale,
-                     middleY + (up.dotProduct(from) + center.y) * scale};
+                     placed(middleY + (up.dotProduct(from) + center.y) * scale)};
   return {x, y};
+}
+
+View View::settled() const {
+  View view = *this;
+  view.isSettled = false;
+  const QPointF zero = view.projection()(OdGePoint3d{});
+  view = view.panned({std::round(zero.x()) - zero.x(), std::round(zero.y()) - zero.y()});
+  view.isSettled = true;
+  return view;
 }
 
 OdGePoint3d View::unproject(const QPointF& pixel) const {

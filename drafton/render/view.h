@@ -62,6 +62,8 @@ struct View {
   QSizeF size{1, 1};
   /// Where the picture's upper left corner is on the device.
   QPointF origin;
+  /// The target's axes meet in the corner of a pixel: see settled().
+  bool isSettled = false;
 
   Projection projection() const;
   QRectF rect() const { return {origin, size}; }
@@ -73,6 +75,9 @@ struct View {
   View fitted(const OdGeExtents3d& box, double margin = 0) const;
   /// Moved by pixels on the picture.
   View panned(const QPointF& pixels) const;
+  /// Moved by half a pixel at most, so that pixels part the drawing in the same way in all settled
+  /// views of the same direction, twist and scale.
+  View settled() const;
   /// Nearer by a factor; what is at a pixel stays there.
   View zoomed(double factor, const QPointF& pixel) const;
 

@@ -37,14 +37,18 @@ ThinLines linesOn(QImage& image) {
   return lines;
 }
 
+void draw(ThinLines lines, const QPointF& from, const QPointF& to) {
+  if (ThinLine rounded; roundLine(from, to, rounded)) lines.draw(rounded);
+}
+
 TEST(ThinLines, HaveAsMuchInkAsTheyAreLongAlongTheirAxis) {
   for (const QPointF to : {QPointF(80, 10), QPointF(80, 45), QPointF(10, 80), QPointF(80, 80)}) {
     QImage image = white(100, 100);
-    linesOn(image).draw({10, 10}, to);
+    draw(linesOn(image), {10, 10}, to);
     const double longest = std::max(to.x() - 10, to.y() - 10);
     EXPECT_NEAR(inkOf(image), longest, 2) << to.x() << ',' << to.y();
     QImage back = white(100, 100);
-    linesOn(back).draw(to, {10, 10});
+    draw(linesOn(back), to, {10, 10});
     EXPECT_EQ(image, back);
   }
 }
@@ -53,8 +57,8 @@ TEST(ThinLines, StayInTheClipHoweverFarTheyGo) {
   QImage image = white(100, 100);
   ThinLines lines = linesOn(image);
   lines.setClip(QRect(20, 20, 60, 60));
-  lines.draw({-1e9, -1e9}, {1e9, 1e9});
-  lines.draw({50, -1e15}, {50, 1e15});
+  draw(lines, {-1e9, -1e9}, {1e9, 1e9});
+  draw(lines, {50, -1e15}, {50, 1e15});
   EXPECT_EQ(image.pixel(10, 10), qRgb(255, 255, 255));
   EXPECT_EQ(image.pixel(90, 90), qRgb(255, 255, 255));
   EXPECT_LT(qGray(image.pixel(40, 40)), 255);
@@ -64,7 +68,7 @@ TEST(ThinLines, MixTheirColourByItsAlpha) {
   QImage image = white(10, 10);
   ThinLines lines = linesOn(image);
   lines.setColor(qRgba(255, 0, 0, 128));
-  lines.draw({0, 5.5}, {10, 5.5});
+  draw(lines, {0, 5.5}, {10, 5.5});
   const QColor mixed = image.pixelColor(5, 5);
   EXPECT_NEAR(mixed.red(), 255, 3);
   EXPECT_NEAR(mixed.green(), 127, 4);
