@@ -14,6 +14,7 @@ struct DashOrnament {
   double scale = 1, angle = 0;
   OdGePoint2d offset;
   bool isAbsolute = false; ///< turned against the drawing
+  bool isUpright = false;  ///< turned round where it would stand on its head
 };
 
 /// A line type's dashes.

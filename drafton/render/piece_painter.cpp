@@ -54,6 +54,12 @@ int chordCount(double radius, double sweep) {
   return static_cast<int>(std::clamp(std::ceil(std::abs(sweep) / step), 1.0, 1e7));
 }
 
+/// True for the direction of a text that stands on its head, or reads downwards.
+bool isRunningBackwards(const OdGeVector3d& along) {
+  const double tiny = 1e-9 * along.length();
+  return along.x < -tiny || (along.x <= tiny && along.y < 0);
+}
+
 /// Cosine and sine, for small angles without the price of exact ones.
 std::pair<double, double> turnBy(double angle) {
   constexpr double kSmall = 0.4;
@@ -111,6 +117,8 @@ void PiecePainter::applyColor(const Piece& piece) {
     const auto method = static_cast<OdCmColor::Method>(piece.color >> 24);
     if (method == OdCmColor::kByACI || method == OdCmColor::kByColor)
       color = withAlpha(m_options.ground.paint(piece.color), m_style.alpha);
+    else if (method == OdCmColor::kNone)
+      color = m_options.ground.color();
   }
   if (m_haloWidth > 0) color = m_haloColor;
   m_surface.setPen(color, m_width + m_haloWidth);
@@ -229,15 +237,22 @@ void PiecePainter::ornament(const DashOrnament& ornament, const OdGePoint3d& at,
   const OdGeVector3d up = ornament.isAbsolute ? OdGeVector3d::yAxis() : across;
   const double size = ornament.scale * scale;
   const double c = std::cos(ornament.angle) * size, s = std::sin(ornament.angle) * size;
-  const OdGeVector3d x = base * c + up * s, y = up * c - base * s;
+  OdGeVector3d x = base * c + up * s, y = up * c - base * s;
+  const bool isUpsideDown = ornament.isUpright && isRunningBackwards(x);
   if (!ornament.text.isEmpty()) {
     OdGiTextRun run;
     run.text = ornament.text;
     run.font = ornament.font;
-    run.origin = origin;
-    run.along = x;
-    run.up = y;
-    return text(run, OdGiTextMetrics::current().advance(run.text, run.font));
+    const double advance = OdGiTextMetrics::current().advance(run.text, run.font);
+    // Round its middle, so that it stays in its gap.
+    run.origin = isUpsideDown ? origin + x * advance + y : origin;
+    run.along = isUpsideDown ? -x : x;
+    run.up = isUpsideDown ? -y : y;
+    return text(run, advance);
+  }
+  if (isUpsideDown) {
+    x = -x;
+    y = -y;
   }
   const OdLineShape* const shape = odpattern::findShape(ornament.shape);
   if (shape == nullptr) return;

@@ -6,6 +6,14 @@
 #include <cmath>
 
 namespace drafton {
+namespace {
+
+int roundedUp(float number) {
+  const int whole = static_cast<int>(number);
+  return whole + (static_cast<float>(whole) < number ? 1 : 0);
+}
+
+} // namespace
 
 /// Adds, row by row, how much more than the pixel to the left each pixel has to the right of the
 /// edge. Summed up from the left these are the parts of pixels that are inside.
@@ -16,7 +24,8 @@ void SmallAreas::addEdge(const AreaEdge& edge, int stride) {
   const AreaEdge e = isDown ? edge : AreaEdge{edge.x1, edge.y1, edge.x0, edge.y0};
   const float slope = (e.x1 - e.x0) / (e.y1 - e.y0);
   float x = e.x0;
-  const int last = static_cast<int>(std::ceil(e.y1));
+  // Numbers are 0 or more here, so that cutting off is rounding down.
+  const int last = roundedUp(e.y1);
   for (int row = static_cast<int>(e.y0); row < last; ++row) {
     float* const sums = m_sums.data() + row * stride;
     const auto top = static_cast<float>(row);
@@ -24,8 +33,8 @@ void SmallAreas::addEdge(const AreaEdge& edge, int stride) {
     const float next = x + slope * height, ink = height * direction;
     const float left = std::min(x, next), right = std::max(x, next);
     x = next;
-    const float leftPixel = std::floor(left);
-    const int first = static_cast<int>(leftPixel), end = static_cast<int>(std::ceil(right));
+    const int first = static_cast<int>(left), end = roundedUp(right);
+    const auto leftPixel = static_cast<float>(first);
     if (end <= first + 1) {
       const float beyond = 0.5F * (left + right) - leftPixel;
       sums[first] += ink * (1 - beyond);

@@ -1,5 +1,7 @@
 #include "drafton/render/surface.h"
 
+#include <cmath>
+
 namespace drafton {
 namespace {
 
@@ -154,6 +156,11 @@ void Surface::polyline(std::span<const QPointF> points, bool closed) {
 }
 
 void Surface::dot(const QPointF& at) {
+  if (m_isThin && m_usesRaster) {
+    // The whole pixel: shared between its neighbours it would be too faint to see.
+    const QPointF middle(std::floor(at.x()) + 0.5, std::floor(at.y()) + 0.5);
+    return m_raster->line(middle - QPointF(0.5, 0), middle + QPointF(0.5, 0));
+  }
   if (m_isThin) return line(at - QPointF(0.5, 0), at + QPointF(0.5, 0));
   if (!m_clip.adjusted(-m_width, -m_width, m_width, m_width).contains(at)) return;
   QPainterPath spot;

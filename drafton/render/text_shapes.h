@@ -29,7 +29,7 @@ class TextShapes : public OdGiTextMetrics {
   /// How far the characters of upright columns stand below each other, in heights.
   static constexpr double kColumnStep = 1.5;
   /// Contours are smooth enough for texts up to so many pixels.
-  static constexpr double kCoarseHeight = 10, kContourHeight = 48;
+  static constexpr double kCoarseHeight = 7, kContourHeight = 48;
 
   TextShapes();
   ~TextShapes() override;

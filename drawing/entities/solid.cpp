@@ -58,7 +58,12 @@ void OdDbSolid::worldDraw(OdGiWorldDraw& draw) const {
     if (const OdGePoint3d p = getPointAt(i); ring.empty() || !(p == ring.back())) ring.push_back(p);
   draw.area({ring});
   if (thickness() == 0) return;
-  for (OdGePoint3d& p : ring) p = p + m_solid.extrusion.rise();
+  const OdGeVector3d rise = m_solid.extrusion.rise();
+  for (std::size_t i = 0; i < ring.size(); ++i) {
+    const OdGePoint3d& next = ring[(i + 1) % ring.size()];
+    draw.area({{ring[i], next, next + rise, ring[i] + rise}});
+  }
+  for (OdGePoint3d& p : ring) p = p + rise;
   draw.area({ring});
 }
 
