@@ -1,6 +1,7 @@
 // Runs scripts of commands word by word.
 #pragma once
 
+#include "engine/commands/script_folder.h"
 #include "engine/commands/scripts.h"
 #include "engine/support/engine_fixture.h"
 #include "frame/file_path.h"
@@ -14,8 +15,14 @@ class CommandFixture : public EngineFixture {
         odpath::fromPlatform(QStringLiteral(TEST_DATA_DIR "/../../drafton/engine/data"));
     return options;
   }
-  static QStringList wordsOf(const char16_t* text) {
-    return text ? OdString::fromUtf16(text).split(u'|') : QStringList();
+  QStringList wordsOf(const char16_t* text) {
+    if (!text) return {};
+    OdString words = OdString::fromUtf16(text);
+    if (words.contains(u'%')) {
+      if (!m_folder) m_folder.emplace();
+      words = m_folder->expanded(words);
+    }
+    return words.split(u'|');
   }
   void typeWords(const QStringList& words) {
     for (const OdString& word : words) type(word + u'\n');
@@ -32,4 +39,7 @@ class CommandFixture : public EngineFixture {
     if (request() && request()->kind() != drafton::InputRequest::Kind::kString)
       type(QStringLiteral("!nonsense!\n"));
   }
+
+ private:
+  std::optional<ScriptFolder> m_folder;
 };

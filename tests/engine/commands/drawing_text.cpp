@@ -5,6 +5,7 @@
 #include "drafton/engine/value_parser.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/attribute_definition.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/ellipse.h"
 #include "drawing/entities/leader.h"
@@ -12,6 +13,7 @@
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
+#include "drawing/entities/raster_image.h"
 #include "drawing/entities/spline.h"
 #include "drawing/entities/text.h"
 
@@ -141,6 +143,26 @@ OdString describe(const OdDbLeader& leader) {
   return head + joined(corners) + (leader.hasHookLine() ? QStringLiteral(" hook") : OdString());
 }
 
+OdString describe(const OdDbBlockReference& insert) {
+  const OdGeScale3d scale = insert.scaleFactors();
+  OdString text =
+      QStringLiteral("INSERT %1 at %2").arg(insert.blockName(), shownPoint(insert.position()));
+  if (scale != OdGeScale3d{})
+    text += QStringLiteral(" x") + shownPoint({scale.sx, scale.sy, scale.sz});
+  if (insert.rotation() != 0) text += QStringLiteral(" rot") + shownAngle(insert.rotation());
+  for (const OdDbAttributePtr& attribute : insert.attributes())
+    text += QStringLiteral(" %1=%2").arg(attribute->tag(), attribute->textString());
+  return text;
+}
+
+OdString describe(const OdDbRasterImage& image) {
+  OdGePoint3d origin;
+  OdGeVector3d u, v;
+  image.getOrientation(origin, u, v);
+  return QStringLiteral("IMAGE at %1 along %2 up %3")
+      .arg(shownPoint(origin), shownPoint(OdGePoint3d() + u), shownPoint(OdGePoint3d() + v));
+}
+
 template <class Entity>
 bool describeAs(const OdDbObject& object, OdString& text) {
   const Entity* const entity = odrxCast<Entity>(&object);
@@ -161,6 +183,8 @@ constexpr Describer kDescribers[] = {
     describeAs<OdDbSpline>,
     describeAs<OdDbMText>,
     describeAs<OdDbLeader>,
+    describeAs<OdDbBlockReference>,
+    describeAs<OdDbRasterImage>,
 };
 
 OdString describe(const OdDbObject& object) {
@@ -172,11 +196,15 @@ OdString describe(const OdDbObject& object) {
 
 } // namespace
 
-OdString describeEntities(OdDbDatabase& database) {
+QStringList describeEntitiesOf(const OdDbBlockTableRecord& block) {
   QStringList lines;
+  for (auto at = block.newIterator(); !at->done(); at->step()) lines << describe(*at->entity());
+  return lines;
+}
+
+OdString describeEntities(OdDbDatabase& database) {
   const auto space = database.getModelSpaceId().openAs<OdDbBlockTableRecord>();
-  for (auto at = space->newIterator(); !at->done(); at->step()) lines << describe(*at->entity());
-  return lines.join(u'\n');
+  return describeEntitiesOf(*space).join(u'\n');
 }
 
 OdString describeLayers(OdDbDatabase& database) {

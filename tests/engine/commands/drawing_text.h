@@ -11,6 +11,7 @@
 ///   TEXT "abc" at 0,0,0 h2.5 rot90    (and `to` the alignment point with its modes)
 /// Numbers are rounded to four digits; a thickness or an elevation is told if it is not 0.
 OdString describeEntities(OdDbDatabase& database);
+QStringList describeEntitiesOf(const OdDbBlockTableRecord& block);
 
 /// The layers, one a line; the current one has a star:
 ///   *0: on, 7, Continuous, -3

@@ -13,7 +13,7 @@ class EveryCommand : public CommandFixture, public ::testing::WithParamInterface
     console().clear();
     console().troubles.clear();
   }
-  QStringList words() const { return wordsOf(GetParam().words); }
+  QStringList words() { return wordsOf(GetParam().words); }
 
   void expectResult() {
     EXPECT_FALSE(isRunning()) << "still asks: " << prompt().toStdString();
@@ -23,6 +23,9 @@ class EveryCommand : public CommandFixture, public ::testing::WithParamInterface
         << output().toStdString();
   }
 };
+
+/// A command that is done in one step, which can be undone.
+class CommandWithOneStep : public EveryCommand {};
 
 /// The keyword that a word means at the prompt, written out.
 OdString inFull(const drafton::InputRequest* request, const OdString& word) {
@@ -72,10 +75,10 @@ TEST_P(EveryCommand, CancelAtEveryPromptLeavesTheDrawingAsItWas) {
     EXPECT_EQ(dxf(), before);
     EXPECT_EQ(database().undoDepth(), depth);
   }
-  EXPECT_GT(cancelled, 0);
+  EXPECT_TRUE(cancelled > 0 || all.size() == 1);
 }
 
-TEST_P(EveryCommand, UndoTakesItBackAndRedoDoesItAgain) {
+TEST_P(CommandWithOneStep, UndoTakesItBackAndRedoDoesItAgain) {
   setUpDrawing();
   const QByteArray before = dxf();
   const std::size_t depth = database().undoDepth();
@@ -92,10 +95,15 @@ TEST_P(EveryCommand, UndoTakesItBackAndRedoDoesItAgain) {
   EXPECT_EQ(dxf(), after);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, EveryCommand, ::testing::ValuesIn(allScripts()),
-                         [](const ::testing::TestParamInfo<Script>& row) {
-                           const QStringList words =
-                               OdString::fromUtf16(row.param.words).split(u'|');
-                           const OdString command = words.front().section(u'-', -1);
-                           return command.toStdString() + "_" + row.param.name;
-                         });
+namespace {
+
+std::string nameOf(const ::testing::TestParamInfo<Script>& row) {
+  const QStringList words = OdString::fromUtf16(row.param.words).split(u'|');
+  return words.front().section(u'-', -1).toStdString() + "_" + row.param.name;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Scripts, EveryCommand, ::testing::ValuesIn(allScripts()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Scripts, CommandWithOneStep, ::testing::ValuesIn(drawingScripts()),
+                         nameOf);

@@ -1,6 +1,7 @@
 // Runs of commands as tables: what is typed, and what the drawing is then.
 #pragma once
 
+#include "engine/commands/block_text.h"
 #include "engine/commands/drawing_text.h"
 
 #include <span>
@@ -8,7 +9,8 @@
 /// One run of one command in a new drawing.
 struct Script {
   const char* name;
-  /// Words with | between them; each is followed by Enter. An empty word is Enter alone.
+  /// Words with | between them; each is followed by Enter. An empty word is Enter alone. %FOLDER%
+  /// is a folder with the files of ScriptFolder.
   const char16_t* words;
   /// What the drawing is afterwards, with ; between the lines.
   const char16_t* result;
@@ -34,6 +36,13 @@ std::span<const Script> shapeScripts();
 std::span<const Script> dimensionScripts();
 std::span<const Script> hatchScripts();
 std::span<const Script> boundaryScripts();
+std::span<const Script> blockScripts();
+std::span<const Script> referenceScripts();
+std::span<const Script> layoutScripts();
+std::span<const Script> historyScripts();
+std::span<const Script> documentScripts();
 
+/// Those of commands that change the drawing, in one step.
+std::vector<Script> drawingScripts();
 /// All of the above.
 std::vector<Script> allScripts();

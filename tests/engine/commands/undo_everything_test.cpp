@@ -1,11 +1,8 @@
 // Undo to the start and redo to the end of a long run of every command.
 
-#include "drawing/entities/circle.h"
 #include "engine/commands/command_fixture.h"
 
 #include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -14,14 +11,11 @@ class UndoEverything : public CommandFixture {
  protected:
   /// Types the script; a line that starts with ; is a remark.
   void typeScript() {
-    makeFiles();
     QFile file(QStringLiteral(TEST_DATA_DIR "/every_command.scr"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     restart(withProgramFolder());
     m_states = {dxf()};
-    const OdString script = OdString::fromUtf8(file.readAll());
-    const QStringList lines =
-        OdString(script).replace(QLatin1String("%FOLDER%"), m_folder.path()).split(u'\n');
+    const QStringList lines = m_folder.expanded(OdString::fromUtf8(file.readAll())).split(u'\n');
     for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
       if (lines[i].startsWith(u';')) continue;
       type(lines[i] + u'\n');
@@ -38,18 +32,7 @@ class UndoEverything : public CommandFixture {
   std::vector<QByteArray> m_states;
 
  private:
-  /// What the script refers to and inserts.
-  void makeFiles() {
-    const OdDbDatabasePtr wheel = OdDbDatabase::createDatabase();
-    wheel->getModelSpaceId()
-        .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
-        ->appendOdDbEntity(odrxMake<OdDbCircle>(OdGePoint3d{}, OdGeVector3d::zAxis(), 4.0));
-    wheel->writeFile(odpath::fromPlatform(m_folder.filePath(QStringLiteral("wheel.dxf"))));
-    QImage photo(8, 4, QImage::Format_RGB32);
-    photo.fill(Qt::red);
-    ASSERT_TRUE(photo.save(m_folder.filePath(QStringLiteral("photo.png"))));
-  }
-  QTemporaryDir m_folder;
+  ScriptFolder m_folder;
 };
 
 } // namespace
