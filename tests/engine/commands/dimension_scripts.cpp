@@ -45,9 +45,43 @@ OdString describeDimensions(OdDbDatabase& database) {
   return lines.join(u'\n');
 }
 
+/// The styles with their heights of texts; the current one has a star. Then the height that new
+/// dimensions get.
+OdString describeStyles(OdDbDatabase& database) {
+  QStringList lines;
+  const auto table = database.getDimStyleTableId().openAs<OdDbDimStyleTable>();
+  for (auto at = table->newIterator(); !at->done(); at->step()) {
+    const OdDbDimStyleTableRecordPtr style = at->getRecord();
+    const bool isCurrent = style->objectId() == database.currentDimStyle();
+    lines << (isCurrent ? QStringLiteral("*") : OdString()) + style->getName() + u' ' +
+                 shownReal(style->dimtxt());
+  }
+  return lines.join(u'\n') + QStringLiteral("\nnew ") + shownReal(database.sysVarReal("DIMTXT"));
+}
+
 constexpr char16_t kShapes[] = u"LINE|0,0|10,4||CIRCLE|30,0|5|ARC|c|50,0|55,0|50,5";
 
+constexpr char16_t kTwoStyles[] = u"DIMLINEAR|0,0|10,0|5,5|DIMTXT|4|DIMSTYLE|s|Large";
+
 constexpr Script kDimensions[] = {
+    {"Save", u"DIMSTYLE|s|Large", u"Standard 2.5;*Large 4;new 4", u"DIMTXT|4", describeStyles},
+    {"SaveAfterAList", u"DIMSTYLE|s|?|*|a*b|Large", u"Standard 2.5;*Large 4;new 4", u"DIMTXT|4",
+     describeStyles},
+    {"SaveOver", u"DIMSTYLE|s|standard|y", u"*Standard 4;new 4", u"DIMTXT|4", describeStyles},
+    {"SaveNotOver", u"DIMSTYLE|s|standard|n|Large", u"Standard 2.5;*Large 4;new 4", u"DIMTXT|4",
+     describeStyles},
+    {"Restore", u"DIMSTYLE|r|Standard", u"*Standard 2.5;Large 4;new 2.5", kTwoStyles,
+     describeStyles},
+    {"RestoreByEnter", u"DIMSTYLE||?|*|Nothing|Standard", u"*Standard 2.5;Large 4;new 2.5",
+     kTwoStyles, describeStyles},
+    {"RestoreThatOfADimension", u"-DIMSTYLE|r|s|l", u"*Standard 2.5;Large 4;new 2.5", kTwoStyles,
+     describeStyles},
+    {"Status", u"DIMSTYLE|st", u"*Standard 2.5;new 2.5", nullptr, describeStyles},
+    {"Variables", u"DIMSTYLE|v|Standard", u"*Standard 2.5;new 2.5", nullptr, describeStyles},
+    {"Apply", u"DIMSTYLE|a|l|", u"Standard 2.5;*Large 4;new 4", kTwoStyles, describeStyles},
+    {"List", u"DIMSTYLE|?|*", u"*Standard 2.5;new 2.5", nullptr, describeStyles},
+    {"TextWithCodes", u"DIMLINEAR|0,0|10,5|m|about <>|4,9",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = about 10", nullptr, describeDimensions},
     {"Above", u"DIMLINEAR|0,0|10,5|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr,
      describeDimensions},
     {"Beside", u"DIMLINEAR|0,0|10,5|12,3", u"rotated 90: 0,0,0 10,5,0 line 12,5,0 = 5", nullptr,

@@ -43,6 +43,14 @@ constexpr Script kHatches[] = {
     {"Undo", u"BHATCH|5,4|u|u|", u"1 entities", kSolidRoom, describeHatches},
     {"UndoTheLast", u"BHATCH|1,1|10,10|u|", u"4 entities;HATCH SOLID area144 loops2 outer assoc2",
      kNested, describeHatches},
+    {"GradientsOfEveryKind",
+     u"BHATCH|p|g|linear||y|1|2|p|g|cylinder||n|1|2|p|g|invcylinder||n|1|2|p|g|spherical||n|1|2|"
+     u"p|g|invspherical||n|1|2|p|g|invhemispherical||n|1|2|p|g|invcurved||n|1|2|p|g|curved||y|1|2|"
+     u"5,4|",
+     u"2 entities;HATCH CURVED angle0 shift0 1,2 area80 loops1 outer assoc1", kRoom,
+     describeHatches},
+    {"AssociativeAgain", u"BHATCH|a|n|a|y|5,4|",
+     u"2 entities;HATCH SOLID area80 loops1 outer assoc1", kSolidRoom, describeHatches},
     {"Outside", u"BHATCH|11,4|", u"1 entities", kSolidRoom, describeHatches},
     {"OnALine", u"BHATCH|10,4|", u"1 entities", kSolidRoom, describeHatches},
     {"Nothing", u"BHATCH|", u"1 entities", kSolidRoom, describeHatches},

@@ -14,8 +14,9 @@ std::vector<Script> drawingScripts() {
   return joined({lineScripts(),      polylineScripts(), circleScripts(),    arcScripts(),
                  rectangleScripts(), textScripts(),     attributeScripts(), modifyScripts(),
                  zoomScripts(),      setvarScripts(),   layerScripts(),     editScripts(),
-                 propertyScripts(),  shapeScripts(),    dimensionScripts(), hatchScripts(),
-                 boundaryScripts(),  blockScripts(),    referenceScripts(), layoutScripts()});
+                 selectionScripts(), propertyScripts(), shapeScripts(),     dimensionScripts(),
+                 hatchScripts(),     boundaryScripts(), blockScripts(),     referenceScripts(),
+                 layoutScripts()});
 }
 
 std::vector<Script> allScripts() {
