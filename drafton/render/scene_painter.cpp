@@ -103,8 +103,10 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
   const LayerState& layer = tables.layer(style.layer);
   if (m_layers.isFrozen(style.layer, layer)) return;
   const bool showsLines = m_layers.shows(style.layer, layer);
-  // What a block's own layers show is seen even where the insert's layer is off.
-  if (!showsLines && !item.hasBlocks) return;
+  // What a block's own layers show is seen even where the insert's layer is off; the model behind
+  // the window of a sheet too, since windows stand on a layer that hides their edges.
+  const Piece* const first = &level.shapes.list().pieces[item.firstPiece];
+  if (!showsLines && !item.hasBlocks && first->kind != PieceKind::kViewport) return;
   QRectF box;
   if (!item.box.isEmpty() && !item.isEndless) {
     box = level.projection.boxOf(item.box);
@@ -112,7 +114,6 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
   }
   m_pieces.setProjection(level.projection, level.scale);
   m_pieces.setStyle(style, tables.linetype(style.linetype));
-  const Piece* const first = &level.shapes.list().pieces[item.firstPiece];
   if (!item.box.isEmpty() && !item.isEndless && isTooSmall(box) &&
       first->kind != PieceKind::kPoint) {
     if (showsLines) m_pieces.drawSpeck(box.center());

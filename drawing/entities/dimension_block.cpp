@@ -99,6 +99,8 @@ void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoin
   const double gap = std::abs(scaled(m_vars.dimgap));
   const double halfWidth = size.x / 2 + gap;
   const double halfHeight = size.y / 2 + gap;
+  // A text that stands just its gap above the line leaves it whole, be the last digits as they may.
+  constexpr double kTouching = 1 - 1e-6;
   // The line in the coordinates of the text's box.
   const OdGeMatrix3d toBox = OdGeMatrix3d::rotation(-turn, OdGeVector3d::zAxis()) *
                              OdGeMatrix3d::translation(-middle.asVector());
@@ -108,7 +110,7 @@ void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoin
   double leave = length;
   const auto clip = [&](double at, double by, double half) {
     if (std::abs(by) < 1e-12) {
-      if (std::abs(at) >= half) leave = -1;
+      if (std::abs(at) >= half * kTouching) leave = -1;
       return;
     }
     const double a = (-half - at) / by;

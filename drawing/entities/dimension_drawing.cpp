@@ -36,7 +36,11 @@ OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimensio
   const double room = (round.isDiameter ? 2 : 1) * round.radius;
   const bool isPlaced = !dimension.isUsingDefaultTextPosition();
   bool inside = room > size.x + 2 * gap + (round.isDiameter ? 2 : 1) * arrow * 1.5;
-  if (isPlaced) inside = placed.distanceTo(round.center) < round.radius;
+  // A leader says that the text was put outside, be there room inside or not.
+  if (isPlaced)
+    inside = placed.distanceTo(round.center) < round.radius;
+  else if (dimension.dimensionData().leaderLength > 0)
+    inside = false;
   // The text stands level outside, and along the line inside unless the style says otherwise.
   const bool isLevel = inside ? v.dimtih : true;
   const double lineAngle = std::atan2(out.y, out.x);

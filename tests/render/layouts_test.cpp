@@ -84,6 +84,30 @@ TEST_F(LayoutPictures, WindowsWithScalesTwistFrozenLayersAndOtherShapes) {
   EXPECT_TRUE(looksLike(sheetPicture(*layout), "layout"));
 }
 
+TEST_F(LayoutPictures, WindowOnALayerThatIsNotPlottedShowsTheModelWithoutItsEdge) {
+  add(odrxMake<OdDbCircle>(OdGePoint3d{0, 0, 0}, OdGeVector3d::zAxis(), 30));
+  const OdDbLayoutPtr layout = sheet();
+  const OdDbObjectId edges = addLayer(u"Edges", 1);
+  edges.openAs<OdDbLayerTableRecord>(OdDb::kForWrite)->setIsPlottable(false);
+  window(*layout, 100, 100, 100, 100)->setLayer(edges);
+  const auto hasEdge = [&](bool isPlotting) {
+    QImage image(594, 420, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    View view;
+    view.size = image.size();
+    view = view.fitted(sheetOf(*layout), 0);
+    RenderOptions options;
+    options.isPlotting = isPlotting;
+    render(image, scene(), layout->getBlockTableRecordId(), view, options);
+    const QPointF circle = view.projection()(OdGePoint3d{130, 100, 0});
+    EXPECT_LT(qGray(image.pixel(circle.toPoint())), 200) << "the model";
+    const QPointF edge = view.projection()(OdGePoint3d{150, 100, 0});
+    return qGray(image.pixel(edge.toPoint())) < 200;
+  };
+  EXPECT_TRUE(hasEdge(false));
+  EXPECT_FALSE(hasEdge(true));
+}
+
 TEST_F(LayoutPictures, SheetsTurnWithTheirMargins) {
   const OdDbLayoutPtr layout = sheet();
   layout->setPlotPaperMargins(10, 20, 30, 40);

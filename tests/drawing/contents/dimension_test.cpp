@@ -152,6 +152,30 @@ TEST_F(Dimensions, DrawRadiiAndDiameters) {
   EXPECT_EQ(count(*diameter, "SOLID"), 2);
 }
 
+TEST_F(Dimensions, LeadersPutTheTextOfACircleOutside) {
+  const auto radius =
+      added(odrxMake<OdDbRadialDimension>(OdGePoint3d{5, 5, 0}, OdGePoint3d{45, 5, 0}, 12.0));
+  EXPECT_GT(textOf(*radius)->location().x, 57);
+  const auto diameter =
+      added(odrxMake<OdDbDiametricDimension>(OdGePoint3d{45, 5, 0}, OdGePoint3d{5, 5, 0}, 12.0));
+  EXPECT_GT(textOf(*diameter)->location().x, 57);
+}
+
+TEST_F(Dimensions, TextAboveTheLineNeverBreaksIt) {
+  style->setDimtxt(2.5);
+  style->setDimgap(0.8);
+  style->setDimtad(1);
+  for (int i = 0; i < 40; ++i) {
+    const double x = 11 + i * 0.7, y = 130.1 + i * 37.3;
+    for (const double turn : {0.0, kOdaPi / 2}) {
+      const OdGeVector3d way{std::cos(turn) * 52, std::sin(turn) * 52, 0};
+      const auto dimension = added(odrxMake<OdDbRotatedDimension>(
+          turn, OdGePoint3d{x, y, 0}, OdGePoint3d{x, y, 0} + way, OdGePoint3d{x - 14, y - 14, 0}));
+      EXPECT_EQ(count(*dimension, "LINE"), 3) << x << ' ' << y << ' ' << turn;
+    }
+  }
+}
+
 TEST_F(Dimensions, MeasureAngles) {
   const auto lines = odrxMake<OdDb2LineAngularDimension>();
   lines->setLines({0, 0, 0}, {10, 0, 0}, {0, 0, 0}, {0, 10, 0});
