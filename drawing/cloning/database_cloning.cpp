@@ -1,5 +1,6 @@
 // Copies within a drawing, into another one, and as a new one.
 #include "drawing/cloning/cloner.h"
+#include "drawing/cloning/unused_records.h"
 #include "drawing/objects/named_styles.h"
 
 namespace {
@@ -124,6 +125,13 @@ void OdDbDatabase::wblockCloneObjects(const std::vector<OdDbObjectId>& objects, 
 OdDbDatabasePtr OdDbDatabase::wblock() const {
   const OdDbDatabasePtr copy = readDxf(writeDxf(OdDb::kR2018), fileName());
   copy->data().version = data().version < OdDb::kR2000 ? OdDb::kR2018 : data().version;
+  for (const OdDbObjectId id : oddb::unusedRecords(*copy)) {
+    if (const auto block =
+            OdDbBlockTableRecordPtr(odrxCast<OdDbBlockTableRecord>(id.openObject().get())))
+      for (const auto it = block->newIterator(); !it->done(); it->step())
+        it->entity(OdDb::kForWrite)->erase();
+    id.safeOpenObject(OdDb::kForWrite)->erase();
+  }
   return copy;
 }
 

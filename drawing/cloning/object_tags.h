@@ -49,6 +49,8 @@ class TagWalk {
   std::size_t index() const { return m_at; }
   /// True among the reactors that stand before the first subclass.
   bool isReactor() const { return m_group == "{ACAD_REACTORS"; }
+  /// True where an object tells who refers to it.
+  bool pointsBack() const { return isReactor() || m_group == "{BLKREFS"; }
   /// The reference by handle that the tag is.
   ReferenceKind handleReference() const;
   std::optional<NameReference> nameReference() const;

@@ -261,7 +261,68 @@ TEST(Cloning, CopiesWhatNobodyKnows) {
   EXPECT_EQ(auditOf(*db), "");
   const OdDbDatabasePtr whole = source->wblock();
   EXPECT_EQ(auditOf(*whole), "");
-  EXPECT_EQ(whole->writeDxf(), source->writeDxf());
+  // All that is drawn, and all named objects, are as they were.
+  const auto here = entitiesOf(source->getModelSpaceId());
+  const auto there = entitiesOf(whole->getModelSpaceId());
+  ASSERT_EQ(here.size(), there.size());
+  for (std::size_t i = 0; i < here.size(); ++i) EXPECT_EQ(here[i]->handle(), there[i]->handle());
+  for (const auto kind : {oddb::NamedKind::kGroup, oddb::NamedKind::kLayout,
+                          oddb::NamedKind::kMaterial, oddb::NamedKind::kMLineStyle})
+    EXPECT_EQ(oddb::namesOf(*source, kind), oddb::namesOf(*whole, kind));
+}
+
+TEST(Cloning, OfAWholeDrawingLeavesOutWhatNothingUses) {
+  const OdDbDatabasePtr db = house();
+  addLayer(*db, QStringLiteral("Unused"));
+  const OdDbObjectId current = addLayer(*db, QStringLiteral("Current"));
+  db->setCurrentLayer(current);
+  const OdDbObjectId inUnused = addLayer(*db, QStringLiteral("In an unused block"));
+  const OdDbObjectId outer = addBlock(*db, QStringLiteral("OUTER"));
+  const OdDbObjectId inner = addBlock(*db, QStringLiteral("INNER"));
+  entitiesOf(inner)[0]->objectId().openAs<OdDbEntity>(OdDb::kForWrite)->setLayer(inUnused);
+  outer.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(odrxMake<OdDbBlockReference>(inner, OdGePoint3d()));
+  // A line type that only a layer has, and a style that only it has.
+  const auto style = odrxMake<OdDbTextStyleTableRecord>();
+  style->setName(QStringLiteral("Letters"));
+  const OdDbObjectId styleId =
+      db->getTextStyleTableId().openAs<OdDbTextStyleTable>(OdDb::kForWrite)->add(style);
+  const auto linetype = odrxMake<OdDbLinetypeTableRecord>();
+  linetype->setName(QStringLiteral("Gas"));
+  linetype->setNumDashes(2);
+  linetype->setShapeStyleAt(1, styleId);
+  linetype->setTextAt(1, QStringLiteral("GAS"));
+  const OdDbObjectId linetypeId =
+      db->getLinetypeTableId().openAs<OdDbLinetypeTable>(OdDb::kForWrite)->add(linetype);
+  layerNamed(*db, "Wände")
+      .openAs<OdDbLayerTableRecord>(OdDb::kForWrite)
+      ->setLinetypeObjectId(linetypeId);
+  const auto lonely = odrxMake<OdDbLinetypeTableRecord>();
+  lonely->setName(QStringLiteral("Lonely"));
+  db->getLinetypeTableId().openAs<OdDbLinetypeTable>(OdDb::kForWrite)->add(lonely);
+
+  const QByteArray before = db->writeDxf();
+  const OdDbDatabasePtr whole = db->wblock();
+  EXPECT_EQ(db->writeDxf(), before);
+  for (const char* const gone : {"Unused", "In an unused block"})
+    EXPECT_TRUE(layerNamed(*whole, gone).isNull()) << gone;
+  for (const char* const there : {"0", "Current", "Wände"})
+    EXPECT_FALSE(layerNamed(*whole, there).isNull()) << there;
+  for (const char* const gone : {"OUTER", "INNER"})
+    EXPECT_TRUE(blockNamed(*whole, gone).isNull()) << gone;
+  for (const char* const there : {"ROOM", "DOOR", "*Model_Space"})
+    EXPECT_FALSE(blockNamed(*whole, there).isNull()) << there;
+  const auto linetypes = whole->getLinetypeTableId().openAs<OdDbLinetypeTable>();
+  EXPECT_TRUE(linetypes->has(QStringLiteral("Gas")));
+  EXPECT_FALSE(linetypes->has(QStringLiteral("Lonely")));
+  const auto styles = whole->getTextStyleTableId().openAs<OdDbTextStyleTable>();
+  EXPECT_TRUE(styles->has(QStringLiteral("Letters")));
+  EXPECT_TRUE(styles->has(QStringLiteral("Standard")));
+  EXPECT_EQ(whole->currentLayer(), layerNamed(*whole, "Current"));
+  EXPECT_EQ(auditOf(*whole), "");
+  const OdDbDatabasePtr again = OdDbDatabase::readDxf(whole->writeDxf(), QString());
+  EXPECT_TRUE(again->unknownContent().isEmpty());
+  EXPECT_TRUE(blockNamed(*again, "OUTER").isNull());
 }
 
 namespace {

@@ -1,0 +1,13 @@
+// Finds what nothing in a drawing uses. Not for use outside of the library.
+#pragma once
+
+#include "drawing/database.h"
+
+namespace oddb {
+
+/// Blocks, layers, line types, text and dimension styles and applications that neither the spaces
+/// nor named objects nor current values refer to, not even by others of them. What every drawing
+/// has, and external references, are never among them.
+std::vector<OdDbObjectId> unusedRecords(const OdDbDatabase& database);
+
+} // namespace oddb
