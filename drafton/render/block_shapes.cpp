@@ -4,6 +4,7 @@
 #include "drafton/render/scene.h"
 #include "drafton/render/shape_recorder.h"
 #include "drawing/entities/attribute_definition.h"
+#include "drawing/entities/curve.h"
 
 #include <boost/geometry.hpp>
 #include <boost/geometry/geometries/box.hpp>
@@ -11,6 +12,7 @@
 #include <boost/geometry/index/rtree.hpp>
 
 #include <algorithm>
+#include <cmath>
 
 namespace drafton {
 namespace {
@@ -73,9 +75,9 @@ void BlockShapes::record(ShapeItem& item, OdDbEntity& entity) {
   item.hasBlocks = false;
   item.isCoarse = item.isEndless = false;
   item.size = 0;
-  item.deviation = m_deviation;
+  item.deviation = deviationOf(entity);
   if (!entity.isVisible() || (m_isInserted && isFilledInByInserts(entity))) return;
-  ShapeRecorder recorder(m_list, m_deviation);
+  ShapeRecorder recorder(m_list, item.deviation);
   recorder.record(entity);
   item.pieceCount = static_cast<std::uint32_t>(m_list.pieces.size()) - item.firstPiece;
   item.isCoarse = recorder.takeIsCoarse();
@@ -107,6 +109,18 @@ bool BlockShapes::holdsEndless(const ShapeItem& item) const {
 
 bool BlockShapes::isEndless() const {
   return std::ranges::any_of(m_endless, [&](std::uint32_t i) { return m_items[i].isEndless; });
+}
+
+/// Small curves are recorded finely at once: there may be very many of them, and they would all
+/// have to be recorded again as one comes nearer. Those that are still coarse then fill the
+/// picture.
+double BlockShapes::deviationOf(const OdDbEntity& entity) const {
+  constexpr double kFine = 1.0 / 300;
+  OdGeExtents3d box;
+  if (odrxCast<OdDbCurve>(&entity) == nullptr || !entity.getGeomExtents(box) || box.isEmpty())
+    return m_deviation;
+  const double size = (box.maxPoint() - box.minPoint()).length();
+  return size > 0 && std::isfinite(size) ? std::min(m_deviation, size * kFine) : m_deviation;
 }
 
 /// The box around the blocks among an item's pieces.

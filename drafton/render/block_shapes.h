@@ -67,6 +67,7 @@ class BlockShapes {
   void addItem(OdDbObjectId id, OdDbEntity& entity, bool indexed);
   void setBox(std::uint32_t number, const OdGeExtents3d& before);
   OdGeExtents3d boxOf(const ShapeItem& item) const;
+  double deviationOf(const OdDbEntity& entity) const;
   bool holdsEndless(const ShapeItem& item) const;
   void buildIndex();
 

@@ -17,6 +17,8 @@ constexpr double kChordError = 0.2;
 /// Arcs with more chords than this are cut down to what is seen of them.
 constexpr int kManyChords = 400;
 constexpr int kDeepestCut = 40;
+/// A painter's curves end some ten thousand pixels away.
+constexpr double kFarRadius = 20000;
 /// Patterns and dashes of fewer pixels are one line to the eye.
 constexpr double kFinestPattern = 3;
 /// Texts lower than this are shown as strips.
@@ -274,6 +276,7 @@ void PiecePainter::arc(const OdGiArc& arc) {
       m_chords.push_back(arc.pointAt(arc.start + arc.sweep * i / chords));
     return dashed(m_chords, false);
   }
+  if (!m_options.simplifies && std::abs(radius) < kFarRadius) return smoothArc(arc);
   const QPointF first = project(arc.pointAt(arc.start));
   if (count > kManyChords) {
     const QPointF last = project(arc.pointAt(arc.start + arc.sweep));
@@ -306,6 +309,27 @@ void PiecePainter::arc(const OdGiArc& arc) {
     c = next;
   }
   m_surface.polyline(m_buffer, closed && count > 2);
+}
+
+/// An arc as a curve, for pages.
+void PiecePainter::smoothArc(const OdGiArc& arc) {
+  const Projection& project = *m_projection;
+  const QPointF center = project(arc.center), u = project(arc.u), v = project(arc.v);
+  const int parts = std::max(1, static_cast<int>(std::ceil(std::abs(arc.sweep) / (kOdaPi / 2))));
+  const double step = arc.sweep / parts;
+  // How far the handles of a curve reach along its tangents.
+  const double reach = 4.0 / 3 * std::tan(step / 4);
+  QPainterPath path;
+  const auto at = [&](double angle) { return u * std::cos(angle) + v * std::sin(angle); };
+  const auto along = [&](double angle) { return v * std::cos(angle) - u * std::sin(angle); };
+  path.moveTo(center + at(arc.start));
+  for (int i = 0; i < parts; ++i) {
+    const double from = arc.start + step * i, to = from + step;
+    path.cubicTo(center + at(from) + along(from) * reach, center + at(to) - along(to) * reach,
+                 center + at(to));
+  }
+  if (arc.isClosed()) path.closeSubpath();
+  m_surface.outline(path);
 }
 
 void PiecePainter::arcPart(const OdGiArc& arc, double from, double to, const QPointF& a,
@@ -452,6 +476,16 @@ void PiecePainter::text(const OdGiTextRun& run, double advance) {
                              [&](const QPointF& p) { return origin + along * p.x() + up * p.y(); });
     }
     return m_surface.fill(std::span(m_rings).first(contours.size()), Qt::WindingFill);
+  }
+  if (m_surface.hasFonts() && !hasBars && !shape.letters.isEmpty()) {
+    // Letters are smaller in the file than their outlines, and can be searched for.
+    QPainter& painter = m_surface.painter();
+    const QTransform before = painter.transform();
+    painter.setTransform(shape.lettersToUnit * placed, true);
+    painter.setPen(QColor::fromRgba(color));
+    for (const QGlyphRun& letters : shape.letters) painter.drawGlyphRun({0, 0}, letters);
+    painter.setTransform(before);
+    return;
   }
   QPainterPath path = m_surface.cut(placed.map(shape.path));
   path.setFillRule(Qt::WindingFill);

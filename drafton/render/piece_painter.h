@@ -55,6 +55,7 @@ class PiecePainter {
   void endless(std::span<const OdGePoint3d> points, bool bothWays);
   void plainLine(std::span<const OdGePoint3d> points, bool closed);
   void arc(const OdGiArc& arc);
+  void smoothArc(const OdGiArc& arc);
   void arcPart(const OdGiArc& arc, double from, double to, const QPointF& a, const QPointF& b,
                int depth);
   bool isDashed() const;

@@ -1,5 +1,7 @@
 #include "drafton/render/surface.h"
 
+#include <QPaintEngine>
+
 #include <cmath>
 
 namespace drafton {
@@ -41,7 +43,8 @@ Surface::Surface(QPainter& painter, const QRectF& rect, TileRaster* raster)
   : m_painter(painter)
   , m_clip(rect)
   , m_raster(raster)
-  , m_usesRaster(raster != nullptr) {
+  , m_usesRaster(raster != nullptr)
+  , m_hasFonts(painter.paintEngine()->type() == QPaintEngine::Pdf) {
   if (m_raster != nullptr) m_raster->setClip(rect.toAlignedRect());
 }
 
@@ -153,6 +156,15 @@ void Surface::polyline(std::span<const QPointF> points, bool closed) {
     m_painter.drawPolygon(points.data(), static_cast<int>(points.size()));
   else
     m_painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+}
+
+void Surface::outline(const QPainterPath& path) {
+  const double reach = m_width + 1;
+  if (!path.controlPointRect().adjusted(-reach, -reach, reach, reach).intersects(m_clip)) return;
+  flush();
+  applyPen();
+  m_painter.setBrush(Qt::NoBrush);
+  m_painter.drawPath(path);
 }
 
 void Surface::dot(const QPointF& at) {

@@ -34,6 +34,8 @@ class Surface {
   double penWidth() const { return m_isThin ? 1 : m_width; }
   void line(const QPointF& from, const QPointF& to);
   void polyline(std::span<const QPointF> points, bool closed);
+  /// Draws along a path.
+  void outline(const QPainterPath& path);
   /// A spot of the pen's width.
   void dot(const QPointF& at);
   /// A path that fills the same pixels, without what is far outside of them.
@@ -41,6 +43,8 @@ class Surface {
   /// Fills with the pen's colour.
   void fill(const QPainterPath& path);
   void fill(std::span<const QPolygonF> rings, Qt::FillRule rule);
+  /// True for pages that have fonts of their own and are enlarged as one likes.
+  bool hasFonts() const { return m_hasFonts; }
   /// The painter for all else; what was drawn before is then on the device.
   QPainter& painter();
 
@@ -61,7 +65,7 @@ class Surface {
   std::vector<QLineF> m_lines;
   QRgb m_color = 0;
   double m_width = 1;
-  bool m_isThin = true, m_penApplied = false;
+  bool m_isThin = true, m_penApplied = false, m_hasFonts;
 };
 
 /// The part of a polygon that is inside of a rectangle.

@@ -103,7 +103,9 @@ TextShape TextShapes::horizontal(const Face& face, const OdString& text, double 
       QTransform::fromScale(1 / face.capHeight, -1 / face.capHeight).translate(0, -line.ascent());
   TextShape shape;
   shape.advance = line.horizontalAdvance() / face.capHeight;
-  for (const QGlyphRun& run : layout.glyphRuns()) {
+  shape.letters = layout.glyphRuns();
+  shape.lettersToUnit = toUnit;
+  for (const QGlyphRun& run : shape.letters) {
     const QRawFont raw = run.rawFont();
     const QList<quint32> glyphs = run.glyphIndexes();
     const QList<QPointF> positions = run.positions();

@@ -3,10 +3,12 @@
 
 #include "drawing/graphics/text_metrics.h"
 
+#include <QGlyphRun>
 #include <QHash>
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QStringList>
+#include <QTransform>
 
 #include <memory>
 #include <vector>
@@ -19,6 +21,9 @@ struct TextShape {
   QPainterPath path;
   /// The same with chords in the place of curves: for small texts, and for larger ones.
   std::vector<QPolygonF> coarse, contours;
+  /// The same as letters of fonts, for devices that have fonts; empty for upright columns.
+  QList<QGlyphRun> letters;
+  QTransform lettersToUnit;
   double advance = 0;
 };
 

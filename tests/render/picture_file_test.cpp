@@ -106,6 +106,14 @@ TEST_F(PictureFiles, PdfHasOnePageOfTheSize) {
   EXPECT_TRUE(bytes.contains("/Count 1"));
 }
 
+TEST_F(PictureFiles, PdfHasLettersAndNotTheirOutlines) {
+  PictureRequest wanted = request("a.pdf");
+  writePicture(database(), wanted);
+  const QByteArray bytes = bytesOf(wanted.file);
+  EXPECT_TRUE(bytes.contains("/Type /Font\n") || bytes.contains("/Type /Font "));
+  EXPECT_TRUE(bytes.contains("/ToUnicode"));
+}
+
 TEST_F(PictureFiles, LayoutsShowTheirSheet) {
   const OdDbObjectId id = oddb::createLayout(database(), QStringLiteral("A4 across"));
   id.openAs<OdDbLayout>(OdDb::kForWrite)->setPlotPaperSize(297, 210);
