@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/database.h"
+#include "drawing/entities/dimension_block.h"
 #include "drawing/entities/dimension_text.h"
 #include "drawing/entities/plane_transform.h"
 #include "drawing/graphics/world_draw.h"
@@ -13,6 +14,10 @@ OdDbBlockTableRecordPtr blockOf(OdDbObjectId id, OdDb::OpenMode mode = OdDb::kFo
   const OdDbObjectPtr object = id.openObject(mode);
   return OdDbBlockTableRecordPtr(odrxCast<OdDbBlockTableRecord>(object.get()));
 }
+
+// An arc before the length of an arc, and the value of DIMARCSYM that asks for it.
+constexpr QChar kArcSymbol = u'\u2312';
+constexpr int kSymbolBefore = 0;
 
 } // namespace
 
@@ -65,6 +70,12 @@ OdDbObjectId OdDbDimension::ownBlock() {
   m_dimension.block = oddb::addAnonymousBlock(*database(), u'D');
   m_blockIsShared = false;
   return m_dimension.block;
+}
+
+void OdDbDimension::finishBlock(oddb::DimensionBlock& block) {
+  m_dimension.measurement = getMeasurement();
+  m_dimension.insertion = {};
+  block.putInto(ownBlock());
 }
 
 void OdDbDimension::setDatabaseDefaults(const OdDbDatabase& database) {
@@ -123,10 +134,13 @@ void OdDbDimension::setNormal(const OdGeVector3d& normal) {
 
 OdString OdDbDimension::displayedText() const {
   const bool isAngle = kind() == kAngular || kind() == k3PointAngular;
+  const OdDbDimVarValues vars = dimVars();
   const OdString symbol = kind() == kRadial      ? QStringLiteral("R")
                           : kind() == kDiametric ? QStringLiteral("%%c")
-                                                 : OdString();
-  return oddb::dimensionText(m_dimension.text, getMeasurement(), isAngle, dimVars(), symbol);
+                          : kind() == kArcLength && vars.dimarcsym == kSymbolBefore
+                              ? OdString(kArcSymbol)
+                              : OdString();
+  return oddb::dimensionText(m_dimension.text, getMeasurement(), isAngle, vars, symbol);
 }
 
 OdDbDimVarValues OdDbDimension::dimVars() const {
@@ -161,6 +175,9 @@ bool OdDbDimension::transformBy(const OdGeMatrix3d& transform) {
     moved.*point = plane.inPlane * (m_dimension.*point);
   moved.normal = plane.normal;
   moved.rotation = plane.angle(m_dimension.rotation);
+  // The axes of coordinates turn with them.
+  if (kind() == kOrdinate)
+    moved.horizontalDirection = -plane.angle(-m_dimension.horizontalDirection);
   moved.leaderLength *= plane.scale();
   if (plane.mirrors) moved.oblique = -moved.oblique;
   if (moved.measurement > 0 && kind() != kAngular && kind() != k3PointAngular)

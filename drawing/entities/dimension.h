@@ -4,8 +4,12 @@
 #include "drawing/entities/entity.h"
 #include "drawing/tables/dim_style_table.h"
 
+namespace oddb {
+class DimensionBlock;
+}
+
 /// What all dimensions have. A dimension is shown by a block of its own, which recomputeDimBlock()
-/// draws for the linear and the radial kinds; the others keep the one that they came with.
+/// draws.
 class OdDbDimension : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbDimension);
 
@@ -62,8 +66,8 @@ class OdDbDimension : public OdDbEntity {
   /// What this dimension has otherwise than its style: kept as extended data of the file.
   void setDimVarOverride(const OdString& name, const OdDbVarValue& value);
 
-  /// Draws the dimension anew into its block, which is made if there is none. False for kinds that
-  /// are not drawn here, or without a drawing.
+  /// Draws the dimension anew into its block, which is made if there is none. False for one
+  /// whose points tell no angle, or without a drawing.
   virtual bool recomputeDimBlock() { return false; }
 
   void worldDraw(OdGiWorldDraw& draw) const override;
@@ -106,6 +110,8 @@ class OdDbDimension : public OdDbEntity {
   OdGeMatrix3d blockTransform() const;
   /// The block that shows this dimension alone; made if there is none.
   OdDbObjectId ownBlock();
+  /// Puts what was drawn into the own block, and keeps the value that it shows.
+  void finishBlock(oddb::DimensionBlock& block);
   /// Takes over what was read, whatever the kind.
   void takeData(const OdDbDimension& read);
   Data m_dimension;

@@ -1,6 +1,7 @@
 #include "drawing/entities/dimension_block.h"
 
 #include "drawing/database.h"
+#include "drawing/entities/arc.h"
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
@@ -31,6 +32,14 @@ bool runsThrough(const OdString& name) {
 }
 
 } // namespace
+
+double oddb::readableAngle(double angle) {
+  angle = odgeNormalAngle(angle);
+  const double slack = 1e-9;
+  return angle > kOdaPi / 2 + slack && angle <= kOdaPi * 3 / 2 + slack
+             ? odgeNormalAngle(angle + kOdaPi)
+             : angle;
+}
 
 oddb::DimensionBlock::DimensionBlock(const OdDbDimension& dimension)
   : m_dimension(dimension)
@@ -126,6 +135,15 @@ void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoin
   }
   dimensionLine(from, from + d * enter);
   dimensionLine(from + d * leave, to);
+}
+
+void oddb::DimensionBlock::dimensionArc(const OdGePoint3d& center, double radius, double from,
+                                        double sweep) {
+  const double to = from + sweep;
+  if (std::abs(sweep) < 1e-9) return;
+  add(odrxMake<OdDbArc>(m_toWorld * center, m_dimension.normal(), radius,
+                        odgeNormalAngle(std::min(from, to)), odgeNormalAngle(std::max(from, to))),
+      lineLook());
 }
 
 double oddb::DimensionBlock::arrow(const OdGePoint3d& tip, const OdGeVector3d& direction,

@@ -6,6 +6,9 @@
 
 namespace oddb {
 
+/// An angle at which a text can be read from below or from the right.
+double readableAngle(double angle);
+
 /// Collects the pieces of a dimension in its plane and puts them into its block. Lengths are
 /// drawing units, with the style's overall scale already in them.
 class DimensionBlock {
@@ -25,6 +28,9 @@ class DimensionBlock {
   /// A dimension line that leaves room for a text around `middle`, turned by `turn`.
   void dimensionLine(const OdGePoint3d& from, const OdGePoint3d& to, const OdGePoint3d& middle,
                      const OdGePoint2d& size, double turn);
+  /// A piece of a dimension line that is an arc, from an angle on; nothing for a sweep that is too
+  /// small to be seen.
+  void dimensionArc(const OdGePoint3d& center, double radius, double from, double sweep);
   /// An arrow whose tip is at a point, pointing along a direction of length 1. Gives how far the
   /// dimension line must stay away from the tip.
   double arrow(const OdGePoint3d& tip, const OdGeVector3d& direction, bool isFirst);

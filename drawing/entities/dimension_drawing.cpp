@@ -5,14 +5,7 @@
 
 namespace {
 
-/// An angle at which a text can be read from below or from the right.
-double readable(double angle) {
-  angle = odgeNormalAngle(angle);
-  const double slack = 1e-9;
-  return angle > kOdaPi / 2 + slack && angle <= kOdaPi * 3 / 2 + slack
-             ? odgeNormalAngle(angle + kOdaPi)
-             : angle;
-}
+using oddb::readableAngle;
 
 OdGeVector3d unit(double angle) { return {std::cos(angle), std::sin(angle), 0}; }
 
@@ -46,7 +39,7 @@ OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimensio
   const double lineAngle = std::atan2(out.y, out.x);
   const double turn = dimension.textRotation() != 0 ? dimension.textRotation()
                       : isLevel                     ? 0
-                                                    : readable(lineAngle);
+                                                    : readableAngle(lineAngle);
   const OdGePoint3d far = round.center - out * round.radius;
   OdGePoint3d middle = placed;
   if (inside) {
@@ -133,7 +126,7 @@ bool OdDbAlignedDimension::recomputeDimBlock() {
   const bool isLevel = textInside ? v.dimtih : v.dimtoh;
   const double turn = textRotation() != 0 ? textRotation()
                       : isLevel           ? 0
-                                          : readable(std::atan2(along.y, along.x));
+                                          : readableAngle(std::atan2(along.y, along.x));
   OdGePoint3d middle = m_dimension.textMiddle;
   if (isUsingDefaultTextPosition()) {
     middle = between(q1, q2);
@@ -168,9 +161,7 @@ bool OdDbAlignedDimension::recomputeDimBlock() {
 
   m_dimension.definition = OdGeMatrix3d::planeToWorld(normal()) * q2;
   m_dimension.textMiddle = middle;
-  m_dimension.measurement = getMeasurement();
-  m_dimension.insertion = {};
-  block.putInto(ownBlock());
+  finishBlock(block);
   return true;
 }
 
@@ -184,9 +175,7 @@ bool OdDbRadialDimension::recomputeDimBlock() {
                                             QStringLiteral("R"));
   m_dimension.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
   for (const OdGePoint3d& p : {round.center, round.tip}) block.definitionPoint(p);
-  m_dimension.measurement = getMeasurement();
-  m_dimension.insertion = {};
-  block.putInto(ownBlock());
+  finishBlock(block);
   return true;
 }
 
@@ -202,8 +191,6 @@ bool OdDbDiametricDimension::recomputeDimBlock() {
                                             QStringLiteral("%%c"));
   m_dimension.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
   for (const OdGePoint3d& p : {tip, far}) block.definitionPoint(p);
-  m_dimension.measurement = getMeasurement();
-  m_dimension.insertion = {};
-  block.putInto(ownBlock());
+  finishBlock(block);
   return true;
 }

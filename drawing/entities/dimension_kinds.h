@@ -106,6 +106,7 @@ class OdDb2LineAngularDimension : public OdDbDimension {
                 const OdGePoint3d& end2);
   OdGePoint3d arcPoint() const;
   void setArcPoint(const OdGePoint3d& point);
+  bool recomputeDimBlock() override;
 };
 using OdDb2LineAngularDimensionPtr = OdSmartPtr<OdDb2LineAngularDimension>;
 
@@ -120,6 +121,7 @@ class OdDb3PointAngularDimension : public OdDbDimension {
   const OdGePoint3d& arcPoint() const { return m_dimension.definition; }
   void set(const OdGePoint3d& center, const OdGePoint3d& xLine1, const OdGePoint3d& xLine2,
            const OdGePoint3d& arcPoint);
+  bool recomputeDimBlock() override;
 };
 using OdDb3PointAngularDimensionPtr = OdSmartPtr<OdDb3PointAngularDimension>;
 
@@ -134,6 +136,7 @@ class OdDbOrdinateDimension : public OdDbDimension {
   bool isUsingXAxis() const { return m_dimension.flags & kOrdinateIsX; }
   void set(const OdGePoint3d& origin, const OdGePoint3d& defining, const OdGePoint3d& leaderEnd,
            bool useXAxis);
+  bool recomputeDimBlock() override;
 };
 using OdDbOrdinateDimensionPtr = OdSmartPtr<OdDbOrdinateDimension>;
 
@@ -148,6 +151,7 @@ class OdDbArcDimension : public OdDbDimension {
   const OdGePoint3d& centerPoint() const { return m_dimension.third; }
   void set(const OdGePoint3d& center, const OdGePoint3d& xLine1, const OdGePoint3d& xLine2,
            const OdGePoint3d& arcPoint);
+  bool recomputeDimBlock() override;
 };
 using OdDbArcDimensionPtr = OdSmartPtr<OdDbArcDimension>;
 

@@ -198,6 +198,103 @@ TEST_F(Dimensions, MeasureAngles) {
   EXPECT_NEAR(ordinate->getMeasurement(), 3, 1e-12);
 }
 
+TEST_F(Dimensions, DrawAngles) {
+  const auto lines = odrxMake<OdDb2LineAngularDimension>();
+  lines->setLines({10, 0, 0}, {60, 0, 0}, {0, 10, 0}, {0, 20, 0});
+  lines->setArcPoint({30, 40, 0});
+  added(lines);
+  // The arc meets the first line itself; the second one ends below it.
+  EXPECT_EQ(count(*lines, "LINE"), 1);
+  EXPECT_EQ(count(*lines, "SOLID"), 2);
+  EXPECT_EQ(count(*lines, "ARC"), 1);
+  EXPECT_EQ(count(*lines, "POINT"), 5);
+  EXPECT_EQ(textOf(*lines)->contents(), QStringLiteral("90%%d"));
+  const OdGeVector3d toText = textOf(*lines)->location().asVector();
+  EXPECT_NEAR(toText.x, toText.y, 1e-9);
+  EXPECT_GT(toText.length(), 50);
+  // In the angle beside it, also of lines that are told the other way round.
+  lines->setArcPoint({-30, 40, 0});
+  lines->setLines({60, 0, 0}, {10, 0, 0}, {0, 20, 0}, {0, 10, 0});
+  ASSERT_TRUE(lines->recomputeDimBlock());
+  EXPECT_LT(textOf(*lines)->location().x, -30);
+  EXPECT_GT(textOf(*lines)->location().y, 30);
+
+  const auto points = odrxMake<OdDb3PointAngularDimension>();
+  points->set({0, 0, 0}, {5, 0, 0}, {0, 5, 0}, {-30, -30, 0});
+  added(points);
+  EXPECT_EQ(textOf(*points)->contents(), QStringLiteral("270%%d"));
+  EXPECT_NEAR(textOf(*points)->location().x, textOf(*points)->location().y, 1e-9);
+  EXPECT_LT(textOf(*points)->location().x, -25);
+  EXPECT_EQ(count(*points, "LINE"), 2);
+
+  // Parallel lines have no angle: what is shown stays.
+  const auto parallel = odrxMake<OdDb2LineAngularDimension>();
+  parallel->setLines({0, 0, 0}, {60, 0, 0}, {0, 10, 0}, {60, 10, 0});
+  parallel->setArcPoint({30, 5, 0});
+  added(parallel);
+  EXPECT_FALSE(parallel->recomputeDimBlock());
+}
+
+TEST_F(Dimensions, LeaveRoomInTheArcForATextThatStandsOnIt) {
+  style->setDimtad(0);
+  const auto points = odrxMake<OdDb3PointAngularDimension>();
+  points->set({0, 0, 0}, {5, 0, 0}, {0, 5, 0}, {30, 30, 0});
+  added(points);
+  EXPECT_EQ(count(*points, "ARC"), 2);
+  EXPECT_NEAR(textOf(*points)->location().x, 30, 1e-9);
+}
+
+TEST_F(Dimensions, DrawTheLengthOfAnArc) {
+  const auto arc = odrxMake<OdDbArcDimension>();
+  arc->set({0, 0, 0}, {40, 0, 0}, {0, 40, 0}, {35, 35, 0});
+  added(arc);
+  EXPECT_EQ(textOf(*arc)->contents(), QStringLiteral("\u231262,83"));
+  EXPECT_EQ(count(*arc, "SOLID"), 2);
+  // Its text follows the drawing's scale and keeps its own size.
+  const double height = textOf(*arc)->textHeight();
+  ASSERT_TRUE(arc->transformBy(OdGeMatrix3d::scaling(2)));
+  EXPECT_EQ(textOf(*arc)->contents(), QStringLiteral("\u2312125,66"));
+  EXPECT_EQ(textOf(*arc)->textHeight(), height);
+}
+
+TEST_F(Dimensions, PutTheArrowsOfSmallAnglesOutside) {
+  const auto points = odrxMake<OdDb3PointAngularDimension>();
+  points->set({0, 0, 0}, {20, 0, 0}, {20, 1, 0}, {20, 0.5, 0});
+  added(points);
+  EXPECT_EQ(count(*points, "SOLID"), 2);
+  EXPECT_GE(count(*points, "ARC"), 2);
+  // Its text stands outside of the arc.
+  EXPECT_GT(textOf(*points)->location().x, 21);
+}
+
+TEST_F(Dimensions, DrawCoordinates) {
+  const auto straight = odrxMake<OdDbOrdinateDimension>();
+  straight->set({1, 1, 0}, {40, 6, 0}, {40, 30, 0}, true);
+  added(straight);
+  EXPECT_EQ(textOf(*straight)->contents(), QStringLiteral("39"));
+  EXPECT_EQ(count(*straight, "LINE"), 1);
+  EXPECT_NEAR(textOf(*straight)->rotation(), kOdaPi / 2, 1e-9);
+  EXPECT_NEAR(textOf(*straight)->location().x, 40, 1e-9);
+  EXPECT_GT(textOf(*straight)->location().y, 30);
+
+  const auto stepped = odrxMake<OdDbOrdinateDimension>();
+  stepped->set({1, 1, 0}, {40, 6, 0}, {70, 16, 0}, false);
+  added(stepped);
+  EXPECT_EQ(textOf(*stepped)->contents(), QStringLiteral("5"));
+  EXPECT_EQ(count(*stepped, "LINE"), 3);
+  EXPECT_NEAR(textOf(*stepped)->location().y, 16, 1e-9);
+  EXPECT_GT(textOf(*stepped)->location().x, 70);
+
+  // Turned as a whole it tells the same, scaled it does not.
+  ASSERT_TRUE(stepped->transformBy(OdGeMatrix3d::rotation(0.5, OdGeVector3d::zAxis())));
+  EXPECT_EQ(textOf(*stepped)->contents(), QStringLiteral("5"));
+  EXPECT_NEAR(textOf(*stepped)->rotation(), 0.5, 1e-9);
+  ASSERT_TRUE(stepped->transformBy(OdGeMatrix3d::scaling(3)));
+  EXPECT_EQ(textOf(*stepped)->contents(), QStringLiteral("15"));
+  ASSERT_TRUE(stepped->transformBy(OdGeMatrix3d::mirroring(OdGePoint3d(), OdGeVector3d::xAxis())));
+  EXPECT_EQ(textOf(*stepped)->contents(), QStringLiteral("15"));
+}
+
 TEST_F(Dimensions, FollowWhatIsDoneToThem) {
   const auto dimension = linear();
   ASSERT_TRUE(dimension->transformBy(OdGeMatrix3d::scaling(2)));
@@ -234,7 +331,7 @@ TEST_F(Dimensions, FallIntoWhatTheyShow) {
   EXPECT_EQ(pieces.size(), 6u);
 }
 
-TEST_F(Dimensions, KeepTheBlockOfKindsThatAreNotDrawnHere) {
+TEST_F(Dimensions, OfEveryKindMoveWithTheirBlocks) {
   QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("theirs.dxf"));
   runScript("contents.py", {QStringLiteral("make"), QStringLiteral("R2018"), path});

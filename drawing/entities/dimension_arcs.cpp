@@ -1,0 +1,217 @@
+// How dimensions of angles and of arcs are drawn.
+#include "drawing/entities/dimension_block.h"
+#include "drawing/entities/dimension_kinds.h"
+#include "drawing/entities/dimension_text.h"
+
+namespace {
+
+OdGeVector3d unit(double angle) { return {std::cos(angle), std::sin(angle), 0}; }
+double directionOf(const OdGeVector3d& v) { return std::atan2(v.y, v.x); }
+
+/// The arc of a dimension in its plane, counterclockwise; where the extension lines begin.
+struct Bow {
+  OdGePoint3d center;
+  double radius = 0, from = 0, sweep = 0;
+  std::optional<OdGePoint3d> first, second; ///< none: no extension line
+};
+
+/// How far a text reaches from its middle along a direction, with a gap.
+double reach(const OdGePoint2d& size, double gap, double turn, const OdGeVector3d& direction) {
+  return std::abs(direction.dotProduct(unit(turn))) * (size.x / 2 + gap) +
+         std::abs(direction.dotProduct(unit(turn + kOdaPi / 2))) * (size.y / 2 + gap);
+}
+
+/// Draws it; gives the middle of the text.
+OdGePoint3d drawBow(oddb::DimensionBlock& block, const OdDbDimension& dimension, const Bow& bow,
+                    const OdString& text, const OdGePoint3d& placed) {
+  const OdDbDimVarValues& v = block.vars();
+  const double r = bow.radius, to = bow.from + bow.sweep;
+  const OdGePoint3d ends[] = {bow.center + unit(bow.from) * r, bow.center + unit(to) * r};
+  if (bow.first) block.extensionLine(*bow.first, ends[0], true);
+  if (bow.second) block.extensionLine(*bow.second, ends[1], false);
+
+  const OdGePoint2d size = block.textSize(text);
+  const double gap = std::abs(block.scaled(v.dimgap)), arrow = block.arrowSize();
+  const double length = r * bow.sweep;
+  const bool isPlaced = !dimension.isUsingDefaultTextPosition();
+  const bool textFits = length >= size.x + 2 * gap || v.dimtix || isPlaced;
+  const bool arrowsFit = v.dimtsz > 0 || length >= (textFits ? size.x + 2 * gap : 0) + 2.5 * arrow;
+  double middleAngle = bow.from + bow.sweep / 2;
+  if (isPlaced && placed.distanceTo(bow.center) > 0) middleAngle = directionOf(placed - bow.center);
+  const OdGeVector3d out = unit(middleAngle);
+  const bool isLevel = textFits ? v.dimtih : v.dimtoh;
+  const double turn = dimension.textRotation() != 0 ? dimension.textRotation()
+                      : isLevel                     ? 0
+                                                    : oddb::readableAngle(middleAngle - kOdaPi / 2);
+  OdGePoint3d middle = placed;
+  if (!isPlaced) {
+    middle = bow.center + out * r;
+    if (!textFits)
+      middle = middle + out * reach(size, gap, turn, out);
+    else if (v.dimtad != 0 && !isLevel)
+      middle = middle + unit(turn + kOdaPi / 2) * ((v.dimtad == 4 ? -1 : 1) * (size.y / 2 + gap));
+  }
+
+  // An arrow is a chord of the arc.
+  const double step = arrow / r;
+  double backs[2] = {0, 0};
+  for (const int end : {0, 1}) {
+    const double angle = end == 0 ? bow.from : to;
+    const double inward = (end == 0 ? step : -step) * (arrowsFit ? 1 : -1);
+    const OdGeVector3d way = unit(angle + inward / 2 + (inward > 0 ? -kOdaPi / 2 : kOdaPi / 2));
+    backs[end] = block.arrow(ends[end], way, end == 0) / r;
+    if (!arrowsFit && !v.dimsoxd) block.dimensionArc(bow.center, r, angle + inward, inward);
+  }
+  if (!arrowsFit && !v.dimtofl) {
+    block.text(text, middle, turn);
+    return middle;
+  }
+  const double begin = bow.from + (arrowsFit ? backs[0] : 0);
+  const double end = to - (arrowsFit ? backs[1] : 0);
+  // The arc leaves room for the text that stands on it.
+  const double across = std::abs(middle.distanceTo(bow.center) - r);
+  const double half = reach(size, gap, turn, {-out.y, out.x, 0}) / r;
+  const double at = bow.from + odgeNormalAngle(middleAngle - bow.from);
+  if (size.x > 0 && across < reach(size, gap, turn, out) - 1e-9 && at - half < end &&
+      at + half > begin) {
+    block.dimensionArc(bow.center, r, begin, at - half - begin);
+    block.dimensionArc(bow.center, r, at + half, end - at - half);
+  } else {
+    block.dimensionArc(bow.center, r, begin, end - begin);
+  }
+  block.text(text, middle, turn);
+  return middle;
+}
+
+/// From a centre with two points and one on the arc.
+Bow bowOf(const OdGePoint3d& center, const OdGePoint3d& p1, const OdGePoint3d& p2,
+          const OdGePoint3d& onArc) {
+  Bow bow{center, onArc.distanceTo(center), directionOf(p1 - center), 0, p1, p2};
+  bow.sweep = odgeNormalAngle(directionOf(p2 - center) - bow.from);
+  if (odgeNormalAngle(directionOf(onArc - center) - bow.from) > bow.sweep) {
+    bow.from += bow.sweep;
+    bow.sweep = 2 * kOdaPi - bow.sweep;
+    std::swap(bow.first, bow.second);
+  }
+  return bow;
+}
+
+/// Where the extension line of a measured line begins; none if the arc meets the line itself.
+std::optional<OdGePoint3d> extensionStart(const OdGePoint3d& start, const OdGePoint3d& end,
+                                          const OdGePoint3d& vertex, const OdGeVector3d& way,
+                                          double radius) {
+  const double a = (start - vertex).dotProduct(way), b = (end - vertex).dotProduct(way);
+  if (radius >= std::min(a, b) && radius <= std::max(a, b)) return std::nullopt;
+  return std::abs(a - radius) < std::abs(b - radius) ? start : end;
+}
+
+/// From two lines and a point in one of their four angles. None for parallel lines.
+std::optional<Bow> bowOfLines(const OdGePoint3d& start1, const OdGePoint3d& end1,
+                              const OdGePoint3d& start2, const OdGePoint3d& end2,
+                              const OdGePoint3d& onArc) {
+  OdGeVector3d a = (end1 - start1).normal(), b = (end2 - start2).normal();
+  const double cross = a.x * b.y - a.y * b.x;
+  if (std::abs(cross) < 1e-12) return std::nullopt;
+  const OdGeVector3d between = start2 - start1;
+  const OdGePoint3d vertex = start1 + a * ((between.x * b.y - between.y * b.x) / cross);
+  const OdGeVector3d to = onArc - vertex;
+  if ((to.x * b.y - to.y * b.x) / cross < 0) a = -a;
+  if ((a.x * to.y - a.y * to.x) / (a.x * b.y - a.y * b.x) < 0) b = -b;
+  Bow bow{vertex,
+          to.length(),
+          directionOf(a),
+          odgeNormalAngle(directionOf(b) - directionOf(a)),
+          extensionStart(start1, end1, vertex, a, to.length()),
+          extensionStart(start2, end2, vertex, b, to.length())};
+  if (bow.sweep > kOdaPi) {
+    bow.from += bow.sweep;
+    bow.sweep = 2 * kOdaPi - bow.sweep;
+    std::swap(bow.first, bow.second);
+  }
+  return bow;
+}
+
+bool canBeDrawn(const Bow& bow) { return bow.radius > 0 && std::isfinite(bow.radius); }
+
+} // namespace
+
+bool OdDb2LineAngularDimension::recomputeDimBlock() {
+  if (!database()) return false;
+  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
+  const OdGePoint3d points[] = {toPlane * xLine1Start(), toPlane * xLine1End(),
+                                toPlane * xLine2Start(), toPlane * xLine2End()};
+  const auto bow = bowOfLines(points[0], points[1], points[2], points[3], m_dimension.arcPoint);
+  if (!bow || !canBeDrawn(*bow)) return false;
+  assertWriteEnabled();
+  oddb::DimensionBlock block(*this);
+  m_dimension.textMiddle = drawBow(block, *this, *bow, displayedText(), m_dimension.textMiddle);
+  for (const OdGePoint3d& p : points) block.definitionPoint(p);
+  block.definitionPoint(m_dimension.arcPoint);
+  finishBlock(block);
+  return true;
+}
+
+bool OdDb3PointAngularDimension::recomputeDimBlock() {
+  if (!database()) return false;
+  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
+  const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
+                                toPlane * xLine2Point(), toPlane * arcPoint()};
+  const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
+  if (!canBeDrawn(bow)) return false;
+  assertWriteEnabled();
+  oddb::DimensionBlock block(*this);
+  m_dimension.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
+  for (const OdGePoint3d& p : points) block.definitionPoint(p);
+  finishBlock(block);
+  return true;
+}
+
+bool OdDbArcDimension::recomputeDimBlock() {
+  if (!database()) return false;
+  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
+  const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
+                                toPlane * xLine2Point(), toPlane * arcPoint()};
+  const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
+  if (!canBeDrawn(bow)) return false;
+  assertWriteEnabled();
+  oddb::DimensionBlock block(*this);
+  m_dimension.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
+  for (const OdGePoint3d& p : points) block.definitionPoint(p);
+  finishBlock(block);
+  return true;
+}
+
+bool OdDbOrdinateDimension::recomputeDimBlock() {
+  if (!database()) return false;
+  assertWriteEnabled();
+  oddb::DimensionBlock block(*this);
+  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
+  const OdGePoint3d start = toPlane * definingPoint(), end = toPlane * leaderEndPoint();
+  // The leader goes across the axis that is measured along.
+  const double axis = -horizontalRotation();
+  OdGeVector3d way = unit(isUsingXAxis() ? axis + kOdaPi / 2 : axis);
+  if ((end - start).dotProduct(way) < 0) way = -way;
+  const OdGeVector3d side{-way.y, way.x, 0};
+  const double length = (end - start).dotProduct(way), aside = (end - start).dotProduct(side);
+  if (std::abs(aside) <= 1e-9 * (1 + length)) {
+    block.extensionLine(start, end - way * block.scaled(block.vars().dimexe), true);
+  } else {
+    // The leader steps aside before it comes to the text.
+    const double leg = std::min(2 * block.arrowSize(), length / 3);
+    const OdGePoint3d late = end - way * leg;
+    const OdGePoint3d early = late - way * leg - side * aside;
+    block.extensionLine(start, early - way * block.scaled(block.vars().dimexe), true);
+    block.dimensionLine(early, late);
+    block.dimensionLine(late, end);
+  }
+  const OdString text = displayedText();
+  const OdGePoint2d size = block.textSize(text);
+  const double turn = textRotation() != 0 ? textRotation() : oddb::readableAngle(directionOf(way));
+  if (isUsingDefaultTextPosition())
+    m_dimension.textMiddle =
+        end + way * reach(size, std::abs(block.scaled(block.vars().dimgap)), turn, way);
+  block.text(text, m_dimension.textMiddle, turn);
+  for (const OdGePoint3d& p : {toPlane * origin(), start, end}) block.definitionPoint(p);
+  finishBlock(block);
+  return true;
+}
