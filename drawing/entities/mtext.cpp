@@ -160,6 +160,10 @@ void OdDbMText::setColumns(const OdMTextColumns& columns) {
   for (const double height : columns.heights) odcheck::finite(height);
   assertWriteEnabled();
   m_mtext.columns = columns;
+  m_mtext.totalWidth = columns.count * columns.width + (columns.count - 1) * columns.gutter;
+  m_mtext.totalHeight = columns.height;
+  for (const double height : columns.heights)
+    m_mtext.totalHeight = std::max(m_mtext.totalHeight, height);
   m_mtext.hasEmbedded = true;
 }
 
@@ -189,8 +193,10 @@ bool OdDbMText::transformBy(const OdGeMatrix3d& transform) {
   moved.directionLast = true;
   moved.rotation = 0;
   moved.height *= high;
-  for (double Data::*member : {&Data::width, &Data::extentsWidth}) moved.*member *= wide;
-  for (double Data::*member : {&Data::definedHeight, &Data::extentsHeight}) moved.*member *= high;
+  for (double Data::*member : {&Data::width, &Data::extentsWidth, &Data::totalWidth})
+    moved.*member *= wide;
+  for (double Data::*member : {&Data::definedHeight, &Data::extentsHeight, &Data::totalHeight})
+    moved.*member *= high;
   moved.columns.width *= wide;
   moved.columns.gutter *= wide;
   moved.columns.height *= high;

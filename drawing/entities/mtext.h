@@ -111,7 +111,8 @@ class OdDbMText : public OdDbEntity {
     OdString contents;
     OdDbObjectId style;
     int attachment = 1, flow = 1, spacingStyle = 1, background = 0, fillTransparency = 0;
-    bool hasEmbedded = false;   ///< the file has the part that tells the columns
+    double totalWidth = 0, totalHeight = 0; ///< the same of all columns together
+    bool hasEmbedded = false;               ///< the file has the part that tells the columns
     bool directionLast = false; ///< the direction stood behind the rotation, and so counts
     bool hasFillColor = false;
     int fillIndex = -1; ///< as the file has it beside a true colour

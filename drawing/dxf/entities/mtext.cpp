@@ -96,8 +96,12 @@ bool OdDbMText::takeColumnField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   case 21:
   case 31:
   case 40:
+    return true;
   case 42:
+    m_mtext.totalWidth = in.real(tag, 0);
+    return true;
   case 43:
+    m_mtext.totalHeight = in.real(tag, 0);
     return true;
   case 41:
     c.height = in.real(tag, 0);
@@ -193,8 +197,8 @@ void OdDbMText::putColumns(OdDbDxfOut& out) const {
   out.point(11, m_mtext.location);
   out.real(40, width());
   out.real(41, c.height);
-  out.real(42, m_mtext.extentsWidth);
-  out.real(43, m_mtext.extentsHeight);
+  out.real(42, m_mtext.totalWidth);
+  out.real(43, m_mtext.totalHeight);
   out.integer(71, c.kind);
   if (c.kind == OdMTextColumns::kNone) return;
   out.integer(72, c.count);

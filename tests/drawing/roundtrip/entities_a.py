@@ -204,6 +204,7 @@ def values(entity):
             columns = entity.columns
             result["columns"] = plain([int(columns.column_type), columns.count, columns.width,
                                        columns.gutter_width, columns.defined_height,
+                                       columns.total_width, columns.total_height,
                                        list(columns.heights)])
     if kind == "LEADER":
         result["vertices"] = plain(list(entity.vertices))
