@@ -1,6 +1,7 @@
 #include "drawing/undo.h"
 
 #include "drawing/database_data.h"
+#include "drawing/variable_recording.h"
 
 void OdDbUndo::start(const OdString& name) {
   end();
@@ -71,6 +72,7 @@ void OdDbUndo::willErase(OdDbStub& stub) {
 }
 
 void OdDbUndo::willSetVar(int index) {
+  if (!m_recordsVariables) return;
   Step* const current = step();
   if (!current) return;
   const OdDbDatabaseData& data = m_database.data();
@@ -237,4 +239,8 @@ void OdDbUndo::play(VarSet& change, bool) {
   data.tell([&](OdDbDatabaseReactor& r) {
     r.headerSysVarChanged(m_database, QLatin1String(oddbHeaderVars()[i].name));
   });
+}
+
+bool oddb::recordVariables(OdDbDatabase& database, bool on) {
+  return database.data().undo.recordVariables(on);
 }

@@ -36,6 +36,7 @@ class OdDbUndo {
   void appended(OdDbStub& stub);
   void willErase(OdDbStub& stub);
   void willSetVar(int index);
+  bool recordVariables(bool on) { return std::exchange(m_recordsVariables, on); }
 
  private:
   struct Modified {
@@ -85,5 +86,6 @@ class OdDbUndo {
   std::uint64_t m_record = 0;            ///< changes when marks lose their meaning
   std::uint64_t m_unrecordedHandles = 0; ///< handles below may belong to objects of no step
   bool m_recording = false;
+  bool m_recordsVariables = true;
   bool m_open = false; ///< the last step done is the one under way
 };

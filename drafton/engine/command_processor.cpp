@@ -244,6 +244,7 @@ IHostUserInput::Result CommandProcessor::getString(unsigned flags, const OdStrin
 }
 
 void CommandProcessor::waitWhile(const std::function<bool()>& pending) {
+  const oddb::VariableRecording paused = recordVariables(false);
   while (pending())
     if (!m_engine.step() && !m_engine.waitForInput()) cancel();
 }
@@ -280,7 +281,7 @@ bool CommandProcessor::start(const RegisteredCommandPtr& command, IMemParam* par
   frame.succeeded = succeeded;
   openUndoStep(frame);
   frame.isRunning = true;
-  m_engine.events().fire([&](HostEditorReactor& r) { r.commandWillStart(command->name); });
+  tell([&](HostEditorReactor& r) { r.commandWillStart(command->name); });
   runBody(frame);
   return true;
 }
@@ -302,6 +303,7 @@ void CommandProcessor::runBody(Frame& frame) {
 }
 
 int CommandProcessor::runModuleCommand(Frame& frame) {
+  const oddb::VariableRecording recording = recordVariables(true);
   if (frame.command->function) {
     frame.command->function();
     return 0;
@@ -319,7 +321,10 @@ int CommandProcessor::runModuleCommand(Frame& frame) {
 
 void CommandProcessor::resume(Frame& frame, const std::function<void()>& step) {
   frame.isRunning = true;
-  step();
+  {
+    const oddb::VariableRecording recording = recordVariables(true);
+    step();
+  }
   frame.isRunning = false;
   if (!frame.task.isDone()) {
     if (frame.isCancelled) return finish(Outcome::kCancelled, {});
@@ -348,7 +353,7 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
   if (outcome == Outcome::kFailed) trouble(message);
 
   const OdString& name = frame->command->name;
-  m_engine.events().fire([&](HostEditorReactor& r) {
+  tell([&](HostEditorReactor& r) {
     if (outcome == Outcome::kEnded) r.commandEnded(name);
     if (outcome == Outcome::kFailed) r.commandFailed(name);
     // One cancel is one event, that of the outermost command: what it ran ends with it. A module
@@ -390,6 +395,16 @@ void CommandProcessor::closeUndoStep(const Frame& frame, Outcome outcome) {
     m_document->forgetHatchChanges();
   }
   m_document->resumeLockStep();
+}
+
+oddb::VariableRecording CommandProcessor::recordVariables(bool on) const {
+  return oddb::VariableRecording(m_document ? m_document->database() : nullptr, on);
+}
+
+void CommandProcessor::tell(const std::function<void(HostEditorReactor&)>& event) const {
+  // What is put back after a command is no part of it.
+  const oddb::VariableRecording paused = recordVariables(false);
+  m_engine.events().fire(event);
 }
 
 void CommandProcessor::deliverChanges() const {

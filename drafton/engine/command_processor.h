@@ -3,12 +3,15 @@
 
 #include "drafton/engine/command_registry.h"
 #include "drafton/engine/key_queue.h"
+#include "drawing/variable_recording.h"
 #include "host/document.h"
 #include "host/user_input.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
+
+class HostEditorReactor;
 
 namespace drafton {
 
@@ -78,6 +81,9 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   void closeUndoStep(const Frame& frame, Outcome outcome);
   /// Tells the drawing's reactors what an input has changed.
   void deliverChanges() const;
+  /// Changes of the drawing's variables are part of a command's step where its own code makes them.
+  oddb::VariableRecording recordVariables(bool on) const;
+  void tell(const std::function<void(HostEditorReactor&)>& event) const;
   void waitWhile(const std::function<bool()>& pending);
   void trouble(const OdString& text);
 

@@ -1,6 +1,7 @@
 #include "drafton/engine/document.h"
 
 #include "drafton/engine/engine.h"
+#include "drawing/variable_recording.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 
@@ -14,6 +15,8 @@ Document::Document(Engine& engine, OdDbDatabasePtr database, OdString name)
   , m_hatchKeeper(*m_database)
   , m_processor(engine, this) {
   m_database->addReactor(this);
+  // What changes outside of commands is lent and put back.
+  oddb::recordVariables(*m_database, false);
 }
 
 Document::~Document() { m_database->removeReactor(this); }

@@ -18,6 +18,14 @@ class CommandProcessorTest : public EngineFixture {
     return count;
   }
   bool isIdle() { return !document().processor().isBusy(); }
+  void addLayer(const char16_t* name) {
+    auto layer = odrxMake<OdDbLayerTableRecord>();
+    layer->setName(OdString::fromUtf16(name));
+    database().getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(layer);
+  }
+  bool hasLayer(const char16_t* name) {
+    return database().getLayerTableId().openAs<OdDbLayerTable>()->has(OdString::fromUtf16(name));
+  }
 };
 
 struct AnswerRow {
@@ -249,11 +257,11 @@ TEST_F(CommandProcessorTest, ALockGoesOnWithItsStepBehindACommand) {
   ASSERT_TRUE(documents.lockDocument(&document(), IHostDocumentManager::kWriteLock,
                                      QStringLiteral("EXECUTETOOL"), nullptr, 1));
   EXPECT_TRUE(document().processor().run(QStringLiteral("NESTFAIL"), nullptr));
-  variables().set(QStringLiteral("TEXTSIZE"), 7.0);
+  addLayer(u"Lent");
   documents.unlockDocument(&document());
   EXPECT_EQ(database().undoName(), QStringLiteral("EXECUTETOOL"));
   database().undo();
-  EXPECT_EQ(variable("TEXTSIZE").toDouble(), 2.5);
+  EXPECT_FALSE(hasLayer(u"Lent"));
   EXPECT_EQ(database().undoName(), QStringLiteral("NESTFAIL"));
 }
 
@@ -318,14 +326,32 @@ TEST_F(CommandProcessorTest, ALockGoesBeforeTheStepOfACommandThatIsAboutToBeCanc
   DocumentManager& documents = engine().documents();
   ASSERT_TRUE(documents.lockDocument(&document(), IHostDocumentManager::kWriteLock,
                                      QStringLiteral("EXECUTETOOL"), nullptr, 1));
+  addLayer(u"Lent");
   variables().set(QStringLiteral("TEXTSIZE"), 7.0);
   documents.unlockDocument(&document());
   engine().run();
   EXPECT_TRUE(isIdle());
   EXPECT_EQ(entityCount(), 0u);
   EXPECT_EQ(variable("TEXTSIZE").toDouble(), 7.0);
+  EXPECT_TRUE(hasLayer(u"Lent"));
   EXPECT_EQ(database().undoName(), QStringLiteral("EXECUTETOOL"));
   EXPECT_EQ(events({QStringLiteral("cancelled")}).size(), 1);
+}
+
+TEST_F(CommandProcessorTest, AValueThatIsLentIsNoPartOfAnyStep) {
+  variables().set(QStringLiteral("TEXTSIZE"), 7.0);
+  type(QStringLiteral("DRAW 0,0 1,1 "));
+  variables().set(QStringLiteral("TEXTSIZE"), 2.5);
+  type(QStringLiteral("^C"));
+  EXPECT_EQ(variable("TEXTSIZE").toDouble(), 2.5) << "a cancel leaves what was put back";
+  EXPECT_EQ(database().undoDepth(), 0u);
+}
+
+TEST_F(CommandProcessorTest, AValueThatACommandSetsIsPartOfItsStep) {
+  type(QStringLiteral("SETVAR TEXTSIZE 7\n"));
+  EXPECT_EQ(database().undoName(), QStringLiteral("SETVAR"));
+  database().undo();
+  EXPECT_EQ(variable("TEXTSIZE").toDouble(), 2.5);
 }
 
 TEST_F(CommandProcessorTest, ADocumentThatIsNotOpenCannotBeLocked) {

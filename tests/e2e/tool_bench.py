@@ -1,0 +1,82 @@
+"""What the tests of running tools share: catalogs, runs of `drafton batch`, and what ezdxf reads of
+the drawings that come of them."""
+
+import pathlib
+import subprocess
+import tempfile
+import uuid
+import xml.sax.saxutils
+
+import ezdxf
+
+CATALOG = """<Catalog><ItemID idValue="{%s}"/><Palettes><Palette><ItemID idValue="{%s}"/>
+<Url href="Palettes\\palette.dtc"/></Palette></Palettes><Groups><ToolPaletteGroup>
+<ItemID idValue="{%s}"/><Contents><ToolPalette ID="{%s}"/></Contents></ToolPaletteGroup></Groups>
+</Catalog>"""
+
+
+def fresh_id():
+    return str(uuid.uuid4()).upper()
+
+
+class Xml(str):
+    """Contents of an element that are XML already."""
+
+
+def elements(fields):
+    """Elements of that names, with text or XML in them."""
+    return "".join(
+        f"<{name}>{value if isinstance(value, Xml) else xml.sax.saxutils.escape(str(value))}</{name}>"
+        for name, value in fields.items())
+
+
+class Bench:
+    """A folder for one test, with the programs of a build."""
+
+    def __init__(self, programs):
+        self.programs = pathlib.Path(programs)
+        self._folder = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self._folder.name)
+
+    def close(self):
+        self._folder.cleanup()
+
+    def path(self, name):
+        return self.folder / name
+
+    def write_catalog(self, tools):
+        """A catalog with one palette; `tools` gives (name, agent's element, its fields, XML of
+        general properties)."""
+        palette = fresh_id()
+        rows = "".join(
+            f'<Tool><ItemID idValue="{{{fresh_id()}}}"/><Properties><ItemName>{name}</ItemName>'
+            f"</Properties><ToolType>1</ToolType><Data><GeneralProperties>{general}"
+            f"</GeneralProperties><{agent}>{elements(fields)}</{agent}></Data></Tool>"
+            for name, agent, fields, general in tools)
+        (self.folder / "c" / "Palettes").mkdir(parents=True, exist_ok=True)
+        (self.folder / "c" / "Palettes" / "palette.dtc").write_text(
+            f'<Palette><ItemID idValue="{{{palette}}}"/><Properties><ItemName>P</ItemName>'
+            f"</Properties><Tools>{rows}</Tools></Palette>", encoding="utf-8")
+        (self.folder / "c" / "DrfTcCatalog.dtc").write_text(
+            CATALOG % (fresh_id(), palette, fresh_id(), palette), encoding="utf-8")
+
+    def run(self, script, drawing=None, out="out.dxf"):
+        """Runs a script over the catalog; the finished process, its output as text."""
+        words = [self.programs / "drafton", "batch", "--profile", self.path("profile.ini"),
+                 "--catalogs", self.path("c"), "--out", self.path(out)]
+        if drawing:
+            words.append(self.path(drawing))
+        return subprocess.run([str(word) for word in words], input=script, text=True,
+                              encoding="utf-8", capture_output=True, timeout=120)
+
+    def read(self, name="out.dxf"):
+        """The drawing, after an audit that must find nothing."""
+        document = ezdxf.readfile(self.path(name))
+        errors = document.audit().errors
+        if errors:
+            raise AssertionError("; ".join(error.message for error in errors))
+        return document
+
+    def stored(self, name):
+        """A path as catalogs have it."""
+        return str(self.path(name)).replace("/", "\\")

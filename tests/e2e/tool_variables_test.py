@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+"""A run of a tool leaves no value behind, however it ends: all variables of the host are compared
+before and after runs that end well, are cancelled at each of their prompts, fail, or give way to
+another tool.
+
+Usage: tool_variables_test.py PROGRAMS [unittest's arguments]
+"""
+
+import re
+import sys
+import unittest
+
+import ezdxf
+
+import tool_bench
+from tool_fields_test import write_picture, write_source
+
+# What drawing itself changes, and what tells of time.
+MOVED_BY_DRAWING = re.compile(
+    "LASTPOINT|LASTANGLE|EXTM|PEXTM|HANDSEED|TD|INSNAME|HPORIGIN|CDATE|DATE|MILLISECS|DBMOD|CMD")
+
+# Values that no tool sets, so that one that is not put back shows.
+SETUP = """SETVAR HPNAME ANSI37
+SETVAR HPANG 0.25
+SETVAR HPSCALE 3
+SETVAR HPDOUBLE 1
+SETVAR HPSPACE 7
+SETVAR GFNAME 3
+SETVAR GFANG 0.5
+SETVAR GFSHIFT 1
+SETVAR ATTREQ 0
+SETVAR LTSCALE 2
+SETVAR CELTSCALE 3
+SETVAR CECOLOR 5
+RECTANG 0,0 100,80
+"""
+
+GENERAL = (
+    '<Color><BasicPropInfo><PropValue unspecified="FALSE"/></BasicPropInfo>'
+    '<ColorCreateInfo><AcCmColor mRGB="3271557121"/></ColorCreateInfo></Color>'
+    '<LinetypeScale><BasicPropInfo><PropValue unspecified="FALSE"/></BasicPropInfo>'
+    "<LTScaleCreateInfo><Scale>5</Scale></LTScaleCreateInfo></LinetypeScale>")
+
+
+def variables(output):
+    """The lists that SETVAR printed, one after the other."""
+    lists = []
+    for line in output.splitlines():
+        found = re.match(r"([A-Z][A-Za-z0-9]+) {1,}(.*)$", line)
+        if not found:
+            continue
+        name, value = found.groups()
+        if name == "ACADVER":
+            lists.append({})
+        if lists and not MOVED_BY_DRAWING.match(name):
+            lists[-1][name] = value.strip()
+    return lists
+
+
+class ToolVariables(unittest.TestCase):
+    def setUp(self):
+        self.bench = tool_bench.Bench(PROGRAMS)
+        self.addCleanup(self.bench.close)
+        write_source(self.bench.path("source.dxf"))
+        write_picture(self.bench.path("photo.png"), 40, 20)
+        source, photo = self.bench.stored("source.dxf"), self.bench.stored("photo.png")
+        block = {"BlockType": 1, "BlockName": "Tag", "SourceFile": source, "Scale": 2,
+                 "PromptRotation": "TRUE", "PromptAttributes": "TRUE"}
+        self.bench.write_catalog([
+            ("Block", "Block", block, GENERAL),
+            ("LostBlock", "Block", {**block, "SourceFile": "C:\\no.dxf"}, GENERAL),
+            ("NoBlock", "Block", {**block, "BlockName": "Nothing"}, GENERAL),
+            ("Xref", "Block", {"BlockType": 2, "InsertAs": 2, "XrefType": 1, "SourceFile": source,
+                               "Scale": 1, "PromptRotation": "TRUE"}, GENERAL),
+            ("Hatch", "Hatch", {"hatchObjectType": 0, "HatchType": 1, "PatternName": "BRICK",
+                                "Scale": 2, "Angle": 1, "Spacing": 4, "Double": "FALSE"}, GENERAL),
+            ("NoPattern", "Hatch", {"hatchObjectType": 0, "HatchType": 1,
+                                    "PatternName": "NOTHING", "Scale": 2}, GENERAL),
+            ("Gradient", "Hatch", {"hatchObjectType": 1, "GradientName": "CURVED",
+                                   "GradientAngle": 1, "GradientCentered": "TRUE"}, GENERAL),
+            ("Raster", "Raster", {"RasterName": "P", "SourceFile": photo, "Scale": 4}, GENERAL),
+            ("LostRaster", "Raster", {"RasterName": "P", "SourceFile": "C:\\no.png"}, GENERAL),
+            ("Line", "Command", {"Macro": "_LINE \\\\;"}, GENERAL)])
+
+    # The answers that bring each tool to its end.
+    ANSWERS = {
+        "Block": ["5,6", "30", "12"],
+        "Xref": ["5,6", "30"],
+        "Hatch": ["50,40", ""],
+        "Gradient": ["50,40", ""],
+        "Raster": ["5,6"],
+        "Line": ["1,1", "2,2"],
+        "LostBlock": [],
+        "NoBlock": [],
+        "LostRaster": [],
+    }
+
+    def values_after(self, script, fails=False):
+        run = self.bench.run(f"{SETUP}SETVAR ?\n\n{script}SETVAR ?\n\n")
+        self.assertEqual(run.returncode, 1 if fails else 0, run.stdout[-1500:] + run.stderr)
+        lists = variables(run.stdout)
+        self.assertEqual(len(lists), 2, run.stdout[-1500:])
+        self.assertGreater(len(lists[0]), 150)
+        return lists
+
+    def assert_nothing_is_left(self, script):
+        before, after = self.values_after(script)
+        self.assertEqual({k: v for k, v in after.items() if before.get(k) != v}, {})
+
+    def test_is_compared_with_care(self):
+        before, after = self.values_after("SETVAR HPSPACE 9\n")
+        self.assertNotEqual(before, after)
+        for name in ("HPNAME", "HPANG", "HPSCALE", "HPDOUBLE", "HPSPACE", "HPCOLOR", "GFNAME",
+                     "GFANG", "GFSHIFT", "GFCLR1", "GFCLR2", "ATTREQ", "CECOLOR", "CELTSCALE",
+                     "CLAYER", "DIMSCALE"):
+            self.assertIn(name, before)
+
+    def test_a_run_to_its_end(self):
+        for tool, answers in self.ANSWERS.items():
+            with self.subTest(tool):
+                self.assert_nothing_is_left(
+                    f"TOOL:{tool}\n" + "".join(answer + "\n" for answer in answers))
+
+    def test_cancelled_at_each_prompt(self):
+        for tool, answers in self.ANSWERS.items():
+            for count in range(len(answers)):
+                with self.subTest(tool=tool, prompt=count + 1):
+                    self.assert_nothing_is_left(
+                        f"TOOL:{tool}\n" + "".join(a + "\n" for a in answers[:count]) + "^C\n")
+
+    def test_replaced_by_another_tool_at_each_prompt(self):
+        for tool, answers in self.ANSWERS.items():
+            for count in range(len(answers)):
+                for other in ("Hatch", "Block", "Gradient", "Line"):
+                    with self.subTest(tool=tool, prompt=count + 1, other=other):
+                        self.assert_nothing_is_left(
+                            f"TOOL:{tool}\n" + "".join(a + "\n" for a in answers[:count]) +
+                            f"TOOL:{other}\n" +
+                            "".join(a + "\n" for a in self.ANSWERS[other]))
+
+    def test_replaced_and_then_cancelled(self):
+        for tool in ("Block", "Hatch", "Gradient", "Line"):
+            for other in ("Hatch", "Block", "Gradient", "Line"):
+                with self.subTest(tool=tool, other=other):
+                    self.assert_nothing_is_left(f"TOOL:{tool}\nTOOL:{other}\n^C\n")
+
+    def test_undone(self):
+        for tool, answers in self.ANSWERS.items():
+            if answers:
+                with self.subTest(tool):
+                    self.assert_nothing_is_left(
+                        f"TOOL:{tool}\n" + "".join(a + "\n" for a in answers) + "U\n")
+
+
+if __name__ == "__main__":
+    PROGRAMS = sys.argv.pop(1) if len(sys.argv) > 1 else "."
+    unittest.main()
