@@ -1,5 +1,6 @@
 #include "drafton/engine/document.h"
 
+#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
 #include "drawing/variable_recording.h"
 #include "frame/file_path.h"
@@ -71,7 +72,7 @@ void Document::save(const OdString& path) {
                    u"it. Save the drawing under another name.")
             .arg(path, lostBySaving().join(QStringLiteral(", "))));
   keepBackup(path);
-  m_database->writeFile(path);
+  writeDrawing(m_engine, *m_database, path);
   m_database->setFileName(path);
   m_database->setSaved();
 }

@@ -1,3 +1,4 @@
+#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
@@ -35,8 +36,9 @@ Task<> askAndSave(CommandContext& context, Document& document) {
   const Answer<OdString> answer = co_await context.input().string(
       {.text = u"Enter the file name", .allowBlanks = true, .defaultValue = preset});
   const OdString path = drawingPath(answer.value);
-  if (odpath::extensionOf(path) != QLatin1String("dxf"))
-    throw CommandFailure(translated(u"%1: drawings are saved as .dxf files.").arg(shown(path)));
+  if (!isDrawingName(path))
+    throw CommandFailure(
+        translated(u"%1: drawings are saved as .dxf or .dwg files.").arg(shown(path)));
   const bool isOwn = !current.isEmpty() && odpath::samePlace(path, current);
   if (!isOwn && odrxSystemServices()->fileExists(path)) {
     const OdString question = translated(u"%1 exists. Replace it?").arg(shown(path));

@@ -1,5 +1,6 @@
 #include "drafton/engine/document_manager.h"
 
+#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 
@@ -44,7 +45,7 @@ Document& DocumentManager::open(const OdString& path) {
     activate(*known);
     return *known;
   }
-  OdDbDatabasePtr database = OdDbDatabase::readFile(path);
+  OdDbDatabasePtr database = readDrawing(m_engine, path);
   Document& opened = add(std::make_unique<Document>(m_engine, std::move(database), OdString()));
   tellDamage(opened, path);
   return opened;

@@ -1,0 +1,24 @@
+// Drawings from and into files of all kinds that Drafton handles.
+#pragma once
+
+#include "drawing/database.h"
+
+namespace drafton {
+
+class Engine;
+
+/// True for the kinds that have to be converted (".dwg").
+bool isConvertedDrawing(const OdString& path);
+/// True if drawings can be saved under that name, by its extension.
+bool isDrawingName(const OdString& path);
+
+/// Reads a drawing; `path` is its file from then on. What is no DXF goes through the converter that
+/// the setting "DwgConverter" names. Raises OdFileError, which names `path`.
+OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path);
+
+/// Writes the drawing. A file that has to be converted takes the place of the former one when it is
+/// whole. The setting "DwgConverterForSaving" names the converter, "DwgConverter" if it is not set.
+/// Raises OdFileError, which names `path`; the former file is then untouched.
+void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path);
+
+} // namespace drafton

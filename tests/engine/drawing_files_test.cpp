@@ -1,0 +1,221 @@
+// Drawings that are converted by other programs.
+#include "drafton/engine/drawing_files.h"
+
+#include "engine/support/engine_fixture.h"
+#include "engine/support/test_commands.h"
+#include "frame/file_path.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace drafton;
+
+namespace {
+
+class DrawingFilesTest : public EngineFixture {
+ protected:
+  DrawingFilesTest() {
+    engine().commands().add(testCommands());
+    QDir().mkpath(path("tmp"));
+    qputenv("TMPDIR", path("tmp").toLocal8Bit());
+  }
+  ~DrawingFilesTest() override { qputenv("TMPDIR", m_tmp); }
+
+  OdString path(const char* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+  QByteArray bytesOf(const OdString& file) {
+    QFile f(file);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+  }
+  void put(const OdString& file, const QByteArray& bytes) {
+    QFile f(file);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
+  }
+  void draw() { type(QStringLiteral("DRAW 0,0 10,10 \n")); }
+  void set(const char* name, const OdString& value) {
+    engine().application().setSetting(QString::fromLatin1(name), value);
+  }
+  /// Makes `script` the converter: $1 is what it gets, $2 what it is to make.
+  OdString converter(const char* script, const char* name = "convert it.sh") {
+    put(path(name), script);
+    return QStringLiteral("sh \"%1\" {input} {output}").arg(path(name));
+  }
+  void setConverter(const char* script) { set("DwgConverter", converter(script)); }
+  void open(const char* name) { type(QStringLiteral("OpenDocument \"%1\"\n").arg(path(name))); }
+  void saveAs(const char* name) { type(QStringLiteral("SaveAs \"%1\"\n").arg(path(name))); }
+  std::size_t openDocuments() { return engine().documents().documents().size(); }
+  bool nothingIsLeft() { return QDir(path("tmp")).isEmpty(); }
+
+  /// A file that stands for a foreign drawing: the converters here only copy.
+  void putForeign(const char* name) {
+    const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
+    put(path(name), db->writeDxf());
+  }
+
+ private:
+  QTemporaryDir m_folder;
+  QByteArray m_tmp = qgetenv("TMPDIR");
+};
+
+constexpr const char* kCopies = "cp \"$1\" \"$2\"\n";
+
+/// A converter that does not do what it should, and what is then told.
+struct Failure {
+  const char* script;
+  const char* told;
+};
+constexpr Failure kFailures[] = {
+    {"echo the licence has expired >&2\nexit 7\n", "failed with exit code 7. It said: the licence"},
+    {"echo on standard output; exit 1\n", "It said: on standard output"},
+    {"exit 0\n", "made no file"},
+    {": > \"$2\"\n", "made no file"},
+    {"mkdir \"$2\"\n", "made no file"},
+    {"kill -9 $$\n", "crashed"},
+    {"rm -f \"$1\"; echo spoilt > \"$1\"; exit 3\n", "failed with exit code 3"},
+    {"cp \"$1\" \"$2\"; exit 4\n", "failed with exit code 4"},
+};
+
+} // namespace
+
+TEST_F(DrawingFilesTest, WithoutAConverterAMessageSaysHowToSetOne) {
+  putForeign("plan.dwg");
+  const QByteArray before = bytesOf(path("plan.dwg"));
+  open("plan.dwg");
+  EXPECT_EQ(events().last(), QStringLiteral("failed OpenDocument"));
+  for (const char* word : {"plan.dwg", "SETTING", "DwgConverter", "{input}", "{output}"})
+    EXPECT_TRUE(console().shows(QLatin1String(word))) << word;
+  console().clear();
+  draw();
+  saveAs("other.dwg");
+  EXPECT_EQ(events().last(), QStringLiteral("failed SaveAs"));
+  EXPECT_TRUE(console().shows(QStringLiteral("DwgConverter")));
+  EXPECT_FALSE(QFile::exists(path("other.dwg")));
+  EXPECT_EQ(bytesOf(path("plan.dwg")), before);
+  EXPECT_TRUE(nothingIsLeft());
+}
+
+TEST_F(DrawingFilesTest, OpensAndSavesThroughTheConverter) {
+  setConverter(kCopies);
+  draw();
+  saveAs("a plan 'of' mine.dwg");
+  ASSERT_TRUE(QFile::exists(path("a plan 'of' mine.dwg"))) << output().toStdString();
+  EXPECT_FALSE(document().isModified());
+  EXPECT_EQ(document().name(), QStringLiteral("a plan 'of' mine.dwg"));
+  type(QStringLiteral("CloseDocument\n"));
+  open("a plan 'of' mine.dwg");
+  const OdString file = path("a plan 'of' mine.dwg");
+  EXPECT_EQ(odpath::toPlatform(document().path()), file);
+  EXPECT_FALSE(database().extents().isEmpty());
+  const QByteArray before = bytesOf(file);
+  draw();
+  type(QStringLiteral("Save\n"));
+  EXPECT_GT(bytesOf(file).size(), before.size());
+  EXPECT_TRUE(nothingIsLeft());
+}
+
+TEST_F(DrawingFilesTest, SavingMayHaveAConverterOfItsOwn) {
+  set("DwgConverter", converter("exit 1\n", "open.sh"));
+  set("DwgConverterForSaving", converter(kCopies, "save.sh"));
+  saveAs("a.dwg");
+  EXPECT_TRUE(QFile::exists(path("a.dwg"))) << output().toStdString();
+}
+
+TEST_F(DrawingFilesTest, ConvertersMayWorkOnFolders) {
+  put(path("folders.sh"), "cp \"$1\"/*.d* \"$2/plan.dxf\"\n");
+  set("DwgConverter",
+      QStringLiteral("sh \"%1\" {inputfolder} {outputfolder}").arg(path("folders.sh")));
+  putForeign("plan.dwg");
+  open("plan.dwg");
+  EXPECT_EQ(document().name(), QStringLiteral("plan.dwg")) << output().toStdString();
+}
+
+TEST_F(DrawingFilesTest, AFailedConverterIsNamedAndTheFormerFileStays) {
+  putForeign("plan.dwg");
+  const QByteArray before = bytesOf(path("plan.dwg"));
+  for (const Failure& failure : kFailures) {
+    setConverter(failure.script);
+    console().clear();
+    open("plan.dwg");
+    EXPECT_EQ(events().last(), QStringLiteral("failed OpenDocument")) << failure.script;
+    EXPECT_TRUE(console().shows(QStringLiteral("plan.dwg")));
+    EXPECT_TRUE(console().shows(QStringLiteral("the converter sh")));
+    EXPECT_TRUE(console().shows(QLatin1String(failure.told))) << output().toStdString();
+    EXPECT_EQ(openDocuments(), 1u);
+
+    console().clear();
+    draw();
+    type(QStringLiteral("SaveAs \"%1\"\ny\n").arg(path("plan.dwg")));
+    EXPECT_EQ(events().last(), QStringLiteral("failed SaveAs")) << failure.script;
+    EXPECT_TRUE(console().shows(QLatin1String(failure.told))) << output().toStdString();
+    EXPECT_TRUE(document().isModified());
+    EXPECT_EQ(document().name(), QStringLiteral("Drawing1.dxf"));
+    EXPECT_EQ(bytesOf(path("plan.dwg")), before) << failure.script;
+    EXPECT_TRUE(nothingIsLeft()) << failure.script;
+  }
+}
+
+TEST_F(DrawingFilesTest, AConverterThatIsNotThereIsNamed) {
+  putForeign("plan.dwg");
+  set("DwgConverter", QStringLiteral("no-such-converter {input} {output}"));
+  open("plan.dwg");
+  EXPECT_TRUE(console().shows(QStringLiteral("the converter no-such-converter does not start")))
+      << output().toStdString();
+}
+
+TEST_F(DrawingFilesTest, ACommandLineWithoutBothFilesIsRefused) {
+  putForeign("plan.dwg");
+  for (const char* line : {"cp {input}", "cp {output}", "{", "\"\""}) {
+    set("DwgConverter", QString::fromLatin1(line));
+    console().clear();
+    open("plan.dwg");
+    EXPECT_TRUE(console().shows(QStringLiteral("has to hold {input} and {output}"))) << line;
+  }
+}
+
+TEST_F(DrawingFilesTest, AConverterThatDoesNotEndIsStopped) {
+  putForeign("plan.dwg");
+  setConverter("echo working\nexec sleep 1000\n");
+  set("DwgConverterSeconds", QStringLiteral("1"));
+  open("plan.dwg");
+  EXPECT_TRUE(console().shows(QStringLiteral("did not end within 1 seconds")))
+      << output().toStdString();
+  EXPECT_TRUE(console().shows(QStringLiteral("It said: working")));
+  EXPECT_TRUE(nothingIsLeft());
+}
+
+TEST_F(DrawingFilesTest, AConversionCanBeCancelled) {
+  putForeign("plan.dwg");
+  setConverter("exec sleep 1000\n");
+  type(QStringLiteral("OpenDocument \"%1\"\n^C").arg(path("plan.dwg")));
+  EXPECT_TRUE(console().shows(QStringLiteral("the conversion was cancelled")))
+      << output().toStdString();
+  EXPECT_EQ(openDocuments(), 1u);
+}
+
+TEST_F(DrawingFilesTest, WhatAConverterMakesHasToBeADrawing) {
+  putForeign("plan.dwg");
+  setConverter("echo no drawing > \"$2\"\n");
+  open("plan.dwg");
+  EXPECT_EQ(events().last(), QStringLiteral("failed OpenDocument"));
+  EXPECT_TRUE(console().shows(QStringLiteral("plan.dwg:1: this is not a DXF drawing")))
+      << output().toStdString();
+}
+
+TEST_F(DrawingFilesTest, AConverterThatTalksWithoutEndIsHeardToItsEnd) {
+  setConverter("yes bad news | head -c 3000000\necho last words\nexit 9\n");
+  putForeign("plan.dwg");
+  open("plan.dwg");
+  EXPECT_TRUE(console().shows(QStringLiteral("last words")));
+  EXPECT_LT(output().size(), 10'000);
+}
+
+TEST_F(DrawingFilesTest, AFolderIsNoDrawing) {
+  setConverter(kCopies);
+  QDir().mkpath(path("folder.dwg"));
+  open("folder.dwg");
+  EXPECT_TRUE(console().shows(QStringLiteral("it is not a file")));
+  saveAs("folder.dwg");
+  EXPECT_TRUE(QDir(path("folder.dwg")).exists());
+  open("none.dwg");
+  EXPECT_TRUE(console().shows(QStringLiteral("there is no such file")));
+}
