@@ -24,9 +24,11 @@
 #include "drawing/objects/image_def.h"
 #include "drawing/objects/layout.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/res_buf.h"
 
 #define CLASS(Class, Parent) ODRX_DEFINE_MEMBERS(Class, Parent, #Class)
 
+CLASS(OdResBuf, OdRxObject);
 CLASS(OdDbObject, OdRxObject);
 CLASS(OdDbEntity, OdDbObject);
 CLASS(OdDbCurve, OdDbEntity);
@@ -114,7 +116,7 @@ void addAll() {
 
 /// Registers the classes when the library is loaded, bases before what derives from them.
 const bool g_registered = [] {
-  addAll<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
+  addAll<OdResBuf, OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbPolyline,
          OdDbEllipse, OdDbSpline, OdDb2dPolyline, OdDbLeader, OdDbVertex, OdDbPoint, OdDbSolid,
          OdDbTrace, OdDbFace, OdDbXline, OdDbRay, OdDbMText, OdDbText, OdDbAttributeText,
          OdDbAttributeDefinition, OdDbAttribute, OdDbBlockReference, OdDbHatch, OdDbDimension,

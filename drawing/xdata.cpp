@@ -1,7 +1,10 @@
 #include "drawing/xdata.h"
 
-#include "drawing/database.h"
+#include "drawing/database_data.h"
 #include "drawing/dxf/residue.h"
+#include "drawing/dxf/text.h"
+
+#include <QStringDecoder>
 
 namespace {
 
@@ -47,7 +50,23 @@ void oddb::setXData(OdDbObject& object, const char* application, const Tags& tag
   }
   object.editResidue().xdata = kept.lines();
   if (object.database() && !tags.empty())
-    registerApplication(*object.database(), QLatin1String(application));
+    registerApplication(*object.database(), textOfKept(application, object.database()));
+}
+
+QByteArray oddb::keptText(const OdString& text) {
+  QByteArray bytes;
+  for (const QChar c : text) {
+    if (c >= u' ' && c <= u'~')
+      bytes += static_cast<char>(c.unicode());
+    else
+      bytes += "\\U+" + QByteArray::number(c.unicode(), 16).rightJustified(4, '0').toUpper();
+  }
+  return bytes;
+}
+
+OdString oddb::textOfKept(const QByteArray& line, const OdDbDatabase* database) {
+  QStringDecoder decoder(database ? database->data().encoding.constData() : "UTF-8");
+  return oddxf::withoutEscapes(decoder.decode(line));
 }
 
 void oddb::registerApplications(const OdDbObject& object) {

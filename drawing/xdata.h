@@ -12,6 +12,10 @@ std::vector<OdDbKeptTags::Tag> xdataOf(const OdDbObject& object, const char* app
 /// table.
 void setXData(OdDbObject& object, const char* application,
               const std::vector<OdDbKeptTags::Tag>& tags);
+/// A text as kept lines have it, whatever the code page of their file: all but plain characters by
+/// their numbers. And back; `database` is that of the lines, null outside of every drawing.
+QByteArray keptText(const OdString& text);
+OdString textOfKept(const QByteArray& line, const OdDbDatabase* database);
 /// Enters the applications of an object that came to a drawing.
 void registerApplications(const OdDbObject& object);
 

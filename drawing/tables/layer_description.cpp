@@ -4,8 +4,7 @@
 #include "drawing/dxf/kept_tags.h"
 #include "drawing/dxf/residue.h"
 #include "drawing/dxf/text.h"
-
-#include <QStringDecoder>
+#include "drawing/xdata.h"
 
 namespace {
 
@@ -33,19 +32,6 @@ Range rangeIn(std::vector<OdDbKeptTags::Tag>& tags) {
   return {name, name + 1, std::find_if(name + 1, tags.end(), isName)};
 }
 
-/// All but plain characters by their numbers: kept lines are read in whatever code page the file
-/// has.
-QByteArray escaped(const OdString& text) {
-  QByteArray bytes;
-  for (const QChar c : text) {
-    if (c >= u' ' && c <= u'~')
-      bytes += static_cast<char>(c.unicode());
-    else
-      bytes += "\\U+" + QByteArray::number(c.unicode(), 16).rightJustified(4, '0').toUpper();
-  }
-  return bytes;
-}
-
 } // namespace
 
 OdString OdDbLayerTableRecord::description() const {
@@ -54,8 +40,7 @@ OdString OdDbLayerTableRecord::description() const {
   const Range range = rangeIn(tags.tags);
   const auto text = range.text();
   if (text == range.end) return {};
-  QStringDecoder decoder(database() ? database()->data().encoding.constData() : "UTF-8");
-  return oddxf::withoutEscapes(decoder.decode(text->value));
+  return oddb::textOfKept(text->value, database());
 }
 
 void OdDbLayerTableRecord::setDescription(const OdString& text) {
@@ -69,10 +54,10 @@ void OdDbLayerTableRecord::setDescription(const OdString& text) {
     range = rangeIn(tags.tags);
   }
   if (const auto at = range.text(); at != range.end) {
-    at->value = escaped(line);
+    at->value = oddb::keptText(line);
   } else {
     // The first text is the name of the standard that the layer follows.
-    std::vector<OdDbKeptTags::Tag> added{{kTextCode, escaped(line)}};
+    std::vector<OdDbKeptTags::Tag> added{{kTextCode, oddb::keptText(line)}};
     const bool hasFirst = std::any_of(
         range.begin, range.end, [](const OdDbKeptTags::Tag& tag) { return tag.code == kTextCode; });
     if (!hasFirst) added.insert(added.begin(), {kTextCode, QByteArray()});
