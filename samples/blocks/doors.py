@@ -188,5 +188,5 @@ def rows():
     return made
 
 
-LIBRARY = Library("doors", "Doors, plan 1:50", "A-DOOR", 34, rows(), columns=5, text=110,
+LIBRARY = Library("doors", "Doors, plan 1:50", "A-DOOR", 32, rows(), columns=5, text=110,
                   weight=0.25)

@@ -283,5 +283,5 @@ BLOCKS = [
     Block("KITCHEN-ISLAND", "2400 x 1000", island),
 ]
 
-LIBRARY = Library("furniture", "Furniture and kitchens, plan 1:50", "A-FURNITURE", 252, BLOCKS,
+LIBRARY = Library("furniture", "Furniture and kitchens, plan 1:50", "A-FURNITURE", 8, BLOCKS,
                   columns=6, text=110, weight=0.18)

@@ -57,11 +57,11 @@ def spot_level(s):
 
 
 def room_label(s):
-    s.attribute("NAME", "Name of the room", "Room", (0, 4.5), 3.5)
-    s.line((-12, 2), (12, 2))
-    s.attribute("AREA", "Area", "0.00 m2", (0, -0.6), 2.5)
-    s.attribute("FLOOR", "Floor finish", "oak", (0, -4.4), 2)
-    s.attribute("NUMBER", "Number of the room", "0.01", (0, 9.6), 2)
+    s.attribute("NAME", "Name of the room", "Room", (0, 4.9), 3.5)
+    s.line((-12, 1.6), (12, 1.6))
+    s.attribute("AREA", "Area", "0.00 m2", (0, -0.8), 2.5)
+    s.attribute("FLOOR", "Floor finish", "oak", (0, -4.6), 2)
+    s.attribute("NUMBER", "Number of the room", "0.01", (0, 10), 2)
 
 
 def door_tag(s):

@@ -21,19 +21,18 @@ LAYERS = [
     Layer("A-WALL-FACE", 7, 0.35, note="Facing bricks, cut"),
     Layer("A-WALL-PART", 7, 0.35, note="Partitions, cut"),
     Layer("A-HATCH", 8, 0.13, note="Hatches of cut walls"),
-    Layer("A-DOOR", 34, 0.25),
+    Layer("A-DOOR", 32, 0.25),
     Layer("A-WINDOW", 150, 0.25),
-    Layer("A-STAIR", 250, 0.25),
-    Layer("A-OVERHEAD", 251, 0.18, "HIDDEN", "What lies above the cut"),
-    Layer("A-FURNITURE", 252, 0.18),
+    Layer("A-STAIR", 7, 0.25),
+    Layer("A-OVERHEAD", 8, 0.18, "HIDDEN", "What lies above the cut"),
+    Layer("A-FURNITURE", 8, 0.18),
     Layer("A-SANITARY", 140, 0.18),
-    Layer("A-FLOOR", 254, 0.09, note="Floor finishes"),
-    Layer("A-OUTSIDE", 251, 0.18, note="Terrace, steps"),
+    Layer("A-FLOOR", 253, 0.09, note="Floor finishes"),
+    Layer("A-OUTSIDE", 8, 0.18, note="Terrace, steps"),
     Layer("L-PLANT", 94, 0.18),
     Layer("A-GRID", 12, 0.13, "CENTER"),
     Layer("A-SECTION", 12, 0.5, "CENTER"),
-    Layer("A-DIM-50", 250, 0.18, note="Dimensions for 1:50"),
-    Layer("A-DIM-100", 250, 0.18, note="Dimensions for 1:100"),
+    Layer("A-DIM", 7, 0.18, note="Dimensions"),
     Layer("A-TEXT", 7, 0.25),
     Layer("A-TAG", 7, 0.18, note="Marks of doors and windows"),
     Layer("A-SYMBOL", 7, 0.25),
@@ -295,22 +294,23 @@ CHAINS = {
 
 
 def dimensions(s):
-    first = {"S": -2850, "N": H + 1500, "W": -1000, "E": W + 1000}
-    for side, at in first.items():
-        along, out = ("x", at) if side in "SN" else ("y", at)
+    s.layer("A-DIM")
+    for side, at in {"S": -2850, "N": H + 1500, "W": -1000, "E": W + 1000}.items():
+        along = "x" if side in "SN" else "y"
         step = 450 if at > 0 else -450
-        size = W if side in "SN" else H
-        s.layer("A-DIM-50")
         s.chain(along, at, cuts(side))
         s.chain(along, at + step, CHAINS[side])
-        s.chain(along, at + 2 * step, [0, size])
-    use_dimension_style(s, "ARCH-100")
-    s.layer("A-DIM-100")
-    for side, at in (("S", -3000), ("W", -900)):
-        along = "x" if side == "S" else "y"
-        s.chain(along, at, [0, 7760, 8000, W] if side == "S" else [0, 4900, 5140, H])
-        s.chain(along, at - 900, [0, W if side == "S" else H])
-    use_dimension_style(s, "ARCH-50")
+        s.chain(along, at + 2 * step, [0, W if along == "x" else H])
+
+
+def overview_dimensions(s, placing):
+    """They stand on the sheet: those of the model are meant for 1:50."""
+    use_dimension_style(s, "SHEET-100")
+    s.layer("A-DIM")
+    placing.chain(s, "x", -3000, [0, 7760, 8000, W])
+    placing.chain(s, "x", -3800, [0, W])
+    placing.chain(s, "y", -900, [0, 4900, 5140, H])
+    placing.chain(s, "y", -1700, [0, H])
 
 
 def schedules(s, x, y):
@@ -361,7 +361,7 @@ def areas(s, x, y):
 def sheets(s):
     values = list(titles.VALUES)
     page(s, "Ground_floor_1-50", "A2")
-    view(s, (22, 12), 385, 396, (W / 2 + 200, H / 2 - 500), 1 / 50, ("A-DIM-100",))
+    view(s, (22, 12), 385, 396, (W / 2 + 200, H / 2 - 500), 1 / 50)
     s.layer("A-TITLE")
     s.insert("SHEET-A2", (0, 0), values=values)
     s.insert("NORTH-ARROW", (560, 378), angle=-12)
@@ -370,8 +370,9 @@ def sheets(s):
     schedules(s, 414, 318)
     s.insert("SCALE-BAR", (414, 88), values=("0", "1", "2.5 m"))
     page(s, "Overview_1-100", "A4", "_P")
-    view(s, (22, 74), 176, 152, (W / 2 - 300, 3300), 1 / 100,
-         ("A-DIM-50", "A-GRID", "A-TAG", "A-SECTION"))
+    placing = view(s, (22, 74), 176, 152, (W / 2 - 300, 3300), 1 / 100,
+                   ("A-DIM", "A-GRID", "A-TAG", "A-SECTION"))
+    overview_dimensions(s, placing)
     s.layer("A-TITLE")
     values[7], values[8] = "1:100", "A-102"
     s.insert("SHEET-A4", (0, 0), values=values)
@@ -390,8 +391,8 @@ def script():
         "NORTH-ARROW", "SCALE-BAR", "SHEET-A2", "SHEET-A4", "TREE-SHADED", "TREE-BRANCHED", "SHRUB"}
     define_from(s, wanted, doors, windows, furniture, sanitary, symbols, titles, trees)
     layers(s, LAYERS)
-    dimension_style(s, "ARCH-100", 100, DIMTSZ=1.2, DIMDEC=0, DIMFXLON=1, DIMFXL=3)
-    dimension_style(s, "ARCH-50", 50, DIMTSZ=1.2, DIMDEC=0, DIMFXLON=1, DIMFXL=3)
+    dimension_style(s, "SHEET-100", 1, DIMLFAC=100, DIMTSZ=1.2, DIMDEC=0, DIMFXLON=1, DIMFXL=3)
+    dimension_style(s, "MODEL-50", 50, DIMLFAC=1, DIMTSZ=1.2, DIMDEC=0, DIMFXLON=1, DIMFXL=3)
     walls(s)
     openings_filled(s)
     stair(s)

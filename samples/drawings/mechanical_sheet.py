@@ -15,10 +15,10 @@ LAYERS = [
     Layer("M-CENTER", 12, 0.18, "CENTER", "Centre lines"),
     Layer("M-HATCH", 8, 0.18, note="Sections"),
     Layer("M-FASTENER", 7, 0.35),
-    Layer("M-DIM", 250, 0.18),
-    Layer("M-DIM-DETAIL", 250, 0.18, note="Dimensions of the detail at 2:1"),
+    Layer("M-DIM", 7, 0.18),
+    Layer("M-DIM-DETAIL", 7, 0.18, note="Dimensions of the detail at 2:1"),
     Layer("M-TEXT", 7, 0.25),
-    Layer("M-SYMBOL", 250, 0.25),
+    Layer("M-SYMBOL", 7, 0.25),
     Layer("A-TITLE", 7, 0.25),
     Layer("A-VIEWPORT", 8, 0.0, note="Edges of views, not plotted"),
 ]
@@ -125,7 +125,7 @@ def top(s):
         s.line((x + side_ * SLOT, y - 14), (x + side_ * SLOT, y + 14))
 
 
-DETAIL = (420, 62)
+DETAIL = (370, 62)
 
 
 def detail(s):

@@ -8,19 +8,20 @@ import titles
 import trees
 from drafting import point, shifted
 from library import define_from
-from office import (Layer, dimension_style, layers, new_drawing, page, table, use_dimension_style,
-                    view)
+from office import (Layer, Placing, dimension_style, layers, new_drawing, page, table,
+                    use_dimension_style, view)
 
 LAYERS = [
     Layer("C-BOUNDARY", 12, 0.5, "PHANTOM", "Boundary of the plot"),
     Layer("C-NEIGHBOUR", 8, 0.18, note="Plots and buildings around"),
     Layer("C-SETBACK", 150, 0.25, "DASHED", "Building line"),
     Layer("C-BUILDING", 7, 0.5),
-    Layer("C-BUILDING-HATCH", 252, 0.13),
+    Layer("C-BUILDING-HATCH", 8, 0.13),
     Layer("C-ROAD", 7, 0.25),
     Layer("C-ROAD-AXIS", 8, 0.13, "CENTER"),
-    Layer("C-PAVING", 251, 0.18),
-    Layer("C-PAVING-HATCH", 254, 0.09),
+    Layer("C-PAVING", 8, 0.18),
+    Layer("C-PAVING-HATCH", 253, 0.09),
+    Layer("C-CAR", 7, 0.18),
     Layer("C-CONTOUR", 43, 0.13),
     Layer("C-CONTOUR-MAIN", 43, 0.25),
     Layer("C-WATER", 150, 0.25),
@@ -28,11 +29,8 @@ LAYERS = [
     Layer("C-WATER-LINE", 150, 0.25, "WATER_LINE"),
     Layer("C-POWER", 1, 0.25, "POWER_LINE"),
     Layer("L-PLANT", 94, 0.18),
-    Layer("L-LAWN", 83, 0.09),
-    Layer("C-DIM-500", 250, 0.18),
-    Layer("C-DIM-200", 250, 0.18),
-    Layer("C-TEXT-500", 7, 0.25),
-    Layer("C-TEXT-200", 7, 0.25),
+    Layer("C-DIM", 7, 0.18),
+    Layer("C-TEXT", 7, 0.25, note="Words and levels"),
     Layer("A-TITLE", 7, 0.25),
     Layer("A-VIEWPORT", 8, 0.0, note="Edges of views, not plotted"),
 ]
@@ -45,17 +43,13 @@ GARAGE = (45.6, 39.0, 51.8, 45.4)
 NEIGHBOURS = [(2.0, 32.0, 12.5, 42.5), (66.5, 30.5, 79.0, 40.0), (71.5, 40.0, 79.0, 44.0)]
 
 
-def height(level, x):
+def ground_at(level, x):
     """Where a contour runs: the ground falls to the lake in the south."""
     return ((level - 100) * 9 + 2.2 * math.sin(x / 11 + level * 0.9) + 0.08 * x +
             1.1 * math.sin(x / 5.3 + level * 0.4))
 
 
-LABELS = {500: 14.4, 200: 14.4}  # where the contours have their figures
-
-
-def is_at_label(x):
-    return any(abs(x - at) < 0.0036 * scale for scale, at in LABELS.items())
+LABEL = 14.4  # where the contours have their figures
 
 
 def is_built(x, y):
@@ -74,8 +68,8 @@ def contour(s, level, has_figures):
     run = []
     for step in range(377):
         x = -4 + step * 0.25
-        y = height(level, x)
-        is_open = not is_built(x, y) and not (has_figures and is_at_label(x))
+        y = ground_at(level, x)
+        is_open = not is_built(x, y) and not (has_figures and abs(x - LABEL) < 1.8)
         if is_open:
             run.append((x, y))
         if len(run) > 1 and (not is_open or step == 376):
@@ -90,10 +84,6 @@ def ground(s):
         is_main = i % 2 == 0
         s.layer("C-CONTOUR-MAIN" if is_main else "C-CONTOUR")
         contour(s, level, is_main)
-        for scale, x in LABELS.items() if is_main else ():
-            slope = math.degrees(math.atan(height(level, x + 0.5) - height(level, x - 0.5)))
-            s.layer(f"C-TEXT-{scale}")
-            s.text((x, height(level, x)), 0.0018 * scale, f"{level:.2f}", "MC", round(slope, 1))
     s.layer("C-WATER")
     shore = [(-4, -6), (8, -4.6), (20, -6.4), (34, -4.2), (48, -5.6), (62, -3.6), (76, -4.8),
              (90, -3)]
@@ -142,13 +132,14 @@ def house(s):
     s.layer("C-BUILDING")
     s.rect(x, y, x + w, y + h)
     s.rect(*GARAGE)
+    s.layer("C-CAR")
+    s.insert("CAR", (48.6, 57.2), angle=-88)
     s.layer("C-PAVING-HATCH")
     s.hatch("SETTS", 0.2, 0, (48.5, 50.0), (40.0, 47.4))
     s.hatch("NET", 0.16, 0, (x + 4, y - 1.2))
     s.layer("C-BUILDING-HATCH")
     s.hatch("LINE", 0.25, 45, (x + 3, y + 3), (48.0, 42.0))
-    s.layer("C-PAVING")
-    s.insert("CAR", (48.6, 57.2), angle=-88)
+
 
 
 def services(s):
@@ -213,37 +204,45 @@ WORDS = [
 ]
 
 
-def words(s):
-    """For each scale on a layer of its own. They come before hatches, which keep clear of them."""
+def words(s, placing, mm):
+    """`mm` are the units of the drawing for one millimetre of the sheet. They come before hatches,
+    which keep clear of them."""
     x, y = HOUSE
     w, h = SIZE
-    for scale in (500, 200):
-        s.layer(f"C-TEXT-{scale}")
-        for text, place, height, angle in WORDS:
-            s.text(place, height * scale / 1000, text, "MC", angle)
-        for place, level in ((PLOT[0], "102.18"), (PLOT[1], "101.65"), (PLOT[2], "106.02"),
-                             (PLOT[3], "106.71"), ((x + w, y), "104.30"), ((x, y + h), "105.25")):
-            s.insert("LEVEL-SPOT", place, scale, values=(level,))
+    s.layer("C-TEXT")
+    for text, place, height, angle in WORDS:
+        s.text(placing(place), height * mm, text, "MC", angle)
+    for place, level in ((PLOT[0], "102.18"), (PLOT[1], "101.65"), (PLOT[2], "106.02"),
+                         (PLOT[3], "106.71"), ((x + w, y), "104.30"), ((x, y + h), "105.25")):
+        s.insert("LEVEL-SPOT", placing(place), 500 if mm < 1 else 1, values=(level,))
+    for level in range(100, 109):
+        rise = ground_at(level, LABEL + 0.5) - ground_at(level, LABEL - 0.5)
+        slope = math.degrees(math.atan(rise))
+        s.text(placing((LABEL, ground_at(level, LABEL))), 1.8 * mm, f"{level:.2f}", "MC",
+               round(slope, 1))
 
 
-def dimensions(s):
+def boundary_dimensions(s, placing, away):
+    """`away` is how far off they stand, in metres."""
     x, y = HOUSE
     w, h = SIZE
-    for name, style, step in (("C-DIM-500", "SITE-500", 1.0), ("C-DIM-200", "SITE-200", 0.6)):
-        use_dimension_style(s, style)
-        s.layer(name)
-        s.dimension("x", y - 3.6 - step, x, x + w, y)
-        s.dimension("y", x - 1.6 - step, y, y + h, x)
-        if name == "C-DIM-200":
-            s.dimension("x", y + 8, x + w, 56.33, y + 8)
-            s.dimension("x", y + 8, 21.29, x, y + 8)
-            s.dimension("y", x + 9.8, y + h, 56.2, y + h)
-            s.dimension("x", GARAGE[3] + 0.9 + step, GARAGE[0], GARAGE[2], GARAGE[3])
-        for a, b, out in ((PLOT[0], PLOT[1], (0, -2.2)), (PLOT[1], PLOT[2], (2.4, 0)),
-                          (PLOT[2], PLOT[3], (0, 2.2)), (PLOT[3], PLOT[0], (-2.4, 0))):
-            middle = ((a[0] + b[0]) / 2, (a[1] + b[1]) / 2)
-            s.type("DIMALIGNED", point(a), point(b),
-                   point(shifted(middle, out[0] * step, out[1] * step)))
+    s.layer("C-DIM")
+    placing.chain(s, "x", y - 2.6 - away, [x, x + w], y)
+    placing.chain(s, "y", x - 0.6 - away, [y, y + h], x)
+    for a, b, out in ((PLOT[0], PLOT[1], (0, -away)), (PLOT[1], PLOT[2], (away, 0)),
+                      (PLOT[2], PLOT[3], (0, away)), (PLOT[3], PLOT[0], (-away, 0))):
+        middle = ((a[0] + b[0]) / 2, (a[1] + b[1]) / 2)
+        s.type("DIMALIGNED", point(placing(a)), point(placing(b)),
+               point(placing(shifted(middle, *out))))
+
+
+def distances(s, placing):
+    """From the house to the boundary, and the garage: too much for the small scale."""
+    x, y = HOUSE
+    w, h = SIZE
+    placing.chain(s, "x", y + 8, [21.29, x, None, x + w, 56.33])
+    placing.chain(s, "y", x + 9.8, [y + h, 56.2])
+    placing.chain(s, "x", GARAGE[3] + 1.5, [GARAGE[0], GARAGE[2]], GARAGE[3])
 
 
 def plot_area():
@@ -291,7 +290,7 @@ def sheets(s):
               "m, levels above datum", "site-plan.dxf"]
     s.set("INSUNITS", 4)  # the sheets are in millimetres
     page(s, "Site_1-500", "A3")
-    view(s, (24, 70), 188, 212, (43, 32), 2, ("C-DIM-200", "C-TEXT-200"))
+    view(s, (24, 70), 188, 212, (43, 32), 2)
     s.layer("A-TITLE")
     s.insert("SHEET-A3", (0, 0), values=values)
     s.insert("NORTH-ARROW", (385, 258), angle=-12)
@@ -300,7 +299,12 @@ def sheets(s):
     species(s, 232, 196)
     legend(s, 30, 58)
     page(s, "Garden_1-200", "A2")
-    view(s, (24, 14), 340, 392, (39, 38), 5, ("C-DIM-500", "C-TEXT-500"))
+    # Words and dimensions of the model are meant for 1:500; here the sheet has its own.
+    placing = view(s, (24, 14), 340, 392, (39, 38), 5, ("C-DIM", "C-TEXT"))
+    words(s, placing, 1)
+    use_dimension_style(s, "SHEET-200")
+    boundary_dimensions(s, placing, 1.6)
+    distances(s, placing)
     s.layer("A-TITLE")
     values[7], values[8], values[2] = "1:200", "L-002", "Garden"
     s.insert("SHEET-A2", (0, 0), values=values)
@@ -321,9 +325,9 @@ def script():
     define_from(s, wanted, trees, symbols, titles)
     s.set("INSUNITS", 6)  # from here in metres; the blocks are scaled to them
     layers(s, LAYERS)
-    dimension_style(s, "SITE-200", 0.2, DIMDEC=2, DIMTSZ=1.2, DIMZIN=0)
-    dimension_style(s, "SITE-500", 0.5, DIMDEC=2, DIMTSZ=1.2, DIMZIN=0)
-    words(s)
+    dimension_style(s, "SHEET-200", 1, DIMLFAC=0.2, DIMDEC=2, DIMTSZ=1.2, DIMZIN=0)
+    dimension_style(s, "MODEL-500", 0.5, DIMLFAC=1, DIMDEC=2, DIMTSZ=1.2, DIMZIN=0)
+    words(s, Placing(), 0.5)
     house(s)
     neighbours(s)
     plot(s)
@@ -331,7 +335,7 @@ def script():
     ground(s)
     services(s)
     planting(s)
-    dimensions(s)
+    boundary_dimensions(s, Placing(), 2.4)
     sheets(s)
     s.layer("0")
     return s.text_of()

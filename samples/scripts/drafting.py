@@ -174,11 +174,11 @@ class Sheet:
 
     # --- dimensions
 
-    def chain(self, along, at, places):
+    def chain(self, along, at, places, foot=None):
         """Dimensions from place to place, None leaves a gap; `along` is x or y, `at` their line."""
         for a, b in zip(places, places[1:]):
             if a is not None and b is not None:
-                self.dimension(along, at, a, b)
+                self.dimension(along, at, a, b, foot)
 
     def dimension(self, along, at, a, b, foot=None, text=None):
         foot = at if foot is None else foot

@@ -72,9 +72,29 @@ def page(sheet, layout, paper, orientation="_L"):
     sheet.type("PAGESETUP _P", paper, orientation, "_M 0 0 0 0 _S 1 1 ")
 
 
+@dataclass
+class Placing:
+    """Where places of the model come to lie: in the model itself, or on a sheet over a view."""
+
+    corner: tuple = (0.0, 0.0)  # of the view
+    shown: tuple = (0.0, 0.0)  # in the model, at that corner
+    scale: float = 1.0
+
+    def __call__(self, p):
+        return (self.corner[0] + (p[0] - self.shown[0]) * self.scale,
+                self.corner[1] + (p[1] - self.shown[1]) * self.scale)
+
+    def chain(self, sheet, along, line, places, foot=None):
+        """Dimensions as Sheet.chain has them, given in the model."""
+        axis = "xy".index(along)
+        on = [None if v is None else self((v, v))[axis] for v in places]
+        line, foot = (None if v is None else self((v, v))[1 - axis] for v in (line, foot))
+        sheet.chain(along, line, on, foot)
+
+
 def view(sheet, corner, width, height, center, scale, frozen=()):
     """A view of the model: on the sheet from its lower left corner, in the model around a place.
-    `scale` is millimetres of the sheet by units of the model."""
+    `scale` is millimetres of the sheet by units of the model. Tells where the model lies."""
     sheet.layer(VIEW_EDGES)
     x, y = corner
     sheet.type("MVIEW", f"{x},{y} {x + width},{y + height}")
@@ -93,6 +113,7 @@ def view(sheet, corner, width, height, center, scale, frozen=()):
         sheet.type("VPLAYER _F", ",".join(frozen), "_L")
         sheet.type()
         sheet.type()
+    return Placing(corner, shifted(center, -dx, -dy), scale)
 
 
 def table(sheet, corner, widths, rows, title, height=6.0, size=2.2):

@@ -19,7 +19,7 @@ def _cells(solids, holes):
 def _loops(filled):
     """The edges of the cells, with the filled side at their left, joined to closed loops."""
     follows = {}
-    for i, j in filled:
+    for i, j in sorted(filled):
         for a, b, beside in (((i, j), (i + 1, j), (i, j - 1)),
                              ((i + 1, j), (i + 1, j + 1), (i + 1, j)),
                              ((i + 1, j + 1), (i, j + 1), (i, j + 1)),
@@ -33,15 +33,19 @@ def _loops(filled):
             loop.append(at)
             ends = follows[at]
             # Where corners touch, the sharpest turn to the left stays with the same piece.
-            turn = lambda b: (-(way[0] * (b[1] - at[1]) - way[1] * (b[0] - at[0])) if way else 0)
-            best = min(ends, key=turn)
+            best = max(ends, key=lambda end: _turn(way, _way(at, end)) if way else 0)
             ends.remove(best)
             if not ends:
                 del follows[at]
-            way, at = (best[0] - at[0], best[1] - at[1]), best
+            way, at = _way(at, best), best
             if at == start:
                 break
         yield loop
+
+
+def _turn(way, next_way):
+    """Above 0 to the left."""
+    return way[0] * next_way[1] - way[1] * next_way[0]
 
 
 def _pieces(filled):
@@ -60,22 +64,21 @@ def _pieces(filled):
         yield piece
 
 
+def _way(a, b):
+    return (b[0] - a[0], b[1] - a[1])
+
+
 def outlines(solids, holes=()):
     """Closed loops of corners, and one place within each piece. Boxes are (x1, y1, x2, y2)."""
     xs, ys, filled = _cells(list(solids), list(holes))
     loops = []
     for loop in _loops(filled):
-        count = len(loop)
-        corners = [loop[k] for k in range(count)
-                   if (loop[k][0] - loop[k - 1][0], loop[k][1] - loop[k - 1][1]) !=
-                   _unit(loop[k], loop[(k + 1) % count], loop[k - 1])]
+        follow = loop[1:] + loop[:1]
+        corners = [at for before, at, after in zip(loop[-1:] + loop[:-1], loop, follow)
+                   if _way(before, at) != _way(at, after)]
         loops.append([(xs[i], ys[j]) for i, j in corners])
     places = []
     for piece in _pieces(filled):
         i, j = max(piece, key=lambda c: ((xs[c[0] + 1] - xs[c[0]]) * (ys[c[1] + 1] - ys[c[1]]), c))
         places.append(((xs[i] + xs[i + 1]) / 2, (ys[j] + ys[j + 1]) / 2))
     return loops, sorted(places)
-
-
-def _unit(at, after, before):
-    return (after[0] - at[0], after[1] - at[1])

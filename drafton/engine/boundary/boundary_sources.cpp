@@ -2,7 +2,9 @@
 
 #include "drafton/engine/boundary/text_box.h"
 #include "drawing/database.h"
+#include "drawing/entities/attribute.h"
 #include "drawing/entities/attribute_definition.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/curve.h"
 #include "drawing/graphics/world_draw.h"
 
@@ -99,10 +101,20 @@ class Taker : private OdGiWorldDraw {
     case Role::kTextsOfBlock:
       m_nextHasOnlyTexts = onlyTexts || role == Role::kTextsOfBlock;
       entity.worldDraw(*this);
+      takeAttributes(entity);
       break;
     case Role::kNone:
       break;
     }
+  }
+
+  /// What inserts have been filled in with, each a text of its own.
+  void takeAttributes(const OdDbEntity& entity) {
+    m_runs.clear();
+    const auto* insert = odrxCast<OdDbBlockReference>(&entity);
+    if (!insert) return;
+    for (const OdDbAttributePtr& attribute : insert->attributes())
+      if (isSeen(*attribute, nullptr)) takeText(*attribute);
   }
 
   void takeText(const OdDbEntity& entity) {

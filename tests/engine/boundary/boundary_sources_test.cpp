@@ -4,6 +4,8 @@
 #include "drafton/engine/boundary/object_loops.h"
 #include "drawing/database.h"
 #include "drawing/entities/arc.h"
+#include "drawing/entities/attribute_definition.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/ellipse.h"
 #include "drawing/entities/line.h"
@@ -159,6 +161,32 @@ TEST_F(Sources, TextsAreKeptFreeWithSomeRoom) {
   EXPECT_GT(island.area, (box.maxPoint().x - box.minPoint().x) * 1);
   EXPECT_LT(island.area, 12);
   EXPECT_NEAR(areaOf(around(3, 3.5, IslandStyle::kIgnore).loops), 80, 1e-9);
+}
+
+TEST_F(Sources, AttributesOfInsertsAreKeptFreeUnlessInvisible) {
+  const auto blocks = m_drawing->getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite);
+  const auto block = odrxMake<OdDbBlockTableRecord>();
+  block->setName(QStringLiteral("LABEL"));
+  const OdDbObjectId id = blocks->add(block);
+  double y = 0;
+  for (const bool isInvisible : {false, false, true}) {
+    const auto definition = odrxMake<OdDbAttributeDefinition>();
+    definition->setTag(QStringLiteral("TAG%1").arg(y));
+    definition->setTextString(QStringLiteral("Bath"));
+    definition->setHeight(1);
+    definition->setPosition({0, y, 0});
+    definition->setInvisible(isInvisible);
+    block->appendOdDbEntity(definition);
+    y += 3;
+  }
+  addRoom();
+  const auto insert = odrxMake<OdDbBlockReference>(id, OdGePoint3d{2, 1.5, 0});
+  add(*insert);
+  insert->appendAttributesFromBlock();
+  const auto result = around(9, 7);
+  ASSERT_EQ(result.loops.size(), 3u) << "the room and two words";
+  EXPECT_TRUE(result.loops[1].isText);
+  EXPECT_TRUE(result.loops[2].isText);
 }
 
 TEST_F(Sources, LoopsNameTheirEntities) {
