@@ -1,6 +1,9 @@
 // Header variables and current values.
 #include "drawing/database_data.h"
 #include "drawing/objects/dictionary_vars.h"
+#include "drawing/objects/xref_manager.h"
+#include "drawing/tables/dim_var_values.h"
+#include "drawing/tables/standard_arrows.h"
 
 namespace {
 
@@ -53,7 +56,24 @@ std::optional<OdDbVarValue> fitting(const V& row, const OdDbVarValue& value,
     id = tableId.openAs<OdDbSymbolTable>()->getAt(*name);
   else if (const auto* given = std::get_if<OdDbObjectId>(&value); given && given->isValid())
     if (given->openObject()->ownerId() == tableId) id = *given;
-  return id.isNull() ? std::nullopt : std::optional<OdDbVarValue>(id);
+  // What belongs to a reference goes with it.
+  if (id.isNull() || OdDbXRefMan::owns(*id.openAs<OdDbSymbolTableRecord>())) return std::nullopt;
+  return id;
+}
+
+/// What a style could not take is refused, and arrows are given the names of their blocks.
+bool fitsDimensions(const V& row, OdDbVarValue& value, OdDbDatabase& database) {
+  static constexpr std::string_view kArrows[] = {"DIMBLK", "DIMBLK1", "DIMBLK2", "DIMLDRBLK"};
+  const OdDbDimVarInfo* const dimension = oddbFindDimVar(OdString(QLatin1String(row.name)));
+  if (!dimension) return true;
+  auto* const text = std::get_if<OdString>(&value);
+  if (text && std::find(std::begin(kArrows), std::end(kArrows), row.name) != std::end(kArrows)) {
+    const auto block = oddb::arrowBlockNamed(database, *text);
+    if (!block) return false;
+    *text = *block;
+  }
+  OdDbDimVarValues values;
+  return oddb::setDimVar(values, *dimension, value, &database);
 }
 
 const V& row(const char* name) {
@@ -176,8 +196,8 @@ std::optional<OdDbVarValue> OdDbDatabase::getSysVar(const OdString& name) const 
 
 bool OdDbDatabase::setSysVar(const OdString& name, const OdDbVarValue& value) {
   const V* const found = oddbFindHeaderVar(name);
-  const auto fit = found ? fitting(*found, value, *m_data) : std::nullopt;
-  if (!fit) return false;
+  auto fit = found ? fitting(*found, value, *m_data) : std::nullopt;
+  if (!fit || !fitsDimensions(*found, *fit, *this)) return false;
   const int index = indexOf(found);
   const auto i = static_cast<std::size_t>(index);
   if (m_data->vars[i] == *fit && m_data->varPresent[i]) return true;

@@ -59,5 +59,8 @@ bool odpath::samePlace(const OdString& a, const OdString& b) {
 #else
   constexpr Qt::CaseSensitivity kCase = Qt::CaseSensitive;
 #endif
-  return QDir::cleanPath(toPlatform(a)).compare(QDir::cleanPath(toPlatform(b)), kCase) == 0;
+  const auto place = [](const OdString& path) {
+    return path.isEmpty() ? QString() : QDir::cleanPath(QDir().absoluteFilePath(toPlatform(path)));
+  };
+  return place(a).compare(place(b), kCase) == 0;
 }

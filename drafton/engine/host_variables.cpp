@@ -24,6 +24,9 @@ OdDbVarValue toHeader(const OdDbHeaderVarInfo& info, const OdVariant& value) {
   switch (info.type) {
   case OdDbHeaderVarInfo::kInt: {
     if (!value.isText()) return value.toInt64();
+    if (isCharacterVariable(OdString(QLatin1String(info.name))) && text.size() == 1 &&
+        !text[0].isDigit())
+      return std::int64_t{text[0].unicode()};
     const std::optional<int> number = parseInteger(text);
     return number ? OdDbVarValue(std::int64_t{*number}) : OdDbVarValue();
   }

@@ -3,6 +3,7 @@
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace drafton {
@@ -17,7 +18,9 @@ OdString findSupportFile(Engine& engine, const Document* document, const OdStrin
                 engine.application().userDataFolder(), engine.programFolder()};
   for (const OdString& folder : folders) {
     const OdString path = folder.isEmpty() ? file : folder + u'\\' + file;
-    if (QFileInfo(odpath::toPlatform(path)).isFile()) return path;
+    // The working folder can be another one when the path is used.
+    if (const QFileInfo info(odpath::toPlatform(path)); info.isFile())
+      return odpath::fromPlatform(QDir::cleanPath(info.absoluteFilePath()));
   }
   return {};
 }

@@ -175,6 +175,10 @@ const VariableRow* findVariable(QStringView name) {
   return at;
 }
 
+bool isCharacterVariable(QStringView name) {
+  return name.compare(QLatin1String("DIMDSEP"), Qt::CaseInsensitive) == 0;
+}
+
 OdVariant presetValue(const VariableRow& row) {
   const OdString text = OdString::fromUtf16(row.preset);
   switch (row.type) {

@@ -42,6 +42,8 @@ struct VariableRow {
 std::span<const VariableRow> variableTable();
 /// The row of a name, without regard to case; null if there is none.
 const VariableRow* findVariable(QStringView name);
+/// True for a number that stands for a character, which is typed as well as its number.
+bool isCharacterVariable(QStringView name);
 
 /// The preset as a value of the row's type.
 OdVariant presetValue(const VariableRow& row);

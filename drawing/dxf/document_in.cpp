@@ -4,6 +4,7 @@
 #include "drawing/dxf/residue.h"
 #include "drawing/dxf/text.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/tables/standard_arrows.h"
 
 namespace {
 
@@ -217,6 +218,7 @@ void OdDbDxfReader::finish() {
       block->ensureBounds();
     }
   }
+  if (m_in.isPlain()) oddb::useStandardArrows(m_database);
   finishHeader();
   m_data.modified = false;
 }

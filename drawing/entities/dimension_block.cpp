@@ -7,6 +7,8 @@
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/solid.h"
+#include "drawing/tables/dim_var_values.h"
+#include "drawing/tables/standard_arrows.h"
 
 namespace {
 
@@ -19,16 +21,6 @@ OdDbObjectId definitionLayer(OdDbDatabase& database) {
   layer->setName(kDefPoints);
   layer->setIsPlottable(false);
   return layers->add(layer);
-}
-
-/// Arrows that the dimension line runs through up to the tip.
-bool runsThrough(const OdString& name) {
-  static constexpr const char* kNames[] = {"_ARCHTICK", "_OBLIQUE",  "_NONE",   "_DOTSMALL",
-                                           "_INTEGRAL", "_SMALL",    "_ORIGIN", "_ORIGIN2",
-                                           "_DOTBLANK", "_BOXBLANK", "_GENERIC"};
-  return std::any_of(std::begin(kNames), std::end(kNames), [&](const char* known) {
-    return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
-  });
 }
 
 } // namespace
@@ -65,8 +57,16 @@ oddb::DimensionBlock::Look oddb::DimensionBlock::lineLook() const {
   return {m_vars.dimclrd, m_vars.dimlwd, m_vars.dimltype};
 }
 
+OdDbObjectId oddb::DimensionBlock::textStyle() const {
+  if (!m_vars.dimtxsty.isNull()) return m_vars.dimtxsty;
+  // Styles of many programs leave out what they have as usual.
+  const auto styles = m_database.getTextStyleTableId().openAs<OdDbTextStyleTable>();
+  const OdDbObjectId usual = styles->getAt(kUsualTextStyle);
+  return usual.isNull() ? m_database.currentTextStyle() : usual;
+}
+
 double oddb::DimensionBlock::textHeight() const {
-  const OdDbObjectPtr record = m_vars.dimtxsty.openObject();
+  const OdDbObjectPtr record = textStyle().openObject();
   const auto* const style = odrxCast<OdDbTextStyleTableRecord>(record.get());
   // A style with a height of its own has the last word.
   return style && style->textSize() > 0 ? style->textSize() : scaled(std::max(m_vars.dimtxt, 1e-9));
@@ -76,7 +76,7 @@ OdGePoint2d oddb::DimensionBlock::textSize(const OdString& text) const {
   if (text.isEmpty()) return {};
   const auto sample = odrxMake<OdDbMText>();
   sample->setTextHeight(textHeight());
-  if (!m_vars.dimtxsty.isNull()) sample->setTextStyle(m_vars.dimtxsty);
+  sample->setTextStyle(textStyle());
   sample->setContents(text);
   return {sample->actualWidth(), std::max(sample->actualHeight(), textHeight())};
 }
@@ -167,7 +167,7 @@ double oddb::DimensionBlock::arrow(const OdGePoint3d& tip, const OdGeVector3d& d
     insert->setScaleFactors({size, size, size});
     insert->setRotation(std::atan2(direction.y, direction.x));
     add(insert, lineLook());
-    return runsThrough(block->getName()) ? 0 : size;
+    return lineReachesTip(block->getName()) ? 0 : size;
   }
   const OdGePoint3d base = tip - direction * size;
   const OdGeVector3d half = across * (size / 6);
@@ -183,7 +183,7 @@ void oddb::DimensionBlock::text(const OdString& text, const OdGePoint3d& middle,
   const auto mtext = odrxMake<OdDbMText>();
   mtext->setNormal(m_dimension.normal());
   mtext->setTextHeight(textHeight());
-  mtext->setTextStyle(m_vars.dimtxsty.isNull() ? m_database.currentTextStyle() : m_vars.dimtxsty);
+  mtext->setTextStyle(textStyle());
   mtext->setAttachment(OdDbMText::kMiddleCenter);
   mtext->setLocation(m_toWorld * middle);
   mtext->setRotation(angle);

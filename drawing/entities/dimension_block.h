@@ -20,6 +20,7 @@ class DimensionBlock {
   double scaled(double length) const { return length * m_scale; }
   double arrowSize() const { return scaled(m_vars.dimasz); }
   double textHeight() const;
+  OdDbObjectId textStyle() const;
   /// The size of the text as it would be laid out.
   OdGePoint2d textSize(const OdString& text) const;
 

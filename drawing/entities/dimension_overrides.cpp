@@ -2,6 +2,7 @@
 #include "drawing/database.h"
 #include "drawing/dxf/text.h"
 #include "drawing/entities/dimension_text.h"
+#include "drawing/tables/dim_var_values.h"
 #include "drawing/xdata.h"
 
 namespace {
@@ -80,12 +81,13 @@ void oddb::applyDimOverrides(const OdDbObject& dimension, OdDbDimVarValues& valu
 
 void oddb::setDimOverride(OdDbObject& dimension, const OdString& name, const OdDbVarValue& value) {
   const OdDbDimVarInfo* const row = oddbFindDimVar(name);
-  // A style knows how to take values of all kinds.
-  const auto style = odrxMake<OdDbDimStyleTableRecord>();
-  if (!row || row->code == 0 || !style->setVariable(name, value))
+  if (!row || row->code == 0)
     throw OdError(eInvalidInput, QStringLiteral("%1 is no such dimension variable").arg(name));
+  OdDbDimVarValues values;
+  if (!setDimVar(values, *row, value, dimension.database()))
+    throw OdError(eInvalidInput, QStringLiteral("The value of %1 does not fit").arg(name));
   const OdDbKeptTags::Tag tag =
-      std::visit([&](auto member) { return tagOf(style->values().*member); }, row->member);
+      std::visit([&](auto member) { return tagOf(values.*member); }, row->member);
   Tags tags = xdataOf(dimension, kApplication);
   auto [begin, end] = pairsIn(tags);
   if (begin == tags.end()) {

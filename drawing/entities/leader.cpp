@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/database.h"
+#include "drawing/entities/dimension_text.h"
 
 OdDbLeader::OdDbLeader() = default;
 
@@ -75,6 +76,10 @@ void OdDbLeader::attachAnnotation(OdDbObjectId note, AnnoType type) {
 void OdDbLeader::setDimensionStyle(OdDbObjectId style) {
   assertWriteEnabled();
   m_leader.dimStyle = style;
+}
+
+void OdDbLeader::setDimVarOverride(const OdString& name, const OdDbVarValue& value) {
+  oddb::setDimOverride(*this, name, value);
 }
 
 void OdDbLeader::setNormal(const OdGeVector3d& normal) {

@@ -3,6 +3,7 @@
 
 #include "drawing/entities/curve.h"
 #include "drawing/geometry/nurbs.h"
+#include "drawing/header_vars.h"
 
 /// A line with an arrow head at its first corner that leads to a note.
 class OdDbLeader : public OdDbCurve {
@@ -31,6 +32,8 @@ class OdDbLeader : public OdDbCurve {
   void attachAnnotation(OdDbObjectId note, AnnoType type);
   OdDbObjectId dimensionStyle() const { return m_leader.dimStyle; }
   void setDimensionStyle(OdDbObjectId style);
+  /// What this leader has otherwise than its style: kept as extended data of the file.
+  void setDimVarOverride(const OdString& name, const OdDbVarValue& value);
   const OdGeVector3d& normal() const { return m_leader.normal; }
   void setNormal(const OdGeVector3d& normal);
   const OdGeVector3d& horizontalDirection() const { return m_leader.horizontal; }

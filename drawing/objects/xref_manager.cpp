@@ -135,6 +135,10 @@ OdString freeName(const OdDbBlockTable& blocks, const OdString& name) {
 
 } // namespace
 
+bool OdDbXRefMan::owns(const OdDbSymbolTableRecord& record) {
+  return record.isDependent() || record.getName().contains(u'|');
+}
+
 OdString OdDbXRefMan::resolvedPath(const OdDbBlockTableRecord& block) {
   return oddb::findStoredFile(block.pathName(),
                               block.database() ? block.database()->fileName() : OdString());
@@ -157,8 +161,7 @@ std::vector<Report> OdDbXRefMan::loadAll(OdDbDatabase& database) {
   for (const auto it = blocks->newIterator(); !it->done(); it->step()) {
     const OdDbBlockTableRecordPtr block = it->getRecord();
     // Those within others come with them.
-    if (block->isFromExternalReference() && !block->getName().contains(u'|'))
-      references.push_back(block->objectId());
+    if (block->isFromExternalReference() && !owns(*block)) references.push_back(block->objectId());
   }
   for (const OdDbObjectId id : references) Loader(reports).load(id);
   return reports;

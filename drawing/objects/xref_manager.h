@@ -34,6 +34,8 @@ class OdDbXRefMan {
                              bool overlay, std::vector<Report>* reports = nullptr);
   /// Takes a reference away with its inserts. False for a block that is none.
   static bool detach(OdDbObjectId block);
+  /// True for a record that came with a reference ("NAME|Layer") and goes with it.
+  static bool owns(const OdDbSymbolTableRecord& record);
   /// The file of a reference: the stored path, made absolute by the drawing's folder, or a file of
   /// its name beside the drawing. Empty if there is no such file.
   static OdString resolvedPath(const OdDbBlockTableRecord& block);

@@ -1,6 +1,7 @@
 #include "drawing/tables/dim_style_table.h"
 
 #include "drawing/database_data.h"
+#include "drawing/tables/dim_var_values.h"
 
 #include <algorithm>
 
@@ -55,8 +56,9 @@ std::optional<T> fitting(const OdDbVarValue& value, const OdDbDatabase* database
   } else if constexpr (std::is_same_v<T, OdDbObjectId>) {
     if (const auto* const id = std::get_if<OdDbObjectId>(&value)) return *id;
     const auto* const name = std::get_if<OdString>(&value);
-    if (!name || !database) return std::nullopt;
+    if (!name) return std::nullopt;
     if (name->isEmpty() || *name == u".") return OdDbObjectId();
+    if (!database) return std::nullopt;
     const OdDbObjectId found = tableOf(*database, row).openAs<OdDbSymbolTable>()->getAt(*name);
     return found.isNull() ? std::nullopt : std::optional(found);
   } else if constexpr (std::is_same_v<T, OdDb::LineWeight>) {
@@ -109,15 +111,22 @@ std::optional<OdDbVarValue> OdDbDimStyleTableRecord::variable(const OdString& na
 
 bool OdDbDimStyleTableRecord::setVariable(const OdString& name, const OdDbVarValue& value) {
   const OdDbDimVarInfo* const row = oddbFindDimVar(name);
-  if (!row) return false;
+  OdDbDimVarValues values = m_values;
+  if (!row || !oddb::setDimVar(values, *row, value, database())) return false;
+  setValues(values);
+  return true;
+}
+
+bool oddb::setDimVar(OdDbDimVarValues& values, const OdDbDimVarInfo& row, const OdDbVarValue& value,
+                     const OdDbDatabase* database) {
   return std::visit(
       [&](auto member) {
-        using T = std::remove_cvref_t<decltype(m_values.*member)>;
-        const std::optional<T> fit = fitting<T>(value, database(), *row);
-        if (fit) set(member, *fit);
+        using T = std::remove_cvref_t<decltype(values.*member)>;
+        const std::optional<T> fit = fitting<T>(value, database, row);
+        if (fit) values.*member = *fit;
         return fit.has_value();
       },
-      row->member);
+      row.member);
 }
 
 void OdDbDatabase::setDimstyleData(OdDbObjectId style) {

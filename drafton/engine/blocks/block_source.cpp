@@ -72,9 +72,12 @@ OdDbObjectId blockFor(CommandContext& context, const OdString& words) {
       throw CommandFailure(translated(u"There is no file \"%1\".").arg(shortened(file)));
     return insertFile(context, path, name);
   }
-  if (const OdDbObjectId id = blocks(context.database())->getAt(words);
-      !id.isNull() && !words.startsWith(u'*'))
-    return id;
+  if (const OdDbBlockTableRecordPtr block = blocks(context.database())->getAt(words).openObject();
+      block && !words.startsWith(u'*')) {
+    if (const OdString fault = recordUseFault(*block); !fault.isEmpty())
+      throw CommandFailure(fault);
+    return block->objectId();
+  }
   const OdString path = fileFor(context, words);
   if (path.isEmpty())
     throw CommandFailure(

@@ -39,14 +39,15 @@ void print(CommandContext& context, const std::vector<OdDbXRefMan::Report>& repo
                           .replace(QLatin1String("%1"), report.blockName));
 }
 
-/// The references of the drawing whose names fit the patterns.
-std::vector<OdDbBlockTableRecordPtr> referencesOf(const OdDbDatabase& database,
-                                                  const OdString& patterns) {
+/// The references of the drawing whose names fit the patterns. Those within others follow them.
+std::vector<OdDbBlockTableRecordPtr>
+referencesOf(const OdDbDatabase& database, const OdString& patterns, bool withNested = false) {
   std::vector<OdDbBlockTableRecordPtr> found;
   const auto table = database.getBlockTableId().openAs<OdDbBlockTable>();
   for (const OdString& name : recordNames(*table, patterns)) {
     const OdDbBlockTableRecordPtr block = table->getAt(name).openObject(OdDb::kForWrite);
-    if (block && block->isFromExternalReference()) found.push_back(block);
+    if (block && block->isFromExternalReference() && (withNested || !OdDbXRefMan::owns(*block)))
+      found.push_back(block);
   }
   return found;
 }
@@ -151,7 +152,7 @@ Task<void> references(CommandContext& context) {
                                         .keywords = u"? Attach Overlay Detach Path Reload Unload",
                                         .defaultValue = u"Attach"});
   if (option.is(u"?")) {
-    listReferences(context, referencesOf(context.database(), QStringLiteral("*")));
+    listReferences(context, referencesOf(context.database(), QStringLiteral("*"), true));
   } else if (option.is(u"Attach") || option.is(u"Overlay")) {
     co_await attachTyped(context, false, option.is(u"Overlay"));
   } else if (option.is(u"Path")) {

@@ -3,6 +3,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/entity_thickness.h"
 #include "drafton/engine/commands/property_prompts.h"
+#include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
@@ -48,11 +49,15 @@ Task<void> changeLayer(CommandContext& context, const Selection& entities) {
         {.text = u"Enter new layer name", .defaultValue = QStringView(shown)});
     if (name.value == shown) co_return;
     const auto layers = context.database().getLayerTableId().openAs<OdDbLayerTable>();
-    if (const OdDbObjectId layer = layers->getAt(name.value); !layer.isNull()) {
-      changeAll(entities, [&](OdDbEntity& e) { e.setLayer(layer); });
+    const OdDbLayerTableRecordPtr layer = layers->getAt(name.value).openObject();
+    const OdString fault = layer
+                               ? recordUseFault(*layer)
+                               : translated(u"There is no layer \"%1\".").arg(name.value.left(60));
+    if (fault.isEmpty()) {
+      changeAll(entities, [&](OdDbEntity& e) { e.setLayer(layer->objectId()); });
       co_return;
     }
-    context.print(translated(u"There is no layer \"%1\".").arg(name.value.left(60)));
+    context.print(fault);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "drawing/database.h"
 #include "drawing/entities/dimension.h"
+#include "drawing/entities/leader.h"
 
 namespace drafton {
 
@@ -19,6 +20,7 @@ std::vector<DimensionVariable> dimensionOverrides(const OdDbDatabase& database);
 
 /// The dimension gets the current style and the drawing's overrides, and is drawn anew.
 void takeCurrentDimensionStyle(const OdDbDatabase& database, OdDbDimension& dimension);
+void takeCurrentDimensionStyle(const OdDbDatabase& database, OdDbLeader& leader);
 
 /// A value as lists show it.
 OdString shownVariable(const OdDbVarValue& value);

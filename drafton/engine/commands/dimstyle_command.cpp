@@ -121,6 +121,9 @@ Task<void> saveStyle(CommandContext& context) {
 Task<void> restoreStyle(CommandContext& context) {
   const OdDbObjectId style = co_await askStyle(context);
   if (style.isNull()) co_return;
+  if (const OdString fault = recordUseFault(*style.openAs<OdDbSymbolTableRecord>());
+      !fault.isEmpty())
+    throw CommandFailure(fault);
   context.database().setCurrentDimStyle(style);
   context.database().setDimstyleData(style);
 }
@@ -144,6 +147,8 @@ Task<void> applyStyle(CommandContext& context) {
     const OdDbObjectPtr object = id.safeOpenObject(OdDb::kForWrite);
     if (auto* const dimension = odrxCast<OdDbDimension>(object.get()))
       takeCurrentDimensionStyle(context.database(), *dimension);
+    else if (auto* const leader = odrxCast<OdDbLeader>(object.get()))
+      takeCurrentDimensionStyle(context.database(), *leader);
     else
       ++others;
   }

@@ -51,6 +51,10 @@ bool checkName(CommandContext& context, const OdString& name) {
 }
 
 bool checkCanBeCurrent(CommandContext& context, const OdDbLayerTableRecord& layer) {
+  if (const OdString fault = recordUseFault(layer); !fault.isEmpty()) {
+    context.print(fault);
+    return false;
+  }
   if (!layer.isFrozen()) return true;
   context.print(
       translated(u"Layer \"%1\" is frozen and cannot be made current.").arg(layer.getName()));

@@ -1,6 +1,7 @@
 // LEADER.
 
 #include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/dimension_overrides.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/translator.h"
 #include "drawing/entities/leader.h"
@@ -94,6 +95,7 @@ Task<void> leader(CommandContext& context) {
   made->setSplined(format.isSplined);
   made->setHasArrowHead(format.hasArrow);
   addToCurrentSpace(database, *made);
+  takeCurrentDimensionStyle(database, *made);
   if (lines.isEmpty()) co_return;
   const OdDbMTextPtr note = makeNote(database, points, lines);
   made->setHasHookLine(true);

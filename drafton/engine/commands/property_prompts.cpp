@@ -1,5 +1,6 @@
 #include "drafton/engine/commands/property_prompts.h"
 
+#include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
@@ -135,6 +136,9 @@ Task<OdDbObjectId> askLinetype(CommandContext& context, const char16_t* question
     else if (!allowsLogical &&
              (found == database.getLinetypeByLayerId() || found == database.getLinetypeByBlockId()))
       context.print(translated(u"A layer cannot have the line type \"%1\".").arg(name.value));
+    else if (const OdString fault = recordUseFault(*found.openAs<OdDbSymbolTableRecord>());
+             !fault.isEmpty())
+      context.print(fault);
     else
       co_return found;
   }

@@ -2,6 +2,7 @@
 
 #include "drafton/engine/commands/wildcard.h"
 #include "drafton/engine/translator.h"
+#include "drawing/objects/xref_manager.h"
 
 namespace drafton {
 namespace {
@@ -23,6 +24,11 @@ OdString recordNameFault(QStringView name) {
   }
   if (name.trimmed() != name) return translated(u"it begins or ends with a blank");
   return {};
+}
+
+OdString recordUseFault(const OdDbSymbolTableRecord& record) {
+  if (!OdDbXRefMan::owns(record)) return {};
+  return translated(u"\"%1\" belongs to an external reference.").arg(record.getName().left(200));
 }
 
 QStringList recordNames(const OdDbSymbolTable& table, const OdString& patterns) {

@@ -14,7 +14,7 @@ namespace {
 
 /// What a variable accepts, whichever table it stands in.
 struct Accepted {
-  enum class Kind { kInteger, kReal, kText, kPoint, kColor };
+  enum class Kind { kInteger, kReal, kText, kPoint, kColor, kCharacter };
   Kind kind = Kind::kText;
   double min = 0, max = 0;
 };
@@ -49,6 +49,8 @@ Accepted acceptedBy(const OdString& name) {
   if (const VariableRow* const row = findVariable(name)) {
     for (const RowKind& entry : kRowKinds)
       if (entry.type == row->type) return {entry.kind, row->min, row->max};
+  } else if (isCharacterVariable(name)) {
+    return {Accepted::Kind::kCharacter, 0, 0};
   } else if (const OdDbHeaderVarInfo* const info = oddbFindHeaderVar(name)) {
     for (const HeaderKind& entry : kHeaderKinds)
       if (entry.type == info->type) return {entry.kind, info->min, info->max};
@@ -80,6 +82,8 @@ OdString refusalFor(const Accepted& accepted) {
     return translated(u"Requires a point: x,y or x,y,z.");
   case Accepted::Kind::kColor:
     return translated(u"Requires a color: a name, a number from 0 to 256, or r,g,b.");
+  case Accepted::Kind::kCharacter:
+    return translated(u"Requires a single character.");
   case Accepted::Kind::kText:
     break;
   }
@@ -101,6 +105,8 @@ OdString shownValue(CommandContext& context, const OdString& name) {
   }
   case Accepted::Kind::kReal:
     return shownReal(value.toDouble(), 8);
+  case Accepted::Kind::kCharacter:
+    return QChar(static_cast<char16_t>(value.toInt32()));
   case Accepted::Kind::kInteger:
   case Accepted::Kind::kPoint:
   case Accepted::Kind::kText:

@@ -46,6 +46,10 @@ Task<OdDbTextStyleTableRecordPtr> askStyle(CommandContext& context) {
     }
     const OdDbTextStyleTableRecordPtr there =
         styles(context)->getAt(name.value).openObject(OdDb::kForWrite);
+    if (const OdString fault = there ? recordUseFault(*there) : OdString(); !fault.isEmpty()) {
+      context.print(fault);
+      continue;
+    }
     if (there && !there->isShapeFile()) {
       context.print(translated(u"Existing style."));
       co_return there;

@@ -1,5 +1,6 @@
 #include "drafton/engine/commands/text_style_prompt.h"
 
+#include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
@@ -32,11 +33,14 @@ Task<void> askCurrentTextStyle(CommandContext& context) {
     }
     const auto styles = context.database().getTextStyleTableId().openAs<OdDbTextStyleTable>();
     const OdDbTextStyleTableRecordPtr style = styles->getAt(name.value).openObject();
-    if (style && !style->isShapeFile()) {
+    const bool isStyle = style && !style->isShapeFile();
+    const OdString fault = isStyle ? recordUseFault(*style)
+                                   : translated(u"There is no text style \"%1\".").arg(name.value);
+    if (fault.isEmpty()) {
       context.database().setCurrentTextStyle(style->objectId());
       co_return;
     }
-    context.print(translated(u"There is no text style \"%1\".").arg(name.value));
+    context.print(fault);
   }
 }
 

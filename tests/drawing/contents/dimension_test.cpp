@@ -117,6 +117,28 @@ TEST_F(Dimensions, SayWhatTheStyleWants) {
   EXPECT_EQ(said(1234), QStringLiteral("1.23E+03"));
 }
 
+TEST_F(Dimensions, OldStylesGetTheArrowsThatTheyName) {
+  const QByteArray old = "  0\nSECTION\n  2\nTABLES\n  0\nTABLE\n  2\nDIMSTYLE\n 70\n2\n"
+                         "  0\nDIMSTYLE\n  2\nTicks\n 70\n0\n  5\nARCHTICK\n  6\nMINE\n"
+                         "  0\nDIMSTYLE\n  2\nMore\n 70\n0\n  5\nARCHTICK\n  6\n_DOT\n"
+                         "  0\nENDTAB\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n"
+                         "  0\nENDSEC\n  0\nEOF\n";
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(old, QStringLiteral("old"));
+  const auto styles = read->getDimStyleTableId().openAs<OdDbDimStyleTable>();
+  const auto blocks = read->getBlockTableId().openAs<OdDbBlockTable>();
+  const OdDbObjectId tick = blocks->getAt(QStringLiteral("_ArchTick"));
+  ASSERT_FALSE(tick.isNull());
+  EXPECT_FALSE(tick.openAs<OdDbBlockTableRecord>()->newIterator()->done());
+  EXPECT_FALSE(blocks->has(QStringLiteral("ARCHTICK")));
+  EXPECT_TRUE(blocks->has(QStringLiteral("MINE")));
+  for (const char* const name : {"Ticks", "More"}) {
+    const OdDbDimStyleTableRecordPtr one = styles->getAt(QLatin1String(name)).openObject();
+    EXPECT_EQ(one->dimblk(), tick) << name;
+  }
+  const OdDbObjectId dot = blocks->getAt(QStringLiteral("_DOT"));
+  EXPECT_FALSE(dot.openAs<OdDbBlockTableRecord>()->newIterator()->done());
+}
+
 TEST_F(Dimensions, TakeTheirOwnTextAndOverrides) {
   const auto dimension = linear();
   dimension->setDimensionText(QStringLiteral("about <>!"));

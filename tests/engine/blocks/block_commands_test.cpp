@@ -4,6 +4,7 @@
 #include "drawing/objects/xref_manager.h"
 #include "engine/blocks/block_fixture.h"
 
+#include <QDir>
 #include <QImage>
 
 namespace {
@@ -100,7 +101,47 @@ TEST_F(BlockTest, ReplacesAFileOnlyIfToldTo) {
 
 // --- external references
 
-class ReferenceTest : public BlockFixture {};
+class ReferenceTest : public BlockFixture {
+ protected:
+  /// A drawing with a line on a layer, an insert, and records of some kinds.
+  void writePlan(const char* name) {
+    const OdDbDatabasePtr plan = OdDbDatabase::createDatabase();
+    const auto dashes = odrxMake<OdDbLinetypeTableRecord>();
+    dashes->setName(QStringLiteral("Dashes"));
+    plan->getLinetypeTableId().openAs<OdDbLinetypeTable>(OdDb::kForWrite)->add(dashes);
+    const auto walls = odrxMake<OdDbLayerTableRecord>();
+    walls->setName(QStringLiteral("Walls"));
+    walls->setLinetypeObjectId(dashes->objectId());
+    plan->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite)->add(walls);
+    const auto notes = odrxMake<OdDbTextStyleTableRecord>();
+    notes->setName(QStringLiteral("Notes"));
+    plan->getTextStyleTableId().openAs<OdDbTextStyleTable>(OdDb::kForWrite)->add(notes);
+    const OdDbObjectId door = addBlock(*plan, u"Door");
+    opened(door)->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{}, OdGePoint3d{1, 0, 0}));
+    const auto space = opened(plan->getModelSpaceId());
+    const auto line = odrxMake<OdDbLine>(OdGePoint3d{}, OdGePoint3d{5, 0, 0});
+    line->setLayer(walls->objectId());
+    space->appendOdDbEntity(line);
+    const auto text = odrxMake<OdDbText>();
+    text->setTextString(QStringLiteral("plan"));
+    text->setTextStyle(notes->objectId());
+    space->appendOdDbEntity(text);
+    space->appendOdDbEntity(odrxMake<OdDbBlockReference>(door));
+    plan->writeFile(odpath::fromPlatform(path(name)));
+  }
+};
+
+/// Makes a folder the working one for a while.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const QString& folder) { QDir::setCurrent(folder); }
+  ~WorkingFolder() { QDir::setCurrent(m_former); }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+ private:
+  QString m_former = QDir::currentPath();
+};
 
 TEST_F(ReferenceTest, IsAttachedAndShown) {
   writeDrawing("wheel.dxf", 2);
@@ -169,6 +210,106 @@ TEST_F(ReferenceTest, IsListedReloadedUnloadedAndDetached) {
   EXPECT_FALSE(hasBlock(u"wheel"));
   words("XREF|d|wheel");
   EXPECT_TRUE(console().shows(QStringLiteral("No external reference fits \"wheel\".")));
+}
+
+TEST_F(ReferenceTest, StaysWholeAndKeepsItsBlocks) {
+  writePlan("plan.dxf");
+  words("XATTACH|" + path("plan.dxf") + "||0,0||||LINE|0,0|1,1|");
+  words("EXPLODE|all||");
+  EXPECT_TRUE(
+      console().shows(QStringLiteral("\"plan\" is an external reference and cannot be exploded.")));
+  ASSERT_EQ(inserts().size(), 1u) << output().toStdString();
+  EXPECT_EQ(inserts()[0]->blockName(), QStringLiteral("plan"));
+  ASSERT_TRUE(hasBlock(u"plan|Door"));
+  type(QStringLiteral("INSERT\nplan|Door\n"));
+  EXPECT_FALSE(isBusy());
+  EXPECT_TRUE(console().shows(QStringLiteral("\"plan|Door\" belongs to an external reference.")))
+      << output().toStdString();
+}
+
+TEST_F(ReferenceTest, LendsItsRecordsToNobody) {
+  writePlan("plan.dxf");
+  words("XATTACH|" + path("plan.dxf") + "||0,0||||LINE|0,0|1,1|");
+  ASSERT_TRUE(
+      database().getLayerTableId().openAs<OdDbLayerTable>()->has(QStringLiteral("plan|Walls")));
+  const QByteArray before = database().writeDxf();
+  for (const char* const run : {
+           "LAYER\ns\nplan|Walls\n",
+           "CHPROP\nlast\n\nla\nplan|Walls\n",
+           "CHPROP\nlast\n\nlt\nplan|Dashes\n",
+           "CLAYER\nplan|Walls\n",
+           "CELTYPE\nplan|Dashes\n",
+           "TEXTSTYLE\nplan|Notes\n",
+           "LINETYPE\ns\nplan|Dashes\n",
+           "STYLE\nplan|Notes\n",
+           "TEXT\ns\nplan|Notes\n",
+       }) {
+    type(QString::fromLatin1(run));
+    EXPECT_TRUE(isBusy()) << run << output().toStdString();
+    type(QStringLiteral("^C"));
+    EXPECT_EQ(database().writeDxf(), before) << run;
+  }
+  EXPECT_FALSE(database().setSysVar(QStringLiteral("CLAYER"), QStringLiteral("plan|Walls")));
+  words("XREF|d|*");
+  EXPECT_FALSE(
+      database().getLayerTableId().openAs<OdDbLayerTable>()->has(QStringLiteral("plan|Walls")));
+}
+
+TEST_F(ReferenceTest, NestedReferencesFollowTheOneThatHasThem) {
+  writeDrawing("wheel.dxf", 2);
+  const OdDbDatabasePtr car = OdDbDatabase::createDatabase();
+  const OdDbObjectId wheel = OdDbXRefMan::attach(*car, odpath::fromPlatform(path("wheel.dxf")),
+                                                 QStringLiteral("wheel"), false);
+  opened(car->getModelSpaceId())->appendOdDbEntity(odrxMake<OdDbBlockReference>(wheel));
+  car->writeFile(odpath::fromPlatform(path("car.dxf")));
+  words("XATTACH|" + path("car.dxf") + "||0,0||||XREF|?");
+  ASSERT_TRUE(hasBlock(u"car|wheel")) << output().toStdString();
+  EXPECT_TRUE(console().shows(QStringLiteral("\"car|wheel\"  attached")));
+  words("XREF|r|*");
+  EXPECT_FALSE(isBusy());
+  OdGeExtents3d box;
+  ASSERT_TRUE(inserts().at(0)->getGeomExtents(box));
+  EXPECT_NEAR(box.maxPoint().x, 2, 1e-9);
+  words("XREF|u|*");
+  EXPECT_FALSE(inserts().at(0)->getGeomExtents(box));
+  words("XREF|r|*|XREF|d|*");
+  EXPECT_FALSE(isBusy());
+  EXPECT_TRUE(inserts().empty()) << output().toStdString();
+  EXPECT_FALSE(hasBlock(u"car"));
+  EXPECT_FALSE(hasBlock(u"car|wheel"));
+  // One that follows another is not taken by itself.
+  words("XATTACH|" + path("car.dxf") + "||0,0||||XREF|d|car*wheel");
+  EXPECT_TRUE(console().shows(QStringLiteral("No external reference fits \"car*wheel\".")));
+  EXPECT_TRUE(hasBlock(u"car|wheel"));
+}
+
+TEST_F(ReferenceTest, OfOneFileIsOneHoweverItIsSpelled) {
+  writeDrawing("wheel.dxf", 2);
+  const WorkingFolder inside(path("."));
+  words("XATTACH|wheel.dxf||0,0||||XATTACH|./wheel.dxf||5,0||||XATTACH|wheel||5,0||||XATTACH|" +
+        path("wheel.dxf") + "||9,0|||");
+  ASSERT_EQ(inserts().size(), 4u) << output().toStdString();
+  for (const OdDbBlockReferencePtr& insert : inserts())
+    EXPECT_EQ(insert->blockName(), QStringLiteral("wheel"));
+  const OdDbBlockTableRecordPtr block = inserts()[0]->blockTableRecord().openObject();
+  EXPECT_EQ(block->pathName(),
+            odpath::fromPlatform(QFileInfo(path("wheel.dxf")).canonicalFilePath()));
+}
+
+TEST_F(ReferenceTest, DrawingIsNotPutIntoItselfHoweverItIsSpelled) {
+  writeDrawing("house.dxf", 2);
+  const WorkingFolder inside(path("."));
+  database().setFileName(QStringLiteral("house.dxf"));
+  for (const QString& name : {QStringLiteral("house"), QStringLiteral("./house.dxf"),
+                              QStringLiteral("B=house.dxf"), path("house.dxf")}) {
+    words("INSERT|" + name);
+    EXPECT_FALSE(isBusy()) << name.toStdString();
+    EXPECT_TRUE(console().shows(QStringLiteral("A drawing cannot be inserted into itself.")))
+        << name.toStdString() << output().toStdString();
+    console().clear();
+  }
+  words("XATTACH|house.dxf|");
+  EXPECT_TRUE(console().shows(QStringLiteral("A drawing cannot be attached to itself.")));
 }
 
 // --- pictures
