@@ -33,7 +33,8 @@ DashPattern::DashPattern(const OdDbLinetypeTableRecord& linetype) {
                              .scale = linetype.shapeScaleAt(i),
                              .angle = linetype.shapeRotationAt(i),
                              .offset = linetype.shapeOffsetAt(i),
-                             .isAbsolute = linetype.shapeIsUcsOrientedAt(i)});
+                             .isAbsolute = linetype.shapeIsUcsOrientedAt(i),
+                             .isUpright = linetype.shapeIsUprightAt(i)});
     }
     m_dashes.push_back(dash);
   }

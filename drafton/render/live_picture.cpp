@@ -11,9 +11,6 @@ LivePicture::LivePicture(Scene& scene)
 
 LivePicture::Circumstances LivePicture::circumstancesOf(OdDbObjectId block, const View& view,
                                                         const RenderOptions& options) const {
-  const auto marked = [](const std::unordered_set<OdDbObjectId>* ids) {
-    return ids != nullptr ? Marked(*ids) : std::nullopt;
-  };
   return {.block = block,
           .revision = m_scene.revision(),
           .target = view.target,
@@ -27,9 +24,21 @@ LivePicture::Circumstances LivePicture::circumstancesOf(OdDbObjectId block, cons
           .showsLineWeights = options.showsLineWeights,
           .simplifies = options.simplifies,
           .pixelsPerMillimetre = options.pixelsPerMillimetre,
-          .highlighted = marked(options.highlighted),
-          .hidden = marked(options.hidden),
           .highlightColor = options.highlightColor};
+}
+
+bool LivePicture::takeMarked(const RenderOptions& options) {
+  bool isNew = false;
+  const auto take = [&](Marked& kept, const Marked* now) {
+    static const Marked nothing;
+    // Comparing is cheap beside copying, and nearly always enough.
+    if (kept == (now != nullptr ? *now : nothing)) return;
+    kept = now != nullptr ? *now : nothing;
+    isNew = true;
+  };
+  take(m_highlighted, options.highlighted);
+  take(m_hidden, options.hidden);
+  return isNew;
 }
 
 std::optional<QPoint> LivePicture::wayFrom(const Circumstances& now, const QPointF& corner) const {
@@ -67,6 +76,7 @@ const QImage& LivePicture::show(OdDbObjectId block, const View& view, const Rend
   }
   const View settled = view.settled();
   const Circumstances now = circumstancesOf(block, settled, options);
+  if (takeMarked(options)) forget();
   const QPointF corner = settled.projection()(OdGePoint3d{});
   QRegion missing(QRect(QPoint(0, 0), size));
   if (const auto way = wayFrom(now, corner)) {

@@ -23,7 +23,7 @@ class LivePicture {
   qint64 drawnPixels() const { return m_drawnPixels; }
 
  private:
-  using Marked = std::optional<std::unordered_set<OdDbObjectId>>;
+  using Marked = std::unordered_set<OdDbObjectId>;
   /// All that a picture depends on, but for where one looks.
   struct Circumstances {
     OdDbObjectId block;
@@ -36,13 +36,14 @@ class LivePicture {
     Ground ground{0};
     bool isPlotting = false, showsLineWeights = false, simplifies = false;
     double pixelsPerMillimetre = 0;
-    Marked highlighted, hidden;
     QRgb highlightColor = 0;
 
     bool operator==(const Circumstances&) const = default;
   };
   Circumstances circumstancesOf(OdDbObjectId block, const View& view,
                                 const RenderOptions& options) const;
+  /// Takes over which entities stand out and which are hidden; true if that is new.
+  bool takeMarked(const RenderOptions& options);
   /// How far the kept picture has to be moved; nothing if it is of no use.
   std::optional<QPoint> wayFrom(const Circumstances& now, const QPointF& corner) const;
   void move(const QPoint& way);
@@ -51,6 +52,7 @@ class LivePicture {
   QImage m_base;      ///< without transient entities
   QImage m_decorated; ///< with them
   std::optional<Circumstances> m_before;
+  Marked m_highlighted, m_hidden;
   QPointF m_corner; ///< the drawing's zero in the kept picture
   qint64 m_drawnPixels = 0;
 };

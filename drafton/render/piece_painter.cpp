@@ -14,6 +14,8 @@ namespace {
 
 /// How far a chord may leave its curve, in pixels.
 constexpr double kChordError = 0.2;
+/// Lines of more corners have none shorter than this, in pixels.
+constexpr double kShortest = 1.2;
 /// Arcs with more chords than this are cut down to what is seen of them.
 constexpr int kManyChords = 400;
 constexpr int kDeepestCut = 40;
@@ -209,9 +211,9 @@ void PiecePainter::plainLine(std::span<const OdGePoint3d> points, bool closed) {
   m_buffer.clear();
   for (const OdGePoint3d& p : points) {
     const QPointF at = project(p);
-    // Corners that fall into one pixel are one.
+    // Corners that fall into one pixel are one; many short lines would also be too dark.
     if (m_options.simplifies && !m_buffer.empty() && &p != &points.back() &&
-        (at - m_buffer.back()).manhattanLength() < 0.5)
+        (at - m_buffer.back()).manhattanLength() < kShortest)
       continue;
     m_buffer.push_back(at);
   }

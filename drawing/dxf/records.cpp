@@ -10,6 +10,7 @@ constexpr int kItalic = 0x1000000;
 
 // Of code 74 of a dash.
 constexpr int kDashUcsOriented = 1;
+constexpr int kDashUpright = 8;
 constexpr int kDashText = 2;
 constexpr int kDashShape = 4;
 } // namespace
@@ -134,6 +135,7 @@ bool OdDbLinetypeTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   case 74: {
     const int bits = in.integer(tag, 0);
     dash.ucsOriented = bits & kDashUcsOriented;
+    dash.isUpright = bits & kDashUpright;
     dash.typeBits = static_cast<std::uint8_t>(bits & 0xFF);
     return true;
   }
@@ -173,8 +175,9 @@ void OdDbLinetypeTableRecord::dxfOutFields(OdDbDxfOut& out) const {
   out.real(40, m_linetype.patternLength);
   for (const Dash& dash : m_linetype.dashes) {
     out.real(49, dash.length);
-    int bits = dash.typeBits & ~(kDashUcsOriented | kDashText | kDashShape);
+    int bits = dash.typeBits & ~(kDashUcsOriented | kDashUpright | kDashText | kDashShape);
     if (dash.ucsOriented) bits |= kDashUcsOriented;
+    if (dash.isUpright) bits |= kDashUpright;
     if (!dash.text.isEmpty())
       bits |= kDashText;
     else if (dash.shapeNumber != 0)

@@ -6,6 +6,7 @@
 #include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/objects/wipeout_shape.h"
 
 namespace {
 
@@ -75,6 +76,10 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
   }
   if (const OdDbKeptTags mline = tagsOf(tail, "AcDbMline"); !mline.tags.empty()) {
     oddb::drawMline(mline, *database(), draw);
+    return;
+  }
+  if (const OdDbKeptTags wipeout = tagsOf(tail, "AcDbWipeout"); !wipeout.tags.empty()) {
+    oddb::drawWipeout(wipeout, *database(), draw);
     return;
   }
   const QByteArray* const common = residue()->of("AcDbEntity");

@@ -167,6 +167,7 @@ OdDbObjectId OdLinetypeDefinition::addTo(OdDbDatabase& database) const {
     record->setShapeRotationAt(i, dash.angle);
     record->setShapeOffsetAt(i, dash.offset);
     record->setShapeIsUcsOrientedAt(i, dash.rotation == Dash::Rotation::kAbsolute);
+    record->setShapeIsUprightAt(i, dash.rotation == Dash::Rotation::kUpright);
     if (dash.text.isEmpty())
       record->setShapeNumberAt(i, shapeNumber(dash));
     else

@@ -65,6 +65,10 @@ void OdDbLinetypeTableRecord::setShapeIsUcsOrientedAt(int index, bool oriented) 
   editDash(index).ucsOriented = oriented;
 }
 
+void OdDbLinetypeTableRecord::setShapeIsUprightAt(int index, bool upright) {
+  editDash(index).isUpright = upright;
+}
+
 void OdDbLinetypeTableRecord::setShapeNumberAt(int index, std::uint16_t number) {
   editDash(index).shapeNumber = number;
 }

@@ -33,6 +33,9 @@ class OdDbLinetypeTableRecord : public OdDbSymbolTableRecord {
   /// The rotation is against the drawing and not against the line.
   bool shapeIsUcsOrientedAt(int index) const { return dash(index).ucsOriented; }
   void setShapeIsUcsOrientedAt(int index, bool oriented);
+  /// The text or shape is turned round where it would stand on its head.
+  bool shapeIsUprightAt(int index) const { return dash(index).isUpright; }
+  void setShapeIsUprightAt(int index, bool upright);
   /// 0 if the dash carries no shape.
   std::uint16_t shapeNumberAt(int index) const { return dash(index).shapeNumber; }
   void setShapeNumberAt(int index, std::uint16_t number);
@@ -54,7 +57,7 @@ class OdDbLinetypeTableRecord : public OdDbSymbolTableRecord {
     OdDbObjectId style;
     OdString text;
     std::uint16_t shapeNumber = 0;
-    bool ucsOriented = false;
+    bool ucsOriented = false, isUpright = false;
     std::uint8_t typeBits = 0; ///< as the file has them
   };
   struct Data {

@@ -91,6 +91,26 @@ TEST_F(PatternPictures, LineTypesFollowCurvesAndCorners) {
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80, {480, 340}), "linetype_paths"));
 }
 
+TEST_F(PatternPictures, TextsOfLinesStandUprightWhereTheyAreAskedTo) {
+  const OdLinetypeFile own =
+      OdLinetypeFile::parse("*UPRIGHT,\nA,8,-4,[\"up\",STANDARD,s=3,u=0,x=-2.4,y=-1.5],-4\n"
+                            "*ALONG,\nA,8,-4,[\"along\",STANDARD,s=3,r=0,x=-4,y=-1.5],-6\n"
+                            "*LEVEL,\nA,8,-4,[\"level\",STANDARD,s=3,a=0,x=-4,y=-1.5],-6\n");
+  double x = 0;
+  for (const char16_t* name : {u"UPRIGHT", u"ALONG", u"LEVEL"}) {
+    const OdDbObjectId linetype = own.find(OdString::fromUtf16(name))->addTo(database());
+    for (int i = 0; i < 8; ++i) {
+      const OdGeVector3d way{std::cos(kOdaPi * i / 4), std::sin(kOdaPi * i / 4), 0};
+      const OdGePoint3d middle{x, 0, 0};
+      auto line = odrxMake<OdDbLine>(middle + way * 8, middle + way * 48);
+      line->setLinetype(linetype);
+      add(line);
+    }
+    x += 110;
+  }
+  EXPECT_TRUE(looksLike(picture(-55, -55, 275, 55, {990, 330}), "linetype_texts"));
+}
+
 TEST_F(PatternPictures, Gradients) {
   const char16_t* const names[] = {u"LINEAR",           u"CYLINDER",     u"INVCYLINDER",
                                    u"SPHERICAL",        u"INVSPHERICAL", u"HEMISPHERICAL",

@@ -158,6 +158,40 @@ TEST_F(ShapePictures, HatchesWithEdgesOfAllKinds) {
   EXPECT_TRUE(looksLike(picture(-10, -10, 350, 75, {720, 170}), "hatch_edges"));
 }
 
+TEST_F(ShapePictures, WipeoutsCoverWhatIsBeforeThem) {
+  for (int i = 0; i < 10; ++i) line({0, i * 6.0, 0}, {120, i * 6.0 + 12, 0});
+  // Nothing is known of them but what the file tells.
+  const auto wipeout = [](const char* handle, const char* origin, const char* corners) {
+    return QByteArray("  0\nWIPEOUT\n  5\n") + handle +
+           "\n100\nAcDbEntity\n  8\n0\n 62\n1\n100\nAcDbWipeout\n 90\n0\n" + origin +
+           " 11\n40\n 21\n0\n 31\n0\n 12\n0\n 22\n30\n 32\n0\n 13\n1\n 23\n1\n 70\n7\n280\n1\n"
+           "281\n50\n282\n50\n283\n0\n" +
+           corners;
+  };
+  QByteArray file = database().writeDxf();
+  const QByteArray entities = "  2\nENTITIES\n";
+  const qsizetype end = file.indexOf("  0\nENDSEC\n", file.indexOf(entities));
+  ASSERT_GT(end, 0);
+  file.insert(end, wipeout("F001", " 10\n10\n 20\n15\n 30\n0\n",
+                           " 71\n1\n 91\n2\n 14\n-0.5\n 24\n-0.5\n 14\n0.5\n 24\n0.5\n") +
+                       wipeout("F002", " 10\n70\n 20\n20\n 30\n0\n",
+                               " 71\n2\n 91\n4\n 14\n-0.5\n 24\n0.5\n 14\n0\n 24\n-0.5\n"
+                               " 14\n0.5\n 24\n0.5\n 14\n-0.5\n 24\n0.5\n"));
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(file, QStringLiteral("wipeouts.dxf"));
+  Scene other(*read);
+  QImage image(390, 240, QImage::Format_RGB32);
+  RenderOptions options;
+  options.ground = Ground(qRgb(230, 240, 255));
+  image.fill(options.ground.color());
+  View view;
+  view.size = image.size();
+  OdGeExtents3d box;
+  box.addPoint({-5, -5, 0});
+  box.addPoint({125, 75, 0});
+  render(image, other, read->getModelSpaceId(), view.fitted(box), options);
+  EXPECT_TRUE(looksLike(image, "wipeout"));
+}
+
 TEST_F(ShapePictures, LeadersWithTheirNotes) {
   auto note = odrxMake<OdDbMText>();
   note->setDatabaseDefaults(database());

@@ -125,6 +125,7 @@ void copyPattern(OdDbLinetypeTableRecord& to, const OdDbLinetypeTableRecord& fro
     to.setShapeRotationAt(i, from.shapeRotationAt(i));
     to.setShapeOffsetAt(i, from.shapeOffsetAt(i));
     to.setShapeIsUcsOrientedAt(i, from.shapeIsUcsOrientedAt(i));
+    to.setShapeIsUprightAt(i, from.shapeIsUprightAt(i));
     to.setShapeNumberAt(i, from.shapeNumberAt(i));
     to.setTextAt(i, from.textAt(i));
   }

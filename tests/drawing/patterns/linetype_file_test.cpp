@@ -57,6 +57,21 @@ TEST(LinetypeFile, ReadsDashesTextsAndShapes) {
   EXPECT_EQ(t.dashes[3].length, 0);
 }
 
+TEST(LinetypeFile, TextsThatStayUprightAreKeptInFiles) {
+  const auto file =
+      OdLinetypeFile::parse("*T,\nA,5,-5,[\"HW\",STANDARD,s=2,u=30],-5,[\"N\",STANDARD]\n");
+  const OdDbDatabasePtr database = OdDbDatabase::createDatabase();
+  file.find(QStringLiteral("t"))->addTo(*database);
+  const OdDbDatabasePtr again =
+      OdDbDatabase::readDxf(database->writeDxf(), QStringLiteral("t.dxf"));
+  const auto types = again->getLinetypeTableId().openAs<OdDbLinetypeTable>(OdDb::kForRead);
+  const auto record = recordOf(types->getAt(QStringLiteral("T")));
+  EXPECT_TRUE(record->shapeIsUprightAt(1));
+  EXPECT_FALSE(record->shapeIsUcsOrientedAt(1));
+  EXPECT_NEAR(record->shapeRotationAt(1), kOdaPi / 6, 1e-9);
+  EXPECT_FALSE(record->shapeIsUprightAt(2));
+}
+
 TEST(LinetypeFile, GivesTextsAndShapesToTheDrawing) {
   const auto file = OdLinetypeFile::parse("*T,\nA,5,-5,[\"HW\",Narrow,s=2,a=30],-5,[ZIG,z.shx]\n");
   const OdDbDatabasePtr database = OdDbDatabase::createDatabase();
