@@ -119,6 +119,35 @@ TEST_F(ShapePictures, DimensionsOfLengthsAndRounds) {
   EXPECT_TRUE(looksLike(picture(-15, -30, 225, 60, {960, 360}), "dimension_kinds"));
 }
 
+TEST_F(ShapePictures, DimensionsOfAnglesArcsAndCoordinates) {
+  database().setSysVar(QStringLiteral("DIMSCALE"), 2.0);
+  line({0, 0, 0}, {60, 0, 0});
+  line({0, 0, 0}, {45, 45, 0});
+  auto lines = odrxMake<OdDb2LineAngularDimension>();
+  lines->setLines({0, 0, 0}, {60, 0, 0}, {0, 0, 0}, {45, 45, 0});
+  lines->setArcPoint({46, 19, 0});
+  dimension(lines);
+  line({90, 0, 0}, {125, -5, 0});
+  line({90, 0, 0}, {80, 35, 0});
+  auto points = odrxMake<OdDb3PointAngularDimension>();
+  points->set({90, 0, 0}, {125, -5, 0}, {80, 35, 0}, {107, 25, 0});
+  dimension(points);
+  const auto onArc = [](double angle) {
+    return OdGePoint3d{175 + 25 * std::cos(angle), 25 * std::sin(angle), 0};
+  };
+  add(odrxMake<OdDbArc>(OdGePoint3d{175, 0, 0}, OdGeVector3d::zAxis(), 25, 0.3, 2.4));
+  auto along = odrxMake<OdDbArcDimension>();
+  along->set({175, 0, 0}, onArc(0.3), onArc(2.4), {175, 38, 0});
+  dimension(along);
+  for (const bool isX : {true, false}) {
+    auto ordinate = odrxMake<OdDbOrdinateDimension>();
+    ordinate->set({0, 0, 0}, {60, 0, 0}, isX ? OdGePoint3d{64, -25, 0} : OdGePoint3d{72, -8, 0},
+                  isX);
+    dimension(ordinate);
+  }
+  EXPECT_TRUE(looksLike(picture(-15, -35, 225, 60, {960, 380}), "dimension_angles"));
+}
+
 TEST_F(ShapePictures, HatchesWithEdgesOfAllKinds) {
   const OdHatchPatternFile file =
       OdHatchPatternFile::read(QStringLiteral(SOURCE_DIR "/drafton/engine/data/draftoniso.pat"));
