@@ -1,5 +1,6 @@
 // Pictures that an image makes of what its tool acts on.
 #include "drawing/database.h"
+#include "drawing/entities/attribute_definition.h"
 #include "frame/file_path.h"
 #include "host/host_locator.h"
 #include "host/preview_service.h"
@@ -29,8 +30,20 @@ OdGeExtents3d widened(const OdGeExtents3d& box) {
   return view;
 }
 
+/// What a block shows of itself; the texts that its inserts will have are not among it.
+OdGeExtents3d extentsOfBlock(const OdDbBlockTableRecord& block) {
+  OdGeExtents3d box;
+  for (const auto at = block.newIterator(); !at->done(); at->step()) {
+    const OdDbEntityPtr entity = at->entity();
+    const auto* const attribute = odrxCast<OdDbAttributeDefinition>(entity.get());
+    OdGeExtents3d own;
+    if ((!attribute || attribute->isConstant()) && entity->getGeomExtents(own)) box.addExt(own);
+  }
+  return box.isEmpty() ? block.extents() : box;
+}
+
 OdGeExtents3d extentsOf(const OdDbObject& object) {
-  if (const auto* block = odrxCast<OdDbBlockTableRecord>(&object)) return block->extents();
+  if (const auto* block = odrxCast<OdDbBlockTableRecord>(&object)) return extentsOfBlock(*block);
   OdGeExtents3d box;
   if (const auto* entity = odrxCast<OdDbEntity>(&object)) entity->getGeomExtents(box);
   return box;

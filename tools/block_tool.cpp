@@ -7,6 +7,7 @@
 #include "tools/deferred_command.h"
 #include "tools/object_property_families.h"
 #include "tools/plot_scale.h"
+#include "tools/tool_source.h"
 
 namespace tc {
 namespace {
@@ -159,7 +160,7 @@ void OdTcToolBlockCommandImpl::endExecution(IHostDocument* document) {
 OdTcBlockRequest OdTcToolBlockCommandImpl::makeRequest(IHostDocument& document) const {
   OdTcBlockRequest request;
   request.name = m_fields.name;
-  request.sourceFile = m_fields.sourceFile;
+  request.sourceFile = sourceFromPalette(*this, m_fields.sourceFile);
   request.scale = m_fields.scale;
   if (const OdDbDatabase* const database = document.database()) {
     if (m_auxScale == AuxScale::kDimscale) request.scale *= database->sysVarReal("DIMSCALE");

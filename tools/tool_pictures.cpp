@@ -5,24 +5,30 @@
 #include "tools/hatch_tool.h"
 #include "tools/raster_tool.h"
 #include "tools/source_drawings.h"
+#include "tools/tool_source.h"
 
 namespace tc {
 
 bool OdTcToolBlockCommandImpl::makePicture(OdTcImage& image, OdTcSourceDrawings& drawings) const {
-  if (m_fields.sourceFile.isEmpty()) return false;
-  if (isWholeFile()) return image.makeFromDrawing(m_fields.sourceFile);
-  const OdDbDatabase* const source = drawings.open(m_fields.sourceFile);
+  const OdString file = sourceFromPalette(*this, m_fields.sourceFile);
+  if (file.isEmpty()) return false;
+  if (isWholeFile()) return image.makeFromDrawing(file);
+  const OdDbDatabase* const source = drawings.open(file);
   if (!source) return false;
   const OdDbBlockTablePtr blocks = source->getBlockTableId().openObject();
   return image.makeFromBlock(blocks->getAt(m_fields.name));
 }
 
 bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceDrawings&) const {
-  return renderImage(image);
+  if (m_fields.hatchObjectType != 0) return renderImage(image);
+  // A filling by layer has no colour of its own: the host shows it in one that is seen anywhere.
+  const std::optional<OdCmColor> color = generalColor();
+  const bool hasOwn = color && !color->isByLayer() && !color->isByBlock();
+  return image.makeFromPattern(m_fields.patternName, hasOwn ? color : std::nullopt);
 }
 
 bool OdTcToolRasterCommandImpl::makePicture(OdTcImage& image, OdTcSourceDrawings&) const {
-  return image.setSrcFromFile(m_fields.sourceFile);
+  return image.setSrcFromFile(sourceFromPalette(*this, m_fields.sourceFile));
 }
 
 } // namespace tc

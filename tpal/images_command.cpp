@@ -6,6 +6,7 @@
 #include "module/properties.h"
 #include "tools/action_agent.h"
 #include "tools/source_drawings.h"
+#include "tools/tool_source.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
 #include "tpal/loaded_catalog.h"
@@ -116,7 +117,7 @@ class PictureMaker {
     return isThere(list.findBySize(codeOf(size))) ? tc::OdTcImagePtr() : scaled(list, size);
   }
   OdString whyNot(const tc::OdTcToolActionAgent* agent) const {
-    const OdString source = agent ? agent->sourcePath() : OdString();
+    const OdString source = agent ? tc::sourceFromPalette(*agent, agent->sourcePath()) : OdString();
     if (const OdString problem = m_sources.problemOf(source); !problem.isEmpty()) return problem;
     return source.isEmpty() ? QStringLiteral("there is nothing to make a picture of")
                             : QStringLiteral("no picture comes of %1").arg(source);

@@ -8,6 +8,8 @@
 #include "tools/action_agent.h"
 #include "tpal/console_host.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace tpal {
@@ -20,6 +22,8 @@ LoadedCatalog loadCatalog(const OdString& folder) {
   const OdString stored = odpath::fromPlatform(folder);
   result.file = (stored.endsWith(u'\\') ? stored.chopped(1) : stored) + u'\\' +
                 OdString::fromUtf16(tc::kCatalogFileName);
+  ConsoleHost::instance().setToolPaletteFolders(
+      {odpath::fromPlatform(QFileInfo(folder).absoluteFilePath())});
   result.catalog = tc::OdTcCatalog::createObject();
   ConsoleHost::instance().takeMessages();
   if (!odrxSystemServices()->fileExists(result.file)) {

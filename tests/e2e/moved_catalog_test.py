@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""A catalog that moves with its drawings: every picture and every source is found where it is now.
+
+Usage: moved_catalog_test.py PROGRAMS [unittest's arguments]
+"""
+
+import json
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+
+import ezdxf
+
+import tool_bench
+
+PROGRAMS = "."
+COUNT = 100
+
+
+class MovedCatalog(unittest.TestCase):
+    def setUp(self):
+        self.bench = tool_bench.Bench(PROGRAMS)
+        self.addCleanup(self.bench.close)
+        document = ezdxf.new("R2010")
+        document.header["$INSUNITS"] = 4
+        for i in range(COUNT):
+            document.blocks.new(f"B{i}").add_circle((0, 0), i + 1)
+        (self.bench.path("c") / "blocks").mkdir(parents=True)
+        document.saveas(self.bench.path("c") / "blocks" / "all.dxf")
+        self.bench.write_catalog([
+            (f"T{i}", "Block", {"BlockType": 1, "BlockName": f"B{i}", "Scale": 1,
+                                "SourceFile": "..\\blocks\\all.dxf"}, "") for i in range(COUNT)])
+
+    def tpal(self, *words):
+        return subprocess.run([pathlib.Path(PROGRAMS) / "tpal", *words], text=True,
+                              capture_output=True, timeout=120)
+
+    def test_finds_its_pictures_and_sources(self):
+        made = self.tpal("images", self.bench.path("c"), "--missing")
+        self.assertEqual(made.returncode, 0, made.stdout[-1000:] + made.stderr)
+        moved = self.bench.path("elsewhere") / "deeper"
+        moved.parent.mkdir()
+        shutil.move(self.bench.path("c"), moved)
+
+        looked = self.tpal("images", moved, "--json")
+        self.assertEqual(json.loads(looked.stdout), [])
+        self.assertEqual(len(list((moved / "Palettes" / "Images").glob("*.png"))), 3 * COUNT)
+
+        script = "".join(f"TOOL:T{i}\n{i},0\n" for i in range(COUNT))
+        run = subprocess.run([pathlib.Path(PROGRAMS) / "drafton", "batch", "--profile",
+                              self.bench.path("profile.ini"), "--catalogs", moved, "--out",
+                              self.bench.path("out.dxf")], input=script, text=True,
+                             capture_output=True, timeout=120)
+        self.assertEqual(run.returncode, 0, run.stdout[-1000:] + run.stderr)
+        names = [insert.dxf.name for insert in self.bench.read().modelspace().query("INSERT")]
+        self.assertEqual(names, [f"B{i}" for i in range(COUNT)])
+
+    def test_keeps_relative_sources_when_it_is_written_anew(self):
+        self.assertEqual(self.tpal("resave", self.bench.path("c")).returncode, 0)
+        text = (self.bench.path("c") / "Palettes" / "palette.dtc").read_text(encoding="utf-8")
+        self.assertEqual(text.count("<SourceFile>..\\blocks\\all.dxf</SourceFile>"), COUNT)
+
+
+if __name__ == "__main__":
+    PROGRAMS = sys.argv.pop(1) if len(sys.argv) > 1 else "."
+    unittest.main()
