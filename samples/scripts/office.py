@@ -44,7 +44,7 @@ def layers(sheet, table):
 def text_style(sheet, name="OFFICE", font="arial.ttf"):
     sheet.type("STYLE", name)
     sheet.type(font)
-    sheet.type("0 1 0 _N _N _N")
+    sheet.type("0 1 0 _N _N")
 
 
 # For all dimensions: text above the line and along it, in millimetres of the sheet.

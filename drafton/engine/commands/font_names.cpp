@@ -77,4 +77,8 @@ OdString setFont(OdDbTextStyleTableRecord& style, const OdString& name) {
   return {};
 }
 
+bool hasShapeFont(const OdDbTextStyleTableRecord& style) {
+  return style.font().typeFace.isEmpty() && !isFontFile(style.fileName());
+}
+
 } // namespace drafton

@@ -12,4 +12,7 @@ OdString shownFont(const OdDbTextStyleTableRecord& style);
 /// shape font with its big font behind a comma. Gives why that cannot be; empty if it is done.
 OdString setFont(OdDbTextStyleTableRecord& style, const OdString& name);
 
+/// True if the letters of the style are shapes, which can stand below each other.
+bool hasShapeFont(const OdDbTextStyleTableRecord& style);
+
 } // namespace drafton

@@ -135,7 +135,7 @@ Task<void> textStyle(CommandContext& context) {
       co_await askSwitch(context, u"Display text upside-down?", style->isUpsideDown());
   style->setIsUpsideDown(upsideDown);
   // Letters below each other are a matter of shape fonts.
-  if (style->font().typeFace.isEmpty()) {
+  if (hasShapeFont(*style)) {
     const bool vertical = co_await askSwitch(context, u"Vertical?", style->isVertical());
     style->setIsVertical(vertical);
   }

@@ -159,7 +159,7 @@ constexpr Script kProperties[] = {
     {"NewShapeFont", u"STYLE|Notes|simplex,bigfont|0|1|0|n|y|y",
      u"Standard: txt h0 w1 o0;*Notes: simplex,bigfont h0 w1 o0 upside-down vertical", nullptr,
      describeStyles},
-    {"NewFontFile", u"STYLE|Notes|arial.ttf|0|1|0|n|n|n",
+    {"NewFontFile", u"STYLE|Notes|arial.ttf|0|1|0|n|n",
      u"Standard: txt h0 w1 o0;*Notes: arial.ttf h0 w1 o0", nullptr, describeStyles},
     {"ChangesAStyle", u"STYLE|?|*||romans|5|1|-20|n|n|n", u"*Standard: romans h5 w1 o-20", nullptr,
      describeStyles},
