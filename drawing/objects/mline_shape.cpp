@@ -1,7 +1,7 @@
 #include "drawing/objects/mline_shape.h"
 
-#include "drawing/database.h"
 #include "drawing/dxf/residue.h"
+#include "drawing/objects/tag_values.h"
 
 #include <algorithm>
 
@@ -47,14 +47,8 @@ struct Shape {
   std::vector<Corner> corners;
 };
 
-double realOf(const OdDbKeptTags::Tag& tag) {
-  bool ok = false;
-  const double value = tag.value.trimmed().toDouble(&ok);
-  return ok && std::isfinite(value) ? value : 0;
-}
-
 OdCmColor colorOf(const OdDbKeptTags::Tag& tag) {
-  const int index = tag.value.trimmed().toInt();
+  const int index = oddb::integerOf(tag);
   return index >= 0 && index < OdCmColor::kACInone ? OdCmColor::fromColorIndex(index) : OdCmColor();
 }
 
@@ -64,7 +58,7 @@ Style styleOf(OdDbObjectId id) {
   if (!object || !object->residue()) return style;
   const auto linetypes = id.database()->getLinetypeTableId().openAs<OdDbLinetypeTable>();
   for (const OdDbKeptTags::Tag& tag : OdDbKeptTags(object->residue()->tail).tags) {
-    if (tag.code == 70) style.flags = tag.value.trimmed().toInt();
+    if (tag.code == 70) style.flags = oddb::integerOf(tag);
     if (tag.code == 49) style.elements.emplace_back();
     if (tag.code == 62)
       (style.elements.empty() ? style.fill : style.elements.back().color) = colorOf(tag);
@@ -74,29 +68,13 @@ Style styleOf(OdDbObjectId id) {
   return style;
 }
 
-/// Which part of a point the code is for; below 0: none.
-int axisOf(int code, int base) {
-  return code >= base && code <= base + 20 && (code - base) % 10 == 0 ? (code - base) / 10 : -1;
-}
-
-template <class P>
-bool take(const OdDbKeptTags::Tag& tag, int base, P& p) {
-  const int axis = axisOf(tag.code, base);
-  if (axis < 0) return false;
-  (axis == 0 ? p.x : axis == 1 ? p.y : p.z) = realOf(tag);
-  return true;
-}
-
 Shape shapeOf(const OdDbKeptTags& tags, const OdDbDatabase& database) {
   Shape shape;
   for (const OdDbKeptTags::Tag& tag : tags.tags) {
-    const QByteArray text = tag.value.trimmed();
     if (tag.code == 340) {
-      if (const auto handle =
-              OdDbHandle::fromText({text.constData(), static_cast<std::size_t>(text.size())}))
-        shape.style = database.getOdDbObjectId(*handle);
+      shape.style = oddb::objectOf(tag, database);
     } else if (tag.code == 71) {
-      const int flags = text.toInt();
+      const int flags = oddb::integerOf(tag);
       shape.closed = flags & 2;
       shape.noStartCap = flags & 4;
       shape.noEndCap = flags & 8;
@@ -106,9 +84,9 @@ Shape shapeOf(const OdDbKeptTags& tags, const OdDbDatabase& database) {
     if (shape.corners.empty()) continue;
     Corner& corner = shape.corners.back();
     if (tag.code == 74) corner.lines.emplace_back();
-    if (tag.code == 41 && !corner.lines.empty()) corner.lines.back().push_back(realOf(tag));
-    take(tag, 11, corner.position) || take(tag, 12, corner.direction) ||
-        take(tag, 13, corner.miter);
+    if (tag.code == 41 && !corner.lines.empty()) corner.lines.back().push_back(oddb::realOf(tag));
+    oddb::takePart(tag, 11, corner.position) || oddb::takePart(tag, 12, corner.direction) ||
+        oddb::takePart(tag, 13, corner.miter);
   }
   return shape;
 }

@@ -3,6 +3,7 @@
 #include "drawing/dxf/kept_tags.h"
 #include "drawing/dxf/residue.h"
 #include "drawing/graphics/world_draw.h"
+#include "drawing/objects/mleader_shape.h"
 #include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
@@ -93,7 +94,12 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
     proxy.tags.erase(end, proxy.tags.end());
     graphic = graphicOf(proxy);
   }
-  if (!graphic.isEmpty()) oddb::drawProxyGraphic(graphic, *this, draw);
+  if (!graphic.isEmpty()) {
+    oddb::drawProxyGraphic(graphic, *this, draw);
+    return;
+  }
+  if (const OdDbKeptTags mleader = tagsOf(tail, "AcDbMLeader"); !mleader.tags.empty())
+    oddb::drawMleader(mleader, *this, draw);
 }
 
 OdDbEntityPtr OdDbRawEntity::getTransformedCopy(const OdGeMatrix3d&) const { return nullptr; }

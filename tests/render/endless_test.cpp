@@ -112,6 +112,22 @@ TEST_F(EndlessPictures, OfFaces) {
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "face"));
 }
 
+TEST(MultipleLines, LookAsTheirStylesSay) {
+  const OdDbDatabasePtr db =
+      OdDbDatabase::readFile(QStringLiteral(SOURCE_DIR "/tests/data/multiple_lines.dxf"));
+  Scene scene(*db);
+  QImage image(480, 360, QImage::Format_RGB32);
+  const RenderOptions options;
+  image.fill(QColor::fromRgba(options.ground.color()));
+  OdGeExtents3d box;
+  box.addPoint({-30, -30, 0});
+  box.addPoint({90, 60, 0});
+  View view;
+  view.size = image.size();
+  render(image, scene, db->getModelSpaceId(), view.fitted(box), options);
+  EXPECT_TRUE(looksLike(image, "multiple_lines"));
+}
+
 TEST(EndlessLine, SeenFromItsEndOrBesideThePictureIsNotSeen) {
   const Projection plan;
   const QRectF rect(0, -10, 10, 10); // y runs down

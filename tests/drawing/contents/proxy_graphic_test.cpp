@@ -2,8 +2,7 @@
 #include "drawing/database.h"
 #include "drawing/objects/raw_object.h"
 
-#include "drawing/contents/support.h"
-#include "drawing/entities/recorder.h"
+#include "drawing/contents/unknown_entity.h"
 
 #include <QtEndian>
 
@@ -74,28 +73,6 @@ QByteArray tagsOf(const QByteArray& bytes, int sizeCode = 160) {
   for (qsizetype at = 0; at < bytes.size(); at += 127)
     tags += "310\n" + bytes.mid(at, 127).toHex().toUpper() + "\n";
   return tags;
-}
-
-/// A drawing with layers 0, Red (1) and Off, and an entity of unknown kind.
-OdDbDatabasePtr drawingWith(const QByteArray& common, const QByteArray& rest,
-                            const QByteArray& name = "MYTHING", const QByteArray& more = "") {
-  const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
-  oddbtest::addLayer(*db, QStringLiteral("Red"), 1);
-  const OdDbObjectId off = oddbtest::addLayer(*db, QStringLiteral("Off"), 2);
-  off.openAs<OdDbLayerTableRecord>(OdDb::kForWrite)->setIsOff(true);
-  oddbtest::addBlock(*db, QStringLiteral("*T1"));
-  QByteArray dxf = db->writeDxf();
-  const QByteArray section = "  2\nENTITIES\n";
-  dxf.insert(dxf.indexOf(section) + section.size(),
-             "  0\n" + name + "\n  5\nF001\n100\nAcDbEntity\n  8\nRed\n" + common +
-                 "100\nAcDbMyThing\n 70\n1\n" + rest + more);
-  return OdDbDatabase::readDxf(dxf, QString());
-}
-
-Recorder shownBy(const OdDbDatabase& db) {
-  Recorder recorder;
-  oddbtest::entitiesOf(db.getModelSpaceId()).at(0)->worldDraw(recorder);
-  return recorder;
 }
 
 Recorder played(Picture& picture) { return shownBy(*drawingWith(tagsOf(picture.bytes()), "")); }
@@ -344,88 +321,4 @@ TEST(RawEntities, CannotBeMovedNorTakenApartWithTheirInsert) {
   EXPECT_FALSE(raw->transformBy(moved));
   EXPECT_EQ(raw->getTransformedCopy(moved), nullptr);
   EXPECT_THROW(raw->clone(), OdError);
-}
-
-namespace {
-
-/// An MLINE with two lines, from (0, 0) to (10, 0) to (10, 5), in a style of its own.
-OdDbDatabasePtr mlineDrawing(int styleFlags, int flags = 1, const QByteArray& firstParams = "") {
-  const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
-  QByteArray dxf = db->writeDxf();
-  const auto corner = [](const char* x, const char* y, const char* dx, const char* dy,
-                         const char* mx, const char* my, const QByteArray& params) {
-    QByteArray tags;
-    const char* const values[] = {x, y, dx, dy, mx, my};
-    for (int i = 0; i < 6; ++i)
-      tags += QByteArray::number(11 + i / 2 + i % 2 * 10) + "\n" + values[i] + "\n" +
-              (i % 2 ? QByteArray::number(31 + i / 2) + "\n0\n" : QByteArray());
-    return tags + " 74\n" + QByteArray::number(1 + params.count('\n') / 2) + "\n 41\n1\n" + params +
-           " 75\n0\n 74\n1\n 41\n-1\n 75\n0\n";
-  };
-  const QByteArray entities = "  2\nENTITIES\n";
-  dxf.insert(
-      dxf.indexOf(entities) + entities.size(),
-      "  0\nMLINE\n  5\nF001\n100\nAcDbEntity\n  8\n0\n100\nAcDbMline\n  2\nWALL\n340\nF002\n"
-      " 40\n1\n 70\n0\n 71\n" +
-          QByteArray::number(flags) +
-          "\n 72\n3\n 73\n2\n 10\n0\n 20\n0\n 30\n0\n210\n0\n220\n0\n230\n1\n" +
-          corner("0", "0", "1", "0", "0", "1", firstParams) +
-          corner("10", "0", "0", "1", "-1", "1", "") + corner("10", "5", "0", "1", "-1", "0", ""));
-  const QByteArray objects = "  2\nOBJECTS\n";
-  const qsizetype end = dxf.indexOf("  0\nENDSEC\n", dxf.indexOf(objects));
-  dxf.insert(end, "  0\nMLINESTYLE\n  5\nF002\n330\nC\n100\nAcDbMlineStyle\n  2\nWALL\n 70\n" +
-                      QByteArray::number(styleFlags) +
-                      "\n  3\n\n 62\n4\n 51\n90\n 52\n90\n 71\n2\n 49\n0.5\n 62\n1\n  6\nByLayer\n"
-                      " 49\n-0.5\n 62\n256\n  6\nContinuous\n");
-  return OdDbDatabase::readDxf(dxf, QString());
-}
-
-} // namespace
-
-TEST(Mlines, RunAlongTheirMiters) {
-  const OdDbDatabasePtr db = mlineDrawing(0);
-  ASSERT_TRUE(db->unknownContent().isEmpty());
-  const Recorder shown = shownBy(*db);
-  ASSERT_EQ(shown.lines.size(), 4u);
-  expectNear(shown.lines[0].points[0], {0, 1, 0});
-  expectNear(shown.lines[0].points[1], {9, 1, 0});
-  expectNear(shown.lines[1].points[1], {9, 5, 0});
-  expectNear(shown.lines[2].points[1], {11, -1, 0});
-  EXPECT_EQ(shown.colors.at(0), OdCmColor::fromColorIndex(1));
-  EXPECT_EQ(shown.colors.at(1), std::nullopt);
-  EXPECT_EQ(shown.linetypes.at(1), db->getLinetypeContinuousId());
-  OdGeExtents3d box;
-  ASSERT_TRUE(oddbtest::entitiesOf(db->getModelSpaceId())[0]->getGeomExtents(box));
-  expectNear(box.maxPoint(), {11, 5, 0});
-}
-
-TEST(Mlines, BreakOffWhereTheyAreCut) {
-  const Recorder shown = shownBy(*mlineDrawing(0, 1, " 41\n0\n 41\n2\n 41\n3\n 41\n20\n"));
-  ASSERT_EQ(shown.lines.size(), 5u);
-  expectNear(shown.lines[0].points[1], {2, 1, 0});
-  expectNear(shown.lines[1].points[0], {3, 1, 0});
-  expectNear(shown.lines[1].points[1], {9, 1, 0});
-}
-
-TEST(Mlines, HaveCapsJointsAndFillings) {
-  const Recorder square = shownBy(*mlineDrawing(0x10 | 0x100 | 2));
-  ASSERT_EQ(square.lines.size(), 7u);
-  expectNear(square.lines[4].points[1], {0, -1, 0});
-  expectNear(square.lines[5].points[1], {11, -1, 0});
-  expectNear(square.lines[6].points[1], {11, 5, 0});
-  const Recorder round = shownBy(*mlineDrawing(0x40 | 0x400 | 1));
-  ASSERT_EQ(round.arcs.size(), 2u);
-  expectNear(round.arcs[0].pointAt(kOdaPi / 2), {-1, 0, 0});
-  expectNear(round.arcs[1].pointAt(kOdaPi / 2), {10, 6, 0});
-  ASSERT_EQ(round.areas.size(), 2u);
-  EXPECT_EQ(round.colors.at(0), OdCmColor::fromColorIndex(4));
-  EXPECT_EQ(shownBy(*mlineDrawing(0x10 | 0x100, 1 | 4 | 8)).lines.size(), 4u);
-  // Closed ones run back to where they began, and have no ends.
-  EXPECT_EQ(shownBy(*mlineDrawing(0x10 | 0x100, 1 | 2)).lines.size(), 6u);
-}
-
-TEST(Mlines, WithoutAStyleAreShownPlain) {
-  const OdDbDatabasePtr db = mlineDrawing(0);
-  db->getOdDbObjectId(OdDbHandle(0xF002)).openObject(OdDb::kForWrite)->erase();
-  EXPECT_EQ(shownBy(*db).lines.size(), 4u);
 }
