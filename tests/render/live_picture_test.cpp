@@ -4,10 +4,9 @@
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
-#include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
-#include "drawing/entities/spline.h"
+#include "drawing/entities/xline.h"
 #include "drawing/patterns/linetype_file.h"
 #include "drawing/patterns/pattern_file.h"
 #include "render/picture_fixture.h"
@@ -84,6 +83,10 @@ class LivePictures : public PictureTest {
       if (i % 9 == 0) made->setTransparency(OdCmTransparency::fromPercent(50));
       add(made);
     }
+    add(odrxMake<OdDbXline>(OdGePoint3d{450, 300, 0}, OdGeVector3d{3, 1, 0}));
+    auto ray = odrxMake<OdDbRay>(OdGePoint3d{400, 300, 0}, OdGeVector3d{-1, 2, 0});
+    ray->setLinetype(gas);
+    add(ray);
     database().setSysVar(QStringLiteral("PDMODE"), std::int64_t{35});
   }
 
