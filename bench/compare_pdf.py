@@ -120,10 +120,12 @@ def main():
             source.write_text(drawing(count))
             ours, theirs = folder / f"plan{count}.pdf", folder / "theirs" / f"plan{count}.pdf"
             fastest = {}
+            programs = {
+                "ours": ([drafton, "batch", "--pdf", ours, source], ours),
+                "theirs": ([CONVERTER, "dxf2pdf", "-a", "-c", "-t", theirs.parent, source], theirs),
+            }
             for _ in range(options.runs):
-                for name, command, made in (
-                    ("ours", [drafton, "batch", "--pdf", ours, source], ours),
-                    ("theirs", [CONVERTER, "dxf2pdf", "-a", "-c", "-t", folder / "theirs", source], theirs)):
+                for name, (command, made) in programs.items():
                     seconds = timed(command, made, environment)
                     fastest[name] = min(seconds, fastest.get(name, seconds))
             ratio = fastest["ours"] / fastest["theirs"]
