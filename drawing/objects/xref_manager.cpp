@@ -127,6 +127,13 @@ class Loader {
   std::vector<OdString> m_open;
 };
 
+/// Takes away all that was loaded of a reference.
+void forget(OdDbBlockTableRecord& block) {
+  eraseContents(block);
+  for (const OdDbObjectId table : block.database()->data().tables)
+    eraseDependents(table, block.getName());
+}
+
 OdString freeName(const OdDbBlockTable& blocks, const OdString& name) {
   OdString free = name;
   for (int i = 1; blocks.has(free); ++i) free = name + u'_' + OdString::number(i);
@@ -191,11 +198,22 @@ OdDbObjectId OdDbXRefMan::attach(OdDbDatabase& database, const OdString& path, c
 bool OdDbXRefMan::detach(OdDbObjectId blockId) {
   const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   if (!block->isFromExternalReference()) return false;
-  OdDbDatabase& database = *block->database();
   for (const OdDbObjectId insert : block->getBlockReferenceIds())
     insert.safeOpenObject(OdDb::kForWrite)->erase();
-  eraseContents(*block);
-  for (const OdDbObjectId table : database.data().tables) eraseDependents(table, block->getName());
+  forget(*block);
   block->erase();
+  return true;
+}
+
+bool OdDbXRefMan::bind(OdDbObjectId blockId, const OdDbDatabasePtr& source) {
+  const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  if (!block->isFromExternalReference()) return false;
+  forget(*block);
+  block->setIsUnloaded(true);
+  block->setIsFromExternalReference(false);
+  block->setPathName(OdString());
+  block->database()->insert(block->getName(), source, true);
+  block->setOrigin(source->sysVarPoint("INSBASE"));
+  block->setBlockInsertUnits(static_cast<int>(source->sysVarInt("INSUNITS")));
   return true;
 }

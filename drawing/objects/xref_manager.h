@@ -36,6 +36,10 @@ class OdDbXRefMan {
   static bool detach(OdDbObjectId block);
   /// True for a record that came with a reference ("NAME|Layer") and goes with it.
   static bool owns(const OdDbSymbolTableRecord& record);
+  /// Makes an ordinary block of a reference, with the contents of its file as they are in `source`.
+  /// Layers and other records come under their own names, where the drawing has none of them. False
+  /// for a block that is no reference.
+  static bool bind(OdDbObjectId block, const OdDbDatabasePtr& source);
   /// The file of a reference: the stored path, made absolute by the drawing's folder, or a file of
   /// its name beside the drawing. Empty if there is no such file.
   static OdString resolvedPath(const OdDbBlockTableRecord& block);

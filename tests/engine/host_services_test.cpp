@@ -10,6 +10,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 using namespace drafton;
 
@@ -102,6 +103,31 @@ TEST_F(HostServicesTest, EveryCommandOfTheMenuIsThere) {
   }
   EXPECT_FALSE(menu->entry(-1).isCommand);
   EXPECT_FALSE(menu->entry(menu->count()).isCommand);
+}
+
+TEST_F(HostServicesTest, TheRouteMapLeadsFromKnownClassesToCommandsOfTheMenu) {
+  QFile file(QStringLiteral(SOURCE_DIR "/drafton/engine/data/command_routes.xml"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&file);
+  const auto menu = kvQuery<IHostCommandMenu>(&engine().services());
+  QStringList inMenu;
+  for (int i = 0; i < menu->count(); ++i) inMenu << menu->entry(i).commandName;
+  int classes = 0;
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    if (xml.name() == QLatin1String("OdRxClassInfo")) {
+      const OdString name = xml.attributes().value(QLatin1String("className")).toString();
+      const OdRxClass* const known = odrxFindClass(name);
+      ASSERT_TRUE(known) << name.toStdString();
+      EXPECT_TRUE(known->isDerivedFrom(OdDbEntity::desc())) << name.toStdString();
+      ++classes;
+    } else if (xml.name() == QLatin1String("StartCommand")) {
+      const OdString name = xml.attributes().value(QLatin1String("name")).toString();
+      EXPECT_TRUE(inMenu.contains(name)) << name.toStdString();
+    }
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_GT(classes, 15);
 }
 
 TEST_F(HostServicesTest, TheMenuHasEachCommandOnce) {

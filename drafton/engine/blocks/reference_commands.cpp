@@ -1,6 +1,7 @@
 // XATTACH and XREF.
 
 #include "drafton/engine/blocks/block_commands.h"
+#include "drafton/engine/blocks/block_source.h"
 #include "drafton/engine/blocks/parameter_set.h"
 #include "drafton/engine/blocks/place_prompts.h"
 #include "drafton/engine/commands/record_names.h"
@@ -137,6 +138,17 @@ Task<void> changePath(CommandContext& context) {
   }
 }
 
+/// Makes an ordinary block of a reference: what its file has becomes part of the drawing.
+void bind(CommandContext& context, const OdDbBlockTableRecord& block) {
+  const OdString name = block.getName(), path = OdDbXRefMan::resolvedPath(block);
+  if (path.isEmpty())
+    throw CommandFailure(
+        translated(u"The file of \"%1\" was not found: %2").arg(name, block.pathName()));
+  const OdDbDatabasePtr source = readDrawing(path);
+  OdDbXRefMan::bind(block.objectId(), source);
+  context.print(translated(u"\"%1\" bound.").arg(name));
+}
+
 } // namespace
 
 Task<void> attachReference(CommandContext& context) {
@@ -147,10 +159,10 @@ Task<void> attachReference(CommandContext& context) {
 }
 
 Task<void> references(CommandContext& context) {
-  const Answer<OdString> option =
-      co_await context.input().keyword({.text = u"Enter an option",
-                                        .keywords = u"? Attach Overlay Detach Path Reload Unload",
-                                        .defaultValue = u"Attach"});
+  const Answer<OdString> option = co_await context.input().keyword(
+      {.text = u"Enter an option",
+       .keywords = u"? Attach Overlay Bind Detach Path Reload Unload",
+       .defaultValue = u"Attach"});
   if (option.is(u"?")) {
     listReferences(context, referencesOf(context.database(), QStringLiteral("*"), true));
   } else if (option.is(u"Attach") || option.is(u"Overlay")) {
@@ -164,6 +176,9 @@ Task<void> references(CommandContext& context) {
       if (OdDbXRefMan::detach(block->objectId()))
         context.print(translated(u"\"%1\" detached.").arg(name));
     }
+  } else if (option.is(u"Bind")) {
+    const auto blocks = co_await askReferences(context, u"Enter reference(s) to bind");
+    for (const OdDbBlockTableRecordPtr& block : blocks) bind(context, *block);
   } else if (option.is(u"Unload")) {
     const auto blocks = co_await askReferences(context, u"Enter reference(s) to unload");
     for (const OdDbBlockTableRecordPtr& block : blocks) {

@@ -312,6 +312,49 @@ TEST_F(ReferenceTest, DrawingIsNotPutIntoItselfHoweverItIsSpelled) {
   EXPECT_TRUE(console().shows(QStringLiteral("A drawing cannot be attached to itself.")));
 }
 
+TEST_F(ReferenceTest, IsBoundWithItsLayers) {
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  const auto layers = drawing->getLayerTableId().openAs<OdDbLayerTable>(OdDb::kForWrite);
+  const auto walls = odrxMake<OdDbLayerTableRecord>();
+  walls->setName(QStringLiteral("Walls"));
+  const OdDbObjectId layer = layers->add(walls);
+  const auto line = odrxMake<OdDbLine>(OdGePoint3d{10, 10, 0}, OdGePoint3d{20, 10, 0});
+  opened(drawing->getModelSpaceId())->appendOdDbEntity(line);
+  line->setLayer(layer);
+  drawing->setSysVar(QStringLiteral("INSBASE"), OdGePoint3d{10, 10, 0});
+  drawing->writeFile(odpath::fromPlatform(path("plan.dxf")));
+  words("XATTACH|" + path("plan.dxf") + "||0,0|||");
+  OdGeExtents3d before, after;
+  ASSERT_TRUE(inserts()[0]->getGeomExtents(before));
+  words("XREF|b|plan");
+  ASSERT_TRUE(inserts()[0]->getGeomExtents(after));
+  EXPECT_LT(after.minPoint().distanceTo(before.minPoint()), 1e-9);
+  EXPECT_LT(after.maxPoint().distanceTo(before.maxPoint()), 1e-9);
+  const auto table = database().getLayerTableId().openAs<OdDbLayerTable>();
+  EXPECT_TRUE(table->has(QStringLiteral("Walls")));
+  EXPECT_FALSE(table->has(QStringLiteral("plan|Walls")));
+  // It stays when the file goes.
+  ASSERT_TRUE(QFile::remove(path("plan.dxf")));
+  const OdDbDatabasePtr read =
+      OdDbDatabase::readDxf(database().writeDxf(), QStringLiteral("memory"));
+  const auto blocks = read->getBlockTableId().openAs<OdDbBlockTable>();
+  const OdDbBlockTableRecordPtr plan = blocks->getAt(QStringLiteral("plan")).openObject();
+  ASSERT_TRUE(plan);
+  EXPECT_FALSE(plan->isFromExternalReference());
+  EXPECT_EQ(plan->entityIds().size(), 1u);
+}
+
+TEST_F(ReferenceTest, IsNotBoundWithoutItsFile) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||0,0|||");
+  ASSERT_TRUE(QFile::remove(path("wheel.dxf")));
+  const QByteArray before = database().writeDxf();
+  words("XREF|b|wheel");
+  EXPECT_TRUE(console().shows(QStringLiteral("The file of \"wheel\" was not found")))
+      << output().toStdString();
+  EXPECT_EQ(database().writeDxf(), before);
+}
+
 // --- pictures
 
 class RasterTest : public BlockFixture {
