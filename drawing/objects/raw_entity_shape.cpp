@@ -7,6 +7,7 @@
 #include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/objects/tolerance_shape.h"
 #include "drawing/objects/wipeout_shape.h"
 
 namespace {
@@ -100,6 +101,8 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
   }
   if (const OdDbKeptTags mleader = tagsOf(tail, "AcDbMLeader"); !mleader.tags.empty())
     oddb::drawMleader(mleader, *this, draw);
+  if (const OdDbKeptTags tolerance = tagsOf(tail, "AcDbFcf"); !tolerance.tags.empty())
+    oddb::drawTolerance(tolerance, *database(), draw);
 }
 
 OdDbEntityPtr OdDbRawEntity::getTransformedCopy(const OdGeMatrix3d&) const { return nullptr; }
