@@ -261,6 +261,11 @@ def values(entity):
         # Old files have neither a handle among these nor plain dashes told to be plain.
         result["tags"] = [[t.code, plain(t.value)] for t in entity.pattern_tags.tags
                           if t.code != 5 and (t.code, t.value) != (74, 0)]
+    if entity.dxftype() == "DIMSTYLE":
+        # Old files name the usual arrows without the line in front that their blocks have.
+        for name in ("dimblk", "dimblk1", "dimblk2", "dimldrblk"):
+            if name in result:
+                result[name] = result[name].lstrip("_")
     if entity.dxftype() == "STYLE" and entity.has_extended_font_data:
         result["font"] = plain(entity.get_extended_font_data())
     return result
