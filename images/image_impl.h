@@ -30,6 +30,8 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   void releaseBitmap() override;
   bool isResource() const override;
   bool setSrcFromFile(const OdString& path) override;
+  /// The same for a picture of that file which is loaded already.
+  bool setSrcFromPicture(const QImage& picture, const OdString& path);
   bool makeFromBlock(OdDbObjectId source) override;
   bool makeFromGradient(const OdString& name, const OdCmColor& first,
                         const OdCmColor& second) override;

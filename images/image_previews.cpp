@@ -90,11 +90,15 @@ bool OdTcImageImpl::makeFromPattern(const OdString& name, const std::optional<Od
 }
 
 bool OdTcImageImpl::setSrcFromFile(const OdString& path) {
+  return setSrcFromPicture(loadPicture(path), path);
+}
+
+bool OdTcImageImpl::setSrcFromPicture(const QImage& picture, const OdString& path) {
+  if (picture.isNull()) return false;
   const int pixels = pixelsOfKind(m_sizeKind);
-  const QImage loaded = loadPicture(path);
-  return !loaded.isNull() &&
-         takePreview(loaded.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-                     odpath::titleOf(path), kRasterLabel);
+  return takePreview(
+      picture.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+      odpath::titleOf(path), kRasterLabel);
 }
 
 bool OdTcImageImpl::makeFromDrawing(const OdString& path) {

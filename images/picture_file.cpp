@@ -68,6 +68,14 @@ QImage loadPicture(const OdString& path) {
   }
 }
 
+QImage reducedPicture(const QImage& picture) {
+  constexpr int kMost = 256;
+  const QSize size = picture.size().boundedTo({kMost, kMost});
+  return size == picture.size() || picture.isNull()
+             ? picture
+             : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension) {
   QByteArray bytes;
   QBuffer buffer(&bytes);

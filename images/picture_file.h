@@ -23,6 +23,9 @@ OdString formatExtension(std::int32_t format);
 
 /// The picture of a file; a null image if it cannot be read. The path is a stored path.
 QImage loadPicture(const OdString& path);
+/// A picture with no side longer than a few times that of the largest size kind; a smaller one as
+/// it is. Scaling that to the size kinds costs next to nothing.
+QImage reducedPicture(const QImage& picture);
 /// Writes a picture in the format of an extension; false if that fails.
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension);
 

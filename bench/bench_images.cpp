@@ -1,0 +1,123 @@
+// Pictures of tools: palettes that have them, photographs, previews of blocks.
+#include "bench/ratio_report.h"
+#include "bench/sample_catalog.h"
+#include "catalog/tool_palette.h"
+#include "drafton/previews/offscreen_application.h"
+#include "drafton/previews/preview_service.h"
+#include "drawing/database.h"
+#include "drawing/entities/line.h"
+#include "frame/file_path.h"
+#include "images/image_list.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kTools = 1000;
+constexpr int kSizes[] = {16, 32, 64};
+
+/// A palette's file whose tools have pictures; `areThere` says whether these lie beside it.
+QString writePalette(const QTemporaryDir& folder, const QString& name, bool areThere) {
+  const QString images = folder.filePath(name + QStringLiteral("/Images/"));
+  QDir().mkpath(images);
+  QByteArray text = "<Palette><ItemID idValue=\"{P}\"/><Tools>";
+  for (int i = 0; i < kTools; ++i) {
+    const QByteArray number = QByteArray::number(i);
+    text +=
+        "<Tool><ItemID idValue=\"{" + number + "}\"/><Properties><ItemName>Tool</ItemName><Images>";
+    for (const int size : kSizes) {
+      const QByteArray pixels = QByteArray::number(size);
+      const QByteArray file = 'p' + number + '_' + pixels + ".png";
+      text += "<Image cx=\"" + pixels + "\" cy=\"" + pixels + "\" src=\"\\Images\\" + file + "\"/>";
+      if (!areThere) continue;
+      QImage picture(size, size, QImage::Format_ARGB32);
+      picture.fill(static_cast<QRgb>(i));
+      picture.save(images + QString::fromLatin1(file));
+    }
+    text += "</Images></Properties><ToolType>1</ToolType><Data><Command Macro=\"LINE\"/></Data>"
+            "</Tool>";
+  }
+  QFile file(folder.filePath(name + QStringLiteral("/palette.dtc")));
+  if (file.open(QIODevice::WriteOnly)) file.write(text + "</Tools></Palette>");
+  return file.fileName();
+}
+
+void load(benchmark::State& state, const QString& file) {
+  for (auto _ : state) {
+    const tc::OdTcToolPalettePtr palette = tc::OdTcToolPalette::createObject();
+    palette->load(odpath::fromPlatform(file));
+    benchmark::DoNotOptimize(palette->enumTools()->next());
+  }
+}
+
+void threePictures(benchmark::State& state, const OdString& photo) {
+  for (auto _ : state) {
+    const tc::OdTcImageListPtr images = tc::OdTcImageList::createObject();
+    if (!images->setFromFile(photo)) state.SkipWithError("no pictures");
+  }
+}
+
+void onePicture(benchmark::State& state, const QString& photo) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(
+        QImage(photo).scaled(64, 64, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+/// A block of a thousand lines.
+OdDbObjectId bigBlock(OdDbDatabase& drawing) {
+  const auto block = odrxMake<OdDbBlockTableRecord>();
+  block->setName(QStringLiteral("Big"));
+  const OdDbObjectId id =
+      drawing.getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite)->add(block);
+  for (int i = 0; i < 1000; ++i)
+    block->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{i % 37 * 1.0, i % 41 * 1.0, 0},
+                                               OdGePoint3d{i % 43 * 1.0, i % 47 * 1.0, 0}));
+  return id;
+}
+
+void preview(benchmark::State& state, OdDbObjectId block) {
+  const auto service =
+      kvMake<drafton::PreviewService>([](const OdString&) { return std::nullopt; });
+  const OdGeExtents3d box = block.openAs<OdDbBlockTableRecord>()->extents();
+  const OdDbObjectId objects[] = {block};
+  for (auto _ : state) benchmark::DoNotOptimize(service->renderObjects(objects, box, 64));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const drafton::OffscreenApplication application(argc, argv);
+  const bench::Classes classes;
+  const QTemporaryDir folder;
+  const QString with = writePalette(folder, QStringLiteral("with"), true);
+  const QString without = writePalette(folder, QStringLiteral("without"), false);
+  const QString photo = folder.filePath(QStringLiteral("photo.jpg"));
+  QImage picture(4000, 3000, QImage::Format_RGB32);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      picture.setPixel(x, y, qRgb(x * y % 251, (x + y) % 256, (x ^ y) % 256));
+  picture.save(photo, "JPEG");
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  const OdDbObjectId block = bigBlock(*drawing);
+
+  benchmark::RegisterBenchmark("load with pictures", load, with)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("load without", load, without)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("three pictures", threePictures, odpath::fromPlatform(photo))
+      ->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("one picture by Qt", onePicture, photo)
+      ->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark("preview of 1000 lines", preview, block)
+      ->Unit(benchmark::kMillisecond);
+  const int result = bench::run(
+      argc, argv,
+      {{"a palette with its pictures / without the files", "load with pictures", "load without",
+        1.2},
+       {"three pictures of a photo / one by Qt", "three pictures", "one picture by Qt", 1.3}});
+  std::printf("The target of a preview of 1,000 lines is 20 milliseconds; it stands above.\n");
+  return result;
+}
