@@ -21,9 +21,11 @@ std::uint32_t OdDbStubPool::add(OdDbHandle handle) {
 }
 
 std::size_t OdDbHandleTable::placeOf(std::uint64_t key) const {
+  // Neighbours stay together, as they are asked for together; all others are scattered.
   constexpr std::uint64_t kScatter = 0x9E3779B97F4A7C15;
-  const std::uint64_t scattered = key * kScatter;
-  return (scattered ^ scattered >> 32) & (m_places.size() - 1);
+  constexpr int kNeighbours = 12;
+  const std::uint64_t scattered = (key >> kNeighbours) * kScatter;
+  return (key + (scattered ^ scattered >> 32)) & (m_places.size() - 1);
 }
 
 const OdDbHandleTable::Group* OdDbHandleTable::findGroup(std::uint64_t key) const {

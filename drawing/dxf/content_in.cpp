@@ -121,7 +121,7 @@ void OdDbDxfReader::readEntity(OdDbObjectId block) {
     m_in.damage(QStringLiteral("this %1 is left out").arg(shown(m_name)));
     return;
   }
-  if (const OdDbEntityPtr other = entity->readAs()) entity = other;
+  if (OdDbEntityPtr other = entity->readAs()) entity = std::move(other);
   if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
   if (follows && m_parent) {
     m_in.enterFollower(*entity, m_parent->objectId());
@@ -129,9 +129,10 @@ void OdDbDxfReader::readEntity(OdDbObjectId block) {
     if (m_name == "SEQEND") m_parent = nullptr;
     return;
   }
-  m_in.enterEntity(*entity, spaceFor(block));
-  m_parent = entity->takesFollowers() || m_in.hasFollowers() || m_name == "POLYLINE" ? entity.get()
-                                                                                     : nullptr;
+  OdDbEntity* const entered = entity.get();
+  m_in.enterEntity(std::move(entity), spaceFor(block));
+  m_parent =
+      entered->takesFollowers() || m_in.hasFollowers() || m_name == "POLYLINE" ? entered : nullptr;
 }
 
 void OdDbDxfReader::readObjects() {

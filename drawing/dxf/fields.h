@@ -59,8 +59,9 @@ bool takeTag(std::span<const OdDbDxfField<D>> fields, D& record, const OdDbDxfTa
         value.setThickness(in.real(tag, value.thickness()));
         return true;
       }
+      if (tag.code != f.code && tag.code != f.code + 10 && tag.code != f.code + 20) continue;
       OdGeVector3d normal = value.normal();
-      if (!triple(f.code, normal)) continue;
+      triple(f.code, normal);
       value.setNormal(normal);
       return true;
     } else if (f.code == tag.code) {

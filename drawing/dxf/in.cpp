@@ -1,5 +1,6 @@
 #include "drawing/dxf/in.h"
 
+#include "drawing/dxf/johab.h"
 #include "drawing/dxf/start.h"
 #include "drawing/dxf/text.h"
 #include "drawing/object_extras.h"
@@ -153,9 +154,15 @@ OdString OdDbDxfIn::text(std::string_view bytes) {
   if (plain) {
     decoded = OdString::fromLatin1(view);
   } else {
-    m_decoder.resetState();
-    decoded = m_decoder.decode(view);
-    if (m_decoder.hasError())
+    bool bad = false;
+    if (m_decoder.isValid()) {
+      m_decoder.resetState();
+      decoded = m_decoder.decode(view);
+      bad = m_decoder.hasError();
+    } else {
+      decoded = oddxf::fromJohab(view, bad);
+    }
+    if (bad)
       damage(QStringLiteral("a text is not in the encoding of the file: \"%1\"").arg(decoded));
   }
   const bool escapes = m_decodeEscapes && bytes.find('\\') != std::string_view::npos;
@@ -169,14 +176,34 @@ void OdDbDxfIn::setCodePage(std::string_view name) {
   const QByteArray encoding = oddxf::encodingOf(name);
   m_decoder = QStringDecoder(encoding.constData());
   d.encoding = encoding;
-  if (m_decoder.isValid()) return;
+  if (m_decoder.isValid() || encoding == oddxf::kJohab) return;
   note(QStringLiteral("the code page %1 is not known; texts are read as ANSI_1252")
            .arg(shown(name)));
   d.encoding = oddxf::encodingOf("ANSI_1252");
   m_decoder = QStringDecoder(d.encoding.constData());
 }
 
+namespace {
+
+/// The digits that nearly all handles have: a few, in capitals, and no blanks. 0 for others.
+std::uint64_t plainHandle(std::string_view text) {
+  if (text.size() > 15) return 0;
+  std::uint64_t value = 0;
+  for (const char c : text) {
+    auto digit = static_cast<unsigned>(c - '0');
+    if (digit > 9) {
+      digit = static_cast<unsigned>(c - 'A') + 10;
+      if (digit < 10 || digit > 15) return 0;
+    }
+    value = value << 4 | digit;
+  }
+  return value;
+}
+
+} // namespace
+
 OdDbHandle OdDbDxfIn::handle(const OdDbDxfTag& tag) {
+  if (const std::uint64_t value = plainHandle(tag.text); value != 0) return value;
   if (const auto value = OdDbHandle::fromText(oddxf::trimmed(tag.text))) return *value;
   damage(QStringLiteral("\"%1\" is no handle").arg(shown(tag.text)));
   return {};
@@ -330,18 +357,19 @@ void OdDbDxfIn::enter(OdDbObject& object, OdDbObjectId owner) {
   m_database.addObject(&object, owner, stub ? stub->handle : OdDbHandle());
 }
 
-void OdDbDxfIn::enterEntity(OdDbEntity& entity, OdDbBlockTableRecord& block) {
-  OdDbStub* const stub = freeStub(entity);
+void OdDbDxfIn::enterEntity(OdDbEntityPtr entity, OdDbBlockTableRecord& block) {
+  OdDbStub* const stub = freeStub(*entity);
   if (!stub) {
-    m_database.addObject(&entity, block.objectId());
+    m_database.addObject(entity, block.objectId());
     return;
   }
   OdDbDatabaseData& d = data();
   d.handseed = std::max<std::uint64_t>(d.handseed, stub->handle + 1);
-  stub->object = &entity;
-  entity.m_stub = stub;
-  entity.m_owner = block.objectId();
-  block.m_entities.push_back(entity.objectId());
+  entity->m_stub = stub;
+  entity->m_owner = block.objectId();
+  block.m_entities.push_back(OdDbObjectId(stub));
+  // Counting references costs more than all of the above.
+  stub->object.attach(entity.detach());
 }
 
 bool OdDbDxfIn::readObject(OdDbObject& object, OdDbObjectId owner) {

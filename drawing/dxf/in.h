@@ -6,6 +6,7 @@
 
 #include <QStringDecoder>
 
+#include <cstring>
 #include <string>
 
 class OdDbRawEntity;
@@ -33,6 +34,13 @@ class OdDbDxfIn {
   /// True if the tag at hand stands in the subclass, or if the file has no subclasses.
   bool in(std::string_view subclass) const {
     return m_subclass == subclass || (m_subclass.empty() && m_plain);
+  }
+  /// The same for a name whose length is known: this is asked for every tag, and so compared with
+  /// a few instructions.
+  template <std::size_t N>
+  bool in(const char (&subclass)[N]) const {
+    if (m_subclass.size() == N - 1) return std::memcmp(m_subclass.data(), subclass, N - 1) == 0;
+    return m_subclass.empty() && m_plain;
   }
   /// True before the first subclass.
   bool beforeSubclasses() const { return m_subclass.empty(); }
@@ -88,7 +96,7 @@ class OdDbDxfIn {
   /// the leader or its block as the owner, which is kept.
   void enterFollower(OdDbObject& object, OdDbObjectId leader);
   /// As enter(), for an entity that comes to the end of `block`.
-  void enterEntity(OdDbEntity& entity, OdDbBlockTableRecord& block);
+  void enterEntity(OdDbEntityPtr entity, OdDbBlockTableRecord& block);
   /// Reads the tags without entering the object.
   void readTags(OdDbObject& object);
 

@@ -31,7 +31,7 @@ namespace {
 
 template <class T, class Base>
 OdSmartPtr<Base> make() {
-  return odrxMake<T>();
+  return {new T, kOdRxObjAttach};
 }
 
 template <class Base>
@@ -96,12 +96,18 @@ static_assert(std::size(kTables) == OdDbDatabaseData::kTableCount);
 template <class Raw, class Base, std::size_t N>
 OdSmartPtr<Base> made(const Maker<Base> (&makers)[N], std::string_view name) {
   static const auto byName = [&] {
-    std::unordered_map<std::string_view, OdSmartPtr<Base> (*)()> all;
-    for (const auto& maker : makers) all.emplace(maker.name, maker.make);
+    std::unordered_map<std::string_view, const Maker<Base>*> all;
+    for (const auto& maker : makers) all.emplace(maker.name, &maker);
     return all;
   }();
+  // Neighbours are mostly of one kind.
+  thread_local const Maker<Base>* recent = makers;
+  if (recent->name == name) return recent->make();
   const auto at = byName.find(name);
-  if (at != byName.end()) return at->second();
+  if (at != byName.end()) {
+    recent = at->second;
+    return recent->make();
+  }
   return odrxMake<Raw>(QByteArray(name.data(), static_cast<qsizetype>(name.size())));
 }
 

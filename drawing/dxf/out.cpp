@@ -1,5 +1,6 @@
 #include "drawing/dxf/out.h"
 
+#include "drawing/dxf/johab.h"
 #include "drawing/dxf/newer.h"
 #include "drawing/dxf/text.h"
 
@@ -53,8 +54,9 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
   const auto encodingOf = [](std::string_view codePage) {
     const QByteArray encoding = oddxf::encodingOf(codePage);
     // A code page that nobody knows was read as this one.
-    return QStringEncoder(encoding.constData()).isValid() ? encoding
-                                                          : oddxf::encodingOf("ANSI_1252");
+    return encoding == oddxf::kJohab || QStringEncoder(encoding.constData()).isValid()
+               ? encoding
+               : oddxf::encodingOf("ANSI_1252");
   };
   const QByteArray codePage = m_utf8
                                   ? QByteArray("UTF-8")
@@ -131,6 +133,7 @@ std::string OdDbDxfOut::encoded(QStringView line) {
 }
 
 QByteArray OdDbDxfOut::inCodePage(QStringView text) {
+  if (!m_encoder.isValid()) return oddxf::toJohab(text);
   m_encoder.resetState();
   m_codePageDecoder.resetState();
   const QByteArray bytes = m_encoder.encode(text);
@@ -211,8 +214,10 @@ void OdDbDxfOut::kept(const QByteArray& lines) {
     append(view(lines));
     return;
   }
+  bool bad = false;
   m_keptDecoder.resetState();
-  const OdString decoded = m_keptDecoder.decode(lines);
+  const OdString decoded = m_keptDecoder.isValid() ? OdString(m_keptDecoder.decode(lines))
+                                                   : oddxf::fromJohab(lines, bad);
   for (const QStringView line : QStringView(decoded).split(u'\n')) {
     if (line.isEmpty() && line.data() == decoded.constData() + decoded.size()) break;
     append(encoded(line));

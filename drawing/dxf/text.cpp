@@ -1,5 +1,7 @@
 #include "drawing/dxf/text.h"
 
+#include "drawing/dxf/johab.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -15,10 +17,11 @@ QByteArray oddxf::encodingOf(std::string_view codePage) {
   };
   // Those that do not follow one of the rules below.
   static constexpr Row kRows[] = {
-      {"ASCII", "ISO-8859-1"},    {"ANSI_936", "GBK"},  {"GB2312", "GBK"},
-      {"BIG5", "Big5"},           {"ANSI_950", "Big5"}, {"KSC5601", "windows-949"},
-      {"ANSI_1361", "Johab"},     {"JOHAB", "Johab"},   {"MACINTOSH", "macintosh"},
-      {"MAC-ROMAN", "macintosh"}, {"UTF-8", "UTF-8"},   {"ANSI_949", "windows-949"},
+      {"ASCII", "ISO-8859-1"},  {"ANSI_936", "GBK"},         {"GB2312", "GBK"},
+      {"BIG5", "Big5"},         {"ANSI_950", "Big5"},        {"KSC5601", "windows-949"},
+      {"ANSI_1361", kJohab},    {"JOHAB", kJohab},           {"MACINTOSH", "macintosh"},
+      {"DOS708", "ISO-8859-6"}, {"DOS720", "IBM720"},        {"MAC-ROMAN", "macintosh"},
+      {"UTF-8", "UTF-8"},       {"ANSI_949", "windows-949"},
   };
   const QByteArray upper =
       QByteArray(codePage.data(), static_cast<qsizetype>(codePage.size())).trimmed().toUpper();
@@ -37,8 +40,14 @@ OdString multiByte(int page, ushort code) {
   static constexpr const char* kPages[] = {"ANSI_932", "ANSI_950", "ANSI_949", "ANSI_1361",
                                            "ANSI_936"};
   if (page < 1 || page > static_cast<int>(std::size(kPages))) return {};
-  QStringDecoder decoder(oddxf::encodingOf(kPages[page - 1]).constData());
   const char bytes[] = {static_cast<char>(code >> 8), static_cast<char>(code)};
+  const QByteArray encoding = oddxf::encodingOf(kPages[page - 1]);
+  if (encoding == oddxf::kJohab) {
+    bool bad = false;
+    const OdString text = oddxf::fromJohab(QByteArrayView(bytes, 2), bad);
+    return bad ? OdString() : text;
+  }
+  QStringDecoder decoder(encoding.constData());
   const OdString text = decoder.decode(QByteArrayView(bytes, 2));
   return decoder.hasError() ? OdString() : text;
 }
@@ -106,7 +115,7 @@ std::optional<double> shortReal(std::string_view text) {
   }
   const std::size_t count = text.size() - (negative ? 1 : 0) - (point ? 1 : 0);
   if (count == 0 || count > 15) return std::nullopt;
-  double value = static_cast<double>(digits);
+  double value = static_cast<double>(static_cast<std::int64_t>(digits));
   if (point) value /= kPowers[end - point - 1];
   return negative ? -value : value;
 }
