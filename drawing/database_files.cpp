@@ -11,7 +11,8 @@
 
 namespace {
 
-using SourceMaker = std::function<std::unique_ptr<OdDbDxfSource>()>;
+/// Gives the bytes of a drawing from their beginning.
+using BytesMaker = std::function<OdDbDxfBytes()>;
 
 /// A refusal for what is no DXF, by its first bytes.
 OdString whyNot(std::string_view bytes) {
@@ -55,11 +56,19 @@ OdDbDatabasePtr newDatabase(std::uint64_t lastHandle) {
 }
 
 /// Reads what `make` gives twice: for a look ahead, and for good.
-OdDbDatabasePtr load(const SourceMaker& make, const OdString& name) {
-  const oddxf::Start start = oddxf::lookAhead(*make(), name);
+OdDbDatabasePtr load(const BytesMaker& make, const OdString& name) {
+  const oddxf::Start start = oddxf::lookAhead(*OdDbDxfSource::of(make()), name);
   const OdDbDatabasePtr database =
       start.isPlain() ? newDatabase(start.handseed - 1) : odrxMake<OdDbDatabase>();
-  OdDbDxfReader(*database, *make(), start, name).read();
+  const std::unique_ptr<OdDbDxfSource> source = OdDbDxfSource::ahead(make());
+  try {
+    OdDbDxfReader(*database, *source, start, name).read();
+  } catch (const OdFileError&) {
+    throw;
+  } catch (const OdError& error) {
+    // What nobody has thought of is the file's fault all the same.
+    throw OdDbFileError(name, source->line(), error.description());
+  }
   return database;
 }
 
@@ -70,7 +79,7 @@ OdDbDatabasePtr OdDbDatabase::createDatabase() { return newDatabase(0); }
 OdDbDatabasePtr OdDbDatabase::readDxf(QByteArrayView bytes, const OdString& name) {
   const std::string_view text(bytes.data(), static_cast<std::size_t>(bytes.size()));
   if (const OdString reason = whyNot(text); !reason.isEmpty()) throw OdDbFileError(name, 1, reason);
-  return load([&] { return OdDbDxfSource::of(OdDbDxfBytes(text)); }, name);
+  return load([&] { return OdDbDxfBytes(text); }, name);
 }
 
 OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
@@ -91,7 +100,7 @@ OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
     throw OdDbFileError(path, 1, reason);
   const auto fromStart = [&] {
     if (!file.seek(0)) refuse(eFileAccess);
-    return OdDbDxfSource::of(OdDbDxfBytes(file));
+    return OdDbDxfBytes(file);
   };
   // Taken before reading: what others write meanwhile counts as a change.
   const OdDbFileStamp stamp = OdDbFileStamp::of(path);

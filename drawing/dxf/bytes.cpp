@@ -18,17 +18,18 @@ OdDbDxfBytes::OdDbDxfBytes(QIODevice& device)
 bool OdDbDxfBytes::more() {
   if (!m_device) return false;
   const std::size_t kept = left();
-  if (kept == m_window.size()) {
-    // All of it is one value.
-    std::vector<char> wider(std::max(kWindow, 2 * kept));
-    if (kept > 0) std::memcpy(wider.data(), at, kept);
-    m_window = std::move(wider);
+  // All of it may be one value.
+  const bool isFull = kept == m_size;
+  if (isFull || m_memory.use_count() > 1) {
+    m_size = isFull ? std::max(kWindow, 2 * kept) : m_size;
+    const std::shared_ptr<char[]> next(new char[m_size]);
+    if (kept > 0) std::memcpy(next.get(), at, kept);
+    m_memory = next;
   } else if (kept > 0) {
-    std::memmove(m_window.data(), at, kept);
+    std::memmove(m_memory.get(), at, kept);
   }
-  const qint64 read =
-      m_device->read(m_window.data() + kept, static_cast<qint64>(m_window.size() - kept));
-  at = m_window.data();
+  const qint64 read = m_device->read(m_memory.get() + kept, static_cast<qint64>(m_size - kept));
+  at = m_memory.get();
   end = at + kept + std::max<qint64>(read, 0);
   if (read > 0) return true;
   if (read < 0) m_problem = m_device->errorString();

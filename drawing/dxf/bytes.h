@@ -3,8 +3,8 @@
 
 #include "frame/string.h"
 
+#include <memory>
 #include <string_view>
-#include <vector>
 
 class QIODevice;
 
@@ -26,12 +26,16 @@ class OdDbDxfBytes {
   bool more();
   /// What went wrong with the device; empty if nothing did.
   const OdString& problem() const { return m_problem; }
+  /// The memory in which the bytes at hand lie; null if it is not the window's own. Whoever keeps
+  /// it may go on reading there: further bytes are then brought into other memory.
+  const std::shared_ptr<char[]>& memory() const { return m_memory; }
 
   const char* at;  ///< the next byte; whoever reads moves it on
   const char* end; ///< behind the last byte in the window
 
  private:
   QIODevice* m_device = nullptr;
-  std::vector<char> m_window;
+  std::shared_ptr<char[]> m_memory;
+  std::size_t m_size = 0;
   OdString m_problem;
 };

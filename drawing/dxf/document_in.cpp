@@ -29,6 +29,7 @@ OdDbDxfReader::OdDbDxfReader(OdDbDatabase& database, OdDbDxfSource& source,
   // Texts may stand before the variable that tells their code page.
   m_in.setCodePage(start.codePage.empty() ? std::string_view("ANSI_1252") : start.codePage);
   m_data.handseed = std::max<std::uint64_t>(m_data.handseed, start.handseed);
+  m_firstFree = m_data.handseed;
 }
 
 void OdDbDxfReader::read() {
@@ -132,6 +133,8 @@ void OdDbDxfReader::readTable() {
     return;
   }
   OdDbSymbolTable& table = *m_tables[i];
+  // Layers name their line types, which stand before them in all but damaged files.
+  if (i == OdDbDatabaseData::kLayers) ensureTable(OdDbDatabaseData::kLinetypes);
   if (!table.isDBRO()) {
     m_in.readObject(table, {});
     m_data.tables[i] = table.objectId();
@@ -165,22 +168,24 @@ void OdDbDxfReader::readRecord(OdDbSymbolTable& table) {
     m_in.enter(*record, table.objectId());
     return;
   }
-  if (m_in.isPlain())
+  if (m_in.isPlain() || known.getHandle() >= m_firstFree)
     known.safeOpenObject(OdDb::kForWrite)->assignFrom(*record);
   else
     m_in.damage(QStringLiteral("a second %1 \"%2\" is left out")
                     .arg(QLatin1String(table.dxfRecordName()), record->getName()));
 }
 
+void OdDbDxfReader::ensureTable(std::size_t table) {
+  if (m_tables[table]->isDBRO()) return;
+  m_data.tables[table] = m_database.addObject(m_tables[table], {});
+  m_in.note(
+      QStringLiteral("the table %1 is missing and was added").arg(shown(oddxf::tableName(table))));
+}
+
 void OdDbDxfReader::ensureTables() {
   if (m_tablesReady) return;
   m_tablesReady = true;
-  for (std::size_t i = 0; i < m_tables.size(); ++i) {
-    if (m_tables[i]->isDBRO()) continue;
-    m_data.tables[i] = m_database.addObject(m_tables[i], {});
-    m_in.note(
-        QStringLiteral("the table %1 is missing and was added").arg(shown(oddxf::tableName(i))));
-  }
+  for (std::size_t i = 0; i < m_tables.size(); ++i) ensureTable(i);
   m_data.byBlock = ensureRecord(OdDbDatabaseData::kLinetypes, "ByBlock");
   m_data.byLayer = ensureRecord(OdDbDatabaseData::kLinetypes, "ByLayer");
   m_data.continuous = ensureRecord(OdDbDatabaseData::kLinetypes, "Continuous");

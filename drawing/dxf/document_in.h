@@ -34,6 +34,7 @@ class OdDbDxfReader {
   void finish();
   void finishHeader();
   OdDbObjectId ensureRecord(OdDbDatabaseData::Table table, const char* name);
+  void ensureTable(std::size_t table);
   void ensureTables();
 
   OdDbDatabase& m_database;
@@ -42,6 +43,7 @@ class OdDbDxfReader {
   std::array<OdDbSymbolTablePtr, OdDbDatabaseData::kTableCount> m_tables;
   OdDbBlockTableRecordPtr m_space; ///< of the last entity
   std::string m_name;
+  std::uint64_t m_firstFree = 0; ///< what has a higher handle was made while reading
   bool m_tablesReady = false, m_trustworthy = false;
   // What follows a polyline or an insert belongs to it.
   OdDbEntity* m_parent = nullptr;

@@ -55,7 +55,7 @@ bool OdDbDxfTextSource::nextLine(std::string_view& line, std::size_t longest) {
   for (;;) {
     const auto* stop = static_cast<const char*>(
         std::memchr(m_bytes.at + searched, '\n', m_bytes.left() - searched));
-    const char* next = stop + 1;
+    const char* next = stop ? stop + 1 : nullptr;
     if (!stop) {
       searched = m_bytes.left();
       if (searched > longest) {

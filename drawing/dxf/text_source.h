@@ -12,6 +12,8 @@ class OdDbDxfTextSource final : public OdDbDxfSource {
   Result next(OdDbDxfTag& tag) override;
   qint64 line() const override { return m_line; }
   OdString problem() const override { return m_problem; }
+  /// Where the text of the last tag lies; see OdDbDxfBytes.
+  const std::shared_ptr<char[]>& memory() const { return m_bytes.memory(); }
 
  private:
   bool nextLine(std::string_view& line, std::size_t longest);

@@ -5,6 +5,7 @@
 #include "drawing/dxf/source.h"
 #include "drawing/entities/line.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/support/binary_drawing.h"
 
 #include <gtest/gtest.h>
 
@@ -30,45 +31,6 @@ long peakMemory() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
   return usage.ru_maxrss;
-}
-
-/// The text drawing with the tags of a binary one.
-QByteArray binaryOf(const QByteArray& text, bool shortCodes = false) {
-  QByteArray bytes("AutoCAD Binary DXF\r\n\x1A\0", 22);
-  const auto number = [&](auto value) {
-    bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
-  };
-  const QList<QByteArray> lines = text.split('\n');
-  for (qsizetype i = 0; i + 1 < lines.size(); i += 2) {
-    const int code = lines[i].trimmed().toInt();
-    const QByteArray value = lines[i + 1];
-    if (!shortCodes)
-      number(static_cast<std::int16_t>(code));
-    else if (code < 255)
-      number(static_cast<std::uint8_t>(code));
-    else {
-      number(std::uint8_t{255});
-      number(static_cast<std::int16_t>(code));
-    }
-    const auto in = [&](int first, int last) { return code >= first && code <= last; };
-    if (in(10, 59) || in(110, 149) || in(210, 239) || in(460, 469) || in(1010, 1059)) {
-      number(value.toDouble());
-    } else if (in(60, 79) || in(170, 179) || in(270, 289) || in(370, 389) || in(400, 409) ||
-               in(1060, 1070)) {
-      number(value.toShort());
-    } else if (in(90, 99) || in(420, 429) || in(440, 459) || code == 1071) {
-      number(static_cast<std::int32_t>(value.toInt()));
-    } else if (in(290, 299)) {
-      number(static_cast<std::int8_t>(value.toInt()));
-    } else if (in(310, 319) || code == 1004) {
-      const QByteArray raw = QByteArray::fromHex(value);
-      number(static_cast<std::uint8_t>(raw.size()));
-      bytes.append(raw);
-    } else {
-      bytes.append(value).append('\0');
-    }
-  }
-  return bytes;
 }
 
 QByteArray drawingWithALine() {
@@ -148,7 +110,7 @@ TEST_F(HostileFiles, DeviceThatFailsWhileReadingIsTold) {
 
 TEST_F(HostileFiles, BinaryFilesAreReadLikeTexts) {
   const QByteArray text = drawingWithALine();
-  const auto db = OdDbDatabase::readDxf(binaryOf(text), QStringLiteral("binary.dxf"));
+  const auto db = OdDbDatabase::readDxf(binaryDrawing(text), QStringLiteral("binary.dxf"));
   EXPECT_EQ(db->unknownContent(), QStringList());
   EXPECT_TRUE(db->writeDxf() == text);
 }
@@ -156,7 +118,7 @@ TEST_F(HostileFiles, BinaryFilesAreReadLikeTexts) {
 TEST_F(HostileFiles, BinaryFilesWithCodesOfOneByteAreRead) {
   const QByteArray old = "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n  8\nWALLS\n 62\n1\n 10\n1.5\n"
                          " 20\n2\n 11\n3\n 21\n4\n1001\nACAD\n1070\n7\n  0\nENDSEC\n  0\nEOF\n";
-  const auto db = OdDbDatabase::readDxf(binaryOf(old, true), QStringLiteral("old.dxf"));
+  const auto db = OdDbDatabase::readDxf(binaryDrawing(old, true), QStringLiteral("old.dxf"));
   EXPECT_EQ(db->unknownContent(), QStringList());
   const auto space = db->getModelSpaceId().openAs<OdDbBlockTableRecord>();
   const auto line = space->entityIds().at(0).openAs<OdDbLine>();
@@ -166,7 +128,7 @@ TEST_F(HostileFiles, BinaryFilesWithCodesOfOneByteAreRead) {
 }
 
 TEST_F(HostileFiles, BinaryFileCutAnywhereIsRefusedOrOpensWithAReport) {
-  const QByteArray whole = binaryOf(drawingWithALine());
+  const QByteArray whole = binaryDrawing(drawingWithALine());
   int opened = 0;
   for (qsizetype size = 0; size < whole.size() - 5; size += 41) {
     try {

@@ -120,6 +120,25 @@ TEST(HostileDrawing, UnknownLayerIsMadeAndNoted) {
   EXPECT_TRUE(db->getLayerTableId().openAs<OdDbLayerTable>()->has(QStringLiteral("nowhere")));
 }
 
+TEST(HostileDrawing, LayersThatStandBeforeTheirLineTypesKeepThem) {
+  QByteArray text = OdDbDatabase::createDatabase()->writeDxf();
+  const QByteArray end = "  0\nENDTAB\n";
+  const qsizetype from = text.indexOf("  0\nTABLE\n  2\nLTYPE\n");
+  const QByteArray linetypes = text.mid(from, text.indexOf(end, from) + end.size() - from);
+  text.remove(from, linetypes.size());
+  const OdDbDatabasePtr without = read(text);
+  EXPECT_EQ(without->unknownContent(), QStringList());
+  EXPECT_FALSE(without->readNotes().isEmpty());
+  const qsizetype layers = text.indexOf("  0\nTABLE\n  2\nLAYER\n");
+  text.insert(text.indexOf(end, layers) + end.size(), linetypes);
+  for (const OdDbDatabasePtr& db : {without, read(text)}) {
+    EXPECT_EQ(db->unknownContent(), QStringList());
+    const auto zero = db->getLayerZeroId().openAs<OdDbLayerTableRecord>();
+    EXPECT_EQ(zero->linetypeObjectId(), db->getLinetypeContinuousId());
+    EXPECT_EQ(read(db->writeDxf())->readNotes(), QStringList());
+  }
+}
+
 TEST(HostileDrawing, UnknownCodePageIsTold) {
   QByteArray text = OdDbDatabase::createDatabase()->writeDxf(OdDb::kR2000);
   text.replace("ANSI_1252", "ANSI_0000");
