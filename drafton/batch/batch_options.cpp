@@ -1,5 +1,7 @@
 #include "drafton/batch/batch_options.h"
 
+#include "drafton/engine/dxf_versions.h"
+
 namespace drafton {
 namespace {
 
@@ -25,6 +27,7 @@ constexpr ValueOption kOptions[] = {
     {u"--profile", [](Reading& r, const OdString& value) { r.options.profile = value; }},
     {u"--script", [](Reading& r, const OdString& value) { r.options.script = value; }},
     {u"--out", [](Reading& r, const OdString& value) { r.options.out = value; }},
+    {u"--dxf-version", [](Reading& r, const OdString& value) { r.options.dxfVersion = value; }},
     {u"--png", [](Reading& r, const OdString& value) { storePicture(r, u"--png", value); }},
     {u"--pdf", [](Reading& r, const OdString& value) { storePicture(r, u"--pdf", value); }},
     {u"--svg", [](Reading& r, const OdString& value) { storePicture(r, u"--svg", value); }},
@@ -87,6 +90,12 @@ BatchArguments parseArguments(const QStringList& arguments) {
       result.options.drawing = argument;
     }
   }
+  if (const OdString& version = result.options.dxfVersion; !version.isEmpty()) {
+    if (!dxfVersionNamed(version))
+      return wrong(QStringLiteral("--dxf-version needs one of: %1").arg(dxfVersionNames()));
+    if (result.options.out.isEmpty())
+      return wrong(QStringLiteral("--dxf-version needs --out FILE"));
+  }
   OdString error;
   const std::optional<PictureRequest> picture = pictureRequest(result.picture, error);
   if (!picture) return wrong(error);
@@ -97,7 +106,8 @@ BatchArguments parseArguments(const QStringList& arguments) {
 OdString helpText() {
   return QStringLiteral(
       "Usage: drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
-      "                     [--out FILE.dxf] [--png FILE [--size WxH] [--background COLOR]\n"
+      "                     [--out FILE.dxf [--dxf-version V]]\n"
+      "                     [--png FILE [--size WxH] [--background COLOR]\n"
       "                     [--extents | --window X1,Y1,X2,Y2] [--layout NAME]] [DRAWING.dxf]\n"
       "\n"
       "Runs Drafton without a window. The lines of the script, or of standard input, are\n"
@@ -109,6 +119,8 @@ OdString helpText() {
       "  --profile FILE   the settings file; without it the user's own\n"
       "  --script FILE    the script; without it, or with -, standard input\n"
       "  --out FILE.dxf   saves the active drawing there at the end, unless the script failed\n"
+      "  --dxf-version V  in that version: R2000, R2004, R2007, R2010, R2013 or R2018; without\n"
+      "                   it in that of the drawing\n"
       "  --png FILE       draws the active drawing into a picture at the end, unless the script\n"
       "                   failed; the name's end says which kind: .png, .pdf or .svg. --pdf FILE\n"
       "                   and --svg FILE do the same\n"

@@ -20,6 +20,7 @@ struct BatchOptions {
   OdString profile;
   OdString script; ///< empty for standard input
   OdString out;
+  OdString dxfVersion; ///< of the file `out`; empty for that of the drawing
   OdString drawing;
   std::optional<PictureRequest> picture;
 };

@@ -103,6 +103,8 @@ bool BatchRun::saveDrawing(Engine& engine) {
                  .arg(m_options.out, document->name(), lost.join(QStringLiteral(", "))));
     return false;
   }
+  if (!m_options.dxfVersion.isEmpty())
+    document->variables()->set(QStringLiteral("DXFVERSION"), m_options.dxfVersion);
   try {
     document->save(path);
   } catch (const OdFileError& error) {

@@ -1,6 +1,7 @@
 #include "drafton/engine/document.h"
 
 #include "drafton/engine/drawing_files.h"
+#include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
 #include "drawing/variable_recording.h"
 #include "frame/file_path.h"
@@ -72,7 +73,15 @@ void Document::save(const OdString& path) {
                    u"it. Save the drawing under another name.")
             .arg(path, lostBySaving().join(QStringLiteral(", "))));
   keepBackup(path);
-  writeDrawing(m_engine, *m_database, path);
+  const OdDb::DwgVersion version = savingVersion(m_engine, *this);
+  const OdDb::DwgVersion former = m_database->originalFileVersion();
+  const bool isChosen = m_values.contains(QStringLiteral("DXFVERSION"));
+  writeDrawing(m_engine, *m_database, path, version);
+  if (version != former && !isChosen && !this->path().isEmpty())
+    m_engine.print(translated(u"The drawing was read as %1 and is saved as %2.")
+                       .arg(dxfVersionName(former), dxfVersionName(version)));
+  // A new drawing stays what it was saved as, whatever new ones become later.
+  setDxfVersion(m_engine, this, dxfVersionName(version));
   m_database->setFileName(path);
   m_database->setSaved();
 }

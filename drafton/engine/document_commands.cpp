@@ -1,4 +1,5 @@
 #include "drafton/engine/drawing_files.h"
+#include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
@@ -30,11 +31,29 @@ void save(CommandContext& context, Document& document, const OdString& path) {
   context.print(translated(u"Saved to %1.").arg(shown(path)));
 }
 
+Task<OdString> askVersion(CommandContext& context, Document& document) {
+  const OdString now = dxfVersionName(savingVersion(context.engine(), document));
+  const OdString names = dxfVersionNames();
+  const Answer<OdString> answer =
+      co_await context.input().keyword({.text = u"Enter the version of DXF",
+                                        .keywords = QStringView(names),
+                                        .defaultValue = QStringView(now)});
+  co_return answer.keyword;
+}
+
 Task<> askAndSave(CommandContext& context, Document& document) {
   const OdString current = document.path();
   const OdString preset = shown(current.isEmpty() ? document.name() : current);
-  const Answer<OdString> answer = co_await context.input().string(
-      {.text = u"Enter the file name", .allowBlanks = true, .defaultValue = preset});
+  OdString version;
+  Answer<OdString> answer;
+  for (;;) {
+    answer = co_await context.input().string({.text = u"Enter the file name",
+                                              .keywords = u"Version",
+                                              .allowBlanks = true,
+                                              .defaultValue = preset});
+    if (!answer.is(u"Version")) break;
+    version = co_await askVersion(context, document);
+  }
   const OdString path = drawingPath(answer.value);
   if (!isDrawingName(path))
     throw CommandFailure(
@@ -50,6 +69,7 @@ Task<> askAndSave(CommandContext& context, Document& document) {
             .arg(document.lostBySaving().join(QStringLiteral(", ")));
     if (!co_await confirm(context, question)) throw CommandCancelled();
   }
+  if (!version.isEmpty()) setDxfVersion(context.engine(), &document, version);
   save(context, document, path);
 }
 

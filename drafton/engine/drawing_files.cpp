@@ -128,9 +128,10 @@ OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path) {
   return database;
 }
 
-void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path) {
+void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path,
+                  OdDb::DwgVersion version) {
   if (!isConvertedDrawing(path)) {
-    database.writeFile(path);
+    database.writeFile(path, version);
     return;
   }
   OdString commandLine = settingOf(engine, kSavingSetting);
@@ -140,7 +141,7 @@ void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path) 
   const OdString output = workshop.file("out", "dwg");
   if (!commandLine.isEmpty()) {
     QFile file(input);
-    const QByteArray bytes = database.writeDxf();
+    const QByteArray bytes = database.writeDxf(version);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
       refuse(path, file.errorString());
   }

@@ -16,9 +16,11 @@ bool isDrawingName(const OdString& path);
 /// the setting "DwgConverter" names. Raises OdFileError, which names `path`.
 OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path);
 
-/// Writes the drawing. A file that has to be converted takes the place of the former one when it is
-/// whole. The setting "DwgConverterForSaving" names the converter, "DwgConverter" if it is not set.
-/// Raises OdFileError, which names `path`; the former file is then untouched.
-void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path);
+/// Writes the drawing, in a version of DXF or as it was read. A file that has to be converted takes
+/// the place of the former one when it is whole. The setting "DwgConverterForSaving" names the
+/// converter, "DwgConverter" if it is not set. Raises OdFileError, which names `path`; the former
+/// file is then untouched.
+void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path,
+                  OdDb::DwgVersion version = OdDb::kVersionUnknown);
 
 } // namespace drafton

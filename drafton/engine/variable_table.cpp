@@ -1,5 +1,6 @@
 #include "drafton/engine/variable_table.h"
 
+#include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
 #include "drafton/engine/value_parser.h"
 #include "frame/file_path.h"
@@ -83,6 +84,7 @@ constexpr VariableRow kVariables[] = {
     {u"DWGNAME", Type::kText, Scope::kComputed, u"", 0, 0, documentName},
     {u"DWGPREFIX", Type::kText, Scope::kComputed, u"", 0, 0, documentFolder},
     {u"DWGTITLED", Type::kInteger, Scope::kComputed, u"0", 0, 1, isTitled},
+    {u"DXFVERSION", Type::kText, Scope::kComputed, u"R2018", 0, 0, dxfVersion, setDxfVersion},
     {u"FILEDIA", Type::kInteger, Scope::kProfile, u"1", 0, 1},
     {u"GFANG", Type::kReal, Scope::kSession, u"0"},
     {u"GFCLR1", Type::kColor, Scope::kSession, u"3271557125"},
@@ -103,6 +105,8 @@ constexpr VariableRow kVariables[] = {
     {u"ISAVEBAK", Type::kInteger, Scope::kProfile, u"1", 0, 1},
     {u"LASTPOINT", Type::kPoint, Scope::kComputed, u"0,0,0", -kNoLimit, kNoLimit, lastPoint,
      setLastPoint},
+    {u"NEWDXFVERSION", Type::kText, Scope::kComputed, u"R2018", 0, 0, newDxfVersion,
+     setNewDxfVersion},
     {u"OFFSETDIST", Type::kReal, Scope::kDocument, u"1"},
     {u"OSMODE", Type::kInteger, Scope::kProfile, u"4133", 0, 32767},
     {u"PICKBOX", Type::kInteger, Scope::kProfile, u"5", 0, 50},

@@ -303,7 +303,14 @@ bool OdDbBlockReference::explodeCell(const OdGeMatrix3d& transform,
       for (const OdGeMatrix3d& cell : nested->cellTransforms())
         all = all && nested->explodeCell(transform * cell, pieces, open);
     } else {
-      all = false;
+      // What cannot take the shape falls into pieces that can.
+      std::vector<OdDbEntityPtr> parts;
+      all = entity->explode(parts);
+      for (const OdDbEntityPtr& part : parts) {
+        const OdDbEntityPtr moved = all ? part->getTransformedCopy(transform) : nullptr;
+        all = moved.get() != nullptr;
+        if (all) pieces.push_back(moved);
+      }
     }
   }
   open.pop_back();

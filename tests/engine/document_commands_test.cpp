@@ -54,6 +54,39 @@ TEST_F(DocumentCommandsTest, SavesUnderANameWithBlanksAndOpensAgain) {
   EXPECT_EQ(variable("DWGTITLED").toInt32(), 1);
 }
 
+TEST_F(DocumentCommandsTest, SavesInTheVersionThatIsChosen) {
+  const auto versionOf = [&](const char* name) {
+    return OdDbDatabase::readFile(odpath::fromPlatform(path(name)))->originalFileVersion();
+  };
+  draw();
+  type(QStringLiteral("SaveAs Version\nR2000\n") + path("a.dxf") + u'\n');
+  EXPECT_TRUE(console().shows(
+      QStringLiteral("Enter the version of DXF [R2000/R2004/R2007/R2010/R2013/R2018] <R2018>: ")))
+      << output().toStdString();
+  EXPECT_EQ(versionOf("a.dxf"), OdDb::kR2000);
+  type(QStringLiteral("Save\n"));
+  EXPECT_EQ(versionOf("a.dxf"), OdDb::kR2000);
+  type(QStringLiteral("DXFVERSION AC1024 SaveAs ") + path("b.dxf") + u'\n');
+  EXPECT_EQ(versionOf("b.dxf"), OdDb::kR2010);
+  type(QStringLiteral("DXFVERSION R12 R2013 NEWDXFVERSION R2007 NewDocument SaveAs ") +
+       path("c.dxf") + u'\n');
+  EXPECT_EQ(versionOf("c.dxf"), OdDb::kR2007);
+  type(QStringLiteral("NEWDXFVERSION 2018 Save\n"));
+  EXPECT_EQ(versionOf("c.dxf"), OdDb::kR2007);
+  EXPECT_FALSE(console().shows(QStringLiteral("was read as"))) << output().toStdString();
+}
+
+TEST_F(DocumentCommandsTest, TellsThatAnOldDrawingBecomesANewerOne) {
+  QFile file(path("old.dxf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n1\n20\n2\n11\n3\n21\n4\n"
+             "0\nENDSEC\n0\nEOF\n");
+  file.close();
+  type(QStringLiteral("OpenDocument ") + path("old.dxf") + QStringLiteral("\nSave\n"));
+  EXPECT_TRUE(console().shows(QStringLiteral("The drawing was read as R12 and is saved as R2000.")))
+      << output().toStdString();
+}
+
 TEST_F(DocumentCommandsTest, ANameWithoutExtensionMeansADxfFile) {
   type(QStringLiteral("SaveAs ") + path("plain") + u'\n');
   EXPECT_TRUE(QFile::exists(path("plain.dxf")));

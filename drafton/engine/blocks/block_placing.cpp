@@ -2,6 +2,7 @@
 
 #include "drafton/engine/blocks/block_source.h"
 #include "drafton/engine/blocks/drawing_units.h"
+#include "drafton/engine/commands/exploded_pieces.h"
 #include "drafton/engine/commands/new_entities.h"
 #include "drafton/engine/translator.h"
 
@@ -10,21 +11,25 @@ namespace {
 
 /// One text that the user is asked for.
 struct Wanted {
-  OdString tag, question, value;
+  std::size_t index; ///< among the attributes
+  OdString question, value;
   bool isVerified;
 };
 
 /// What the block's definitions want to know, in their order.
 std::vector<Wanted> wantedValues(OdDbObjectId block) {
   std::vector<Wanted> wanted;
+  std::size_t index = 0;
   const auto record = block.openAs<OdDbBlockTableRecord>();
   for (auto at = record->newIterator(); !at->done(); at->step()) {
     const OdDbEntityPtr entity = at->entity();
     const auto* const definition = odrxCast<OdDbAttributeDefinition>(entity);
-    if (!definition || definition->isConstant() || definition->isPreset()) continue;
+    if (!definition || definition->isConstant()) continue;
+    const std::size_t own = index++;
+    if (definition->isPreset()) continue;
     const OdString prompt = definition->prompt();
-    wanted.push_back({definition->tag(), prompt.isEmpty() ? definition->tag() : prompt,
-                      definition->textString(), definition->isVerifiable()});
+    wanted.push_back({own, prompt.isEmpty() ? definition->tag() : prompt, definition->textString(),
+                      definition->isVerifiable()});
   }
   return wanted;
 }
@@ -38,13 +43,12 @@ Task<void> askValue(CommandContext& context, Wanted& wanted) {
   wanted.value = answer.value;
 }
 
-Task<QHash<OdString, OdString>> askAttributes(CommandContext& context, OdDbObjectId block) {
-  QHash<OdString, OdString> values;
+Task<std::vector<Wanted>> askAttributes(CommandContext& context, OdDbObjectId block) {
+  std::vector<Wanted> wanted;
   OdVariant asks;
-  if (!context.variables().get(QStringLiteral("ATTREQ"), asks) || asks.toInt32() == 0)
-    co_return values;
-  std::vector<Wanted> wanted = wantedValues(block);
-  if (wanted.empty()) co_return values;
+  if (context.variables().get(QStringLiteral("ATTREQ"), asks) && asks.toInt32() != 0)
+    wanted = wantedValues(block);
+  if (wanted.empty()) co_return wanted;
   context.print(translated(u"Enter attribute values"));
   for (Wanted& row : wanted) co_await askValue(context, row);
   if (std::ranges::any_of(wanted, &Wanted::isVerified)) {
@@ -52,15 +56,29 @@ Task<QHash<OdString, OdString>> askAttributes(CommandContext& context, OdDbObjec
     for (Wanted& row : wanted)
       if (row.isVerified) co_await askValue(context, row);
   }
-  for (const Wanted& row : wanted) values.insert(row.tag, row.value);
-  co_return values;
+  co_return wanted;
+}
+
+/// Several attributes can have one tag, so they are told apart by their order.
+void fillAttributes(OdDbBlockReference& insert, const std::vector<Wanted>& values) {
+  const std::vector<OdDbAttributePtr> attributes = insert.attributes(OdDb::kForWrite);
+  for (const Wanted& row : values) {
+    const OdDbAttributePtr& attribute = attributes.at(row.index);
+    attribute->setTextString(row.value);
+    attribute->adjustAlignment();
+  }
 }
 
 void addPieces(CommandContext& context, const OdDbBlockReference& insert) {
   std::vector<OdDbEntityPtr> pieces;
-  if (!insert.explode(pieces))
-    throw CommandFailure(translated(u"Block \"%1\" cannot be exploded.").arg(insert.blockName()));
-  for (const OdDbEntityPtr& piece : pieces) addToCurrentSpace(context.database(), *piece);
+  if (!insert.explode(pieces)) {
+    const OdString fault = explodingFault(insert);
+    throw CommandFailure(
+        fault.isEmpty() ? translated(u"Block \"%1\" cannot be exploded.").arg(insert.blockName())
+                        : fault);
+  }
+  const OdDbObjectId space = context.database().getCurrentSpaceId();
+  appendPieces(*space.openAs<OdDbBlockTableRecord>(OdDb::kForWrite), insert, pieces);
 }
 
 } // namespace
@@ -84,9 +102,10 @@ Task<void> placeBlock(CommandContext& context, OdDbObjectId block, BlockPlace pl
   if (place.explode && !isReference) {
     addPieces(context, *insert);
   } else {
-    const QHash<OdString, OdString> values = co_await askAttributes(context, block);
+    const std::vector<Wanted> values = co_await askAttributes(context, block);
     addToCurrentSpace(database, *insert);
-    insert->appendAttributesFromBlock(values);
+    insert->appendAttributesFromBlock();
+    fillAttributes(*insert, values);
   }
   context.setLastPoint(place.point);
 }

@@ -1,6 +1,7 @@
 // EXPLODE.
 
 #include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/exploded_pieces.h"
 #include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
@@ -35,11 +36,12 @@ Task<void> explode(CommandContext& context) {
     }
     std::vector<OdDbEntityPtr> pieces;
     if (!entity->explode(pieces)) {
+      if (const OdString fault = explodingFault(*entity); !fault.isEmpty()) context.print(fault);
       ++whole;
       continue;
     }
     const auto owner = entity->ownerId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
-    for (const OdDbEntityPtr& piece : pieces) owner->appendOdDbEntity(piece);
+    appendPieces(*owner, *entity, pieces);
     entity->erase();
   }
   if (whole > 0) context.print(translated(u"%1 could not be exploded.").arg(whole));

@@ -37,6 +37,13 @@ class LetterBox : public OdGiWorldDraw {
     }
   }
 
+  /// Stands at a place in the place of letters.
+  void moveTo(const OdGePoint3d& place) {
+    const OdGeVector3d v = place.asVector();
+    m_box = OdGeExtents3d();
+    m_box.addPoint({v.dotProduct(m_along), v.dotProduct(m_up), v.dotProduct(m_normal)});
+  }
+
   bool isEmpty() const { return m_box.isEmpty() || m_normal.isZeroLength(); }
   const OdGeVector3d& along() const { return m_along; }
   const OdGeVector3d& up() const { return m_up; }
@@ -57,10 +64,34 @@ bool isReadable(const OdGeVector3d& along) {
   return along.x > kLevel || (std::abs(along.x) <= kLevel && along.y > 0);
 }
 
-/// The movement of a text; `mirror` itself for what shows no letters.
-OdGeMatrix3d readableMirror(const OdDbEntity& text, const OdGeMatrix3d& mirror) {
+/// The letters of a text as they would be if it were to be seen. One without letters is measured as
+/// if it had one at its place.
+LetterBox lettersOf(const OdDbEntity& text) {
   LetterBox box;
-  text.worldDraw(box);
+  const OdDbEntityPtr sample = text.clone();
+  if (auto* const attribute = odrxCast<OdDbAttributeText>(sample.get()))
+    attribute->setInvisible(false);
+  sample->worldDraw(box);
+  if (!box.isEmpty()) return box;
+  const OdString letter = QStringLiteral("x");
+  OdGePoint3d place;
+  if (auto* const line = odrxCast<OdDbText>(sample.get())) {
+    line->setTextString(letter);
+    const bool isAligned =
+        line->horizontalMode() != OdDb::kTextLeft || line->verticalMode() != OdDb::kTextBase;
+    place = isAligned ? line->alignmentPoint() : line->position();
+  } else if (auto* const lines = odrxCast<OdDbMText>(sample.get())) {
+    lines->setContents(letter);
+    place = lines->location();
+  }
+  sample->worldDraw(box);
+  if (!box.isEmpty()) box.moveTo(place);
+  return box;
+}
+
+/// The movement of a text; `mirror` itself for what could show no letters.
+OdGeMatrix3d readableMirror(const OdDbEntity& text, const OdGeMatrix3d& mirror) {
+  const LetterBox box = lettersOf(text);
   if (box.isEmpty()) return mirror;
   // The image of the letters' frame is left-handed. Turning one of its axes round makes it right
   // again; the one that leaves the text more as it was.

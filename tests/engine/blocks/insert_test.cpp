@@ -99,6 +99,18 @@ TEST_F(InsertTest, AsksForAttributesInTheOrderOfTheBlock) {
   EXPECT_TRUE(console().shows(QStringLiteral("Enter number <1>:"))) << output().toStdString();
 }
 
+TEST_F(InsertTest, AttributesOfOneTagHaveTheirOwnValues) {
+  const OdDbObjectId block = addLineBlock(u"Tag");
+  addDefinition(block, u"NO", u"First", u"1");
+  addDefinition(block, u"NO", u"Second", u"2", true);
+  words("INSERT|Tag|0,0||||one|two|three");
+  ASSERT_EQ(inserts().size(), 1u);
+  const auto attributes = inserts()[0]->attributes();
+  ASSERT_EQ(attributes.size(), 2u);
+  EXPECT_EQ(attributes[0]->textString(), QStringLiteral("one"));
+  EXPECT_EQ(attributes[1]->textString(), QStringLiteral("three"));
+}
+
 TEST_F(InsertTest, AsksAgainForAttributesThatAreToBeVerified) {
   addDefinition(addLineBlock(u"Tag"), u"NO", u"Number", u"1", true);
   words("INSERT|Tag|0,0||||42|43");

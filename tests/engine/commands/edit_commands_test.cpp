@@ -2,6 +2,7 @@
 
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/dimension_kinds.h"
+#include "drawing/entities/hatch.h"
 #include "drawing/entities/leader.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
@@ -161,6 +162,70 @@ TEST_F(EditCommands, AttributesOfAMirroredInsertStayReadable) {
   EXPECT_NEAR(text->rotation(), 0, 1e-9);
   EXPECT_FALSE(text->isMirroredInX());
   EXPECT_FALSE(text->isMirroredInY());
+}
+
+TEST_F(EditCommands, AttributesThatNobodySeesAreMirroredLikeAllOthers) {
+  for (const bool isEmpty : {false, true}) {
+    restart({});
+    makeInsert();
+    const OdDbAttributePtr hidden =
+        OdDbBlockReferencePtr(entityAt(0).safeOpenObject())->attributes(OdDb::kForWrite)[0];
+    if (isEmpty)
+      hidden->setTextString({});
+    else
+      hidden->setInvisible(true);
+    runScript(u"MIRRTEXT|0|MIRROR|l||0,0|0,1|y");
+    const OdDbBlockReferencePtr insert = entityAt(0).safeOpenObject();
+    const OdDbAttributePtr text = insert->attributes()[0];
+    EXPECT_NEAR(text->alignmentPoint().x, -20, 1e-9) << isEmpty;
+    EXPECT_NEAR(text->alignmentPoint().y, 5, 1e-9) << isEmpty;
+    EXPECT_FALSE(text->isMirroredInX()) << isEmpty;
+    EXPECT_FALSE(text->isMirroredInY()) << isEmpty;
+  }
+}
+
+TEST_F(EditCommands, CopiesLeadToCopies) {
+  runScript(u"LEADER|0,0|5,5||note||COPY|all||0,0|100,0|");
+  EXPECT_FALSE(isRunning()) << output().toStdString();
+  const OdDbLeaderPtr first = entityAt(0).safeOpenObject(), second = entityAt(2).safeOpenObject();
+  EXPECT_EQ(first->annotationObjId(), entityAt(1));
+  EXPECT_EQ(second->annotationObjId(), entityAt(3));
+}
+
+TEST_F(EditCommands, PiecesOfABlockLeadToPieces) {
+  runScript(u"LEADER|0,0|5,5||note||CIRCLE|20,0|5|HPNAME|SOLID|BHATCH|20,0|");
+  runScript(u"BLOCK|Noted|0,0|all||INSERT|Noted|0,0||||INSERT|Noted|0,100||||EXPLODE|all|");
+  EXPECT_FALSE(isRunning()) << output().toStdString();
+  std::vector<OdDbObjectId> ids =
+      database().getModelSpaceId().openAs<OdDbBlockTableRecord>()->entityIds();
+  ASSERT_EQ(ids.size() % 2, 0u) << output().toStdString();
+  int leaders = 0, hatches = 0;
+  for (const OdDbObjectId id : ids) {
+    const OdDbObjectPtr object = id.openObject();
+    if (const auto* leader = odrxCast<OdDbLeader>(object.get())) {
+      ++leaders;
+      const OdDbEntityPtr note = leader->annotationObjId().openObject();
+      ASSERT_TRUE(note);
+      EXPECT_EQ(note->ownerId(), database().getModelSpaceId());
+    }
+    if (const auto* hatch = odrxCast<OdDbHatch>(object.get())) {
+      ++hatches;
+      for (const OdDbObjectId source : hatch->getAssocObjIds())
+        EXPECT_EQ(source.openObject()->ownerId(), database().getModelSpaceId());
+    }
+  }
+  EXPECT_EQ(leaders, 2);
+  EXPECT_EQ(hatches, 2) << output().toStdString();
+}
+
+TEST_F(EditCommands, WhatCannotTakeTheShapeOfAnInsertFallsIntoPieces) {
+  runScript(u"DIMLINEAR|0,0|10,5|4,9|LINE|0,0|1,1||BLOCK|Sized|0,0|all||INSERT|Sized|0,0|2|1|0|"
+            u"EXPLODE|l|");
+  EXPECT_FALSE(isRunning());
+  const OdString all = describeEntities(database());
+  EXPECT_TRUE(all.contains(QStringLiteral("LINE 0,0,0 2,1,0"))) << all.toStdString();
+  EXPECT_FALSE(all.contains(QStringLiteral("INSERT"))) << all.toStdString();
+  EXPECT_FALSE(all.contains(QStringLiteral("DIMENSION"))) << all.toStdString();
 }
 
 TEST_F(EditCommands, ImagesAreTakenByTheirTurnedEdge) {

@@ -31,6 +31,8 @@ constexpr Script kDocuments[] = {
     {"NotAsked", u"Save", u"CIRCLE 0,0,0 r7;CIRCLE 0,0,0 r8",
      u"CIRCLE|0,0|7|SaveAs|%FOLDER%/new|CIRCLE|0,0|8"},
     {"New", u"SaveAs|%FOLDER%/new name.dxf", u"CIRCLE 0,0,0 r7", u"CIRCLE|0,0|7"},
+    {"InAVersion", u"SaveAs|v|R2000|v|R2004|v|R2007|v|R2010|v|R2013|v|R2018|%FOLDER%/new version",
+     u"CIRCLE 0,0,0 r7", u"CIRCLE|0,0|7"},
     {"Replaced", u"SaveAs|%FOLDER%/wheel.dxf|y", u"CIRCLE 0,0,0 r7", u"CIRCLE|0,0|7"},
     {"NotReplaced", u"SaveAs|%FOLDER%/wheel.dxf|n", u"CIRCLE 0,0,0 r7", u"CIRCLE|0,0|7"},
     {"NotSaved", u"CloseDocument|n", u"CIRCLE 0,0,0 r7", kTwoDocuments},
