@@ -4,6 +4,7 @@
 #include "drafton/engine/boundary/object_loops.h"
 #include "drafton/engine/hatch_loops.h"
 #include "drawing/entities/hatch.h"
+#include "drawing/object_reactors.h"
 
 #include <algorithm>
 
@@ -50,7 +51,20 @@ bool liesOnItsSources(const OdDbHatch& hatch) {
   return true;
 }
 
+/// Files list at the boundary who follows it; other programs rely on that.
+void tellSources(const OdDbHatch& hatch, bool follows) {
+  for (const OdDbObjectId source : hatch.getAssocObjIds()) {
+    const OdDbObjectPtr object = source.openObject(OdDb::kForWrite);
+    if (!object) continue;
+    if (follows)
+      oddb::addPersistentReactor(*object, hatch.objectId());
+    else
+      oddb::removePersistentReactor(*object, hatch.objectId());
+  }
+}
+
 void letGo(OdDbHatch& hatch) {
+  tellSources(hatch, false);
   std::vector<OdDbHatchLoop> loops;
   for (unsigned i = 0; i < hatch.numLoops(); ++i) {
     loops.push_back(hatch.loopAt(i));
@@ -114,6 +128,8 @@ void HatchKeeper::follow(double gap) {
   if (m_touched.empty()) return;
   findHatches();
   for (const OdDbObjectId hatch : std::vector(m_hatches)) follow(hatch, gap);
+  // What was told to the boundaries is no change of theirs.
+  m_database.deliverChanges();
   m_touched.clear();
 }
 
@@ -131,10 +147,13 @@ void HatchKeeper::follow(OdDbObjectId id, double gap) {
   });
   if (!areThere || (hasNewSources ? !hasNewBoundary(*hatch, gap) : !liesOnItsSources(*hatch)))
     letGo(*hatch);
+  else
+    tellSources(*hatch, true);
 }
 
 bool HatchKeeper::hasNewBoundary(OdDbHatch& hatch, double gap) const {
   const std::vector<OdDbObjectId> objects = hatch.getAssocObjIds();
+  tellSources(hatch, false);
   const auto style = static_cast<IslandStyle>(hatch.hatchStyle());
   std::vector<OdGePoint2d> seeds = hatch.seedPoints();
   const OdGeExtents3d before = boxOf(hatch);

@@ -275,6 +275,19 @@ TEST_F(Hatching, SurvivesTheFile) {
   EXPECT_EQ(read->writeDxf(), dxf());
 }
 
+TEST_F(Hatching, BoundariesListTheHatchesThatFollowThem) {
+  runScript(u"RECTANG|0,0|10,8|SETVAR|HPNAME|SOLID|BHATCH|1,1|");
+  const auto ids = database().getModelSpaceId().openAs<OdDbBlockTableRecord>()->entityIds();
+  ASSERT_EQ(ids.size(), 2u);
+  const QByteArray reactor = "{ACAD_REACTORS\n330\n" + ids[1].getHandle().ascii().toLatin1();
+  const auto lists = [&] { return dxf().replace("\r", "").replace(" ", "").contains(reactor); };
+  EXPECT_TRUE(lists());
+  runScript(u"MOVE|l||0,0|100,0");
+  EXPECT_FALSE(lists());
+  type(QStringLiteral("U\n"));
+  EXPECT_TRUE(lists());
+}
+
 // --- hatches that follow
 
 namespace {
