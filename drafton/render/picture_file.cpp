@@ -35,11 +35,14 @@ struct Scope {
   OdDbObjectId block;
   OdDbLayoutPtr layout; ///< null for the model
   OdGeExtents3d box;
+  OdGeExtents3d shown; ///< the only part of it that is drawn; empty for all
   double margin = 0;
+  double weightScale = 1; ///< of line weights
 };
 
 Scope scopeOf(OdDbDatabase& database, Scene& scene, const PictureRequest& request) {
-  Scope scope{database.getModelSpaceId(), {}, {}, 0};
+  Scope scope;
+  scope.block = database.getModelSpaceId();
   if (!request.layout.isEmpty()) {
     const OdDbObjectId id = oddb::findLayout(database, request.layout);
     const OdDbLayoutPtr layout = odrxCast<OdDbLayout>(id.openObject().get());
@@ -57,7 +60,14 @@ Scope scopeOf(OdDbDatabase& database, Scene& scene, const PictureRequest& reques
     scope.box.addPoint({request.window->left(), request.window->top(), 0});
     scope.box.addPoint({request.window->right(), request.window->bottom(), 0});
   } else if (scope.layout && !request.extents) {
-    scope.box = sheetOf(*scope.layout);
+    const Sheet sheet = sheetOf(*scope.layout, [&] {
+      scene.update();
+      return scene.boxOf(scope.block, deviationFor(1));
+    });
+    scope.box = sheet.paper;
+    scope.shown = sheet.shown;
+    if (scope.layout->plotFlag(OdDbPlotSettings::kScaleLineweights))
+      scope.weightScale = sheet.scale;
   }
   if (scope.box.isEmpty()) {
     scene.update();
@@ -76,7 +86,7 @@ RenderOptions optionsFor(const PictureRequest& request, const OdDbDatabase& data
     options.ground = Ground(qRgba(255, 255, 255, request.background.alpha()));
   options.isPlotting = scope.layout != nullptr;
   options.showsLineWeights = scope.layout != nullptr || database.sysVarInt("LWDISPLAY") != 0;
-  options.pixelsPerMillimetre = pixelsPerMillimetre;
+  options.pixelsPerMillimetre = pixelsPerMillimetre * scope.weightScale;
   return options;
 }
 
@@ -89,7 +99,15 @@ struct Job {
   View view(const QSizeF& size) const {
     View view;
     view.size = size;
-    return view.fitted(scope.box, scope.margin);
+    view = view.fitted(scope.box, scope.margin);
+    if (scope.shown.isEmpty()) return view;
+    // A smaller picture within the picture.
+    const QRectF part = view.projection().boxOf(scope.shown) & view.rect();
+    const OdGePoint3d middle = view.unproject(part.center());
+    view.center = {middle.x, middle.y};
+    view.origin = part.topLeft();
+    view.size = part.size();
+    return view;
   }
   RenderOptions options(double pixelsPerMillimetre) const {
     return optionsFor(request, *scene.database(), scope, pixelsPerMillimetre);

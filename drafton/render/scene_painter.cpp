@@ -143,7 +143,7 @@ void ScenePainter::drawPiece(const Projection& projection, double scale, const S
   case PieceKind::kViewport:
     if (const OdDbViewportPtr viewport =
             odrxCast<OdDbViewport>(list.objects[piece.first].open().get())) {
-      drawViewport(projection, *viewport, showsLines);
+      drawViewport(projection, *viewport, style, showsLines);
       m_pieces.setProjection(projection, scale);
       m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
     }
@@ -174,7 +174,7 @@ std::vector<bool> ScenePainter::frozenIn(const OdDbViewport& viewport) {
 }
 
 void ScenePainter::drawViewport(const Projection& projection, const OdDbViewport& viewport,
-                                bool showsLines) {
+                                const Style& style, bool showsLines) {
   if (m_isInWindow || viewport.isOverall()) return;
   const auto edge = viewport.boundary(deviationFor(projection.scale()));
   if (viewport.isOn() && !m_isHalo) {
@@ -196,7 +196,9 @@ void ScenePainter::drawViewport(const Projection& projection, const OdDbViewport
     m_surface.restore();
   }
   if (!showsLines) return;
+  // The model was drawn with looks of its own.
   m_pieces.setProjection(projection, projection.scale());
+  m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
   m_pieces.drawFrame(edge);
 }
 

@@ -32,7 +32,8 @@ class ScenePainter {
                  const Piece& piece, const Style& style, bool showsLines, const QRectF& box);
   void drawBlock(const Projection& outer, const BlockPiece& block, const Style& style);
   void drawSpace(OdDbObjectId block, const Projection& projection);
-  void drawViewport(const Projection& projection, const OdDbViewport& viewport, bool showsLines);
+  void drawViewport(const Projection& projection, const OdDbViewport& viewport, const Style& style,
+                    bool showsLines);
   std::vector<bool> frozenIn(const OdDbViewport& viewport);
   bool isTooSmall(const QRectF& box) const;
 

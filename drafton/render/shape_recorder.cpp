@@ -230,6 +230,8 @@ void ShapeRecorder::image(const OdDbRasterImage& image) {
 }
 
 void ShapeRecorder::viewport(const OdDbViewport& viewport) {
+  // The one that stands for the sheet shows nothing and is not on it.
+  if (viewport.isOverall()) return;
   const OdGePoint3d& middle = viewport.centerPoint();
   const OdGeVector3d half{viewport.width() / 2, viewport.height() / 2, 0};
   const OdGePoint3d corners[] = {middle - half, middle + half};

@@ -1,16 +1,23 @@
 #include "drafton/render/sheet.h"
 
 #include "drafton/render/view.h"
+#include "drawing/database.h"
+#include "drawing/entities/viewport.h"
+#include "drawing/tables/view_table.h"
 
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace drafton {
 namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kShadow = 5;
+/// The standard scale that is as large as the paper allows.
+constexpr int kToFit = 0;
 
 /// The margins from the left edge counterclockwise, as they lie once the sheet is turned under the
 /// drawing.
@@ -28,6 +35,79 @@ double unitsPerMillimetre(const OdDbLayout& layout) {
   return layout.plotPaperUnits() == OdDbPlotSettings::kInches ? 1 / kMillimetresPerInch : 1;
 }
 
+/// What of a layout is plotted.
+struct Plotted {
+  OdGeExtents3d area; ///< empty for the layout as it stands on its paper
+  bool isCut = false; ///< what is outside of the area is not plotted
+};
+
+OdGeExtents3d boxOf(const OdGePoint2d& a, const OdGePoint2d& b) {
+  OdGeExtents3d box;
+  box.addPoint({a.x, a.y, 0});
+  box.addPoint({b.x, b.y, 0});
+  return box;
+}
+
+/// What a view of so much around its middle shows.
+OdGeExtents3d boxAround(const OdGePoint2d& middle, double width, double height) {
+  if (!(width > 0) || !(height > 0)) return {};
+  return boxOf({middle.x - width / 2, middle.y - height / 2},
+               {middle.x + width / 2, middle.y + height / 2});
+}
+
+OdGeExtents3d namedView(const OdDbDatabase& database, const OdString& name) {
+  const auto views = odrxCast<OdDbViewTable>(database.getViewTableId().openObject());
+  const OdDbObjectPtr found = views ? views->getAt(name).openObject() : OdDbObjectPtr();
+  const auto* view = odrxCast<OdDbViewTableRecord>(found);
+  if (view == nullptr || !view->isPaperspaceView()) return {};
+  return boxAround(view->centerPoint(), view->width(), view->height());
+}
+
+/// What the window that stands for the sheet showed last.
+OdGeExtents3d lastDisplay(const OdDbLayout& layout) {
+  const auto block = odrxCast<OdDbBlockTableRecord>(layout.getBlockTableRecordId().openObject());
+  if (!block) return {};
+  for (auto it = block->newIterator(); !it->done(); it->step()) {
+    const OdDbEntityPtr entity = it->entity();
+    const auto* viewport = odrxCast<OdDbViewport>(entity);
+    if (viewport == nullptr || !viewport->isOverall()) continue;
+    return boxAround(viewport->viewCenter(),
+                     viewport->viewHeight() * viewport->width() / viewport->height(),
+                     viewport->viewHeight());
+  }
+  return {};
+}
+
+Plotted plottedOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn) {
+  OdGePoint2d low, high;
+  Plotted plotted;
+  switch (layout.plotType()) {
+  case OdDbPlotSettings::kExtents:
+    return {drawn(), false};
+  case OdDbPlotSettings::kWindow:
+    layout.getPlotWindowArea(low, high);
+    plotted = {boxOf(low, high), true};
+    break;
+  case OdDbPlotSettings::kLimits:
+    layout.getLimits(low, high);
+    plotted = {boxOf(low, high), true};
+    break;
+  case OdDbPlotSettings::kView:
+    plotted = {namedView(*layout.database(), layout.getPlotViewName()), true};
+    break;
+  case OdDbPlotSettings::kDisplay:
+    plotted = {lastDisplay(layout), true};
+    break;
+  case OdDbPlotSettings::kLayout:
+    return {};
+  }
+  // A window without size, or a view that is not there, hides nothing.
+  if (plotted.area.isEmpty() || plotted.area.minPoint().x == plotted.area.maxPoint().x ||
+      plotted.area.minPoint().y == plotted.area.maxPoint().y)
+    return {};
+  return plotted;
+}
+
 } // namespace
 
 OdGePoint2d sheetSize(const OdDbLayout& layout) {
@@ -37,36 +117,56 @@ OdGePoint2d sheetSize(const OdDbLayout& layout) {
   return isTurned ? OdGePoint2d{size.y, size.x} : size;
 }
 
-OdGeExtents3d sheetOf(const OdDbLayout& layout) {
-  OdGeExtents3d sheet;
+Sheet sheetOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn) {
+  Sheet sheet;
   const OdGePoint2d size = sheetSize(layout);
   if (layout.isModelType() || !(size.x > 0) || !(size.y > 0)) return sheet;
-  const double unit = unitsPerMillimetre(layout);
   const std::array<double, 4> free = margins(layout);
-  const OdGePoint2d origin = layout.getPlotOrigin();
-  const double x = -(free[0] + origin.x) * unit, y = -(free[1] + origin.y) * unit;
-  sheet.addPoint({x, y, 0});
-  sheet.addPoint({x + size.x * unit, y + size.y * unit, 0});
+  const OdGePoint2d printable{size.x - free[0] - free[2], size.y - free[1] - free[3]};
+  const Plotted plotted = plottedOf(layout, drawn);
+  // Drawing units of a millimetre of paper.
+  double unit = unitsPerMillimetre(layout) / layout.plotScale();
+  const bool fits = layout.useStandardScale() && layout.stdScaleType() == kToFit;
+  if (fits && plotted.area.isEmpty()) unit = unitsPerMillimetre(layout);
+  if (fits && !plotted.area.isEmpty() && printable.x > 0 && printable.y > 0) {
+    const OdGeVector3d reach = plotted.area.maxPoint() - plotted.area.minPoint();
+    const double needed = std::max(reach.x / printable.x, reach.y / printable.y);
+    if (needed > 0) unit = needed;
+  }
+  if (!std::isfinite(unit) || !(unit > 0)) unit = 1;
+  OdGePoint3d corner{};
+  if (!plotted.area.isEmpty()) corner = plotted.area.minPoint();
+  OdGePoint2d offset = layout.getPlotOrigin();
+  if (!plotted.area.isEmpty() && layout.plotFlag(OdDbPlotSettings::kPlotCentered)) {
+    const OdGeVector3d reach = plotted.area.maxPoint() - plotted.area.minPoint();
+    offset = {(printable.x - reach.x / unit) / 2, (printable.y - reach.y / unit) / 2};
+  }
+  const double x = corner.x - (free[0] + offset.x) * unit;
+  const double y = corner.y - (free[1] + offset.y) * unit;
+  sheet.paper.addPoint({x, y, 0});
+  sheet.paper.addPoint({x + size.x * unit, y + size.y * unit, 0});
+  if (plotted.isCut) sheet.shown = plotted.area;
+  sheet.scale = 1 / unit;
   return sheet;
 }
 
-void drawSheet(QPainter& painter, const OdDbLayout& layout, const View& view, QRgb desk,
-               QRgb paper) {
+void drawSheet(QPainter& painter, const OdDbLayout& layout, const Sheet& sheet, const View& view,
+               QRgb desk, QRgb paper) {
   painter.fillRect(view.rect(), QColor::fromRgb(desk));
-  const OdGeExtents3d sheet = sheetOf(layout);
-  if (sheet.isEmpty()) return;
+  if (sheet.paper.isEmpty()) return;
   const Projection projection = view.projection();
-  const QRectF rect = projection.boxOf(sheet);
+  const QRectF rect = projection.boxOf(sheet.paper);
   painter.fillRect(rect.translated(kShadow, kShadow), QColor(0, 0, 0, 90));
   painter.fillRect(rect, QColor::fromRgb(paper));
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QColor(0, 0, 0, 160));
   painter.drawRect(rect);
-  const double unit = unitsPerMillimetre(layout);
+  const double unit = 1 / sheet.scale;
   const std::array<double, 4> free = margins(layout);
+  const OdGePoint3d &low = sheet.paper.minPoint(), &high = sheet.paper.maxPoint();
   OdGeExtents3d printable;
-  printable.addPoint({sheet.minPoint().x + free[0] * unit, sheet.minPoint().y + free[1] * unit, 0});
-  printable.addPoint({sheet.maxPoint().x - free[2] * unit, sheet.maxPoint().y - free[3] * unit, 0});
+  printable.addPoint({low.x + free[0] * unit, low.y + free[1] * unit, 0});
+  printable.addPoint({high.x - free[2] * unit, high.y - free[3] * unit, 0});
   painter.setPen(QPen(QColor(0, 0, 0, 110), 1, Qt::DashLine));
   painter.drawRect(projection.boxOf(printable));
 }

@@ -6,20 +6,32 @@
 
 #include <QRgb>
 
+#include <functional>
+
 class QPainter;
 
 namespace drafton {
 
 struct View;
 
-/// The sheet of a layout in the coordinates of its block: what cannot be printed on is around the
-/// origin's quadrant. Empty for the model and for a layout without a paper.
-OdGeExtents3d sheetOf(const OdDbLayout& layout);
+/// A sheet as its layout is plotted, in the coordinates of the layout's block.
+struct Sheet {
+  OdGeExtents3d paper; ///< with its margins; empty for the model and for a layout without a paper
+  OdGeExtents3d shown; ///< the only part that is plotted; empty for all that is on the paper
+  /// Millimetres on the paper of a drawing unit.
+  double scale = 1;
+};
+
+/// Lays the paper under the drawing: its scale and place follow from what is plotted (the layout
+/// from its origin, the extents, the limits, a window, a view), how that is moved or centred, and
+/// whether it is fitted to the paper. `drawn` gives the box around all of the block; it is asked
+/// only if that counts.
+Sheet sheetOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn);
 /// The size of the sheet as it is plotted, in millimetres.
 OdGePoint2d sheetSize(const OdDbLayout& layout);
 /// Paints the sheet as a canvas shows it: paper with an edge and a shadow on `desk`, the printable
 /// part within a dashed line.
-void drawSheet(QPainter& painter, const OdDbLayout& layout, const View& view, QRgb desk,
-               QRgb paper);
+void drawSheet(QPainter& painter, const OdDbLayout& layout, const Sheet& sheet, const View& view,
+               QRgb desk, QRgb paper);
 
 } // namespace drafton

@@ -33,14 +33,22 @@ class LayoutPictures : public PictureTest {
     addTo(layout.getBlockTableRecordId(), made);
     return made;
   }
+  std::function<OdGeExtents3d()> drawnIn(const OdDbLayout& layout) {
+    return [this, block = layout.getBlockTableRecordId()] {
+      scene().update();
+      return scene().boxOf(block, 0.1);
+    };
+  }
+  OdGeExtents3d paperOf(const OdDbLayout& layout) { return sheetOf(layout, drawnIn(layout)).paper; }
   QImage sheetPicture(const OdDbLayout& layout) {
     QImage image(594, 420, QImage::Format_RGB32);
     View view;
     view.size = image.size();
-    view = view.fitted(sheetOf(layout), 0.05);
+    view = view.fitted(paperOf(layout), 0.05);
     {
       QPainter painter(&image);
-      drawSheet(painter, layout, view, qRgb(128, 128, 128), qRgb(255, 255, 255));
+      drawSheet(painter, layout, sheetOf(layout, drawnIn(layout)), view, qRgb(128, 128, 128),
+                qRgb(255, 255, 255));
     }
     render(image, scene(), layout.getBlockTableRecordId(), view, {});
     return image;
@@ -111,14 +119,97 @@ TEST_F(LayoutPictures, WindowOnALayerThatIsNotPlottedShowsTheModelWithoutItsEdge
 TEST_F(LayoutPictures, SheetsTurnWithTheirMargins) {
   const OdDbLayoutPtr layout = sheet();
   layout->setPlotPaperMargins(10, 20, 30, 40);
-  EXPECT_EQ(sheetOf(*layout).minPoint(), (OdGePoint3d{-10, -20, 0}));
-  EXPECT_EQ(sheetOf(*layout).maxPoint(), (OdGePoint3d{287, 190, 0}));
+  EXPECT_EQ(paperOf(*layout).minPoint(), (OdGePoint3d{-10, -20, 0}));
+  EXPECT_EQ(paperOf(*layout).maxPoint(), (OdGePoint3d{287, 190, 0}));
   layout->setPlotRotation(OdDbPlotSettings::k90degrees);
-  EXPECT_EQ(sheetOf(*layout).minPoint(), (OdGePoint3d{-20, -30, 0}));
-  EXPECT_EQ(sheetOf(*layout).maxPoint(), (OdGePoint3d{190, 267, 0}));
+  EXPECT_EQ(paperOf(*layout).minPoint(), (OdGePoint3d{-20, -30, 0}));
+  EXPECT_EQ(paperOf(*layout).maxPoint(), (OdGePoint3d{190, 267, 0}));
   layout->setPlotRotation(OdDbPlotSettings::k0degrees);
   layout->setPlotPaperUnits(OdDbPlotSettings::kInches);
-  EXPECT_NEAR(sheetOf(*layout).maxPoint().x, 287 / 25.4, 1e-9);
+  EXPECT_NEAR(paperOf(*layout).maxPoint().x, 287 / 25.4, 1e-9);
+}
+
+TEST_F(LayoutPictures, HiddenFramesOfWindowsDoNotHideTheModel) {
+  fillModel();
+  const OdDbLayoutPtr layout = sheet();
+  const OdDbViewportPtr shown = window(*layout, 100, 100, 120, 120);
+  const auto picture = [&] {
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    OdGeExtents3d box;
+    box.addPoint({39, 39, 0});
+    box.addPoint({161, 161, 0});
+    View view;
+    view.size = image.size();
+    RenderOptions options;
+    options.isPlotting = true;
+    render(image, scene(), layout->getBlockTableRecordId(), view.fitted(box), options);
+    return image;
+  };
+  constexpr QRgb kGreen = qRgb(0, 255, 0), kBlue = qRgb(0, 0, 255);
+  const auto count = [](const QImage& image, QRgb color) {
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) {
+        const QRgb at = image.pixel(x, y);
+        found += qRed(at) < 200 &&
+                 (color == kGreen ? qGreen(at) > qBlue(at) + 50 : qBlue(at) > qGreen(at) + 50);
+      }
+    return found;
+  };
+  const OdDbObjectId hidden = addLayer(u"Frames", 3);
+  shown->setLayer(hidden);
+  const QImage framed = picture();
+  const int green = count(framed, kGreen);
+  EXPECT_GT(green, 300);
+  const int blue = count(framed, kBlue);
+  EXPECT_GT(blue, 20);
+  for (const bool off : {true, false}) {
+    auto layer = hidden.openAs<OdDbLayerTableRecord>(OdDb::kForWrite);
+    layer->setIsOff(off);
+    layer->setIsPlottable(off);
+    const QImage bare = picture();
+    EXPECT_EQ(count(bare, kGreen), 0);
+    EXPECT_EQ(count(bare, kBlue), blue);
+  }
+}
+
+TEST_F(LayoutPictures, SheetsFollowTheirPlotScaleAndWhatIsPlotted) {
+  const OdDbLayoutPtr layout = sheet();
+  addTo(layout->getBlockTableRecordId(),
+        odrxMake<OdDbLine>(OdGePoint3d{50, 20, 0}, OdGePoint3d{150, 60, 0}));
+  layout->setPlotOrigin({5, 7});
+  layout->setUseStandardScale(false);
+  layout->setCustomPrintScale(1, 2);
+  EXPECT_EQ(paperOf(*layout).minPoint(), (OdGePoint3d{-30, -34, 0}));
+  EXPECT_EQ(paperOf(*layout).maxPoint(), (OdGePoint3d{564, 386, 0}));
+  EXPECT_EQ(sheetOf(*layout, drawnIn(*layout)).scale, 0.5);
+
+  // From the corner of the extents, also beside a window that stands for the sheet.
+  const OdDbViewportPtr whole = window(*layout, 0, 0, 1000, 1000);
+  whole->setNumber(1);
+  layout->setPlotType(OdDbPlotSettings::kExtents);
+  EXPECT_EQ(paperOf(*layout).minPoint(), (OdGePoint3d{50 - 30, 20 - 34, 0}));
+  layout->setPlotFlag(OdDbPlotSettings::kPlotCentered, true);
+  EXPECT_EQ(paperOf(*layout).minPoint(), (OdGePoint3d{100 - 297, 40 - 210, 0}));
+  EXPECT_EQ(paperOf(*layout).maxPoint(), (OdGePoint3d{100 + 297, 40 + 210, 0}));
+  EXPECT_TRUE(sheetOf(*layout, drawnIn(*layout)).shown.isEmpty());
+
+  // As large as the paper allows: 277 x 190 millimetres can be printed on.
+  layout->setUseStandardScale(true);
+  layout->setStdScaleType(0);
+  layout->setPlotType(OdDbPlotSettings::kWindow);
+  layout->setPlotWindowArea({0, 0}, {554, 200});
+  const Sheet fitted = sheetOf(*layout, drawnIn(*layout));
+  EXPECT_NEAR(fitted.scale, 0.5, 1e-12);
+  EXPECT_NEAR(fitted.paper.minPoint().x, -20, 1e-9);
+  EXPECT_NEAR(fitted.paper.minPoint().y, 100 - 210, 1e-9);
+  EXPECT_EQ(fitted.shown.maxPoint(), (OdGePoint3d{554, 200, 0}));
+  layout->setPlotType(OdDbPlotSettings::kLimits);
+  layout->setLimits({0, 0}, {100, 190});
+  EXPECT_NEAR(sheetOf(*layout, drawnIn(*layout)).scale, 1, 1e-12);
+  layout->setPlotType(OdDbPlotSettings::kDisplay);
+  EXPECT_EQ(sheetOf(*layout, drawnIn(*layout)).shown.maxPoint().y, 297);
 }
 
 class ImagePictures : public PictureTest {

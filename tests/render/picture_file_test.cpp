@@ -125,6 +125,40 @@ TEST_F(PictureFiles, LayoutsShowTheirSheet) {
   EXPECT_NEAR(box[3], 210 / 25.4 * 72, 1);
 }
 
+TEST_F(PictureFiles, LayoutsAreDrawnAtTheirPlotScaleAndCutByTheirWindow) {
+  const OdDbObjectId id = oddb::createLayout(database(), QStringLiteral("Half"));
+  {
+    auto layout = id.openAs<OdDbLayout>(OdDb::kForWrite);
+    layout->setPlotPaperSize(200, 100);
+    layout->setPlotPaperMargins(0, 0, 0, 0);
+    layout->setUseStandardScale(false);
+    layout->setCustomPrintScale(1, 2);
+    const OdDbHatchPtr hatch = hatchOf(0, 0, 300, 100);
+    hatch->setColor(OdCmColor::fromColorIndex(1));
+    addTo(layout->getBlockTableRecordId(), hatch);
+  }
+  PictureRequest wanted = request("a.png");
+  wanted.layout = QStringLiteral("Half");
+  wanted.size = {400, 200};
+  writePicture(database(), wanted);
+  const QRgb red = qRgb(255, 0, 0), white = qRgb(255, 255, 255);
+  const QImage half(wanted.file);
+  EXPECT_EQ(half.pixel(295, 195), red);
+  EXPECT_EQ(half.pixel(305, 195), white);
+  EXPECT_EQ(half.pixel(295, 95), white);
+  {
+    auto layout = id.openAs<OdDbLayout>(OdDb::kForWrite);
+    layout->setPlotType(OdDbPlotSettings::kWindow);
+    layout->setPlotWindowArea({100, 0}, {200, 50});
+  }
+  writePicture(database(), wanted);
+  const QImage cut(wanted.file);
+  EXPECT_EQ(cut.pixel(5, 195), red);
+  EXPECT_EQ(cut.pixel(95, 155), red);
+  EXPECT_EQ(cut.pixel(105, 195), white);
+  EXPECT_EQ(cut.pixel(95, 145), white);
+}
+
 TEST_F(PictureFiles, AnUnknownLayoutIsNamedWithThoseThatAreThere) {
   PictureRequest wanted = request("a.png");
   wanted.layout = QStringLiteral("Nowhere");
