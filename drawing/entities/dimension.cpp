@@ -19,6 +19,16 @@ OdDbBlockTableRecordPtr blockOf(OdDbObjectId id, OdDb::OpenMode mode = OdDb::kFo
 constexpr QChar kArcSymbol = u'\u2312';
 constexpr int kSymbolBefore = 0;
 
+/// True for what only moves and turns.
+bool isRigid(const OdGeMatrix3d& transform) {
+  constexpr double kSlack = 1e-9;
+  const OdGeVector3d x = transform * OdGeVector3d::xAxis();
+  const OdGeVector3d y = transform * OdGeVector3d::yAxis();
+  const OdGeVector3d z = transform * OdGeVector3d::zAxis();
+  return std::abs(x.length() - 1) < kSlack && std::abs(y.length() - 1) < kSlack &&
+         std::abs(x.dotProduct(y)) < kSlack && (x.crossProduct(y) - z).length() < kSlack;
+}
+
 } // namespace
 
 OdDbDimension::OdDbDimension() = default;
@@ -29,6 +39,7 @@ void OdDbDimension::assignFrom(const OdDbObject& other) {
   m_dimension = dimension.m_dimension;
   m_blockIsShared = dimension.m_blockIsShared;
   m_pendingMove = dimension.m_pendingMove;
+  m_pictureIsOld = dimension.m_pictureIsOld;
 }
 
 OdRxObjectPtr OdDbDimension::clone() const {
@@ -42,10 +53,13 @@ OdRxObjectPtr OdDbDimension::clone() const {
 
 void OdDbDimension::enteredDatabase() {
   oddb::registerApplications(*this);
-  if (m_dimension.block.isNull())
+  if (m_dimension.block.isNull()) {
     recomputeDimBlock();
-  else if (m_blockIsShared && !recomputeDimBlock())
-    unshareBlock();
+  } else if (m_blockIsShared) {
+    const bool keepsPicture =
+        !m_pictureIsOld && isRigid(m_pendingMove) && m_dimension.block.database() == database();
+    if (keepsPicture || !recomputeDimBlock()) unshareBlock();
+  }
   m_blockIsShared = false;
   m_pendingMove = {};
 }
@@ -64,18 +78,37 @@ void OdDbDimension::unshareBlock() {
   moveBlock(m_pendingMove);
 }
 
+void OdDbDimension::aboutToChange() {
+  assertWriteEnabled();
+  m_pictureIsOld = true;
+}
+
+std::optional<oddb::DimensionBlock> OdDbDimension::laidOut(Data& drawn) const {
+  if (!database()) return std::nullopt;
+  std::optional<oddb::DimensionBlock> block(std::in_place, *this);
+  if (!layOut(*block, drawn)) return std::nullopt;
+  drawn.measurement = getMeasurement();
+  drawn.insertion = {};
+  return block;
+}
+
+bool OdDbDimension::recomputeDimBlock() {
+  Data drawn = m_dimension;
+  std::optional<oddb::DimensionBlock> block = laidOut(drawn);
+  if (!block) return false;
+  assertWriteEnabled();
+  m_dimension = std::move(drawn);
+  m_pictureIsOld = false;
+  block->putInto(ownBlock());
+  return true;
+}
+
 OdDbObjectId OdDbDimension::ownBlock() {
   if (m_dimension.block.isValid() && !m_blockIsShared) return m_dimension.block;
   assertWriteEnabled();
   m_dimension.block = oddb::addAnonymousBlock(*database(), u'D');
   m_blockIsShared = false;
   return m_dimension.block;
-}
-
-void OdDbDimension::finishBlock(oddb::DimensionBlock& block) {
-  m_dimension.measurement = getMeasurement();
-  m_dimension.insertion = {};
-  block.putInto(ownBlock());
 }
 
 void OdDbDimension::setDatabaseDefaults(const OdDbDatabase& database) {
@@ -89,12 +122,12 @@ void OdDbDimension::setDimBlockId(OdDbObjectId block) {
 }
 
 void OdDbDimension::setDimensionStyle(OdDbObjectId style) {
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.style = style;
 }
 
 void OdDbDimension::setDimensionText(const OdString& text) {
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.text = text;
 }
 
@@ -104,31 +137,31 @@ OdGePoint3d OdDbDimension::textPosition() const {
 
 void OdDbDimension::setTextPosition(const OdGePoint3d& position) {
   odcheck::finite(position);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.textMiddle = OdGeMatrix3d::planeToWorld(m_dimension.normal).inverse() * position;
   m_dimension.flags |= kTextPlaced;
 }
 
 void OdDbDimension::useDefaultTextPosition() {
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.flags &= ~kTextPlaced;
 }
 
 void OdDbDimension::setTextRotation(double angle) {
   odcheck::finite(angle);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.textRotation = angle;
 }
 
 void OdDbDimension::setHorizontalRotation(double angle) {
   odcheck::finite(angle);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.horizontalDirection = angle;
 }
 
 void OdDbDimension::setNormal(const OdGeVector3d& normal) {
   const OdGeVector3d n = odcheck::direction(normal);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.normal = n;
 }
 
@@ -153,10 +186,16 @@ OdDbDimVarValues OdDbDimension::dimVars() const {
 
 void OdDbDimension::setDimVarOverride(const OdString& name, const OdDbVarValue& value) {
   oddb::setDimOverride(*this, name, value);
+  m_pictureIsOld = true;
 }
 
 void OdDbDimension::worldDraw(OdGiWorldDraw& draw) const {
-  if (m_dimension.block.isValid()) draw.block(m_dimension.block, blockTransform(), *this);
+  if (m_dimension.block.isValid()) {
+    draw.block(m_dimension.block, blockTransform(), *this);
+    return;
+  }
+  Data drawn = m_dimension;
+  if (const auto block = laidOut(drawn)) block->draw(draw);
 }
 
 OdGeMatrix3d OdDbDimension::blockTransform() const {
@@ -189,7 +228,9 @@ bool OdDbDimension::transformBy(const OdGeMatrix3d& transform) {
   m_dimension = std::move(moved);
   if (!database())
     m_pendingMove = transform * m_pendingMove;
-  else if (!recomputeDimBlock())
+  else if (const bool keepsPicture =
+               !m_pictureIsOld && m_dimension.block.isValid() && isRigid(transform);
+           keepsPicture || !recomputeDimBlock())
     moveBlock(transform);
   return true;
 }
@@ -206,7 +247,16 @@ void OdDbDimension::moveBlock(OdGeMatrix3d transform) {
 
 bool OdDbDimension::explode(std::vector<OdDbEntityPtr>& pieces) const {
   const OdDbBlockTableRecordPtr block = blockOf(m_dimension.block);
-  if (!block) return false;
+  if (!block) {
+    Data drawn = m_dimension;
+    const auto made = laidOut(drawn);
+    if (!made) return false;
+    for (const OdDbEntityPtr& piece : made->pieces()) {
+      if (!layerId().isNull()) piece->setLayer(layerId());
+      pieces.push_back(piece);
+    }
+    return true;
+  }
   const OdGeMatrix3d place = blockTransform();
   std::vector<OdDbEntityPtr> found;
   for (const auto it = block->newIterator(); !it->done(); it->step()) {

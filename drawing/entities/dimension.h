@@ -9,7 +9,7 @@ class DimensionBlock;
 }
 
 /// What all dimensions have. A dimension is shown by a block of its own, which recomputeDimBlock()
-/// draws.
+/// draws. One that was read without a block shows what that would draw.
 class OdDbDimension : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbDimension);
 
@@ -68,10 +68,11 @@ class OdDbDimension : public OdDbEntity {
 
   /// Draws the dimension anew into its block, which is made if there is none. False for one
   /// whose points tell no angle, or without a drawing.
-  virtual bool recomputeDimBlock() { return false; }
+  bool recomputeDimBlock();
 
   void worldDraw(OdGiWorldDraw& draw) const override;
-  /// Moves the points; the block is drawn anew where that is possible, else moved with it.
+  /// Moves the points. What is moved or turned keeps its picture; else the block is drawn anew
+  /// where that is possible.
   bool transformBy(const OdGeMatrix3d& transform) override;
   /// Into what the block consists of.
   bool explode(std::vector<OdDbEntityPtr>& pieces) const override;
@@ -110,17 +111,23 @@ class OdDbDimension : public OdDbEntity {
   OdGeMatrix3d blockTransform() const;
   /// The block that shows this dimension alone; made if there is none.
   OdDbObjectId ownBlock();
-  /// Puts what was drawn into the own block, and keeps the value that it shows.
-  void finishBlock(oddb::DimensionBlock& block);
+  /// Puts the pieces of the dimension into `block`, and what it finds out on the way (the place of
+  /// the text) into `drawn`, which holds the dimension as it is. False for one whose points tell no
+  /// angle.
+  virtual bool layOut(oddb::DimensionBlock& block, Data& drawn) const = 0;
+  /// Before a change that the picture does not follow by itself.
+  void aboutToChange();
   /// Takes over what was read, whatever the kind.
   void takeData(const OdDbDimension& read);
   Data m_dimension;
 
  private:
+  std::optional<oddb::DimensionBlock> laidOut(Data& drawn) const;
   void unshareBlock();
   void moveBlock(OdGeMatrix3d transform);
   // A copy shows the block of its original until it comes to a drawing.
   bool m_blockIsShared = false;
-  OdGeMatrix3d m_pendingMove; ///< of such a copy, since it was made
+  bool m_pictureIsOld = false; ///< values were changed since the block was drawn
+  OdGeMatrix3d m_pendingMove;  ///< of such a copy, since it was made
 };
 using OdDbDimensionPtr = OdSmartPtr<OdDbDimension>;

@@ -135,56 +135,41 @@ bool canBeDrawn(const Bow& bow) { return bow.radius > 0 && std::isfinite(bow.rad
 
 } // namespace
 
-bool OdDb2LineAngularDimension::recomputeDimBlock() {
-  if (!database()) return false;
+bool OdDb2LineAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d points[] = {toPlane * xLine1Start(), toPlane * xLine1End(),
                                 toPlane * xLine2Start(), toPlane * xLine2End()};
   const auto bow = bowOfLines(points[0], points[1], points[2], points[3], m_dimension.arcPoint);
   if (!bow || !canBeDrawn(*bow)) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
-  m_dimension.textMiddle = drawBow(block, *this, *bow, displayedText(), m_dimension.textMiddle);
+  drawn.textMiddle = drawBow(block, *this, *bow, displayedText(), m_dimension.textMiddle);
   for (const OdGePoint3d& p : points) block.definitionPoint(p);
   block.definitionPoint(m_dimension.arcPoint);
-  finishBlock(block);
   return true;
 }
 
-bool OdDb3PointAngularDimension::recomputeDimBlock() {
-  if (!database()) return false;
+bool OdDb3PointAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
                                 toPlane * xLine2Point(), toPlane * arcPoint()};
   const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
   if (!canBeDrawn(bow)) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
-  m_dimension.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
+  drawn.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
   for (const OdGePoint3d& p : points) block.definitionPoint(p);
-  finishBlock(block);
   return true;
 }
 
-bool OdDbArcDimension::recomputeDimBlock() {
-  if (!database()) return false;
+bool OdDbArcDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
                                 toPlane * xLine2Point(), toPlane * arcPoint()};
   const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
   if (!canBeDrawn(bow)) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
-  m_dimension.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
+  drawn.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
   for (const OdGePoint3d& p : points) block.definitionPoint(p);
-  finishBlock(block);
   return true;
 }
 
-bool OdDbOrdinateDimension::recomputeDimBlock() {
-  if (!database()) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
+bool OdDbOrdinateDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d start = toPlane * definingPoint(), end = toPlane * leaderEndPoint();
   // The leader goes across the axis that is measured along.
@@ -208,10 +193,9 @@ bool OdDbOrdinateDimension::recomputeDimBlock() {
   const OdGePoint2d size = block.textSize(text);
   const double turn = textRotation() != 0 ? textRotation() : oddb::readableAngle(directionOf(way));
   if (isUsingDefaultTextPosition())
-    m_dimension.textMiddle =
+    drawn.textMiddle =
         end + way * reach(size, std::abs(block.scaled(block.vars().dimgap)), turn, way);
-  block.text(text, m_dimension.textMiddle, turn);
+  block.text(text, drawn.textMiddle, turn);
   for (const OdGePoint3d& p : {toPlane * origin(), start, end}) block.definitionPoint(p);
-  finishBlock(block);
   return true;
 }

@@ -7,6 +7,7 @@
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/solid.h"
+#include "drawing/graphics/world_draw.h"
 #include "drawing/tables/dim_var_values.h"
 #include "drawing/tables/standard_arrows.h"
 
@@ -220,9 +221,10 @@ void oddb::DimensionBlock::centerMark(const OdGePoint3d& center, double radius) 
 }
 
 void oddb::DimensionBlock::definitionPoint(const OdGePoint3d& point) {
-  const auto entity = odrxMake<OdDbPoint>(m_toWorld * point);
-  add(entity, {OdCmColor(OdCmColor::kByBlock), OdDb::kLnWtByBlock, {}});
-  entity->setLayer(definitionLayer(m_database));
+  add(odrxMake<OdDbPoint>(m_toWorld * point),
+      {OdCmColor(OdCmColor::kByBlock), OdDb::kLnWtByBlock, {}});
+  m_fastenings.push_back(m_pieces.back());
+  m_pieces.pop_back();
 }
 
 void oddb::DimensionBlock::putInto(OdDbObjectId blockId) {
@@ -230,4 +232,23 @@ void oddb::DimensionBlock::putInto(OdDbObjectId blockId) {
   for (const auto it = block->newIterator(); !it->done(); it->step())
     it->entity(OdDb::kForWrite)->erase();
   for (const OdDbEntityPtr& piece : m_pieces) block->appendOdDbEntity(piece);
+  if (m_fastenings.empty()) return;
+  const OdDbObjectId layer = definitionLayer(m_database);
+  for (const OdDbEntityPtr& point : m_fastenings) {
+    point->setLayer(layer);
+    block->appendOdDbEntity(point);
+  }
+}
+
+void oddb::DimensionBlock::draw(OdGiWorldDraw& draw) const {
+  for (const OdDbEntityPtr& piece : m_pieces) {
+    const OdCmColor color = piece->color();
+    const bool isOwn = !color.isByBlock() && !color.isByLayer();
+    draw.setPieceColor(isOwn ? std::optional(color) : std::nullopt);
+    if (piece->linetypeId() != m_database.getLinetypeByBlockId())
+      draw.setPieceLinetype(piece->linetypeId());
+    piece->worldDraw(draw);
+    draw.setPieceLinetype({});
+  }
+  draw.setPieceColor(std::nullopt);
 }

@@ -43,6 +43,10 @@ class DimensionBlock {
 
   /// Puts all into a block in place of what was there.
   void putInto(OdDbObjectId block);
+  /// All but the points that only say where the dimension is fastened.
+  const std::vector<OdDbEntityPtr>& pieces() const { return m_pieces; }
+  /// Shows the pieces without a block.
+  void draw(OdGiWorldDraw& draw) const;
 
  private:
   struct Look {
@@ -59,7 +63,7 @@ class DimensionBlock {
   OdDbDimVarValues m_vars;
   double m_scale;
   OdGeMatrix3d m_toWorld;
-  std::vector<OdDbEntityPtr> m_pieces;
+  std::vector<OdDbEntityPtr> m_pieces, m_fastenings;
 };
 
 } // namespace oddb

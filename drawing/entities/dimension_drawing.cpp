@@ -83,10 +83,7 @@ OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimensio
 
 } // namespace
 
-bool OdDbAlignedDimension::recomputeDimBlock() {
-  if (!database()) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
+bool OdDbAlignedDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdDbDimVarValues& v = block.vars();
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d p1 = toPlane * m_dimension.first;
@@ -159,38 +156,29 @@ bool OdDbAlignedDimension::recomputeDimBlock() {
   block.text(text, middle, turn);
   for (const OdGePoint3d& p : {p1, p2, q2}) block.definitionPoint(p);
 
-  m_dimension.definition = OdGeMatrix3d::planeToWorld(normal()) * q2;
-  m_dimension.textMiddle = middle;
-  finishBlock(block);
+  drawn.definition = OdGeMatrix3d::planeToWorld(normal()) * q2;
+  drawn.textMiddle = middle;
   return true;
 }
 
-bool OdDbRadialDimension::recomputeDimBlock() {
-  if (!database()) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
+bool OdDbRadialDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const Round round{toPlane * center(), toPlane * chordPoint(), getMeasurement(), false};
   const OdString text = oddb::dimensionText(dimensionText(), getMeasurement(), false, block.vars(),
                                             QStringLiteral("R"));
-  m_dimension.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
+  drawn.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
   for (const OdGePoint3d& p : {round.center, round.tip}) block.definitionPoint(p);
-  finishBlock(block);
   return true;
 }
 
-bool OdDbDiametricDimension::recomputeDimBlock() {
-  if (!database()) return false;
-  assertWriteEnabled();
-  oddb::DimensionBlock block(*this);
+bool OdDbDiametricDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
   const OdGePoint3d tip = toPlane * chordPoint();
   const OdGePoint3d far = toPlane * farChordPoint();
   const Round round{between(tip, far), tip, getMeasurement() / 2, true};
   const OdString text = oddb::dimensionText(dimensionText(), getMeasurement(), false, block.vars(),
                                             QStringLiteral("%%c"));
-  m_dimension.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
+  drawn.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
   for (const OdGePoint3d& p : {tip, far}) block.definitionPoint(p);
-  finishBlock(block);
   return true;
 }

@@ -15,7 +15,7 @@ double angleBetween(const OdGeVector3d& a, const OdGeVector3d& b, const OdGeVect
 #define ODDB_DIM_SETTER(Class, setter, member)                                                     \
   void Class::setter(const OdGePoint3d& point) {                                                   \
     odcheck::finite(point);                                                                        \
-    assertWriteEnabled();                                                                          \
+    aboutToChange();                                                                               \
     m_dimension.member = point;                                                                    \
   }
 
@@ -32,7 +32,7 @@ ODDB_DIM_SETTER(OdDbAlignedDimension, setDimLinePoint, definition)
 
 void OdDbAlignedDimension::setOblique(double angle) {
   odcheck::finite(angle);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.oblique = angle;
 }
 
@@ -54,8 +54,12 @@ OdDbRotatedDimension::OdDbRotatedDimension(double rotation, const OdGePoint3d& x
 
 void OdDbRotatedDimension::setRotation(double angle) {
   odcheck::finite(angle);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.rotation = angle;
+}
+
+bool OdDbRotatedDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
+  return OdDbAlignedDimension::layOut(block, drawn);
 }
 
 double OdDbRotatedDimension::getMeasurement() const {
@@ -76,7 +80,7 @@ ODDB_DIM_SETTER(OdDbRadialDimension, setChordPoint, third)
 
 void OdDbRadialDimension::setLeaderLength(double length) {
   odcheck::finite(length);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.leaderLength = length;
 }
 
@@ -95,7 +99,7 @@ ODDB_DIM_SETTER(OdDbDiametricDimension, setFarChordPoint, definition)
 
 void OdDbDiametricDimension::setLeaderLength(double length) {
   odcheck::finite(length);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.leaderLength = length;
 }
 
@@ -108,7 +112,7 @@ double OdDbDiametricDimension::getMeasurement() const {
 void OdDb2LineAngularDimension::setLines(const OdGePoint3d& start1, const OdGePoint3d& end1,
                                          const OdGePoint3d& start2, const OdGePoint3d& end2) {
   for (const OdGePoint3d& p : {start1, end1, start2, end2}) odcheck::finite(p);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.first = start1;
   m_dimension.second = end1;
   m_dimension.third = start2;
@@ -121,7 +125,7 @@ OdGePoint3d OdDb2LineAngularDimension::arcPoint() const {
 
 void OdDb2LineAngularDimension::setArcPoint(const OdGePoint3d& point) {
   odcheck::finite(point);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.arcPoint = OdGeMatrix3d::planeToWorld(normal()).inverse() * point;
 }
 
@@ -151,7 +155,7 @@ double OdDb3PointAngularDimension::getMeasurement() const {
 void OdDb3PointAngularDimension::set(const OdGePoint3d& center, const OdGePoint3d& xLine1,
                                      const OdGePoint3d& xLine2, const OdGePoint3d& arcPoint) {
   for (const OdGePoint3d& p : {center, xLine1, xLine2, arcPoint}) odcheck::finite(p);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.third = center;
   m_dimension.first = xLine1;
   m_dimension.second = xLine2;
@@ -168,7 +172,7 @@ double OdDbOrdinateDimension::getMeasurement() const {
 void OdDbOrdinateDimension::set(const OdGePoint3d& origin, const OdGePoint3d& defining,
                                 const OdGePoint3d& leaderEnd, bool useXAxis) {
   for (const OdGePoint3d& p : {origin, defining, leaderEnd}) odcheck::finite(p);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.definition = origin;
   m_dimension.first = defining;
   m_dimension.second = leaderEnd;
@@ -186,12 +190,14 @@ double OdDbArcDimension::getMeasurement() const {
 void OdDbArcDimension::set(const OdGePoint3d& center, const OdGePoint3d& xLine1,
                            const OdGePoint3d& xLine2, const OdGePoint3d& arcPoint) {
   for (const OdGePoint3d& p : {center, xLine1, xLine2, arcPoint}) odcheck::finite(p);
-  assertWriteEnabled();
+  aboutToChange();
   m_dimension.third = center;
   m_dimension.first = xLine1;
   m_dimension.second = xLine2;
   m_dimension.definition = arcPoint;
 }
+
+bool OdDbReadDimension::layOut(oddb::DimensionBlock&, Data&) const { return false; }
 
 double OdDbReadDimension::getMeasurement() const { return m_dimension.measurement; }
 

@@ -14,6 +14,7 @@
  protected:                                                                                        \
   OdDbObjectPtr newInstance() const override { return odrxMake<Class>(); }                         \
   void dxfOutKind(OdDbDxfOut& out) const override;                                                 \
+  bool layOut(oddb::DimensionBlock& block, Data& drawn) const override;                            \
                                                                                                    \
  public:                                                                                           \
   Class() = default;
@@ -37,7 +38,6 @@ class OdDbAlignedDimension : public OdDbDimension {
   /// The slant of the extension lines; 0 for none.
   double oblique() const { return m_dimension.oblique; }
   void setOblique(double angle);
-  bool recomputeDimBlock() override;
 
  protected:
   /// The angle of the dimension line in the plane.
@@ -72,7 +72,6 @@ class OdDbRadialDimension : public OdDbDimension {
   void setChordPoint(const OdGePoint3d& point);
   double leaderLength() const { return m_dimension.leaderLength; }
   void setLeaderLength(double length);
-  bool recomputeDimBlock() override;
 };
 using OdDbRadialDimensionPtr = OdSmartPtr<OdDbRadialDimension>;
 
@@ -89,7 +88,6 @@ class OdDbDiametricDimension : public OdDbDimension {
   void setFarChordPoint(const OdGePoint3d& point);
   double leaderLength() const { return m_dimension.leaderLength; }
   void setLeaderLength(double length);
-  bool recomputeDimBlock() override;
 };
 using OdDbDiametricDimensionPtr = OdSmartPtr<OdDbDiametricDimension>;
 
@@ -106,7 +104,6 @@ class OdDb2LineAngularDimension : public OdDbDimension {
                 const OdGePoint3d& end2);
   OdGePoint3d arcPoint() const;
   void setArcPoint(const OdGePoint3d& point);
-  bool recomputeDimBlock() override;
 };
 using OdDb2LineAngularDimensionPtr = OdSmartPtr<OdDb2LineAngularDimension>;
 
@@ -121,7 +118,6 @@ class OdDb3PointAngularDimension : public OdDbDimension {
   const OdGePoint3d& arcPoint() const { return m_dimension.definition; }
   void set(const OdGePoint3d& center, const OdGePoint3d& xLine1, const OdGePoint3d& xLine2,
            const OdGePoint3d& arcPoint);
-  bool recomputeDimBlock() override;
 };
 using OdDb3PointAngularDimensionPtr = OdSmartPtr<OdDb3PointAngularDimension>;
 
@@ -136,7 +132,6 @@ class OdDbOrdinateDimension : public OdDbDimension {
   bool isUsingXAxis() const { return m_dimension.flags & kOrdinateIsX; }
   void set(const OdGePoint3d& origin, const OdGePoint3d& defining, const OdGePoint3d& leaderEnd,
            bool useXAxis);
-  bool recomputeDimBlock() override;
 };
 using OdDbOrdinateDimensionPtr = OdSmartPtr<OdDbOrdinateDimension>;
 
@@ -151,7 +146,6 @@ class OdDbArcDimension : public OdDbDimension {
   const OdGePoint3d& centerPoint() const { return m_dimension.third; }
   void set(const OdGePoint3d& center, const OdGePoint3d& xLine1, const OdGePoint3d& xLine2,
            const OdGePoint3d& arcPoint);
-  bool recomputeDimBlock() override;
 };
 using OdDbArcDimensionPtr = OdSmartPtr<OdDbArcDimension>;
 

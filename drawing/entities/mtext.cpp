@@ -193,8 +193,9 @@ bool OdDbMText::transformBy(const OdGeMatrix3d& transform) {
   moved.directionLast = true;
   moved.rotation = 0;
   moved.height *= high;
+  // Below 0 there is none.
   for (double Data::*member : {&Data::width, &Data::extentsWidth, &Data::totalWidth})
-    moved.*member *= wide;
+    if (moved.*member > 0) moved.*member *= wide;
   for (double Data::*member : {&Data::definedHeight, &Data::extentsHeight, &Data::totalHeight})
     moved.*member *= high;
   moved.columns.width *= wide;

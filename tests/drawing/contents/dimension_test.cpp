@@ -380,6 +380,60 @@ TEST_F(Dimensions, OfEveryKindMoveWithTheirBlocks) {
   EXPECT_EQ(seen, 9);
 }
 
+TEST_F(Dimensions, KeepTheirPictureWhenMovedOrTurned) {
+  const auto dimension = linear();
+  // As another program may have laid it out.
+  textOf(*dimension)->objectId().openAs<OdDbMText>(OdDb::kForWrite)->setLocation({10, 30, 0});
+  dimension->transformBy(OdGeMatrix3d::translation({100, 0, 0}));
+  EXPECT_NEAR(textOf(*dimension)->location().x, 110, 1e-9);
+  EXPECT_NEAR(textOf(*dimension)->location().y, 30, 1e-9);
+  dimension->transformBy(OdGeMatrix3d::rotation(kOdaPi / 2, OdGeVector3d::zAxis()));
+  EXPECT_NEAR(textOf(*dimension)->location().x, -30, 1e-9);
+  const OdSmartPtr<OdDbDimension> copy = dimension->clone();
+  copy->transformBy(OdGeMatrix3d::translation({1, 2, 0}));
+  addTo(*db, copy);
+  EXPECT_NE(copy->dimBlockId(), dimension->dimBlockId());
+  EXPECT_NEAR(textOf(*copy)->location().x, -29, 1e-9);
+  EXPECT_NEAR(textOf(*copy)->location().y, 112, 1e-9);
+  // What was changed besides is drawn anew.
+  const OdSmartPtr<OdDbDimension> other = dimension->clone();
+  other->setDimensionText(QStringLiteral("other"));
+  addTo(*db, other);
+  EXPECT_EQ(textOf(*other)->contents(), QStringLiteral("other"));
+}
+
+TEST_F(Dimensions, AreShownWithoutABlock) {
+  const auto vee = odrxMake<OdDb2LineAngularDimension>();
+  vee->setLines({10, 0, 0}, {40, 0, 0}, {0, 10, 0}, {0, 40, 0});
+  vee->setArcPoint({50, 50, 0});
+  const auto around = odrxMake<OdDb3PointAngularDimension>();
+  around->set({0, 0, 0}, {30, 0, 0}, {0, 30, 0}, {-40, -40, 0});
+  const auto x = odrxMake<OdDbOrdinateDimension>();
+  x->set({0, 0, 0}, {20, 10, 0}, {30, 60, 0}, true);
+  const auto radius =
+      odrxMake<OdDbRadialDimension>(OdGePoint3d{5, 5, 0}, OdGePoint3d{45, 5, 0}, 0.0);
+  for (const OdSmartPtr<OdDbDimension>& dimension :
+       {OdSmartPtr<OdDbDimension>(linear()), OdSmartPtr<OdDbDimension>(vee.get()),
+        OdSmartPtr<OdDbDimension>(around.get()), OdSmartPtr<OdDbDimension>(x.get()),
+        OdSmartPtr<OdDbDimension>(radius.get())}) {
+    if (!dimension->database()) added(dimension);
+    ASSERT_TRUE(dimension->dimBlockId().isValid()) << dimension->kind();
+    OdGeExtents3d before, after;
+    ASSERT_TRUE(dimension->getGeomExtents(before));
+    dimension->setDimBlockId({});
+    const QByteArray file = db->writeDxf();
+    ASSERT_TRUE(dimension->getGeomExtents(after)) << dimension->kind();
+    EXPECT_EQ(db->writeDxf(), file);
+    // The points that only say where it is fastened are not shown; all lie within what is.
+    EXPECT_NEAR(after.maxPoint().x, before.maxPoint().x, 1e-9) << dimension->kind();
+    EXPECT_NEAR(after.maxPoint().y, before.maxPoint().y, 1e-9) << dimension->kind();
+    std::vector<OdDbEntityPtr> pieces;
+    EXPECT_TRUE(dimension->explode(pieces));
+    EXPECT_TRUE(dimension->transformBy(OdGeMatrix3d::translation({1, 0, 0})));
+    EXPECT_TRUE(dimension->dimBlockId().isValid());
+  }
+}
+
 TEST_F(Dimensions, AreUndoneWithTheirBlock) {
   const QByteArray before = db->writeDxf();
   db->startUndoRecord(QStringLiteral("DIMLINEAR"));

@@ -1,4 +1,5 @@
 // The formatting codes of texts of several lines, and where their letters come to stand.
+#include "drawing/database.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/text.h"
 #include "drawing/mtext/parser.h"
@@ -260,4 +261,22 @@ TEST(MText, MovesTurnsAndStaysReadableInAMirror) {
   EXPECT_NEAR(after.minPoint().x, -before.maxPoint().x, 1e-9);
   EXPECT_NEAR(after.maxPoint().x, -before.minPoint().x, 1e-9);
   EXPECT_NEAR(mtext->direction().x, 1, 1e-9);
+}
+
+TEST(MText, AWidthThatIsNotGivenStaysSo) {
+  const auto mtext = odrxMake<OdDbMText>();
+  mtext->setContents(QStringLiteral("abcd"));
+  ASSERT_TRUE(mtext->transformBy(OdGeMatrix3d::scaling(2.5)));
+  ASSERT_TRUE(mtext->transformBy(OdGeMatrix3d::rotation(0.3, OdGeVector3d::zAxis())));
+  const auto database = OdDbDatabase::createDatabase();
+  database->getModelSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(mtext);
+  const QByteArray file = database->writeDxf().replace("\r\n", "\n");
+  const qsizetype start = file.indexOf("AcDbMText");
+  ASSERT_GE(start, 0);
+  EXPECT_FALSE(file.mid(start, file.indexOf("\n  0\n", start) - start).contains("\n 41\n"));
+  mtext->setWidth(4);
+  ASSERT_TRUE(mtext->transformBy(OdGeMatrix3d::scaling(2.5)));
+  EXPECT_NEAR(mtext->width(), 10, 1e-9);
 }
