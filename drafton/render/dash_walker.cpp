@@ -13,13 +13,14 @@ constexpr double kAstray = 1e-6;
 } // namespace
 
 DashWalker::DashWalker(Surface& surface, const Projection& projection, const DashPattern& pattern,
-                       double scale, double reach, DrawOrnament drawOrnament)
+                       double scale, double reach, DrawOrnament drawOrnament, DrawDash drawDash)
   : m_surface(surface)
   , m_projection(projection)
   , m_pattern(pattern)
   , m_scale(scale)
   , m_seen(surface.clipRect().adjusted(-reach, -reach, reach, reach))
-  , m_drawOrnament(std::move(drawOrnament)) {}
+  , m_drawOrnament(std::move(drawOrnament))
+  , m_drawDash(std::move(drawDash)) {}
 
 void DashWalker::draw(std::span<const OdGePoint3d> points, bool closed) {
   if (points.size() < 2) return;
@@ -28,6 +29,7 @@ void DashWalker::draw(std::span<const OdGePoint3d> points, bool closed) {
   if (closed) total += points.back().distanceTo(points.front());
   const std::optional<double> end = m_pattern.endFor(total / m_scale);
   if (!end) {
+    if (m_drawDash) return m_drawDash(0, total);
     std::vector<QPointF> shown;
     for (const OdGePoint3d& p : points) shown.push_back(m_projection(p));
     m_surface.polyline(shown, closed);
@@ -71,12 +73,18 @@ void DashWalker::seek(double position) {
   }
 }
 
-void DashWalker::addPoint(const QPointF& point) {
-  if (m_pattern.dashes()[m_dash].length > 0) m_points.push_back(point);
+void DashWalker::addPoint(const QPointF& point, double position) {
+  if (!(m_pattern.dashes()[m_dash].length > 0)) return;
+  if (m_points.empty()) m_from = position;
+  m_to = position;
+  m_points.push_back(point);
 }
 
 void DashWalker::endDash() {
-  if (m_points.size() > 1) m_surface.polyline(m_points, false);
+  if (m_points.size() > 1 && m_drawDash)
+    m_drawDash(m_from, m_to);
+  else if (m_points.size() > 1)
+    m_surface.polyline(m_points, false);
   m_points.clear();
 }
 
@@ -100,22 +108,25 @@ void DashWalker::segment(const OdGePoint3d& from, const OdGePoint3d& to) {
   }
   const double last = leaves * length;
   const OdGeVector3d along = (to - from) * (1 / length);
-  addPoint(a + (b - a) * (at / length));
+  addPoint(a + (b - a) * (at / length), start + at);
   while (at + m_left <= last) {
     at += m_left;
     const DashPattern::Dash& dash = m_pattern.dashes()[m_dash];
     const QPointF point = a + (b - a) * (at / length);
-    if (dash.length == 0) m_surface.dot(point);
-    addPoint(point);
+    if (dash.length == 0 && m_drawDash)
+      m_drawDash(start + at, start + at);
+    else if (dash.length == 0)
+      m_surface.dot(point);
+    addPoint(point, start + at);
     endDash();
     if (dash.ornament >= 0 && m_drawOrnament)
       m_drawOrnament(m_pattern.ornaments()[static_cast<std::size_t>(dash.ornament)],
                      from + along * at, along);
     startDash((m_dash + 1) % m_pattern.dashes().size(), start + at);
-    addPoint(point);
+    addPoint(point, start + at);
   }
   m_left -= last - at;
-  addPoint(a + (b - a) * (last / length));
+  addPoint(a + (b - a) * (last / length), start + last);
   m_position = start + length;
   if (leaves < 1) {
     endDash();

@@ -18,10 +18,14 @@ class DashWalker {
   using DrawOrnament = std::function<void(const DashOrnament& ornament, const OdGePoint3d& at,
                                           const OdGeVector3d& along)>;
 
+  /// Draws a dash in the place of a line on the surface: from and to are lengths along the path,
+  /// equal for a dot.
+  using DrawDash = std::function<void(double from, double to)>;
+
   /// `scale` multiplies the pattern's lengths to those of the path. Ornaments reach no further than
   /// `reach` pixels.
   DashWalker(Surface& surface, const Projection& projection, const DashPattern& pattern,
-             double scale, double reach, DrawOrnament drawOrnament);
+             double scale, double reach, DrawOrnament drawOrnament, DrawDash drawDash = {});
 
   /// The points are in the coordinates that the projection takes.
   void draw(std::span<const OdGePoint3d> points, bool closed);
@@ -30,7 +34,7 @@ class DashWalker {
   void segment(const OdGePoint3d& from, const OdGePoint3d& to);
   void seek(double position);
   void startDash(std::size_t dash, double position);
-  void addPoint(const QPointF& point);
+  void addPoint(const QPointF& point, double position);
   void endDash();
 
   Surface& m_surface;
@@ -39,6 +43,7 @@ class DashWalker {
   double m_scale;
   QRectF m_seen;
   DrawOrnament m_drawOrnament;
+  DrawDash m_drawDash;
 
   double m_start = 0;            // how long the first dash is at the beginning of the path
   double m_lastStart = 0;        // where the first dash begins that runs to the end of the path
@@ -46,6 +51,7 @@ class DashWalker {
   std::size_t m_dash = 0;        // the dash that is being drawn
   double m_left = 0;             // of it
   std::vector<QPointF> m_points; // of the dash that is being drawn
+  double m_from = 0, m_to = 0;   // along the path, of that dash
 };
 
 } // namespace drafton

@@ -131,6 +131,17 @@ void Test::piece(const ShapeList& list, const Piece& piece, const Projection& pr
                        chords);
     return lines(chords, false, projection);
   }
+  case PieceKind::kWide: {
+    std::span<const OdGiWidePoint> points = list.pointsOf(list.wides[piece.first]);
+    std::vector<OdGePoint3d> ring;
+    while (!points.empty()) {
+      points = points.subspan(odgi::outlineOf(points, ring));
+      QPolygonF outline;
+      for (const OdGePoint3d& p : ring) outline << projection(p);
+      polygon(outline);
+    }
+    return;
+  }
   case PieceKind::kArea:
     return rings(list, list.areas[piece.first], projection);
   case PieceKind::kXline:

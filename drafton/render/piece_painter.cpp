@@ -142,6 +142,11 @@ void PiecePainter::draw(const ShapeList& list, const Piece& piece, const QRectF&
   case PieceKind::kRay:
     endless(list.pointsOf(piece), piece.kind == PieceKind::kXline);
     break;
+  case PieceKind::kWide: {
+    const WidePiece& line = list.wides[piece.first];
+    wide(list.pointsOf(line), line.dashesRunThrough);
+    break;
+  }
   case PieceKind::kArea:
     area(list, list.areas[piece.first]);
     break;
@@ -220,14 +225,18 @@ void PiecePainter::plainLine(std::span<const OdGePoint3d> points, bool closed) {
   m_surface.polyline(m_buffer, closed);
 }
 
-void PiecePainter::dashed(std::span<const OdGePoint3d> points, bool closed) {
+void PiecePainter::dashed(std::span<const OdGePoint3d> points, bool closed, double halfWidth,
+                          DashWalker::DrawDash drawDash) {
   const double scale = m_scales.linetypeScale * m_style.linetypeScale * m_windowScale;
-  double reach = 2 * m_surface.penWidth();
+  double reach = 2 * m_surface.penWidth() + 2 * halfWidth * m_scale;
   for (const DashOrnament& o : m_linetype->ornaments())
     reach = std::max(reach, kOrnamentReach * std::abs(o.scale) * scale * m_scale);
-  DashWalker walker(m_surface, *m_projection, *m_linetype, scale, reach,
-                    [this](const DashOrnament& o, const OdGePoint3d& at,
-                           const OdGeVector3d& along) { ornament(o, at, along); });
+  DashWalker walker(
+      m_surface, *m_projection, *m_linetype, scale, reach,
+      [this](const DashOrnament& o, const OdGePoint3d& at, const OdGeVector3d& along) {
+        ornament(o, at, along);
+      },
+      std::move(drawDash));
   walker.draw(points, closed);
 }
 

@@ -59,10 +59,13 @@ class PiecePainter {
   void arcPart(const OdGiArc& arc, double from, double to, const QPointF& a, const QPointF& b,
                int depth);
   bool isDashed() const;
-  void dashed(std::span<const OdGePoint3d> points, bool closed);
+  void dashed(std::span<const OdGePoint3d> points, bool closed, double halfWidth = 0,
+              DashWalker::DrawDash drawDash = {});
   void ornament(const DashOrnament& ornament, const OdGePoint3d& at, const OdGeVector3d& along);
   void stroke(const OdGePoint3d& from, const OdGePoint3d& to);
   std::vector<QPolygonF> ringsOf(const ShapeList& list, const AreaPiece& area) const;
+  void wide(std::span<const OdGiWidePoint> points, bool dashesRunThrough);
+  void dashedWide(std::span<const OdGiWidePoint> points, std::vector<QPolygonF>& rings);
   void area(const ShapeList& list, const AreaPiece& area);
   void gradient(const ShapeList& list, const GradientPiece& piece);
   void pattern(const ShapeList& list, const PatternPiece& pattern);

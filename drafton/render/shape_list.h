@@ -13,6 +13,7 @@ enum class PieceKind : std::uint8_t {
   kArc,
   kXline, ///< a point and the next one along a line without ends
   kRay,   ///< the same, from the point on
+  kWide,  ///< a line with a width of its own
   kArea,
   kGradient,
   kStrokes, ///< pairs of points
@@ -37,6 +38,12 @@ struct Piece {
 /// Rings that stand one behind another.
 struct AreaPiece {
   std::uint32_t firstRing = 0, ringCount = 0;
+};
+
+/// Points that stand one behind another.
+struct WidePiece {
+  std::uint32_t first = 0, count = 0;
+  bool dashesRunThrough = false;
 };
 
 struct GradientPiece {
@@ -81,6 +88,8 @@ class ShapeList {
   std::vector<std::uint32_t> ringSizes; ///< rings stand in `points` one behind another
   std::vector<std::uint32_t> ringStarts;
   std::vector<OdGiArc> arcs;
+  std::vector<OdGiWidePoint> widePoints;
+  std::vector<WidePiece> wides;
   std::vector<AreaPiece> areas;
   std::vector<GradientPiece> gradients;
   std::vector<PatternPiece> patterns;
@@ -92,6 +101,9 @@ class ShapeList {
 
   std::span<const OdGePoint3d> pointsOf(const Piece& piece) const {
     return std::span(points).subspan(piece.first, piece.count);
+  }
+  std::span<const OdGiWidePoint> pointsOf(const WidePiece& wide) const {
+    return std::span(widePoints).subspan(wide.first, wide.count);
   }
   std::span<const OdGePoint3d> ring(std::uint32_t index) const {
     return std::span(points).subspan(ringStarts[index], ringSizes[index]);

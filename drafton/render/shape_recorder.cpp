@@ -137,6 +137,18 @@ void ShapeRecorder::setPieceLinetype(OdDbObjectId linetype) {
   m_linetype = static_cast<std::uint16_t>(at - all.begin() + 1);
 }
 
+void ShapeRecorder::wideLine(std::span<const OdGiWidePoint> points, bool dashesRunThrough) {
+  for (const OdGiWidePoint& p : points)
+    if (!odgeIsFinite(p.middle) || !odgeIsFinite(p.left) || !odgeIsFinite(p.right)) return;
+  add(PieceKind::kWide, m_list.wides.size(), 1);
+  m_list.wides.push_back({static_cast<std::uint32_t>(m_list.widePoints.size()),
+                          static_cast<std::uint32_t>(points.size()), dashesRunThrough});
+  m_list.widePoints.insert(m_list.widePoints.end(), points.begin(), points.end());
+  for (const OdGiWidePoint& p : points)
+    for (const OdGePoint3d& edge : {p.left, p.right}) m_box.addPoint(edge);
+  m_isCoarse = true;
+}
+
 AreaPiece ShapeRecorder::addRings(const OdGiRings& rings) {
   AreaPiece area{static_cast<std::uint32_t>(m_list.ringSizes.size()), 0};
   for (const auto& ring : rings) {

@@ -31,6 +31,7 @@ class ShapeRecorder : public OdGiWorldDraw {
   void polyline(std::span<const OdGePoint3d> points, bool closed) override;
   void arc(const OdGiArc& arc) override;
   void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays) override;
+  void wideLine(std::span<const OdGiWidePoint> points, bool dashesRunThrough) override;
   void area(const OdGiRings& rings) override;
   void gradient(const OdGiRings& rings, const OdGiGradient& gradient) override;
   void strokes(std::span<const OdGePoint3d> ends) override;

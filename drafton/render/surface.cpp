@@ -37,6 +37,13 @@ QPolygonF cutAt(const QPolygonF& polygon, const QRectF& rect, const Side& side) 
   return result;
 }
 
+/// True for what records paths as they are: one is less than its chords one by one.
+bool isVector(const QPainter& painter) {
+  const QPaintEngine* const engine = painter.paintEngine();
+  return engine != nullptr &&
+         (engine->type() == QPaintEngine::SVG || engine->type() == QPaintEngine::Pdf);
+}
+
 } // namespace
 
 Surface::Surface(QPainter& painter, const QRectF& rect, TileRaster* raster)
@@ -44,6 +51,7 @@ Surface::Surface(QPainter& painter, const QRectF& rect, TileRaster* raster)
   , m_clip(rect)
   , m_raster(raster)
   , m_usesRaster(raster != nullptr)
+  , m_keepsPaths(raster == nullptr && isVector(painter))
   , m_hasFonts(painter.paintEngine()->type() == QPaintEngine::Pdf) {
   if (m_raster != nullptr) m_raster->setClip(rect.toAlignedRect());
 }
@@ -134,7 +142,7 @@ void Surface::polyline(std::span<const QPointF> points, bool closed) {
     if (!points.empty()) dot(points[0]);
     return;
   }
-  if (m_isThin) {
+  if (m_isThin && !m_keepsPaths) {
     for (std::size_t i = 0; i + 1 < points.size(); ++i) line(points[i], points[i + 1]);
     if (closed) line(points.back(), points.front());
     return;

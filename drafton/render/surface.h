@@ -61,6 +61,7 @@ class Surface {
   QRectF m_clip;
   TileRaster* m_raster;
   bool m_usesRaster;
+  bool m_keepsPaths; ///< lines of several points go out as a whole
   std::vector<Saved> m_saved;
   std::vector<QLineF> m_lines;
   QRgb m_color = 0;

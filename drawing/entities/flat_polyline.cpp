@@ -3,6 +3,7 @@
 #include "drawing/graphics/world_draw.h"
 
 #include <algorithm>
+#include <optional>
 
 OdGeFlatPath OdDbFlatPolyline::path() const {
   OdGeFlatPath path;
@@ -37,13 +38,20 @@ void OdDbFlatPolyline::appendSegments(OdGeCurveSegments& segments) const {
 
 namespace {
 
-/// The two edges of a wide piece, from its start to its end.
-struct Edges {
-  std::vector<OdGePoint2d> left, right;
+/// A place of a wide piece in its plane.
+struct Place {
+  OdGePoint2d middle, left, right;
 };
+using Places = std::vector<Place>;
 
-Edges edgesOf(const OdDbFlatPolyline::Corner& from, const OdGePoint2d& to, double deviation) {
-  Edges edges;
+Place square(const OdGePoint2d& at, const OdGePoint2d& along, double width) {
+  const OdGePoint2d across{-along.y * width / 2, along.x * width / 2};
+  return {at, {at.x + across.x, at.y + across.y}, {at.x - across.x, at.y - across.y}};
+}
+
+/// A wide piece from its start to its end.
+Places placesOf(const OdDbFlatPolyline::Corner& from, const OdGePoint2d& to, double deviation) {
+  Places places;
   const OdGeFlatPiece piece(from.point, to, from.bulge);
   int chords = 1;
   if (!piece.isLine()) {
@@ -54,55 +62,105 @@ Edges edgesOf(const OdDbFlatPolyline::Corner& from, const OdGePoint2d& to, doubl
   }
   for (int i = 0; i <= chords; ++i) {
     const double part = static_cast<double>(i) / chords;
-    const double half = (from.startWidth + (from.endWidth - from.startWidth) * part) / 2;
-    const OdGePoint2d at = piece.pointAt(part);
-    const OdGePoint2d along = piece.directionAt(part);
-    edges.left.push_back({at.x - along.y * half, at.y + along.x * half});
-    edges.right.push_back({at.x + along.y * half, at.y - along.x * half});
+    places.push_back(square(piece.pointAt(part), piece.directionAt(part),
+                            from.startWidth + (from.endWidth - from.startWidth) * part));
   }
-  return edges;
+  return places;
 }
 
 /// Moves the ends of two edges of straight pieces to where they meet.
-void miter(std::vector<OdGePoint2d>& a, std::vector<OdGePoint2d>& b, double width) {
-  const OdGeFlatPiece first(a[a.size() - 2], a.back(), 0);
-  const OdGeFlatPiece second(b[0], b[1], 0);
+void miter(Places& a, Places& b, OdGePoint2d Place::*edge, double width) {
+  const OdGeFlatPiece first(a[a.size() - 2].*edge, a.back().*edge, 0);
+  const OdGeFlatPiece second(b[0].*edge, b[1].*edge, 0);
   const auto meeting = odge::meetings(first, second, true);
   if (meeting.empty()) return;
   const OdGePoint2d tip = first.pointAt(meeting[0].first);
-  if (tip.distanceTo(a.back()) > 2 * width) return;
-  a.back() = tip;
-  b.front() = tip;
+  if (tip.distanceTo(a.back().*edge) > 2 * width) return;
+  a.back().*edge = tip;
+  b.front().*edge = tip;
+}
+
+/// Puts a straight end behind each slanted one of a straight piece, so that dashes between them end
+/// straight.
+void squareOff(Places& places, const OdDbFlatPolyline::Corner& corner) {
+  const Place start = places.front(), end = places.back();
+  const double length = start.middle.distanceTo(end.middle);
+  if (places.size() != 2 || !(length > 0)) return;
+  const OdGePoint2d along{(end.middle.x - start.middle.x) / length,
+                          (end.middle.y - start.middle.y) / length};
+  const auto depth = [&](const Place& place, double side) {
+    double deepest = 0;
+    for (const OdGePoint2d& edge : {place.left, place.right})
+      deepest = std::max(deepest, side * ((edge.x - place.middle.x) * along.x +
+                                          (edge.y - place.middle.y) * along.y));
+    return deepest;
+  };
+  const auto add = [&](double at) {
+    const double width = corner.startWidth + (corner.endWidth - corner.startWidth) * at / length;
+    places.insert(
+        places.end() - 1,
+        square({start.middle.x + along.x * at, start.middle.y + along.y * at}, along, width));
+  };
+  const double first = depth(start, 1), last = depth(end, -1);
+  const double slack = 1e-9 * length;
+  if (first + last >= length) return;
+  if (first > slack) add(first);
+  if (last > slack) add(length - last);
+}
+
+/// What is missing at the outside of a corner between two square ends, as a piece without length.
+std::optional<Places> bevel(const Place& end, const Place& start) {
+  const double turn = (end.left.x - end.middle.x) * (start.left.y - end.middle.y) -
+                      (end.left.y - end.middle.y) * (start.left.x - end.middle.x);
+  if (turn == 0) return std::nullopt;
+  const OdGePoint2d& m = end.middle;
+  if (turn > 0) return Places{{m, m, end.right}, {m, m, start.right}};
+  return Places{{m, end.left, m}, {m, start.left, m}};
 }
 
 } // namespace
 
-void OdDbFlatPolyline::drawWide(OdGiWorldDraw& draw) const {
-  std::vector<Edges> all;
+void OdDbFlatPolyline::drawWide(OdGiWorldDraw& draw, bool dashesRunThrough) const {
+  // The edges of wide arcs show their chords more than thin ones do.
+  const double deviation = draw.deviation() / 4;
+  std::vector<Places> all;
   for (std::size_t i = 0; i < pieces(); ++i)
-    all.push_back(edgesOf(corners[i], after(i).point, draw.deviation()));
+    all.push_back(placesOf(corners[i], after(i).point, deviation));
+  std::vector<std::optional<Places>> bevels(all.size());
   for (std::size_t i = 0; i < all.size(); ++i) {
     const std::size_t next = (i + 1) % all.size();
     if (next == 0 && !closed) break;
     const double width = corners[i].endWidth;
-    const bool meet = width > 0 && width == corners[next].startWidth && corners[i].bulge == 0 &&
-                      corners[next].bulge == 0 && next != i;
-    if (!meet) continue;
-    miter(all[i].left, all[next].left, width);
-    miter(all[i].right, all[next].right, width);
+    if (!(width > 0) || width != corners[next].startWidth || next == i) continue;
+    if (corners[i].bulge == 0 && corners[next].bulge == 0) {
+      miter(all[i], all[next], &Place::left, width);
+      miter(all[i], all[next], &Place::right, width);
+    }
+    bevels[i] = bevel(all[i].back(), all[next].front());
   }
   const auto space = [&](const OdGePoint2d& p) { return toWorld * OdGePoint3d{p.x, p.y, 0}; };
+  std::vector<OdGiWidePoint> wide;
+  const auto append = [&](const Places& places) {
+    for (const Place& p : places)
+      wide.push_back({space(p.middle), space(p.left), space(p.right), &p == &places.front()});
+  };
+  const auto flush = [&] {
+    if (!wide.empty()) draw.wideLine(wide, dashesRunThrough);
+    wide.clear();
+  };
   for (std::size_t i = 0; i < all.size(); ++i) {
-    std::vector<OdGePoint3d> ring;
-    for (const OdGePoint2d& p : all[i].left) ring.push_back(space(p));
     if (corners[i].startWidth == 0 && corners[i].endWidth == 0) {
-      draw.polyline(ring, false);
+      flush();
+      std::vector<OdGePoint3d> line;
+      for (const Place& p : all[i]) line.push_back(space(p.middle));
+      draw.polyline(line, false);
       continue;
     }
-    std::for_each(all[i].right.rbegin(), all[i].right.rend(),
-                  [&](const OdGePoint2d& p) { ring.push_back(space(p)); });
-    draw.area({ring});
+    if (corners[i].bulge == 0) squareOff(all[i], corners[i]);
+    append(all[i]);
+    if (bevels[i]) append(*bevels[i]);
   }
+  flush();
 }
 
 OdGeExtents3d OdDbFlatPolyline::extents() const {
@@ -120,9 +178,9 @@ OdGeExtents3d OdDbFlatPolyline::extents() const {
         box.addExt(OdGeCurveSegment::arc(s.center, s.u * f, s.v * f, s.from, s.sweep).extents());
       }
     } else {
-      const Edges edges = edgesOf(corners[i], after(i).point, 1);
-      for (const auto* edge : {&edges.left, &edges.right})
-        for (const OdGePoint2d& p : *edge) box.addPoint(toWorld * OdGePoint3d{p.x, p.y, 0});
+      for (const Place& place : placesOf(corners[i], after(i).point, 1))
+        for (const OdGePoint2d& p : {place.left, place.right})
+          box.addPoint(toWorld * OdGePoint3d{p.x, p.y, 0});
     }
   }
   return box;

@@ -21,8 +21,8 @@ struct OdDbFlatPolyline {
   OdGeFlatPath path() const;
   bool isWide() const;
   void appendSegments(OdGeCurveSegments& segments) const;
-  /// The outlines of wide pieces in the world; narrow ones are shown as lines.
-  void drawWide(OdGiWorldDraw& draw) const;
+  /// Wide pieces with their widths; narrow ones are shown as lines.
+  void drawWide(OdGiWorldDraw& draw, bool dashesRunThrough) const;
   /// The box with the widths.
   OdGeExtents3d extents() const;
   /// The corners between two parameters.

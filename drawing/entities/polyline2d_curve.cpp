@@ -201,7 +201,7 @@ void OdDb2dPolyline::worldDraw(OdGiWorldDraw& draw) const {
     return;
   }
   if (kind() == k2d)
-    if (const OdDbFlatPolyline shape = flat(); shape.isWide()) return shape.drawWide(draw);
+    if (const OdDbFlatPolyline shape = flat(); shape.isWide()) return shape.drawWide(draw, dashesRunThrough());
   OdDbCurve::worldDraw(draw);
 }
 

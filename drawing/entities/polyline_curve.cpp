@@ -130,7 +130,7 @@ bool OdDbPolyline::reverseCurve() {
 void OdDbPolyline::worldDraw(OdGiWorldDraw& draw) const {
   const OdDbFlatPolyline shape = flat();
   if (shape.isWide())
-    shape.drawWide(draw);
+    shape.drawWide(draw, dashesRunThrough());
   else
     OdDbCurve::worldDraw(draw);
 }

@@ -12,6 +12,23 @@ constexpr double kFewestChords = 8, kMostChords = 4096;
 void OdGiWorldDraw::endless(const OdGePoint3d&, const OdGeVector3d&, bool) {}
 void OdGiWorldDraw::setPieceLinetype(OdDbObjectId) {}
 
+void OdGiWorldDraw::wideLine(std::span<const OdGiWidePoint> points, bool) {
+  std::vector<OdGePoint3d> ring;
+  while (!points.empty()) {
+    points = points.subspan(odgi::outlineOf(points, ring));
+    area({ring});
+  }
+}
+
+std::size_t odgi::outlineOf(std::span<const OdGiWidePoint> points, std::vector<OdGePoint3d>& ring) {
+  std::size_t count = 1;
+  while (count < points.size() && !points[count].startsPiece) ++count;
+  ring.clear();
+  for (std::size_t i = 0; i < count; ++i) ring.push_back(points[i].left);
+  for (std::size_t i = count; i-- > 0;) ring.push_back(points[i].right);
+  return count;
+}
+
 void OdGiWorldDraw::arc(const OdGiArc& arc) {
   std::vector<OdGePoint3d> points;
   odgi::appendChords(arc, deviation(), points);

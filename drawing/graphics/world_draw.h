@@ -50,6 +50,12 @@ struct OdGiGradient {
   OdCmColor first, second;
 };
 
+/// A place of a line with a width of its own: its middle and its two edges.
+struct OdGiWidePoint {
+  OdGePoint3d middle, left, right;
+  bool startsPiece = false; ///< the first of a piece, which goes as far as the next one starts
+};
+
 /// Closed rings of corners in world coordinates; what lies in an odd number of them is inside.
 using OdGiRings = std::vector<std::vector<OdGePoint3d>>;
 
@@ -70,6 +76,9 @@ class OdGiWorldDraw {
   /// A line without end from `origin` along `direction`, in the entity's line type; to the other
   /// side too if `bothWays`. As it stands nothing: it has no box.
   virtual void endless(const OdGePoint3d& origin, const OdGeVector3d& direction, bool bothWays);
+  /// A line with a width of its own, in the entity's line type, which starts anew with each piece
+  /// unless it runs through. As it stands the outlines of the pieces are given to area().
+  virtual void wideLine(std::span<const OdGiWidePoint> points, bool dashesRunThrough);
   /// An area in the entity's colour.
   virtual void area(const OdGiRings& rings) = 0;
   virtual void gradient(const OdGiRings& rings, const OdGiGradient& gradient) = 0;
@@ -97,6 +106,8 @@ namespace odgi {
 /// Adds chords of an arc to `points`, both ends included, so that none leaves it by more than
 /// `deviation`.
 void appendChords(const OdGiArc& arc, double deviation, std::vector<OdGePoint3d>& points);
+/// The outline of a piece of a wide line, and how many of the points belong to the piece.
+std::size_t outlineOf(std::span<const OdGiWidePoint> points, std::vector<OdGePoint3d>& ring);
 /// The box around an arc, exactly.
 OdGeExtents3d extentsOf(const OdGiArc& arc);
 

@@ -103,7 +103,7 @@ TEST_F(LayoutPictures, WindowOnALayerThatIsNotPlottedShowsTheModelWithoutItsEdge
     image.fill(Qt::white);
     View view;
     view.size = image.size();
-    view = view.fitted(sheetOf(*layout), 0);
+    view = view.fitted(paperOf(*layout), 0);
     RenderOptions options;
     options.isPlotting = isPlotting;
     render(image, scene(), layout->getBlockTableRecordId(), view, options);

@@ -95,6 +95,17 @@ TEST_F(PictureFiles, SvgShowsTheSame) {
   EXPECT_TRUE(looksLike(image, "svg"));
 }
 
+TEST_F(PictureFiles, SvgHasEachThinCurveAsOnePath) {
+  PictureRequest wanted = request("a.svg");
+  wanted.size = {800, 800};
+  writePicture(database(), wanted);
+  const QByteArray bytes = bytesOf(wanted.file);
+  // The circle, the line and the letters.
+  const auto elements = bytes.count("<path") + bytes.count("<polyline") + bytes.count("<polygon");
+  EXPECT_GE(elements, 3);
+  EXPECT_LT(elements, 12);
+}
+
 TEST_F(PictureFiles, PdfHasOnePageOfTheSize) {
   PictureRequest wanted = request("a.pdf");
   wanted.size = {960, 480};
