@@ -20,8 +20,6 @@ OdRxObjectPtr OdDbRawEntity::clone() const {
                 QStringLiteral("Objects of class %1 cannot be copied").arg(QLatin1String(m_name)));
 }
 
-bool OdDbRawEntity::transformBy(const OdGeMatrix3d&) { return false; }
-
 void OdDbRawEntity::dxfOutFollowers(OdDbDxfOut& out) const {
   for (const OdDbObjectId id : m_followers)
     if (const OdDbObjectPtr follower = id.openObject()) out.object(*follower);

@@ -48,7 +48,8 @@ class OdDbRawEntity : public OdDbEntity {
   void worldDraw(OdGiWorldDraw& draw) const override;
   /// None: null.
   OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
-  /// Not possible: false.
+  /// Moves the points of classes whose tags are understood so far: multilines, multileaders, masks,
+  /// spirals, tables and the like. False for all others, and for what their shape cannot follow.
   bool transformBy(const OdGeMatrix3d& transform) override;
 
  protected:

@@ -6,6 +6,7 @@
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 #include "drawing/database.h"
+#include "drawing/moved_xdata.h"
 
 namespace drafton {
 
@@ -31,7 +32,10 @@ Task<void> mirror(CommandContext& context) {
   const OdGeMatrix3d mirroring = OdGeMatrix3d::mirroring(first.value, across);
   const bool mirrorsTexts = context.database().sysVarInt("MIRRTEXT") != 0;
   const EntityMover mover = [&](OdDbEntity& entity) {
-    return mirrorsTexts ? entity.transformBy(mirroring) : mirrorReadably(entity, mirroring);
+    if (!(mirrorsTexts ? entity.transformBy(mirroring) : mirrorReadably(entity, mirroring)))
+      return false;
+    oddb::transformXData(entity, mirroring);
+    return true;
   };
   if (erase.is(u"Yes"))
     moveEntities(context, chosen, mover, u"%1 could not be mirrored.");

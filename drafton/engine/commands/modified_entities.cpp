@@ -4,6 +4,7 @@
 #include "drafton/engine/translator.h"
 #include "drawing/database.h"
 #include "drawing/id_mapping.h"
+#include "drawing/moved_xdata.h"
 #include "drawing/objects/named_styles.h"
 #include "drawing/objects/raw_object.h"
 
@@ -25,7 +26,7 @@ void copyGroups(OdDbDatabase& database, const std::vector<OdDbObjectId>& groups,
 } // namespace
 
 EntityMover by(const OdGeMatrix3d& transform) {
-  return [transform](OdDbEntity& entity) { return entity.transformBy(transform); };
+  return [transform](OdDbEntity& entity) { return oddb::transformWithXData(entity, transform); };
 }
 
 void moveEntities(CommandContext& context, const Selection& entities, const EntityMover& mover,

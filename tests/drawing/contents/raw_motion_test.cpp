@@ -1,0 +1,192 @@
+// Entities that are kept as the file had them, moved; and what applications keep with entities.
+#include "drawing/entities/circle.h"
+#include "drawing/moved_xdata.h"
+#include "drawing/objects/raw_object.h"
+
+#include "drawing/contents/support.h"
+
+using namespace oddbtest;
+
+namespace {
+
+/// A drawing with entities of the file's form in its model; bars part the lines.
+OdDbDatabasePtr drawingWith(const QByteArray& tags) {
+  const OdDbDatabasePtr empty = OdDbDatabase::createDatabase();
+  QByteArray file = empty->writeDxf();
+  file.replace("\r\n", "\n");
+  const qsizetype section = file.indexOf("\nENTITIES\n");
+  const qsizetype end = file.indexOf("  0\nENDSEC\n", section);
+  QByteArray lines = tags;
+  lines.replace('|', '\n');
+  file.insert(end, lines + '\n');
+  return OdDbDatabase::readDxf(file, QStringLiteral("made"));
+}
+
+QByteArray head(const char* name, const char* handle = "F0") {
+  return QByteArray("0|") + name + "|5|" + handle + "|100|AcDbEntity|8|0|";
+}
+
+OdDbEntityPtr first(const OdDbDatabase& database) {
+  return entitiesOf(database.getModelSpaceId()).at(0)->objectId().openObject(OdDb::kForWrite);
+}
+
+/// The values of a code in the entity's entry of the file, rounded, with blanks between them.
+std::string valuesOf(const OdDbDatabase& database, const char* name, int code) {
+  QByteArray file = database.writeDxf();
+  file.replace("\r\n", "\n");
+  const qsizetype from = file.indexOf(QByteArray("\n") + name + "\n", file.indexOf("\nENTITIES\n"));
+  const QByteArray entry = file.mid(from, file.indexOf("\n  0\n", from) - from);
+  const QList<QByteArray> lines = entry.split('\n');
+  std::string found;
+  for (qsizetype i = 2; i + 1 < lines.size(); i += 2)
+    if (lines[i].trimmed().toInt() == code)
+      found += (found.empty() ? "" : " ") +
+               QString::number(std::round(lines[i + 1].toDouble() * 1000) / 1000).toStdString();
+  return found;
+}
+
+const OdGeMatrix3d kShift = OdGeMatrix3d::translation({5, 6, 0});
+const OdGeMatrix3d kQuarter = OdGeMatrix3d::rotation(kOdaPi / 2, OdGeVector3d::zAxis());
+
+} // namespace
+
+TEST(RawMotion, WipeoutsFollowEveryMovementAndHideWhatIsBehind) {
+  const OdDbDatabasePtr db = drawingWith(
+      head("WIPEOUT") + "100|AcDbWipeout|90|0|10|1.0|20|2.0|30|0.0|11|4.0|21|0.0|31|0.0|12|0.0|22|"
+                        "3.0|32|0.0|13|1.0|23|1.0|340|0|70|7|280|1|281|50|282|50|283|0|360|0|71|2|"
+                        "91|4|14|-0.5|24|-0.5|14|0.5|24|-0.5|14|0.5|24|0.5|14|-0.5|24|-0.5");
+  const OdDbEntityPtr wipeout = first(*db);
+  OdGeExtents3d box;
+  ASSERT_TRUE(wipeout->getGeomExtents(box));
+  EXPECT_EQ(box.minPoint(), (OdGePoint3d{1, 2, 0}));
+  EXPECT_EQ(box.maxPoint(), (OdGePoint3d{5, 5, 0}));
+  ASSERT_TRUE(wipeout->transformBy(kShift));
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 10), "6");
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 20), "8");
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 11), "4");
+  ASSERT_TRUE(wipeout->transformBy(OdGeMatrix3d::scaling(2, 3, 1)));
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 10), "12");
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 11), "8");
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 22), "9");
+  EXPECT_EQ(valuesOf(*db, "WIPEOUT", 14), "-0.5 0.5 0.5 -0.5");
+}
+
+TEST(RawMotion, MultilinesKeepTheirDirections) {
+  const OdDbDatabasePtr db = drawingWith(
+      head("MLINE") +
+      "100|AcDbMline|2|STANDARD|340|0|40|2.0|70|0|71|1|72|2|73|2|10|0.0|20|0.0|30|0.0|210|0.0|220|"
+      "0.0|230|1.0|11|0.0|21|0.0|31|0.0|12|1.0|22|0.0|32|0.0|13|0.0|23|1.0|33|0.0|74|2|41|1.0|41|"
+      "0.0|75|0|74|2|41|-1.0|41|0.0|75|0|11|10.0|21|0.0|31|0.0|12|1.0|22|0.0|32|0.0|13|0.0|23|1.0|"
+      "33|0.0|74|2|41|1.0|41|0.0|75|0|74|2|41|-1.0|41|0.0|75|0");
+  const OdDbEntityPtr mline = first(*db);
+  ASSERT_TRUE(mline->transformBy(kQuarter * OdGeMatrix3d::scaling(3)));
+  EXPECT_EQ(valuesOf(*db, "MLINE", 21), "0 30");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 12), "0 0");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 22), "1 1");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 13), "-1 -1");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 41), "3 0 -3 0 3 0 -3 0");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 40), "6");
+  EXPECT_EQ(valuesOf(*db, "MLINE", 230), "1");
+  const QByteArray before = db->writeDxf();
+  EXPECT_FALSE(mline->transformBy(OdGeMatrix3d::scaling(2, 1, 1)));
+  EXPECT_EQ(db->writeDxf(), before);
+}
+
+TEST(RawMotion, MultileadersMoveInAllTheirPartsAndAreShown) {
+  const OdDbDatabasePtr db = drawingWith(
+      head("MULTILEADER") +
+      "100|AcDbMLeader|270|2|300|CONTEXT_DATA{|40|1.0|10|20.0|20|10.0|30|0.0|41|2.5|140|3.0|145|1.0"
+      "|174|1|175|1|176|0|177|0|290|1|304|Note|11|0.0|21|0.0|31|1.0|340|0|12|21.0|22|11.0|32|0.0|"
+      "13|1.0|23|0.0|33|0.0|42|0.0|43|0.0|44|0.0|45|1.0|170|1|90|-1056964608|171|1|172|1|296|0|110|"
+      "0.0|120|0.0|130|0.0|111|1.0|121|0.0|131|0.0|112|0.0|122|1.0|132|0.0|297|0|302|LEADER{|290|1|"
+      "291|1|10|15.0|20|10.0|30|0.0|11|1.0|21|0.0|31|0.0|90|0|40|5.0|304|LEADER_LINE{|10|0.0|20|0.0"
+      "|30|0.0|91|0|305|}|271|0|303|}|272|9|273|9|301|}|340|0|90|0|170|1|91|-1056964608|171|-2|290|"
+      "1|291|1|41|5.0|42|3.0|172|2|43|0.0|45|1.0");
+  const OdDbEntityPtr leader = first(*db);
+  OdGeExtents3d box;
+  ASSERT_TRUE(leader->getGeomExtents(box));
+  EXPECT_LE(box.minPoint().x, 0);
+  EXPECT_GT(box.maxPoint().x, 21);
+  EXPECT_NEAR(box.maxPoint().y, 11, 0.5);
+  ASSERT_TRUE(leader->transformBy(kShift));
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 10), "25 20 5");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 20), "16 16 6");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 12), "26");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 11), "0 1");
+  ASSERT_TRUE(leader->transformBy(kQuarter));
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 10), "-16 -16 -6");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 20), "25 20 5");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 13), "0");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 42), "1.571 3");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 41), "2.5 5");
+  EXPECT_FALSE(leader->transformBy(OdGeMatrix3d::mirroring({}, OdGeVector3d::xAxis())));
+}
+
+TEST(RawMotion, SpiralsAndTablesMoveAndUnknownClassesStay) {
+  const OdDbDatabasePtr db =
+      drawingWith(head("HELIX") +
+                  "100|AcDbSpline|70|0|71|3|72|0|73|0|74|0|210|0.0|220|0.0|230|1.0|10|1.0|20|"
+                  "0.0|30|0.0|100|AcDbHelix|90|29|91|63|10|0.0|20|0.0|30|0.0|11|1.0|21|0.0|31|"
+                  "0.0|12|0.0|22|0.0|32|1.0|40|1.0|41|3.0|42|2.0|290|1|280|1|" +
+                  head("ACAD_TABLE", "F1") +
+                  "100|AcDbBlockReference|2|*T1|10|3.0|20|4.0|30|0.0|100|AcDbTable|"
+                  "11|1.0|21|0.0|31|0.0|91|1|92|1|" +
+                  head("STRANGE", "F2") + "100|AcDbStrange|10|1.0|20|1.0|30|1.0");
+  const auto all = entitiesOf(db->getModelSpaceId());
+  ASSERT_EQ(all.size(), 3u);
+  const auto moved = [&](std::size_t i, const OdGeMatrix3d& by) {
+    const OdDbEntityPtr entity = all[i]->objectId().openObject(OdDb::kForWrite);
+    return entity->transformBy(by);
+  };
+  EXPECT_TRUE(moved(0, kShift * OdGeMatrix3d::scaling(2)));
+  EXPECT_EQ(valuesOf(*db, "HELIX", 10), "7 5");
+  EXPECT_EQ(valuesOf(*db, "HELIX", 11), "7");
+  EXPECT_EQ(valuesOf(*db, "HELIX", 40), "2");
+  EXPECT_EQ(valuesOf(*db, "HELIX", 41), "3");
+  EXPECT_EQ(valuesOf(*db, "HELIX", 32), "1");
+  EXPECT_TRUE(moved(1, kShift * kQuarter));
+  EXPECT_EQ(valuesOf(*db, "ACAD_TABLE", 10), "1");
+  EXPECT_EQ(valuesOf(*db, "ACAD_TABLE", 20), "9");
+  EXPECT_EQ(valuesOf(*db, "ACAD_TABLE", 21), "1");
+  EXPECT_FALSE(moved(1, OdGeMatrix3d::scaling(2)));
+  EXPECT_FALSE(moved(2, kShift));
+}
+
+TEST(RawMotion, IsUndone) {
+  const OdDbDatabasePtr db =
+      drawingWith(head("MESH") + "100|AcDbSubDMesh|71|2|72|0|91|0|92|1|10|1.0|20|2.0|30|3.0|93|0");
+  const QByteArray before = db->writeDxf();
+  db->startUndoRecord(QStringLiteral("MOVE"));
+  {
+    const OdDbEntityPtr mesh = first(*db);
+    ASSERT_TRUE(mesh->transformBy(kShift));
+  }
+  db->endUndoRecord();
+  EXPECT_EQ(valuesOf(*db, "MESH", 10), "6");
+  db->undo();
+  EXPECT_EQ(db->writeDxf(), before);
+}
+
+TEST(MovedXData, PlacesDirectionsAndLengthsFollowTheirEntity) {
+  const OdDbDatabasePtr db =
+      drawingWith(head("CIRCLE") +
+                  "100|AcDbCircle|10|0.0|20|0.0|30|0.0|40|1.0|1001|ACAD|1010|1.0|1020|2.0|1030|"
+                  "3.0|1011|1.0|1021|2.0|1031|3.0|1012|1.0|1022|0.0|1032|0.0|1013|1.0|1023|"
+                  "0.0|1033|0.0|1040|4.0|1041|4.0|1042|5.0|1070|7");
+  const OdDbEntityPtr circle = first(*db);
+  ASSERT_TRUE(oddb::transformWithXData(*circle, kShift * kQuarter * OdGeMatrix3d::scaling(2)));
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1010), "1");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1011), "1");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1021), "8");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1031), "6");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1012), "0");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1022), "2");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1023), "1");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1040), "4");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1041), "8");
+  EXPECT_EQ(valuesOf(*db, "CIRCLE", 1042), "10");
+  // What its shape does not allow changes nothing of it either.
+  const QByteArray before = db->writeDxf();
+  EXPECT_FALSE(oddb::transformWithXData(*circle, OdGeMatrix3d::scaling(2, 1, 1)));
+  EXPECT_EQ(db->writeDxf(), before);
+}
