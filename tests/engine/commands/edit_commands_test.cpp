@@ -10,6 +10,7 @@
 #include "drawing/objects/group.h"
 #include "drawing/objects/named_styles.h"
 #include "drawing/tables/dim_var_values.h"
+#include "drawing/xdata.h"
 #include "engine/commands/command_fixture.h"
 #include "engine/commands/hatch_text.h"
 
@@ -507,4 +508,23 @@ TEST_F(EditCommands, AddselectedNeedsACommandForTheKind) {
   EXPECT_TRUE(
       console().shows(QStringLiteral("There is no command that draws objects of this kind.")));
   EXPECT_TRUE(isRunning());
+}
+
+TEST_F(EditCommands, ExtendedDataGoesWithItsEntity) {
+  runScript(u"LINE|0,0|10,0|");
+  oddb::setXData(*entityAt(0).openAs<OdDbEntity>(OdDb::kForWrite), "ACAD",
+                 {{1011, "1.0"}, {1021, "2.0"}, {1031, "0.0"}, {1041, "3.0"}});
+  const auto kept = [&](int index) {
+    std::vector<double> values;
+    for (const auto& tag : oddb::xdataOf(*entityAt(index).openAs<OdDbEntity>(), "ACAD"))
+      values.push_back(tag.value.toDouble());
+    return values;
+  };
+  runScript(u"MOVE|l||0,0|10,0");
+  EXPECT_EQ(kept(0), (std::vector<double>{11, 2, 0, 3}));
+  runScript(u"SCALE|l||0,0|2");
+  EXPECT_EQ(kept(0), (std::vector<double>{22, 4, 0, 6}));
+  runScript(u"MIRROR|l||0,0|0,1|n");
+  EXPECT_EQ(kept(0), (std::vector<double>{22, 4, 0, 6}));
+  EXPECT_EQ(kept(1), (std::vector<double>{-22, 4, 0, 6}));
 }
