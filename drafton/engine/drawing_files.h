@@ -16,7 +16,8 @@ bool isDrawingName(const OdString& path);
 /// the setting "DwgConverter" names. Raises OdFileError, which names `path`.
 OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path);
 
-/// Writes the drawing, in a version of DXF or as it was read. A file that has to be converted takes
+/// Writes the drawing, in a version of DXF or as it was read; of one that was changed the header
+/// then tells the extents. A file that has to be converted takes
 /// the place of the former one when it is whole. The setting "DwgConverterForSaving" names the
 /// converter, "DwgConverter" if it is not set. Raises OdFileError, which names `path`; the former
 /// file is then untouched.

@@ -77,6 +77,28 @@ constexpr Failure kFailures[] = {
 
 } // namespace
 
+TEST_F(DrawingFilesTest, SavingTellsTheExtentsOfWhatIsThere) {
+  draw();
+  const std::size_t steps = database().undoDepth();
+  saveAs("box.dxf");
+  EXPECT_EQ(database().sysVarPoint("EXTMIN"), (OdGePoint3d{0, 0, 0}));
+  EXPECT_EQ(database().sysVarPoint("EXTMAX"), (OdGePoint3d{10, 10, 0}));
+  EXPECT_EQ(database().sysVarPoint("PEXTMIN").x, 1e20) << "nothing is on the sheet";
+  EXPECT_EQ(database().undoDepth(), steps) << "telling is no change that could be undone";
+  EXPECT_FALSE(database().isModified());
+  type(QStringLiteral("U\nSave\n"));
+  EXPECT_EQ(database().sysVarPoint("EXTMAX").x, -1e20);
+}
+
+TEST_F(DrawingFilesTest, SavingWhatWasNotChangedKeepsTheExtentsThatItCameWith) {
+  const OdDbDatabasePtr other = OdDbDatabase::createDatabase();
+  other->setSysVar(QStringLiteral("EXTMAX"), OdGePoint3d{7, 7, 7});
+  other->writeFile(odpath::fromPlatform(path("other.dxf")));
+  open("other.dxf");
+  saveAs("again.dxf");
+  EXPECT_EQ(bytesOf(path("again.dxf")), bytesOf(path("other.dxf")));
+}
+
 TEST_F(DrawingFilesTest, WithoutAConverterAMessageSaysHowToSetOne) {
   putForeign("plan.dwg");
   const QByteArray before = bytesOf(path("plan.dwg"));
