@@ -48,6 +48,7 @@ struct Command {
   const char* options;
   int leastWords;
   int mostWords;
+  bool makesPictures; ///< needs fonts, and with them an application that can draw
   ExitCode (*run)(const Arguments& arguments, Console& console);
 };
 
@@ -58,6 +59,8 @@ ExitCode importCommand(const Arguments& arguments, Console& console);
 ExitCode imagesCommand(const Arguments& arguments, Console& console);
 ExitCode exportCommand(const Arguments& arguments, Console& console);
 
+/// True if the tool makes pictures with these arguments. Most runs need no fonts and start without.
+bool makesPictures(const QStringList& arguments);
 /// Runs the tool with its arguments (without the program's name).
 ExitCode runTool(const QStringList& arguments, Console& console);
 

@@ -32,13 +32,21 @@ class Patterns {
   std::optional<OdHatchPatternFile> m_file;
 };
 
-} // namespace
-
-int main(int argc, char** argv) {
-  const drafton::OffscreenApplication application(argc, argv);
-  tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
+int run(const QStringList& arguments) {
   QTextStream out(stdout);
   QTextStream err(stderr);
   tpal::Console console{out, err};
-  return tpal::runTool(QCoreApplication::arguments().mid(1), console);
+  return tpal::runTool(arguments, console);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  if (!tpal::makesPictures(QStringList(argv + 1, argv + argc))) {
+    const QCoreApplication application(argc, argv);
+    return run(QCoreApplication::arguments().mid(1));
+  }
+  const drafton::OffscreenApplication application(argc, argv);
+  tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
+  return run(QCoreApplication::arguments().mid(1));
 }

@@ -11,27 +11,27 @@ constexpr int kAnyNumber = 1 << 20;
 constexpr Command kCommands[] = {
     {"list", "list DIR... [--json]",
      "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.", "", 1,
-     kAnyNumber, listCommand},
+     kAnyNumber, false, listCommand},
     {"check", "check DIR... [--json]",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
      "      references, ids that stand twice, tools that do nothing and paths that lead nowhere.",
-     "", 1, kAnyNumber, checkCommand},
+     "", 1, kAnyNumber, false, checkCommand},
     {"resave", "resave DIR [--to DIR] [--json]",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
-     "--to ", 1, 1, resaveCommand},
+     "--to ", 1, 1, false, resaveCommand},
     {"import",
      "import FILE... --into DIR [--group NAME] [--dry-run] [--map OLD=NEW]...\n"
      "       [--convert-commands] [--json]",
      "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
      "its\n"
      "      stores (.atc), and all of these in a folder. Says of each tool what became of it.",
-     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, importCommand},
+     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, false, importCommand},
     {"export", "export DIR PALETTE FILE.xtp [--json]",
      "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
-     "", 3, 3, exportCommand},
+     "", 3, 3, false, exportCommand},
     {"images", "images DIR [--missing | --rebuild] [--json]",
      "Says which tools lack a picture at which size; makes those that are missing, or all anew.",
-     "--missing --rebuild ", 1, 1, imagesCommand},
+     "--missing --rebuild ", 1, 1, true, imagesCommand},
 };
 
 void printHelp(QTextStream& out) {
@@ -131,7 +131,19 @@ std::optional<OdString> parse(const Command& command, const QStringList& words,
   return std::nullopt;
 }
 
+const Command* findCommand(const OdString& name) {
+  const auto* const found =
+      std::find_if(std::begin(kCommands), std::end(kCommands),
+                   [&](const Command& c) { return name == QLatin1String(c.name); });
+  return found == std::end(kCommands) ? nullptr : found;
+}
+
 } // namespace
+
+bool makesPictures(const QStringList& arguments) {
+  const Command* const command = findCommand(arguments.value(0));
+  return command && command->makesPictures;
+}
 
 ExitCode runTool(const QStringList& words, Console& console) {
   const OdString first = words.isEmpty() ? OdString() : words.first();
@@ -143,10 +155,8 @@ ExitCode runTool(const QStringList& words, Console& console) {
     console.out << "tpal " TPAL_VERSION "\n";
     return kOk;
   }
-  const auto* command =
-      std::find_if(std::begin(kCommands), std::end(kCommands),
-                   [&](const Command& c) { return first == QLatin1String(c.name); });
-  if (command == std::end(kCommands)) {
+  const Command* const command = findCommand(first);
+  if (!command) {
     console.err << (first.isEmpty() ? QStringLiteral("tpal: a command is missing")
                                     : QStringLiteral("tpal: unknown command %1").arg(first))
                 << "; see tpal --help\n";

@@ -133,6 +133,21 @@ std::optional<Bow> bowOfLines(const OdGePoint3d& start1, const OdGePoint3d& end1
 
 bool canBeDrawn(const Bow& bow) { return bow.radius > 0 && std::isfinite(bow.radius); }
 
+/// The drawing of a dimension that is told by a vertex, a point on either side and one on its bow.
+template <class Dimension>
+bool layOutBow(oddb::DimensionBlock& block, const Dimension& dimension, const OdString& text,
+               const OdGePoint3d& textMiddle, OdGePoint3d& drawnMiddle) {
+  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(dimension.normal()).inverse();
+  const OdGePoint3d points[] = {toPlane * dimension.centerPoint(),
+                                toPlane * dimension.xLine1Point(),
+                                toPlane * dimension.xLine2Point(), toPlane * dimension.arcPoint()};
+  const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
+  if (!canBeDrawn(bow)) return false;
+  drawnMiddle = drawBow(block, dimension, bow, text, textMiddle);
+  for (const OdGePoint3d& p : points) block.definitionPoint(p);
+  return true;
+}
+
 } // namespace
 
 bool OdDb2LineAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
@@ -148,25 +163,11 @@ bool OdDb2LineAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn)
 }
 
 bool OdDb3PointAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
-  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
-  const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
-                                toPlane * xLine2Point(), toPlane * arcPoint()};
-  const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
-  if (!canBeDrawn(bow)) return false;
-  drawn.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
-  for (const OdGePoint3d& p : points) block.definitionPoint(p);
-  return true;
+  return layOutBow(block, *this, displayedText(), m_dimension.textMiddle, drawn.textMiddle);
 }
 
 bool OdDbArcDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
-  const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(normal()).inverse();
-  const OdGePoint3d points[] = {toPlane * centerPoint(), toPlane * xLine1Point(),
-                                toPlane * xLine2Point(), toPlane * arcPoint()};
-  const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
-  if (!canBeDrawn(bow)) return false;
-  drawn.textMiddle = drawBow(block, *this, bow, displayedText(), m_dimension.textMiddle);
-  for (const OdGePoint3d& p : points) block.definitionPoint(p);
-  return true;
+  return layOutBow(block, *this, displayedText(), m_dimension.textMiddle, drawn.textMiddle);
 }
 
 bool OdDbOrdinateDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {

@@ -84,8 +84,8 @@ TEST(HostileCatalogs, TakeMemoryInProportionToTheirFile) {
   EXPECT_LT(run.out.size(), 100000) << "what is said of it stays readable";
   struct rusage usage = {};
   ASSERT_EQ(getrusage(RUSAGE_CHILDREN, &usage), 0);
-  // In kilobytes, the greatest of all programs that this one started; they have fonts in memory.
-  EXPECT_LT(usage.ru_maxrss, (6 * kSize + 200 * kMegabyte) / 1024);
+  // In kilobytes, the greatest of all programs that this one started.
+  EXPECT_LT(usage.ru_maxrss, (6 * kSize + 100 * kMegabyte) / 1024);
 }
 
 TEST(HostileCatalogs, PalettesThatLeadOutOfTheFolderAreNeverWritten) {
