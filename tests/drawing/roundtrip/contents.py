@@ -261,15 +261,17 @@ def values(entity):
         # Old files have neither a handle among these nor plain dashes told to be plain.
         result["tags"] = [[t.code, plain(t.value)] for t in entity.pattern_tags.tags
                           if t.code != 5 and (t.code, t.value) != (74, 0)]
-    if entity.dxftype() == "DIMSTYLE":
-        # Old files name the usual arrows without the line in front that their blocks have.
+    if entity.dxftype() == "DIMSTYLE" and entity.doc.dxfversion == "AC1009":
+        # Files of R12 name the usual arrows without the line in front that their blocks have.
         for name in ("dimblk", "dimblk1", "dimblk2", "dimldrblk"):
-            if name in result:
-                result[name] = result[name].lstrip("_")
+            if result.get(name) in R12_ARROWS:
+                result[name] = "_" + result[name]
     if entity.dxftype() == "STYLE" and entity.has_extended_font_data:
         result["font"] = plain(entity.get_extended_font_data())
     return result
 
+
+R12_ARROWS = {"ARCHTICK", "CLOSEDBLANK"}
 
 PRESETS = {"column_count": 1, "lineweight": -3, "row_count": 1, "column_spacing": 0, "row_spacing": 0, "xscale": 1,
            "yscale": 1, "zscale": 1, "text_rotation": 0, "horizontal_direction": 0,
