@@ -13,8 +13,13 @@ namespace {
 
 constexpr std::string_view kSection = "THUMBNAILIMAGE";
 constexpr int kStructureCode = 0, kBytesCode = 310;
-/// Larger ones are no previews.
-constexpr qsizetype kMostBytes = 64 << 20;
+/// Larger sections are no previews.
+constexpr qint64 kMostBytes = 64 << 20;
+constexpr qint64 kFirstPiece = 64 << 10;
+/// How often the section's name may stand in texts before it.
+constexpr int kMostNames = 1000;
+/// Behind the name there is nothing but the end of its line.
+constexpr qint64 kLongestRest = 256;
 
 // The headers of bitmap files, as Windows has them.
 constexpr std::uint32_t kFileHeader = 14, kInfoHeader = 40, kMaskBytes = 12;
@@ -35,17 +40,18 @@ std::uint32_t paletteBytes(const QByteArray& bitmap) {
   return compression == kBitFields ? kMaskBytes : 0;
 }
 
-/// Gives the picture's bytes that follow a section's name; empty if what follows is none.
-QByteArray bytesOfSection(OdDbDxfSource& tags) {
+/// The picture's bytes that follow a section's name, empty if what follows is none; nothing if the
+/// tags end before the section does.
+std::optional<QByteArray> bytesOfSection(OdDbDxfSource& tags) {
   QByteArray bytes;
   OdDbDxfTag tag;
-  while (tags.next(tag) == OdDbDxfSource::kTag && tag.code != kStructureCode) {
-    if (tag.code != kBytesCode) continue;
-    bytes += QByteArray::fromHex(
-        QByteArray::fromRawData(tag.text.data(), static_cast<qsizetype>(tag.text.size())));
-    if (bytes.size() > kMostBytes) return {};
+  while (tags.next(tag) == OdDbDxfSource::kTag) {
+    if (tag.code == kStructureCode) return bytes;
+    if (tag.code == kBytesCode)
+      bytes += QByteArray::fromHex(
+          QByteArray::fromRawData(tag.text.data(), static_cast<qsizetype>(tag.text.size())));
   }
-  return bytes;
+  return std::nullopt;
 }
 
 /// Searches a file from where it stands for the section's name; it then stands behind the name.
@@ -64,9 +70,30 @@ bool findName(QFile& file) {
   return false;
 }
 
-/// What stands between the section's name and the next group code.
-qint64 restOfLine(QFile& file, bool isBinary) {
-  return isBinary ? file.skip(1) : file.readLine().size();
+/// Goes on to the group code behind the section's name.
+void passRestOfLine(QFile& file, bool isBinary) {
+  if (isBinary)
+    file.skip(1);
+  else
+    file.readLine(kLongestRest);
+}
+
+/// The picture's bytes behind the section's name. No more of the file is read than the section
+/// takes, or not much more.
+QByteArray bytesBehindName(QFile& file, bool isBinary) {
+  constexpr std::string_view kMark = OdDbDxfBinarySource::kMark;
+  const qint64 start = file.pos();
+  for (qint64 piece = kFirstPiece; piece <= kMostBytes; piece *= 4) {
+    if (!file.seek(start)) break;
+    QByteArray tags = file.read(piece);
+    const bool isAll = tags.size() < piece;
+    if (isBinary) tags.prepend(kMark.data(), kMark.size());
+    const std::unique_ptr<OdDbDxfSource> source =
+        OdDbDxfSource::of(OdDbDxfBytes({tags.constData(), static_cast<std::size_t>(tags.size())}));
+    const std::optional<QByteArray> bytes = bytesOfSection(*source);
+    if (bytes || isAll) return bytes.value_or(QByteArray());
+  }
+  return {};
 }
 
 } // namespace
@@ -91,14 +118,10 @@ QImage readStoredPreview(const OdString& path) {
   const bool isBinary =
       file.read(qint64{kMark.size()}) == QByteArrayView(kMark.data(), kMark.size());
   // The name may stand in a text as well: no picture follows then, and the search goes on.
-  while (findName(file)) {
-    restOfLine(file, isBinary);
+  for (int tried = 0; tried < kMostNames && findName(file); ++tried) {
+    passRestOfLine(file, isBinary);
     const qint64 behind = file.pos();
-    QByteArray rest = file.read(2 * kMostBytes);
-    if (isBinary) rest.prepend(kMark.data(), kMark.size());
-    const std::unique_ptr<OdDbDxfSource> tags =
-        OdDbDxfSource::of(OdDbDxfBytes({rest.constData(), static_cast<std::size_t>(rest.size())}));
-    if (const QByteArray bytes = bytesOfSection(*tags); !bytes.isEmpty())
+    if (const QByteArray bytes = bytesBehindName(file, isBinary); !bytes.isEmpty())
       return pictureOfPreview(bytes);
     if (!file.seek(behind)) break;
   }

@@ -111,6 +111,22 @@ TEST_F(StoredPreviews, AreFoundBehindATextThatNamesTheirSection) {
   EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
 }
 
+TEST_F(StoredPreviews, MayBeLargerThanWhatIsReadAtFirst) {
+  QImage large(400, 300, QImage::Format_RGB32);
+  large.fill(qRgb(1, 2, 3));
+  drawingWith(bitmapOf(large))->writeFile(path());
+  EXPECT_EQ(readStoredPreview(path()).size(), large.size());
+}
+
+TEST_F(StoredPreviews, AreFoundBehindManyTextsAndLinesWithoutEnd) {
+  drawingWith(bitmapOf(picture()))->writeFile(path());
+  const QByteArray bytes = read();
+  QByteArray comments;
+  for (int i = 0; i < 900; ++i) comments += "999\nTHUMBNAILIMAGE\n";
+  write(comments + "999\nTHUMBNAILIMAGE" + QByteArray(100000, 'x') + '\n' + bytes);
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+}
+
 TEST_F(StoredPreviews, AreFoundAcrossThePiecesThatTheSearchReads) {
   drawingWith(bitmapOf(picture()))->writeFile(path());
   const QByteArray bytes = read();
