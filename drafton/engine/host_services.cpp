@@ -59,10 +59,13 @@ bool HostServices::queryInterface(KVInterfaceId id, void** out) {
     return true;
   }
   for (const ServiceRow& row : kServices)
-    if (row.id == id) *out = row.make(m_engine);
+    if (row.id == id) {
+      *out = row.make(m_engine);
+      return *out != nullptr;
+    }
   if (const auto offered = m_offered.find(id); offered != m_offered.end())
     return offered->second->queryInterface(id, out);
-  return *out != nullptr;
+  return false;
 }
 
 void HostServices::offer(KVInterfaceId id, KVPtr<IKVUnknown> object) {
