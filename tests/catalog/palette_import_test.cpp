@@ -193,6 +193,26 @@ TEST_F(PaletteImportTest, WithoutANamedFolderPicturesLieInTheOneThatIsCalledLike
   EXPECT_EQ(row(u"A"_s).picture, OdTcPictureFate::kFound);
 }
 
+TEST_F(PaletteImportTest, PicturesThatLieInALibraryOfTheOtherProgramAreMadeAnew) {
+  const QByteArray library =
+      "<Image cx=\"64\" cy=\"64\" src=\"AcTpCatalogRes.dll\" resource=\"X\"/>";
+  const OdTcToolPalettePtr palette = import(exported(
+      toolXml("L", "<Light/>") +
+      toolXml("G",
+              "<Hatch><hatchObjectType>1</hatchObjectType><GradientName>LINEAR</GradientName>"
+              "</Hatch>",
+              "1", library) +
+      toolXml("C", "<Command Macro=\"_LINE\"/>", "1", library)));
+  EXPECT_EQ(row(u"G"_s).picture, OdTcPictureFate::kMade);
+  EXPECT_EQ(row(u"C"_s).picture, OdTcPictureFate::kResource);
+  const OdTcCatalogPtr again = load(catalog().path());
+  const auto tools = toolsOf(*again->findPalette(palette->id()));
+  for (const int kind : {1, 3, 4}) {
+    ASSERT_TRUE(tools[0]->images()->findBySize(kind)) << kind;
+    EXPECT_FALSE(tools[0]->images()->findBySize(kind)->getBitmap().isNull()) << kind;
+  }
+}
+
 TEST_F(PaletteImportTest, MapsTheFoldersOfSourcesOnTheWayIn) {
   writeFile(u"lib\\door.dwg"_s, "x");
   const auto block = [](const QByteArray& id, const QByteArray& source) {

@@ -11,7 +11,8 @@ def describe(entity):
     for name in ("start", "end", "center", "insert"):
         if entity.dxf.hasattr(name):
             row[name] = [round(c, 6) for c in entity.dxf.get(name)]
-    for name in ("radius", "text", "height"):
+    for name in ("radius", "text", "height", "name", "xscale", "rotation", "pattern_name",
+                 "pattern_scale"):
         if entity.dxf.hasattr(name):
             row[name] = entity.dxf.get(name)
     if entity.dxftype() == "LWPOLYLINE":

@@ -86,6 +86,43 @@ TEST(ImportingPalettes, AScriptImportsRunsAndExports) {
   EXPECT_TRUE(QFileInfo::exists(bench.path(QStringLiteral("back/Images/walls.png"))));
 }
 
+TEST(ImportingPalettes, BlocksAndHatchesKeepWhatTheyWereGiven) {
+  const Workbench bench;
+  const RunResult drawn = bench.batch({}, "LINE 0,0 2,0 \n\n");
+  ASSERT_EQ(drawn.exitCode, 0) << qPrintable(drawn.out + drawn.err);
+  ASSERT_TRUE(QFile::rename(bench.drawing(), bench.path(QStringLiteral("door.dxf"))));
+  const QString file = bench.write(
+      QStringLiteral("p.xtp"),
+      "<Palette><ItemID idValue=\"{P}\"/><Tools><Tool><ItemID idValue=\"{A}\"/><Properties>"
+      "<ItemName>Door</ItemName></Properties><ToolType>1</ToolType><Data><Block>"
+      "<BlockType>2</BlockType><BlockName>door</BlockName><SourceFile>C:\\Old\\door.dxf"
+      "</SourceFile><InsertAs>1</InsertAs><Scale>2</Scale><Rotation>1.5707963267948966</Rotation>"
+      "<PromptRotation>FALSE</PromptRotation></Block></Data></Tool><Tool><ItemID "
+      "idValue=\"{B}\"/><Properties><ItemName>Lines</ItemName></Properties><ToolType>1</ToolType>"
+      "<Data><GeneralProperties><Color><BasicPropInfo><PropValue unspecified=\"FALSE\"/>"
+      "</BasicPropInfo><CreateInfo><AcCmColor mRGB=\"-1023410175\"/></CreateInfo></Color>"
+      "</GeneralProperties><Hatch><hatchObjectType>0</hatchObjectType><HatchType>1</HatchType>"
+      "<PatternName>ANSI31</PatternName><SourceFile>draftoniso.pat</SourceFile><Angle>0.5</Angle>"
+      "<Scale>2</Scale></Hatch></Data></Tool></Tools></Palette>");
+  const RunResult imported =
+      import(bench, {file, QStringLiteral("--map"), QStringLiteral("C:\\Old=") + bench.path({})});
+  ASSERT_EQ(imported.exitCode, 0) << qPrintable(imported.out + imported.err);
+  const RunResult run = bench.batch(bench.path(QStringLiteral("c")),
+                                    "TOOL:Door\n5,5\nRECTANG 0,0 10,10\nTOOL:Lines\n4,1\n\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  const QJsonArray entities = bench.entities();
+  ASSERT_EQ(entities.size(), 3) << qPrintable(run.out);
+  EXPECT_EQ(entities[0][QStringLiteral("type")].toString(), QStringLiteral("INSERT"));
+  EXPECT_EQ(entities[0][QStringLiteral("name")].toString(), QStringLiteral("door"));
+  EXPECT_EQ(entities[0][QStringLiteral("xscale")].toDouble(), 2.0);
+  EXPECT_NEAR(entities[0][QStringLiteral("rotation")].toDouble(), 90.0, 1e-3)
+      << "six digits of the radians stand in the file";
+  EXPECT_EQ(entities[2][QStringLiteral("type")].toString(), QStringLiteral("HATCH"));
+  EXPECT_EQ(entities[2][QStringLiteral("pattern_name")].toString(), QStringLiteral("ANSI31"));
+  EXPECT_EQ(entities[2][QStringLiteral("pattern_scale")].toDouble(), 2.0);
+  EXPECT_EQ(entities[2][QStringLiteral("color")].toInt(), 1);
+}
+
 TEST(ImportingPalettes, AScriptFailsAtAFileThatCannotBeImported) {
   const Workbench bench;
   const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});
