@@ -60,6 +60,21 @@ bool isCut(const QString& platformPath) {
   return false;
 }
 
+/// What is looked for among the libraries of the process, and the path of what was found.
+struct LoadedFile {
+  QByteArray names[3];
+  QByteArray path;
+};
+
+int compareLoaded(dl_phdr_info* library, std::size_t, void* data) {
+  auto& wanted = *static_cast<LoadedFile*>(data);
+  const QByteArrayView path(library->dlpi_name);
+  const QByteArrayView file = path.sliced(path.lastIndexOf('/') + 1);
+  for (const QByteArray& name : wanted.names)
+    if (name == (name.contains('/') ? path : file)) wanted.path = path.toByteArray();
+  return wanted.path.isEmpty() ? 0 : 1;
+}
+
 } // namespace
 
 OdModuleHandle oddynlib::mainExecutable() { return dlopen(nullptr, RTLD_LAZY); }
@@ -68,14 +83,14 @@ OdModuleHandle oddynlib::loadedModule(const OdString& name) {
   if (name.isEmpty()) return nullptr; // the system would give the program itself
   const OdString title =
       name.endsWith(QLatin1String(".dll"), Qt::CaseInsensitive) ? odpath::titleOf(name) : name;
-  for (const OdString& candidate :
-       {title, title + QLatin1String(".so"), QLatin1String("lib") + title + QLatin1String(".so")}) {
-    if (void* handle = dlopen(candidate.toLocal8Bit().constData(), RTLD_LAZY | RTLD_NOLOAD)) {
-      dlclose(handle); // the lookup itself must not pin the library
-      return handle;
-    }
-  }
-  return nullptr;
+  // dlopen() itself would look through all folders of the system's at each question.
+  LoadedFile wanted{{title.toLocal8Bit(), (title + QLatin1String(".so")).toLocal8Bit(),
+                     (QLatin1String("lib") + title + QLatin1String(".so")).toLocal8Bit()},
+                    {}};
+  if (dl_iterate_phdr(compareLoaded, &wanted) == 0) return nullptr;
+  void* const handle = dlopen(wanted.path.constData(), RTLD_LAZY | RTLD_NOLOAD);
+  if (handle) dlclose(handle); // the lookup itself must not pin the library
+  return handle;
 }
 
 void* oddynlib::procAddress(OdModuleHandle module, const char* name) {

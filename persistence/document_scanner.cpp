@@ -126,18 +126,17 @@ bool OdTcDocumentScanner::failUnclosed() {
 bool OdTcDocumentScanner::scanMarkup() {
   if (startsWith("</")) return scanEndTag();
   if (m_end - m_at >= 5 && qstrnicmp(m_at, "<?xml", 5) == 0) return cutDeclaration();
-  if (startsWith("<!--")) return scanPast("-->", 4, tr(QStringLiteral("the comment does not end")));
-  if (startsWith("<![CDATA["))
-    return scanPast("]]>", 9, tr(QStringLiteral("the CDATA section does not end")));
+  if (startsWith("<!--")) return scanPast("-->", 4, u"the comment does not end");
+  if (startsWith("<![CDATA[")) return scanPast("]]>", 9, u"the CDATA section does not end");
   if (m_end - m_at > 1 && isNameStart(m_at[1])) return scanElement();
-  return scanPast(">", 1, tr(QStringLiteral("the tag does not end")));
+  return scanPast(">", 1, u"the tag does not end");
 }
 
 bool OdTcDocumentScanner::scanPast(std::string_view what, std::size_t from,
-                                   const OdString& unfinished) {
+                                   const char16_t* unfinished) {
   const std::string_view rest = between(m_at, m_end);
   const std::size_t found = rest.find(what, from);
-  if (found == std::string_view::npos) return fail(m_at, unfinished);
+  if (found == std::string_view::npos) return fail(m_at, tr(OdString::fromUtf16(unfinished)));
   m_at += found + what.size();
   return true;
 }

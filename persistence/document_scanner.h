@@ -43,7 +43,7 @@ class OdTcDocumentScanner {
   bool scanAttributes(std::string_view name);
   bool scanAttribute(std::string_view element);
   bool cutDeclaration();
-  bool scanPast(std::string_view what, std::size_t from, const OdString& unfinished);
+  bool scanPast(std::string_view what, std::size_t from, const char16_t* unfinished);
   std::string_view scanName();
 
   bool startsWith(std::string_view what) const;

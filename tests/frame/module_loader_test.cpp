@@ -168,6 +168,8 @@ TEST(DynamicLibrary, FindsExportsOfTheProgramItself) {
   EXPECT_EQ(oddynlib::procAddress(nullptr, "malloc"), nullptr);
   EXPECT_EQ(oddynlib::loadedModule(QStringLiteral("no_such_module.dll")), nullptr);
   EXPECT_EQ(oddynlib::loadedModule(OdString()), nullptr) << "that is not the program itself";
+  EXPECT_NE(oddynlib::loadedModule(QStringLiteral("odframe.dll")), nullptr)
+      << "by its bare name, in whatever folder it stands";
 }
 
 } // namespace
