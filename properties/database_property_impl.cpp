@@ -219,9 +219,7 @@ void OdTcDatabasePropertyImpl::restoreToDatabase(OdDbDatabase* database) {
 
 bool OdTcDatabasePropertyImpl::captureFromObject(const OdDbObject* object) {
   const auto* const entity = odrxCast<OdDbEntity>(object);
-  if (!entity || !kind().capture) return false;
-  kind().capture(*this, *entity);
-  return true;
+  return entity && kind().capture && kind().capture(*this, *entity);
 }
 
 // --- an editor

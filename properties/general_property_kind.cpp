@@ -1,9 +1,10 @@
 #include "properties/general_property_kind.h"
 
 #include "drawing/database.h"
-#include "drawing/entities/entity.h"
 #include "module/string_table.h"
 #include "properties/database_property_impl.h"
+#include "properties/entity_values.h"
+#include "properties/value_words.h"
 
 #include <array>
 #include <cmath>
@@ -13,11 +14,6 @@ namespace tc {
 namespace {
 
 using Property = OdTcDatabasePropertyImpl;
-
-constexpr QStringView kByLayer = u"ByLayer";
-constexpr QStringView kByBlock = u"ByBlock";
-constexpr QStringView kByDefault = u"ByDefault";
-constexpr QStringView kContinuous = u"Continuous";
 
 constexpr std::array kLineTypeWords = {kByLayer, kByBlock, kContinuous};
 constexpr std::array kLayerWords = {kByLayer, kByBlock};
@@ -85,52 +81,6 @@ CurrentValue wantedTransparency(const Property& property, OdDbDatabase&) {
              : CurrentValue();
 }
 
-void captureColor(Property& property, const OdDbEntity& entity) {
-  property.setColor(entity.color());
-}
-void captureLayer(Property& property, const OdDbEntity& entity) {
-  if (entity.layerId()) property.takeRecord(entity.layerId());
-}
-void captureLineType(Property& property, const OdDbEntity& entity) {
-  if (entity.linetypeId()) property.takeRecord(entity.linetypeId());
-}
-void captureScale(Property& property, const OdDbEntity& entity) {
-  property.setText(OdString::number(entity.linetypeScale()));
-}
-void capturePlotStyle(Property& property, const OdDbEntity& entity) {
-  switch (entity.plotStyleNameType()) {
-  case OdDb::kPlotStyleNameById:
-    property.setText(entity.plotStyleName());
-    break;
-  case OdDb::kPlotStyleNameByBlock:
-    property.setText(kByBlock.toString());
-    break;
-  default:
-    property.setText(kByLayer.toString());
-  }
-}
-void captureLineWeight(Property& property, const OdDbEntity& entity) {
-  switch (entity.lineWeight()) {
-  case OdDb::kLnWtByLayer:
-    property.setText(kByLayer.toString());
-    break;
-  case OdDb::kLnWtByBlock:
-    property.setText(kByBlock.toString());
-    break;
-  case OdDb::kLnWtByLwDefault:
-    property.setText(kByDefault.toString());
-    break;
-  default:
-    property.setText(OdString::number(entity.lineWeight()));
-  }
-}
-void captureTransparency(Property& property, const OdDbEntity& entity) {
-  const OdCmTransparency value = entity.transparency();
-  property.setText(value.isByLayer()   ? kByLayer.toString()
-                   : value.isByBlock() ? kByBlock.toString()
-                                       : OdString::number(value.percent()));
-}
-
 void setPlotStyle(OdDbDatabase& database, const CurrentValue& value) {
   const auto& style = std::get<CurrentPlotStyle>(value);
   database.setCurrentPlotStyle(style.type, style.id);
@@ -182,7 +132,7 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      get<&Db::currentLinetypeScale>,
      set<double, &Db::setCurrentLinetypeScale>,
      wantedScale,
-     captureScale},
+     captureLineTypeScale},
     {u"PlotStyle", label(StringId::kPlotStyle), nullptr, nullptr, kLayerWords,
      [](const Db& database) -> CurrentValue {
        return CurrentPlotStyle{database.currentPlotStyleType(), database.currentPlotStyleId()};
@@ -201,7 +151,8 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      {},
      get<&Db::currentTextStyle>,
      set<OdDbObjectId, &Db::setCurrentTextStyle>,
-     wantedRecord},
+     wantedRecord,
+     captureTextStyle},
     {u"Dimstyle",
      label(StringId::kDimensionStyle),
      makeRecordInfo<kDimStyleInfo>,
@@ -209,7 +160,8 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      {},
      get<&Db::currentDimStyle>,
      set<OdDbObjectId, &Db::setCurrentDimStyle>,
-     wantedRecord},
+     wantedRecord,
+     captureDimStyle},
     // Kept for the files' sake: it has no label and drives nothing.
     {u"Tablestyle", {}},
 }};

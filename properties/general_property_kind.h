@@ -59,8 +59,8 @@ struct GeneralPropertyKind {
   /// What the property imposes; nothing if it holds no value that the drawing can take.
   CurrentValue (*wanted)(const OdTcDatabasePropertyImpl& property,
                          OdDbDatabase& database) = nullptr;
-  /// Takes the value of an entity; null for kinds that entities do not have.
-  void (*capture)(OdTcDatabasePropertyImpl& property, const OdDbEntity& entity) = nullptr;
+  /// Takes the value of an entity; false if the entity has none. Null for kinds that no entity has.
+  bool (*capture)(OdTcDatabasePropertyImpl& property, const OdDbEntity& entity) = nullptr;
 };
 
 const GeneralPropertyKind& generalPropertyKind(GeneralProperty property);

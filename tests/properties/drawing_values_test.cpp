@@ -2,7 +2,6 @@
 #include "properties/general_properties.h"
 
 #include "drawing/database.h"
-#include "drawing/entities/line.h"
 #include "properties/layer_table_record_impl.h"
 #include "properties/line_type_table_record_impl.h"
 #include "support/golden.h"
@@ -322,39 +321,6 @@ TEST_F(DrawingValuesTest, TextStyleIsFoundOrMade) {
   EXPECT_EQ(made->fileName(), text(u"romans.shx"));
   property->restoreToDatabase(drawing);
   EXPECT_EQ(drawing->currentTextStyle(), before);
-}
-
-TEST_F(DrawingValuesTest, EntityGivesItsValues) {
-  const OdDbObjectId walls = addLayer(u"Walls", 2);
-  auto line = odrxMake<OdDbLine>(OdGePoint3d(0, 0, 0), OdGePoint3d(1, 0, 0));
-  line->setDatabaseDefaults(*drawing);
-  drawing->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(line);
-  line->setLayer(walls);
-  line->setColor(OdCmColor::fromColorIndex(5));
-  line->setLineWeight(static_cast<OdDb::LineWeight>(35));
-  line->setLinetypeScale(0.25);
-  line->setTransparency(OdCmTransparency::fromPercent(30));
-
-  const auto color = odrxMake<OdTcColorPropertyImpl>();
-  const auto layer = odrxMake<OdTcLayerPropertyImpl>();
-  const auto weight = odrxMake<OdTcLineWeightPropertyImpl>();
-  const auto scale = odrxMake<OdTcLineTypeScalePropertyImpl>();
-  const auto transparency = odrxMake<OdTcTransparencyPropertyImpl>();
-  const auto plotStyle = odrxMake<OdTcPlotStylePropertyImpl>();
-  EXPECT_TRUE(color->captureFromObject(line));
-  EXPECT_TRUE(layer->captureFromObject(line));
-  EXPECT_TRUE(weight->captureFromObject(line));
-  EXPECT_TRUE(scale->captureFromObject(line));
-  EXPECT_TRUE(transparency->captureFromObject(line));
-  EXPECT_TRUE(plotStyle->captureFromObject(line));
-  EXPECT_FALSE(odrxMake<OdTcDimStylePropertyImpl>()->captureFromObject(line));
-  EXPECT_FALSE(color->captureFromObject(walls.openObject()));
-  EXPECT_EQ(color->color().colorIndex(), 5);
-  EXPECT_EQ(layer->record()->recordName(), text(u"Walls"));
-  EXPECT_EQ(weight->text(), text(u"35"));
-  EXPECT_EQ(scale->text(), text(u"0.25"));
-  EXPECT_EQ(transparency->text(), text(u"30"));
-  EXPECT_EQ(plotStyle->text(), text(u"ByLayer"));
 }
 
 } // namespace
