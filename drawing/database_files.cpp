@@ -3,6 +3,7 @@
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/document_out.h"
 #include "drawing/dxf/template.h"
+#include "drawing/foreign_drawings.h"
 #include "frame/file_path.h"
 
 #include <QFile>
@@ -55,6 +56,11 @@ OdDbDatabasePtr newDatabase(std::uint64_t lastHandle) {
   return database;
 }
 
+oddb::ForeignReader& foreignReader() {
+  static oddb::ForeignReader reader;
+  return reader;
+}
+
 /// Reads what `make` gives twice: for a look ahead, and for good.
 OdDbDatabasePtr load(const BytesMaker& make, const OdString& name) {
   const oddxf::Start start = oddxf::lookAhead(*OdDbDxfSource::of(make()), name);
@@ -82,7 +88,15 @@ OdDbDatabasePtr OdDbDatabase::readDxf(QByteArrayView bytes, const OdString& name
   return load([&] { return OdDbDxfBytes(text); }, name);
 }
 
-OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
+void oddb::setForeignReader(ForeignReader reader) { foreignReader() = std::move(reader); }
+
+void oddb::noteWritten(OdDbDatabase& database, const OdString& path) {
+  database.data().fileStamp = OdDbFileStamp::of(path);
+}
+
+namespace {
+
+OdDbDatabasePtr readDxfFile(const OdString& path) {
   QFile file(odpath::toPlatform(path));
   const QFileInfo info(file.fileName());
   if (info.isDir()) throw OdFileError(eFileAccess, path, QStringLiteral("it is a folder"));
@@ -102,9 +116,16 @@ OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
     if (!file.seek(0)) refuse(eFileAccess);
     return OdDbDxfBytes(file);
   };
+  return load(fromStart, path);
+}
+
+} // namespace
+
+OdDbDatabasePtr OdDbDatabase::readFile(const OdString& path) {
   // Taken before reading: what others write meanwhile counts as a change.
   const OdDbFileStamp stamp = OdDbFileStamp::of(path);
-  const OdDbDatabasePtr database = load(fromStart, path);
+  OdDbDatabasePtr database = foreignReader() ? foreignReader()(path) : OdDbDatabasePtr();
+  if (!database) database = readDxfFile(path);
   database->setFileName(path);
   database->data().fileStamp = stamp;
   return database;
@@ -130,5 +151,5 @@ bool OdDbDatabase::isFileChangedByOthers() const {
 void OdDbDatabase::writeFile(const OdString& path, OdDb::DwgVersion version, bool keepBackup) {
   QSaveFile file(odpath::toPlatform(path));
   oddxf::saveDocument(*this, version, file, path, keepBackup);
-  m_data->fileStamp = OdDbFileStamp::of(path);
+  oddb::noteWritten(*this, path);
 }

@@ -103,6 +103,13 @@ bool BatchRun::saveDrawing(Engine& engine) {
                  .arg(m_options.out, document->name(), lost.join(QStringLiteral(", "))));
     return false;
   }
+  if (odpath::samePlace(path, document->path()) && document->database()->isFileChangedByOthers() &&
+      QFileInfo::exists(m_options.out)) {
+    failWith(kExitDrawing,
+             translated(u"%1 is not saved: another program has changed it since it was opened")
+                 .arg(m_options.out));
+    return false;
+  }
   if (!m_options.dxfVersion.isEmpty())
     document->variables()->set(QStringLiteral("DXFVERSION"), m_options.dxfVersion);
   try {

@@ -31,6 +31,17 @@ void save(CommandContext& context, Document& document, const OdString& path) {
   context.print(translated(u"Saved to %1.").arg(shown(path)));
 }
 
+/// Saving over what another program has made of the drawing's file takes a word of the user.
+Task<> askAboutChangesByOthers(CommandContext& context, Document& document) {
+  const OdString path = document.path();
+  if (!document.database()->isFileChangedByOthers() || !odrxSystemServices()->fileExists(path))
+    co_return;
+  const OdString question =
+      translated(u"Another program has changed %1 since it was opened. Save over it?")
+          .arg(shown(path));
+  if (!co_await confirm(context, question)) throw CommandCancelled();
+}
+
 Task<OdString> askVersion(CommandContext& context, Document& document) {
   const OdString now = dxfVersionName(savingVersion(context.engine(), document));
   const OdString names = dxfVersionNames();
@@ -59,6 +70,7 @@ Task<> askAndSave(CommandContext& context, Document& document) {
     throw CommandFailure(
         translated(u"%1: drawings are saved as .dxf or .dwg files.").arg(shown(path)));
   const bool isOwn = !current.isEmpty() && odpath::samePlace(path, current);
+  if (isOwn) co_await askAboutChangesByOthers(context, document);
   if (!isOwn && odrxSystemServices()->fileExists(path)) {
     const OdString question = translated(u"%1 exists. Replace it?").arg(shown(path));
     if (!co_await confirm(context, question)) throw CommandCancelled();
@@ -74,10 +86,12 @@ Task<> askAndSave(CommandContext& context, Document& document) {
 }
 
 Task<> saveOrAsk(CommandContext& context, Document& document) {
-  if (document.path().isEmpty())
+  if (document.path().isEmpty()) {
     co_await askAndSave(context, document);
-  else
-    save(context, document, document.path());
+    co_return;
+  }
+  co_await askAboutChangesByOthers(context, document);
+  save(context, document, document.path());
 }
 
 /// Asks what becomes of changes; raises CommandCancelled if the document is to stay open.

@@ -1,6 +1,5 @@
 #include "drafton/engine/document_manager.h"
 
-#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 
@@ -45,7 +44,7 @@ Document& DocumentManager::open(const OdString& path) {
     activate(*known);
     return *known;
   }
-  OdDbDatabasePtr database = readDrawing(m_engine, path);
+  OdDbDatabasePtr database = OdDbDatabase::readFile(path);
   Document& opened = add(std::make_unique<Document>(m_engine, std::move(database), OdString()));
   tellDamage(opened, path);
   return opened;

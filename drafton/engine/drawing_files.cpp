@@ -2,6 +2,8 @@
 
 #include "drafton/engine/dwg_converter.h"
 #include "drafton/engine/engine.h"
+#include "drawing/foreign_drawings.h"
+#include "drawing/replaced_file.h"
 #include "drawing/variable_recording.h"
 #include "frame/file_path.h"
 
@@ -95,14 +97,13 @@ class Workshop {
 
 /// Puts a copy of `made` in the place of `path` in one step.
 void putInPlace(const OdString& made, const OdString& path) {
+  const OdDbReplacedFile former(path);
   QFile from(made);
   QSaveFile to(odpath::toPlatform(path));
   to.setDirectWriteFallback(false);
   const auto require = [&](bool ok, const QFileDevice& device) {
     if (!ok) refuse(path, device.errorString());
   };
-  if (const QFileInfo info(to.fileName()); info.exists() && !info.isFile())
-    refuse(path, translated(u"it is not a file"));
   require(from.open(QIODevice::ReadOnly), from);
   require(to.open(QIODevice::WriteOnly), to);
   constexpr qint64 kPiece = 1024 * 1024;
@@ -110,6 +111,7 @@ void putInPlace(const OdString& made, const OdString& path) {
     require(to.write(piece) == piece.size(), to);
   require(from.error() == QFileDevice::NoError, from);
   require(to.flush(), to);
+  former.expectUntouched();
   require(to.commit(), to);
 }
 
@@ -137,8 +139,8 @@ bool isDrawingName(const OdString& path) {
          odpath::extensionOf(path).compare(QLatin1String("dxf"), Qt::CaseInsensitive) == 0;
 }
 
-OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path) {
-  if (!isConvertedDrawing(path)) return OdDbDatabase::readFile(path);
+OdDbDatabasePtr readConvertedDrawing(Engine& engine, const OdString& path) {
+  if (!isConvertedDrawing(path)) return nullptr;
   const QFileInfo original(odpath::toPlatform(path));
   if (!original.exists())
     throw OdFileError(eFileNotFound, path, translated(u"there is no such file"));
@@ -150,9 +152,7 @@ OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path) {
   if (!source.copy(input)) refuse(path, source.errorString());
   const OdString output = workshop.file("out", "dxf");
   workshop.convert(engine, settingOf(engine, kSetting), input, output);
-  OdDbDatabasePtr database = readConverted(output, path);
-  database->setFileName(path);
-  return database;
+  return readConverted(output, path);
 }
 
 void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path,
@@ -175,6 +175,7 @@ void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path,
   }
   workshop.convert(engine, commandLine, input, output);
   putInPlace(output, path);
+  oddb::noteWritten(database, path);
 }
 
 } // namespace drafton

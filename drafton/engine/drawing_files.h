@@ -12,9 +12,10 @@ bool isConvertedDrawing(const OdString& path);
 /// True if drawings can be saved under that name, by its extension.
 bool isDrawingName(const OdString& path);
 
-/// Reads a drawing; `path` is its file from then on. What is no DXF goes through the converter that
-/// the setting "DwgConverter" names. Raises OdFileError, which names `path`.
-OdDbDatabasePtr readDrawing(Engine& engine, const OdString& path);
+/// Reads a drawing that has to be converted, with the converter that the setting "DwgConverter"
+/// names; null for other drawings. While there is an engine, OdDbDatabase::readFile() goes this way
+/// by itself. Raises OdFileError, which names `path`.
+OdDbDatabasePtr readConvertedDrawing(Engine& engine, const OdString& path);
 
 /// Writes the drawing, in a version of DXF or as it was read; of one that was changed the header
 /// then tells the extents. A file that has to be converted takes

@@ -1,7 +1,9 @@
 #include "drafton/engine/engine.h"
 
+#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/exports.h"
 #include "drafton/engine/hatch_settings.h"
+#include "drawing/foreign_drawings.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 
@@ -49,6 +51,8 @@ Engine::Engine(EngineOptions options, Console& console, InputSource* input)
   keepHostExports();
   registerReactorClasses();
   g_engine = this;
+  oddb::setForeignReader(
+      [this](const OdString& path) { return readConvertedDrawing(*this, path); });
   m_commands.add(documentCommands());
   m_commands.add(drawingCommands());
   m_commands.add(blockCommands());
@@ -61,6 +65,7 @@ Engine::~Engine() {
   m_documents.buryClosed();
   m_modules.unloadAll();
   if (!m_settings->flush()) print(m_settings->problem());
+  oddb::setForeignReader({});
   g_engine = nullptr;
   unregisterReactorClasses();
 }

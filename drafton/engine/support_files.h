@@ -14,4 +14,9 @@ class Engine;
 OdString findSupportFile(Engine& engine, const Document* document, const OdString& name,
                          const OdString& extension);
 
+/// What to tell a user when there is none: that something else has the name (a folder, a device),
+/// or that nothing has.
+OdString whyNoSupportFile(Engine& engine, const Document* document, const OdString& name,
+                          const OdString& extension);
+
 } // namespace drafton

@@ -5,6 +5,7 @@
 #include "drawing/dxf/newer.h"
 #include "drawing/dxf/out.h"
 #include "drawing/dxf/text.h"
+#include "drawing/replaced_file.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -205,9 +206,7 @@ void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
   const auto require = [&](bool ok) {
     if (!ok) throw OdFileError(eFileAccess, path, file.errorString());
   };
-  // Of a device or a pipe nothing would be left but the new file.
-  if (const QFileInfo info(file.fileName()); info.exists() && !info.isFile())
-    throw OdFileError(eFileAccess, path, QStringLiteral("it is not a file"));
+  const OdDbReplacedFile former(path);
   file.setDirectWriteFallback(false);
   require(file.open(QIODevice::WriteOnly));
   writeDocument(database, version,
@@ -215,5 +214,6 @@ void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
   // commit() would not notice that the last bytes found no room.
   require(file.flush());
   if (keepBackup) backUp(file.fileName(), path);
+  former.expectUntouched();
   require(file.commit());
 }

@@ -277,12 +277,22 @@ void OdDbDxfIn::takeElevation(OdDbObject& object) {
 void OdDbDxfIn::keepGroup(OdDbObject& object) {
   // A group stands before the owner, but applications also put theirs into subclasses.
   const bool leading = m_subclass.empty();
-  do {
-    if (m_tag.code == 0) return;
+  const auto keep = [&] {
     if (leading)
       oddxf::addLines(object.editResidue().groups, m_tag.code, m_tag.text);
     else
       keepTag(object);
+  };
+  do {
+    if (m_tag.code == 0) {
+      // Left open, it would swallow what is written behind it.
+      const OdDbDxfTag next = std::exchange(m_tag, {102, "}"});
+      keep();
+      m_tag = next;
+      note(QStringLiteral("a group of an application has no end and got one"));
+      return;
+    }
+    keep();
     if (m_tag.code == 102 && m_tag.text == "}") {
       next();
       return;

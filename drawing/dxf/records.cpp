@@ -129,7 +129,14 @@ bool OdDbLinetypeTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   default:
     break;
   }
-  if (dashes.empty()) return false;
+  if (dashes.empty()) {
+    static constexpr int kOfDashes[] = {9, 44, 45, 46, 50, 74, 75, 340};
+    const bool isStray = std::ranges::find(kOfDashes, tag.code) != std::end(kOfDashes);
+    if (isStray)
+      in.note(
+          QStringLiteral("a line type tells of a dash before its first one (%1)").arg(tag.code));
+    return isStray;
+  }
   Dash& dash = dashes.back();
   switch (tag.code) {
   case 74: {

@@ -4,17 +4,32 @@
 
 #include <QFileInfo>
 
+namespace {
+
+OdString beside(const OdString& drawing, const OdString& name) {
+  const OdString folder = odpath::folderOf(drawing);
+  return folder.isEmpty() ? name : folder + u'\\' + name;
+}
+
+OdString absolute(const OdString& path, const OdString& drawing) {
+  return odpath::isRelative(path) ? beside(drawing, path) : path;
+}
+
+} // namespace
+
 OdString oddb::findStoredFile(const OdString& path, const OdString& drawing) {
   if (path.isEmpty()) return {};
-  const OdString folder = odpath::folderOf(drawing);
   const auto isFile = [](const OdString& stored) {
     return QFileInfo(odpath::toPlatform(stored)).isFile();
   };
-  const auto beside = [&](const OdString& name) {
-    return folder.isEmpty() ? name : folder + u'\\' + name;
-  };
-  const OdString named = odpath::isRelative(path) ? beside(path) : path;
+  const OdString named = absolute(path, drawing);
   if (isFile(named)) return named;
-  const OdString near = beside(odpath::fileNameOf(path));
+  const OdString near = beside(drawing, odpath::fileNameOf(path));
   return isFile(near) ? near : OdString();
+}
+
+bool oddb::isNoFile(const OdString& path, const OdString& drawing) {
+  if (path.isEmpty()) return false;
+  const QFileInfo info(odpath::toPlatform(absolute(path, drawing)));
+  return info.exists() && !info.isFile();
 }

@@ -10,4 +10,7 @@ namespace oddb {
 /// empty.
 OdString findStoredFile(const OdString& path, const OdString& drawing);
 
+/// True if something else stands where the path points to: a folder, a device or a pipe.
+bool isNoFile(const OdString& path, const OdString& drawing);
+
 } // namespace oddb

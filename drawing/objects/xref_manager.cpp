@@ -67,6 +67,10 @@ class Loader {
     OdDbDatabase& host = *block->database();
     if (m_open.empty()) m_open.push_back(host.fileName());
     const OdString path = OdDbXRefMan::resolvedPath(*block);
+    if (path.isEmpty() && oddb::isNoFile(block->pathName(), host.fileName())) {
+      tell(Result::kUnreadable, QStringLiteral("%1: it is not a file").arg(block->pathName()));
+      return;
+    }
     if (path.isEmpty()) {
       tell(Result::kFileMissing,
            QStringLiteral("The file \"%1\" cannot be found").arg(block->pathName()));

@@ -183,3 +183,30 @@ TEST(HostileDrawing, FolderAndMissingFileAreToldApart) {
   }
   EXPECT_THROW(OdDbDatabase::readFile(QStringLiteral("/dev/zero")), OdFileError);
 }
+
+TEST(HostileDrawing, SavesOfOddPlacesAreReadAsTheyWereMeant) {
+  const QByteArray old = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n0\nENDSEC\n";
+  const QByteArray today = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1032\n0\nENDSEC\n";
+  const QByteArray odd[] = {
+      // A vertex of no polyline.
+      old + "0\nSECTION\n2\nENTITIES\n0\nVERTEX\n5\n95\n8\n0\n10\n1.0\n20\n1.0\n30\n0.0\n70\n0\n"
+            "0\nENDSEC\n0\nEOF\n",
+      // A dash's offset before the first dash.
+      today +
+          "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLTYPE\n5\n5\n0\nLTYPE\n5\n32\n100\n"
+          "AcDbSymbolTableRecord\n100\nAcDbLinetypeTableRecord\n2\nD\n70\n0\n44\n65\n3\n\n72\n65\n"
+          "73\n1\n40\n4.5\n49\n3.0\n74\n0\n0\nENDTAB\n0\nENDSEC\n0\nEOF\n",
+      // A group of an application without its end.
+      today +
+          "0\nSECTION\n2\nOBJECTS\n0\nIMAGEDEF\n5\n94\n102\n{ACAD_X\n1\nhere\n0\nXRECORD\n5\n95\n"
+          "0\nENDSEC\n0\nEOF\n",
+  };
+  for (const QByteArray& file : odd) {
+    const OdDbDatabasePtr db = read(file);
+    EXPECT_EQ(db->unknownContent(), QStringList()) << file.constData();
+    const QByteArray saved = db->writeDxf();
+    const OdDbDatabasePtr again = read(saved);
+    EXPECT_EQ(again->readNotes(), QStringList()) << file.constData();
+    EXPECT_TRUE(again->writeDxf() == saved) << file.constData();
+  }
+}

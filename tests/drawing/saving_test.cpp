@@ -10,8 +10,12 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <fcntl.h>
+#include <functional>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -49,6 +53,23 @@ class UnnamableFile : public QSaveFile {
   }
 };
 
+/// A file during whose writing something happens.
+class EventfulFile : public QSaveFile {
+ public:
+  EventfulFile(const QString& path, std::function<void()> event)
+    : QSaveFile(path)
+    , m_event(std::move(event)) {}
+
+ protected:
+  qint64 writeData(const char* data, qint64 size) override {
+    if (m_event) std::exchange(m_event, nullptr)();
+    return QSaveFile::writeData(data, size);
+  }
+
+ private:
+  std::function<void()> m_event;
+};
+
 /// No file grows beyond a size while this is there.
 class FileSizeLimit {
  public:
@@ -82,20 +103,24 @@ class FailingSave : public ::testing::Test {
     QFile file(m_path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
+  /// Gives the reason.
   template <class Save>
-  void expectFailure(const Save& save) {
+  OdString expectFailure(const Save& save) {
+    OdString reason;
     try {
       save();
       ADD_FAILURE() << "saved";
     } catch (const OdFileError& e) {
       EXPECT_EQ(e.path(), m_path);
-      EXPECT_FALSE(e.reason().isEmpty());
+      reason = e.reason();
+      EXPECT_FALSE(reason.isEmpty());
     }
     EXPECT_TRUE(bytes() == m_old);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList{QStringLiteral("drawing.dxf")});
     EXPECT_TRUE(m_db->isModified());
     EXPECT_TRUE(m_db->writeDxf() == m_new);
+    return reason;
   }
 
   QTemporaryDir m_folder;
@@ -160,4 +185,68 @@ TEST_F(FailingSave, PipeIsNotReplacedByAFile) {
   struct stat status {};
   ASSERT_EQ(stat(path.toLocal8Bit().constData(), &status), 0);
   EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+TEST_F(FailingSave, LockedFileIsLeftToWhoHasLockedIt) {
+  for (const bool ofRange : {false, true}) {
+    const int other = open(m_path.toLocal8Bit().constData(), O_RDWR);
+    ASSERT_GE(other, 0);
+    struct flock all {};
+    all.l_type = F_WRLCK;
+    ASSERT_EQ(ofRange ? fcntl(other, F_OFD_SETLK, &all) : flock(other, LOCK_EX), 0);
+    const OdString reason = expectFailure([&] { m_db->writeFile(m_path); });
+    EXPECT_TRUE(reason.contains(QLatin1String("locked"))) << reason.toStdString();
+    close(other);
+  }
+  m_db->writeFile(m_path);
+  EXPECT_TRUE(bytes() == m_new) << "the lock is gone";
+}
+
+TEST_F(FailingSave, LocksThatReadersShareAreNoHindrance) {
+  const int other = open(m_path.toLocal8Bit().constData(), O_RDONLY);
+  struct flock all {};
+  all.l_type = F_RDLCK;
+  ASSERT_EQ(fcntl(other, F_OFD_SETLK, &all), 0);
+  ASSERT_EQ(flock(other, LOCK_SH), 0);
+  m_db->writeFile(m_path);
+  EXPECT_TRUE(bytes() == m_new);
+  close(other);
+}
+
+TEST_F(FailingSave, FileThatIsReplacedWhileTheNewOneIsWrittenStays) {
+  const OdString reason = expectFailure([&] {
+    EventfulFile file(m_path, [&] {
+      m_old = "what somebody else has made\n";
+      QSaveFile other(m_path);
+      ASSERT_TRUE(other.open(QIODevice::WriteOnly) && other.write(m_old) == m_old.size() &&
+                  other.commit());
+    });
+    oddxf::saveDocument(*m_db, OdDb::kVersionUnknown, file, m_path);
+  });
+  EXPECT_TRUE(reason.contains(QLatin1String("another program changed it"))) << reason.toStdString();
+}
+
+TEST_F(FailingSave, FileThatIsLockedWhileTheNewOneIsWrittenStays) {
+  const int other = open(m_path.toLocal8Bit().constData(), O_RDWR);
+  expectFailure([&] {
+    EventfulFile file(m_path, [&] { ASSERT_EQ(flock(other, LOCK_EX), 0); });
+    oddxf::saveDocument(*m_db, OdDb::kVersionUnknown, file, m_path);
+  });
+  close(other);
+}
+
+TEST_F(FailingSave, DevicesStayDevices) {
+  for (const char* device : {"/dev/zero", "/dev/null", "/dev/tty"}) {
+    const QString path = QString::fromLatin1(device);
+    try {
+      m_db->writeFile(path);
+      ADD_FAILURE() << device;
+    } catch (const OdFileError& e) {
+      EXPECT_EQ(e.path(), path);
+      EXPECT_EQ(e.reason(), QStringLiteral("it is not a file"));
+    }
+    struct stat status {};
+    ASSERT_EQ(stat(device, &status), 0);
+    EXPECT_TRUE(S_ISCHR(status.st_mode));
+  }
 }

@@ -76,6 +76,38 @@ TEST_F(DocumentCommandsTest, SavesInTheVersionThatIsChosen) {
   EXPECT_FALSE(console().shows(QStringLiteral("was read as"))) << output().toStdString();
 }
 
+TEST_F(DocumentCommandsTest, SavesOverTheChangesOfOthersOnlyWhenTold) {
+  draw();
+  type(QStringLiteral("SaveAs ") + path("a.dxf") + u'\n');
+  draw();
+  QFile other(path("a.dxf"));
+  ASSERT_TRUE(other.open(QIODevice::Append));
+  other.write("999\nby somebody else\n");
+  other.close();
+  const QByteArray theirs = bytesOf(path("a.dxf"));
+  const OdString question =
+      path("a.dxf") + QStringLiteral(" since it was opened. Save over it? [Yes/No] <No>: ");
+  for (const OdString& words :
+       {QStringLiteral("Save\n\n"), QStringLiteral("Save\nn\n"), QStringLiteral("Save\n^C"),
+        QStringLiteral("SaveAs ") + path("a.dxf") + QStringLiteral("\nn\n")}) {
+    console().clear();
+    type(words);
+    EXPECT_TRUE(console().shows(QStringLiteral("Another program has changed ") + question))
+        << output().toStdString();
+    EXPECT_EQ(bytesOf(path("a.dxf")), theirs);
+    EXPECT_TRUE(document().isModified());
+  }
+  type(QStringLiteral("Save\ny\n"));
+  EXPECT_FALSE(document().isModified());
+  EXPECT_FALSE(bytesOf(path("a.dxf")).contains("somebody else"));
+  console().clear();
+  draw();
+  ASSERT_TRUE(QFile::remove(path("a.dxf")));
+  type(QStringLiteral("Save\n"));
+  EXPECT_TRUE(QFile::exists(path("a.dxf"))) << "nothing is lost by saving a file that is gone";
+  EXPECT_FALSE(console().shows(QStringLiteral("Another program")));
+}
+
 TEST_F(DocumentCommandsTest, TellsThatAnOldDrawingBecomesANewerOne) {
   QFile file(path("old.dxf"));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));

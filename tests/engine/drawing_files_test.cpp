@@ -135,6 +135,52 @@ TEST_F(DrawingFilesTest, OpensAndSavesThroughTheConverter) {
   EXPECT_TRUE(nothingIsLeft());
 }
 
+TEST_F(DrawingFilesTest, ChangesOfOthersAreAskedAboutHereToo) {
+  setConverter(kCopies);
+  draw();
+  saveAs("plan.dwg");
+  draw();
+  type(QStringLiteral("Save\n"));
+  EXPECT_FALSE(console().shows(QStringLiteral("Another program"))) << output().toStdString();
+  draw();
+  put(path("plan.dwg"), "theirs");
+  type(QStringLiteral("Save\nn\n"));
+  EXPECT_TRUE(console().shows(QStringLiteral("Another program has changed")));
+  EXPECT_EQ(bytesOf(path("plan.dwg")), "theirs");
+}
+
+TEST_F(DrawingFilesTest, InsertedAttachedAndWrittenDrawingsAreConvertedAsWell) {
+  setConverter(kCopies);
+  putForeign("part.dwg");
+  const auto blocks = [&] { return database().getBlockTableId().openAs<OdDbBlockTable>(); };
+  type(QStringLiteral("INSERT \"%1\"\n0,0\n\n\n\n").arg(path("part.dwg")));
+  EXPECT_TRUE(blocks()->has(QStringLiteral("part"))) << output().toStdString();
+  putForeign("site.dwg");
+  type(QStringLiteral("XATTACH \"%1\"\n\n0,0\n\n\n\n").arg(path("site.dwg")));
+  ASSERT_TRUE(blocks()->has(QStringLiteral("site"))) << output().toStdString();
+  const OdDbBlockTableRecordPtr site = blocks()->getAt(QStringLiteral("site")).openObject();
+  EXPECT_TRUE(site->isFromExternalReference());
+  EXPECT_FALSE(site->isUnloaded());
+  // What a tool reads goes the same way.
+  EXPECT_TRUE(OdDbDatabase::readFile(odpath::fromPlatform(path("part.dwg"))));
+  type(QStringLiteral("WBLOCK \"%1\"\npart\n").arg(path("new.dwg")));
+  EXPECT_TRUE(QFile::exists(path("new.dwg"))) << output().toStdString();
+  EXPECT_TRUE(nothingIsLeft());
+}
+
+TEST_F(DrawingFilesTest, InsertedDrawingsTellWhyTheirConverterFails) {
+  setConverter("echo the licence has expired >&2; exit 7\n");
+  putForeign("part.dwg");
+  const QByteArray before = database().writeDxf();
+  for (const char* command : {"INSERT", "XATTACH"}) {
+    console().clear();
+    type(QStringLiteral("%1 \"%2\"\n\n^C").arg(QLatin1String(command), path("part.dwg")));
+    EXPECT_TRUE(console().shows(QStringLiteral("the licence has expired")))
+        << output().toStdString();
+    EXPECT_EQ(database().writeDxf(), before);
+  }
+}
+
 TEST_F(DrawingFilesTest, SavingMayHaveAConverterOfItsOwn) {
   set("DwgConverter", converter("exit 1\n", "open.sh"));
   set("DwgConverterForSaving", converter(kCopies, "save.sh"));

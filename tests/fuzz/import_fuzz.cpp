@@ -4,6 +4,8 @@
 #include "catalog/catalog.h"
 #include "catalog/palette_export.h"
 #include "frame/file_path.h"
+#include "host/integration/editor_reactor.h"
+#include "host/integration/editor_reactor_ex.h"
 #include "module/entry/class_table.h"
 #include "module/entry/singletons.h"
 #include "support/test_host.h"
@@ -53,6 +55,8 @@ OdTcCatalogPtr freshCatalog() {
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   registerModuleClasses();
+  TcEditorReactor::rxInit(nullptr);
+  TcEditorReactorEx::rxInit(nullptr);
   createSingletons();
   return 0;
 }

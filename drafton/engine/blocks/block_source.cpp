@@ -8,6 +8,8 @@
 #include "drawing/entities/block_reference.h"
 #include "frame/file_path.h"
 
+#include <QFileInfo>
+
 #include <unordered_set>
 
 namespace drafton {
@@ -36,6 +38,10 @@ OdDbObjectId insertFile(CommandContext& context, const OdString& path, const OdS
 
 OdString fileFor(CommandContext& context, const OdString& name) {
   return findSupportFile(context.engine(), &context.document(), name, QStringLiteral("dxf"));
+}
+
+OdString whyNoFile(CommandContext& context, const OdString& name) {
+  return whyNoSupportFile(context.engine(), &context.document(), name, QStringLiteral("dxf"));
 }
 
 } // namespace
@@ -68,8 +74,7 @@ OdDbObjectId blockFor(CommandContext& context, const OdString& words) {
   if (equals > 0) {
     const OdString name = words.left(equals).trimmed(), file = words.mid(equals + 1).trimmed();
     const OdString path = fileFor(context, file.isEmpty() ? name : file);
-    if (path.isEmpty())
-      throw CommandFailure(translated(u"There is no file \"%1\".").arg(shortened(file)));
+    if (path.isEmpty()) throw CommandFailure(whyNoFile(context, file.isEmpty() ? name : file));
     return insertFile(context, path, name);
   }
   if (const OdDbBlockTableRecordPtr block = blocks(context.database())->getAt(words).openObject();
@@ -79,6 +84,8 @@ OdDbObjectId blockFor(CommandContext& context, const OdString& words) {
     return block->objectId();
   }
   const OdString path = fileFor(context, words);
+  if (path.isEmpty() && QFileInfo::exists(odpath::toPlatform(words)))
+    throw CommandFailure(whyNoFile(context, words));
   if (path.isEmpty())
     throw CommandFailure(
         translated(u"There is neither a block nor a file \"%1\".").arg(shortened(words)));

@@ -27,7 +27,8 @@ Picture pictureAt(const CommandContext& context, const OdString& typed) {
   const OdString path =
       findSupportFile(context.engine(), &context.document(), typed, QStringLiteral("png"));
   if (path.isEmpty())
-    throw CommandFailure(translated(u"There is no file \"%1\".").arg(typed.left(200)));
+    throw CommandFailure(
+        whyNoSupportFile(context.engine(), &context.document(), typed, QStringLiteral("png")));
   QImageReader reader(odpath::toPlatform(path));
   QSize size = reader.size();
   // Some formats tell their size only while they are decoded.

@@ -59,7 +59,8 @@ OdDbObjectId referenceTo(CommandContext& context, const OdString& file, bool ove
   const OdString path =
       findSupportFile(context.engine(), &context.document(), file, QStringLiteral("dxf"));
   if (path.isEmpty())
-    throw CommandFailure(translated(u"There is no file \"%1\".").arg(file.left(200)));
+    throw CommandFailure(
+        whyNoSupportFile(context.engine(), &context.document(), file, QStringLiteral("dxf")));
   if (odpath::samePlace(path, context.document().path()))
     throw CommandFailure(translated(u"A drawing cannot be attached to itself."));
   for (const OdDbBlockTableRecordPtr& block : referencesOf(database, QStringLiteral("*")))

@@ -3,6 +3,8 @@
 #include "drafton/engine/blocks/block_commands.h"
 #include "drafton/engine/blocks/block_source.h"
 #include "drafton/engine/document.h"
+#include "drafton/engine/drawing_files.h"
+#include "drafton/engine/engine.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 #include "frame/file_path.h"
@@ -68,7 +70,7 @@ Task<void> writeBlock(CommandContext& context) {
   const OdDbDatabasePtr drawing = co_await askContents(context, path);
   if (!drawing) co_return;
   try {
-    drawing->writeFile(path);
+    writeDrawing(context.engine(), *drawing, path);
   } catch (const OdError& error) {
     throw CommandFailure(error.description());
   }

@@ -30,7 +30,8 @@ bool OdDbVertex::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
                                  [&](const char* name) { return in.in(name); });
   if (!known) return false;
   if (tag.code == 100) {
-    for (const char* name : kSubclasses)
+    // The first one is that of all kinds.
+    for (const char* name : std::span(kSubclasses).subspan(1))
       if (tag.text == name) m_subclass = name;
     return true;
   }

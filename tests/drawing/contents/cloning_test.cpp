@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 using namespace oddbtest;
 
 namespace {
@@ -409,6 +411,23 @@ TEST_F(XRefs, TellOfAMissingFile) {
   EXPECT_TRUE(reports[0].message.contains(QLatin1String("none.dxf")));
   EXPECT_TRUE(block.openAs<OdDbBlockTableRecord>()->isUnloaded());
   EXPECT_EQ(auditOf(*db), "");
+}
+
+TEST_F(XRefs, TellOfDevicesAndPipesAndDoNotReadThem) {
+  ASSERT_EQ(mkfifo(path("pipe.dxf").toLocal8Bit().constData(), 0600), 0);
+  const OdString pipe = path("pipe.dxf");
+  for (const OdString& device : {QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty"), pipe,
+                                 QStringLiteral("pipe.dxf")}) {
+    const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
+    db->setFileName(path("site.dxf"));
+    std::vector<OdDbXRefMan::Report> reports;
+    const OdDbObjectId block =
+        OdDbXRefMan::attach(*db, device, QStringLiteral("D"), false, &reports);
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports[0].result, OdDbXRefMan::Result::kUnreadable);
+    EXPECT_EQ(reports[0].message, device + QStringLiteral(": it is not a file"));
+    EXPECT_TRUE(entitiesOf(block).empty());
+  }
 }
 
 TEST_F(XRefs, TellOfAFileThatIsNoDrawing) {

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QImage>
 
+#include <sys/stat.h>
+
 namespace {
 
 // --- BLOCK and WBLOCK
@@ -178,6 +180,23 @@ TEST_F(ReferenceTest, TheSameFileIsAttachedOnce) {
   words("XATTACH|" + path("wheel.dxf") + "||5,5|||");
   ASSERT_EQ(inserts().size(), 2u);
   EXPECT_EQ(inserts()[0]->blockTableRecord(), inserts()[1]->blockTableRecord());
+}
+
+TEST_F(ReferenceTest, DevicesAndPipesAreNamedAndNotRead) {
+  ASSERT_EQ(mkfifo(path("pipe.dxf").toLocal8Bit().constData(), 0600), 0);
+  const QByteArray before = database().writeDxf();
+  for (const QString& device :
+       {QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty"), path("pipe.dxf")})
+    for (const char* command : {"XATTACH ", "INSERT ", "INSERT a="}) {
+      console().clear();
+      type(QLatin1String(command) + device + u'\n');
+      // One of them has something to ask first.
+      if (isBusy()) type(QStringLiteral("\n"));
+      EXPECT_TRUE(console().shows(device + QStringLiteral(" is not a file.")))
+          << output().toStdString();
+      EXPECT_FALSE(isBusy());
+    }
+  EXPECT_EQ(database().writeDxf(), before);
 }
 
 TEST_F(ReferenceTest, FileThatIsMissingOrBrokenAttachesNothing) {
@@ -407,6 +426,20 @@ TEST_F(RasterTest, OfOneFileShareTheirDefinition) {
   const auto images = all<OdDbRasterImage>();
   ASSERT_EQ(images.size(), 2u);
   EXPECT_EQ(images[0]->imageDefId(), images[1]->imageDefId());
+}
+
+TEST_F(RasterTest, RefusesDevicesAndPipesWithoutReadingThem) {
+  ASSERT_EQ(mkfifo(path("pipe.png").toLocal8Bit().constData(), 0600), 0);
+  const QByteArray before = database().writeDxf();
+  for (const QString& device :
+       {QStringLiteral("/dev/zero"), QStringLiteral("/dev/tty"), path("pipe.png")}) {
+    words("INSERTRASTER|" + device);
+    EXPECT_TRUE(console().shows(device + QStringLiteral(" is not a file.")))
+        << output().toStdString();
+    EXPECT_FALSE(runWith(u"INSERTRASTER", {{u"Path", odpath::fromPlatform(device)}}, {}));
+    EXPECT_FALSE(isBusy());
+  }
+  EXPECT_EQ(database().writeDxf(), before);
 }
 
 TEST_F(RasterTest, RefusesWhatIsNoPictureAndAScaleOfNothing) {
