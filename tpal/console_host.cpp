@@ -39,6 +39,7 @@ bool ConsoleHost::Services::queryInterface(KVInterfaceId id, void** out) {
   if (id == IHostMessages::kId) return m_messages->queryInterface(id, out);
   if (id == IHostCommandMenu::kId) return m_menu->queryInterface(id, out);
   if (id == IHostPreviewService::kId && previews) return previews->queryInterface(id, out);
+  if (id == IHostIconService::kId && icons) return icons->queryInterface(id, out);
   const bool own = id == IHostServices::kId || id == IKVUnknown::kId;
   *out = own ? static_cast<IHostServices*>(this) : nullptr;
   return own;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/application.h"
+#include "host/icon_service.h"
 #include "host/messages.h"
 #include "host/preview_service.h"
 #include "host/services.h"
@@ -24,6 +25,9 @@ class ConsoleHost {
   void setPreviews(KVPtr<IHostPreviewService> previews) {
     m_services.previews = std::move(previews);
   }
+
+  /// Gives the program's own icons; null for none.
+  void setIcons(KVPtr<IHostIconService> icons) { m_services.icons = std::move(icons); }
 
   IHostServices* services() { return &m_services; }
   IHostApplication* application() { return &m_application; }
@@ -57,6 +61,7 @@ class ConsoleHost {
     IHostEditorEvents* editorEvents() override { return nullptr; }
     HostEdCompletion::Registry* completionRegistry() override { return nullptr; }
     KVPtr<IHostPreviewService> previews;
+    KVPtr<IHostIconService> icons;
 
    private:
     Messages* m_messages;

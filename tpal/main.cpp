@@ -1,4 +1,5 @@
 // The catalog manager's tool.
+#include "drafton/icons/icon_service.h"
 #include "drafton/previews/offscreen_application.h"
 #include "drafton/previews/preview_service.h"
 #include "drawing/patterns/pattern_file.h"
@@ -48,5 +49,6 @@ int main(int argc, char** argv) {
   }
   const drafton::OffscreenApplication application(argc, argv);
   tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
+  tpal::ConsoleHost::instance().setIcons(kvMake<drafton::IconService>().get());
   return run(QCoreApplication::arguments().mid(1));
 }

@@ -3,6 +3,7 @@
 #include "drafton/batch/batch_console.h"
 #include "drafton/batch/script_source.h"
 #include "drafton/engine/hatch_patterns.h"
+#include "drafton/icons/icon_service.h"
 #include "drafton/previews/preview_service.h"
 #include "frame/file_path.h"
 
@@ -25,8 +26,9 @@ OdString defaultProfile() {
          QLatin1String("/drafton/drafton.ini");
 }
 
-/// Modules get pictures of drawings; patterns are found as a hatch finds them.
-void offerPreviews(Engine& engine) {
+/// Modules get pictures of drawings and icons of commands; patterns and commands are found as typed
+/// ones are.
+void offerPictures(Engine& engine) {
   const auto findPattern = [&engine](const OdString& name) -> std::optional<OdHatchPattern> {
     OdVariant file;
     engine.hatchSettings()->get(QStringLiteral("hatch_pattern_file"), file);
@@ -35,6 +37,11 @@ void offerPreviews(Engine& engine) {
     return std::move(found->pattern);
   };
   engine.services().offer(IHostPreviewService::kId, kvMake<PreviewService>(findPattern).get());
+  const auto findCommand = [&engine](const OdString& word) {
+    const RegisteredCommandPtr found = engine.commands().findTyped(word);
+    return found ? found->name : word;
+  };
+  engine.services().offer(IHostIconService::kId, kvMake<IconService>(findCommand).get());
 }
 
 /// One run from its options to its exit code.
@@ -168,7 +175,7 @@ int BatchRun::run() {
   script.setEngine(engine);
   if (m_options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
-  offerPreviews(engine);
+  offerPictures(engine);
   if (!openDrawing(engine)) return kExitDrawing;
   engine.loadModule(OdString::fromUtf16(kModule));
   engine.runStartupCommands();
