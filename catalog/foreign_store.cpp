@@ -1,6 +1,6 @@
 #include "catalog/foreign_store.h"
 
-#include "catalog/foreign_paths.h"
+#include "persistence/foreign_paths.h"
 #include "catalog/inside_folder.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"

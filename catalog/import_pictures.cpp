@@ -1,6 +1,6 @@
 #include "catalog/import_pictures.h"
 
-#include "catalog/foreign_paths.h"
+#include "persistence/foreign_paths.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"

@@ -1,6 +1,6 @@
 #include "catalog/import_review.h"
 
-#include "catalog/foreign_paths.h"
+#include "persistence/foreign_paths.h"
 #include "catalog/tool_palette_impl.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"

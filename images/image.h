@@ -74,6 +74,9 @@ class OdTcImage : public OdTcPersist {
   virtual OdSmartPtr<OdTcImage> cloneAtSize(std::int32_t kind) = 0;
   /// The stored path of the picture's file; empty if it is not known.
   virtual OdString fullPath() const = 0;
+  /// As setSrcFromFile(), for a file whose picture is at hand already: several sizes are made of it
+  /// decoding it once.
+  virtual bool setSrcFromPicture(const QImage& picture, const OdString& path) = 0;
 };
 using OdTcImagePtr = OdSmartPtr<OdTcImage>;
 

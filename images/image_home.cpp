@@ -1,6 +1,7 @@
 #include "images/image_home.h"
 
 #include "frame/file_path.h"
+#include "persistence/foreign_paths.h"
 #include "persistence/path_operations.h"
 
 namespace tc {
@@ -49,7 +50,7 @@ bool isBelowPalette(const OdString& palettePath, const OdString& imagePath) {
   const OdString folder = plainForm(odpath::folderOf(palettePath));
   const OdString image = plainForm(imagePath);
   return !palettePath.isEmpty() && image.startsWith(folder + u'\\') &&
-         !image.contains(QLatin1String("\\..\\"));
+         whyOutside(image.mid(folder.size())).isEmpty();
 }
 
 } // namespace tc

@@ -26,8 +26,8 @@ OdString imageHomePath(const OdTcDatabase* database);
 OdString imageFilePath(const OdTcDatabase* database, const OdString& src);
 /// `src` joined to the folder of a palette file.
 OdString imagePathBeside(const OdString& palettePath, const OdString& src);
-/// True if the picture lies in the folder of the palette file or below. A `src` from a file can
-/// lead anywhere; nothing is written or deleted outside.
+/// True if the picture lies in the folder of the palette file or below, and is no device. A `src`
+/// from a file can lead anywhere; nothing is written or deleted outside.
 bool isBelowPalette(const OdString& palettePath, const OdString& imagePath);
 
 } // namespace tc

@@ -5,6 +5,7 @@
 #include "host/host_locator.h"
 #include "host/icon_service.h"
 #include "images/image_home.h"
+#include "images/picture_cache.h"
 #include "images/picture_file.h"
 #include "persistence/filer.h"
 #include "persistence/path_operations.h"
@@ -46,8 +47,7 @@ QImage scaledTo(const QImage& picture, int width, int height) {
 
 } // namespace
 
-struct OdTcImageImpl::Decoded {
-  QImage bitmap;
+struct OdTcImageImpl::Decoded : PictureCache::Entry {
   OdString fullPath;
 };
 
@@ -93,18 +93,29 @@ QImage OdTcImageImpl::resourcePicture() const {
 }
 
 QImage OdTcImageImpl::getBitmap() {
-  if (m_decoded && !m_decoded->bitmap.isNull()) return m_decoded->bitmap;
+  if (m_decoded && !m_decoded->bitmap.isNull()) {
+    const QImage picture = m_decoded->bitmap;
+    if (!m_isMade) PictureCache::instance().use(*m_decoded);
+    return picture;
+  }
   QImage picture;
   if (isResource())
     picture = resourcePicture();
   else if (const OdString path = fullPath(); !path.isEmpty())
     picture = loadPicture(path);
-  if (!picture.isNull()) decoded().bitmap = picture;
+  if (!picture.isNull()) keepDecoded(picture);
   return picture;
+}
+
+void OdTcImageImpl::keepDecoded(const QImage& picture) {
+  decoded().bitmap = picture;
+  m_isMade = false;
+  PictureCache::instance().use(*m_decoded);
 }
 
 void OdTcImageImpl::releaseBitmap() {
   if (!m_decoded) return;
+  PictureCache::instance().drop(*m_decoded);
   m_decoded->bitmap = QImage();
   if (m_decoded->fullPath.isEmpty()) m_decoded.reset();
 }
@@ -127,6 +138,7 @@ void OdTcImageImpl::setBitmap(const QImage& bitmap, const OdString& src) {
   m_resource = OdString();
   m_home = 0;
   m_format = kPngFormat;
+  m_isMade = true;
 }
 
 OdString OdTcImageImpl::uniqueName(const OdString& label) const {
@@ -148,14 +160,16 @@ bool OdTcImageImpl::saveTo(const OdString& path, std::int32_t format) {
   const OdString target = own.isEmpty() ? path + u'.' + extension : path;
   if (!savePicture(picture, target, extension)) return false;
   decoded().fullPath = target;
+  // From here on the file has it.
+  keepDecoded(picture);
   return true;
 }
 
 bool OdTcImageImpl::loadFromFile(const OdString& path) {
   const QImage picture = loadPicture(path);
   if (picture.isNull()) return false;
-  decoded().bitmap = picture;
-  m_decoded->fullPath = path;
+  decoded().fullPath = path;
+  keepDecoded(picture);
   return true;
 }
 
@@ -208,11 +222,15 @@ void OdTcImageImpl::saveBesidePalette() {
   if (m_src.isEmpty() || isResource()) return;
   const OdString palette = imageHomePath(database());
   const OdString path = imageFilePath(database(), src());
-  if (path.isEmpty() || !isBelowPalette(palette, path)) return;
   // A picture that is not decoded and stays where it was read from needs no look at the disk.
   if (!m_decoded && path == imagePathBeside(g_homes.path(m_home), src())) return;
+  if (path.isEmpty() || !isBelowPalette(palette, path)) return;
   OdRxSystemServices* const system = odrxSystemServices();
-  if (system->fileExists(path) || getBitmap().isNull()) return;
+  if (system->fileExists(path)) {
+    m_isMade = false;
+    return;
+  }
+  if (getBitmap().isNull()) return;
   if (const OdString folder = odpath::folderOf(path); system->createFolder(folder))
     saveTo(path, kPngFormat);
 }
@@ -223,7 +241,8 @@ void OdTcImageImpl::writeFields(OdTcFiler* filer) {
   filer->writeAttribute(QStringLiteral("cy"), OdString::number(m_cy));
   if (!m_src.isEmpty()) filer->writeAttribute(QStringLiteral("src"), src());
   if (!m_resource.isEmpty()) filer->writeAttribute(QStringLiteral("resource"), resource());
-  releaseBitmap();
+  // A picture that could not be saved is tried again the next time.
+  if (!m_isMade) releaseBitmap();
 }
 
 bool OdTcImageImpl::readField(const OdString& name, const OdVariant& value) {
@@ -254,6 +273,7 @@ OdRxObjectPtr OdTcImageImpl::clone() const {
   copy->m_sizeKind = m_sizeKind;
   copy->m_home = m_home;
   copy->m_format = m_format;
+  copy->m_isMade = m_isMade;
   return copy;
 }
 

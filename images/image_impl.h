@@ -30,8 +30,7 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   void releaseBitmap() override;
   bool isResource() const override;
   bool setSrcFromFile(const OdString& path) override;
-  /// The same for a picture of that file which is loaded already.
-  bool setSrcFromPicture(const QImage& picture, const OdString& path);
+  bool setSrcFromPicture(const QImage& picture, const OdString& path) override;
   bool makeFromBlock(OdDbObjectId source) override;
   bool makeFromGradient(const OdString& name, const OdCmColor& first,
                         const OdCmColor& second) override;
@@ -56,12 +55,14 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
  private:
   struct Decoded;
   Decoded& decoded();
+  /// Keeps a picture that can be decoded again, as long as there is room for it.
+  void keepDecoded(const QImage& picture);
   QImage resourcePicture() const;
   void resolveAfterReading();
   void saveBesidePalette();
-  /// Takes a preview and names it after `title`, or freshly after the label if there is no title
-  /// or the palette's folder has a file of that name. False for a null image.
-  bool takePreview(const QImage& picture, const OdString& title, QStringView label);
+  /// Takes a preview and names it after what it shows, or freshly after the label if that has no
+  /// name or the palette's folder has a file of it. False for a null image.
+  bool takePreview(const QImage& picture, const OdString& name, QStringView label);
   /// A name with a fresh id. Should its file exist all the same, another is taken untested.
   OdString uniqueName(const OdString& label) const;
   /// `src`, or a fresh name if the palette's folder has a file of that one.
@@ -77,6 +78,7 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   // A palette that is saved elsewhere still has to find the pictures to take along.
   std::uint32_t m_home = 0;
   std::int32_t m_format = 0;
+  bool m_isMade = false; ///< the picture is nowhere else yet
 };
 
 } // namespace tc

@@ -23,7 +23,7 @@ class OdTcImageList : public OdTcPersist {
   virtual int count() const = 0;
   virtual std::uint32_t options() const = 0;
   /// Replaces the pictures by those of a file in the three sizes that every item has: 16, 32 and 64
-  /// pixels. The files of the former ones go. False, with an empty list, if the file cannot be
+  /// pixels. The files of the former ones go. False, with nothing changed, if the file cannot be
   /// read.
   virtual bool setFromFile(const OdString& path) = 0;
   /// The same with pictures that `make` makes: it is given each image, of its size kind and already

@@ -38,10 +38,9 @@ OdTcImage* OdTcImageListImpl::findBySize(std::int32_t sizeKind) const {
 
 bool OdTcImageListImpl::setFromFile(const OdString& path) {
   // A photograph is decoded once, and the small sizes are made from one that is nearer to them.
-  const QImage picture = reducedPicture(loadPicture(path));
-  return setFrom([&](OdTcImage& image) {
-    return static_cast<OdTcImageImpl&>(image).setSrcFromPicture(picture, path);
-  });
+  const QImage picture = loadReducedPicture(path);
+  return !picture.isNull() &&
+         setFrom([&](OdTcImage& image) { return image.setSrcFromPicture(picture, path); });
 }
 
 bool OdTcImageListImpl::setFrom(const std::function<bool(OdTcImage& image)>& make) {

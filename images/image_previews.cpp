@@ -58,9 +58,9 @@ OdString titleOf(const OdDbObject& object) {
 
 } // namespace
 
-bool OdTcImageImpl::takePreview(const QImage& picture, const OdString& title, QStringView label) {
+bool OdTcImageImpl::takePreview(const QImage& picture, const OdString& name, QStringView label) {
   if (picture.isNull()) return false;
-  const OdString fresh = label.toString();
+  const OdString title = pictureTitle(name), fresh = label.toString();
   setBitmap(picture, title.isEmpty() ? uniqueName(fresh)
                                      : freeName(titledPictureName(title, m_sizeKind), fresh));
   return true;

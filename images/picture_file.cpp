@@ -3,6 +3,7 @@
 #include "frame/error.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "persistence/path_operations.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -36,6 +37,67 @@ const KindRow& rowOf(std::int32_t kind) {
   return kOtherKind;
 }
 
+/// The longest side of a reduced picture.
+constexpr int kReduced = 256;
+constexpr int kUnlimited = std::numeric_limits<int>::max();
+constexpr int kBitsOfPixel = 32;
+
+/// True if a decoded picture takes no more memory than Qt allows. Qt itself would refuse it as
+/// well, but prints a warning.
+bool isAllowed(const QSize& size, QImage::Format format) {
+  const int bits = format == QImage::Format_Invalid ? kBitsOfPixel
+                                                    : QImage::toPixelFormat(format).bitsPerPixel();
+  const qint64 limit = qint64{QImageReader::allocationLimit()} << 20;
+  return limit == 0 || qint64{size.width()} * size.height() <= limit * 8 / bits;
+}
+
+/// True for sizes that cameras have. A photograph that comes into sight step by step takes memory
+/// for all of its pixels, however small it is shown.
+bool isPhotograph(const QSize& size) {
+  constexpr qint64 kMostPixels = 200'000'000;
+  return qint64{size.width()} * size.height() <= kMostPixels;
+}
+
+QImage decoded(QIODevice* device, int atMost) {
+  QImageReader reader(device);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  const QSize size = reader.size();
+  const QSize reduced = size.boundedTo({atMost, atMost});
+  // Photographs can be decoded at a part of their size. Other formats would be decoded whole first.
+  if (reduced != size && reader.format() == "jpeg" && isPhotograph(size))
+    reader.setScaledSize(reduced);
+  else if (size.isValid() && !isAllowed(size, reader.imageFormat()))
+    return {};
+  QImage picture = reader.read();
+  if (picture.isNull()) return {};
+  // More than eight bits of a colour are not shown anywhere.
+  if (picture.depth() > kBitsOfPixel) picture.convertTo(QImage::Format_ARGB32);
+  const QSize wanted = picture.size().boundedTo({atMost, atMost});
+  return wanted == picture.size()
+             ? picture
+             : picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage loadAtMost(const OdString& path, int atMost) {
+  try {
+    const OdStreamBufPtr stream = odrxSystemServices()->createFile(
+        path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
+    // A file is decoded as it is read: however large it is, it does not stand in memory.
+    if (const auto* const file = dynamic_cast<const OdDeviceStream*>(stream.get()))
+      return decoded(file->device(), atMost);
+    const std::uint64_t length = stream->length();
+    if (length > std::uint64_t{std::numeric_limits<std::int32_t>::max()}) return {};
+    QByteArray bytes(static_cast<qsizetype>(length), Qt::Uninitialized);
+    stream->getBytes(bytes.data(), static_cast<std::uint32_t>(length));
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::ReadOnly) ? decoded(&buffer, atMost) : QImage();
+  } catch (const OdFileError&) {
+    // A picture that cannot be read is not shown.
+    return {};
+  }
+}
+
 } // namespace
 
 int pixelsOfKind(std::int32_t kind) { return rowOf(kind).pixels; }
@@ -53,28 +115,9 @@ OdString formatExtension(std::int32_t format) {
   return kExtensions[static_cast<std::size_t>((isKnown ? format : kPngFormat) - 1)].toString();
 }
 
-QImage loadPicture(const OdString& path) {
-  try {
-    const OdStreamBufPtr stream = odrxSystemServices()->createFile(
-        path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
-    const std::uint64_t length = stream->length();
-    if (length > std::uint64_t{std::numeric_limits<std::int32_t>::max()}) return {};
-    QByteArray bytes(static_cast<qsizetype>(length), Qt::Uninitialized);
-    stream->getBytes(bytes.data(), static_cast<std::uint32_t>(length));
-    return QImage::fromData(bytes);
-  } catch (const OdFileError&) {
-    // A picture that cannot be read is not shown.
-    return {};
-  }
-}
+QImage loadPicture(const OdString& path) { return loadAtMost(path, kUnlimited); }
 
-QImage reducedPicture(const QImage& picture) {
-  constexpr int kMost = 256;
-  const QSize size = picture.size().boundedTo({kMost, kMost});
-  return size == picture.size() || picture.isNull()
-             ? picture
-             : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
+QImage loadReducedPicture(const OdString& path) { return loadAtMost(path, kReduced); }
 
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension) {
   QByteArray bytes;
@@ -82,15 +125,31 @@ bool savePicture(const QImage& picture, const OdString& path, const OdString& ex
   if (!buffer.open(QIODevice::WriteOnly) ||
       !picture.save(&buffer, extension.toLatin1().constData()))
     return false;
+  // A full disk must not leave half a picture, nor take the former one.
+  OdRxSystemServices* const system = odrxSystemServices();
+  const OdString fresh = path + QLatin1String(".new");
   try {
-    const OdStreamBufPtr stream = odrxSystemServices()->createFile(
-        path, Oda::kFileWrite, Oda::kShareDenyReadWrite, Oda::kCreateAlways);
-    stream->putBytes(bytes.constData(), static_cast<std::uint32_t>(bytes.size()));
-    stream->flush();
-    return true;
+    {
+      const OdStreamBufPtr stream =
+          system->createFile(fresh, Oda::kFileWrite, Oda::kShareDenyReadWrite, Oda::kCreateAlways);
+      stream->putBytes(bytes.constData(), static_cast<std::uint32_t>(bytes.size()));
+      stream->flush();
+    }
+    if (system->replaceFile(fresh, path)) return true;
   } catch (const OdFileError&) {
-    return false;
+    // What is left of it goes.
   }
+  system->removeFile(fresh);
+  return false;
+}
+
+OdString pictureTitle(const OdString& title) {
+  constexpr qsizetype kLongest = 80;
+  OdString clean = title;
+  cleanFileName(clean);
+  clean.removeIf([](QChar c) { return !c.isPrint() && !c.isSurrogate(); });
+  if (clean.size() <= kLongest) return clean;
+  return clean.left(clean[kLongest].isLowSurrogate() ? kLongest - 1 : kLongest);
 }
 
 OdString titledPictureName(const OdString& title, std::int32_t kind) {

@@ -21,14 +21,18 @@ inline constexpr std::int32_t kPngFormat = 6;
 /// The extension of a format's code; that of PNG for any other code.
 OdString formatExtension(std::int32_t format);
 
-/// The picture of a file; a null image if it cannot be read. The path is a stored path.
+/// The picture of a file, the first one of several, turned as its camera says; a null image if it
+/// cannot be read or is too large to be decoded. What the file is, its contents tell, not its name.
+/// The path is a stored path.
 QImage loadPicture(const OdString& path);
-/// A picture with no side longer than a few times that of the largest size kind; a smaller one as
-/// it is. Scaling that to the size kinds costs next to nothing.
-QImage reducedPicture(const QImage& picture);
+/// The same with no side longer than a few times that of the largest size kind; a smaller one as it
+/// is. The proportions go where it is reduced. A photograph is not even decoded at its full size.
+QImage loadReducedPicture(const OdString& path);
 /// Writes a picture in the format of an extension; false if that fails.
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension);
 
+/// A title without what file names may not have, and not too long for one; it may be empty then.
+OdString pictureTitle(const OdString& title);
 /// `\Images\<title><suffix>.png`
 OdString titledPictureName(const OdString& title, std::int32_t kind);
 /// `\Images\<label>_<fresh id>.png` with the label in the user's language.

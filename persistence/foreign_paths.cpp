@@ -1,4 +1,4 @@
-#include "catalog/foreign_paths.h"
+#include "persistence/foreign_paths.h"
 
 #include "frame/file_path.h"
 #include "host/host_locator.h"

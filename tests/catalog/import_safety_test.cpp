@@ -1,5 +1,5 @@
 // Palettes that are broken, huge or hostile, and imports that are interrupted.
-#include "catalog/foreign_paths.h"
+#include "persistence/foreign_paths.h"
 #include "catalog/foreign_store.h"
 #include "catalog/import_fixture.h"
 
