@@ -11,7 +11,7 @@ class OdTcImage;
 class OdTcProperty;
 class OdTcPropertyBag;
 class OdTcPropertyFilter;
-class OdTcSourceDrawings;
+class OdTcSourceFiles;
 class OdTcTool;
 
 /// Decides how a tool runs. The element name of the agent inside a tool's `Data` says its kind.
@@ -41,7 +41,7 @@ class OdTcToolActionAgent : public OdTcPersist {
   virtual bool refreshImages(IHostDocument* document) = 0;
   /// Makes the picture of what the tool acts on in the size of `image`, which knows its palette.
   /// False, with nothing changed, if the kind has none or none comes of it.
-  virtual bool makePicture(OdTcImage& /*image*/, OdTcSourceDrawings& /*drawings*/) const {
+  virtual bool makePicture(OdTcImage& /*image*/, OdTcSourceFiles& /*files*/) const {
     return false;
   }
   /// Takes from the host what the agent shows of it.

@@ -33,7 +33,7 @@ class OdTcToolBlockCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   void endExecution(IHostDocument* document) override;
 
   void writeProperties(OdTcFiler* filer) override;
-  bool makePicture(OdTcImage& image, OdTcSourceDrawings& drawings) const override;
+  bool makePicture(OdTcImage& image, OdTcSourceFiles& files) const override;
   OdString sourcePath() const override { return m_fields.sourceFile; }
   void setSourcePath(const OdString& path) override { m_fields.sourceFile = path; }
   bool readProperty(const OdString& name, const OdVariant& value) override;

@@ -215,6 +215,7 @@ OdRxObjectPtr OdTcToolHatchCommandImpl::clone() const {
   copy->m_fields = m_fields;
   copy->m_colors = clonePart(m_colors, copy);
   copy->m_previewColor = m_previewColor;
+  copy->m_imagesEnabled = m_imagesEnabled;
   return finishClone(copy);
 }
 

@@ -59,7 +59,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
 
   bool readElements(OdTcFiler* filer) override;
   void writeProperties(OdTcFiler* filer) override;
-  bool makePicture(OdTcImage& image, OdTcSourceDrawings& drawings) const override;
+  bool makePicture(OdTcImage& image, OdTcSourceFiles& files) const override;
   OdString sourcePath() const override { return m_fields.sourceFile; }
   void setSourcePath(const OdString& path) override { m_fields.sourceFile = path; }
   bool readProperty(const OdString& name, const OdVariant& value) override;
@@ -130,6 +130,9 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdCmColor gradientColor(std::size_t index) const;
   void setGradientColor(std::size_t index, const OdCmColor& color);
   std::optional<OdCmColor> generalColor() const;
+  /// A filling by layer or by block has no colour of its own: the host shows it in one that is seen
+  /// on any ground.
+  static std::optional<OdCmColor> ownColorOf(const std::optional<OdCmColor>& color);
   bool renderPattern(OdTcImage& image, const OdString& pattern) const;
   void takeAuxiliaryScale(const OdDbDatabase* database);
   void beginHatch(IHostDocument& document);

@@ -32,8 +32,7 @@ void readAll(IHostVariables* variables, const std::array<QStringView, N>& names,
 template <std::size_t N>
 void writeAll(IHostVariables* variables, const std::array<QStringView, N>& names,
               const std::array<OdVariant, N>& values) {
-  for (std::size_t i = 0; variables && i < N; ++i)
-    if (!values[i].isVoid()) variables->set(hostName(names[i]), values[i]);
+  for (std::size_t i = 0; variables && i < N; ++i) variables->set(hostName(names[i]), values[i]);
 }
 
 void set(IHostVariables* variables, QStringView name, const OdVariant& value) {
@@ -56,11 +55,16 @@ std::int32_t hostHatchType(std::int32_t hatchType) {
 
 } // namespace
 
-/// The host's values between a run's start and its end.
+/// The host's values between a run's start and its end. One that cannot be read stays what it was
+/// at the last run, or what it is here.
 struct OdTcToolHatchCommandImpl::Saved {
-  std::array<OdVariant, kHatchVariables.size()> hatch;
-  std::array<OdVariant, kGradientVariables.size()> gradient;
-  OdVariant hatchType, patternFile;
+  std::array<OdVariant, kHatchVariables.size()> hatch = {
+      OdString(), 0.0, 0.0, std::int32_t{0}, 0.0, colorNumber(OdCmColor())};
+  std::array<OdVariant, kGradientVariables.size()> gradient = {
+      std::int32_t{0}, 0.0, std::int32_t{0}, colorNumber(OdCmColor()), colorNumber(OdCmColor())};
+  OdVariant hatchType = std::int32_t{0};
+  OdVariant patternFile = OdString();
+  std::int32_t objectType = -1; ///< whose side they are: a tool may be changed while it runs
 };
 
 OdTcToolHatchCommandImpl::OdTcToolHatchCommandImpl() = default;
@@ -114,6 +118,7 @@ void OdTcToolHatchCommandImpl::beginHatch(IHostDocument& document) {
   IHostVariables* const variables = document.variables();
   const KVPtr<IHostHatchSettings> settings = host::service<IHostHatchSettings>();
   readAll(variables, kHatchVariables, saved().hatch);
+  m_saved->objectType = m_fields.hatchObjectType;
   if (settings) {
     settings->get(staticName(kTypeSetting), m_saved->hatchType);
     settings->get(staticName(kFileSetting), m_saved->patternFile);
@@ -137,6 +142,7 @@ void OdTcToolHatchCommandImpl::beginHatch(IHostDocument& document) {
 void OdTcToolHatchCommandImpl::beginGradient(IHostDocument& document) {
   IHostVariables* const variables = document.variables();
   readAll(variables, kGradientVariables, saved().gradient);
+  m_saved->objectType = m_fields.hatchObjectType;
   set(variables, u"GFNAME", std::int32_t{gradientNumber(m_fields.gradientName)});
   set(variables, u"GFANG", m_fields.gradientAngle);
   set(variables, u"GFSHIFT", std::int32_t{m_fields.isGradientCentered ? 0 : 1});
@@ -146,14 +152,14 @@ void OdTcToolHatchCommandImpl::beginGradient(IHostDocument& document) {
 
 void OdTcToolHatchCommandImpl::endExecution(IHostDocument* document) {
   if (!document || !m_saved) return;
-  if (m_fields.hatchObjectType == 0) {
+  const std::int32_t objectType = std::exchange(m_saved->objectType, -1);
+  if (objectType == 0) {
     if (const KVPtr<IHostHatchSettings> settings = host::service<IHostHatchSettings>()) {
-      if (!m_saved->hatchType.isVoid()) settings->set(hostName(kTypeSetting), m_saved->hatchType);
-      if (!m_saved->patternFile.isVoid())
-        settings->set(hostName(kFileSetting), m_saved->patternFile);
+      settings->set(hostName(kTypeSetting), m_saved->hatchType);
+      settings->set(hostName(kFileSetting), m_saved->patternFile);
     }
     writeAll(document->variables(), kHatchVariables, m_saved->hatch);
-  } else if (m_fields.hatchObjectType == 1) {
+  } else if (objectType == 1) {
     writeAll(document->variables(), kGradientVariables, m_saved->gradient);
   }
 }

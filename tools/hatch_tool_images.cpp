@@ -27,10 +27,16 @@ bool hasForeignPictures(const OdTcImageList& images) {
 
 } // namespace
 
+std::optional<OdCmColor>
+OdTcToolHatchCommandImpl::ownColorOf(const std::optional<OdCmColor>& color) {
+  return color && !color->isByLayer() && !color->isByBlock() ? color : std::nullopt;
+}
+
 bool OdTcToolHatchCommandImpl::renderPattern(OdTcImage& image, const OdString& pattern) const {
   if (m_fields.hatchObjectType == 1)
     return image.makeFromGradient(m_fields.gradientName, getGradientColor1(), getGradientColor2());
-  if (m_fields.hatchObjectType == 0) return image.makeFromPattern(pattern, m_previewColor);
+  if (m_fields.hatchObjectType == 0)
+    return image.makeFromPattern(pattern, ownColorOf(m_previewColor));
   return false;
 }
 

@@ -1,9 +1,11 @@
 #include "tools/raster_tool.h"
 
+#include "frame/system_services.h"
 #include "host/document.h"
 #include "tools/command_conveyor.h"
 #include "tools/deferred_command.h"
 #include "tools/object_property_families.h"
+#include "tools/tool_source.h"
 
 namespace tc {
 namespace {
@@ -48,13 +50,22 @@ OdString OdTcToolRasterCommandImpl::getSourceFileFilter() const {
   return fileDialogFilter(host::translate(QStringLiteral("Images")), kExtensions);
 }
 
+/// A relative file is the one beside the drawing. Only where there is none, the palette's folder is
+/// looked into, so that a catalog can bring its pictures along.
+OdString OdTcToolRasterCommandImpl::resolvedSource(const IHostDocument& document) const {
+  const OdString& source = m_fields.sourceFile;
+  if (!isRelativePath(source)) return source;
+  const OdString beside = combinePath(source, document.path());
+  if (odrxSystemServices()->fileExists(beside)) return beside;
+  const OdString fromPalette = sourceFromPalette(*this, source);
+  return isRelativePath(fromPalette) ? beside : fromPalette;
+}
+
 bool OdTcToolRasterCommandImpl::execute(IHostDocument* document) {
   OdTcCommandConveyor* const conveyor = OdTcCommandConveyor::instance();
   if (!document || !conveyor) return false;
   OdTcRasterRequest request;
-  request.path = isRelativePath(m_fields.sourceFile)
-                     ? combinePath(m_fields.sourceFile, document->path())
-                     : m_fields.sourceFile;
+  request.path = resolvedSource(*document);
   request.name = m_fields.rasterName;
   request.scale = m_fields.scale;
   request.rotation = m_fields.rotation;

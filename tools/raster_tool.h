@@ -18,12 +18,12 @@ class OdTcToolRasterCommandImpl final : public OdTcToolActionAgentImplBase<OdTcT
  public:
   OdString elementName() const override { return QStringLiteral("Raster"); }
 
-  /// A relative source file is taken from the document's folder. False without a document or a
-  /// command conveyor.
+  /// A relative source file is taken from the document's folder, or else from the palette's. False
+  /// without a document or a command conveyor.
   bool execute(IHostDocument* document) override;
 
   void writeProperties(OdTcFiler* filer) override;
-  bool makePicture(OdTcImage& image, OdTcSourceDrawings& drawings) const override;
+  bool makePicture(OdTcImage& image, OdTcSourceFiles& files) const override;
   OdString sourcePath() const override { return m_fields.sourceFile; }
   void setSourcePath(const OdString& path) override { m_fields.sourceFile = path; }
   bool readProperty(const OdString& name, const OdVariant& value) override;
@@ -47,6 +47,8 @@ class OdTcToolRasterCommandImpl final : public OdTcToolActionAgentImplBase<OdTcT
   std::span<const QStringView> hiddenProperties() const override { return kHiddenByInsertion; }
 
  private:
+  OdString resolvedSource(const IHostDocument& document) const;
+
   OdTcRasterFields m_fields;
 };
 

@@ -1,6 +1,9 @@
-#include "tools/source_drawings.h"
+#include "tools/source_files.h"
 
 #include "frame/error.h"
+#include "frame/system_services.h"
+#include "host/host_locator.h"
+#include "images/picture_file.h"
 
 #include <algorithm>
 
@@ -12,26 +15,49 @@ constexpr std::size_t kMost = 2;
 
 } // namespace
 
-OdDbDatabase* OdTcSourceDrawings::open(const OdString& path) {
+/// The entry of a path; one that is not known is filled by `read`.
+template <class Read>
+OdTcSourceFiles::Entry& OdTcSourceFiles::entry(const OdString& path, Read read) {
   const auto known = std::find_if(m_entries.begin(), m_entries.end(),
-                                  [&](const Entry& entry) { return entry.path == path; });
+                                  [&](const Entry& each) { return each.path == path; });
   if (known != m_entries.end()) {
     std::rotate(known, known + 1, m_entries.end());
   } else {
     if (m_entries.size() == kMost) m_entries.erase(m_entries.begin());
-    m_entries.push_back({path, {}, {}});
-    try {
-      m_entries.back().drawing = OdDbDatabase::readFile(path);
-    } catch (const OdError& error) {
-      m_entries.back().problem = error.description();
-    }
+    m_entries.push_back({path, {}, {}, {}});
+    read(m_entries.back());
   }
-  return m_entries.back().drawing.get();
+  return m_entries.back();
 }
 
-OdString OdTcSourceDrawings::problemOf(const OdString& path) const {
-  for (const Entry& entry : m_entries)
-    if (entry.path == path) return entry.problem;
+OdDbDatabase* OdTcSourceFiles::drawing(const OdString& path) {
+  return entry(path,
+               [&](Entry& fresh) {
+                 try {
+                   fresh.drawing = OdDbDatabase::readFile(path);
+                 } catch (const OdError& error) {
+                   fresh.problem = error.description();
+                 }
+               })
+      .drawing.get();
+}
+
+QImage OdTcSourceFiles::picture(const OdString& path) {
+  return entry(path,
+               [&](Entry& fresh) {
+                 fresh.picture = loadReducedPicture(path);
+                 if (!fresh.picture.isNull()) return;
+                 const OdString problem = odrxSystemServices()->fileExists(path)
+                                              ? QStringLiteral("%1 is no picture that can be shown")
+                                              : QStringLiteral("there is no file %1");
+                 fresh.problem = host::translate(problem).arg(path);
+               })
+      .picture;
+}
+
+OdString OdTcSourceFiles::problemOf(const OdString& path) const {
+  for (const Entry& each : m_entries)
+    if (each.path == path) return each.problem;
   return {};
 }
 

@@ -5,7 +5,7 @@
 #include "images/image_list.h"
 #include "module/properties.h"
 #include "tools/action_agent.h"
-#include "tools/source_drawings.h"
+#include "tools/source_files.h"
 #include "tools/tool_source.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
@@ -160,7 +160,7 @@ class PictureMaker {
     for (const tc::OdTcImagePtr& image : all) images.add(image);
   }
 
-  tc::OdTcSourceDrawings m_sources;
+  tc::OdTcSourceFiles m_sources;
   OdString m_problem;
 };
 
