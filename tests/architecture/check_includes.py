@@ -37,8 +37,8 @@ HOST_MAY_INCLUDE = {"frame", "drawing", "host", "drafton"}
 MODULES_OWN = {"host/host_locator.h"}
 PROGRAMS = ("drafton", "tpal")
 
-# The catalog tool makes pictures of tools as the host does.
-TPAL_MAY_INCLUDE = "drafton/previews"
+# The catalog tool shows and makes pictures of tools as the host does.
+TPAL_MAY_INCLUDE = ("drafton/icons", "drafton/previews")
 
 PARSER_FOLDER = "persistence"
 WIDGET_FOLDERS = ("editors", "ui", "drafton/desktop")
@@ -94,7 +94,7 @@ def wrong_arrow(source, target):
             return f"the host includes {target}, which is the module's own"
         return None
     if here == "tpal":
-        is_foreign = there == "drafton" and not is_below(target, [TPAL_MAY_INCLUDE])
+        is_foreign = there == "drafton" and not is_below(target, TPAL_MAY_INCLUDE)
         return f"tpal includes {target}" if is_foreign else None
     if there in PROGRAMS:
         return f"the module includes {target} of a program"

@@ -28,6 +28,7 @@ ARROWS = [
     ("tpal/a.cpp", "module/entry/b.h", None),
     ("tpal/a.cpp", "catalog/b.h", None),
     ("tpal/a.cpp", "drafton/previews/b.h", None),
+    ("tpal/a.cpp", "drafton/icons/b.h", None),
     ("frame/a.h", "drawing/b.h", "layer 1 (frame) includes drawing/b.h of layer 2 (drawing)"),
     ("drawing/a.h", "module/b.h", "layer 2 (drawing) includes module/b.h of layer 3 (module)"),
     ("host/a.h", "persistence/b.h", "layer 2 (host) includes"),
