@@ -1,8 +1,8 @@
 // Drawings from and into files.
 #include "drawing/dxf/bytes.h"
+#include "drawing/dxf/crew.h"
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/document_out.h"
-#include "drawing/dxf/template.h"
 #include "drawing/foreign_drawings.h"
 #include "frame/file_path.h"
 
@@ -11,9 +11,6 @@
 #include <QSaveFile>
 
 namespace {
-
-/// Gives the bytes of a drawing from their beginning.
-using BytesMaker = std::function<OdDbDxfBytes()>;
 
 /// A refusal for what is no DXF, by its first bytes.
 OdString whyNot(std::string_view bytes) {
@@ -33,59 +30,20 @@ OdString whyNot(std::string_view bytes) {
   return {};
 }
 
-/// A new drawing whose handles lie above `lastHandle`.
-OdDbDatabasePtr newDatabase(std::uint64_t lastHandle) {
-  const auto database = odrxMake<OdDbDatabase>();
-  OdDbDatabaseData& d = database->data();
-  const auto vars = oddbHeaderVars();
-  for (std::size_t i = 0; i < vars.size(); ++i) {
-    d.vars[i] = oddbPresetOf(vars[i]);
-    d.varPresent[i] = vars[i].type != OdDbHeaderVarInfo::kHandle;
-  }
-  // The header's place is taken by the presets, but for what decides how the rest is read.
-  static const std::string text =
-      std::string("0 SECTION|2 HEADER|9 $ACADVER|1 AC1032|0 ENDSEC|").append(oddxf::newDrawing());
-  constexpr std::uint64_t kFirstFree = 0x30;
-  oddxf::Start start;
-  start.version = OdDb::kR2018;
-  start.hasHandles = true;
-  start.handseed = lastHandle + kFirstFree;
-  OdDbDxfShortSource source(text, lastHandle);
-  OdDbDxfReader(*database, source, start, QStringLiteral("(new drawing)")).read();
-  d.headerOrder.clear();
-  return database;
-}
-
 oddb::ForeignReader& foreignReader() {
   static oddb::ForeignReader reader;
   return reader;
 }
 
-/// Reads what `make` gives twice: for a look ahead, and for good.
-OdDbDatabasePtr load(const BytesMaker& make, const OdString& name) {
-  const oddxf::Start start = oddxf::lookAhead(*OdDbDxfSource::of(make()), name);
-  const OdDbDatabasePtr database =
-      start.isPlain() ? newDatabase(start.handseed - 1) : odrxMake<OdDbDatabase>();
-  const std::unique_ptr<OdDbDxfSource> source = OdDbDxfSource::ahead(make());
-  try {
-    OdDbDxfReader(*database, *source, start, name).read();
-  } catch (const OdFileError&) {
-    throw;
-  } catch (const OdError& error) {
-    // What nobody has thought of is the file's fault all the same.
-    throw OdDbFileError(name, source->line(), error.description());
-  }
-  return database;
-}
-
 } // namespace
 
-OdDbDatabasePtr OdDbDatabase::createDatabase() { return newDatabase(0); }
+OdDbDatabasePtr OdDbDatabase::createDatabase() { return oddxf::newDocument(0); }
 
 OdDbDatabasePtr OdDbDatabase::readDxf(QByteArrayView bytes, const OdString& name) {
   const std::string_view text(bytes.data(), static_cast<std::size_t>(bytes.size()));
   if (const OdString reason = whyNot(text); !reason.isEmpty()) throw OdDbFileError(name, 1, reason);
-  return load([&] { return OdDbDxfBytes(text); }, name);
+  return oddxf::readDocument([&] { return OdDbDxfBytes(text); }, name,
+                             OdDbDxfCrew::machineThreads());
 }
 
 void oddb::setForeignReader(ForeignReader reader) { foreignReader() = std::move(reader); }
@@ -116,7 +74,7 @@ OdDbDatabasePtr readDxfFile(const OdString& path) {
     if (!file.seek(0)) refuse(eFileAccess);
     return OdDbDxfBytes(file);
   };
-  return load(fromStart, path);
+  return oddxf::readDocument(fromStart, path, OdDbDxfCrew::machineThreads());
 }
 
 } // namespace

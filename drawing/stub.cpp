@@ -21,9 +21,10 @@ std::uint32_t OdDbStubPool::add(OdDbHandle handle) {
 }
 
 std::size_t OdDbHandleTable::placeOf(std::uint64_t key) const {
-  // Neighbours stay together, as they are asked for together; all others are scattered.
+  // Neighbours stay together, as they are asked for together; all others are scattered. Few stay
+  // together, since long rows that meet would have to be walked over.
   constexpr std::uint64_t kScatter = 0x9E3779B97F4A7C15;
-  constexpr int kNeighbours = 12;
+  constexpr int kNeighbours = 3;
   const std::uint64_t scattered = (key >> kNeighbours) * kScatter;
   return (key + (scattered ^ scattered >> 32)) & (m_places.size() - 1);
 }

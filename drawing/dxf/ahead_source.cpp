@@ -1,113 +1,166 @@
 #include "drawing/dxf/ahead_source.h"
 
-#include <system_error>
-#include <utility>
+#include "drawing/dxf/piece_source.h"
 
-namespace {
-constexpr std::size_t kItems = 2048;
-constexpr std::size_t kMostReady = 8;
-} // namespace
+#include <algorithm>
 
-OdDbDxfAheadSource::OdDbDxfAheadSource(OdDbDxfBytes bytes)
-  : m_source(std::move(bytes)) {
+class OdDbDxfAheadSource::Piece final : public OdDbDxfJob {
+ public:
+  Piece(OdDbDxfAheadSource& owner, OdDbDxfPiece text)
+    : m_owner(owner)
+    , content(std::move(text)) {}
+
+  void work(std::size_t who) override;
+
+ private:
+  OdDbDxfAheadSource& m_owner;
+
+ public:
+  const OdDbDxfPiece content;
+  std::vector<OdDbDxfReadEntity> entities; ///< those that were managed
+};
+
+/// Reads the entities of pieces in one thread.
+class OdDbDxfAheadSource::Helper {
+ public:
+  Helper(const OdDbDxfIn& in, OdDbDxfShared& shared)
+    : m_in(in, m_source, shared) {}
+
+  void read(Piece& piece);
+
+ private:
+  void readOne(Piece& piece);
+
+  OdDbDxfPieceSource m_source;
+  OdDbDxfIn m_in;
+};
+
+void OdDbDxfAheadSource::Piece::work(std::size_t who) {
+  std::unique_ptr<Helper>& helper = m_owner.m_helpers[who];
+  if (!helper) helper = std::make_unique<Helper>(*m_owner.m_in, *m_owner.m_shared);
+  helper->read(*this);
+}
+
+void OdDbDxfAheadSource::Helper::read(Piece& piece) {
+  // These stand between entities.
+  static constexpr std::string_view kMarks[] = {"SECTION", "ENDSEC", "BLOCK", "ENDBLK", "EOF"};
+  constexpr std::size_t kShortEntity = 100;
+  piece.entities.reserve(piece.content.text.size() / kShortEntity);
+  m_source.restart(piece.content);
+  m_in.restart();
+  while (!m_in.isDamaged()) {
+    if (std::find(std::begin(kMarks), std::end(kMarks), m_in.tag().text) == std::end(kMarks))
+      readOne(piece);
+    else
+      m_in.next();
+    while (m_in.tag().code != 0) m_in.next();
+  }
+}
+
+void OdDbDxfAheadSource::Helper::readOne(Piece& piece) {
+  const std::string_view name = m_in.tag().text;
+  OdDbEntityPtr entity;
   try {
-    m_thread = std::thread([this] { splitAll(); });
-  } catch (const std::system_error&) {
-    // There can be no further thread: whoever takes the tags splits them.
+    entity = m_in.readEntity(name);
+  } catch (const std::exception&) {
+    // It will be raised again where it can be told.
+    return;
+  }
+  if (m_in.hasGivenUp()) return;
+  piece.entities.push_back({std::move(entity), m_in.head(), name,
+                            m_in.isDamaged() ? std::string_view() : m_in.tag().text,
+                            m_source.place(), m_source.line()});
+}
+
+OdDbDxfAheadSource::OdDbDxfAheadSource(OdDbDxfBytes bytes, std::size_t threads)
+  : m_stream(std::move(bytes))
+  , m_text(OdDbDxfBytes(std::string_view()))
+  , m_threads(threads) {}
+
+OdDbDxfAheadSource::~OdDbDxfAheadSource() { end(); }
+
+OdDbDxfSource::Result OdDbDxfAheadSource::next(OdDbDxfTag& tag) {
+  while (m_piece) {
+    const Result result = m_text.next(tag);
+    m_line = m_text.line();
+    if (result != kEnd) return result;
+    if (!advance()) break;
+  }
+  const Result result = m_stream.next(tag);
+  m_line = m_stream.line();
+  return result;
+}
+
+OdString OdDbDxfAheadSource::problem() const {
+  return m_piece ? m_text.problem() : m_stream.problem();
+}
+
+void OdDbDxfAheadSource::begin(OdDbDxfIn& in) {
+  if (!m_crew) {
+    m_shared = std::make_unique<OdDbDxfShared>(in.database());
+    m_crew = std::make_unique<OdDbDxfCrew>(m_threads);
+    m_helpers.resize(m_threads);
+  }
+  m_in = &in;
+  m_lock = std::unique_lock(m_shared->mutex());
+}
+
+void OdDbDxfAheadSource::end() {
+  if (!m_in) return;
+  m_lock.unlock();
+  m_crew->stop();
+  m_in = nullptr;
+}
+
+void OdDbDxfAheadSource::fill() {
+  while (m_in && !m_allCut && !m_crew->isFull()) {
+    auto content = m_stream.cut();
+    if (content)
+      m_crew->give(std::make_unique<Piece>(*this, std::move(*content)));
+    else
+      m_allCut = true;
   }
 }
 
-OdDbDxfAheadSource::~OdDbDxfAheadSource() {
-  {
-    const std::lock_guard lock(m_mutex);
-    m_stop = true;
-  }
-  m_changed.notify_all();
-  if (m_thread.joinable()) m_thread.join();
-}
-
-bool OdDbDxfAheadSource::hand(Batch batch) {
-  std::unique_lock lock(m_mutex);
-  m_changed.wait(lock, [&] { return m_stop || m_ready.size() < kMostReady; });
-  if (m_stop) return false;
-  m_ready.push_back(std::move(batch));
-  lock.unlock();
-  m_changed.notify_all();
+bool OdDbDxfAheadSource::advance() {
+  m_piece = nullptr;
+  fill();
+  if (m_crew->isEmpty()) return false;
+  // Helpers may look into the drawing meanwhile, and so may this thread as one of them.
+  if (m_in) m_lock.unlock();
+  std::unique_ptr<OdDbDxfJob> job = m_crew->take();
+  if (m_in) m_lock.lock();
+  m_piece.reset(static_cast<Piece*>(job.release()));
+  m_text.restart(m_piece->content.text, m_piece->content.line);
+  m_at = 0;
   return true;
 }
 
-OdDbDxfAheadSource::Batch OdDbDxfAheadSource::split() {
-  Batch batch;
-  batch.memory = m_source.memory();
-  batch.items.reserve(kItems);
-  if (m_next) batch.items.push_back(*std::exchange(m_next, std::nullopt));
-  while (batch.items.size() < kItems) {
-    Item item;
-    const Result result = m_source.next(item.tag);
-    item.line = m_source.line();
-    if (result != kTag) {
-      batch.end = result;
-      batch.endLine = item.line;
-      batch.problem = m_source.problem();
-      return batch;
-    }
-    if (batch.memory != m_source.memory()) {
-      if (!batch.items.empty()) {
-        m_next = item;
-        return batch;
-      }
-      batch.memory = m_source.memory();
-    }
-    batch.items.push_back(item);
+std::span<OdDbDxfReadEntity> OdDbDxfAheadSource::entities(OdDbDxfIn& in) {
+  if (!m_in) begin(in);
+  if (!m_piece) {
+    if (!m_stream.goBack(in.tag())) return {};
+    m_allCut = false;
+    advance();
+    // The same tag again, from a piece if there is one.
+    in.next();
+    if (!m_piece) return {};
   }
-  return batch;
+  auto& all = m_piece->entities;
+  const char* const wanted = in.tag().text.data();
+  while (m_at < all.size() && all[m_at].name.data() < wanted) ++m_at;
+  if (m_at == all.size() || all[m_at].name.data() != wanted) return {};
+  const std::size_t first = m_at++;
+  while (m_at < all.size() && all[m_at].name.data() == all[m_at - 1].next.data()) ++m_at;
+  return std::span(all).subspan(first, m_at - first);
 }
 
-void OdDbDxfAheadSource::splitAll() {
-  Batch last;
-  try {
-    for (bool more = true; more;) {
-      Batch batch = split();
-      more = batch.end == kTag;
-      if (!hand(std::move(batch))) return;
-    }
-    return;
-  } catch (const std::exception&) {
-    last.end = kDamaged;
-    last.error = std::current_exception();
-  }
-  // Raised where the tags are taken.
-  hand(std::move(last));
+void OdDbDxfAheadSource::takeOver(const OdDbDxfReadEntity& read, OdDbDxfIn& in) {
+  m_line = read.line;
+  in.takeOver(read.head, {0, read.next});
 }
 
-void OdDbDxfAheadSource::take() {
-  m_at = 0;
-  if (!m_thread.joinable()) {
-    m_batch = split();
-    return;
-  }
-  std::unique_lock lock(m_mutex);
-  m_changed.wait(lock, [&] { return !m_ready.empty(); });
-  m_batch = std::move(m_ready.front());
-  m_ready.pop_front();
-  // The thread is woken for more than one batch.
-  const bool wake = m_ready.size() == kMostReady / 2;
-  lock.unlock();
-  if (wake) m_changed.notify_all();
-}
-
-OdDbDxfSource::Result OdDbDxfAheadSource::next(OdDbDxfTag& tag) {
-  while (m_at == m_batch.items.size()) {
-    if (m_batch.end != kTag) {
-      if (m_batch.error) std::rethrow_exception(m_batch.error);
-      m_line = m_batch.endLine;
-      m_problem = m_batch.problem;
-      return m_batch.end;
-    }
-    take();
-  }
-  const Item& item = m_batch.items[m_at++];
-  tag = item.tag;
-  m_line = item.line;
-  return kTag;
+void OdDbDxfAheadSource::goBehind(const OdDbDxfReadEntity& read, OdDbDxfIn& in) {
+  m_text.goOn(read.place, read.line);
+  if (read.next.data() == nullptr) in.next();
 }

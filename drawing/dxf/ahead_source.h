@@ -1,62 +1,70 @@
-// Tags from text files, split in a thread of their own.
+// Text files whose entities are read ahead by several threads.
 #pragma once
 
+#include "drawing/dxf/crew.h"
+#include "drawing/dxf/in.h"
+#include "drawing/dxf/shared.h"
 #include "drawing/dxf/text_source.h"
 
-#include <condition_variable>
-#include <deque>
-#include <exception>
-#include <mutex>
-#include <optional>
-#include <thread>
-#include <vector>
+#include <span>
 
-/// Gives the tags of a text file, which another thread splits ahead of whoever takes them: on two
-/// processors, a large drawing is opened in the time that its objects take. What is split ahead is
-/// bounded. The device must not be used by others meanwhile.
+/// An entity whose tags were read ahead, to be entered in the drawing.
+struct OdDbDxfReadEntity {
+  OdDbEntityPtr entity;
+  OdDbDxfHead head;
+  std::string_view name; ///< where it stands in the file
+  /// The object that follows: what stands in its first tag, the place behind that, and its line.
+  /// It has no name at the end of a piece of the file.
+  std::string_view next;
+  const char* place;
+  qint64 line;
+};
+
+/// Gives the tags of a text file, as any source. In sections with entities it cuts the file into
+/// pieces between two of them, and helpers read these ahead. Whoever takes the tags may then take
+/// many entities at once; those that the helpers did not manage have to be taken tag by tag, as
+/// have all other things. No more than a few pieces are ahead. Nobody else may use the device
+/// meanwhile.
 class OdDbDxfAheadSource final : public OdDbDxfSource {
  public:
-  explicit OdDbDxfAheadSource(OdDbDxfBytes bytes);
+  OdDbDxfAheadSource(OdDbDxfBytes bytes, std::size_t threads);
   ~OdDbDxfAheadSource() override;
   OdDbDxfAheadSource(const OdDbDxfAheadSource&) = delete;
   OdDbDxfAheadSource& operator=(const OdDbDxfAheadSource&) = delete;
 
   Result next(OdDbDxfTag& tag) override;
   qint64 line() const override { return m_line; }
-  OdString problem() const override { return m_problem; }
+  OdString problem() const override;
+
+  /// Entities that stand one behind the other and were read ahead, from that of the tag at hand on.
+  /// Nothing if that one was not. Helpers read for `in`, which takes the tags of this source, until
+  /// end() is called; the drawing must not be changed by others meanwhile.
+  std::span<OdDbDxfReadEntity> entities(OdDbDxfIn& in);
+  /// Makes `in` and the line for messages those that they are when an entity's tags were read.
+  void takeOver(const OdDbDxfReadEntity& read, OdDbDxfIn& in);
+  /// Goes on behind the entity.
+  void goBehind(const OdDbDxfReadEntity& read, OdDbDxfIn& in);
+  /// No more entities are taken. This waits for the helpers.
+  void end();
 
  private:
-  struct Item {
-    OdDbDxfTag tag;
-    qint64 line;
-  };
-  /// Tags that lie in one piece of memory.
-  struct Batch {
-    std::vector<Item> items;
-    std::shared_ptr<char[]> memory;
-    Result end = kTag; ///< what follows the last of them
-    qint64 endLine = 0;
-    OdString problem;
-    std::exception_ptr error;
-  };
+  class Helper;
+  class Piece;
+  void begin(OdDbDxfIn& in);
+  void fill();
+  bool advance();
 
-  Batch split();
-  void splitAll();
-  bool hand(Batch batch);
-  void take();
-
-  // Of the thread.
-  OdDbDxfTextSource m_source;
-  std::optional<Item> m_next; ///< begins the next batch
-
-  Batch m_batch; ///< being given
-  std::size_t m_at = 0;
+  OdDbDxfTextSource m_stream; ///< what is not in pieces
+  OdDbDxfTextSource m_text;   ///< the piece at hand
+  std::unique_ptr<Piece> m_piece;
+  std::size_t m_at = 0; ///< in its entities
   qint64 m_line = 1;
-  OdString m_problem;
+  const std::size_t m_threads;
 
-  std::mutex m_mutex;
-  std::condition_variable m_changed;
-  std::deque<Batch> m_ready;
-  bool m_stop = false;
-  std::thread m_thread;
+  OdDbDxfIn* m_in = nullptr; ///< while helpers are at work
+  bool m_allCut = false;
+  std::unique_ptr<OdDbDxfShared> m_shared;
+  std::unique_lock<std::mutex> m_lock;
+  std::vector<std::unique_ptr<Helper>> m_helpers; ///< one for each thread
+  std::unique_ptr<OdDbDxfCrew> m_crew;
 };

@@ -29,7 +29,7 @@ bool OdDbDxfBytes::more() {
     std::memmove(m_memory.get(), at, kept);
   }
   const qint64 read = m_device->read(m_memory.get() + kept, static_cast<qint64>(m_size - kept));
-  at = m_memory.get();
+  m_begin = at = m_memory.get();
   end = at + kept + std::max<qint64>(read, 0);
   if (read > 0) return true;
   if (read < 0) m_problem = m_device->errorString();

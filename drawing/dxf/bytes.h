@@ -15,12 +15,16 @@ class OdDbDxfBytes {
   /// `all` must outlive the window.
   explicit OdDbDxfBytes(std::string_view all)
     : at(all.data())
-    , end(all.data() + all.size()) {}
+    , end(all.data() + all.size())
+    , m_begin(all.data()) {}
   /// From where the device stands; it must outlive the window.
   explicit OdDbDxfBytes(QIODevice& device);
 
   OdDbDxfBytes(OdDbDxfBytes&&) = default;
+  OdDbDxfBytes& operator=(OdDbDxfBytes&&) = default;
 
+  /// The first byte that can still be read; bytes before `at` can be gone back to.
+  const char* begin() const { return m_begin; }
   std::size_t left() const { return static_cast<std::size_t>(end - at); }
   /// Brings further bytes behind those that are left, which may move. False if there are none.
   bool more();
@@ -34,6 +38,7 @@ class OdDbDxfBytes {
   const char* end; ///< behind the last byte in the window
 
  private:
+  const char* m_begin = nullptr;
   QIODevice* m_device = nullptr;
   std::shared_ptr<char[]> m_memory;
   std::size_t m_size = 0;

@@ -1,4 +1,5 @@
 // Reading blocks, entities and objects.
+#include "drawing/dxf/ahead_source.h"
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/makers.h"
 #include "drawing/dxf/residue.h"
@@ -90,7 +91,7 @@ void OdDbDxfReader::readEntities(OdDbObjectId block) {
   while (!m_in.isDamaged()) {
     const std::string_view name = m_in.tag().text;
     if (name == "ENDSEC" || name == "ENDBLK" || name == "EOF" || name == "SECTION") return;
-    readEntity(block);
+    if (!takeEntities(block)) readEntity(block);
   }
 }
 
@@ -112,27 +113,39 @@ OdDbBlockTableRecord& OdDbDxfReader::spaceFor(OdDbObjectId block) {
 
 void OdDbDxfReader::readEntity(OdDbObjectId block) {
   m_name = m_in.tag().text;
-  OdDbEntityPtr entity = oddxf::makeEntity(m_name);
-  const bool follows = m_name == "VERTEX" || m_name == "ATTRIB" || m_name == "SEQEND";
-  m_in.readTags(*entity);
-  if (m_in.isDamaged()) return;
-  if (!follows) m_parentLeftOut = m_in.valueWasBad();
-  if (m_in.valueWasBad() || (follows && m_parentLeftOut)) {
-    m_in.damage(QStringLiteral("this %1 is left out").arg(shown(m_name)));
+  OdDbEntityPtr entity = m_in.readEntity(m_name);
+  if (!m_in.isDamaged()) enterEntity(m_name, std::move(entity), block);
+}
+
+bool OdDbDxfReader::takeEntities(OdDbObjectId block) {
+  if (!m_ahead) return false;
+  const auto entities = m_ahead->entities(m_in);
+  if (entities.empty()) return false;
+  for (OdDbDxfReadEntity& read : entities) {
+    m_ahead->takeOver(read, m_in);
+    enterEntity(read.name, std::move(read.entity), block);
+  }
+  m_ahead->goBehind(entities.back(), m_in);
+  return true;
+}
+
+void OdDbDxfReader::enterEntity(std::string_view name, OdDbEntityPtr entity, OdDbObjectId block) {
+  const bool follows = name == "VERTEX" || name == "ATTRIB" || name == "SEQEND";
+  if (!follows) m_parentLeftOut = !entity;
+  if (!entity || (follows && m_parentLeftOut)) {
+    m_in.damage(QStringLiteral("this %1 is left out").arg(shown(name)));
     return;
   }
-  if (OdDbEntityPtr other = entity->readAs()) entity = std::move(other);
-  if (entity->layerId().isNull()) entity->setLayer(m_data.layerZero);
   if (follows && m_parent) {
     m_in.enterFollower(*entity, m_parent->objectId());
     m_parent->addFollower(*entity);
-    if (m_name == "SEQEND") m_parent = nullptr;
+    if (name == "SEQEND") m_parent = nullptr;
     return;
   }
   OdDbEntity* const entered = entity.get();
   m_in.enterEntity(std::move(entity), spaceFor(block));
   m_parent =
-      entered->takesFollowers() || m_in.hasFollowers() || m_name == "POLYLINE" ? entered : nullptr;
+      entered->takesFollowers() || m_in.hasFollowers() || name == "POLYLINE" ? entered : nullptr;
 }
 
 void OdDbDxfReader::readObjects() {

@@ -1,5 +1,6 @@
 #include "drawing/dxf/document_in.h"
 
+#include "drawing/dxf/ahead_source.h"
 #include "drawing/dxf/makers.h"
 #include "drawing/dxf/residue.h"
 #include "drawing/dxf/text.h"
@@ -30,6 +31,16 @@ OdDbDxfReader::OdDbDxfReader(OdDbDatabase& database, OdDbDxfSource& source,
   m_in.setCodePage(start.codePage.empty() ? std::string_view("ANSI_1252") : start.codePage);
   m_data.handseed = std::max<std::uint64_t>(m_data.handseed, start.handseed);
   m_firstFree = m_data.handseed;
+}
+
+OdDbDxfReader::OdDbDxfReader(OdDbDatabase& database, OdDbDxfAheadSource& source,
+                             const oddxf::Start& start, OdString name)
+  : OdDbDxfReader(database, static_cast<OdDbDxfSource&>(source), start, std::move(name)) {
+  m_ahead = &source;
+}
+
+OdDbDxfReader::~OdDbDxfReader() {
+  if (m_ahead) m_ahead->end();
 }
 
 void OdDbDxfReader::read() {
@@ -66,6 +77,7 @@ void OdDbDxfReader::readSections() {
     }
     const std::string name(m_in.tag().text);
     const bool contents = name == "BLOCKS" || name == "ENTITIES" || name == "OBJECTS";
+    if (m_ahead && (!contents || name == "OBJECTS")) m_ahead->end();
     if (contents) ensureTables();
     if (name == "HEADER") {
       readHeader();
@@ -209,6 +221,7 @@ OdDbObjectId OdDbDxfReader::ensureRecord(OdDbDatabaseData::Table table, const ch
 }
 
 void OdDbDxfReader::finish() {
+  if (m_ahead) m_ahead->end();
   ensureTables();
   if (m_data.rootDictionary.isNull()) {
     m_data.rootDictionary = m_database.addObject(odrxMake<OdDbDictionary>(), {});

@@ -1,10 +1,14 @@
 // Reading whole drawings.
 #pragma once
 
+#include "drawing/dxf/bytes.h"
 #include "drawing/dxf/in.h"
 #include "drawing/dxf/start.h"
 
 #include <array>
+#include <functional>
+
+class OdDbDxfAheadSource;
 
 /// Reads a drawing section by section into an empty database.
 class OdDbDxfReader {
@@ -12,6 +16,10 @@ class OdDbDxfReader {
   /// `start` is what a look ahead found, `name` the path for messages.
   OdDbDxfReader(OdDbDatabase& database, OdDbDxfSource& source, const oddxf::Start& start,
                 OdString name);
+  /// The same with entities that are read ahead.
+  OdDbDxfReader(OdDbDatabase& database, OdDbDxfAheadSource& source, const oddxf::Start& start,
+                OdString name);
+  ~OdDbDxfReader();
   /// Raises OdFileError if nothing can be trusted.
   void read();
 
@@ -27,6 +35,8 @@ class OdDbDxfReader {
   OdDbObjectId blockNamed(const OdString& name);
   void readEntities(OdDbObjectId block);
   void readEntity(OdDbObjectId block);
+  bool takeEntities(OdDbObjectId block);
+  void enterEntity(std::string_view name, OdDbEntityPtr entity, OdDbObjectId block);
   OdDbBlockTableRecord& spaceOf(OdDbObjectId id);
   OdDbBlockTableRecord& spaceFor(OdDbObjectId block);
   void readObjects();
@@ -40,6 +50,7 @@ class OdDbDxfReader {
   OdDbDatabase& m_database;
   OdDbDatabaseData& m_data;
   OdDbDxfIn m_in;
+  OdDbDxfAheadSource* m_ahead = nullptr; ///< if entities are read ahead
   std::array<OdDbSymbolTablePtr, OdDbDatabaseData::kTableCount> m_tables;
   OdDbBlockTableRecordPtr m_space; ///< of the last entity
   std::string m_name;
@@ -49,3 +60,16 @@ class OdDbDxfReader {
   OdDbEntity* m_parent = nullptr;
   bool m_parentLeftOut = false;
 };
+
+namespace oddxf {
+
+/// Reads a drawing with up to `threads` threads; what comes of it does not depend on their number.
+/// `make` gives the bytes from their beginning and is called twice: for a look ahead, and for good.
+/// `name` is the path for messages. Raises OdFileError if nothing can be trusted.
+OdDbDatabasePtr readDocument(const std::function<OdDbDxfBytes()>& make, const OdString& name,
+                             std::size_t threads);
+
+/// A new drawing whose handles lie above `lastHandle`.
+OdDbDatabasePtr newDocument(std::uint64_t lastHandle);
+
+} // namespace oddxf

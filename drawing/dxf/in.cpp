@@ -1,6 +1,8 @@
 #include "drawing/dxf/in.h"
 
 #include "drawing/dxf/johab.h"
+#include "drawing/dxf/makers.h"
+#include "drawing/dxf/shared.h"
 #include "drawing/dxf/start.h"
 #include "drawing/dxf/text.h"
 #include "drawing/object_extras.h"
@@ -77,6 +79,23 @@ OdDbDxfIn::OdDbDxfIn(OdDbDatabase& database, OdDbDxfSource& source, OdString nam
   , m_name(std::move(name))
   , m_decoder(QStringDecoder::Utf8) {}
 
+OdDbDxfIn::OdDbDxfIn(const OdDbDxfIn& other, OdDbDxfSource& source, OdDbDxfShared& shared)
+  : m_database(other.m_database)
+  , m_source(source)
+  , m_name(other.m_name)
+  , m_decodeEscapes(other.m_decodeEscapes)
+  , m_plain(other.m_plain)
+  , m_keepsHandles(other.m_keepsHandles)
+  , m_shared(&shared) {
+  const QByteArray& encoding = m_database.data().encoding;
+  m_decoder = QStringDecoder(encoding.constData());
+}
+
+void OdDbDxfIn::restart() {
+  m_damaged = m_givenUp = false;
+  next();
+}
+
 bool OdDbDxfIn::next() {
   switch (m_source.next(m_tag)) {
   case OdDbDxfSource::kTag:
@@ -85,7 +104,8 @@ bool OdDbDxfIn::next() {
     if (!m_damaged) damage(m_source.problem());
     break;
   case OdDbDxfSource::kEnd:
-    if (!m_damaged) damage(QStringLiteral("the file ends too early"));
+    // What a helper has been given ends with an object.
+    if (!m_damaged && !m_shared) damage(QStringLiteral("the file ends too early"));
     break;
   }
   m_damaged = true;
@@ -98,6 +118,10 @@ void OdDbDxfIn::fail(const OdString& reason) const {
 }
 
 void OdDbDxfIn::damage(const OdString& what) {
+  if (m_shared) {
+    m_givenUp = true;
+    return;
+  }
   QStringList& list = data().unknownContent;
   if (list.size() < kMostMessages)
     list << place(m_name, m_source.line()) + what;
@@ -106,6 +130,10 @@ void OdDbDxfIn::damage(const OdString& what) {
 }
 
 void OdDbDxfIn::note(const OdString& what) {
+  if (m_shared) {
+    m_givenUp = true;
+    return;
+  }
   if (data().readNotes.size() < kMostMessages)
     data().readNotes << place(m_name, m_source.line()) + what;
 }
@@ -113,7 +141,7 @@ void OdDbDxfIn::note(const OdString& what) {
 double OdDbDxfIn::real(const OdDbDxfTag& tag, double now) {
   const auto value = oddxf::realOf(tag.text);
   if (value && std::isfinite(*value)) return *value;
-  m_badValue = true;
+  m_head.hasBadValue = true;
   damage(QStringLiteral("\"%1\" under group code %2 is no finite number")
              .arg(shown(tag.text))
              .arg(tag.code));
@@ -130,7 +158,7 @@ std::int64_t OdDbDxfIn::longInteger(const OdDbDxfTag& tag, std::int64_t now) {
   if (const auto value = oddxf::realOf(tag.text);
       value && std::abs(*value) < 9e15 && std::trunc(*value) == *value)
     return static_cast<std::int64_t>(*value);
-  m_badValue = true;
+  m_head.hasBadValue = true;
   damage(QStringLiteral("\"%1\" under group code %2 is no whole number")
              .arg(shown(tag.text))
              .arg(tag.code));
@@ -140,7 +168,7 @@ std::int64_t OdDbDxfIn::longInteger(const OdDbDxfTag& tag, std::int64_t now) {
 int OdDbDxfIn::integer(const OdDbDxfTag& tag, int now) {
   const std::int64_t value = longInteger(tag, now);
   if (value == static_cast<int>(value)) return static_cast<int>(value);
-  m_badValue = true;
+  m_head.hasBadValue = true;
   damage(QStringLiteral("%1 under group code %2 is too large").arg(value).arg(tag.code));
   return now;
 }
@@ -211,12 +239,33 @@ OdDbHandle OdDbDxfIn::handle(const OdDbDxfTag& tag) {
 
 OdDbObjectId OdDbDxfIn::reference(const OdDbDxfTag& tag) {
   const OdDbHandle value = handle(tag);
-  return value.isNull() ? OdDbObjectId() : OdDbObjectId(&data().stubFor(value));
+  if (value.isNull()) return {};
+  if (!m_shared) return OdDbObjectId(&data().stubFor(value));
+  const OdDbObjectId id(m_shared->stubFor(value));
+  if (id.isNull()) m_givenUp = true;
+  return id;
+}
+
+OdDbObjectId OdDbDxfIn::foundRecord(OdDbDatabaseData::Table table, const std::string& name) {
+  auto& found = m_found[table];
+  if (const auto at = found.find(name); at != found.end()) return at->second;
+  const OdString wanted = text(name);
+  const OdDbObjectId id = m_shared->recordNamed(table, wanted);
+  if (!id.isNull())
+    found.emplace(name, id);
+  else if (!wanted.isEmpty())
+    m_givenUp = true;
+  return id;
 }
 
 OdDbObjectId OdDbDxfIn::record(OdDbDatabaseData::Table table, std::string_view name) {
   Recent& recent = m_recent[table];
-  if (recent.id.isValid() && recent.name == name) return recent.id;
+  if (!recent.id.isNull() && recent.name == name) return recent.id;
+  if (m_shared) {
+    const OdDbObjectId id = foundRecord(table, std::string(name));
+    recent = {std::string(name), id};
+    return id;
+  }
   const OdDbSymbolTablePtr records = data().tables[table].safeOpenObject(OdDb::kForWrite);
   const OdString wanted = text(name);
   OdDbObjectId id = records->getAt(wanted);
@@ -303,8 +352,8 @@ void OdDbDxfIn::keepGroup(OdDbObject& object) {
 void OdDbDxfIn::readTags(OdDbObject& object) {
   m_subclass.clear();
   m_knownSubclass = true;
-  m_badValue = m_paperSpace = m_hasFollowers = m_ownerSeen = false;
-  m_handle = m_namedOwner = {};
+  m_head = {};
+  m_ownerSeen = m_givenUp = false;
   m_plainSubclass = m_plain ? plainSubclass(object) : nullptr;
   const int handleCode = object.dxfHandleCode();
   next();
@@ -314,10 +363,10 @@ void OdDbDxfIn::readTags(OdDbObject& object) {
       keepGroup(object);
       continue;
     }
-    if (code == handleCode && m_handle.isNull() && m_subclass.empty()) {
-      m_handle = handle(m_tag);
+    if (code == handleCode && m_head.handle.isNull() && m_subclass.empty()) {
+      m_head.handle = handle(m_tag);
     } else if (code == 330 && !m_ownerSeen && m_subclass.empty()) {
-      m_namedOwner = handle(m_tag);
+      m_head.owner = handle(m_tag);
       m_ownerSeen = true;
     } else if (code == 100) {
       m_subclass = m_tag.text;
@@ -331,7 +380,7 @@ void OdDbDxfIn::readTags(OdDbObject& object) {
         keepTag(object);
       }
     } else if ((code < 1000 && !m_knownSubclass) || !object.dxfInTag(m_tag, *this)) {
-      if (code == 66 && m_tag.text.ends_with('1')) m_hasFollowers = true;
+      if (code == 66 && m_tag.text.ends_with('1')) m_head.hasFollowers = true;
       keepTag(object);
     }
     next();
@@ -345,25 +394,34 @@ void OdDbDxfIn::readTags(OdDbObject& object) {
     residue->squeeze();
 }
 
+OdDbEntityPtr OdDbDxfIn::readEntity(std::string_view name) {
+  OdDbEntityPtr entity = oddxf::makeEntity(name);
+  readTags(*entity);
+  if ((m_damaged && !m_shared) || m_head.hasBadValue) return nullptr;
+  if (OdDbEntityPtr other = entity->readAs()) entity = std::move(other);
+  if (entity->layerId().isNull()) entity->setLayer(data().layerZero);
+  return entity;
+}
+
 OdDbStub* OdDbDxfIn::freeStub(const OdDbObject& object) {
   // Few old files have handles.
-  if (m_handle.isNull() || !m_keepsHandles) return nullptr;
+  if (m_head.handle.isNull() || !m_keepsHandles) return nullptr;
   // A handle that nothing can follow would leave no room for new objects.
-  if (m_handle > oddxf::kHighestHandle) {
+  if (m_head.handle > oddxf::kHighestHandle) {
     damage(QStringLiteral("the handle %1 is too large; the object got a new one")
-               .arg(m_handle.ascii()));
+               .arg(m_head.handle.ascii()));
     return nullptr;
   }
-  OdDbStub& stub = data().stubFor(m_handle);
+  OdDbStub& stub = data().stubFor(m_head.handle);
   if (!stub.object) return &stub;
   damage(QStringLiteral("the handle %1 of a %2 belongs to another object; it got a new one")
-             .arg(m_handle.ascii(), QLatin1String(object.dxfName())));
+             .arg(m_head.handle.ascii(), QLatin1String(object.dxfName())));
   return nullptr;
 }
 
 void OdDbDxfIn::enter(OdDbObject& object, OdDbObjectId owner) {
   const OdDbStub* const stub = freeStub(object);
-  if (owner.isNull() && !m_namedOwner.isNull()) owner = OdDbObjectId(&data().stubFor(m_namedOwner));
+  if (owner.isNull() && !m_head.owner.isNull()) owner = OdDbObjectId(&data().stubFor(m_head.owner));
   m_database.addObject(&object, owner, stub ? stub->handle : OdDbHandle());
 }
 
@@ -390,6 +448,6 @@ bool OdDbDxfIn::readObject(OdDbObject& object, OdDbObjectId owner) {
 
 void OdDbDxfIn::enterFollower(OdDbObject& object, OdDbObjectId leader) {
   enter(object, leader);
-  if (!m_namedOwner.isNull() && !m_plain)
-    object.m_owner = OdDbObjectId(&data().stubFor(m_namedOwner));
+  if (!m_head.owner.isNull() && !m_plain)
+    object.m_owner = OdDbObjectId(&data().stubFor(m_head.owner));
 }

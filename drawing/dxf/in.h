@@ -8,8 +8,19 @@
 
 #include <cstring>
 #include <string>
+#include <unordered_map>
 
+class OdDbDxfShared;
 class OdDbRawEntity;
+
+/// What is known of an object when its tags are read, beside what it knows itself.
+struct OdDbDxfHead {
+  OdDbHandle handle;
+  OdDbHandle owner; ///< as the file names it; empty if it does not
+  bool hasBadValue = false;
+  bool isInPaperSpace = false;
+  bool hasFollowers = false; ///< the entity says that others follow which belong to it
+};
 
 /// Reads values and references for the objects of one drawing, and collects what is wrong.
 ///
@@ -19,6 +30,9 @@ class OdDbDxfIn {
  public:
   /// `name` is the path, for messages.
   OdDbDxfIn(OdDbDatabase& database, OdDbDxfSource& source, OdString name);
+  /// A helper that reads other tags of the same drawing at the same time, but enters nothing. What
+  /// would have to be told or added to the drawing makes it give up.
+  OdDbDxfIn(const OdDbDxfIn& other, OdDbDxfSource& source, OdDbDxfShared& shared);
   OdDbDxfIn(const OdDbDxfIn&) = delete;
   OdDbDxfIn& operator=(const OdDbDxfIn&) = delete;
 
@@ -29,6 +43,16 @@ class OdDbDxfIn {
   const OdDbDxfTag& tag() const { return m_tag; }
   bool next();
   bool isDamaged() const { return m_damaged; }
+  /// For helpers: begins with the next tag of a source that was at its end or damaged.
+  void restart();
+  /// True since the last restart() or readTags() if whoever enters objects has to read this.
+  bool hasGivenUp() const { return m_givenUp; }
+  /// Goes on where an object was read by a helper: its head, and the tag behind it.
+  void takeOver(const OdDbDxfHead& head, const OdDbDxfTag& next) {
+    m_head = head;
+    m_tag = next;
+  }
+  const OdDbDxfHead& head() const { return m_head; }
   [[noreturn]] void fail(const OdString& reason) const;
 
   /// True if the tag at hand stands in the subclass, or if the file has no subclasses.
@@ -78,17 +102,16 @@ class OdDbDxfIn {
   void damage(const OdString& what);
   /// Tells what was mended.
   void note(const OdString& what);
-  bool valueWasBad() const { return m_badValue; }
+  bool valueWasBad() const { return m_head.hasBadValue; }
 
   /// Reads the tags of an object up to the next tag of code 0, and enters it in the drawing under
   /// `owner`, or under the owner that the file names if `owner` is null. False if it was left out.
   bool readObject(OdDbObject& object, OdDbObjectId owner);
   /// The handle of an object's owner as the file names it; empty if it does not.
-  OdDbHandle namedOwner() const { return m_namedOwner; }
-  /// True if the entity says that others follow which belong to it.
-  bool hasFollowers() const { return m_hasFollowers; }
-  bool wasInPaperSpace() const { return m_paperSpace; }
-  void setPaperSpace() { m_paperSpace = true; }
+  OdDbHandle namedOwner() const { return m_head.owner; }
+  bool hasFollowers() const { return m_head.hasFollowers; }
+  bool wasInPaperSpace() const { return m_head.isInPaperSpace; }
+  void setPaperSpace() { m_head.isInPaperSpace = true; }
 
   /// Puts the object under its handle, or under a new one if that is missing or taken.
   void enter(OdDbObject& object, OdDbObjectId owner);
@@ -99,6 +122,9 @@ class OdDbDxfIn {
   void enterEntity(OdDbEntityPtr entity, OdDbBlockTableRecord& block);
   /// Reads the tags without entering the object.
   void readTags(OdDbObject& object);
+  /// Reads an entity of that name without entering it. Null if the tags end before it does or one
+  /// of its values is no good.
+  OdDbEntityPtr readEntity(std::string_view name);
 
   void setCodePage(std::string_view name);
 
@@ -109,6 +135,7 @@ class OdDbDxfIn {
   void keepPlainTag(OdDbObject& object, OdDbDxfResidue& residue);
   void takeElevation(OdDbObject& object);
   OdDbStub* freeStub(const OdDbObject& object);
+  OdDbObjectId foundRecord(OdDbDatabaseData::Table table, const std::string& name);
 
   OdDbDatabase& m_database;
   OdDbDxfSource& m_source;
@@ -123,8 +150,7 @@ class OdDbDxfIn {
   bool m_knownSubclass = true;
   const char* m_plainSubclass = nullptr;
   std::string m_elevation;
-  bool m_badValue = false, m_paperSpace = false, m_hasFollowers = false;
-  OdDbHandle m_handle, m_namedOwner;
+  OdDbDxfHead m_head;
   bool m_ownerSeen = false;
 
   // Neighbours in a file mostly share their layer and line type.
@@ -133,4 +159,9 @@ class OdDbDxfIn {
     OdDbObjectId id;
   };
   Recent m_recent[OdDbDatabaseData::kTableCount];
+
+  // Of helpers.
+  OdDbDxfShared* m_shared = nullptr;
+  bool m_givenUp = false;
+  std::unordered_map<std::string, OdDbObjectId> m_found[OdDbDatabaseData::kTableCount];
 };

@@ -1,6 +1,5 @@
 #include "drawing/dxf/source.h"
 
-#include "drawing/dxf/ahead_source.h"
 #include "drawing/dxf/binary_source.h"
 #include "drawing/dxf/text_source.h"
 
@@ -12,15 +11,6 @@ std::unique_ptr<OdDbDxfSource> OdDbDxfSource::of(OdDbDxfBytes bytes) {
   if (start.starts_with(OdDbDxfBinarySource::kMark))
     return std::make_unique<OdDbDxfBinarySource>(std::move(bytes));
   return std::make_unique<OdDbDxfTextSource>(std::move(bytes));
-}
-
-std::unique_ptr<OdDbDxfSource> OdDbDxfSource::ahead(OdDbDxfBytes bytes) {
-  // Less, which is the first window of a file, is split before a thread has begun.
-  constexpr std::size_t kLarge = 256 * 1024;
-  const std::string_view start(bytes.at, bytes.left());
-  if (start.size() < kLarge || start.starts_with(OdDbDxfBinarySource::kMark))
-    return of(std::move(bytes));
-  return std::make_unique<OdDbDxfAheadSource>(std::move(bytes));
 }
 
 OdDbDxfSource::Result OdDbDxfShortSource::next(OdDbDxfTag& tag) {

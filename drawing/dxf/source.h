@@ -37,8 +37,6 @@ class OdDbDxfSource {
   /// The source for a text or a binary file by its first bytes. Raises nothing: what is neither is
   /// found to be damaged.
   static std::unique_ptr<OdDbDxfSource> of(OdDbDxfBytes bytes);
-  /// The same, but large text files are split ahead by another thread.
-  static std::unique_ptr<OdDbDxfSource> ahead(OdDbDxfBytes bytes);
 };
 
 /// Gives tags from a short form in which the parts of the library write constant drawings: tags

@@ -108,3 +108,36 @@ OdDbDxfSource::Result OdDbDxfTextSource::next(OdDbDxfTag& tag) {
     return kTag;
   }
 }
+
+void OdDbDxfTextSource::restart(std::string_view text, qint64 line) {
+  m_bytes = OdDbDxfBytes(text);
+  m_line = m_nextLine = line;
+  m_problem.clear();
+}
+
+void OdDbDxfTextSource::goOn(const char* place, qint64 line) {
+  m_bytes.at = place;
+  m_line = line;
+  // A tag has two lines.
+  m_nextLine = line + 2;
+}
+
+bool OdDbDxfTextSource::goBack(const OdDbDxfTag& tag) {
+  const char* const begin = m_bytes.begin();
+  // The line of the value begins behind the end of the code's, which may not be in the window.
+  const auto lineBegin = [&](const char* at) {
+    while (at != begin && at[-1] != '\n') --at;
+    return at;
+  };
+  const char* const value = lineBegin(tag.text.data());
+  if (value == begin) return false;
+  m_bytes.at = lineBegin(value - 1);
+  m_nextLine = m_line;
+  return true;
+}
+
+std::optional<OdDbDxfPiece> OdDbDxfTextSource::cut() {
+  auto piece = OdDbDxfPiece::cut(m_bytes, m_nextLine);
+  if (piece) m_nextLine += piece->lines;
+  return piece;
+}

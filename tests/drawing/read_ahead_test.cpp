@@ -1,0 +1,397 @@
+// What several threads read of a drawing is what one thread reads.
+#include "drawing/database.h"
+#include "drawing/dxf/ahead_source.h"
+#include "drawing/dxf/document_in.h"
+#include "drawing/dxf/piece_source.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+
+namespace {
+
+std::string_view view(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+/// All that comes of a file.
+struct Read {
+  QByteArray saved;
+  QStringList damage, notes;
+  OdString refusal;
+  bool operator==(const Read&) const = default;
+};
+
+Read readWith(std::size_t threads, const std::function<OdDbDxfBytes()>& make) {
+  try {
+    const OdDbDatabasePtr db = oddxf::readDocument(make, QStringLiteral("d.dxf"), threads);
+    return {db->writeDxf(), db->unknownContent(), db->readNotes(), {}};
+  } catch (const OdError& error) {
+    return {{}, {}, {}, error.description()};
+  }
+}
+
+/// Reads it with several threads, and gives what one thread reads.
+Read expectTheSame(QByteArray text) {
+  const Read one = readWith(1, [&] { return OdDbDxfBytes(view(text)); });
+  for (const std::size_t threads : {2, 7}) {
+    const Read several = readWith(threads, [&] { return OdDbDxfBytes(view(text)); });
+    EXPECT_EQ(several.damage, one.damage);
+    EXPECT_EQ(several.notes, one.notes);
+    EXPECT_EQ(several.refusal, one.refusal);
+    EXPECT_TRUE(several.saved == one.saved);
+    QBuffer device(&text);
+    EXPECT_TRUE(device.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    EXPECT_TRUE(readWith(threads, [&] {
+                  device.seek(0);
+                  return OdDbDxfBytes(device);
+                }) == one);
+  }
+  return one;
+}
+
+/// Writes entities one after the other, as lines of a file.
+class Entities {
+ public:
+  explicit Entities(bool plain = false)
+    : m_plain(plain) {}
+
+  Entities& add(const char* name, const char* subclass, const QByteArray& tags,
+                const QByteArray& handle = {}) {
+    lines += QByteArray("  0\n") + name + "\n  5\n" +
+             (handle.isEmpty() ? QByteArray::number(++m_handle, 16).toUpper() : handle) + "\n";
+    if (!m_plain) lines += "330\n1F\n100\nAcDbEntity\n";
+    lines += "  8\n" + layer + "\n";
+    if (!m_plain) lines += QByteArray("100\n") + subclass + "\n";
+    lines += tags;
+    return *this;
+  }
+  Entities& line(const QByteArray& x = "1.5", const QByteArray& handle = {}) {
+    return add("LINE", "AcDbLine",
+               " 10\n" + x + "\n 20\n2.25\n 30\n0.0\n 11\n-7.125\n 21\n1e3\n 31\n0.1\n", handle);
+  }
+  Entities& text(const QByteArray& value) {
+    add("TEXT", "AcDbText", " 10\n1\n 20\n2\n 30\n0\n 40\n2.5\n  1\n" + value + "\n");
+    if (!m_plain) lines += "100\nAcDbText\n";
+    return *this;
+  }
+  Entities& vertex(const QByteArray& x) {
+    add("VERTEX", "AcDbVertex", m_plain ? " 10\n" + x + "\n 20\n4\n" : QByteArray());
+    if (!m_plain) lines += "100\nAcDb2dVertex\n 10\n" + x + "\n 20\n4\n 30\n0\n";
+    return *this;
+  }
+  Entities& end() { return add("SEQEND", "AcDbEntity", {}); }
+  Entities& polyline(int corners) {
+    add("POLYLINE", "AcDb2dPolyline", " 66\n1\n 10\n0\n 20\n0\n 30\n0\n");
+    for (int i = 0; i < corners; ++i) vertex(QByteArray::number(i) + ".5");
+    return end();
+  }
+  Entities& insert(const QByteArray& block) {
+    add("INSERT", "AcDbBlockReference", " 66\n1\n  2\n" + block + "\n 10\n5\n 20\n6\n 30\n0\n");
+    for (const char* tag : {"NUMBER", "PLACE"}) {
+      add("ATTRIB", "AcDbText", " 10\n5\n 20\n6\n 30\n0\n 40\n2.5\n  1\n0\n");
+      if (!m_plain) lines += "100\nAcDbAttribute\n";
+      lines += QByteArray("  2\n") + tag + "\n 70\n0\n";
+    }
+    return end();
+  }
+  /// One of each kind that matters here.
+  Entities& some(int i) {
+    if (i % 3 == 0) line(QByteArray::number(i) + ".0625");
+    if (i % 3 == 1) text("Room " + QByteArray::number(i));
+    if (i % 5 == 0) text(i % 2 == 0 ? "0" : "LINE");
+    if (i % 7 == 0) polyline(i % 40);
+    if (i % 11 == 0) insert("DOOR");
+    if (i % 13 == 0)
+      add("CIRCLE", "AcDbCircle", " 10\n1\n 20\n2\n 30\n0\n 40\n" + QByteArray::number(i) + "1\n");
+    if (i % 17 == 0)
+      add("WIDGET", "AcDbWidget", "1000\n  0\n1000\nLINE\n999\na comment\n 70\n  0\n340\n12\n");
+    return *this;
+  }
+
+  QByteArray lines, layer = "0";
+
+ private:
+  bool m_plain;
+  int m_handle = 0x1000;
+};
+
+constexpr const char* kHeader = "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\n";
+
+/// A drawing with a block DOOR and these entities.
+QByteArray drawing(const QByteArray& entities, const QByteArray& inBlock = {}) {
+  return kHeader +
+         QByteArray("AC1032\n  9\n$HANDSEED\n  5\nFFFFFF\n  0\nENDSEC\n"
+                    "  0\nSECTION\n  2\nTABLES\n"
+                    "  0\nTABLE\n  2\nBLOCK_RECORD\n  5\n1\n330\n0\n100\nAcDbSymbolTable\n 70\n3\n"
+                    "  0\nBLOCK_RECORD\n  5\n1F\n330\n1\n100\nAcDbSymbolTableRecord\n"
+                    "100\nAcDbBlockTableRecord\n  2\n*Model_Space\n"
+                    "  0\nBLOCK_RECORD\n  5\n1E\n330\n1\n100\nAcDbSymbolTableRecord\n"
+                    "100\nAcDbBlockTableRecord\n  2\nDOOR\n  0\nENDTAB\n  0\nENDSEC\n"
+                    "  0\nSECTION\n  2\nBLOCKS\n"
+                    "  0\nBLOCK\n  5\n20\n330\n1E\n100\nAcDbEntity\n  8\n0\n100\nAcDbBlockBegin\n"
+                    "  2\nDOOR\n 70\n0\n 10\n0\n 20\n0\n 30\n0\n  3\nDOOR\n  1\n\n") +
+         inBlock +
+         "  0\nENDBLK\n  5\n21\n330\n1E\n100\nAcDbEntity\n  8\n0\n100\nAcDbBlockEnd\n"
+         "  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n" +
+         entities +
+         "  0\nENDSEC\n  0\nSECTION\n  2\nOBJECTS\n  0\nDICTIONARY\n  5\nC\n330\n0\n"
+         "100\nAcDbDictionary\n  0\nENDSEC\n  0\nEOF\n";
+}
+
+Entities many(int count, bool plain = false) {
+  Entities all(plain);
+  for (int i = 0; i < count; ++i) all.some(i);
+  return all;
+}
+
+} // namespace
+
+TEST(ReadAhead, GivesTheDrawingThatOneThreadReads) {
+  const QByteArray text = drawing(many(2000).lines);
+  ASSERT_GT(text.size(), 500'000);
+  const Read read = expectTheSame(text);
+  EXPECT_EQ(read.damage, QStringList());
+  EXPECT_TRUE(expectTheSame(QByteArray(text).replace("\n", "\r\n")) == read);
+}
+
+TEST(ReadAhead, HelpersReadWhatTheyCanAndTheRestIsReadAsItComes) {
+  Entities all;
+  int helped = 0;
+  for (int i = 0; i < 3000; ++i) {
+    all.line(i % 1000 == 500 ? "x" : "1");
+    if (i % 1000 != 500) ++helped;
+  }
+  // What stands behind the last border is not in a piece.
+  const QByteArray text = all.lines + "  0\nENDSEC\n";
+  const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
+  OdDbDxfAheadSource source(OdDbDxfBytes(view(text)), 3);
+  OdDbDxfIn in(*db, source, QStringLiteral("d.dxf"));
+  int taken = 0, left = 0;
+  for (in.next(); in.tag().text != "ENDSEC";) {
+    const auto entities = source.entities(in);
+    taken += static_cast<int>(entities.size());
+    if (!entities.empty()) {
+      source.goBehind(entities.back(), in);
+      continue;
+    }
+    ++left;
+    EXPECT_FALSE(in.readEntity("LINE"));
+  }
+  source.end();
+  EXPECT_EQ(taken, helped);
+  EXPECT_EQ(left, 3);
+  EXPECT_EQ(db->unknownContent().size(), 3);
+}
+
+TEST(ReadAhead, TellsWhatIsWrongInTheLineWhereItIs) {
+  Entities all;
+  for (int i = 0; i < 6000; ++i) {
+    all.some(i);
+    if (i % 900 == 450) all.line("no number");
+    if (i % 900 == 460) all.line("1", "1001");   // taken
+    if (i % 900 == 470) all.line("1", "handle"); // none
+    if (i % 900 == 480) {
+      all.layer = "LAYER " + QByteArray::number(i);
+      all.line("1");
+      all.layer = "0";
+    }
+    if (i % 900 == 490) all.insert("NO BLOCK");
+    if (i == 2000) {
+      all.add("POLYLINE", "AcDb2dPolyline", " 66\n1\n 10\nno number\n 20\n0\n 30\n0\n");
+      for (int corner = 0; corner < 2000; ++corner) all.vertex("1");
+      all.end();
+    }
+  }
+  const Read read = expectTheSame(drawing(all.lines));
+  EXPECT_GT(read.damage.size(), 20);
+  EXPECT_GT(read.notes.size(), 7);
+}
+
+TEST(ReadAhead, PolylinesMayBeLongerThanAPiece) {
+  Entities all = many(1000);
+  all.polyline(3'000);
+  for (int i = 0; i < 1000; ++i) all.some(i);
+  EXPECT_EQ(expectTheSame(drawing(all.lines)).damage, QStringList());
+}
+
+TEST(ReadAhead, EntitiesMayBeLongerThanAnyPiece) {
+  QByteArray corners;
+  for (int i = 0; i < 70'000; ++i) corners += " 10\n" + QByteArray::number(i) + "\n 20\n0.5\n";
+  Entities all = many(700);
+  all.add("LWPOLYLINE", "AcDbPolyline", " 90\n70000\n 70\n0\n" + corners);
+  for (int i = 0; i < 700; ++i) all.some(i);
+  all.add("LWPOLYLINE", "AcDbPolyline", " 90\n70000\n 70\n0\n" + corners);
+  EXPECT_EQ(expectTheSame(drawing(all.lines)).damage, QStringList());
+}
+
+TEST(ReadAhead, ReadsBlocksOfAnySize) {
+  QByteArray blocks = many(1500).lines;
+  for (int i = 0; i < 400; ++i)
+    blocks += "  0\nENDBLK\n  5\n" + QByteArray::number(0x20000 + 2 * i, 16) +
+              "\n100\nAcDbEntity\n  8\n0\n100\nAcDbBlockEnd\n  0\nBLOCK\n  5\n" +
+              QByteArray::number(0x20001 + 2 * i, 16) +
+              "\n100\nAcDbEntity\n  8\n0\n100\nAcDbBlockBegin\n  2\nB" + QByteArray::number(i) +
+              "\n 70\n0\n 10\n0\n 20\n0\n 30\n0\n" + Entities().line("1", "AAAA").lines;
+  const Read read = expectTheSame(drawing(many(2000).lines, blocks));
+  // Handles are used twice, and the blocks have no records.
+  EXPECT_GT(read.damage.size(), 900);
+  EXPECT_EQ(read.notes.filter(QStringLiteral("has no record")).size(), 400);
+}
+
+TEST(ReadAhead, EndsWhereTheSectionDoes) {
+  const QByteArray lines = many(600).lines;
+  // The end is missing, or stands twice, or the file has none.
+  expectTheSame(drawing(lines).replace("  0\nENDSEC\n  0\nSECTION\n  2\nOBJECTS", //
+                                       "  0\nSECTION\n  2\nOBJECTS"));
+  expectTheSame(drawing(lines + "  0\nENDSEC\n" + lines));
+  expectTheSame(drawing(lines + "  0\nENDBLK\n" + lines));
+  expectTheSame(drawing(lines + "  0\nEOF\n" + lines));
+  expectTheSame(drawing(lines, "  0\nBLOCK\n  8\n0\n" + lines));
+  expectTheSame(drawing(lines, lines + "  0\nENDSEC\n" + lines));
+}
+
+TEST(ReadAhead, ReadsDrawingsThatAreCutAnywhere) {
+  const QByteArray text = drawing(many(800).lines);
+  for (qsizetype size = text.size(); size > 100'000; size -= 61'987) expectTheSame(text.left(size));
+}
+
+TEST(ReadAhead, TellsDamageWhereItIs) {
+  const QByteArray text = drawing(many(800).lines);
+  for (const char* damage : {"LINE\n", "12x\n1\n", "\n\n", "0\n"}) {
+    QByteArray damaged = text;
+    const qsizetype at = damaged.indexOf("  0\nTEXT\n", text.size() / 2);
+    EXPECT_FALSE(expectTheSame(damaged.insert(at, damage)).damage.isEmpty()) << damage;
+  }
+}
+
+TEST(ReadAhead, HandlesThatNothingHasStayFreeWhereNewOnesAreGiven) {
+  // The seed is too low: references lie above it, where objects without handles get theirs.
+  Entities all;
+  for (int i = 0; i < 3000; ++i) {
+    all.add("WIDGET", "AcDbEntity", "390\n" + QByteArray::number(0x900000 + i, 16) + "\n");
+    if (i % 50 == 0) all.line("1", "0");
+  }
+  expectTheSame(drawing(all.lines).replace("FFFFFF", "900000"));
+}
+
+TEST(ReadAhead, ReadsOldDrawings) {
+  QByteArray text = kHeader;
+  text += "AC1009\n  9\n$HANDLING\n 70\n1\n  0\nENDSEC\n  0\nSECTION\n  2\nBLOCKS\n"
+          "  0\nBLOCK\n  8\n0\n  2\nDOOR\n 70\n0\n 10\n0\n 20\n0\n 30\n0\n" +
+          Entities(true).line().lines + "  0\nENDBLK\n  8\n0\n  0\nENDSEC\n" +
+          "  0\nSECTION\n  2\nENTITIES\n" + many(2000, true).lines +
+          Entities(true).insert("LATER").lines + "  0\nENDSEC\n  0\nEOF\n";
+  EXPECT_GT(text.size(), 250'000);
+  expectTheSame(text);
+}
+
+namespace {
+
+/// A device that fails behind some bytes.
+class FailingDevice : public QBuffer {
+ public:
+  explicit FailingDevice(QByteArray* bytes)
+    : QBuffer(bytes) {}
+
+ protected:
+  qint64 readData(char* data, qint64 most) override {
+    const qint64 good = size() / 2 - pos();
+    if (good > 0) return QBuffer::readData(data, std::min(most, good));
+    setErrorString(QStringLiteral("the disk is broken"));
+    return -1;
+  }
+};
+
+struct Tags {
+  std::vector<std::tuple<int, std::string, qint64>> tags;
+  OdDbDxfSource::Result end;
+  qint64 line;
+  OdString problem;
+  bool operator==(const Tags&) const = default;
+};
+
+Tags allOf(OdDbDxfSource& source) {
+  Tags all;
+  OdDbDxfTag tag;
+  while ((all.end = source.next(tag)) == OdDbDxfSource::kTag)
+    all.tags.emplace_back(tag.code, tag.text, source.line());
+  all.line = source.line();
+  all.problem = source.problem();
+  return all;
+}
+
+} // namespace
+
+TEST(ReadAhead, TellsWhatIsWrongWithTheDevice) {
+  QByteArray text = drawing(many(1500).lines);
+  FailingDevice device(&text);
+  ASSERT_TRUE(device.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+  const auto make = [&] {
+    device.seek(0);
+    return OdDbDxfBytes(device);
+  };
+  const Read one = readWith(1, make);
+  ASSERT_EQ(one.damage.size(), 1);
+  EXPECT_TRUE(one.damage[0].contains(QStringLiteral("the disk is broken")));
+  for (const std::size_t threads : {2, 7}) EXPECT_TRUE(readWith(threads, make) == one);
+}
+
+TEST(Piece, EndsBetweenObjectsWhateverValuesLookLike) {
+  QByteArray text;
+  for (int i = 0; i < 40'000; ++i)
+    text += i % 3 == 0 ? "  0\nTEXT\n" : i % 3 == 1 ? "  1\n  0\n" : "999\n0\n";
+  OdDbDxfBytes bytes(view(text));
+  qint64 line = 1;
+  QByteArray together;
+  int count = 0;
+  while (const auto piece = OdDbDxfPiece::cut(bytes, line)) {
+    EXPECT_EQ(piece->line, line);
+    EXPECT_TRUE(piece->text.starts_with("  0\nTEXT\n"));
+    line += piece->lines;
+    together.append(piece->text.data(), static_cast<qsizetype>(piece->text.size()));
+    ++count;
+  }
+  EXPECT_GT(count, 3);
+  EXPECT_TRUE(text.startsWith(together));
+  EXPECT_TRUE(QByteArrayView(bytes.at, static_cast<qsizetype>(bytes.left())) ==
+              text.mid(together.size()));
+  EXPECT_EQ(line, together.count('\n') + 1);
+}
+
+TEST(Piece, IsNotCutWhereNothingEnds) {
+  const QByteArray text = "  0\nLINE\n" + QByteArray(" 10\n0\n").repeated(400'000);
+  OdDbDxfBytes bytes(view(text));
+  EXPECT_FALSE(OdDbDxfPiece::cut(bytes, 1));
+  EXPECT_EQ(bytes.at, text.constData());
+}
+
+TEST(PieceSource, GivesTheTagsOfATextSource) {
+  const QByteArray parts[] = {"  0\nLINE\n",
+                              "0\r\n LINE \t\r\n",
+                              "999\nhidden\n",
+                              " 10\n12.5\n",
+                              "1071\n-5\n",
+                              "  1\n\n",
+                              "  1\r\n\r\n",
+                              "\t70\t\n1\n",
+                              " 1 \nblanks\n",
+                              "-5\nnegative\n",
+                              "00070\nmany digits\n",
+                              "  1\na\rb\r\r\n",
+                              "  1\nlonger than a word of the machine, and with \xC3\xA4\n",
+                              "  1\n1234567\n",
+                              "  1\n12345678\n"};
+  QByteArray all;
+  for (const QByteArray& first : parts)
+    for (const QByteArray& second : parts) all += first + second;
+  QByteArrayList texts = {all, all + "x\n1\n" + all, all + "12345678901\n1\n", all + " \n1\n"};
+  for (const QByteArray& part : parts) texts << part;
+  for (const QByteArray& text : texts) {
+    OdDbDxfPieceSource source;
+    source.restart({view(text), 17, 0, nullptr});
+    OdDbDxfTextSource expected{OdDbDxfBytes(std::string_view())};
+    expected.restart(view(text), 17);
+    EXPECT_TRUE(allOf(source) == allOf(expected)) << text.left(200).constData();
+  }
+}
