@@ -1,6 +1,9 @@
 #include "drawing/cloning/unused_records.h"
 
 #include "drawing/cloning/object_tags.h"
+#include "drawing/entities/block_reference.h"
+#include "drawing/entities/dimension.h"
+#include "drawing/objects/raw_object.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -55,8 +58,9 @@ class Walk {
     }
   }
   bool hasSeen(OdDbObjectId id) const { return m_seen.contains(id); }
-
- private:
+  /// What has been come to.
+  const std::unordered_set<OdDbObjectId>& seen() const { return m_seen; }
+  /// As if the object had been come to.
   void visit(const OdDbObject& object) {
     // That a table has a record is no use of it.
     if (odrxCast<OdDbSymbolTable>(&object)) return;
@@ -69,6 +73,7 @@ class Walk {
       for (oddb::TagWalk walk(entry); !walk.done(); walk.step()) follow(walk);
   }
 
+ private:
   void follow(const oddb::TagWalk& walk) {
     const OdDbKeptTags::Tag& tag = walk.tag();
     if (const auto name = walk.nameReference()) {
@@ -114,4 +119,69 @@ std::vector<OdDbObjectId> oddb::unusedRecords(const OdDbDatabase& database) {
   walk.run();
   std::erase_if(candidates, [&](OdDbObjectId id) { return walk.hasSeen(id); });
   return candidates;
+}
+
+namespace {
+
+using Ids = std::unordered_set<OdDbObjectId>;
+
+/// The block if programs have named it.
+const OdDbBlockTableRecord* anonymous(const OdDbObjectPtr& object) {
+  const auto* const block = odrxCast<OdDbBlockTableRecord>(object.get());
+  return block && block->getName().startsWith(u'*') && !block->isLayout() ? block : nullptr;
+}
+
+/// Adds the anonymous blocks by which an entity is shown.
+void addShown(const OdDbObject& entity, Ids& blocks) {
+  const auto add = [&](OdDbObjectId id) {
+    if (anonymous(id.openObject())) blocks.insert(id);
+  };
+  if (const auto* const insert = odrxCast<OdDbBlockReference>(&entity)) {
+    add(insert->blockTableRecord());
+  } else if (const auto* const dimension = odrxCast<OdDbDimension>(&entity)) {
+    add(dimension->dimBlockId());
+  } else if (odrxCast<OdDbRawEntity>(&entity)) {
+    Walk walk(*entity.database());
+    walk.visit(entity);
+    for (const OdDbObjectId id : walk.seen()) add(id);
+  }
+}
+
+/// Those that showed what is erased, and those within them.
+Ids blocksOfErased(const OdDbDatabase& database) {
+  Ids found;
+  const OdDbStubPool& stubs = database.data().stubs;
+  for (std::uint32_t i = 0; i < stubs.size(); ++i)
+    if (const OdDbObject* const object = stubs[i].object.get(); object && object->isErased())
+      addShown(*object, found);
+  std::vector<OdDbObjectId> open(found.begin(), found.end());
+  while (!open.empty()) {
+    const OdDbObjectPtr object = open.back().openObject();
+    open.pop_back();
+    Ids within;
+    for (const auto it = anonymous(object)->newIterator(); !it->done(); it->step())
+      addShown(*it->entity(), within);
+    for (const OdDbObjectId id : within)
+      if (found.insert(id).second) open.push_back(id);
+  }
+  return found;
+}
+
+} // namespace
+
+std::unordered_set<OdDbObjectId> oddb::orphanedBlocks(const OdDbDatabase& database) {
+  Ids blocks = blocksOfErased(database);
+  if (blocks.empty()) return blocks;
+  // Whatever else is saved keeps what it needs, used or not.
+  Walk walk(database);
+  addHeader(database, walk);
+  walk.add(database.getNamedObjectsDictionaryId());
+  for (const OdDbObjectId table : database.data().tables) {
+    const auto records = table.openAs<OdDbSymbolTable>();
+    for (const auto it = records->newIterator(); !it->done(); it->step())
+      if (!blocks.contains(it->getRecordId())) walk.add(it->getRecordId());
+  }
+  walk.run();
+  std::erase_if(blocks, [&](OdDbObjectId id) { return walk.hasSeen(id); });
+  return blocks;
 }

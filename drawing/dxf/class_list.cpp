@@ -81,7 +81,7 @@ QByteArray oddxf::missingClasses(const OdDbDatabase& database) {
   return lines;
 }
 
-bool oddxf::isLeftOut(OdDbObjectId id) {
+bool oddxf::isLeftOut(OdDbObjectId id, const std::unordered_set<OdDbObjectId>& blocks) {
   if (const OdDbDatabase* const database = id.database();
       database && database->data().transient.contains(id))
     return true;
@@ -90,7 +90,7 @@ bool oddxf::isLeftOut(OdDbObjectId id) {
   for (int depth = 0; depth < kDeepest; ++depth) {
     const OdDbObjectPtr object = id.openObject(OdDb::kForRead, true);
     if (!object) return false;
-    if (object->isErased()) return true;
+    if (object->isErased() || (!blocks.empty() && blocks.contains(id))) return true;
     id = object->ownerId();
   }
   return false;

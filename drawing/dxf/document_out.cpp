@@ -1,6 +1,7 @@
 // Writing whole drawings.
 #include "drawing/dxf/document_out.h"
 
+#include "drawing/cloning/unused_records.h"
 #include "drawing/dxf/class_list.h"
 #include "drawing/dxf/newer.h"
 #include "drawing/dxf/out.h"
@@ -19,7 +20,8 @@ class Writer {
   Writer(const OdDbDatabase& database, OdDb::DwgVersion version, OdDbDxfOut::Sink sink)
     : m_database(database)
     , m_data(database.data())
-    , m_out(database, version, std::move(sink)) {}
+    , m_out(database, version, std::move(sink))
+    , m_orphans(oddb::orphanedBlocks(database)) {}
 
   void write() {
     header();
@@ -35,7 +37,7 @@ class Writer {
     m_out.endSection();
     m_out.section("OBJECTS");
     for (const OdDbObjectId id : m_data.objects)
-      if (id.isValid() && !oddxf::isLeftOut(id)) m_out.object(*id.stub()->object);
+      if (id.isValid() && !oddxf::isLeftOut(id, m_orphans)) m_out.object(*id.stub()->object);
     m_out.endSection();
     for (const OdDbRawSection& section : m_data.otherSections) {
       if (oddxf::sectionSince(section.name.constData()) > m_out.version()) continue;
@@ -112,11 +114,11 @@ class Writer {
       m_out.beginTable(*table);
       std::int64_t count = 0;
       for (auto it = table->newIterator(); !it->done(); it->step())
-        if (!m_data.transient.contains(it->getRecordId())) ++count;
+        if (!leavesOut(it->getRecordId())) ++count;
       m_out.integer(70, count);
       m_out.endObject();
       for (auto it = table->newIterator(); !it->done(); it->step())
-        if (!m_data.transient.contains(it->getRecordId())) m_out.object(*it->getRecord());
+        if (!leavesOut(it->getRecordId())) m_out.object(*it->getRecord());
       m_out.raw(0, "ENDTAB");
     }
     m_out.endSection();
@@ -126,7 +128,7 @@ class Writer {
     m_out.section("BLOCKS");
     const auto table = m_database.getBlockTableId().openAs<OdDbBlockTable>();
     for (auto it = table->newIterator(); !it->done(); it->step()) {
-      if (m_data.transient.contains(it->getRecordId())) continue;
+      if (leavesOut(it->getRecordId())) continue;
       const OdSmartPtr<OdDbBlockTableRecord> block = it->getRecord();
       m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
       const OdDbObjectPtr begin = block->blockBeginId().safeOpenObject();
@@ -159,9 +161,14 @@ class Writer {
     }
   }
 
+  bool leavesOut(OdDbObjectId record) const {
+    return m_data.transient.contains(record) || (!m_orphans.empty() && m_orphans.contains(record));
+  }
+
   const OdDbDatabase& m_database;
   const OdDbDatabaseData& m_data;
   OdDbDxfOut m_out;
+  const std::unordered_set<OdDbObjectId> m_orphans;
 };
 
 } // namespace

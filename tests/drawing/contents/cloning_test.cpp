@@ -8,6 +8,7 @@
 #include "drawing/objects/named_styles.h"
 #include "drawing/objects/xref_manager.h"
 
+#include "drawing/contents/audit.h"
 #include "drawing/contents/support.h"
 #include "drawing/entities/python_script.h"
 
@@ -25,13 +26,6 @@ OdDbObjectId blockNamed(const OdDbDatabase& db, const char* name) {
 }
 OdDbObjectId layerNamed(const OdDbDatabase& db, const char* name) {
   return db.getLayerTableId().openAs<OdDbLayerTable>()->getAt(OdString::fromUtf8(name));
-}
-
-std::string auditOf(const OdDbDatabase& db) {
-  QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("written.dxf"));
-  const_cast<OdDbDatabase&>(db).writeFile(path);
-  return runScript("contents.py", {QStringLiteral("audit"), path}).toStdString();
 }
 
 /// A drawing with an insert of nested blocks on layers of their own.

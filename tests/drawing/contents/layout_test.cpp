@@ -6,6 +6,7 @@
 #include "drawing/objects/layout.h"
 #include "drawing/objects/named_styles.h"
 
+#include "drawing/contents/audit.h"
 #include "drawing/contents/support.h"
 #include "drawing/entities/python_script.h"
 
@@ -14,13 +15,6 @@
 using namespace oddbtest;
 
 namespace {
-
-std::string auditOf(OdDbDatabase& db) {
-  QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("ours.dxf"));
-  db.writeFile(path);
-  return runScript("contents.py", {QStringLiteral("audit"), path}).toStdString();
-}
 
 QStringList namesOf(const OdDbDatabase& db) {
   QStringList names;
