@@ -64,7 +64,9 @@ OdDbObjectId OdDbDatabase::addObject(OdDbObject* object, OdDbObjectId owner, OdD
     if (std::string_view(object->dxfName()) != "BLOCK" &&
         std::string_view(object->dxfName()) != "ENDBLK")
       block->m_entities.push_back(id);
-  } else if (auto* table = odrxCast<OdDbSymbolTable>(container)) {
+  } else if (auto* const table = odrxCast<OdDbSymbolTable>(container);
+             table && odrxCast<OdDbSymbolTableRecord>(object)) {
+    // Tables own extension dictionaries as well, which hold the filters of layers and the like.
     table->attach(id);
   } else if (!odrxCast<OdDbEntity>(object) && !odrxCast<OdDbSymbolTable>(object)) {
     d.objects.push_back(id);

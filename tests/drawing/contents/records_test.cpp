@@ -147,3 +147,26 @@ TEST(DynamicBlocks, AreFoundBehindTheStateThatIsShown) {
   EXPECT_TRUE(other.anonymousBlockTableRecord().isNull());
   EXPECT_TRUE(OdDbDynBlockReference(OdDbObjectId()).dynamicBlockTableRecord().isNull());
 }
+
+TEST(Tables, OwnDictionariesThatAreNoRecordsOfTheirs) {
+  const QByteArray plain = OdDbDatabase::createDatabase()->writeDxf();
+  const OdDbObjectId layers = OdDbDatabase::createDatabase()->getLayerTableId();
+  const QByteArray handle = layers.getHandle().ascii().toLatin1();
+  QByteArray file = plain;
+  // What programs that filter layers write.
+  const qsizetype at = file.indexOf("  2\nLAYER\n");
+  file.insert(file.indexOf("330\n0\n", at), "102\n{ACAD_XDICTIONARY\n360\n1A0\n102\n}\n");
+  const qsizetype objects = file.indexOf("  0\nENDSEC\n", file.indexOf("\nOBJECTS\n"));
+  file.insert(objects,
+              "  0\nDICTIONARY\n  5\n1A0\n330\n" + handle +
+                  "\n100\nAcDbDictionary\n280\n1\n281\n1\n  3\nACAD_LAYERFILTERS\n360\n1A1\n"
+                  "  0\nDICTIONARY\n  5\n1A1\n330\n1A0\n100\nAcDbDictionary\n281\n1\n");
+  const OdDbDatabasePtr db = OdDbDatabase::readDxf(file, QStringLiteral("x.dxf"));
+  EXPECT_EQ(db->unknownContent(), QStringList());
+  const QByteArray saved = db->writeDxf();
+  EXPECT_EQ(saved.count("ACAD_LAYERFILTERS"), 1);
+  EXPECT_EQ(saved.count("ACAD_XDICTIONARY"), file.count("ACAD_XDICTIONARY"));
+  EXPECT_TRUE(reread(*db)->writeDxf() == saved);
+  addLayer(*db, QStringLiteral("Walls"));
+  EXPECT_TRUE(db->writeDxf().contains("Walls"));
+}
