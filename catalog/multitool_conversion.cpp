@@ -1,12 +1,12 @@
 #include "catalog/multitool_conversion.h"
 
-#include "catalog/command_route_map.h"
 #include "catalog/import_prompt.h"
 #include "catalog/tool_impl.h"
-#include "host/command_menu.h"
 #include "images/image_list.h"
 #include "module/properties.h"
 #include "tools/action_agent.h"
+#include "tools/command_route_map.h"
+#include "tools/menu_command.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,23 +16,6 @@ namespace {
 
 /// The pictures of a converted tool: the host's button at two sizes.
 constexpr OdTcSizeKind kSizes[] = {OdTcSizeKind::kNormal, OdTcSizeKind::kLarge};
-
-std::optional<HostMenuEntry> findCommand(const OdString& name) {
-  const KVPtr<IHostCommandMenu> menu = host::service<IHostCommandMenu>();
-  const int count = menu ? menu->count() : 0;
-  for (int i = 0; i < count; ++i) {
-    HostMenuEntry entry = menu->entry(i);
-    if (entry.isCommand && entry.commandName.compare(name, Qt::CaseInsensitive) == 0) return entry;
-  }
-  return std::nullopt;
-}
-
-OdString nameOf(const HostMenuEntry& command) {
-  if (!command.label.isEmpty()) return command.label;
-  OdString tip = command.shortText;
-  tip.remove(u'&');
-  return tip.isEmpty() ? host::translate(command.commandName) : tip;
-}
 
 void addButtonImages(OdTcToolImpl& tool, const OdString& button) {
   OdSmartPtr<OdTcImageList> images(tool.images());
@@ -55,11 +38,11 @@ void convertMultitool(OdTcToolImpl& tool) {
   showImportPrompt(kMultitoolPrompt);
   const OdString wanted = addSelectedCommand(tool.customData()->className());
   if (wanted.isEmpty()) return;
-  const std::optional<HostMenuEntry> command = findCommand(wanted);
+  const std::optional<HostMenuEntry> command = findMenuCommand(wanted);
   if (!command) return;
 
   tool.setToolType(OdTcTool::kRegular);
-  tool.setName(nameOf(*command));
+  tool.setName(toolNameOf(*command));
   tool.dropForeignRecords();
   if (!tool.getActionAgent()) {
     const OdSmartPtr<OdTcToolCommand> agent = OdTcToolCommand::createObject();

@@ -1,6 +1,8 @@
 // The owner of all loaded catalogs.
 #pragma once
 
+#include "catalog/tool.h"
+#include "drawing/object_id.h"
 #include "frame/rx_members.h"
 #include "module/export.h"
 
@@ -53,6 +55,21 @@ class OdTcPaletteManager : public OdRxObject {
   virtual void saveAll() = 0;
   virtual std::uint32_t viewSetting() const = 0;
   virtual void setViewSetting(std::uint32_t setting) = 0;
+
+  // New tools, which are on no palette yet; null if none comes of it. What the user is told then is
+  // told already.
+
+  /// From a drawing or a picture, by the stored path of its file, or from a command of the host.
+  virtual OdTcToolPtr createToolFromFile(const OdString& path) = 0;
+  virtual OdTcToolPtr createToolFromEntity(OdDbObjectId entity) = 0;
+  /// From a block of an open drawing.
+  virtual OdTcToolPtr createToolFromBlock(const OdString& name, IHostDocument* document) = 0;
+  /// From a block of a drawing file.
+  virtual OdTcToolPtr createToolFromDrawingBlock(const OdString& file, const OdString& name) = 0;
+  virtual OdTcToolPtr createToolFromCommand(const OdString& name) = 0;
+  /// From the drawing that the clipboard holds.
+  virtual OdTcToolPtr createToolFromClipboard() = 0;
+
   virtual void resetFlag() = 0;
   virtual void openConfiguration() = 0;
   virtual OdString palettesFolder(const OdTcCatalog* catalog) const = 0;

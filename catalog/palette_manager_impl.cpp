@@ -7,6 +7,8 @@
 #include "module/message_table.h"
 #include "module/string_table.h"
 #include "persistence/path_operations.h"
+#include "persistence/value_storage.h"
+#include "tools/tool_maker.h"
 
 #include <algorithm>
 
@@ -56,12 +58,19 @@ class CatalogEnumImpl : public OdTcPaletteManager::CatalogEnum {
   bool m_started = false;
 };
 
+/// A new tool that one of the maker's roads has filled; null if it could not.
+template <class Road, class... Args>
+OdTcToolPtr made(Road road, const Args&... args) {
+  OdTcToolMaker maker;
+  const OdTcToolPtr tool = OdTcTool::createObject();
+  return (maker.*road)(*tool, args...) ? tool : OdTcToolPtr();
+}
+
 } // namespace
 
 OdTcPaletteManagerImpl::OdTcPaletteManagerImpl()
-  : m_imageExtensions({QStringLiteral("bmp"), QStringLiteral("jpeg"), QStringLiteral("tiff"),
-                       QStringLiteral("jpg"), QStringLiteral("png")})
-  , m_drawingExtensions({QStringLiteral("dwg"), QStringLiteral("dxf"), QStringLiteral("dwf")})
+  : m_imageExtensions(OdTcValueStorageImpl::imageExtensions())
+  , m_drawingExtensions(OdTcValueStorageImpl::drawingExtensions())
   , m_watcher(kvMake<TcCfgChangeReactor>(this))
   , m_watched(host::application()) {
   if (m_watched) m_watched->addPropReactor(watchedSetting(), m_watcher.get());
@@ -205,6 +214,32 @@ OdTcCatalog* OdTcPaletteManagerImpl::defaultCatalog() const {
   for (const auto& [path, catalog] : m_catalogs)
     if (catalog->isDefault()) return catalog;
   return nullptr;
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromFile(const OdString& path) {
+  return made(&OdTcToolMaker::fromFile, path);
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromEntity(OdDbObjectId entity) {
+  return made(&OdTcToolMaker::fromEntity, entity);
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromBlock(const OdString& name,
+                                                        IHostDocument* document) {
+  return made(&OdTcToolMaker::fromBlock, name, document);
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromDrawingBlock(const OdString& file,
+                                                               const OdString& name) {
+  return made(&OdTcToolMaker::fromDrawingBlock, file, name);
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromCommand(const OdString& name) {
+  return made(&OdTcToolMaker::fromCommand, name);
+}
+
+OdTcToolPtr OdTcPaletteManagerImpl::createToolFromClipboard() {
+  return made(&OdTcToolMaker::fromClipboard);
 }
 
 OdTcToolPalette* OdTcPaletteManagerImpl::importPalette(OdTcCatalog* catalog, const OdString& path) {

@@ -36,6 +36,12 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   void saveAll() override;
   std::uint32_t viewSetting() const override { return m_viewSetting; }
   void setViewSetting(std::uint32_t setting) override { m_viewSetting = setting; }
+  OdTcToolPtr createToolFromFile(const OdString& path) override;
+  OdTcToolPtr createToolFromEntity(OdDbObjectId entity) override;
+  OdTcToolPtr createToolFromBlock(const OdString& name, IHostDocument* document) override;
+  OdTcToolPtr createToolFromDrawingBlock(const OdString& file, const OdString& name) override;
+  OdTcToolPtr createToolFromCommand(const OdString& name) override;
+  OdTcToolPtr createToolFromClipboard() override;
   void resetFlag() override { m_flag = false; }
   void openConfiguration() override;
   OdString palettesFolder(const OdTcCatalog* catalog) const override;

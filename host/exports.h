@@ -7,6 +7,7 @@
 
 class ICmdFactory;
 class IHostApplication;
+class IHostDocument;
 class IMemParam;
 class IKVUnknown;
 
@@ -56,5 +57,9 @@ using GetCmdRouteMap = bool (*)(OdString& out);
 /// hatch pattern stands in; false for predefined and unknown patterns.
 inline constexpr const char* kGetCustomPatternFileName = "hostGetCustomPatternFileName";
 using GetCustomPatternFileName = bool (*)(const OdString& pattern, OdString& out);
+/// Exported by DwgExplorer.dll or by the main module: true if all that a document shows stands in
+/// its file.
+inline constexpr const char* kIsObjectSaved = "isObjectSaved";
+using IsObjectSaved = bool (*)(IHostDocument* document);
 
 } // namespace hostexport

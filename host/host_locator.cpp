@@ -56,6 +56,13 @@ IHostApplication* findApplication() {
   return create ? static_cast<IHostApplication*>(create("CLSID_APP")) : nullptr;
 }
 
+/// A function of a library of the host's or, if that is not loaded or lacks it, of the main module.
+template <class F>
+F exportOfLibrary(const OdString& library, const char* name) {
+  const F found = exportOf<F>(g_directory->loadedModule(library), name);
+  return found ? found : exportOf<F>(mainModule(), name);
+}
+
 } // namespace
 
 ModuleDirectory* setModuleDirectory(ModuleDirectory* directory) {
@@ -133,6 +140,19 @@ OdString commandRouteMap() {
   const auto function =
       exportOf<hostexport::GetCmdRouteMap>(mainModule(), hostexport::kGetCmdRouteMap);
   return function && function(path) ? path : OdString();
+}
+
+OdString customPatternFile(const OdString& pattern) {
+  OdString path;
+  const auto function = exportOfLibrary<hostexport::GetCustomPatternFileName>(
+      QStringLiteral("draftoncmd1.dll"), hostexport::kGetCustomPatternFileName);
+  return function && function(pattern, path) ? path : OdString();
+}
+
+bool isSaved(IHostDocument& document) {
+  const auto function = exportOfLibrary<hostexport::IsObjectSaved>(
+      QStringLiteral("DwgExplorer.dll"), hostexport::kIsObjectSaved);
+  return function ? function(&document) : !document.path().isEmpty();
 }
 
 } // namespace host

@@ -27,7 +27,8 @@ class ModuleDirectory {
 ModuleDirectory* setModuleDirectory(ModuleDirectory* directory);
 
 /// The host's main module: `GetMainDllInstance` of the main executable, else the loaded module
-/// hbview.dll, else what `GetMainDllInstanceEx` of the loaded KvAcApp.dll gives. Null without a host.
+/// hbview.dll, else what `GetMainDllInstanceEx` of the loaded KvAcApp.dll gives. Null without a
+/// host.
 OdModuleHandle mainModule();
 
 /// The host services object, or null.
@@ -57,8 +58,8 @@ IHostApplication* application();
 KVPtr<IProfile> profileSection(const OdString& name, bool create = true);
 
 /// A copy that shares no memory with `text`. What the host keeps beyond a call (names under which
-/// something is registered, keys and values of settings) must not point at a literal of this library:
-/// the library can be unloaded, the host lives on.
+/// something is registered, keys and values of settings) must not point at a literal of this
+/// library: the library can be unloaded, the host lives on.
 OdString ownText(const OdString& text);
 
 /// The text in the user's language, or the text itself.
@@ -67,5 +68,11 @@ OdString translate(const OdString& text);
 void print(const OdString& text);
 /// The stored path of the command route map; empty if the host has none.
 OdString commandRouteMap();
+/// The stored path of the user's own file that a hatch pattern stands in; empty for a predefined or
+/// unknown pattern.
+OdString customPatternFile(const OdString& pattern);
+/// True if all that the document shows stands in its file. A host that cannot tell is taken to have
+/// saved every document that has a file.
+bool isSaved(IHostDocument& document);
 
 } // namespace host

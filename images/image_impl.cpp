@@ -49,6 +49,9 @@ QImage scaledTo(const QImage& picture, int width, int height) {
 
 struct OdTcImageImpl::Decoded : PictureCache::Entry {
   OdString fullPath;
+  /// What the file of a picture that was made is called where its own name is taken; empty for one
+  /// that came from a file.
+  QStringView label;
 };
 
 OdTcImageImpl::OdTcImageImpl() = default;
@@ -141,6 +144,8 @@ void OdTcImageImpl::setBitmap(const QImage& bitmap, const OdString& src) {
   m_isMade = true;
 }
 
+void OdTcImageImpl::noteLabel(QStringView label) { decoded().label = label; }
+
 OdString OdTcImageImpl::uniqueName(const OdString& label) const {
   const OdString name = uniquePictureName(label);
   return freeName(name, label);
@@ -226,13 +231,20 @@ void OdTcImageImpl::saveBesidePalette() {
   if (!m_decoded && path == imagePathBeside(g_homes.path(m_home), src())) return;
   if (path.isEmpty() || !isBelowPalette(palette, path)) return;
   OdRxSystemServices* const system = odrxSystemServices();
+  OdString target = path;
   if (system->fileExists(path)) {
-    m_isMade = false;
-    return;
+    // A picture that was made before its tool came to a palette has not seen whose names are taken.
+    const bool isNew = m_isMade && m_decoded && !m_decoded->label.isEmpty();
+    if (!isNew || path != imagePathBeside(palette, src())) {
+      m_isMade = false;
+      return;
+    }
+    m_src = uniqueName(m_decoded->label.toString());
+    target = imageFilePath(database(), src());
   }
   if (getBitmap().isNull()) return;
-  if (const OdString folder = odpath::folderOf(path); system->createFolder(folder))
-    saveTo(path, kPngFormat);
+  if (const OdString folder = odpath::folderOf(target); system->createFolder(folder))
+    saveTo(target, kPngFormat);
 }
 
 void OdTcImageImpl::writeFields(OdTcFiler* filer) {

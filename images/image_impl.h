@@ -63,6 +63,7 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   /// Takes a preview and names it after what it shows, or freshly after the label if that has no
   /// name or the palette's folder has a file of it. False for a null image.
   bool takePreview(const QImage& picture, const OdString& name, QStringView label);
+  void noteLabel(QStringView label);
   /// A name with a fresh id. Should its file exist all the same, another is taken untested.
   OdString uniqueName(const OdString& label) const;
   /// `src`, or a fresh name if the palette's folder has a file of that one.

@@ -63,6 +63,7 @@ bool OdTcImageImpl::takePreview(const QImage& picture, const OdString& name, QSt
   const OdString title = pictureTitle(name), fresh = label.toString();
   setBitmap(picture, title.isEmpty() ? uniqueName(fresh)
                                      : freeName(titledPictureName(title, m_sizeKind), fresh));
+  noteLabel(label);
   return true;
 }
 

@@ -20,8 +20,12 @@ constexpr std::array kMessages = {StringId::kMustBeDigit,        StringId::kPale
 OdString showMessage(int code, bool showBox) {
   if (code < 0 || static_cast<std::size_t>(code) >= kMessages.size()) return {};
   const OdString text = stringText(kMessages[static_cast<std::size_t>(code)]);
-  const KVPtr<IHostMessages> messages = showBox ? host::service<IHostMessages>() : nullptr;
-  if (messages && !text.isEmpty()) messages->messageBox(text, OdString::fromUtf16(kProduct));
+  return showBox && !text.isEmpty() ? showWarning(text) : text;
+}
+
+OdString showWarning(const OdString& text) {
+  if (const KVPtr<IHostMessages> messages = host::service<IHostMessages>())
+    messages->messageBox(text, OdString::fromUtf16(kProduct));
   return text;
 }
 

@@ -9,4 +9,7 @@ namespace tc {
 /// With `showBox` the text, if there is one, is also shown in a message box.
 OdString showMessage(int code, bool showBox);
 
+/// Shows a text that has no number in the same way, and gives it back.
+OdString showWarning(const OdString& text);
+
 } // namespace tc

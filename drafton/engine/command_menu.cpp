@@ -55,6 +55,7 @@ constexpr MenuRow kMenu[] = {
     {u"INSERT", u"Insert", u"&Insert a block", u"^C^C_INSERT "},
     {u"BLOCK", u"Block", u"Make a &block of objects", u"^C^C_BLOCK "},
     {u"WBLOCK", u"Write Block", u"&Write a block to a file", u"^C^C_WBLOCK "},
+    {u"COPYCLIP", u"Copy to Clipboard", u"Put objects on the clip&board", u"^C^C_COPYCLIP "},
     {u"ATTDEF", u"Attribute", u"Define an &attribute of a block", u"^C^C_ATTDEF "},
     {u"XATTACH", u"Attach Reference", u"Attach a drawing as a refe&rence", u"^C^C_XATTACH "},
     {u"XREF", u"References", u"&Manage attached drawings", u"^C^C_XREF "},

@@ -1,5 +1,6 @@
 #include "drafton/engine/engine.h"
 
+#include "drafton/engine/clipboard.h"
 #include "drafton/engine/drawing_files.h"
 #include "drafton/engine/exports.h"
 #include "drafton/engine/hatch_settings.h"
@@ -56,6 +57,7 @@ Engine::Engine(EngineOptions options, Console& console, InputSource* input)
   m_commands.add(documentCommands());
   m_commands.add(drawingCommands());
   m_commands.add(blockCommands());
+  m_services.offer(IHostClipboard::kId, kvMake<Clipboard>().get());
   if (!m_settings->problem().isEmpty()) print(m_settings->problem());
 }
 

@@ -4,8 +4,10 @@
 #include "drafton/engine/hatch_patterns.h"
 #include "drafton/engine/mem_param.h"
 #include "frame/dynamic_library.h"
+#include "frame/file_path.h"
 #include "host/exports.h"
 
+#include <QFileInfo>
 #include <QtGlobal>
 
 using drafton::Engine;
@@ -63,6 +65,12 @@ Q_DECL_EXPORT bool hostGetCustomPatternFileName(const OdString& pattern, OdStrin
   if (path.isEmpty()) return false;
   out = path;
   return true;
+}
+
+Q_DECL_EXPORT bool isObjectSaved(IHostDocument* document) {
+  const OdDbDatabase* const drawing = document->database();
+  return drawing && !document->path().isEmpty() && !drawing->isModified() &&
+         QFileInfo::exists(odpath::toPlatform(document->path()));
 }
 
 } // extern "C"

@@ -3,6 +3,7 @@
 #include "drafton/engine/command_menu.h"
 #include "drafton/engine/engine.h"
 #include "drafton/engine/hatch_settings.h"
+#include "drafton/engine/host_selection.h"
 
 namespace drafton {
 namespace {
@@ -41,6 +42,8 @@ constexpr ServiceRow kServices[] = {
      [](Engine&) { return handOver<IHostCommandService>(kvMake<CommandService>().get()); }},
     {IHostCommandMenu::kId,
      [](Engine&) { return handOver<IHostCommandMenu>(kvMake<CommandMenu>().get()); }},
+    {IHostSelection::kId,
+     [](Engine&) { return handOver<IHostSelection>(kvMake<HostSelection>().get()); }},
     {IHostHatchSettings::kId,
      [](Engine& engine) { return handOver<IHostHatchSettings>(engine.hatchSettings()); }},
     {IProfile::kId,

@@ -2,6 +2,7 @@
 
 #include "host/host_locator.h"
 #include "module/entry/exchange_commands.h"
+#include "module/entry/make_command.h"
 #include "module/entry/tool_palettes_command.h"
 #include "tools/deferred_command.h"
 #include "tools/execute_tool_command.h"
@@ -20,7 +21,8 @@ struct CommandRow {
 };
 constexpr CommandRow kCommands[] = {{u"ToolPalettes", &TcCmd::create},
                                     {u"ToolPalettesImport", &makeImportCommand},
-                                    {u"ToolPalettesExport", &makeExportCommand}};
+                                    {u"ToolPalettesExport", &makeExportCommand},
+                                    {u"ToolPalettesMake", &makeMakeCommand}};
 
 } // namespace
 

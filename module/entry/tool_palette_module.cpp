@@ -8,6 +8,7 @@
 #include "host/integration/editor_reactor_ex.h"
 #include "module/entry/class_table.h"
 #include "module/entry/singletons.h"
+#include "tools/clipboard_formats.h"
 #include "ui/palette_set.h"
 
 namespace tc {
@@ -43,6 +44,7 @@ void OdTcModule::initApp() {
   TcEditorReactor::rxInit(this);
   TcEditorReactorEx::rxInit(this);
   createSingletons();
+  registerClipboardFormats();
   TcEditorReactorEx::setInstance(TcEditorReactorEx::desc()->create());
   if (IHostEditorEvents* const events = editorEvents()) {
     events->addReactor(TcEditorReactor::instance());

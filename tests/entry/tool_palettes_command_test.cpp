@@ -33,7 +33,8 @@ TEST_F(ToolPalettesCommandTest, RegistersItsCommandsWithFactoriesThatAreReleased
   registerStaticCommands();
   ASSERT_EQ(host().commands.keys(),
             QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
-                         QStringLiteral("ToolPalettesImport"), QStringLiteral("__executetool")}));
+                         QStringLiteral("ToolPalettesImport"), QStringLiteral("ToolPalettesMake"),
+                         QStringLiteral("__executetool")}));
   const testhost::RegisteredCommand palettes = host().commands[QStringLiteral("ToolPalettes")];
   EXPECT_EQ(palettes.group, QStringLiteral("HOST"));
   EXPECT_EQ(palettes.flags, 0u);

@@ -60,11 +60,12 @@ TEST_F(ModuleLoadingTest, LoadingAloneRegistersTheCommands) {
   ASSERT_TRUE(handle);
   EXPECT_EQ(host().commands.keys(),
             QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
-                         QStringLiteral("ToolPalettesImport"), QStringLiteral("__executetool")}));
+                         QStringLiteral("ToolPalettesImport"), QStringLiteral("ToolPalettesMake"),
+                         QStringLiteral("__executetool")}));
   EXPECT_EQ(host().liveFactories, 0);
   EXPECT_FALSE(odrxFindClass(QStringLiteral("OdTcPersist"))) << "nothing else is up yet";
   oddynlib::unload(handle);
-  EXPECT_EQ(host().commands.size(), 4) << "the registrations are not taken back";
+  EXPECT_EQ(host().commands.size(), 5) << "the registrations are not taken back";
 }
 
 TEST_F(ModuleLoadingTest, RunsFromLoadingToUnloadingAHundredTimes) {
@@ -108,7 +109,8 @@ TEST_F(ModuleLoadingTest, NothingThatTheHostKeepsPointsIntoTheLibrary) {
   ASSERT_FALSE(isLoaded());
   // The library's memory is gone: to read a text that stood in it would crash.
   EXPECT_EQ(host().commands.keys().join(QLatin1Char(' ')),
-            QStringLiteral("ToolPalettes ToolPalettesExport ToolPalettesImport __executetool"));
+            QStringLiteral("ToolPalettes ToolPalettesExport ToolPalettesImport ToolPalettesMake "
+                           "__executetool"));
   for (const testhost::RegisteredCommand& command : host().commands)
     EXPECT_EQ(command.group, QStringLiteral("HOST"));
   EXPECT_EQ(host().messages.printed.size(), 2) << "a folder without a catalog, twice";

@@ -57,6 +57,11 @@ void TestHost::reset() {
   icons.images.clear();
   previews.reset();
   hatch.values.clear();
+  clipboard.formats.clear();
+  clipboard.contents.clear();
+  selection.chosen.clear();
+  customPatterns.clear();
+  unsaved.clear();
   translations.clear();
   routeMap.clear();
   log.clear();
@@ -86,7 +91,9 @@ bool TestHost::queryInterface(KVInterfaceId id, void** out) {
          give(static_cast<IHostCommandMenu*>(&menu)) ||
          give(static_cast<IHostIconService*>(&icons)) ||
          give(static_cast<IHostPreviewService*>(&previews)) ||
-         give(static_cast<IHostHatchSettings*>(&hatch));
+         give(static_cast<IHostHatchSettings*>(&hatch)) ||
+         give(static_cast<IHostClipboard*>(&clipboard)) ||
+         give(static_cast<IHostSelection*>(&selection));
 }
 
 IHostDocumentManager* TestHost::documentManager() {
@@ -144,4 +151,13 @@ TEST_HOST_EXPORT bool Supp_Translate(const OdString& text, OdString& out) {
 TEST_HOST_EXPORT bool hostGetCmdRouteMap(OdString& out) {
   out = host().routeMap;
   return !out.isEmpty();
+}
+
+TEST_HOST_EXPORT bool hostGetCustomPatternFileName(const OdString& pattern, OdString& out) {
+  out = host().customPatterns.value(pattern);
+  return !out.isEmpty();
+}
+
+TEST_HOST_EXPORT bool isObjectSaved(IHostDocument* document) {
+  return !document->path().isEmpty() && !host().unsaved.contains(document);
 }

@@ -63,6 +63,8 @@ class TestHost : public IHostServices {
   TestIconService icons;
   TestPreviewService previews;
   TestHatchSettings hatch;
+  TestClipboard clipboard;
+  TestSelection selection;
 
   /// Registered commands by name; registering a name anew replaces it.
   QMap<OdString, RegisteredCommand> commands;
@@ -72,6 +74,10 @@ class TestHost : public IHostServices {
   QMap<OdString, OdString> translations;
   /// The stored path of the command route map; empty: the host has none.
   OdString routeMap;
+  /// Hatch patterns of the user's own, with their files.
+  QMap<OdString, OdString> customPatterns;
+  /// Documents whose drawings were changed since they were saved.
+  QSet<const IHostDocument*> unsaved;
 
   /// Runs a registered command once, as the host's command line does: function or command object.
   /// False if there is no such command.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/application.h"
+#include "host/clipboard.h"
 #include "host/command.h"
 #include "host/command_menu.h"
 #include "host/completion.h"
@@ -11,6 +12,7 @@
 #include "host/icon_service.h"
 #include "host/messages.h"
 #include "host/preview_service.h"
+#include "host/selection.h"
 #include "host/services.h"
 #include "host/user_input.h"
 #include "host/variables.h"
@@ -279,6 +281,28 @@ class TestPreviewService : public CKVUnknownImpl<IHostPreviewService> {
 
  private:
   QImage picture(bool isThere, const QString& what, int pixels);
+};
+
+/// A clipboard in memory.
+class TestClipboard : public CKVUnknownImpl<IHostClipboard> {
+ public:
+  QStringList formats; ///< in the order in which they were registered; a number is a place + 1
+  QMap<int, QByteArray> contents;
+
+  int registerFormat(const OdString& name) override {
+    if (!formats.contains(name)) formats << name;
+    return static_cast<int>(formats.indexOf(name)) + 1;
+  }
+  QByteArray data(int format) override { return contents.value(format); }
+  void setData(int format, const QByteArray& bytes) override { contents = {{format, bytes}}; }
+};
+
+/// Entities that stand for what the user chooses.
+class TestSelection : public CKVUnknownImpl<IHostSelection> {
+ public:
+  std::vector<OdDbObjectId> chosen;
+
+  std::vector<OdDbObjectId> choose(IHostDocument&) override { return chosen; }
 };
 
 class TestHatchSettings : public CKVUnknownImpl<IHostHatchSettings> {

@@ -11,6 +11,7 @@ constexpr NativeCommand kCommands[] = {
     {u"-BLOCK", kOrdinary, makeBlock},
     {u"WBLOCK", kOrdinary, writeBlock},
     {u"-WBLOCK", kOrdinary, writeBlock},
+    {u"COPYCLIP", kOrdinary, copyToClipboard},
     {u"XATTACH", kOrdinary, attachReference},
     {u"XREF", kOrdinary, references},
     {u"-XREF", kOrdinary, references},

@@ -13,6 +13,8 @@ Task<void> insertBlock(CommandContext& context);
 Task<void> insertBlockByName(CommandContext& context);
 Task<void> makeBlock(CommandContext& context);
 Task<void> writeBlock(CommandContext& context);
+/// COPYCLIP: puts entities on the clipboard, with a temporary drawing that holds them.
+Task<void> copyToClipboard(CommandContext& context);
 /// XATTACH. A parameter set gives the file as `ToolPaletteCall`, `XATT_REFTYPE` (2 overlays),
 /// `XATT_SCALE`, `XATT_ROTATION` (radians), `XATT_PROMPT_ROTATION` (0 or 1).
 Task<void> attachReference(CommandContext& context);

@@ -9,9 +9,12 @@
 
 namespace drafton {
 
-// What is chosen is remembered, and "Previous" gives it to the commands that follow.
+// What is chosen is remembered, and "Previous" gives it to the commands that follow. Whoever runs
+// this with a parameter set learns from `Count` whether there was a choice.
 Task<void> select(CommandContext& context) {
   const Selection chosen = co_await selectObjects(context);
+  if (IMemParam* const parameters = context.parameters())
+    parameters->setValue(QStringLiteral("Count"), static_cast<std::int32_t>(chosen.size()));
   context.print(translated(u"%1 selected").arg(chosen.size()));
 }
 

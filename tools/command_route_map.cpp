@@ -1,4 +1,4 @@
-#include "catalog/command_route_map.h"
+#include "tools/command_route_map.h"
 
 #include "frame/error.h"
 #include "frame/system_services.h"

@@ -1,0 +1,52 @@
+// COPYCLIP.
+
+#include "drafton/engine/blocks/block_commands.h"
+#include "drafton/engine/document.h"
+#include "drafton/engine/engine.h"
+#include "drafton/engine/selection.h"
+#include "drafton/engine/translator.h"
+#include "frame/file_path.h"
+#include "host/clipboard.h"
+#include "host/clipboard_payload.h"
+
+#include <QDir>
+#include <QTemporaryFile>
+
+namespace drafton {
+namespace {
+
+/// A fresh name among the temporary files, for a drawing that stays when this program ends: what
+/// was made of it elsewhere may still need it.
+OdString temporaryDrawing() {
+  QTemporaryFile place(QDir(QDir::tempPath()).filePath(QStringLiteral("drfXXXXXX.tmp")));
+  if (!place.open())
+    throw CommandFailure(
+        translated(u"There is no place for what is copied: %1").arg(place.errorString()));
+  const QFileInfo info(place.fileName());
+  QString name = info.fileName().toLower();
+  name.replace(QLatin1String(".tmp"), QLatin1String(".dwg"));
+  return odpath::fromPlatform(info.dir().filePath(name));
+}
+
+} // namespace
+
+Task<void> copyToClipboard(CommandContext& context) {
+  const Selection chosen = co_await selectObjects(context);
+  if (chosen.empty()) co_return;
+  KVPtr<IHostClipboard> clipboard = kvQuery<IHostClipboard>(&context.engine().services());
+  if (!clipboard) throw CommandFailure(translated(u"There is no clipboard."));
+  HostClipboardPayload payload{temporaryDrawing(), context.document().path(), {}};
+  for (const OdDbObjectId id : chosen) payload.entities.push_back(id.getHandle());
+  try {
+    context.database().wblock(chosen, OdGePoint3d())->writeFile(payload.drawing);
+  } catch (const OdError& error) {
+    throw CommandFailure(error.description());
+  }
+  const std::optional<QByteArray> bytes = hostclipboard::toBytes(payload);
+  if (!bytes)
+    throw CommandFailure(translated(u"%1 is too long a name to be copied.").arg(payload.source));
+  clipboard->setData(clipboard->registerFormat(kHostClipboardFormat.toString()), *bytes);
+  context.print(translated(u"%1 copied").arg(chosen.size()));
+}
+
+} // namespace drafton

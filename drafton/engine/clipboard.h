@@ -1,0 +1,22 @@
+// The clipboard of a program without windows.
+#pragma once
+
+#include "host/clipboard.h"
+
+namespace drafton {
+
+/// Keeps what is copied for as long as the program runs. A program with windows offers the system's
+/// in its place.
+class Clipboard : public CKVUnknownImpl<IHostClipboard> {
+ public:
+  int registerFormat(const OdString& name) override;
+  QByteArray data(int format) override;
+  void setData(int format, const QByteArray& bytes) override;
+
+ private:
+  QStringList m_formats; ///< a format's number is its place, counted from 1
+  int m_format = 0;
+  QByteArray m_bytes;
+};
+
+} // namespace drafton
