@@ -30,7 +30,8 @@ OdTcPaletteFilling::OdTcPaletteFilling(OdTcCatalog& catalog, const OdString& pal
 OdTcPaletteFilling::~OdTcPaletteFilling() {
   m_palette->resumeAutoSave();
   if (m_isCommitted) return;
-  while (!m_added.empty()) dropLast();
+  // A new palette goes with all that is on it.
+  while (!m_entry && !m_added.empty()) dropLast();
   for (const OdString& file : m_files)
     if (odrxSystemServices()->fileExists(file)) odrxSystemServices()->removeFile(file);
 }

@@ -1,6 +1,7 @@
 #include "tools/tool_maker.h"
 
 #include "catalog/palette_manager.h"
+#include "catalog/tool_palette.h"
 #include "drawing/database.h"
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
@@ -18,6 +19,7 @@
 #include "tools/hatch_tool.h"
 #include "tools/raster_tool.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -315,6 +317,29 @@ TEST_F(ToolMakerTest, BlocksOfAFileAreThoseThatCanBeInserted) {
   EXPECT_EQ(maker.blocksOf(stored(u"lib.dxf"_s)), QStringList({u"Door"_s, u"Window"_s}));
   EXPECT_TRUE(maker.blocksOf(stored(u"none.dxf"_s)).isEmpty());
   EXPECT_TRUE(maker.problem().contains(u"none.dxf"_s)) << qPrintable(maker.problem());
+}
+
+// --- pictures on a palette
+
+TEST_F(ToolMakerTest, PicturesOfOneNameMeetOnThePaletteAndStayTwo) {
+  addBlock(u"Door"_s);
+  save();
+  const OdTcToolPalettePtr palette = OdTcToolPalette::createObject();
+  const OdTcToolPtr first = manager().createToolFromBlock(u"Door"_s, &document);
+  const OdTcToolPtr second = manager().createToolFromBlock(u"Door"_s, &document);
+  EXPECT_EQ(first->images()->findBySize(4)->src(), second->images()->findBySize(4)->src());
+  palette->suspendAutoSave();
+  palette->addItem(first);
+  palette->addItem(second);
+  ASSERT_TRUE(palette->saveAs(stored(u"p.dtc"_s)));
+  const OdString src = second->images()->findBySize(4)->src();
+  EXPECT_EQ(first->images()->findBySize(4)->src(), u"\\Images\\Door64.png"_s);
+  EXPECT_TRUE(src.startsWith(u"\\Images\\Block tool instrument_"_s)) << qPrintable(src);
+  const QDir images(folder.filePath(u"Images"_s));
+  EXPECT_EQ(images.entryList(QDir::Files).size(), 6);
+  ASSERT_TRUE(palette->save());
+  EXPECT_EQ(images.entryList(QDir::Files).size(), 6) << "each has its file and keeps it";
+  EXPECT_EQ(second->images()->findBySize(4)->src(), src);
 }
 
 // --- entities
