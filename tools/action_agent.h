@@ -41,9 +41,7 @@ class OdTcToolActionAgent : public OdTcPersist {
   virtual bool refreshImages(IHostDocument* document) = 0;
   /// Makes the picture of what the tool acts on in the size of `image`, which knows its palette.
   /// False, with nothing changed, if the kind has none or none comes of it.
-  virtual bool makePicture(OdTcImage& /*image*/, OdTcSourceFiles& /*files*/) const {
-    return false;
-  }
+  virtual bool makePicture(OdTcImage& /*image*/, OdTcSourceFiles& /*files*/) const { return false; }
   /// Takes from the host what the agent shows of it.
   virtual void updateFromHost() = 0;
   /// The stored path of the file that the tool brings in; empty if there is none.

@@ -4,6 +4,7 @@
 #include "frame/system_services.h"
 #include "host/document_lock.h"
 #include "module/string_table.h"
+#include "tools/block_loops.h"
 #include "tools/command_conveyor.h"
 #include "tools/execute_tool_command.h"
 
@@ -40,34 +41,53 @@ void loadReferences(OdDbDatabase& drawing) {
   }
 }
 
-/// What is to become the block: the whole source, or one block of it in a drawing of its own; null
-/// if it has no such block.
-OdDbDatabasePtr contentsOf(OdDbDatabase& source, const OdTcBlockRequest& request) {
+/// What of the source is to become the block; null, with a message, if it cannot.
+OdDbObjectId wantedBlock(const OdDbDatabase& source, const OdTcBlockRequest& request) {
+  const OdDbObjectId block =
+      request.wholeDrawing ? source.getModelSpaceId() : definitionIn(source, request.name);
+  OdString problem;
+  if (block.isNull())
+    problem = stringText(StringId::kBlockNotDefined);
+  else if (hasBlockLoop(block))
+    problem =
+        host::translate(QStringLiteral("\nBlock \"%s\" of the source file \"%s\" contains itself"));
+  if (problem.isEmpty()) return block;
+  host::print(formatText(problem, request.name, request.sourceFile));
+  return {};
+}
+
+/// The whole source, or one block of it in a drawing of its own.
+OdDbDatabasePtr contentsOf(OdDbDatabase& source, const OdTcBlockRequest& request,
+                           OdDbObjectId block) {
   if (request.wholeDrawing) {
     loadReferences(source);
     return OdDbDatabasePtr(&source);
   }
-  const OdDbObjectId block = definitionIn(source, request.name);
-  if (block.isNull()) return {};
   const OdDbDatabasePtr contents = source.wblock(block);
   contents->setSysVar(QStringLiteral("INSUNITS"), source.sysVarInt("INSUNITS"));
   return contents;
 }
 
+/// A source that is damaged gives what can be read of it, but not without a word.
+void tellDamage(const OdDbDatabase& source, const OdString& path) {
+  if (const QStringList& damage = source.unknownContent(); !damage.isEmpty())
+    host::print(
+        formatText(host::translate(QStringLiteral("\nNot all of \"%s\" could be read: %s\n")), path,
+                   damage.join(QStringLiteral(", "))));
+}
+
 /// Sees to it that the drawing has the definition of the block. False, with a message, if the
-/// source file does not have it either.
+/// source file cannot give it.
 bool ensureDefinition(IHostDocument& document, OdDbDatabase& drawing,
                       const OdTcBlockRequest& request) {
   // The definition in the drawing wins: the source file is not even read.
   if (!definitionIn(drawing, request.name).isNull()) return true;
   const HostDocumentLock lock(&document);
   const OdDbDatabasePtr source = OdDbDatabase::readFile(request.sourceFile);
-  const OdDbDatabasePtr contents = contentsOf(*source, request);
-  if (!contents) {
-    host::print(
-        formatText(stringText(StringId::kBlockNotDefined), request.name, request.sourceFile));
-    return false;
-  }
+  tellDamage(*source, request.sourceFile);
+  const OdDbObjectId block = wantedBlock(*source, request);
+  if (block.isNull()) return false;
+  const OdDbDatabasePtr contents = contentsOf(*source, request, block);
   const OdDbObjectId made = drawing.insert(request.name, contents, true);
   made.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
       ->setBlockInsertUnits(static_cast<int>(source->sysVarInt("INSUNITS")));

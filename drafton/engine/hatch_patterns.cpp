@@ -1,6 +1,7 @@
 #include "drafton/engine/hatch_patterns.h"
 
 #include "drafton/engine/support_files.h"
+#include "drafton/engine/translator.h"
 #include "drawing/patterns/pattern_file.h"
 #include "frame/system_services.h"
 
@@ -36,7 +37,7 @@ std::optional<FoundPattern> findCustomPattern(Engine& engine, const Document* do
     const OdString path = pathOf(engine, document, file);
     const OdHatchPatternFile patterns = patternsOf(path);
     if (const OdHatchPattern* const found = patterns.find(name))
-      return FoundPattern{*found, path, false};
+      return FoundPattern{*found, path, false, patterns.errors()};
   }
   return std::nullopt;
 }
@@ -49,9 +50,21 @@ std::optional<FoundPattern> findHatchPattern(Engine& engine, const Document* doc
   for (const OdString& path : {pathOf(engine, document, file), predefined}) {
     const OdHatchPatternFile patterns = patternsOf(path);
     if (const OdHatchPattern* const found = patterns.find(name))
-      return FoundPattern{*found, path, path == predefined};
+      return FoundPattern{*found, path, path == predefined,
+                          path == predefined ? QStringList() : patterns.errors()};
   }
   return findCustomPattern(engine, document, name);
+}
+
+OdString whyNoHatchPattern(Engine& engine, const Document* document, const OdString& name,
+                           const OdString& file) {
+  const OdString text = translated(u"There is no hatch pattern \"%1\".").arg(name.left(60));
+  if (file.isEmpty() || file.compare(kPatternFile, Qt::CaseInsensitive) == 0) return text;
+  const OdString path = pathOf(engine, document, file);
+  if (path.isEmpty())
+    return text + u' ' + whyNoSupportFile(engine, document, file, QStringLiteral("pat"));
+  const QStringList errors = patternsOf(path).errors();
+  return errors.isEmpty() ? text : QStringLiteral("%1 %2: %3").arg(text, path, errors.front());
 }
 
 OdString customPatternFile(Engine& engine, const Document* document, const OdString& name) {

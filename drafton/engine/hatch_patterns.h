@@ -18,12 +18,18 @@ struct FoundPattern {
   OdHatchPattern pattern;
   OdString file; ///< the stored path
   bool isPredefined = false;
+  /// What of a file of the user's own could not be understood: other patterns, lines of this one.
+  QStringList errors;
 };
 
 /// The pattern of a name, in any case: in `file` if one is given and has it, among the predefined
 /// ones, or in a file of the pattern's own name. Files are looked for as findSupportFile() does.
 std::optional<FoundPattern> findHatchPattern(Engine& engine, const Document* document,
                                              const OdString& name, const OdString& file = {});
+
+/// What to tell a user when there is none: also what is wrong with `file`, if one is given.
+OdString whyNoHatchPattern(Engine& engine, const Document* document, const OdString& name,
+                           const OdString& file = {});
 
 /// The file of the pattern's own name, if there is one that has it and the pattern is none of the
 /// predefined ones; else empty.

@@ -115,7 +115,7 @@ Task<void> chooseAreas(Running& running, QStringView keywords) {
 
 /// The commands of tools take all from the variables, and leave them as they are.
 Task<void> hatchAtOnce(CommandContext& context, HatchOptions options) {
-  patternOf(context, options.fill); // an unknown pattern is told before the first question
+  checkPattern(context, options.fill); // an unknown pattern is told before the first question
   Running running(context, std::move(options));
   co_await chooseAreas(running, u"Select Undo");
 }

@@ -48,6 +48,20 @@ HatchFill::Kind kindOf(const CommandContext& context, const OdString& name) {
   }
 }
 
+/// Raises CommandFailure if there is none.
+FoundPattern foundPattern(const CommandContext& context, const HatchFill& fill) {
+  std::optional<FoundPattern> found =
+      findHatchPattern(context.engine(), &context.document(), fill.name, fill.file);
+  if (!found)
+    throw CommandFailure(
+        whyNoHatchPattern(context.engine(), &context.document(), fill.name, fill.file));
+  return std::move(*found);
+}
+
+bool standsInFile(const HatchFill& fill) {
+  return fill.isPattern() && fill.kind != HatchFill::Kind::kUserDefined;
+}
+
 } // namespace
 
 HatchOptions hatchOptions(const CommandContext& context) {
@@ -105,16 +119,18 @@ void keepOptions(const CommandContext& context, const HatchOptions& options) {
   keep(u"HPASSOC", options.isAssociative ? 1 : 0);
 }
 
+void checkPattern(const CommandContext& context, const HatchFill& fill) {
+  constexpr qsizetype kMostErrors = 3;
+  if (!standsInFile(fill)) return;
+  const FoundPattern found = foundPattern(context, fill);
+  for (const OdString& error : found.errors.first(std::min(kMostErrors, found.errors.size())))
+    context.print(QStringLiteral("%1: %2").arg(found.file, error));
+}
+
 OdHatchPattern patternOf(const CommandContext& context, const HatchFill& fill) {
-  if (!fill.isPattern()) return {};
+  if (standsInFile(fill)) return foundPattern(context, fill).pattern;
   // The spacing is kept as the scale.
-  if (fill.kind == HatchFill::Kind::kUserDefined)
-    return OdHatchPattern::userDefined(1, fill.isDouble);
-  std::optional<FoundPattern> found =
-      findHatchPattern(context.engine(), &context.document(), fill.name, fill.file);
-  if (!found)
-    throw CommandFailure(translated(u"There is no hatch pattern \"%1\".").arg(fill.name.left(60)));
-  return std::move(found->pattern);
+  return fill.isPattern() ? OdHatchPattern::userDefined(1, fill.isDouble) : OdHatchPattern();
 }
 
 } // namespace drafton

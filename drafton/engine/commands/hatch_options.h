@@ -48,6 +48,9 @@ void keepOptions(const CommandContext& context, const HatchOptions& options);
 /// The names of the nine gradients in the order of GFNAME, as hatches have them.
 extern const std::array<QStringView, 9> kGradientNames;
 
+/// Raises CommandFailure, with what is wrong with its file, if there is no pattern of the fill's
+/// name; tells what of a file of the user's own could not be understood.
+void checkPattern(const CommandContext& context, const HatchFill& fill);
 /// The pattern that a fill draws with, at scale 1 and angle 0; without lines for solid ones and
 /// gradients. Raises CommandFailure if there is no pattern of the name.
 OdHatchPattern patternOf(const CommandContext& context, const HatchFill& fill);
