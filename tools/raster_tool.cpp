@@ -58,7 +58,7 @@ OdString OdTcToolRasterCommandImpl::resolvedSource(const IHostDocument& document
   const OdString beside = combinePath(source, document.path());
   if (odrxSystemServices()->fileExists(beside)) return beside;
   const OdString fromPalette = sourceFromPalette(*this, source);
-  return isRelativePath(fromPalette) ? beside : fromPalette;
+  return fromPalette == source ? beside : fromPalette;
 }
 
 bool OdTcToolRasterCommandImpl::execute(IHostDocument* document) {

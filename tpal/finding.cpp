@@ -7,6 +7,7 @@
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
 #include "tools/action_agent.h"
+#include "tools/tool_source.h"
 
 #include <QHash>
 
@@ -29,6 +30,7 @@ constexpr KindText kKindTexts[] = {
     {FindingKind::kToolWithoutAgent, "C105", "tool-without-agent"},
     {FindingKind::kUnresolvedPath, "C106", "unresolved-path"},
     {FindingKind::kMissingPicture, "C107", "missing-picture"},
+    {FindingKind::kSourceElsewhere, "C108", "source-elsewhere"},
 };
 
 const KindText& textOf(FindingKind kind) {
@@ -119,14 +121,24 @@ class Examination {
   void checkSource(const tc::OdTcTool& tool, const tc::OdTcToolActionAgent& agent,
                    const OdString& file) {
     const tc::OdTcPropertyBag* const bag = agent.properties();
-    const tc::OdTcProperty* const source =
-        bag ? bag->findByName(QStringLiteral("Insert.Source file")) : nullptr;
-    if (!source) return;
-    const OdString path = source->getValue().toString();
-    if (path.isEmpty() || odpath::isRelative(path)) return; // relative to whatever drawing is open
-    if (!odrxSystemServices()->fileExists(path))
+    // A hatch's pattern file is the host's to find.
+    if (!bag || !bag->findByName(QStringLiteral("Insert.Source file"))) return;
+    const OdString source = agent.sourcePath();
+    if (source.isEmpty() || tc::sourceFromPalette(agent, source) != source) return;
+    if (!odpath::isRelative(source)) {
+      if (!odrxSystemServices()->fileExists(source))
+        add(FindingKind::kUnresolvedPath, file,
+            QStringLiteral("tool \"%1\": there is no file %2").arg(tool.name(), source));
+    } else if (odrxCast<tc::OdTcToolRasterCommand>(&agent)) {
+      add(FindingKind::kSourceElsewhere, file,
+          QStringLiteral("tool \"%1\": %2 is not beside the palette: the tool works in drawings "
+                         "only that have it beside them")
+              .arg(tool.name(), source));
+    } else {
       add(FindingKind::kUnresolvedPath, file,
-          QStringLiteral("tool \"%1\": there is no file %2").arg(tool.name(), path));
+          QStringLiteral("tool \"%1\": there is no file %2 beside the palette")
+              .arg(tool.name(), source));
+    }
   }
 
   void checkPictures(const tc::OdTcTool& tool, const OdString& file) {

@@ -18,6 +18,7 @@ enum class FindingKind {
   kToolWithoutAgent,
   kUnresolvedPath,
   kMissingPicture,
+  kSourceElsewhere,
 };
 
 /// The code of a kind, such as "C101".

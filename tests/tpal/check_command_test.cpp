@@ -70,6 +70,31 @@ TEST_F(CheckCommand, NamesASourceFileThatIsNotThere) {
   EXPECT_EQ(codes(), QStringList{QStringLiteral("C106")});
 }
 
+TEST_F(CheckCommand, LooksForRelativeSourcesBesideThePalette) {
+  const QByteArray block = "<Block><BlockName>D</BlockName><SourceFile>..\\doors.dxf</SourceFile>"
+                           "</Block>";
+  const QByteArray raster = "<Raster><SourceFile>..\\photo.png</SourceFile></Raster>";
+  writeCatalog(tool("{1}", "Door", block) + tool("{2}", "Photo", raster));
+  EXPECT_EQ(codes(), (QStringList{QStringLiteral("C106"), QStringLiteral("C108")}));
+  EXPECT_TRUE(out().contains(QStringLiteral("tool \\\"Door\\\": there is no file ..\\\\doors.dxf "
+                                            "beside the palette")))
+      << qPrintable(out());
+  write(QStringLiteral("c/doors.dxf"), "x");
+  write(QStringLiteral("c/photo.png"), "x");
+  EXPECT_EQ(codes(), QStringList());
+  // The catalog's folder may be relative as well.
+  const QString former = QDir::currentPath();
+  ASSERT_TRUE(QDir::setCurrent(path(QString())));
+  EXPECT_EQ(run({QStringLiteral("check"), QStringLiteral("c")}), tpal::kOk) << qPrintable(out());
+  QDir::setCurrent(former);
+}
+
+TEST_F(CheckCommand, DoesNotMissASourceThatIsNotNamed) {
+  writeCatalog(tool("{1}", "Door", "<Block><BlockName>D</BlockName></Block>") +
+               tool("{2}", "Brick", "<Hatch><SourceFile>mine.pat</SourceFile></Hatch>"));
+  EXPECT_EQ(codes(), QStringList());
+}
+
 TEST_F(CheckCommand, NamesAPictureThatIsNotThere) {
   write(
       QStringLiteral("c/DrfTcCatalog.dtc"),
