@@ -193,9 +193,25 @@ TEST_P(ImageFormatTest, PicksTheFormatByItsCode) {
 INSTANTIATE_TEST_SUITE_P(Codes, ImageFormatTest,
                          testing::Values(FormatRow{1, "x", "x.bmp"}, FormatRow{6, "x", "x.png"},
                                          FormatRow{5, "x", "x.jpeg"}, FormatRow{77, "x", "x.png"},
-                                         FormatRow{0, "x", "x.png"},
+                                         FormatRow{0, "x", "x.png"}, FormatRow{3, "x", "x.ico"},
+                                         FormatRow{6, "x.bmp", "x.bmp"},
+                                         FormatRow{-1, "x.jpg", "x.jpg"},
                                          FormatRow{-1, "x.bmp", "x.bmp"},
                                          FormatRow{-1, "x", "x.png"}));
+
+TEST_F(ImageTest, NamesAFormatThatCannotBeWrittenAndWritesNothing) {
+  EXPECT_EQ(formatExtension(2), text(u"wmf"));
+  EXPECT_EQ(formatExtension(4), text(u"emf"));
+  EXPECT_EQ(formatExtension(7), text(u"gif"));
+  EXPECT_EQ(formatExtension(8), text(u"tiff"));
+  makePicture(QStringLiteral("a.png"), 10, qRgb(255, 0, 0));
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->loadFromFile(stored(QStringLiteral("a.png"))));
+  for (const std::int32_t code : {2, 4}) {
+    EXPECT_FALSE(image->saveTo(stored(QStringLiteral("x")), code));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.png")));
+  }
+}
 
 TEST_F(ImageTest, SavingWithoutAPictureOrWithoutAFolderFails) {
   const auto image = newImage(3);

@@ -3,6 +3,9 @@
 #include "images/gradient_picture.h"
 #include "images/image_fixture.h"
 #include "properties/gradient_names.h"
+#include "render/golden_picture.h"
+
+#include <QPainter>
 
 namespace {
 
@@ -53,6 +56,28 @@ TEST_F(PreviewTest, OfABlockTakesAFreshNameWhereTheFileOfItsOwnExists) {
   ASSERT_TRUE(image->makeFromBlock(addBlock(u"Door")));
   EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Block tool instrument_{")))
       << image->src().toStdString();
+}
+
+TEST_F(PreviewTest, OfABlockHasANameThatFilesCanHave) {
+  struct Row {
+    const char16_t* block;
+    const char16_t* name;
+  };
+  const Row rows[] = {{u"Door/left:2", u"\\Images\\Doorleft232.png"},
+                      {u"*U12", u"\\Images\\U1232.png"},
+                      {u"T\u00fcr <1>", u"\\Images\\T\u00fcr 132.png"},
+                      {u"..\\..\\x", u"\\Images\\....x32.png"}};
+  for (const Row& row : rows) {
+    const auto image = newImage(3);
+    ASSERT_TRUE(image->makeFromBlock(addBlock(row.block)));
+    EXPECT_EQ(image->src(), text(row.name));
+  }
+  const auto nameless = newImage(3);
+  ASSERT_TRUE(nameless->makeFromBlock(addBlock(u"?*")));
+  EXPECT_TRUE(nameless->src().startsWith(text(u"\\Images\\Block tool instrument_{")));
+  const auto endless = newImage(3);
+  ASSERT_TRUE(endless->makeFromBlock(addBlock(std::u16string(250, u'x').c_str())));
+  EXPECT_LT(endless->src().size(), 100);
 }
 
 TEST_F(PreviewTest, OfAnEntityHasAFreshName) {
@@ -135,6 +160,28 @@ TEST_F(PreviewTest, EveryGradientHasAPictureOfItsOwn) {
     for (const QImage& other : seen) EXPECT_NE(picture, other) << row.key.toString().toStdString();
     seen.push_back(picture);
   }
+}
+
+TEST_F(PreviewTest, OfGradientsLookAsTheGoldenOnes) {
+  // Nine rows in three sizes, on a light and on a dark ground.
+  constexpr int kGap = 4, kHeight = 64 + kGap, kHalf = 16 + 32 + 64 + 4 * kGap;
+  QImage sheet(2 * kHalf, 9 * kHeight, QImage::Format_RGB32);
+  QPainter painter(&sheet);
+  painter.fillRect(0, 0, kHalf, sheet.height(), Qt::white);
+  painter.fillRect(kHalf, 0, kHalf, sheet.height(), qRgb(30, 30, 30));
+  for (std::size_t i = 0; i < kGradients.size(); ++i)
+    for (const int left : {0, kHalf}) {
+      int x = left + kGap;
+      for (const int pixels : {16, 32, 64}) {
+        painter.drawImage(x, static_cast<int>(i) * kHeight + kGap / 2,
+                          gradientPicture(kGradients[i].key.toString(),
+                                          OdCmColor::fromRgb(30, 90, 200),
+                                          OdCmColor::fromRgb(250, 200, 60), pixels));
+        x += pixels + kGap;
+      }
+    }
+  painter.end();
+  EXPECT_TRUE(render_test::looksLike(sheet, "preview_gradients"));
 }
 
 TEST_F(PreviewTest, OfALinearGradientGoesFromTheFirstColourToTheSecond) {

@@ -84,6 +84,12 @@ TEST_F(HatchImagesTest, ChangeWithTheGeneralColour) {
   EXPECT_EQ(sink.got[0]->getBitmap().pixelColor(5, 5), QColor(0, 255, 0));
 }
 
+TEST_F(HatchImagesTest, OfASolidByLayerAreTheHostsToColour) {
+  agent->setPatternName(text(u"SOLID"));
+  agent->updateImages(text(u"SOLID"));
+  EXPECT_EQ(host().previews.asked.size(), 3);
+}
+
 TEST_F(HatchImagesTest, OfAForeignLibraryAreReplacedInThreeSizes) {
   giveForeignPictures();
   ASSERT_TRUE(agent->refreshImages(nullptr));

@@ -191,6 +191,31 @@ TEST_F(HatchToolTest, RunsWithoutTheHostsServices) {
   agent->endExecution(nullptr);
 }
 
+TEST_F(HatchToolTest, WritesAllVariablesAtTheEndAlsoThoseItCouldNotRead) {
+  agent->setHatchType(1);
+  agent->beginExecution(&document);
+  defineHatchVariables();
+  host().log.clear();
+  agent->endExecution(&document);
+  EXPECT_EQ(variable(u"HPSCALE").toDouble(), 0.0);
+  EXPECT_EQ(host().hatch.values[text(u"hatch_pattern_file")].toString(), OdString());
+  QStringList order;
+  for (const QString& line : host().log)
+    if (line.startsWith(text(u"set A.dxf "))) order << line.section(u' ', 2).section(u'=', 0, 0);
+  EXPECT_EQ(order.join(u' '), text(u"HPNAME HPANG HPSCALE HPDOUBLE HPSPACE HPCOLOR"));
+}
+
+TEST_F(HatchToolTest, PutsBackWhatItBeganAlsoAfterItsKindWasChanged) {
+  defineHatchVariables();
+  agent->setHatchType(1);
+  agent->setPatternName(text(u"BRICK"));
+  agent->beginExecution(&document);
+  agent->setHatchPatternSource(1);
+  agent->endExecution(&document);
+  EXPECT_EQ(variable(u"HPNAME").toString(), text(u"ANSI31"));
+  EXPECT_TRUE(variable(u"GFNAME").isVoid());
+}
+
 TEST_F(HatchToolTest, KeepsAPatternNameThatStandsBeforeItsType) {
   const auto agentOf = [](const char* inner) {
     return testhost::readPart<OdTcToolHatchCommandImpl>(

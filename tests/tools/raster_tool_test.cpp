@@ -1,8 +1,15 @@
 #include "tools/raster_tool.h"
 
+#include "catalog/database.h"
+#include "catalog/tool.h"
+#include "frame/file_path.h"
+#include "images/image_home.h"
 #include "support/golden.h"
 #include "support/module_fixture.h"
 #include "tools/command_conveyor.h"
+
+#include <QDir>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -43,6 +50,31 @@ TEST_F(RasterToolTest, TakesARelativeFileFromTheDocumentsFolder) {
   EXPECT_EQ(run().path, text(u"D:\\plan.png"));
   document.filePath.clear();
   EXPECT_EQ(run().path, text(u"..\\plan.png")) << "an unsaved drawing has no folder";
+}
+
+TEST_F(RasterToolTest, TakesARelativeFileFromThePaletteWhereTheDrawingHasNone) {
+  const QTemporaryDir folder;
+  const auto touch = [&](const QString& name) {
+    QDir(folder.path()).mkpath(QFileInfo(name).path());
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  };
+  const auto stored = [&](const QString& name) {
+    return odpath::fromPlatform(folder.filePath(name));
+  };
+  const OdTcDatabasePtr palette = OdTcDatabase::createObject();
+  palette->setPath(stored(QStringLiteral("catalog/Palettes/p.dtc")));
+  setImageHome({[](const OdTcDatabase* database) { return database->getPath(); }, nullptr});
+  const OdTcToolPtr tool = OdTcTool::createObject();
+  tool->setActionAgent(agent);
+  palette->addTool(tool);
+  document.filePath = stored(QStringLiteral("site/house.dxf"));
+  agent->setSourceFile(text(u"plan.png"));
+  EXPECT_EQ(run().path, stored(QStringLiteral("site/plan.png"))) << "nowhere: as it stands";
+  touch(QStringLiteral("catalog/Palettes/plan.png"));
+  EXPECT_EQ(run().path, stored(QStringLiteral("catalog/Palettes/plan.png")));
+  touch(QStringLiteral("site/plan.png"));
+  EXPECT_EQ(run().path, stored(QStringLiteral("site/plan.png"))) << "the drawing's own first";
 }
 
 TEST_F(RasterToolTest, ReadsRealNumbers) {
