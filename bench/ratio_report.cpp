@@ -48,8 +48,10 @@ int run(int argc, char** argv, const std::vector<Ratio>& ratios,
 
   std::printf("\n");
   for (const Ratio& r : ratios)
-    printRow(r.what, r.factor * reporter.seconds(r.numerator) / reporter.seconds(r.divisor),
-             r.target);
+    // A filter may have left out what others are compared with.
+    if (reporter.has(r.numerator) && reporter.has(r.divisor))
+      printRow(r.what, r.factor * reporter.seconds(r.numerator) / reporter.seconds(r.divisor),
+               r.target);
   for (const Figure& f : figures) printRow(f.what, f.value, f.target);
   return 0;
 }

@@ -15,6 +15,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
   void ReportRuns(const std::vector<Run>& runs) override;
   /// The time of one iteration in seconds; raises std::out_of_range for an unknown benchmark.
   double seconds(const std::string& name) const { return m_seconds.at(name); }
+  /// True if the benchmark ran without an error.
+  bool has(const std::string& name) const { return m_seconds.contains(name); }
 
  private:
   std::map<std::string, double> m_seconds;
@@ -36,7 +38,8 @@ struct Figure {
   double target;
 };
 
-/// Runs the registered benchmarks, once each with --quick, and prints the ratios and figures.
+/// Runs the registered benchmarks, once each with --quick, and prints the figures, and the ratios
+/// of those that ran.
 int run(int argc, char** argv, const std::vector<Ratio>& ratios,
         const std::vector<Figure>& figures = {});
 

@@ -70,6 +70,7 @@ void OdDbDxfCrew::give(std::unique_ptr<OdDbDxfJob> job) {
   bool isFirst = false;
   {
     const Lock lock(m_mutex);
+    job->m_state = OdDbDxfJob::kWaiting;
     isFirst = m_jobs.empty();
     m_jobs.push_back(std::move(job));
   }

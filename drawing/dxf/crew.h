@@ -42,6 +42,7 @@ class OdDbDxfCrew {
   bool isEmpty() const { return m_jobs.empty(); }
   /// True if there is enough to do, and more would only take memory.
   bool isFull() const { return m_jobs.size() >= 2 * m_most + 2; }
+  /// A job that was taken may be given again.
   void give(std::unique_ptr<OdDbDxfJob> job);
   /// The oldest job when it is done. What it raised is raised here.
   std::unique_ptr<OdDbDxfJob> take();

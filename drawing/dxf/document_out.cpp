@@ -3,10 +3,13 @@
 
 #include "drawing/cloning/unused_records.h"
 #include "drawing/dxf/class_list.h"
+#include "drawing/dxf/entities_out.h"
 #include "drawing/dxf/newer.h"
 #include "drawing/dxf/out.h"
 #include "drawing/dxf/text.h"
 #include "drawing/replaced_file.h"
+
+#include "frame/file_writing.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -17,10 +20,12 @@ using V = OdDbHeaderVarInfo;
 
 class Writer {
  public:
-  Writer(const OdDbDatabase& database, OdDb::DwgVersion version, OdDbDxfOut::Sink sink)
+  Writer(const OdDbDatabase& database, OdDb::DwgVersion version, OdDbDxfOut::Sink sink,
+         std::size_t threads)
     : m_database(database)
     , m_data(database.data())
     , m_out(database, version, std::move(sink))
+    , m_entities(m_out, threads)
     , m_orphans(oddb::orphanedBlocks(database)) {}
 
   void write() {
@@ -153,12 +158,7 @@ class Writer {
   void entitiesOf(OdDbObjectId blockId) {
     const auto block = blockId.openAs<OdDbBlockTableRecord>();
     m_out.setPaperSpace(block->isLayout() && !block->isModelSpace());
-    for (const OdDbObjectId id : block->entityIds()) {
-      if (!id.isValid() || (!m_data.transient.empty() && m_data.transient.contains(id))) continue;
-      const OdDbObject& entity = *id.stub()->object;
-      m_out.object(entity);
-      static_cast<const OdDbEntity&>(entity).dxfOutFollowers(m_out);
-    }
+    m_entities.write(block->entityIds());
   }
 
   bool leavesOut(OdDbObjectId record) const {
@@ -168,17 +168,18 @@ class Writer {
   const OdDbDatabase& m_database;
   const OdDbDatabaseData& m_data;
   OdDbDxfOut m_out;
+  OdDbDxfEntitiesOut m_entities;
   const std::unordered_set<OdDbObjectId> m_orphans;
 };
 
 } // namespace
 
 void oddxf::writeDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
-                          const std::function<void(const QByteArray&)>& sink) {
+                          const std::function<void(const QByteArray&)>& sink, std::size_t threads) {
   if (version == OdDb::kVersionUnknown) version = database.originalFileVersion();
   // What was read from an older file has become a drawing of today.
   if (version < OdDb::kR2000) version = OdDb::kR2000;
-  Writer(database, version, sink).write();
+  Writer(database, version, sink, threads).write();
 }
 
 namespace {
@@ -216,8 +217,16 @@ void oddxf::saveDocument(const OdDbDatabase& database, OdDb::DwgVersion version,
   const OdDbReplacedFile former(path);
   file.setDirectWriteFallback(false);
   require(file.open(QIODevice::WriteOnly));
-  writeDocument(database, version,
-                [&](const QByteArray& piece) { require(file.write(piece) == piece.size()); });
+  // The disk works while what follows is put into words.
+  constexpr qint64 kStep = 1024 * 1024;
+  qint64 written = 0, begun = 0;
+  writeDocument(database, version, [&](const QByteArray& piece) {
+    require(file.write(piece) == piece.size());
+    written += piece.size();
+    if (written - begun < kStep) return;
+    odpath::startWriting(file, begun, written - begun);
+    begun = written;
+  });
   // commit() would not notice that the last bytes found no room.
   require(file.flush());
   if (keepBackup) backUp(file.fileName(), path);

@@ -12,8 +12,8 @@
 namespace {
 
 constexpr std::size_t kBufferSize = 256 * 1024;
-// No code and no number is longer, line ends included.
-constexpr std::size_t kShortTag = 64;
+// Of what is only collected.
+constexpr std::size_t kFirstSize = 64 * 1024;
 
 /// The lines of all group codes, each with its length behind it.
 constexpr std::size_t kCodeLine = 8;
@@ -37,6 +37,12 @@ bool isPlain(const QByteArray& bytes) {
                      [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
+/// True for a line that has the same bytes in every encoding that knows the characters.
+bool isPlainLine(const OdString& text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0x7F; });
+}
+
 std::string_view view(const QByteArray& bytes) {
   return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
@@ -47,7 +53,8 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
   : m_database(database)
   , m_version(version)
   , m_sink(std::move(sink))
-  , m_buffer(std::make_unique<char[]>(kBufferSize))
+  , m_size(m_sink ? kBufferSize : kFirstSize)
+  , m_buffer(new char[m_size])
   , m_at(m_buffer.get())
   , m_utf8(version >= OdDb::kR2007) {
   const OdDbDatabaseData& data = database.data();
@@ -68,27 +75,41 @@ OdDbDxfOut::OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, S
 }
 
 void OdDbDxfOut::flush() {
-  const qsizetype size = m_at - m_buffer.get();
-  m_at = m_buffer.get();
-  if (size > 0) m_sink(QByteArray::fromRawData(m_buffer.get(), size));
+  if (!m_sink) return;
+  const std::string_view bytes = collected();
+  clearCollected();
+  if (!bytes.empty())
+    m_sink(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
 }
 
-void OdDbDxfOut::ensureRoom() {
-  if (m_buffer.get() + kBufferSize - m_at < static_cast<std::ptrdiff_t>(kShortTag)) flush();
+void OdDbDxfOut::makeRoom(std::size_t size) {
+  flush();
+  if (room() >= size) return;
+  const std::string_view bytes = collected();
+  m_size = std::max(2 * m_size, bytes.size() + size);
+  std::unique_ptr<char[]> larger(new char[m_size]);
+  m_at = std::copy(bytes.begin(), bytes.end(), larger.get());
+  m_buffer = std::move(larger);
 }
 
 void OdDbDxfOut::append(std::string_view bytes) {
-  const auto room = static_cast<std::size_t>(m_buffer.get() + kBufferSize - m_at);
-  if (bytes.size() > room) {
+  if (bytes.size() > room()) {
     flush();
     // Long ones need not pass through the buffer.
-    if (bytes.size() > kBufferSize) {
+    if (m_sink && bytes.size() > kBufferSize) {
       m_sink(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
       return;
     }
+    makeRoom(bytes.size());
   }
   std::memcpy(m_at, bytes.data(), bytes.size());
   m_at += bytes.size();
+}
+
+void OdDbDxfOut::addCollected(const OdDbDxfOut& other) {
+  flush();
+  const std::string_view bytes = other.collected();
+  m_sink(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
 }
 
 void OdDbDxfOut::code(int code) {
@@ -112,7 +133,13 @@ void OdDbDxfOut::raw(int groupCode, std::string_view value) {
 
 void OdDbDxfOut::text(int groupCode, const OdString& value) {
   code(groupCode);
-  append(encoded(oddxf::oneLine(value)));
+  if (m_utf8 && isPlainLine(value)) {
+    const auto size = static_cast<std::size_t>(value.size());
+    if (room() < size) makeRoom(size);
+    m_at = std::transform(value.begin(), value.end(), m_at, [](QChar c) { return c.toLatin1(); });
+  } else {
+    append(encoded(oddxf::oneLine(value)));
+  }
   append("\n");
 }
 
@@ -160,6 +187,13 @@ void OdDbDxfOut::real(int groupCode, double value) {
 }
 
 void OdDbDxfOut::angle(int groupCode, double radians) {
+  RecentAngle& recent = m_recentAngles[static_cast<std::size_t>(groupCode) % kRecentAngles];
+  // Zero has a sign, which does not tell it from zero.
+  if (recent.radians != radians || radians == 0) recent = {radians, degreesOf(radians)};
+  real(groupCode, recent.degrees);
+}
+
+double OdDbDxfOut::degreesOf(double radians) {
   // Of the degrees that give these radians, those with the fewest digits stood in the file.
   const double degrees = radians * (180 / kOdaPi);
   char digits[40];
@@ -169,8 +203,8 @@ void OdDbDxfOut::angle(int groupCode, double radians) {
   std::from_chars(digits, written.ptr, rounded);
   for (const double candidate :
        {rounded, degrees, std::nextafter(degrees, 0), std::nextafter(degrees, 2 * degrees)})
-    if (candidate * (kOdaPi / 180) == radians) return real(groupCode, candidate);
-  real(groupCode, degrees);
+    if (candidate * (kOdaPi / 180) == radians) return candidate;
+  return degrees;
 }
 
 void OdDbDxfOut::point(int groupCode, const OdGePoint3d& p) {

@@ -17,6 +17,9 @@ class OdDbDxfOut {
   using Sink = std::function<void(const QByteArray&)>;
 
   OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version, Sink sink);
+  /// Collects the bytes; see collected().
+  OdDbDxfOut(const OdDbDatabase& database, OdDb::DwgVersion version)
+    : OdDbDxfOut(database, version, nullptr) {}
 
   OdDb::DwgVersion version() const { return m_version; }
   const OdDbDatabase& database() const { return m_database; }
@@ -59,12 +62,24 @@ class OdDbDxfOut {
   void section(const char* name);
   void endSection() { raw(0, "ENDSEC"); }
   void flush();
+  /// Bytes that were not handed on so far: all, if nobody takes them as they come.
+  std::string_view collected() const {
+    return {m_buffer.get(), static_cast<std::size_t>(m_at - m_buffer.get())};
+  }
+  void clearCollected() { m_at = m_buffer.get(); }
+  /// Hands on what another one has collected.
+  void addCollected(const OdDbDxfOut& other);
 
  private:
   /// Room for a short tag, to be filled from m_at on.
-  void ensureRoom();
+  void ensureRoom() {
+    if (room() < kShortTag) makeRoom(kShortTag);
+  }
+  std::size_t room() const { return static_cast<std::size_t>(m_buffer.get() + m_size - m_at); }
+  void makeRoom(std::size_t size);
   void code(int code);
   void append(std::string_view bytes);
+  static double degreesOf(double radians);
   void endSubclass();
   /// One line's text in the encoding of the file; what its code page lacks is escaped.
   std::string encoded(QStringView line);
@@ -74,6 +89,9 @@ class OdDbDxfOut {
   const OdDbDatabase& m_database;
   OdDb::DwgVersion m_version;
   Sink m_sink;
+  // No code and no number is longer, line ends included.
+  static constexpr std::size_t kShortTag = 64;
+  std::size_t m_size; ///< of the buffer
   std::unique_ptr<char[]> m_buffer;
   char* m_at; ///< behind the last byte in the buffer
   // Neighbours mostly share their records, whose names need not be encoded again.
@@ -83,6 +101,12 @@ class OdDbDxfOut {
   };
   static constexpr std::size_t kRecentNames = 16;
   RecentName m_recentNames[kRecentNames];
+  // And so they do their angles, for which the shortest degrees are costly to find.
+  struct RecentAngle {
+    double radians = 0, degrees = 0;
+  };
+  static constexpr std::size_t kRecentAngles = 4;
+  RecentAngle m_recentAngles[kRecentAngles];
   QStringEncoder m_encoder;
   QStringDecoder m_keptDecoder;
   QStringDecoder m_codePageDecoder;

@@ -133,6 +133,8 @@ std::optional<double> oddxf::realOf(std::string_view text) {
 }
 
 OdString oddxf::oneLine(const OdString& text) {
+  if (std::none_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x20; }))
+    return text;
   OdString result = text;
   for (qsizetype i = 0; i < result.size(); ++i)
     if (const ushort c = result[i].unicode(); c < 0x20)
@@ -175,24 +177,34 @@ char* putShort(char* to, double value) {
   const double size = std::abs(value);
   if (!(size < kLargest) || (size == 0 && std::signbit(value))) return nullptr;
   const auto millionths = static_cast<std::uint64_t>(size * kMillion + 0.5);
-  if (static_cast<double>(millionths) / kMillion != size) return nullptr;
-  const auto whole = static_cast<std::uint32_t>(millionths / 1'000'000);
-  auto rest = static_cast<std::uint32_t>(millionths % 1'000'000);
+  if (static_cast<double>(static_cast<std::int64_t>(millionths)) / kMillion != size) return nullptr;
+  auto whole = static_cast<std::uint32_t>(millionths / 1'000'000);
+  const auto rest = static_cast<std::uint32_t>(millionths % 1'000'000);
+  *to = '-';
+  to += value < 0 ? 1 : 0;
   // The whole part has up to nine digits.
-  char digits[32];
-  char* const point = digits + 10;
-  *point = '.';
-  for (int i = 5; i > 0; i -= 2) {
-    std::memcpy(point + i, &kDigitPairs[2 * (rest % 100)], 2);
-    rest /= 100;
+  if (whole < 10) {
+    *to++ = static_cast<char>('0' + whole);
+  } else {
+    const int digits = whole < 100 ? 2 : whole < 1000 ? 3 : whole < 10'000 ? 4 : 9;
+    if (digits < 9) {
+      digitsBefore(to + digits, whole);
+      to += digits;
+    } else {
+      char all[12];
+      const char* const begin = digitsBefore(std::end(all), whole);
+      to = std::copy(begin, static_cast<const char*>(std::end(all)), to);
+    }
   }
-  char* end = point + 7;
-  while (end[-1] == '0' && end > point + 2) --end;
-  char* begin = digitsBefore(point, whole);
-  if (value < 0) *--begin = '-';
-  // A fixed number of bytes is copied faster than the right one.
-  std::memcpy(to, begin, 17);
-  return to + (end - begin);
+  *to++ = '.';
+  std::memcpy(to, &kDigitPairs[2 * (rest / 10'000)], 2);
+  std::memcpy(to + 2, &kDigitPairs[2 * (rest / 100 % 100)], 2);
+  std::memcpy(to + 4, &kDigitPairs[2 * (rest % 100)], 2);
+  char* end = to + 6;
+  // Most have three.
+  if (rest % 1000 == 0) end -= 3;
+  while (end[-1] == '0' && end > to + 1) --end;
+  return end;
 }
 
 } // namespace
