@@ -52,6 +52,8 @@ class IHostWindowServices : public IKVUnknown {
   static constexpr KVInterfaceId kId = "IHostWindowServices";
 
   virtual QWidget* mainWindow() = 0;
+  /// Gives the keyboard to the drawing, whose command line takes what is typed.
+  virtual void focusDrawing() = 0;
 
   /// A pane with `content`, which it owns from now on. `name` names its place among the host's
   /// settings; at the first start it stands docked at the right side. It comes hidden. `events` is

@@ -6,6 +6,7 @@
 namespace tc {
 
 static std::unique_ptr<ITcUiPaletteSet> g_window;
+static PaletteSetMaker g_maker = nullptr;
 static bool g_isShown = false;
 
 ITcUiPaletteSet* ITcUiPaletteSet::instance() { return g_window.get(); }
@@ -15,8 +16,12 @@ void ITcUiPaletteSet::setInstance(std::unique_ptr<ITcUiPaletteSet> window) {
 }
 
 std::unique_ptr<ITcUiPaletteSet> makePaletteSet() {
+  if (g_maker)
+    if (std::unique_ptr<ITcUiPaletteSet> window = g_maker()) return window;
   return std::make_unique<WindowlessPaletteSet>();
 }
+
+void setPaletteSetMaker(PaletteSetMaker maker) { g_maker = maker; }
 
 bool isPaletteSetShown() { return g_isShown; }
 

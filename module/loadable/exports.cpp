@@ -2,6 +2,7 @@
 #include "module/entry/static_commands.h"
 #include "module/entry/tool_palette_module.h"
 #include "module/export.h"
+#include "ui/window/palette_window.h"
 
 extern "C" {
 
@@ -19,5 +20,6 @@ TC_API void odrxGetAPIVersion(unsigned* major, unsigned* majorMinor, unsigned* m
 
 } // extern "C"
 
-// The commands are there before anything else of the module runs.
+// The commands are there before anything else of the module runs, and so is the way to a window.
 static const bool g_commandsAreRegistered = (tc::registerStaticCommands(), true);
+static const bool g_windowIsKnown = (tc::setPaletteSetMaker(&tc::TcUiPaletteSet::create), true);

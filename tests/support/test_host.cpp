@@ -37,6 +37,7 @@ TestHost::TestHost() {
 }
 
 void TestHost::reset() {
+  m_offered.clear();
   m_off.clear();
   documents.closeAll();
   events.reactors.clear();
@@ -79,6 +80,11 @@ bool TestHost::runCommand(const OdString& name) {
 bool TestHost::queryInterface(KVInterfaceId id, void** out) {
   *out = nullptr;
   if (isOff(id)) return false;
+  if (const auto offer = m_offered.find(id); offer != m_offered.end()) {
+    offer->second.owner->addRef();
+    *out = offer->second.asInterface;
+    return true;
+  }
   // A service is given as the interface that was asked for: the void pointer must be exactly that.
   const auto give = [&]<class T>(T* service) {
     if (id != T::kId) return false;

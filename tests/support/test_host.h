@@ -9,6 +9,8 @@
 
 #include <QSet>
 
+#include <map>
+
 namespace testhost {
 
 /// Names of what can be switched off besides the interfaces, which go by their kId.
@@ -66,6 +68,12 @@ class TestHost : public IHostServices {
   TestClipboard clipboard;
   TestSelection selection;
 
+  /// Adds a service that is not among those above, until reset().
+  template <class T>
+  void offer(T* service) {
+    m_offered[T::kId] = {KVPtr<IKVUnknown>(service), service};
+  }
+
   /// Registered commands by name; registering a name anew replaces it.
   QMap<OdString, RegisteredCommand> commands;
   /// Command factories that nobody has released yet.
@@ -93,6 +101,11 @@ class TestHost : public IHostServices {
  private:
   TestHost();
 
+  struct Offer {
+    KVPtr<IKVUnknown> owner;
+    void* asInterface = nullptr;
+  };
+  std::map<KVInterfaceId, Offer> m_offered;
   QSet<QByteArray> m_off;
 };
 

@@ -1,0 +1,301 @@
+#include "palette_window_fixture.h"
+
+#include <QFile>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace {
+
+using namespace tc;
+using testhost::host;
+using PaletteWindow = testhost::PaletteWindowFixture;
+
+QStringList words(QMenu* menu) {
+  QStringList result;
+  for (const QAction* action : menu->actions())
+    result << action->text() + u' ' + QString::number(action->data().toInt());
+  return result;
+}
+
+TEST_F(PaletteWindow, AFirstStartShowsTheTreeWithSizeAndViewDisabled) {
+  TcUiPaletteSet& window = open();
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(window.activeView(), 1);
+  EXPECT_GE(frame().sizes()[0], 200);
+  EXPECT_EQ(frame().sizes()[1], 0);
+  EXPECT_FALSE(frame().bothPanesVisible());
+  EXPECT_TRUE(button(0).isEnabled());
+  EXPECT_FALSE(button(1).isEnabled());
+  EXPECT_FALSE(button(2).isEnabled());
+  EXPECT_TRUE(button(3).isEnabled());
+}
+
+TEST_F(PaletteWindow, AStoredListShowsInFullWidth) {
+  store().values[QStringLiteral("ActiveView")] = OdVariant(0);
+  TcUiPaletteSet& window = open();
+  EXPECT_EQ(window.activeView(), 0);
+  EXPECT_EQ(frame().sizes()[0], 0);
+  EXPECT_GE(frame().sizes()[1], 200);
+  EXPECT_FALSE(frame().bothPanesVisible());
+  EXPECT_TRUE(button(1).isEnabled());
+  EXPECT_TRUE(button(2).isEnabled());
+}
+
+TEST_F(PaletteWindow, TogglingIsStoredAtOnceAndShownAfterARestart) {
+  open().dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(store().values[QStringLiteral("ActiveView")].toInt32(), 0);
+  EXPECT_EQ(frame().sizes()[0], 0);
+  EXPECT_EQ(restart().activeView(), 0);
+  ITcUiPaletteSet::instance()->dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(store().values[QStringLiteral("ActiveView")].toInt32(), 1);
+  EXPECT_EQ(frame().sizes()[1], 0);
+}
+
+TEST_F(PaletteWindow, AnyOtherStoredViewLeavesTheColumnsAndTogglesToTheTree) {
+  store().values[QStringLiteral("ActiveView")] = OdVariant(2);
+  TcUiPaletteSet& window = open();
+  EXPECT_TRUE(frame().bothPanesVisible());
+  EXPECT_TRUE(button(1).isEnabled()) << "the list shows as well";
+  window.setActiveView(7);
+  EXPECT_FALSE(button(1).isEnabled());
+  window.dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(window.activeView(), 1);
+}
+
+TEST_F(PaletteWindow, TheMenusHaveTheirWordsAndCommands) {
+  TcUiPaletteSet& window = open();
+  EXPECT_EQ(words(window.sizeMenu()),
+            QStringList({QStringLiteral("Small 5001"), QStringLiteral("Normal 5002"),
+                         QStringLiteral("Large 5003")}));
+  EXPECT_EQ(words(window.viewMenu()),
+            QStringList({QStringLiteral("Icons 6100"), QStringLiteral("List 6120"),
+                         QStringLiteral("De&tails 6130")}));
+}
+
+TEST_F(PaletteWindow, EveryWordIsTranslated) {
+  for (const char16_t* word :
+       {u"Icons", u"List", u"De&tails", u"Tools", u"Tool Palettes", u"Change icon size"})
+    host().translations[QString::fromUtf16(word)] = QString::fromUtf16(word) + u'!';
+  host().translations[QStringLiteral("Small|Normal|Large")] = QStringLiteral("S|M|L");
+  TcUiPaletteSet& window = open();
+  EXPECT_EQ(words(window.sizeMenu()).first(), QStringLiteral("S 5001"));
+  EXPECT_EQ(words(window.viewMenu()).first(), QStringLiteral("Icons! 6100"));
+  EXPECT_EQ(tree().window()->findChild<QTabWidget*>()->tabText(0), QStringLiteral("Tools!"));
+  EXPECT_EQ(windows->pane->frame->windowTitle(), QStringLiteral("Tool Palettes!"));
+  EXPECT_EQ(button(1).toolTip(), QStringLiteral("Change icon size!"));
+}
+
+struct SizeCase {
+  int command;
+  int value;
+  const char* word;
+};
+
+TEST_F(PaletteWindow, ASizeGoesToThePaletteTheManagerTheListAndTheMark) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")});
+  TcUiPaletteSet& window = open();
+  select(*palette);
+  for (const SizeCase& c : {SizeCase{5001, 1, "Small"}, {5002, 3, "Normal"}, {5003, 4, "Large"}}) {
+    EXPECT_TRUE(window.dispatchCommand(c.command));
+    EXPECT_EQ(palette->getPreviewSize(), c.value);
+    EXPECT_EQ(manager().viewSetting(), static_cast<std::uint32_t>(c.value));
+    EXPECT_EQ(checked(window.sizeMenu()), QStringList(QString::fromLatin1(c.word)));
+    const auto picture = list().rows().index(0, 0).data(Qt::DecorationRole).value<QPixmap>();
+    EXPECT_EQ(picture.width(), TcUiItemPictures::pixelsOf(c.value));
+  }
+}
+
+TEST_F(PaletteWindow, ASizeWithAGroupSelectedMovesTheMarkAndChangesNoPalette) {
+  const OdTcGroupPtr group = addGroup(QStringLiteral("Plans"));
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {}, group);
+  palette->setPreviewSize(3);
+  TcUiPaletteSet& window = open();
+  select(*group);
+  list().clear();
+  window.dispatchCommand(kCommandLargeIcons);
+  EXPECT_EQ(palette->getPreviewSize(), 3);
+  EXPECT_EQ(manager().viewSetting(), 4u);
+  EXPECT_EQ(checked(window.sizeMenu()), QStringList(QStringLiteral("Large")));
+  EXPECT_EQ(listed(), QStringList(QStringLiteral("Doors"))) << "the list is filled anew";
+}
+
+TEST_F(PaletteWindow, AViewStyleGoesToThePaletteAndTheListAndNotToTheManager) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")});
+  TcUiPaletteSet& window = open();
+  select(*palette);
+  const std::uint32_t size = manager().viewSetting();
+  const std::pair<int, int> cases[] = {{6120, 3}, {6130, 1}, {6100, 0}, {6110, 2}};
+  const QStringList marks[] = {
+      {QStringLiteral("List")}, {QStringLiteral("De&tails")}, {QStringLiteral("Icons")}, {}};
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    EXPECT_TRUE(window.dispatchCommand(cases[i].first));
+    EXPECT_EQ(palette->getPreviewStyle(), cases[i].second);
+    EXPECT_EQ(list().viewStyle(), cases[i].second);
+    EXPECT_EQ(checked(window.viewMenu()), marks[i]) << cases[i].first;
+    EXPECT_EQ(manager().viewSetting(), size);
+  }
+}
+
+TEST_F(PaletteWindow, OtherCommandsAreNotItsOwn) {
+  TcUiPaletteSet& window = open();
+  EXPECT_TRUE(window.dispatchCommand(5000));
+  for (const int command : {0, 5004, 6140, 40007, 40008, 40011})
+    EXPECT_FALSE(window.dispatchCommand(command)) << command;
+}
+
+TEST_F(PaletteWindow, HelpOpensItsPage) {
+  open().dispatchCommand(kCommandHelp);
+  EXPECT_EQ(help->topics, QStringList(QStringLiteral("IDH_ToolPalettes")));
+  host().switchOff(IHelpService::kId);
+  EXPECT_TRUE(ITcUiPaletteSet::instance()->dispatchCommand(kCommandHelp));
+}
+
+TEST_F(PaletteWindow, OpensTheCatalogOfAFolder) {
+  QDir(folder.path()).mkpath(QStringLiteral("two"));
+  QFile file(folder.filePath(QStringLiteral("two/DrfTcCatalog.dtc")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(
+      "<Catalog><ItemID idValue=\"{C}\"/><Properties><ItemName>Second</ItemName></Properties>"
+      "<Palettes/><Groups/></Catalog>");
+  file.close();
+  TcUiPaletteSet& window = open();
+  window.dispatchCommand(kCommandOpenCatalog);
+  EXPECT_EQ(windows->folderTitle, QStringLiteral("Select Tool Palette folder"));
+  EXPECT_EQ(tree().catalogs().rowCount(), 1) << "nothing was chosen";
+  windows->chosenFolder = folder.filePath(QStringLiteral("two"));
+  window.dispatchCommand(kCommandOpenCatalog);
+  EXPECT_EQ(names(tree().catalogs()),
+            QStringList({QStringLiteral("Office"), QStringLiteral("Second")}));
+  EXPECT_TRUE(host().messages.boxes.empty());
+}
+
+TEST_F(PaletteWindow, AFolderWithTheFileUnderAnotherNameOrCaseIsRefused) {
+  QDir(folder.path()).mkpath(QStringLiteral("two/DrfTcCatalog.dtc"));
+  QFile file(folder.filePath(QStringLiteral("two/drftccatalog.dtc")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("<Catalog/>");
+  file.close();
+  windows->chosenFolder = folder.filePath(QStringLiteral("two"));
+  open().dispatchCommand(kCommandOpenCatalog);
+  ASSERT_EQ(host().messages.boxes.size(), 1u);
+  EXPECT_EQ(host().messages.boxes.front().text,
+            QStringLiteral("Cannot find catalog in the specified folder."));
+  EXPECT_EQ(tree().catalogs().rowCount(), 1);
+}
+
+TEST_F(PaletteWindow, ACollapsedWindowIsBroughtBack) {
+  open();
+  windows->pane->frame->setMinimumSize(0, 0);
+  tree().window()->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  QWidget* const content = button(0).parentWidget()->parentWidget();
+  content->setMinimumSize(0, 0);
+  content->resize(4, 4);
+  settle();
+  EXPECT_EQ(windows->pane->corner, QPoint(10, 10));
+  EXPECT_EQ(windows->pane->frame->size(), QSize(300, 400));
+  content->resize(4, 300);
+  EXPECT_EQ(content->width(), 4) << "one small side is the user's own wish";
+}
+
+TEST_F(PaletteWindow, TheTabsStandBelowTheStripWith23Less) {
+  open();
+  QTabWidget* const tabs = tree().window()->findChild<QTabWidget*>();
+  QWidget* const content = tabs->parentWidget();
+  EXPECT_EQ(tabs->y(), TcUiToolbar::kHeight);
+  EXPECT_EQ(tabs->width(), content->width());
+  EXPECT_EQ(tabs->height(), content->height() - 23);
+}
+
+TEST_F(PaletteWindow, ClosingForgetsItForTheNextStartAndTellsEverybody) {
+  setPaletteSetShown(true);
+  TcUiPaletteSet& window = open();
+  testhost::TestProfile& startup = host().application.store->made(QStringLiteral("Startup"));
+  ASSERT_TRUE(startup.values.contains(QStringLiteral("ToolPalettes")));
+  window.close();
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_FALSE(isPaletteSetShown());
+  EXPECT_FALSE(startup.values.contains(QStringLiteral("ToolPalettes")));
+  ASSERT_EQ(windows->broadcasts.size(), 1);
+  EXPECT_EQ(windows->broadcasts[0].first, &windows->main);
+  EXPECT_EQ(windows->broadcasts[0].second,
+            windows->messages[QStringLiteral("WM_TC_PALETTE_CLOSED")]);
+}
+
+TEST_F(PaletteWindow, TheMessageToCustomizeIsAnswered) {
+  open();
+  QWidget* const content = button(0).parentWidget()->parentWidget();
+  QEvent event(static_cast<QEvent::Type>(windows->messages[QStringLiteral("WM_TC_CUSTOMIZE")]));
+  EXPECT_TRUE(QCoreApplication::sendEvent(content, &event));
+}
+
+TEST_F(PaletteWindow, PartsAreFoundByTheirIdentity) {
+  TcUiPaletteSet& window = open();
+  for (const std::string_view id :
+       {ITcUiPaletteSet::kId, ITcUiMenuBuilder::kId, ITcUiFrameWnd::kId, ITcUiTreeView::kId,
+        ITcUiListView::kId, ITcUiStateSaver::kId, ITcUiSelection::kId}) {
+    void* found = nullptr;
+    EXPECT_TRUE(window.queryInterface(id, &found)) << id;
+    EXPECT_NE(found, nullptr) << id;
+  }
+  void* found = &window;
+  EXPECT_FALSE(window.queryInterface("ITcUiNothing", &found));
+  EXPECT_EQ(found, nullptr);
+}
+
+TEST_F(PaletteWindow, ItsStateComesBackAtTheNextStart) {
+  const OdTcGroupPtr group = addGroup(QStringLiteral("Plans"));
+  const OdTcToolPalettePtr palette =
+      addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")}, group);
+  TcUiPaletteSet& window = open();
+  tree().selectById(palette->id());
+  tree().expand(tree().catalogs().indexOf(group));
+  window.dispatchCommand(kCommandToggleView);
+  window.dispatchCommand(kCommandDetailsStyle);
+  window.dispatchCommand(kCommandLargeIcons);
+  restart();
+  EXPECT_EQ(store().values[QStringLiteral("ExpandedItems")].toString(),
+            catalog->id() + u'|' + group->id());
+  EXPECT_EQ(tree().selectedItem(), palette.get());
+  EXPECT_TRUE(tree().isExpanded(tree().catalogs().indexOf(group)));
+  EXPECT_EQ(list().viewStyle(), kDetailsStyle);
+  EXPECT_EQ(manager().viewSetting(), 4u);
+  EXPECT_EQ(listed(), QStringList(QStringLiteral("Door")));
+}
+
+TEST_F(PaletteWindow, StoredColumnWidthsAreTaken) {
+  store().values[QStringLiteral("ActiveView")] = OdVariant(2);
+  store().values[QStringLiteral("Col0")] = OdVariant(100);
+  store().values[QStringLiteral("Col1")] = OdVariant(300);
+  open();
+  EXPECT_LT(frame().sizes()[0] * 2, frame().sizes()[1]);
+  restart();
+  EXPECT_TRUE(store().values.contains(QStringLiteral("Col0")));
+}
+
+TEST_F(PaletteWindow, ARemovedCatalogLeavesBothViews) {
+  addPalette(QStringLiteral("Doors"));
+  const OdTcCatalogPtr second = openCatalog(QStringLiteral("two"), QStringLiteral("Second"));
+  TcUiPaletteSet& window = open();
+  select(*catalog);
+  EXPECT_EQ(listed(), QStringList(QStringLiteral("Doors")));
+  manager().removeCatalog(catalog->path());
+  EXPECT_EQ(names(tree().catalogs()), QStringList(QStringLiteral("Second")));
+  window.refresh();
+}
+
+TEST_F(PaletteWindow, TheHostMayTakeTheWindowAwayFirst) {
+  TcUiPaletteSet& window = open();
+  delete windows->pane->frame.data();
+  EXPECT_EQ(window.selectedItem(), nullptr);
+  EXPECT_TRUE(window.dispatchCommand(kCommandToggleView));
+  window.refresh();
+}
+
+TEST_F(PaletteWindow, WithoutWindowsThereIsNone) {
+  host().switchOff(IHostWindowServices::kId);
+  EXPECT_EQ(TcUiPaletteSet::create(), nullptr);
+}
+
+} // namespace

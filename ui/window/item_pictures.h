@@ -1,0 +1,39 @@
+// The pictures of catalog items for the views.
+#pragma once
+
+#include "module/catalog_item.h"
+
+#include <QCache>
+#include <QColor>
+#include <QPixmap>
+
+#include <cstdint>
+
+namespace tc {
+
+/// Gives each item its picture and keeps those that were asked for last, up to 32 MB. Nothing is
+/// decoded before somebody asks.
+class TcUiItemPictures {
+ public:
+  TcUiItemPictures();
+
+  /// The pixels of an icon size 1, 3 or 4: 16, 32 or 64; any other counts as 16.
+  static int pixelsOf(std::int32_t size);
+
+  /// Catalogs, groups and palettes have pictures of their kind; a tool shows its own, and one for
+  /// unknown kinds if it has none. `ratio` is the screen's ratio of device to logical pixels.
+  QPixmap picture(const OdTcCatalogItem& item, std::int32_t size, qreal ratio);
+  /// Has the item's pictures looked up anew the next time.
+  void forget(const OdTcCatalogItem& item);
+  /// How many are kept.
+  qsizetype count() const { return m_pixmaps.size(); }
+  void forgetAll() { m_pixmaps.clear(); }
+  /// The colour of lines in the pictures of kinds.
+  void setInk(const QColor& ink);
+
+ private:
+  QCache<OdString, QPixmap> m_pixmaps;
+  QColor m_ink{Qt::black};
+};
+
+} // namespace tc
