@@ -80,7 +80,13 @@ TEST(ExportedSymbolsTest, TheModuleSharesTheFrameAndTheDrawingWithItsHost) {
   const QString needed = outputOf(QStringLiteral("readelf"), {QStringLiteral("-d"), kLibrary});
   EXPECT_TRUE(needed.contains(QStringLiteral("libodframe.so")));
   EXPECT_TRUE(needed.contains(QStringLiteral("liboddrawing.so")));
-  EXPECT_FALSE(needed.contains(QStringLiteral("Qt6Widgets")));
+}
+
+TEST(ExportedSymbolsTest, TheCatalogToolNeedsNoWindows) {
+  const QString tool = outputOf(QStringLiteral("readelf"),
+                                {QStringLiteral("-d"), QStringLiteral(BINARY_DIR "/tpal")});
+  EXPECT_TRUE(tool.contains(QStringLiteral("libodframe.so")));
+  EXPECT_FALSE(tool.contains(QStringLiteral("Qt6Widgets")));
 }
 
 } // namespace
