@@ -2,46 +2,18 @@
 
 #include "drafton/batch/batch_console.h"
 #include "drafton/batch/script_source.h"
-#include "drafton/engine/hatch_patterns.h"
-#include "drafton/icons/icon_service.h"
-#include "drafton/previews/preview_service.h"
+#include "drafton/program/program_setup.h"
 #include "frame/file_path.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace drafton {
 namespace {
 
-constexpr const char16_t* kModule = u"ToolPaletteManager";
-
 void printTo(std::FILE* file, const OdString& text) {
   const QByteArray bytes = text.toUtf8();
   std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
-}
-
-OdString defaultProfile() {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-         QLatin1String("/drafton/drafton.ini");
-}
-
-/// Modules get pictures of drawings and icons of commands; patterns and commands are found as typed
-/// ones are.
-void offerPictures(Engine& engine) {
-  const auto findPattern = [&engine](const OdString& name) -> std::optional<OdHatchPattern> {
-    OdVariant file;
-    engine.hatchSettings()->get(QStringLiteral("hatch_pattern_file"), file);
-    auto found = findHatchPattern(engine, engine.documents().current(), name, file.toString());
-    if (!found) return std::nullopt;
-    return std::move(found->pattern);
-  };
-  engine.services().offer(IHostPreviewService::kId, kvMake<PreviewService>(findPattern).get());
-  const auto findCommand = [&engine](const OdString& word) {
-    const RegisteredCommandPtr found = engine.commands().findTyped(word);
-    return found ? found->name : word;
-  };
-  engine.services().offer(IHostIconService::kId, kvMake<IconService>(findCommand).get());
 }
 
 /// One run from its options to its exit code.
@@ -177,7 +149,7 @@ int BatchRun::run() {
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
   offerPictures(engine);
   if (!openDrawing(engine)) return kExitDrawing;
-  engine.loadModule(OdString::fromUtf16(kModule));
+  loadToolPalettes(engine);
   engine.runStartupCommands();
   m_console.setTroubleHandler([&](const OdString& text) { script.fail(text); });
   const int code = runScript(engine, script);

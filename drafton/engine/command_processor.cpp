@@ -349,6 +349,7 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
   frame->task = {}; // what the command holds goes before its changes are taken back
   const bool isOutermost = m_frames.empty();
   closeUndoStep(*frame, outcome);
+  if (isOutermost && m_document) m_document->chosen().clear();
   if (frame->succeeded) *frame->succeeded = outcome == Outcome::kEnded;
   if (outcome == Outcome::kFailed) trouble(message);
 

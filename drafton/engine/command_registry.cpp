@@ -11,54 +11,30 @@ struct Alias {
 };
 
 constexpr Alias kAliases[] = {
-    {u"A", u"ARC"},
-    {u"ADDSEL", u"ADDSELECTED"},
-    {u"ATT", u"ATTDEF"},
-    {u"BH", u"BHATCH"},
-    {u"BO", u"BOUNDARY"},
-    {u"C", u"CIRCLE"},
-    {u"CH", u"CHPROP"},
-    {u"CLOSE", u"CloseDocument"},
-    {u"CO", u"COPY"},
-    {u"COL", u"COLOR"},
-    {u"CP", u"COPY"},
-    {u"D", u"DIMSTYLE"},
-    {u"DAL", u"DIMALIGNED"},
-    {u"DDI", u"DIMDIAMETER"},
-    {u"DLI", u"DIMLINEAR"},
-    {u"DO", u"DONUT"},
-    {u"DRA", u"DIMRADIUS"},
-    {u"DT", u"TEXT"},
-    {u"E", u"ERASE"},
-    {u"EL", u"ELLIPSE"},
-    {u"EX", u"EXTEND"},
-    {u"H", u"BHATCH"},
-    {u"L", u"LINE"},
-    {u"LA", u"LAYER"},
-    {u"LEAD", u"LEADER"},
-    {u"LT", u"LINETYPE"},
-    {u"LW", u"LWEIGHT"},
-    {u"M", u"MOVE"},
-    {u"MA", u"MATCHPROP"},
-    {u"MI", u"MIRROR"},
-    {u"MT", u"MTEXT"},
-    {u"NEW", u"NewDocument"},
-    {u"O", u"OFFSET"},
-    {u"OPEN", u"OpenDocument"},
-    {u"PL", u"PLINE"},
-    {u"PO", u"POINT"},
-    {u"POL", u"POLYGON"},
-    {u"QUIT", u"Exit"},
-    {u"REC", u"RECTANG"},
-    {u"RO", u"ROTATE"},
-    {u"SC", u"SCALE"},
-    {u"SPL", u"SPLINE"},
-    {u"ST", u"STYLE"},
-    {u"T", u"TEXT"},
-    {u"TR", u"TRIM"},
-    {u"U", u"UNDO"},
-    {u"X", u"EXPLODE"},
-    {u"Z", u"ZOOM"},
+    {u"A", u"ARC"},          {u"ADDSEL", u"ADDSELECTED"},
+    {u"ATT", u"ATTDEF"},     {u"BH", u"BHATCH"},
+    {u"BO", u"BOUNDARY"},    {u"C", u"CIRCLE"},
+    {u"CH", u"CHPROP"},      {u"CLOSE", u"CloseDocument"},
+    {u"CO", u"COPY"},        {u"COL", u"COLOR"},
+    {u"CP", u"COPY"},        {u"D", u"DIMSTYLE"},
+    {u"DAL", u"DIMALIGNED"}, {u"DDI", u"DIMDIAMETER"},
+    {u"DLI", u"DIMLINEAR"},  {u"DO", u"DONUT"},
+    {u"DRA", u"DIMRADIUS"},  {u"DT", u"TEXT"},
+    {u"E", u"ERASE"},        {u"EL", u"ELLIPSE"},
+    {u"EX", u"EXTEND"},      {u"H", u"BHATCH"},
+    {u"L", u"LINE"},         {u"LA", u"LAYER"},
+    {u"LEAD", u"LEADER"},    {u"LT", u"LINETYPE"},
+    {u"LW", u"LWEIGHT"},     {u"M", u"MOVE"},
+    {u"MA", u"MATCHPROP"},   {u"MI", u"MIRROR"},
+    {u"MT", u"MTEXT"},       {u"NEW", u"NewDocument"},
+    {u"O", u"OFFSET"},       {u"OPEN", u"OpenDocument"},
+    {u"PL", u"PLINE"},       {u"PO", u"POINT"},
+    {u"POL", u"POLYGON"},    {u"QUIT", u"Exit"},
+    {u"REC", u"RECTANG"},    {u"RO", u"ROTATE"},
+    {u"SC", u"SCALE"},       {u"SPL", u"SPLINE"},
+    {u"ST", u"STYLE"},       {u"T", u"TEXT"},
+    {u"TR", u"TRIM"},        {u"U", u"UNDO"},
+    {u"X", u"EXPLODE"},      {u"Z", u"ZOOM"},
 };
 
 } // namespace
@@ -93,6 +69,14 @@ RegisteredCommandPtr CommandRegistry::findTyped(const OdString& word) const {
     if (name.compare(QStringView(row.alias), Qt::CaseInsensitive) == 0)
       return find(OdString::fromUtf16(row.command));
   return nullptr;
+}
+
+QStringList CommandRegistry::names() const {
+  QStringList names;
+  for (const RegisteredCommandPtr& command : m_byName)
+    if (!command->name.startsWith(QLatin1String("__"))) names << command->name;
+  names.sort(Qt::CaseInsensitive);
+  return names;
 }
 
 QStringList CommandRegistry::namesIn(const OdString& group) const {

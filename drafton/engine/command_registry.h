@@ -40,6 +40,8 @@ class CommandRegistry {
   /// As find(), for a typed word: it may be an alias ("L"), and the signs `_`, `.` and `'` before
   /// the name are passed over unless they belong to it.
   RegisteredCommandPtr findTyped(const OdString& word) const;
+  /// The names of all commands, sorted, without those that only modules type.
+  QStringList names() const;
   /// The names in a group, as registered, in order of registration.
   QStringList namesIn(const OdString& group) const;
   /// Removes what one owner registered.

@@ -30,8 +30,8 @@ class InputSource {
   /// Waits until more has been typed (a script gives its next line, a window runs a local event
   /// loop). False if nothing will come any more; what waits is then cancelled.
   virtual bool waitForInput() = 0;
-  /// Text was queued while nothing was running: a window comes back to Engine::run() from its event
-  /// loop.
+  /// A module sent text to a document: a window goes on from its event loop, with Engine::run() or
+  /// by ending its wait.
   virtual void inputQueued() {}
 };
 

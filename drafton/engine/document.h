@@ -48,6 +48,9 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   double elevation() const;
   OdGePoint3d lastPoint() const { return m_lastPoint; }
   void setLastPoint(const OdGePoint3d& point) { m_lastPoint = point; }
+  /// The side of a pixel in drawing units where a window shows the drawing; 0 without one.
+  double pixelSize() const { return m_pixelSize; }
+  void setPixelSize(double units) { m_pixelSize = units; }
   /// The values of variables that belong to the document and not to its drawing.
   std::map<OdString, OdVariant>& values() { return m_values; }
   /// Entities that "Previous" chooses.
@@ -55,6 +58,8 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   /// Entities that were chosen while no command ran; the next command that asks for entities takes
   /// them.
   std::vector<OdDbObjectId>& preselection() { return m_preselection; }
+  /// What the running commands have chosen, for a window to show; empty again when they end.
+  std::vector<OdDbObjectId>& chosen() { return m_chosen; }
 
   /// Lets associative hatches follow what the command changed whose step is about to end.
   void updateHatches();
@@ -74,8 +79,9 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   HostVariables m_variables;
   HatchKeeper m_hatchKeeper;
   std::map<OdString, OdVariant> m_values;
-  std::vector<OdDbObjectId> m_previousSelection, m_preselection;
+  std::vector<OdDbObjectId> m_previousSelection, m_preselection, m_chosen;
   OdGePoint3d m_lastPoint;
+  double m_pixelSize = 0;
   int m_locks = 0;
   std::optional<OdString> m_lockStep; ///< the name of the step that the lock opened
   bool m_isClosing = false;

@@ -97,7 +97,7 @@ CommandProcessor& Engine::currentProcessor() {
 }
 
 void Engine::textQueued() {
-  if (!m_isRunning && m_input) m_input->inputQueued();
+  if (m_input) m_input->inputQueued();
 }
 
 bool Engine::loadModule(const OdString& name) {

@@ -57,6 +57,9 @@ InputRequest::InputRequest(const PointPrompt& prompt)
                  prompt.allowEmpty || !prompt.enterText.isEmpty()) {
   m_base = prompt.base;
   m_allowText = prompt.allowText;
+  m_band = prompt.band;
+  m_picks = prompt.picks || prompt.band == RubberBand::kSelection;
+  m_pointPreview = prompt.preview;
   m_shownDefault = prompt.enterText.toString();
   if (m_keywords.words().contains(m_shownDefault)) {
     m_enterKeyword = m_shownDefault;
@@ -69,6 +72,7 @@ InputRequest::InputRequest(const PointPrompt& prompt)
 InputRequest::InputRequest(const DistancePrompt& prompt)
   : InputRequest(Kind::kDistance, prompt.text, prompt.keywords, prompt.allowEmpty) {
   m_base = prompt.base;
+  m_numberPreview = prompt.preview;
   m_range = prompt.range;
   if (!prompt.defaultValue) return;
   m_default = *prompt.defaultValue;
@@ -78,6 +82,7 @@ InputRequest::InputRequest(const DistancePrompt& prompt)
 InputRequest::InputRequest(const AnglePrompt& prompt)
   : InputRequest(Kind::kAngle, prompt.text, prompt.keywords, prompt.allowEmpty) {
   m_base = prompt.base;
+  m_numberPreview = prompt.preview;
   if (!prompt.defaultValue) return;
   m_default = *prompt.defaultValue;
   m_shownDefault = shownAngle(*prompt.defaultValue);
@@ -219,6 +224,16 @@ InputRequest::Outcome InputRequest::acceptPoint(const OdGePoint3d& point) {
   if (m_kind == Kind::kDistance) return acceptNumber(offset.length());
   if (offset.x == 0 && offset.y == 0) return refuse(translated(u"The two points must differ."));
   return acceptValue(odgeNormalAngle(std::atan2(offset.y, offset.x)));
+}
+
+PreviewShapes InputRequest::preview(const OdGePoint3d& point) const {
+  if (m_pointPreview) return m_pointPreview(point);
+  const std::optional<OdGePoint3d> from = base();
+  if (!m_numberPreview || !from) return {};
+  // As the point would be taken, but for the messages.
+  InputRequest asked = *this;
+  if (asked.acceptPoint(point) != Outcome::kAnswered) return {};
+  return m_numberPreview(std::get<double>(asked.m_value));
 }
 
 } // namespace drafton

@@ -38,6 +38,14 @@ class InputRequest {
   /// From where the window draws its rubber band.
   std::optional<OdGePoint3d> base() const { return m_firstPoint ? m_firstPoint : m_base; }
 
+  RubberBand band() const { return m_band; }
+  /// True if the point chooses entities.
+  bool picks() const { return m_picks; }
+  /// True if a point answers it.
+  bool takesPoints() const;
+  /// What the command would make of a point, had it been given; empty if it shows nothing.
+  PreviewShapes preview(const OdGePoint3d& point) const;
+
   enum class Outcome {
     kAnswered,
     kAgain, ///< not accepted: message() tells why
@@ -80,7 +88,6 @@ class InputRequest {
   Outcome acceptEmpty();
   Outcome acceptNumber(double value);
   Outcome acceptValue(Value value);
-  bool takesPoints() const;
   bool isInRange(double value) const;
 
   Kind m_kind;
@@ -92,6 +99,10 @@ class InputRequest {
   bool m_allowBlanks = false;
   bool m_allowEmpty = false;
   bool m_allowText = false;
+  RubberBand m_band = RubberBand::kLine;
+  bool m_picks = false;
+  Preview<OdGePoint3d> m_pointPreview;
+  Preview<double> m_numberPreview;
   OdString m_enterKeyword;
   Value m_default;
   OdString m_shownDefault;

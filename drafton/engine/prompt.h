@@ -3,15 +3,44 @@
 
 #include "frame/string.h"
 
-#include "drawing/geometry/geometry.h"
+#include "drawing/entities/entity.h"
 
 #include <optional>
 #include <type_traits>
+#include <vector>
 
 namespace drafton {
 
 /// The numbers that a prompt accepts. Others are answered with a message and the prompt again.
 enum class NumberRange { kAny, kNotZero, kNotNegative, kPositive };
+
+/// Entities that are shown while the user points about, and are in no drawing.
+using PreviewShapes = std::vector<OdDbEntityPtr>;
+
+/// What a command would make of an answer, for a window to show at the cursor. It refers to a
+/// callable that takes the answer's value and gives PreviewShapes: a local of the command, which
+/// lives while the prompt waits, never a temporary. Where there is no such shape it gives none.
+template <class T>
+class Preview {
+ public:
+  Preview() = default;
+  template <class Shapes>
+  requires(!std::is_same_v<Shapes, Preview>) Preview(const Shapes& shapes)
+    : m_shapes(&shapes)
+    , m_call([](const void* object, const T& value) -> PreviewShapes {
+      return (*static_cast<const Shapes*>(object))(value);
+    }) {}
+  template <class Shapes>
+  requires(!std::is_same_v<Shapes, Preview>) Preview(const Shapes&&)
+  = delete;
+
+  explicit operator bool() const { return m_call != nullptr; }
+  PreviewShapes operator()(const T& value) const { return m_call(m_shapes, value); }
+
+ private:
+  const void* m_shapes = nullptr;
+  PreviewShapes (*m_call)(const void* object, const T& value) = nullptr;
+};
 
 // Prompts hold views and plain values only: they are built inside `co_await` expressions, where the
 // compiler's treatment of temporaries with a destructor is not to be relied on. The texts are
@@ -22,6 +51,13 @@ enum class NumberRange { kAny, kNotZero, kNotNegative, kPositive };
 // `keywords` are separated by blanks; the capitals of each are its abbreviation ("Close Undo",
 // "eXit", "2P 3P"). Empty input (Enter) gives the default if there is one, else an empty answer if
 // `allowEmpty`, else a message and the prompt again.
+
+/// How a window joins a prompt's base with the cursor.
+enum class RubberBand {
+  kLine,
+  kBox,       ///< they are corners
+  kSelection, ///< corners of a box that chooses: the direction says how
+};
 
 struct PointPrompt {
   QStringView text;
@@ -35,6 +71,11 @@ struct PointPrompt {
   QStringView enterText = {};
   /// Words that are neither a keyword nor a point are an answer too.
   bool allowText = false;
+  RubberBand band = RubberBand::kLine;
+  /// The point chooses an entity: a window shows which, and leaves object snaps out.
+  bool picks = false;
+  /// Of the point.
+  Preview<OdGePoint3d> preview = {};
 };
 
 /// A number, or a point whose distance from `base` counts (without a base, two points).
@@ -45,6 +86,8 @@ struct DistancePrompt {
   std::optional<double> defaultValue = {};
   NumberRange range = NumberRange::kAny;
   bool allowEmpty = false;
+  /// Of the distance.
+  Preview<double> preview = {};
 };
 
 /// Degrees, or a point seen from `base` (without a base, two points). Default and answer are in
@@ -55,6 +98,8 @@ struct AnglePrompt {
   std::optional<OdGePoint3d> base = {};
   std::optional<double> defaultValue = {};
   bool allowEmpty = false;
+  /// Of the angle in radians.
+  Preview<double> preview = {};
 };
 
 struct IntegerPrompt {

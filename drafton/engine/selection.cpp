@@ -37,8 +37,8 @@ constexpr LineWay kLineWays[] = {
 
 Task<Selection> askBox(CommandContext& context, const SelectionPicker& picker, OdGePoint3d first,
                        BoxWay way) {
-  const Answer<OdGePoint3d> second =
-      co_await context.input().point({.text = u"Specify opposite corner", .base = first});
+  const Answer<OdGePoint3d> second = co_await context.input().point(
+      {.text = u"Specify opposite corner", .base = first, .band = RubberBand::kSelection});
   const SelectionRegion window = SelectionRegion::window(first, second.value);
   const bool meeting =
       way.how == BoxWay::kMeeting || (way.how == BoxWay::kByDirection && second.value.x < first.x);
@@ -155,6 +155,7 @@ Task<Selection> selectObjects(CommandContext& context, QStringView prompt) {
   if (const Selection before = takePreselection(context); !before.empty()) {
     context.print(translated(u"%1 found").arg(before.size()));
     remember(context, before);
+    context.document().chosen() = before;
     co_return before;
   }
   SelectionPicker picker(context.document());
@@ -164,12 +165,14 @@ Task<Selection> selectObjects(CommandContext& context, QStringView prompt) {
     const Answer<OdGePoint3d> answer = co_await context.input().point(
         {.text = removing ? QStringView(u"Remove objects") : QStringView(question),
          .keywords = kKeywords,
-         .allowEmpty = true});
+         .allowEmpty = true,
+         .picks = true});
     if (answer.isEmpty()) break;
     if (answer.is(u"Add") || answer.is(u"Remove")) {
       removing = answer.is(u"Remove");
     } else if (answer.is(u"Undo")) {
       if (!set.undo()) context.print(translated(u"There is nothing to undo."));
+      context.document().chosen() = set.chosen();
     } else if (answer.is(u"SIngle")) {
       isSingle = true;
     } else if (answer.is(u"FIlter")) {
@@ -178,6 +181,7 @@ Task<Selection> selectObjects(CommandContext& context, QStringView prompt) {
       Selection more = co_await found(context, picker, answer);
       if (picksGroups(context)) more = picker.amongst(withGroups(context.database(), more));
       removing ? set.remove(more) : set.add(more);
+      context.document().chosen() = set.chosen();
       context.print(translated(u"%1 found, %2 in total").arg(more.size()).arg(set.chosen().size()));
       if (isSingle && !more.empty()) break;
     }
@@ -191,8 +195,8 @@ Task<PickedEntity> selectEntity(CommandContext& context, QStringView prompt, QSt
   const SelectionPicker picker(context.document());
   const OdString every = keywords.toString() + QStringLiteral(" Last");
   for (;;) {
-    const Answer<OdGePoint3d> answer =
-        co_await context.input().point({.text = question, .keywords = every, .allowEmpty = true});
+    const Answer<OdGePoint3d> answer = co_await context.input().point(
+        {.text = question, .keywords = every, .allowEmpty = true, .picks = true});
     if (answer.isEmpty()) co_return PickedEntity();
     if (!answer.isValue() && !answer.is(u"Last")) co_return PickedEntity{{}, {}, answer.keyword};
     const Selection picked = answer.isValue() ? picker.at(answer.value) : picker.last();

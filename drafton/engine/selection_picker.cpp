@@ -40,9 +40,10 @@ std::vector<SelectionPicker::Candidate> SelectionPicker::candidates() const {
 }
 
 double SelectionPicker::reach() const {
-  // Without a window a thousandth of the drawing stands for a pixel.
   OdVariant pixels;
   m_document.variables()->get(QStringLiteral("PICKBOX"), pixels);
+  if (m_document.pixelSize() > 0) return pixels.toDouble() * m_document.pixelSize();
+  // Without a window a thousandth of the drawing stands for a pixel.
   const auto space = database().getCurrentSpaceId().openAs<OdDbBlockTableRecord>();
   const OdGeExtents3d box = space->extents();
   if (box.isEmpty()) return 0;

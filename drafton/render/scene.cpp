@@ -114,8 +114,10 @@ void Scene::takeChange(OdDbObjectId id) {
     }
     m_dirty.insert(top);
   } else if (odrxCast<OdDbBlockTableRecord>(object) == nullptr &&
-             odrxCast<OdDbDictionary>(object) == nullptr) {
+             odrxCast<OdDbDictionary>(object) == nullptr &&
+             odrxCast<OdDbAbstractViewTableRecord>(object) == nullptr) {
     // Layers, styles, definitions of images, orders of drawing: rare, and seen in many places.
+    // Where one looks changes nothing of what there is to see.
     m_allDirty = true;
   }
 }

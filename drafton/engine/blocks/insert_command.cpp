@@ -47,7 +47,7 @@ Task<void> insertBlock(CommandContext& context) {
   if (explode) name = name.mid(1);
   const OdDbObjectId block = blockFor(context, name);
   showUnits(context, block);
-  BlockPlace place = co_await askBlockPlace(context, explode);
+  BlockPlace place = co_await askBlockPlace(context, block, explode);
   place.explode = explode;
   co_await placeBlock(context, block, place);
   context.variables().set(kLastBlock, recordName(block));
@@ -68,7 +68,7 @@ Task<void> insertBlockByName(CommandContext& context) {
   place.rotation = set.number(u"BC_ROTATE_ANGLE", 0);
   place.explode = set.flag(u"BC_IS_EXPLODE");
   const bool asksRotation = set.flag(u"BC_ASK_ROTATION");
-  place = co_await askPointAndRotation(context, place, asksRotation);
+  place = co_await askPointAndRotation(context, block, place, asksRotation);
   co_await placeBlock(context, block, place);
 }
 

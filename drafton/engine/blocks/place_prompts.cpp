@@ -1,5 +1,7 @@
 #include "drafton/engine/blocks/place_prompts.h"
 
+#include "drafton/engine/commands/previews.h"
+
 namespace drafton {
 namespace {
 
@@ -9,9 +11,24 @@ Task<double> askFactor(CommandContext& context, const char16_t* question, double
   co_return factor.value;
 }
 
-Task<double> askRotation(CommandContext& context, OdGePoint3d base, double shown) {
-  const Answer<double> angle = co_await context.input().angle(
-      {.text = u"Specify rotation angle", .base = base, .defaultValue = shown});
+/// The block at a place of which angle or point are still open.
+PreviewShapes shownAt(CommandContext& context, OdDbObjectId block, const BlockPlace& place) {
+  if (block.isNull()) return {};
+  const double units = blockUnitFactor(context.database(), block);
+  const OdGeScale3d scale{place.scale.sx * units, place.scale.sy * units, place.scale.sz * units};
+  return insertShape(context.database(), block, place.point, scale, place.rotation);
+}
+
+Task<double> askRotation(CommandContext& context, OdDbObjectId block, BlockPlace place) {
+  const auto turned = [&](double angle) {
+    BlockPlace at = place;
+    at.rotation = angle;
+    return shownAt(context, block, at);
+  };
+  const Answer<double> angle = co_await context.input().angle({.text = u"Specify rotation angle",
+                                                               .base = place.point,
+                                                               .defaultValue = place.rotation,
+                                                               .preview = turned});
   co_return angle.value;
 }
 
@@ -38,20 +55,27 @@ Task<OdGeScale3d> askScale(CommandContext& context, bool uniform) {
 
 } // namespace
 
-Task<BlockPlace> askBlockPlace(CommandContext& context, bool uniform) {
+Task<BlockPlace> askBlockPlace(CommandContext& context, OdDbObjectId block, bool uniform) {
   BlockPlace place;
   bool hasScale = false, hasRotation = false;
   const QStringView keywords =
       uniform ? QStringView(u"Scale Rotate") : QStringView(u"Scale X Y Z Rotate");
+  const auto placed = [&](const OdGePoint3d& at) {
+    BlockPlace there = place;
+    there.point = at;
+    return shownAt(context, block, there);
+  };
   for (;;) {
-    const Answer<OdGePoint3d> point =
-        co_await context.input().point({.text = u"Specify insertion point", .keywords = keywords});
+    const Answer<OdGePoint3d> point = co_await context.input().point(
+        {.text = u"Specify insertion point", .keywords = keywords, .preview = placed});
     if (point.isValue()) {
       place.point = point.value;
       break;
     }
     if (point.is(u"Rotate")) {
-      place.rotation = co_await askRotation(context, context.lastPoint(), place.rotation);
+      BlockPlace before = place;
+      before.point = context.lastPoint();
+      place.rotation = co_await askRotation(context, {}, before);
       hasRotation = true;
       continue;
     }
@@ -69,15 +93,21 @@ Task<BlockPlace> askBlockPlace(CommandContext& context, bool uniform) {
     hasScale = true;
   }
   if (!hasScale) place.scale = co_await askScale(context, uniform);
-  if (!hasRotation) place.rotation = co_await askRotation(context, place.point, 0);
+  if (!hasRotation) place.rotation = co_await askRotation(context, block, place);
   co_return place;
 }
 
-Task<BlockPlace> askPointAndRotation(CommandContext& context, BlockPlace place, bool asksRotation) {
+Task<BlockPlace> askPointAndRotation(CommandContext& context, OdDbObjectId block, BlockPlace place,
+                                     bool asksRotation) {
+  const auto placed = [&](const OdGePoint3d& at) {
+    BlockPlace there = place;
+    there.point = at;
+    return shownAt(context, block, there);
+  };
   const Answer<OdGePoint3d> point =
-      co_await context.input().point({.text = u"Specify insertion point"});
+      co_await context.input().point({.text = u"Specify insertion point", .preview = placed});
   place.point = point.value;
-  if (asksRotation) place.rotation = co_await askRotation(context, place.point, place.rotation);
+  if (asksRotation) place.rotation = co_await askRotation(context, block, place);
   co_return place;
 }
 

@@ -87,7 +87,7 @@ Task<void> attachTyped(CommandContext& context, bool asksType, bool overlay) {
     overlay = type.is(u"Overlay");
   }
   const OdDbObjectId block = referenceTo(context, file.value, overlay);
-  const BlockPlace place = co_await askBlockPlace(context, false);
+  const BlockPlace place = co_await askBlockPlace(context, block, false);
   co_await placeBlock(context, block, place);
 }
 
@@ -102,7 +102,7 @@ Task<void> attachWith(CommandContext& context, ParameterSet set) {
   place.scale = {scale, scale, scale};
   place.rotation = set.number(u"XATT_ROTATION", 0);
   const bool asksRotation = set.flag(u"XATT_PROMPT_ROTATION");
-  place = co_await askPointAndRotation(context, place, asksRotation);
+  place = co_await askPointAndRotation(context, block, place, asksRotation);
   co_await placeBlock(context, block, place);
 }
 

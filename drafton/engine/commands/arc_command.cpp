@@ -4,6 +4,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawn_end.h"
 #include "drafton/engine/commands/new_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/translator.h"
 #include "drawing/entities/arc.h"
 
@@ -14,8 +15,11 @@ using Found = std::optional<ArcPath>;
 
 /// On from the last line or arc, in its direction.
 Task<Found> askContinued(CommandContext& context, DrawnEnd from) {
-  const Answer<OdGePoint3d> end =
-      co_await context.input().point({.text = u"Specify end point of arc", .base = from.point});
+  const auto onwards = [&](const OdGePoint3d& to) {
+    return arcShape(context.database(), arcByDirection(from.point, to, from.direction));
+  };
+  const Answer<OdGePoint3d> end = co_await context.input().point(
+      {.text = u"Specify end point of arc", .base = from.point, .preview = onwards});
   co_return arcByDirection(from.point, end.value, from.direction);
 }
 
@@ -23,17 +27,26 @@ Task<Found> askFromEnds(CommandContext& context, OdGePoint3d start) {
   CommandInput& input = context.input();
   const Answer<OdGePoint3d> end =
       co_await input.point({.text = u"Specify end point of arc", .base = start});
+  const auto around = [&](const OdGePoint3d& middle) {
+    return arcShape(context.database(), arcAround(middle, start, end.value));
+  };
+  const auto towards = [&](double angle) {
+    return arcShape(context.database(), arcByDirection(start, end.value, angle));
+  };
   const Answer<OdGePoint3d> center = co_await input.point({.text = u"Specify center point of arc",
                                                            .keywords = u"Angle Direction Radius",
-                                                           .base = end.value});
+                                                           .base = end.value,
+                                                           .preview = around});
   if (center.isValue()) co_return arcAround(center.value, start, end.value);
   if (center.is(u"Angle")) {
     const double angle = co_await askIncludedAngle(context, start);
     co_return arcByAngle(start, end.value, angle);
   }
   if (center.is(u"Direction")) {
-    const Answer<double> direction = co_await input.angle(
-        {.text = u"Specify tangent direction for the start point of arc", .base = start});
+    const Answer<double> direction =
+        co_await input.angle({.text = u"Specify tangent direction for the start point of arc",
+                              .base = start,
+                              .preview = towards});
     co_return arcByDirection(start, end.value, direction.value);
   }
   const Answer<double> radius = co_await input.distance(
@@ -51,8 +64,11 @@ Task<Found> askFromStart(CommandContext& context, OdGePoint3d start) {
         co_await input.point({.text = u"Specify center point of arc", .base = start});
     co_return co_await askArcAround(context, center.value, start);
   }
-  const Answer<OdGePoint3d> end =
-      co_await input.point({.text = u"Specify end point of arc", .base = second.value});
+  const auto through = [&](const OdGePoint3d& to) {
+    return arcShape(context.database(), arcThrough(start, second.value, to));
+  };
+  const Answer<OdGePoint3d> end = co_await input.point(
+      {.text = u"Specify end point of arc", .base = second.value, .preview = through});
   co_return arcThrough(start, second.value, end.value);
 }
 

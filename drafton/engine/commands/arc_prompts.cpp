@@ -1,5 +1,6 @@
 #include "drafton/engine/commands/arc_prompts.h"
 
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/translator.h"
 
 namespace drafton {
@@ -18,8 +19,13 @@ Task<double> askIncludedAngle(CommandContext& context, std::optional<OdGePoint3d
 Task<std::optional<ArcPath>> askArcAround(CommandContext& context, OdGePoint3d center,
                                           OdGePoint3d start) {
   CommandInput& input = context.input();
-  const Answer<OdGePoint3d> end = co_await input.point(
-      {.text = u"Specify end point of arc", .keywords = u"Angle Length", .base = center});
+  const auto around = [&](const OdGePoint3d& to) {
+    return arcShape(context.database(), arcAround(center, start, to));
+  };
+  const Answer<OdGePoint3d> end = co_await input.point({.text = u"Specify end point of arc",
+                                                        .keywords = u"Angle Length",
+                                                        .base = center,
+                                                        .preview = around});
   if (end.isValue()) co_return arcAround(center, start, end.value);
   if (end.is(u"Angle")) {
     const double angle = co_await askIncludedAngle(context, center);

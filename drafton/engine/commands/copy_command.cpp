@@ -3,6 +3,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/displacement.h"
 #include "drafton/engine/commands/modified_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 
@@ -29,6 +30,7 @@ class CopyMaker {
     return true;
   }
 
+  const Selection& originals() const { return m_originals; }
   bool isEmpty() const { return m_runs.empty(); }
 
  private:
@@ -66,6 +68,9 @@ Task<Answer<OdGePoint3d>> askBase(CommandContext& context) {
 
 Task<void> askCopies(CommandContext& context, CopyMaker& maker, Answer<OdGePoint3d> base) {
   const bool once = copiesOnce(context);
+  const auto moved = [&](const OdGePoint3d& to) {
+    return movedShapes(maker.originals(), by(OdGeMatrix3d::translation(to - base.value)));
+  };
   for (;;) {
     const bool isFirst = maker.isEmpty();
     // Typed offsets are measured from the base point, however many copies there are.
@@ -77,7 +82,8 @@ Task<void> askCopies(CommandContext& context, CopyMaker& maker, Answer<OdGePoint
         co_await context.input().point({.text = u"Specify second point",
                                         .keywords = keywords,
                                         .base = base.value,
-                                        .enterText = enter});
+                                        .enterText = enter,
+                                        .preview = moved});
     if (second.is(u"Exit")) co_return;
     if (second.is(u"Undo")) {
       if (!maker.takeBack()) context.print(translated(u"There is nothing to undo."));

@@ -25,7 +25,7 @@ DrawingView activeView(const OdDbDatabase& database) {
 
 double activeViewAspect(const OdDbDatabase& database) { return activeViewport(database)->aspect(); }
 
-void setActiveView(OdDbDatabase& database, const DrawingView& view) {
+void setActiveView(OdDbDatabase& database, const DrawingView& view, std::optional<double> aspect) {
   OdDbViewportTableRecordPtr viewport = activeViewportId(database).openObject(OdDb::kForWrite);
   if (!viewport) {
     viewport = odrxMake<OdDbViewportTableRecord>();
@@ -34,6 +34,7 @@ void setActiveView(OdDbDatabase& database, const DrawingView& view) {
   }
   viewport->setCenterPoint(view.center);
   viewport->setHeight(view.height);
+  if (aspect) viewport->setAspect(*aspect);
 }
 
 DrawingView viewOf(const OdGeExtents3d& box, double aspect, double now) {

@@ -3,6 +3,8 @@
 
 #include "drawing/database.h"
 
+#include <optional>
+
 namespace drafton {
 
 /// A view from above. The width follows from the window's proportions.
@@ -16,8 +18,10 @@ struct DrawingView {
 DrawingView activeView(const OdDbDatabase& database);
 /// Width by height of the active viewport.
 double activeViewAspect(const OdDbDatabase& database);
-/// A drawing without an active viewport gets one.
-void setActiveView(OdDbDatabase& database, const DrawingView& view);
+/// A drawing without an active viewport gets one. `aspect` is that of the window, where it is
+/// known.
+void setActiveView(OdDbDatabase& database, const DrawingView& view,
+                   std::optional<double> aspect = {});
 
 /// The view that shows a box, touched by it at two sides at least. A box without size is shown with
 /// the height `now`.

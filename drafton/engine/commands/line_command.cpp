@@ -4,6 +4,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawn_end.h"
 #include "drafton/engine/commands/new_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/translator.h"
 #include "drawing/entities/line.h"
 
@@ -74,12 +75,16 @@ Task<void> line(CommandContext& context) {
         {.text = u"Length of line", .base = start, .range = NumberRange::kNotZero});
     chain.lineTo(pointAlong(start, continued->direction, length.value));
   }
+  const auto nextLine = [&](const OdGePoint3d& to) {
+    return lineShape(context.database(), chain.end(), to);
+  };
   for (;;) {
     const QStringView keywords = chain.canClose() ? u"Close Undo" : u"Undo";
     const Answer<OdGePoint3d> next = co_await input.point({.text = u"Specify next point",
                                                            .keywords = keywords,
                                                            .base = chain.end(),
-                                                           .allowEmpty = true});
+                                                           .allowEmpty = true,
+                                                           .preview = nextLine});
     if (next.isEmpty()) co_return;
     if (next.is(u"Close")) {
       chain.lineTo(chain.start());

@@ -77,8 +77,16 @@ Task<void> polyline(CommandContext& context) {
     const QStringView keywords = keywordsFor(inArcs, draft.pieces());
     const OdGePoint3d from = draft.end();
     context.setLastPoint(from);
-    const Answer<OdGePoint3d> next = co_await input.point(
-        {.text = question, .keywords = keywords, .base = from, .allowEmpty = true});
+    const auto nextPiece = [&](const OdGePoint3d& to) -> PreviewShapes {
+      const std::optional<ArcPath> path =
+          inArcs ? arcByDirection(from, to, draft.direction()) : ArcPath{from, to, 0};
+      return path ? PreviewShapes{draft.shown(*path)} : PreviewShapes();
+    };
+    const Answer<OdGePoint3d> next = co_await input.point({.text = question,
+                                                           .keywords = keywords,
+                                                           .base = from,
+                                                           .allowEmpty = true,
+                                                           .preview = nextPiece});
     if (next.isEmpty()) co_return;
     if (next.isValue()) {
       if (inArcs)

@@ -25,6 +25,16 @@ double PolylineDraft::direction() const {
   return m_pieces.empty() ? 0 : endDirectionOf(m_pieces.back().path);
 }
 
+OdDbEntityPtr PolylineDraft::shown(const ArcPath& piece) const {
+  const auto made = odrxMake<OdDbPolyline>();
+  const OdDbPolyline::Vertex corner = cornerOf(piece, m_widths);
+  made->addVertexAt(0, corner.point, corner.bulge, corner.startWidth, corner.endWidth);
+  made->addVertexAt(1, {piece.end.x, piece.end.y});
+  made->setElevation(m_start.z);
+  made->setDatabaseDefaults(m_database);
+  return made;
+}
+
 void PolylineDraft::add(const ArcPath& piece) {
   const OdGePoint3d end{piece.end.x, piece.end.y, m_start.z};
   m_pieces.push_back({{piece.start, end, piece.bulge}, m_widths});

@@ -32,6 +32,8 @@ class PolylineDraft {
   /// Appends a straight or curved piece that starts at end(). The pieces behind it are as wide as
   /// it ends.
   void add(const ArcPath& piece);
+  /// A piece that could be appended, as an entity of no drawing.
+  OdDbEntityPtr shown(const ArcPath& piece) const;
   /// False if there is no piece to take back.
   bool takeBack();
   /// Ends the polyline with a piece back to its start.

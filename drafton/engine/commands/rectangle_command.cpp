@@ -3,6 +3,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/new_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
 
@@ -150,15 +151,43 @@ Task<RectangleSides> askDimensions(CommandContext& context) {
   co_return RectangleSides{length.value, width.value};
 }
 
+OdDbPolylinePtr outlineOf(CommandContext& context, const OdGePoint3d& corner,
+                          const RectangleSides& sides, const RectangleModes& modes) {
+  const OdDbPolylinePtr outline = odrxMake<OdDbPolyline>();
+  for (const OdDbPolyline::Vertex& vertex : rectangleOutline(corner, sides, modes))
+    outline->addVertexAt(outline->numVerts(), vertex.point, vertex.bulge);
+  outline->setClosed(true);
+  outline->setPlinegen(context.database().sysVarInt("PLINEGEN") != 0);
+  outline->setConstantWidth(modes.width);
+  outline->setElevation(modes.elevation != 0 ? modes.elevation : corner.z);
+  outline->setThickness(modes.thickness != 0 ? modes.thickness
+                                             : context.database().sysVarReal("THICKNESS"));
+  return outline;
+}
+
 /// The other corner; where the sides are known, only the quarter that it lies in counts.
 Task<RectangleSides> askSides(CommandContext& context, RectangleModes& modes, OdGePoint3d corner) {
   CommandInput& input = context.input();
   DrawingSession& session = DrawingSession::of(context);
   std::optional<RectangleSides> known;
+  // Where the sides are known, the other corner says where they lie.
+  const auto sidesTo = [&](const OdGePoint3d& to) {
+    const RectangleSides sides = sidesBetween(corner, to, modes.rotation);
+    return known ? RectangleSides{std::copysign(known->length, sides.length),
+                                  std::copysign(known->width, sides.width)}
+                 : sides;
+  };
+  const auto shown = [&](const OdGePoint3d& to) -> PreviewShapes {
+    const RectangleSides sides = sidesTo(to);
+    if (sides.length == 0 || sides.width == 0) return {};
+    return newShape(context.database(), outlineOf(context, corner, sides, modes));
+  };
   for (;;) {
     const Answer<OdGePoint3d> other = co_await input.point({.text = u"Specify other corner point",
                                                             .keywords = u"Area Dimensions Rotation",
-                                                            .base = corner});
+                                                            .base = corner,
+                                                            .band = RubberBand::kBox,
+                                                            .preview = shown});
     if (other.is(u"Rotation")) {
       co_await askRotation(context, modes, corner);
       continue;
@@ -170,10 +199,7 @@ Task<RectangleSides> askSides(CommandContext& context, RectangleModes& modes, Od
       session.rectangleWidth = known->width;
       continue;
     }
-    const RectangleSides sides = sidesBetween(corner, other.value, modes.rotation);
-    if (known)
-      co_return RectangleSides{std::copysign(known->length, sides.length),
-                               std::copysign(known->width, sides.width)};
+    const RectangleSides sides = sidesTo(other.value);
     if (sides.length != 0 && sides.width != 0) co_return sides;
     context.print(translated(u"The corners must differ in both directions."));
   }
@@ -188,15 +214,7 @@ Task<void> rectangle(CommandContext& context) {
   const OdGePoint3d corner = co_await askFirstCorner(context, modes);
   const RectangleSides sides = co_await askSides(context, modes, corner);
 
-  const OdDbPolylinePtr outline = odrxMake<OdDbPolyline>();
-  for (const OdDbPolyline::Vertex& vertex : rectangleOutline(corner, sides, modes))
-    outline->addVertexAt(outline->numVerts(), vertex.point, vertex.bulge);
-  outline->setClosed(true);
-  outline->setPlinegen(context.database().sysVarInt("PLINEGEN") != 0);
-  outline->setConstantWidth(modes.width);
-  outline->setElevation(modes.elevation != 0 ? modes.elevation : corner.z);
-  outline->setThickness(modes.thickness != 0 ? modes.thickness
-                                             : context.database().sysVarReal("THICKNESS"));
+  const OdDbPolylinePtr outline = outlineOf(context, corner, sides, modes);
   addNewEntity(context.database(), *outline);
   session.rectangle = modes;
   context.setLastPoint(corner);

@@ -4,6 +4,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/modified_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 
@@ -43,11 +44,16 @@ Task<void> rotate(CommandContext& context) {
   double& last = DrawingSession::of(context).rotation;
   bool copies = false;
   std::optional<double> angle;
+  const auto turned = [&](double value) {
+    return movedShapes(chosen,
+                       by(OdGeMatrix3d::rotation(value, OdGeVector3d::zAxis(), base.value)));
+  };
   while (!angle) {
     const Answer<double> answer = co_await context.input().angle({.text = u"Specify rotation angle",
                                                                   .keywords = u"Copy Reference",
                                                                   .base = base.value,
-                                                                  .defaultValue = last});
+                                                                  .defaultValue = last,
+                                                                  .preview = turned});
     if (answer.is(u"Copy")) {
       copies = true;
       context.print(translated(u"Rotating a copy of the selected objects."));

@@ -3,6 +3,7 @@
 #include "drafton/engine/commands/command_bodies.h"
 #include "drafton/engine/commands/drawing_session.h"
 #include "drafton/engine/commands/modified_entities.h"
+#include "drafton/engine/commands/previews.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 
@@ -34,13 +35,17 @@ Task<void> scale(CommandContext& context) {
   double& last = DrawingSession::of(context).scale;
   bool copies = false;
   std::optional<double> factor;
+  const auto scaled = [&](double value) {
+    return movedShapes(chosen, by(OdGeMatrix3d::scaling(value, base.value)));
+  };
   while (!factor) {
     const Answer<double> answer =
         co_await context.input().distance({.text = u"Specify scale factor",
                                            .keywords = u"Copy Reference",
                                            .base = base.value,
                                            .defaultValue = last,
-                                           .range = NumberRange::kPositive});
+                                           .range = NumberRange::kPositive,
+                                           .preview = scaled});
     if (answer.is(u"Copy")) {
       copies = true;
       context.print(translated(u"Scaling a copy of the selected objects."));

@@ -100,8 +100,8 @@ Task<Found> zoomScale(CommandContext& context) {
 
 Task<Found> zoomFrom(CommandContext& context, OdGePoint3d corner) {
   for (;;) {
-    const Answer<OdGePoint3d> opposite =
-        co_await context.input().point({.text = u"Specify opposite corner", .base = corner});
+    const Answer<OdGePoint3d> opposite = co_await context.input().point(
+        {.text = u"Specify opposite corner", .base = corner, .band = RubberBand::kBox});
     OdGeExtents3d box;
     box.addPoint({corner.x, corner.y, 0});
     box.addPoint({opposite.value.x, opposite.value.y, 0});

@@ -1,0 +1,142 @@
+#include "drafton/desktop/canvas_view.h"
+
+#include "drafton/render/scene_painter.h"
+#include "drafton/render/sheet.h"
+
+#include <algorithm>
+
+namespace drafton {
+namespace {
+
+constexpr double kMargin = 0.03;
+// Beyond these numbers lose the digits that a picture needs.
+constexpr double kSmallestScale = 1e-9, kLargestScale = 1e9;
+
+} // namespace
+
+CanvasView::CanvasView(Document& document, Scene& scene)
+  : m_document(document)
+  , m_scene(scene) {
+  followTab();
+  m_told = activeView(*m_document.database());
+}
+
+OdDbLayoutPtr CanvasView::layout() const {
+  return m_isSheet ? OdDbLayoutPtr(odrxCast<OdDbLayout>(m_tab.openObject().get()))
+                   : OdDbLayoutPtr();
+}
+
+OdGePoint3d CanvasView::pointAt(const QPointF& pixel) const {
+  OdGePoint3d point = m_view.unproject(pixel);
+  point.z = m_document.elevation();
+  return point;
+}
+
+View CanvasView::viewFrom(const DrawingView& drawing) const {
+  View view = m_view;
+  view.center = drawing.center;
+  if (drawing.height > 0)
+    view.scale = std::clamp(m_view.size.height() / drawing.height, kSmallestScale, kLargestScale);
+  return view;
+}
+
+DrawingView CanvasView::drawingView() const {
+  return {m_view.center, m_view.size.height() / m_view.scale};
+}
+
+OdGeExtents3d CanvasView::everything() {
+  m_scene.update();
+  if (const OdDbLayoutPtr sheetLayout = layout()) {
+    const Sheet sheet =
+        sheetOf(*sheetLayout, [this] { return m_scene.boxOf(m_block, deviationFor(1)); });
+    if (!sheet.paper.isEmpty()) return sheet.paper;
+  }
+  return m_scene.boxOf(m_block, deviationFor(m_view.scale));
+}
+
+void CanvasView::showAll() {
+  OdGeExtents3d box = everything();
+  if (box.isEmpty()) {
+    const OdDbDatabase& database = *m_document.database();
+    box.addPoint(database.sysVarPoint("LIMMIN"));
+    box.addPoint(database.sysVarPoint("LIMMAX"));
+  }
+  m_view = m_view.fitted(box, kMargin);
+  m_document.setPixelSize(pixelSize());
+}
+
+/// The view that the drawing was left with, if anything of it can be seen there.
+void CanvasView::showFirst() {
+  m_isShown = true;
+  const OdGeExtents3d box = everything();
+  const double height = box.isEmpty() ? 0 : box.maxPoint().y - box.minPoint().y;
+  const bool isSane = !m_isSheet && m_told.height > height / 50 && m_told.height < height * 20;
+  const View told = viewFrom(m_told);
+  const bool sees = isSane && told.projection().boxOf(box).intersects(told.rect());
+  if (sees)
+    m_view = told;
+  else
+    showAll();
+}
+
+void CanvasView::resize(const QSize& pixels) {
+  m_view.size = QSizeF(pixels).expandedTo({1, 1});
+  if (!std::exchange(m_hasSize, true)) showFirst();
+  m_document.setPixelSize(pixelSize());
+}
+
+void CanvasView::pan(const QPointF& pixels) { m_view = m_view.panned(pixels); }
+
+void CanvasView::zoom(double factor, const QPointF& pixel) {
+  const double scale = std::clamp(m_view.scale * factor, kSmallestScale, kLargestScale);
+  m_view = m_view.zoomed(scale / m_view.scale, pixel);
+  m_document.setPixelSize(pixelSize());
+}
+
+bool CanvasView::followTab() {
+  const OdDbDatabase& database = *m_document.database();
+  const OdDbObjectId tab = oddb::activeLayout(database);
+  const OdDbLayoutPtr layout = odrxCast<OdDbLayout>(tab.openObject().get());
+  const bool isSheet = layout && !layout->isModelType();
+  m_isSheet = isSheet;
+  m_block = isSheet ? layout->getBlockTableRecordId() : database.getModelSpaceId();
+  if (tab == m_tab) return false;
+  if (m_isShown) m_others[m_tab] = m_view;
+  m_tab = tab;
+  if (const auto known = m_others.find(tab); known != m_others.end()) {
+    const QSizeF size = m_view.size;
+    m_view = known->second;
+    m_view.size = size;
+  } else if (m_hasSize) {
+    showAll();
+  }
+  m_document.setPixelSize(pixelSize());
+  return true;
+}
+
+bool CanvasView::follow() {
+  if (!m_document.database()) return false;
+  const bool isOtherTab = followTab();
+  const DrawingView now = activeView(*m_document.database());
+  if (now == m_told) return isOtherTab;
+  m_told = now;
+  if (isOtherTab) return true;
+  m_view = viewFrom(now);
+  m_document.setPixelSize(pixelSize());
+  return true;
+}
+
+void CanvasView::tellDrawing() {
+  OdDbDatabase* const database = m_document.database();
+  if (!m_hasSize || !database || m_document.processor().isBusy()) return;
+  const DrawingView now = drawingView();
+  const double aspect = m_view.size.width() / m_view.size.height();
+  if (now == m_told && aspect == activeViewAspect(*database)) return;
+  const bool wasModified = database->isModified();
+  setActiveView(*database, now, aspect);
+  m_told = activeView(*database);
+  database->deliverChanges();
+  if (!wasModified) database->setSaved();
+}
+
+} // namespace drafton

@@ -1,0 +1,76 @@
+#include "drafton/desktop/command_offers.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QStandardItemModel>
+
+namespace drafton {
+namespace {
+
+/// In which source an offer stands; empty for a command.
+constexpr int kSourceRole = Qt::UserRole + 1;
+constexpr int kPictogramSize = 16;
+
+} // namespace
+
+CommandOffers::CommandOffers(Desktop& desktop, QLineEdit& edit)
+  : QObject(&edit)
+  , m_desktop(desktop)
+  , m_edit(edit)
+  , m_model(new QStandardItemModel(this))
+  , m_completer(new QCompleter(m_model, this)) {
+  m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+  m_completer->setFilterMode(Qt::MatchStartsWith);
+  m_completer->setWidget(&edit);
+  m_completer->setMaxVisibleItems(12);
+  m_completer->popup()->setAccessibleName(translated(u"Commands that begin with the typed text"));
+  connect(m_completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+          &CommandOffers::take);
+}
+
+void CommandOffers::update() {
+  m_model->clear();
+  for (const OdString& name : m_desktop.engine().commands().names())
+    m_model->appendRow(new QStandardItem(name));
+  CompletionRegistry& registry = m_desktop.engine().completion();
+  for (const OdString& source : registry.sourceNames())
+    for (const auto& offer : registry.offers(source)) {
+      auto* const item = new QStandardItem(offer->displayText);
+      item->setData(source, kSourceRole);
+      if (offer->pictogram)
+        item->setIcon(QPixmap::fromImage(offer->pictogram->image(kPictogramSize)));
+      m_model->appendRow(item);
+    }
+}
+
+void CommandOffers::show() {
+  const OdString text = m_edit.text();
+  if (m_desktop.isBusy() || text.isEmpty() || text.contains(u' ')) return hide();
+  m_completer->setCompletionPrefix(text);
+  if (m_completer->completionCount() == 0) return hide();
+  m_completer->complete(m_edit.rect());
+}
+
+bool CommandOffers::isShown() const { return m_completer->popup()->isVisible(); }
+
+void CommandOffers::hide() { m_completer->popup()->hide(); }
+
+bool CommandOffers::takeMarked() {
+  const QModelIndex marked = m_completer->popup()->currentIndex();
+  if (!isShown() || !marked.isValid()) return false;
+  hide();
+  take(marked);
+  return true;
+}
+
+void CommandOffers::take(const QModelIndex& index) {
+  const OdString text = index.data().toString();
+  const OdString source = index.data(kSourceRole).toString();
+  m_edit.clear();
+  if (source.isEmpty())
+    m_desktop.type(text + u'\n');
+  else
+    m_desktop.engine().completion().runOffer(source, text);
+}
+
+} // namespace drafton

@@ -1,0 +1,38 @@
+// What the command line offers to complete typed text with.
+#pragma once
+
+#include "drafton/desktop/desktop.h"
+
+#include <QCompleter>
+
+class QLineEdit;
+class QStandardItemModel;
+
+namespace drafton {
+
+/// The names of commands, and what modules offer (tools, say), while no command runs.
+class CommandOffers : public QObject {
+  Q_OBJECT
+
+ public:
+  CommandOffers(Desktop& desktop, QLineEdit& edit);
+
+  /// Takes the names anew: modules come and go.
+  void update();
+  /// Shows the list for the text of the line, or hides it.
+  void show();
+  bool isShown() const;
+  /// Runs the offer that is marked in the list; false if there is none.
+  bool takeMarked();
+  void hide();
+
+ private:
+  void take(const QModelIndex& index);
+
+  Desktop& m_desktop;
+  QLineEdit& m_edit;
+  QStandardItemModel* m_model;
+  QCompleter* m_completer;
+};
+
+} // namespace drafton

@@ -1,0 +1,123 @@
+#include "drafton/desktop/desktop.h"
+
+namespace drafton {
+namespace {
+
+const QStringList kSection{QStringLiteral("Desktop")};
+
+/// Commands that nobody wants again by pressing Enter.
+constexpr const char16_t* kNotRepeated[] = {u"Exit", u"CloseDocument"};
+
+bool isRepeated(const OdString& name) {
+  return !name.startsWith(QLatin1String("__")) &&
+         std::ranges::none_of(kNotRepeated, [&](const char16_t* other) {
+           return name.compare(QStringView(other), Qt::CaseInsensitive) == 0;
+         });
+}
+
+} // namespace
+
+/// Turns the editor's events into signals.
+class Desktop::Events : public HostEditorReactor {
+ public:
+  void setDesktop(Desktop* desktop) { m_desktop = desktop; }
+
+  void commandWillStart(const OdString& name) override {
+    if (isRepeated(name)) m_desktop->m_lastCommand = name;
+  }
+  void sysVarChanged(OdDbDatabase*, const OdString& name) override {
+    Q_EMIT m_desktop->variableChanged(name);
+  }
+  void documentActivated(IHostDocument* document) override {
+    Q_EMIT m_desktop->documentActivated(static_cast<Document*>(document));
+  }
+  void documentToBeDestroyed(IHostDocument* document) override {
+    Q_EMIT m_desktop->documentClosing(static_cast<Document*>(document));
+  }
+
+ private:
+  Desktop* m_desktop = nullptr;
+};
+
+Desktop::Desktop(EngineOptions options)
+  : m_engine(std::make_unique<Engine>(std::move(options), m_console, &m_input))
+  , m_events(odrxMake<Events>()) {
+  m_events->setDesktop(this);
+  m_engine->events().addReactor(m_events.get());
+  m_input.setEngine(m_engine.get());
+  connect(&m_input, &EventInput::settled, this, &Desktop::settled);
+}
+
+Desktop::~Desktop() {
+  m_input.stop();
+  m_engine->events().removeReactor(m_events.get());
+  m_input.setEngine(nullptr);
+  m_engine.reset();
+}
+
+OdDbDatabase* Desktop::database() {
+  Document* const current = document();
+  return current ? current->database() : nullptr;
+}
+
+void Desktop::type(const OdString& text) {
+  Q_EMIT aboutToTake();
+  m_engine->type(text);
+  m_input.takeUp();
+}
+
+void Desktop::runMacro(const OdString& macro) {
+  Q_EMIT aboutToTake();
+  m_engine->currentProcessor().sendText(macro);
+  m_input.takeUp();
+}
+
+void Desktop::cancel() { type(QStringLiteral("^C")); }
+
+bool Desktop::click(const OdGePoint3d& point) {
+  Q_EMIT aboutToTake();
+  if (!m_engine->currentProcessor().givePoint(point)) return false;
+  m_input.takeUp();
+  return true;
+}
+
+bool Desktop::change(const OdString& step, const std::function<void(OdDbDatabase&)>& change) {
+  Document* const current = document();
+  if (!current || !current->database()) return false;
+  if (isBusy()) {
+    m_engine->print(translated(u"A command is running: end it first."));
+    return false;
+  }
+  if (!current->lock(step)) return false;
+  try {
+    change(*current->database());
+  } catch (const OdError& error) {
+    m_engine->print(error.description());
+  }
+  current->unlock();
+  Q_EMIT settled();
+  return true;
+}
+
+OdVariant Desktop::variable(const char* name) {
+  OdVariant value;
+  if (Document* const current = document())
+    current->variables()->get(OdString::fromLatin1(name), value);
+  return value;
+}
+
+bool Desktop::setVariable(const char* name, const OdVariant& value) {
+  Document* const current = document();
+  return current && current->variables()->set(OdString::fromLatin1(name), value);
+}
+
+OdVariant Desktop::setting(const char* key, const OdVariant& preset) {
+  OdVariant value;
+  return m_engine->settings().get(kSection, OdString::fromLatin1(key), value) ? value : preset;
+}
+
+void Desktop::setSetting(const char* key, const OdVariant& value) {
+  m_engine->settings().set(kSection, OdString::fromLatin1(key), value);
+}
+
+} // namespace drafton

@@ -1,0 +1,37 @@
+#include "drafton/desktop/event_input.h"
+
+#include "drafton/engine/engine.h"
+
+namespace drafton {
+
+void EventInput::takeUp() {
+  m_isQueued = false;
+  if (!m_loops.empty()) return m_loops.back()->quit();
+  if (!m_engine) return;
+  m_engine->run();
+  Q_EMIT settled();
+}
+
+void EventInput::stop() {
+  m_isStopped = true;
+  for (QEventLoop* const loop : m_loops) loop->quit();
+}
+
+bool EventInput::waitForInput() {
+  if (m_isStopped || !m_engine || m_engine->isExiting()) return false;
+  Q_EMIT settled();
+  QEventLoop loop;
+  m_loops.push_back(&loop);
+  loop.exec();
+  m_loops.pop_back();
+  // What waits further out may have got its answer meanwhile.
+  if (!m_loops.empty()) inputQueued();
+  return !m_isStopped && !m_engine->isExiting();
+}
+
+void EventInput::inputQueued() {
+  if (std::exchange(m_isQueued, true)) return;
+  QMetaObject::invokeMethod(this, &EventInput::takeUp, Qt::QueuedConnection);
+}
+
+} // namespace drafton

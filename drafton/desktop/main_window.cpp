@@ -1,0 +1,242 @@
+#include "drafton/desktop/main_window.h"
+
+#include "drafton/desktop/command_line.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
+
+namespace drafton {
+namespace {
+
+constexpr double kZoomStep = 1.4;
+
+/// The actions that switch a drafting aid.
+struct AidAction {
+  const char16_t* name;
+  Aid aid;
+};
+constexpr AidAction kAidActions[] = {
+    {u"grid", Aid::kGrid}, {u"ortho", Aid::kOrtho}, {u"polar", Aid::kPolar}, {u"snap", Aid::kSnap}};
+
+} // namespace
+
+MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
+  : m_desktop(desktop)
+  , m_dialogs(dialogs)
+  , m_files(new FileActions(desktop, dialogs, this))
+  , m_actions(
+        new WindowActions(*this, [this](const OdString& macro) { m_desktop.runMacro(macro); }))
+  , m_documents(new DocumentArea(desktop, this))
+  , m_commandLine(new CommandLine(desktop))
+  , m_statusLine(new StatusLine(desktop, this))
+  , m_aids(desktop) {
+  setObjectName(QStringLiteral("mainWindow"));
+  setAcceptDrops(true);
+  setDockNestingEnabled(true);
+  setCentralWidget(m_documents);
+  setStatusBar(m_statusLine);
+  addCommandLine();
+  connectActions();
+  dialogs.setWindow(this);
+  desktop.console().setWindow(this);
+  connect(m_documents, &DocumentArea::cursorMoved, this,
+          [this] { m_statusLine->showPlace(m_documents->canvas()); });
+  connect(m_documents, &DocumentArea::canvasChanged, this, &MainWindow::follow);
+  connect(m_documents, &DocumentArea::menuWanted, this, &MainWindow::showMenuAt);
+  connect(m_documents, &DocumentArea::closeWanted, this, [this](Document* document) {
+    m_files->whenSettled([this, document] { m_files->close(*document); });
+  });
+  connect(m_documents, &DocumentArea::actionWanted, this,
+          [this](const OdString& name) { m_actions->find(name)->trigger(); });
+  connect(m_commandLine, &CommandLine::gaveUp, this, [this] {
+    if (Canvas* const canvas = m_documents->canvas()) canvas->giveUp();
+  });
+  connect(&desktop, &Desktop::settled, this, &MainWindow::follow);
+  connect(&desktop, &Desktop::variableChanged, this, &MainWindow::follow);
+  m_actions->showIcons(isDark(palette()));
+  resize(1280, 820);
+  restorePlaces();
+  follow();
+}
+
+void MainWindow::addCommandLine() {
+  auto* const dock = new QDockWidget(translated(u"Command Line"), this);
+  dock->setObjectName(QStringLiteral("commandLine"));
+  dock->setWidget(m_commandLine);
+  addDockWidget(Qt::BottomDockWidgetArea, dock);
+  resizeDocks({dock}, {120}, Qt::Vertical);
+}
+
+void MainWindow::connectActions() {
+  const auto onDocument = [this](bool (FileActions::*run)(Document&)) {
+    return [this, run] {
+      m_files->whenSettled([this, run] {
+        if (Document* const document = m_desktop.document()) (m_files->*run)(*document);
+      });
+    };
+  };
+  const auto settled = [this](std::function<void()> run) {
+    return [this, run] { m_files->whenSettled(run); };
+  };
+  m_actions->connectTo(u"new", settled([this] { m_files->newDrawing(); }));
+  m_actions->connectTo(u"open", settled([this] { m_files->open(); }));
+  m_actions->connectTo(u"save", onDocument(&FileActions::save));
+  m_actions->connectTo(u"saveAs", onDocument(&FileActions::saveAs));
+  m_actions->connectTo(u"close", onDocument(&FileActions::close));
+  m_actions->connectTo(u"exit", [this] { close(); });
+  m_actions->connectTo(u"zoomIn", [this] { zoomMiddle(kZoomStep); });
+  m_actions->connectTo(u"zoomOut", [this] { zoomMiddle(1 / kZoomStep); });
+  m_actions->connectTo(u"selectAll", [this] {
+    Document* const document = m_desktop.document();
+    if (!document || m_desktop.isBusy()) return;
+    document->preselection() = SelectionPicker(*document).all();
+    Q_EMIT m_desktop.settled();
+  });
+  m_actions->connectTo(u"selectNone", [this] {
+    if (Canvas* const canvas = m_documents->canvas()) canvas->giveUp();
+  });
+  m_actions->connectTo(u"lineWeights", [this] {
+    m_desktop.setVariable("LWDISPLAY", m_desktop.variable("LWDISPLAY").toBool() ? 0 : 1);
+    Q_EMIT m_desktop.settled();
+  });
+  for (const AidAction& row : kAidActions)
+    m_actions->connectTo(row.name, [this, aid = row.aid] {
+      if (m_desktop.document()) m_aids.toggle(aid);
+      follow();
+      if (Canvas* const canvas = m_documents->canvas()) canvas->follow();
+    });
+  auto* const recent = new QMenu(this);
+  m_actions->find(u"recent")->setMenu(recent);
+  connect(recent, &QMenu::aboutToShow, this, &MainWindow::fillRecent);
+  auto* const panes = new QMenu(this);
+  m_actions->find(u"panes")->setMenu(panes);
+  connect(panes, &QMenu::aboutToShow, this, [this, panes] {
+    panes->clear();
+    const std::unique_ptr<QMenu> all(createPopupMenu());
+    for (QAction* const action : all->actions()) panes->addAction(action);
+  });
+}
+
+QMenu* MainWindow::createPopupMenu() { return QMainWindow::createPopupMenu(); }
+
+void MainWindow::fillRecent() {
+  QMenu* const menu = m_actions->find(u"recent")->menu();
+  menu->clear();
+  for (const OdString& file : m_files->recentFiles()) {
+    QAction* const action = menu->addAction(OdString(file).replace(u'&', QStringLiteral("&&")));
+    connect(action, &QAction::triggered, this,
+            [this, file] { m_files->whenSettled([this, file] { m_files->openFile(file); }); });
+  }
+  if (menu->isEmpty()) menu->addAction(translated(u"(none)"))->setEnabled(false);
+}
+
+void MainWindow::zoomMiddle(double factor) {
+  Canvas* const canvas = m_documents->canvas();
+  if (!canvas) return;
+  canvas->view().zoom(factor, canvas->view().view().rect().center());
+  canvas->follow();
+}
+
+/// Brings actions and title to what is true now.
+void MainWindow::follow() {
+  showTitle();
+  const bool hasDocument = m_desktop.document() != nullptr;
+  for (const AidAction& row : kAidActions) {
+    m_actions->find(row.name)->setEnabled(hasDocument);
+    m_actions->find(row.name)->setChecked(m_aids.isOn(row.aid));
+  }
+  m_actions->find(u"lineWeights")->setChecked(m_desktop.variable("LWDISPLAY").toBool());
+  for (const char16_t* name : {u"save", u"saveAs", u"close", u"print", u"exportPdf", u"selectAll",
+                               u"selectNone", u"zoomIn", u"zoomOut", u"lineWeights"})
+    m_actions->find(name)->setEnabled(hasDocument);
+  if (m_desktop.engine().isExiting() && !m_isClosing) QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void MainWindow::showTitle() {
+  const Document* const document = m_desktop.document();
+  setWindowTitle(document ? document->name() + QStringLiteral("[*] - Drafton")
+                          : QStringLiteral("Drafton"));
+  setWindowModified(document && document->isModified());
+}
+
+void MainWindow::showMenuAt(const QPoint& place) {
+  QMenu menu(this);
+  if (const OdString last = m_desktop.lastCommand(); !last.isEmpty())
+    connect(menu.addAction(translated(u"Repeat %1").arg(last)), &QAction::triggered, this,
+            [this, last] { m_desktop.type(last + u'\n'); });
+  menu.addSeparator();
+  const bool hasChoice = m_desktop.document() && !m_desktop.document()->preselection().empty();
+  if (hasChoice)
+    for (const char16_t* name :
+         {u"ERASE", u"MOVE", u"COPY", u"ROTATE", u"SCALE", u"MIRROR", u"MATCHPROP", u"selectNone"})
+      menu.addAction(m_actions->find(name));
+  menu.addSeparator();
+  for (const char16_t* name : {u"selectAll", u"zoomExtents", u"zoomWindow", u"zoomPrevious"})
+    menu.addAction(m_actions->find(name));
+  menu.exec(place);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (!m_commandLine->takeKey(event)) QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  // The system went over to the other theme.
+  if (event->type() == QEvent::PaletteChange) m_actions->showIcons(isDark(palette()));
+  QMainWindow::changeEvent(event);
+}
+
+// --- files dropped on the window
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  QStringList files;
+  for (const QUrl& url : event->mimeData()->urls())
+    if (url.isLocalFile()) files << url.toLocalFile();
+  event->acceptProposedAction();
+  m_files->whenSettled([this, files] {
+    for (const OdString& file : files) m_files->openFile(file);
+  });
+}
+
+// --- closing
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (m_desktop.input().isWaiting()) {
+    // What waits on the stack has to unwind before the documents can go.
+    m_files->whenSettled([this] { close(); });
+    return;
+  }
+  m_desktop.engine().cancelAll();
+  m_isClosing = true;
+  const bool isClosed = m_files->closeAll();
+  m_isClosing = isClosed;
+  if (!isClosed) return;
+  keepPlaces();
+  event->accept();
+}
+
+void MainWindow::keepPlaces() {
+  m_desktop.setSetting("Geometry", OdString::fromLatin1(saveGeometry().toBase64()));
+  m_desktop.setSetting("Windows", OdString::fromLatin1(saveState().toBase64()));
+}
+
+void MainWindow::restorePlaces() {
+  const auto bytes = [this](const char* key) {
+    return QByteArray::fromBase64(m_desktop.setting(key).toString().toLatin1());
+  };
+  // Bytes of a later version, or none at all, are passed over.
+  restoreGeometry(bytes("Geometry"));
+  restoreState(bytes("Windows"));
+}
+
+} // namespace drafton

@@ -1,0 +1,58 @@
+// Drafton's window.
+#pragma once
+
+#include "drafton/desktop/document_area.h"
+#include "drafton/desktop/file_actions.h"
+#include "drafton/desktop/status_line.h"
+#include "drafton/desktop/window_actions.h"
+
+namespace drafton {
+
+class CommandLine;
+
+/// Puts the parts together: drawings in the middle, the command line below, menus, toolbars and
+/// panes around them. Keys that no part takes go to the command line.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  MainWindow(Desktop& desktop, UserDialogs& dialogs);
+
+  Desktop& desktop() { return m_desktop; }
+  FileActions& files() { return *m_files; }
+  DocumentArea& documents() { return *m_documents; }
+  CommandLine& commandLine() { return *m_commandLine; }
+  StatusLine& statusLine() { return *m_statusLine; }
+  WindowActions& actions() { return *m_actions; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  QMenu* createPopupMenu() override;
+
+ private:
+  void connectActions();
+  void addCommandLine();
+  void follow();
+  void showTitle();
+  void showMenuAt(const QPoint& place);
+  void fillRecent();
+  void zoomMiddle(double factor);
+  void keepPlaces();
+  void restorePlaces();
+
+  Desktop& m_desktop;
+  UserDialogs& m_dialogs;
+  FileActions* m_files;
+  WindowActions* m_actions;
+  DocumentArea* m_documents;
+  CommandLine* m_commandLine;
+  StatusLine* m_statusLine;
+  DraftingAids m_aids;
+  bool m_isClosing = false;
+};
+
+} // namespace drafton

@@ -1,0 +1,232 @@
+#include "desktop/desktop_fixture.h"
+#include "drafton/engine/drawing_files.h"
+#include "drawing/entities/circle.h"
+#include "drawing/entities/line.h"
+
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+
+using namespace drafton;
+
+namespace {
+
+using MainWindowTest = DesktopFixture;
+
+TEST_F(MainWindowTest, DrawsWithClicksAndTypedPointsSavesAndReadsBack) {
+  type("LINE ");
+  click(-5, -5);
+  click(5, -5);
+  type("5,5 ");
+  press(Qt::Key_Return);
+  type("CIRCLE 0,0 ");
+  click(0, 3);
+  picture("drawn");
+  ASSERT_EQ(entities().size(), 3u);
+  EXPECT_TRUE(window().isWindowModified());
+
+  dialogs.toSave = path("drawn");
+  window().actions().find(u"save")->trigger();
+  EXPECT_FALSE(window().isWindowModified());
+  ASSERT_TRUE(QFile::exists(path("drawn.dxf"))) << "without a suffix it is a .dxf file";
+
+  window().actions().find(u"close")->trigger();
+  EXPECT_EQ(window().documents().canvas(), nullptr);
+  dialogs.toOpen = {path("drawn.dxf")};
+  window().actions().find(u"open")->trigger();
+  ASSERT_EQ(entities().size(), 3u);
+  const OdDbLinePtr first = odrxCast<OdDbLine>(entities()[0].get());
+  const OdDbCirclePtr circle = odrxCast<OdDbCircle>(entities()[2].get());
+  ASSERT_TRUE(first && circle);
+  EXPECT_NEAR(first->startPoint().x, -5, 0.06) << "half a pixel";
+  EXPECT_NEAR(first->endPoint().x, 5, 0.06);
+  EXPECT_NEAR(circle->radius(), 3, 0.06);
+}
+
+TEST_F(MainWindowTest, KeysThatNobodyElseTakesLandOnTheCommandLine) {
+  canvas().setFocus();
+  QTest::keyClicks(&canvas(), QStringLiteral("li"));
+  EXPECT_EQ(window().commandLine().edit().text(), QStringLiteral("li"));
+  QTest::keyClicks(&canvas(), QStringLiteral("ne "));
+  EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("LINE")});
+  QTest::keyClick(&canvas(), Qt::Key_Escape);
+  EXPECT_FALSE(desktop().isBusy());
+}
+
+TEST_F(MainWindowTest, EnterAndSpaceOnTheEmptyLineRepeatTheLastCommand) {
+  type("CIRCLE 0,0 2 ");
+  press(Qt::Key_Return);
+  ASSERT_TRUE(desktop().isBusy());
+  type("1,1 1 ");
+  press(Qt::Key_Space);
+  type("2,2 1 ");
+  EXPECT_EQ(entities().size(), 3u);
+}
+
+TEST_F(MainWindowTest, UpAndDownBringBackWhatWasTyped) {
+  type("CIRCLE 0,0 2 ");
+  QLineEdit& edit = window().commandLine().edit();
+  press(Qt::Key_Up);
+  EXPECT_EQ(edit.text(), QStringLiteral("2"));
+  press(Qt::Key_Up);
+  EXPECT_EQ(edit.text(), QStringLiteral("0,0"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  EXPECT_EQ(edit.text(), QString());
+}
+
+TEST_F(MainWindowTest, KeywordsOfThePromptAreLinks) {
+  type("CIRCLE ");
+  QLabel* const prompt = window().commandLine().findChild<QLabel*>();
+  ASSERT_TRUE(prompt->text().contains(QStringLiteral("<a href=\"2P\">2P</a>")))
+      << prompt->text().toStdString();
+  Q_EMIT prompt->linkActivated(QStringLiteral("2P"));
+  type("0,0 4,0 ");
+  EXPECT_EQ(only<OdDbCircle>()->radius(), 2);
+}
+
+TEST_F(MainWindowTest, ABlankBelongsToATextThatIsAskedFor) {
+  type("TEXT 0,0 1 0 Two words");
+  EXPECT_EQ(window().commandLine().edit().text(), QStringLiteral("Two words"));
+}
+
+TEST_F(MainWindowTest, ShowsWhatWasAnsweredAndWhatIsAsked) {
+  type("LINE 1,2 ");
+  EXPECT_TRUE(history().contains(QStringLiteral("Specify first point: 1,2")))
+      << history().toStdString();
+  const auto* const shown = window().commandLine().findChild<QPlainTextEdit*>();
+  EXPECT_EQ(shown->toPlainText(), history());
+}
+
+TEST_F(MainWindowTest, WheelZoomsAboutTheCursorAndTheMiddleButtonPans) {
+  database().setSaved();
+  const QPoint place = at(5, 5);
+  QWheelEvent wheel(place, canvas().mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  const double before = document().pixelSize();
+  QApplication::sendEvent(&canvas(), &wheel);
+  EXPECT_NEAR(document().pixelSize(), before / 1.2, 1e-9);
+  EXPECT_LE((at(5, 5) - place).manhattanLength(), 2);
+
+  QTest::mousePress(&canvas(), Qt::MiddleButton, Qt::NoModifier, place);
+  QTest::mouseMove(&canvas(), place + QPoint(40, 30));
+  QTest::mouseRelease(&canvas(), Qt::MiddleButton, Qt::NoModifier, place + QPoint(40, 30));
+  EXPECT_LE((at(5, 5) - place - QPoint(40, 30)).manhattanLength(), 2);
+  EXPECT_FALSE(document().isModified()) << "looking around changes nothing";
+}
+
+TEST_F(MainWindowTest, DoubleMiddleClickShowsEverything) {
+  type("LINE 1000,1000 1010,1010  ");
+  QTest::mouseDClick(&canvas(), Qt::MiddleButton, Qt::NoModifier, canvas().rect().center());
+  EXPECT_TRUE(canvas().rect().contains(at(1000, 1000)));
+  EXPECT_TRUE(canvas().rect().contains(at(1010, 1010)));
+  EXPECT_FALSE(canvas().rect().contains(at(900, 900)));
+}
+
+TEST_F(MainWindowTest, ZoomAndItsUndoMoveTheCanvas) {
+  type("LINE 0,0 1,1  ");
+  const QPoint before = at(0, 0);
+  type("ZOOM Center 100,100 10 ");
+  EXPECT_TRUE(canvas().rect().contains(at(100, 100)));
+  EXPECT_FALSE(canvas().rect().contains(at(0, 0)));
+  window().actions().find(u"UNDO")->trigger();
+  EXPECT_LE((at(0, 0) - before).manhattanLength(), 2);
+}
+
+TEST_F(MainWindowTest, TheStatusBarTellsWhereTheCursorIs) {
+  moveTo(3, -4);
+  const QStringList parts = window().statusLine().placeText().split(QStringLiteral(", "));
+  ASSERT_EQ(parts.size(), 2);
+  EXPECT_NEAR(parts[0].toDouble(), 3, 0.06);
+  EXPECT_NEAR(parts[1].toDouble(), -4, 0.06);
+}
+
+TEST_F(MainWindowTest, EachDrawingHasItsTabAndItsOwnCommands) {
+  type("LINE 0,0 ");
+  Document* const first = &document();
+  window().files().newDrawing();
+  ASSERT_NE(&document(), first);
+  EXPECT_FALSE(desktop().isBusy());
+  window().documents().documentTabs().setCurrentIndex(0);
+  EXPECT_EQ(&document(), first);
+  type("3,0  ");
+  EXPECT_EQ(entities().size(), 1u);
+}
+
+TEST_F(MainWindowTest, LayoutTabsFollowTheDrawingAndSwitchIt) {
+  QTabBar& tabs = window().documents().layoutTabs();
+  ASSERT_EQ(tabs.count(), 2);
+  QTest::mouseClick(&tabs, Qt::LeftButton, Qt::NoModifier, tabs.tabRect(1).center());
+  EXPECT_EQ(database().sysVarInt("TILEMODE"), 0);
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  picture("layout");
+  type("MODEL ");
+  EXPECT_EQ(tabs.currentIndex(), 0);
+  type("LAYOUT New Second\n");
+  EXPECT_EQ(tabs.count(), 3);
+}
+
+// --- closing
+
+TEST_F(MainWindowTest, ClosingAsksForChangesAndCanBeGivenUp) {
+  type("LINE 0,0 1,1  ");
+  dialogs.save = UserDialogs::Save::kCancel;
+  EXPECT_FALSE(window().close());
+  EXPECT_EQ(dialogs.asked, 1);
+  ASSERT_TRUE(desktop().document());
+  dialogs.save = UserDialogs::Save::kSave;
+  dialogs.toSave = QString();
+  EXPECT_FALSE(window().close()) << "no name was given";
+  dialogs.toSave = path("kept.dxf");
+  EXPECT_TRUE(window().close());
+  EXPECT_TRUE(QFile::exists(path("kept.dxf")));
+}
+
+TEST_F(MainWindowTest, ClosingEndsTheCommandThatWaits) {
+  type("LINE 0,0 1,1 ");
+  ASSERT_TRUE(desktop().isBusy());
+  EXPECT_TRUE(window().close());
+  EXPECT_EQ(dialogs.asked, 0) << "what the command had drawn goes with it";
+}
+
+TEST_F(MainWindowTest, ExitClosesTheWindow) {
+  type("QUIT ");
+  QTRY_VERIFY_WITH_TIMEOUT(!window().isVisible(), 2000);
+}
+
+TEST_F(MainWindowTest, AFileThatCannotBeReadIsNamedWithTheReasonAndNothingElseHappens) {
+  QFile file(path("bad.dxf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("no drawing at all");
+  file.close();
+  EXPECT_FALSE(window().files().openFile(path("bad.dxf")));
+  EXPECT_FALSE(window().files().openFile(path("missing.dxf")));
+  ASSERT_EQ(dialogs.said.size(), 2);
+  EXPECT_TRUE(dialogs.said[0].contains(QStringLiteral("bad.dxf cannot be opened: ")));
+  EXPECT_EQ(window().documents().documentTabs().count(), 1);
+}
+
+TEST_F(MainWindowTest, RecentFilesStandInTheMenuWithTheLatestFirst) {
+  for (const char* name : {"one.dxf", "two.dxf"}) {
+    dialogs.toSave = path(name);
+    window().actions().find(u"saveAs")->trigger();
+  }
+  EXPECT_EQ(window().files().recentFiles(), (QStringList{path("two.dxf"), path("one.dxf")}));
+  stop();
+  start();
+  EXPECT_EQ(window().files().recentFiles().size(), 2) << "at the next start as well";
+}
+
+TEST_F(MainWindowTest, PlacesOfPanesStayOverARestart) {
+  auto* dock = window().findChild<QDockWidget*>(QStringLiteral("commandLine"));
+  window().addDockWidget(Qt::TopDockWidgetArea, dock);
+  EXPECT_TRUE(window().close());
+  stop();
+  start();
+  dock = window().findChild<QDockWidget*>(QStringLiteral("commandLine"));
+  EXPECT_EQ(window().dockWidgetArea(dock), Qt::TopDockWidgetArea);
+}
+
+} // namespace
