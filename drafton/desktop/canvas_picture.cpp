@@ -30,7 +30,7 @@ const QImage& CanvasPicture::showSheet(const OdDbLayout& layout, const CanvasVie
                                        const CanvasLook& look, RenderOptions options,
                                        TransientEntities transient) {
   m_scene.update();
-  const View& shown = view.view();
+  const View shown = view.view();
   SheetState now{m_scene.revision(), view.block(), shown.center,     shown.scale,
                  shown.size,         look.isDark,  look.highlighted, look.hidden};
   const Sheet sheet =

@@ -27,7 +27,7 @@ OdDbLayoutPtr CanvasView::layout() const {
 }
 
 OdGePoint3d CanvasView::pointAt(const QPointF& pixel) const {
-  OdGePoint3d point = m_view.unproject(pixel);
+  OdGePoint3d point = view().unproject(pixel);
   point.z = m_document.elevation();
   return point;
 }

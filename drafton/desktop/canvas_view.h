@@ -23,15 +23,15 @@ class CanvasView {
   /// Both live longer.
   CanvasView(Document& document, Scene& scene);
 
-  /// Pixels of the device, y down.
-  const View& view() const { return m_view; }
+  /// Pixels of the device, y down; settled, as pictures are.
+  View view() const { return m_view.settled(); }
   /// The block that is shown.
   OdDbObjectId block() const { return m_block; }
   /// The layout that is shown; null for the model.
   OdDbLayoutPtr layout() const;
   /// The place under a pixel, on the drawing's plane.
   OdGePoint3d pointAt(const QPointF& pixel) const;
-  QPointF pixelOf(const OdGePoint3d& point) const { return m_view.projection()(point); }
+  QPointF pixelOf(const OdGePoint3d& point) const { return view().projection()(point); }
   /// The side of a pixel in drawing units.
   double pixelSize() const { return 1 / m_view.scale; }
 

@@ -68,7 +68,10 @@ void Desktop::type(const OdString& text) {
 
 void Desktop::runMacro(const OdString& macro) {
   Q_EMIT aboutToTake();
-  m_engine->currentProcessor().sendText(macro);
+  OdString text = macro;
+  // With nothing to cancel it would take away what is chosen.
+  while (!isBusy() && text.startsWith(QLatin1String("^C"))) text.remove(0, 2);
+  m_engine->currentProcessor().sendText(text);
   m_input.takeUp();
 }
 

@@ -9,9 +9,45 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <cstdio>
+#include <cstdlib>
+
+#include <cstdio>
+#include <cstdlib>
+
 namespace drafton {
+namespace {
+
+constexpr int kExitNoDisplay = 4;
+
+/// True if the environment names a display. What is behind the name, Qt finds out.
+bool hasDisplay() {
+  for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (!qEnvironmentVariableIsEmpty(name)) return true;
+  return false;
+}
+
+[[noreturn]] void exitWithoutDisplay() {
+  std::fputs("drafton: there is no display to open a window on.\n"
+             "'drafton batch' works without one; see 'drafton --help'.\n",
+             stderr);
+  std::_Exit(kExitNoDisplay);
+}
+
+/// Qt ends the process where it cannot reach the display.
+void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtFatalMsg) exitWithoutDisplay();
+  if (type != QtDebugMsg && type != QtInfoMsg)
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+} // namespace
+
 int runDesktop(int& argc, char** argv) {
+  if (!hasDisplay()) exitWithoutDisplay();
+  const QtMessageHandler usual = qInstallMessageHandler(handleStartMessage);
   QApplication application(argc, argv);
+  qInstallMessageHandler(usual);
   TextShapes::install();
   QApplication::setApplicationName(QStringLiteral("Drafton"));
   QApplication::setApplicationVersion(QStringLiteral(DRAFTON_VERSION));

@@ -2,6 +2,10 @@
 
 #include "drafton/icons/command_icon.h"
 
+// Beside the icons of commands stand those of actions that only windows have. Qt wants this outside
+// of namespaces.
+static void bringResources() { Q_INIT_RESOURCE(desktop); }
+
 namespace drafton {
 
 bool isDark(const QPalette& palette) {
@@ -10,6 +14,7 @@ bool isDark(const QPalette& palette) {
 }
 
 QIcon themeIcon(const OdString& command, bool dark) {
+  bringResources();
   QIcon icon;
   for (const int pixels : {16, 24, 32, 48, 64}) {
     const QImage image =

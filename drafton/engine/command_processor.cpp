@@ -37,6 +37,7 @@ struct CommandProcessor::Frame {
   bool isRunning = false; ///< its code is on the stack, so it cannot be destroyed
   bool isCancelled = false;
   bool hasUndoStep = false;
+  bool wasModified = false; ///< the drawing, before the step
   std::optional<OdDbUndoMark> mark; ///< where it began in the step of a command around it
   bool isAnswered = false;          ///< the text that a module's command waited for is there
   bool* succeeded = nullptr;
@@ -376,6 +377,7 @@ void CommandProcessor::openUndoStep(Frame& frame) {
   } else if (!frame.command->has(kNoUndoStep)) {
     database->startUndoRecord(frame.command->name);
     frame.hasUndoStep = true;
+    frame.wasModified = database->isModified();
   }
 }
 
@@ -393,6 +395,7 @@ void CommandProcessor::closeUndoStep(const Frame& frame, Outcome outcome) {
     database->endUndoRecord();
   } else {
     database->abandonUndoRecord();
+    if (!frame.wasModified) database->setSaved();
     m_document->forgetHatchChanges();
   }
   m_document->resumeLockStep();

@@ -4,6 +4,7 @@
 #include "drafton/desktop/command_line.h"
 #include "drafton/desktop/main_window.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -59,6 +60,7 @@ class DesktopFixture : public ::testing::Test {
     for (const drafton::AidRow& row : drafton::draftingAids())
       drafton::DraftingAids(*m_desktop).set(row.aid, false);
     lookAtOrigin();
+    database().setSaved();
   }
   void stop() {
     m_window.reset();
@@ -86,7 +88,11 @@ class DesktopFixture : public ::testing::Test {
         QTest::keyClicks(&m_window->commandLine().edit(), c);
   }
   void press(Qt::Key key) { QTest::keyClick(&m_window->commandLine().edit(), key); }
-  QPoint at(double x, double y) { return canvas().widgetPointOf({x, y, 0}).toPoint(); }
+  QPoint at(double x, double y) {
+    // The window may just be laying itself out.
+    QApplication::processEvents();
+    return canvas().widgetPointOf({x, y, 0}).toPoint();
+  }
   void moveTo(double x, double y) { QTest::mouseMove(&canvas(), at(x, y)); }
   void click(double x, double y, Qt::KeyboardModifiers keys = Qt::NoModifier) {
     moveTo(x, y);

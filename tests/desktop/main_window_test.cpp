@@ -101,7 +101,6 @@ TEST_F(MainWindowTest, ShowsWhatWasAnsweredAndWhatIsAsked) {
 }
 
 TEST_F(MainWindowTest, WheelZoomsAboutTheCursorAndTheMiddleButtonPans) {
-  database().setSaved();
   const QPoint place = at(5, 5);
   QWheelEvent wheel(place, canvas().mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
                     Qt::NoScrollPhase, false);
