@@ -2,6 +2,7 @@
 
 #include "drafton/engine/blocks/block_commands.h"
 #include "drafton/engine/document.h"
+#include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
@@ -15,16 +16,26 @@
 namespace drafton {
 namespace {
 
+/// True if drawings can be written as other programs have them.
+bool hasConverter(CommandContext& context) {
+  OdString command;
+  for (const char* setting : {"DwgConverter", "DwgConverterForSaving"})
+    if (context.engine().application().setting(QLatin1String(setting), command) &&
+        !command.trimmed().isEmpty())
+      return true;
+  return false;
+}
+
 /// A fresh name among the temporary files, for a drawing that stays when this program ends: what
 /// was made of it elsewhere may still need it.
-OdString temporaryDrawing() {
+OdString temporaryDrawing(CommandContext& context) {
   QTemporaryFile place(QDir(QDir::tempPath()).filePath(QStringLiteral("drfXXXXXX.tmp")));
   if (!place.open())
     throw CommandFailure(
         translated(u"There is no place for what is copied: %1").arg(place.errorString()));
   const QFileInfo info(place.fileName());
   QString name = info.fileName().toLower();
-  name.replace(QLatin1String(".tmp"), QLatin1String(".dwg"));
+  name.replace(QLatin1String(".tmp"), QLatin1String(hasConverter(context) ? ".dwg" : ".dxf"));
   return odpath::fromPlatform(info.dir().filePath(name));
 }
 
@@ -35,10 +46,12 @@ Task<void> copyToClipboard(CommandContext& context) {
   if (chosen.empty()) co_return;
   KVPtr<IHostClipboard> clipboard = kvQuery<IHostClipboard>(&context.engine().services());
   if (!clipboard) throw CommandFailure(translated(u"There is no clipboard."));
-  HostClipboardPayload payload{temporaryDrawing(), context.document().path(), {}};
+  HostClipboardPayload payload{temporaryDrawing(context), context.document().path(), {}};
   for (const OdDbObjectId id : chosen) payload.entities.push_back(id.getHandle());
   try {
-    context.database().wblock(chosen, OdGePoint3d())->writeFile(payload.drawing);
+    const OdDbDatabasePtr drawing = context.database().wblock(chosen, OdGePoint3d());
+    writeDrawing(context.engine(), *drawing, payload.drawing,
+                 context.database().originalFileVersion());
   } catch (const OdError& error) {
     throw CommandFailure(error.description());
   }

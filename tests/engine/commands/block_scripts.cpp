@@ -50,6 +50,8 @@ constexpr Script kBlocks[] = {
     {"Replaced", u"WBLOCK|%FOLDER%/wheel.dxf|y|Door", u"CIRCLE 0,0,0 r2", kDoorAndCircle},
     {"NotReplaced", u"WBLOCK|%FOLDER%/wheel.dxf|n", u"CIRCLE 0,0,0 r2", kDoorAndCircle},
 
+    {"Copied", u"COPYCLIP|all|", u"CIRCLE 0,0,0 r2", kDoorAndCircle},
+
     {"Placed", u"INSERTRASTER|%FOLDER%/photo.png|5,6|10|0",
      u"IMAGE at 5,6,0 along 10,0,0 up 0,5,0"},
     {"Turned", u"INSERTRASTER|%FOLDER%/photo.png|5,6||90",

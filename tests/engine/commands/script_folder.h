@@ -18,7 +18,12 @@ class ScriptFolder {
     QImage photo(8, 4, QImage::Format_RGB32);
     photo.fill(Qt::red);
     photo.save(m_folder.filePath(QStringLiteral("photo.png")));
+    // What commands leave among the temporary files goes with the others.
+    qputenv("TMPDIR", m_folder.path().toLocal8Bit());
   }
+  ScriptFolder(const ScriptFolder&) = delete;
+  ScriptFolder& operator=(const ScriptFolder&) = delete;
+  ~ScriptFolder() { m_tmp.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_tmp); }
 
   /// The words with the folder's path in place of %FOLDER%.
   OdString expanded(OdString words) const {
@@ -35,4 +40,5 @@ class ScriptFolder {
   }
 
   QTemporaryDir m_folder;
+  const QByteArray m_tmp = qgetenv("TMPDIR");
 };
