@@ -46,7 +46,6 @@ TcUiListView::TcUiListView(ITcUiPaletteSet& window, TcUiItemPictures& pictures)
   setUp(*m_icons);
   setUp(*m_details);
   m_icons->setResizeMode(QListView::Adjust);
-  m_icons->setUniformItemSizes(true);
   m_icons->setWordWrap(true);
   m_details->setRootIsDecorated(false);
   m_details->setUniformRowHeights(true);
@@ -105,6 +104,8 @@ void TcUiListView::setViewStyle(std::int32_t style) {
   m_icons->setFlow(isWrapped ? QListView::LeftToRight : QListView::TopToBottom);
   m_icons->setWrapping(isWrapped);
   m_icons->setWordWrap(style == kIconStyle);
+  // Names of one and of two lines; the grid keeps the cells alike.
+  m_icons->setUniformItemSizes(style != kIconStyle);
   m_stack->setCurrentWidget(&shownView());
   setFocusProxy(&shownView());
   applyIconSize(iconSizeInForce());
@@ -126,6 +127,10 @@ int TcUiListView::sort(std::int32_t mode) { return m_model.sortBy(mode) ? 0 : kB
 
 bool TcUiListView::eventFilter(QObject* watched, QEvent* event) {
   QAbstractItemView& view = shownView();
+  // A layout that was put off has to be made up for before rows are painted. Qt does so when it
+  // paints the frame around them, and here is none.
+  if (event->type() == QEvent::Paint && watched == view.viewport())
+    view.visualRect(m_model.index(0, 0));
   if (event->type() == QEvent::KeyPress && watched == &view)
     return keyPressed(static_cast<QKeyEvent*>(event)->key());
   if (event->type() == QEvent::MouseButtonPress && watched == view.viewport()) {

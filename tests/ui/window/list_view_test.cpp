@@ -259,6 +259,32 @@ TEST_F(ListView, FollowsWhatIsAddedAndRemoved) {
   EXPECT_TRUE(listed().isEmpty());
 }
 
+int darkPixels(QWidget& widget) {
+  const QImage picture = widget.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixelColor(x, y).lightness() < 100;
+  return count;
+}
+
+TEST_F(ListView, WhatCameWhileTheTreeShowedIsPaintedWhenTheListUnfolds) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("Alpha")});
+  store().values[QStringLiteral("ActiveView")] = OdVariant(1);
+  TcUiPaletteSet& window = open();
+  select(*palette);
+  settle();
+  for (const int style : {6100, 6120, 6130, 6110}) {
+    window.dispatchCommand(kCommandToggleView);
+    window.dispatchCommand(style);
+    settle();
+    EXPECT_GT(darkPixels(view()), 50) << style;
+    window.dispatchCommand(kCommandToggleView);
+    select(*catalog);
+    select(*palette);
+    settle();
+  }
+}
+
 TEST_F(ListView, OfTenThousandToolsOnlyThoseInSightShowTheirPictures) {
   QStringList tools;
   for (int i = 0; i < 10000; ++i) tools << QStringLiteral("Tool %1").arg(i);
