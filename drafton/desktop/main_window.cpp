@@ -1,6 +1,9 @@
 #include "drafton/desktop/main_window.h"
 
 #include "drafton/desktop/command_line.h"
+#include "drafton/desktop/help_window.h"
+#include "drafton/desktop/host_pane.h"
+#include "drafton/desktop/window_services.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -59,9 +62,16 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   connect(&desktop, &Desktop::settled, this, &MainWindow::follow);
   connect(&desktop, &Desktop::variableChanged, this, &MainWindow::follow);
   m_actions->showIcons(isDark(palette()));
+  HostServices& services = desktop.engine().services();
+  services.offer(IHostWindowServices::kId, kvMake<WindowServices>(*this).get());
+  services.offer(IHelpService::kId, kvMake<HelpService>(*this).get());
   resize(1280, 820);
   restorePlaces();
   follow();
+}
+
+MainWindow::~MainWindow() {
+  for (PaneDock* const pane : findChildren<PaneDock*>()) pane->end();
 }
 
 void MainWindow::addCommandLine() {
@@ -89,6 +99,8 @@ void MainWindow::connectActions() {
   m_actions->connectTo(u"saveAs", onDocument(&FileActions::saveAs));
   m_actions->connectTo(u"close", onDocument(&FileActions::close));
   m_actions->connectTo(u"exit", [this] { close(); });
+  m_actions->connectTo(u"help", [this] { showManual(*this, kManualStart); });
+  m_actions->connectTo(u"about", [this] { showAbout(*this); });
   m_actions->connectTo(u"zoomIn", [this] { zoomMiddle(kZoomStep); });
   m_actions->connectTo(u"zoomOut", [this] { zoomMiddle(1 / kZoomStep); });
   m_actions->connectTo(u"selectAll", [this] {

@@ -17,6 +17,8 @@ class MainWindow : public QMainWindow {
 
  public:
   MainWindow(Desktop& desktop, UserDialogs& dialogs);
+  /// Takes the panes of modules away first, whose content is theirs.
+  ~MainWindow() override;
 
   Desktop& desktop() { return m_desktop; }
   FileActions& files() { return *m_files; }

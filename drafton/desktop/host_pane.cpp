@@ -1,0 +1,86 @@
+#include "drafton/desktop/host_pane.h"
+
+#include <QCloseEvent>
+
+namespace drafton {
+namespace {
+
+constexpr int kFirstWidth = 320;
+
+} // namespace
+
+PaneDock::PaneDock(const OdString& name, const OdString& title, QWidget* content,
+                   IHostPaneEvents* events, QMainWindow& window)
+  : QDockWidget(title, &window)
+  , m_events(events) {
+  setObjectName(QStringLiteral("pane.") + name);
+  setWidget(content);
+}
+
+void PaneDock::closeEvent(QCloseEvent* event) {
+  QDockWidget::closeEvent(event);
+  // Whoever hears of it finds the pane hidden.
+  hide();
+  if (m_events) m_events->paneClosed();
+}
+
+void PaneDock::end() {
+  const QPointer<PaneDock> self = this;
+  if (IHostPaneEvents* const events = std::exchange(m_events, nullptr)) events->paneDestroyed();
+  // What is told may have dropped the pane already.
+  delete self;
+}
+
+HostPane::HostPane(QMainWindow& window, const OdString& name, const OdString& title,
+                   QWidget* content, IHostPaneEvents* events)
+  : m_window(window)
+  , m_dock(new PaneDock(name, title, content, events, window)) {
+  if (!window.restoreDockWidget(m_dock)) {
+    window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
+    window.resizeDocks({m_dock}, {kFirstWidth}, Qt::Horizontal);
+  }
+  m_dock->hide();
+}
+
+HostPane::~HostPane() {
+  if (PaneDock* const dock = std::exchange(m_dock, nullptr)) dock->end();
+}
+
+bool HostPane::isVisible() const { return m_dock && m_dock->isVisible(); }
+
+void HostPane::show(bool activate) {
+  if (!m_dock) return;
+  m_dock->show();
+  m_dock->raise();
+  if (activate) {
+    m_dock->activateWindow();
+    if (m_dock->widget()) m_dock->widget()->setFocus();
+  }
+}
+
+void HostPane::hide() {
+  if (m_dock) m_dock->hide();
+}
+
+void HostPane::close() {
+  if (m_dock) m_dock->close();
+}
+
+void HostPane::setTitle(const OdString& title) {
+  if (m_dock) m_dock->setWindowTitle(title);
+}
+
+void HostPane::place(const QPoint& corner, const QSize& size) {
+  if (!m_dock) return;
+  if (m_dock->isFloating()) {
+    m_dock->move(corner);
+    m_dock->resize(size);
+    return;
+  }
+  m_window.resizeDocks({m_dock}, {size.width()}, Qt::Horizontal);
+  m_window.resizeDocks({m_dock}, {size.height()}, Qt::Vertical);
+}
+
+QWidget* HostPane::window() const { return m_dock ? m_dock->window() : nullptr; }
+
+} // namespace drafton

@@ -1,0 +1,52 @@
+// Panes of modules in the main window.
+#pragma once
+
+#include "host/window_services.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPointer>
+
+namespace drafton {
+
+/// A dock that tells whoever owns its content when it is closed, and when it goes.
+class PaneDock : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  PaneDock(const OdString& name, const OdString& title, QWidget* content, IHostPaneEvents* events,
+           QMainWindow& window);
+
+  /// Tells that the pane goes, and destroys it.
+  void end();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  IHostPaneEvents* m_events;
+};
+
+/// A module's hold on its pane. When the window goes first, nothing is left to show, and the hold
+/// stays harmless.
+class HostPane : public CKVUnknownImpl<IHostPane> {
+ public:
+  /// The dock comes hidden, where the settings have it; a new one at the right side.
+  HostPane(QMainWindow& window, const OdString& name, const OdString& title, QWidget* content,
+           IHostPaneEvents* events);
+  ~HostPane() override;
+
+  bool isVisible() const override;
+  void show(bool activate) override;
+  void hide() override;
+  void close() override;
+  void setTitle(const OdString& title) override;
+  void place(const QPoint& corner, const QSize& size) override;
+  QWidget* window() const override;
+
+ private:
+  QMainWindow& m_window;
+  QPointer<PaneDock> m_dock;
+};
+
+} // namespace drafton
