@@ -120,11 +120,19 @@ QImage loadPicture(const OdString& path) { return loadAtMost(path, kUnlimited); 
 QImage loadReducedPicture(const OdString& path) { return loadAtMost(path, kReduced); }
 
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension) {
+  const QByteArray bytes = pictureBytes(picture, extension);
+  return !bytes.isEmpty() && savePictureBytes(bytes, path);
+}
+
+QByteArray pictureBytes(const QImage& picture, const OdString& extension) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  if (!buffer.open(QIODevice::WriteOnly) ||
-      !picture.save(&buffer, extension.toLatin1().constData()))
-    return false;
+  const bool isWritten = buffer.open(QIODevice::WriteOnly) &&
+                         picture.save(&buffer, extension.toLatin1().constData());
+  return isWritten ? bytes : QByteArray();
+}
+
+bool savePictureBytes(const QByteArray& bytes, const OdString& path) {
   // A full disk must not leave half a picture, nor take the former one.
   OdRxSystemServices* const system = odrxSystemServices();
   const OdString fresh = path + QLatin1String(".new");

@@ -30,6 +30,9 @@ QImage loadPicture(const OdString& path);
 QImage loadReducedPicture(const OdString& path);
 /// Writes a picture in the format of an extension; false if that fails.
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension);
+/// The two halves of that. The bytes are empty if the picture cannot be written in the format.
+QByteArray pictureBytes(const QImage& picture, const OdString& extension);
+bool savePictureBytes(const QByteArray& bytes, const OdString& path);
 
 /// A title without what file names may not have, and not too long for one; it may be empty then.
 OdString pictureTitle(const OdString& title);

@@ -31,12 +31,14 @@ struct Arguments {
   bool convertCommands = false; ///< --convert-commands
   bool missing = false;         ///< --missing
   bool rebuild = false;         ///< --rebuild
+  bool blocks = false;          ///< --blocks
 };
 
 /// Where a command writes.
 struct Console {
   QTextStream& out;
   QTextStream& err;
+  bool showsProgress = false; ///< err is a terminal, where a line can be written over
 };
 
 /// One command of the tool.
@@ -58,6 +60,7 @@ ExitCode resaveCommand(const Arguments& arguments, Console& console);
 ExitCode importCommand(const Arguments& arguments, Console& console);
 ExitCode imagesCommand(const Arguments& arguments, Console& console);
 ExitCode exportCommand(const Arguments& arguments, Console& console);
+ExitCode makeCommand(const Arguments& arguments, Console& console);
 
 /// True if the tool makes pictures with these arguments. Most runs need no fonts and start without.
 bool makesPictures(const QStringList& arguments);

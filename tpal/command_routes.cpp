@@ -10,18 +10,16 @@
 namespace tpal {
 namespace {
 
-/// "LINE" as a name for a tool: "Line".
-OdString shownName(const OdString& command) {
-  return command.left(1).toUpper() + command.mid(1).toLower();
+/// The stored path of a file beside this program; empty if it is not there.
+OdString besideProgram(const OdString& name) {
+  const OdString path =
+      odpath::fromPlatform(QCoreApplication::applicationDirPath()) + u'\\' + name;
+  return odrxSystemServices()->fileExists(path) ? path : OdString();
 }
 
 } // namespace
 
-OdString commandRouteMap() {
-  const OdString path = odpath::fromPlatform(QCoreApplication::applicationDirPath()) +
-                        QLatin1String("\\command_routes.xml");
-  return odrxSystemServices()->fileExists(path) ? path : OdString();
-}
+OdString commandRouteMap() { return besideProgram(QStringLiteral("command_routes.xml")); }
 
 bool RouteMenu::queryInterface(KVInterfaceId id, void** out) {
   const bool known = id == IHostCommandMenu::kId || id == IKVUnknown::kId;
@@ -32,18 +30,20 @@ bool RouteMenu::queryInterface(KVInterfaceId id, void** out) {
 const QList<HostMenuEntry>& RouteMenu::entries() {
   if (m_isRead) return m_entries;
   m_isRead = true;
-  QFile file(odpath::toPlatform(commandRouteMap()));
+  QFile file(odpath::toPlatform(besideProgram(QStringLiteral("command_menu.xml"))));
   if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly)) return m_entries;
   QXmlStreamReader xml(&file);
   while (!xml.atEnd()) {
     xml.readNext();
-    if (!xml.isStartElement() || xml.name() != QLatin1String("StartCommand")) continue;
-    const OdString name = xml.attributes().value(QLatin1String("name")).toString();
+    if (!xml.isStartElement() || xml.name() != QLatin1String("MenuCommand")) continue;
+    const auto value = [&](const char* name) {
+      return xml.attributes().value(QLatin1String(name)).toString();
+    };
     m_entries.push_back({.isCommand = true,
-                         .commandName = name,
-                         .label = shownName(name),
-                         .shortText = {},
-                         .macro = QStringLiteral("^C^C_%1 ").arg(name)});
+                         .commandName = value("name"),
+                         .label = value("label"),
+                         .shortText = value("tip"),
+                         .macro = value("macro")});
   }
   return m_entries;
 }

@@ -1,4 +1,4 @@
-// The commands that draw an object of a class, as the program beside this one knows them.
+// The commands of the program beside this one: those of its menus, and which of them draw what.
 #pragma once
 
 #include "host/command_menu.h"
@@ -10,8 +10,8 @@ namespace tpal {
 /// The stored path of the route map beside this program; empty if there is none.
 OdString commandRouteMap();
 
-/// The commands of the route map as entries of a menu, so that tools of several commands can become
-/// tools of one without a window. An entry is called like its command and types it.
+/// The commands of the menus, in English, so that tools can be made of commands, and tools of
+/// several commands become tools of one, without a window. Empty without the program's list.
 class RouteMenu : public IHostCommandMenu {
  public:
   bool queryInterface(KVInterfaceId id, void** out) override;

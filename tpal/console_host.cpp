@@ -5,6 +5,16 @@
 #include <QStandardPaths>
 
 namespace tpal {
+namespace {
+
+/// The previews of a thread that has its own.
+thread_local KVPtr<IHostPreviewService> t_previews;
+
+} // namespace
+
+ConsoleHost::ThreadPreviews::ThreadPreviews() { t_previews = instance().m_previewMaker(); }
+
+ConsoleHost::ThreadPreviews::~ThreadPreviews() { t_previews = nullptr; }
 
 ConsoleHost& ConsoleHost::instance() {
   static ConsoleHost host;
@@ -38,6 +48,7 @@ bool ConsoleHost::Messages::messageBoxWithCheckBox(const OdString&, const OdStri
 bool ConsoleHost::Services::queryInterface(KVInterfaceId id, void** out) {
   if (id == IHostMessages::kId) return m_messages->queryInterface(id, out);
   if (id == IHostCommandMenu::kId) return m_menu->queryInterface(id, out);
+  if (id == IHostPreviewService::kId && t_previews) return t_previews->queryInterface(id, out);
   if (id == IHostPreviewService::kId && previews) return previews->queryInterface(id, out);
   if (id == IHostIconService::kId && icons) return icons->queryInterface(id, out);
   const bool own = id == IHostServices::kId || id == IKVUnknown::kId;

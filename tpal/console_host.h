@@ -8,6 +8,8 @@
 #include "host/services.h"
 #include "tpal/command_routes.h"
 
+#include <functional>
+
 namespace tpal {
 
 /// The catalog tool is a host without documents, commands or windows. What the libraries print is
@@ -25,6 +27,21 @@ class ConsoleHost {
   void setPreviews(KVPtr<IHostPreviewService> previews) {
     m_services.previews = std::move(previews);
   }
+
+  /// Makes a service for the thread that calls it, so that several can make pictures at once; null
+  /// for none.
+  using PreviewMaker = std::function<KVPtr<IHostPreviewService>()>;
+  void setPreviewMaker(PreviewMaker maker) { m_previewMaker = std::move(maker); }
+  bool canMakePreviewsInThreads() const { return m_previewMaker != nullptr; }
+
+  /// Gives the thread in which it lives previews of its own.
+  class ThreadPreviews {
+   public:
+    ThreadPreviews();
+    ThreadPreviews(const ThreadPreviews&) = delete;
+    ThreadPreviews& operator=(const ThreadPreviews&) = delete;
+    ~ThreadPreviews();
+  };
 
   /// Gives the program's own icons; null for none.
   void setIcons(KVPtr<IHostIconService> icons) { m_services.icons = std::move(icons); }
@@ -82,6 +99,7 @@ class ConsoleHost {
   RouteMenu m_menu;
   Services m_services{&m_messages, &m_menu};
   Application m_application;
+  PreviewMaker m_previewMaker;
 };
 
 } // namespace tpal

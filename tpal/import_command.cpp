@@ -41,17 +41,6 @@ tc::OdTcForeignPalettes palettesIn(const QStringList& words) {
   return found;
 }
 
-/// The catalog that takes the palettes; a new one if the folder has none.
-LoadedCatalog openTarget(const OdString& folder) {
-  LoadedCatalog target = loadCatalog(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
-  if (target.isRead || target.catalog->isUnread()) return target;
-  target.catalog->load(target.file);
-  target.catalog->setId(odrxSystemServices()->createGuid());
-  target.catalog->setName(QStringLiteral("Tool Palettes"));
-  target.isRead = true;
-  return target;
-}
-
 bool hasSomethingLeftOut(const tc::OdTcImportReport& report) {
   return std::any_of(report.tools.begin(), report.tools.end(), [](const tc::OdTcImportedTool& t) {
     return t.fate == tc::OdTcToolFate::kSkipped || t.picture >= tc::OdTcPictureFate::kRefused ||
@@ -77,7 +66,7 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
     return kUsage;
   }
   const ModuleClasses classes;
-  const LoadedCatalog target = openTarget(arguments.into);
+  const LoadedCatalog target = openOrNewCatalog(arguments.into);
   if (!target.isRead) {
     for (const OdString& message : target.messages) console.err << "tpal: " << message << "\n";
     return kFailed;

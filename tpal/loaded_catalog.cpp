@@ -35,6 +35,16 @@ LoadedCatalog loadCatalog(const OdString& folder) {
   return result;
 }
 
+LoadedCatalog openOrNewCatalog(const OdString& folder) {
+  LoadedCatalog target = loadCatalog(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
+  if (target.isRead || target.catalog->isUnread()) return target;
+  target.catalog->load(target.file);
+  target.catalog->setId(odrxSystemServices()->createGuid());
+  target.catalog->setName(QStringLiteral("Tool Palettes"));
+  target.isRead = true;
+  return target;
+}
+
 namespace {
 
 /// Which of an agent's own properties say what the tool does, by kind.

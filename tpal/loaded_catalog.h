@@ -29,6 +29,8 @@ struct LoadedCatalog {
 
 /// Reads the catalog of a folder.
 LoadedCatalog loadCatalog(const OdString& folder);
+/// The same for a catalog that takes something; a new one, on no disk yet, if the folder has none.
+LoadedCatalog openOrNewCatalog(const OdString& folder);
 
 /// What a tool does, in short.
 struct ToolSummary {

@@ -10,6 +10,12 @@
 
 #include <cstdio>
 
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace {
 
 /// A pattern of the file beside the program, which is read when the first one is asked for.
@@ -33,10 +39,18 @@ class Patterns {
   std::optional<OdHatchPatternFile> m_file;
 };
 
+bool isTerminal(std::FILE* stream) {
+#ifdef _WIN32
+  return _isatty(_fileno(stream)) != 0;
+#else
+  return isatty(fileno(stream)) != 0;
+#endif
+}
+
 int run(const QStringList& arguments) {
   QTextStream out(stdout);
   QTextStream err(stderr);
-  tpal::Console console{out, err};
+  tpal::Console console{out, err, isTerminal(stderr)};
   return tpal::runTool(arguments, console);
 }
 
@@ -49,6 +63,10 @@ int main(int argc, char** argv) {
   }
   const drafton::OffscreenApplication application(argc, argv);
   tpal::ConsoleHost::instance().setPreviews(kvMake<drafton::PreviewService>(Patterns()).get());
+  tpal::ConsoleHost::instance().setPreviewMaker([]() -> KVPtr<IHostPreviewService> {
+    drafton::OffscreenApplication::prepareThread();
+    return kvMake<drafton::PreviewService>(Patterns()).get();
+  });
   tpal::ConsoleHost::instance().setIcons(kvMake<drafton::IconService>().get());
   return run(QCoreApplication::arguments().mid(1));
 }

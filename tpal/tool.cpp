@@ -29,6 +29,11 @@ constexpr Command kCommands[] = {
     {"export", "export DIR PALETTE FILE.xtp [--json]",
      "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
      "", 3, 3, false, exportCommand},
+    {"make", "make DIR PALETTE FILE... [--blocks] [--group NAME] [--dry-run] [--json]",
+     "Makes tools with pictures: of drawings, or of each block in them; of pictures; of all of "
+     "these\n      in a folder; of commands, by their names. The catalog and the palette are made "
+     "if they\n      are not there.",
+     "--blocks --group --dry-run ", 3, kAnyNumber, true, makeCommand},
     {"images", "images DIR [--missing | --rebuild] [--json]",
      "Says which tools lack a picture at which size; makes those that are missing, or all anew.",
      "--missing --rebuild ", 1, 1, true, imagesCommand},
@@ -48,6 +53,7 @@ void printHelp(QTextStream& out) {
          "  --dry-run    only looks and reports\n"
          "  --map OLD=NEW  drawings below the folder OLD are looked for below NEW from now on\n"
          "  --convert-commands  makes command tools of other products' tools that are but a macro\n"
+         "  --blocks     a tool for each block of a drawing, not one for all of it\n"
          "  --missing    makes the pictures that are missing\n"
          "  --rebuild    makes all pictures anew\n"
          "  --help       this text\n"
@@ -94,6 +100,7 @@ constexpr Option kOptions[] = {
     {"--convert-commands", nullptr, takeSwitch<&Arguments::convertCommands>},
     {"--missing", nullptr, takeSwitch<&Arguments::missing>},
     {"--rebuild", nullptr, takeSwitch<&Arguments::rebuild>},
+    {"--blocks", nullptr, takeSwitch<&Arguments::blocks>},
 };
 
 const Option* findOption(const Command& command, const OdString& word) {

@@ -22,7 +22,9 @@ OffscreenApplication::Environment::Environment() {
 
 OffscreenApplication::OffscreenApplication(int& argc, char** argv)
   : m_application(argc, argv) {
-  TextShapes::install();
+  prepareThread();
 }
+
+void OffscreenApplication::prepareThread() { TextShapes::install(); }
 
 } // namespace drafton

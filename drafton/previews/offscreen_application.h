@@ -11,6 +11,9 @@ class OffscreenApplication {
  public:
   OffscreenApplication(int& argc, char** argv);
 
+  /// Lets the calling thread make previews as well, of drawings that no other thread looks at.
+  static void prepareThread();
+
  private:
   /// Before the application, which looks at it.
   struct Environment {

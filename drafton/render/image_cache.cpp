@@ -44,7 +44,7 @@ QImage toned(const QImage& image, const ImageTones& tones, QRgb ground) {
 } // namespace
 
 ImageCache& ImageCache::instance() {
-  static ImageCache cache;
+  thread_local ImageCache cache;
   return cache;
 }
 

@@ -48,7 +48,7 @@ TextShapes::TextShapes() = default;
 TextShapes::~TextShapes() = default;
 
 TextShapes& TextShapes::instance() {
-  static TextShapes shapes;
+  thread_local TextShapes shapes;
   return shapes;
 }
 

@@ -39,9 +39,9 @@ class TextShapes : public OdGiTextMetrics {
   TextShapes();
   ~TextShapes() override;
 
-  /// The program's own; made with the first call.
+  /// The calling thread's own; made with its first call.
   static TextShapes& instance();
-  /// Has texts measured with fonts from now on.
+  /// Has texts measured with fonts from now on, in the calling thread.
   static void install();
 
   /// `tracking` is added behind each character. The result is valid until the next call.

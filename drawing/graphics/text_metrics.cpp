@@ -15,7 +15,8 @@ class Estimate : public OdGiTextMetrics {
 };
 
 const Estimate g_estimate;
-const OdGiTextMetrics* g_current = &g_estimate;
+// Fonts are for one thread; drawings can be looked at in several.
+thread_local const OdGiTextMetrics* g_current = &g_estimate;
 
 } // namespace
 

@@ -101,9 +101,10 @@ OdTcCatalog* catalogFor(const OdString& palette) {
   return around ? around : findCatalog({});
 }
 
-int make(OdTcCatalog& catalog, const OdString& palette, const Subjects& subjects) {
+int make(OdTcCatalog& catalog, const OdString& palette, const OdString& group,
+         const Subjects& subjects) {
   const OdTcCatalogPtr held(&catalog);
-  OdTcPaletteFilling filling(catalog, palette);
+  OdTcPaletteFilling filling(catalog, palette, group);
   OdTcToolMaker maker;
   QStringList lines;
   for (const Subject& subject : subjects) {
@@ -129,6 +130,10 @@ int make(OdTcCatalog& catalog, const OdString& palette, const Subjects& subjects
 int runMake(IHostDocument* document) {
   const auto palette = ask(document, u"Palette: ");
   if (!palette || palette->isEmpty()) return kFailed;
+  // A palette that stands in no group is not among those that offer their tools.
+  const auto group = findPalette(*palette) ? std::optional<OdString>(OdString())
+                                           : ask(document, u"Group of the new palette <none>: ");
+  if (!group) return kFailed;
   const auto word =
       ask(document, u"Make tools from [Object/Block/Drawing/File/Command/Paste] <Object>: ");
   if (!word) return kFailed;
@@ -143,7 +148,7 @@ int runMake(IHostDocument* document) {
     return kFailed;
   }
   const Subjects subjects = source->ask(document);
-  return subjects.empty() ? kFailed : make(*catalog, *palette, subjects);
+  return subjects.empty() ? kFailed : make(*catalog, *palette, *group, subjects);
 }
 
 } // namespace
