@@ -8,19 +8,51 @@
 #include "tools/action_agent.h"
 #include "tools/tool_guard.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace tc {
 namespace {
 
-/// Calls `operation` of each general property that the agent does not hide.
-void walkProperties(const OdTcToolImpl& tool, OdDbDatabase* database,
-                    void (OdTcProperty::*operation)(OdDbDatabase*)) {
+/// Calls `act` with each general property that the agent does not hide, in the order of the bag,
+/// and with its name.
+template <class Act>
+void walkProperties(const OdTcToolImpl& tool, Act act) {
   const OdTcPropertyBag* const bag = tool.getGeneralProperties();
-  if (!bag || !database) return;
+  if (!bag) return;
   const OdTcToolActionAgent* const agent = tool.getActionAgent();
   const OdTcPropertyFilter* const filter = agent ? agent->propertyFilter() : nullptr;
   const OdTcEnumPtr<OdTcProperty> properties = bag->enumProperties();
   while (OdTcProperty* const property = properties->next())
-    if (!filter || !filter->contains(property->getDisplayName())) (property->*operation)(database);
+    if (const OdString name = property->getDisplayName(); !filter || !filter->contains(name))
+      act(*property, name);
+}
+
+void applyProperties(const OdTcToolImpl& tool, OdDbDatabase* database) {
+  if (!database) return;
+  walkProperties(
+      tool, [&](OdTcProperty& property, const OdString&) { property.applyToDatabase(database); });
+}
+
+void restoreProperties(const OdTcToolImpl& tool, OdDbDatabase* database) {
+  if (!database) return;
+  struct Named {
+    OdTcProperty* property;
+    OdString name;
+  };
+  std::vector<Named> all;
+  walkProperties(tool, [&](OdTcProperty& property, const OdString& name) {
+    all.push_back({&property, name});
+  });
+  // Of several properties of one name the first has kept the drawing's value, the others those of
+  // the ones before them.
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const auto isNamesake = [&](const Named& other) { return other.name == all[i].name; };
+    if (std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(i), isNamesake))
+      continue;
+    for (auto at = all.rbegin(); at != all.rend(); ++at)
+      if (isNamesake(*at)) at->property->restoreToDatabase(database);
+  }
 }
 
 void printNamed(const OdString& text, const OdString& name) {
@@ -36,7 +68,7 @@ void OdTcToolImpl::leaveGuard() {
 bool OdTcToolImpl::applyGeneralProperties(IHostDocument* document) {
   const HostDocumentLock lock(document);
   if (lock.isRefused()) return false;
-  walkProperties(*this, document->database(), &OdTcProperty::applyToDatabase);
+  applyProperties(*this, document->database());
   return true;
 }
 
@@ -87,7 +119,7 @@ void OdTcToolImpl::finish() {
   if (!m_document) return;
   const OdTcToolPtr self(this);
   IHostDocument* const document = m_document;
-  walkProperties(*this, document->database(), &OdTcProperty::restoreToDatabase);
+  restoreProperties(*this, document->database());
   if (OdTcToolActionAgent* const agent = getActionAgent()) agent->endExecution(document);
   abandonRun();
 }

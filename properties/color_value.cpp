@@ -12,6 +12,11 @@ OdCmColor useCurrentColor() {
   return color;
 }
 
+bool isEntityColor(const OdCmColor& color) {
+  return color.isByLayer() || color.isByBlock() || color.isByColor() || color.isByACI() ||
+         color.isForeground();
+}
+
 bool isUseCurrentColor(const OdCmColor& color) {
   return color.bookName().compare(QLatin1String("curr_color"), Qt::CaseInsensitive) == 0;
 }

@@ -36,6 +36,10 @@ inline std::optional<OdCmColor> colorFromVariant(const OdVariant& value) {
   return color;
 }
 
+/// True for colours that entities can have: by layer, by block, foreground, of the palette, and
+/// true colours. Files can hold others, and methods that nobody knows.
+bool isEntityColor(const OdCmColor& color);
+
 /// The colour that stands for "-- use current" in an editor.
 OdCmColor useCurrentColor();
 /// True for a colour of the book "curr_color", whatever its case.

@@ -13,11 +13,9 @@ namespace tc {
 namespace {
 
 template <class Record>
-constexpr RecordInfoKind kindOf(QStringView element, QStringView recordElement,
-                                bool isTakeable = true) {
+constexpr RecordInfoKind kindOf(QStringView element, QStringView recordElement) {
   return {element, recordElement, []() -> OdTcSymbolTableRecordPtr { return odrxMake<Record>(); },
-          [](const OdRxObject* object) { return dynamic_cast<const Record*>(object) != nullptr; },
-          isTakeable};
+          [](const OdRxObject* object) { return dynamic_cast<const Record*>(object) != nullptr; }};
 }
 
 } // namespace
@@ -29,7 +27,7 @@ constexpr RecordInfoKind kLineTypeInfo =
 constexpr RecordInfoKind kTextStyleInfo =
     kindOf<OdTcTextStyleTableRecordImpl>(u"TextStyleCreateInfo", u"TextstyleTableRecord");
 constexpr RecordInfoKind kDimStyleInfo =
-    kindOf<OdTcDimStyleTableRecordImpl>(u"DimStyleCreateInfo", u"DimstyleTableRecord", false);
+    kindOf<OdTcDimStyleTableRecordImpl>(u"DimStyleCreateInfo", u"DimstyleTableRecord");
 
 void OdTcColorPropertyCreateInfoImpl::writeFields(OdTcFiler* filer) {
   if (!m_color) return;

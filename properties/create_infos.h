@@ -43,8 +43,6 @@ struct RecordInfoKind {
   QStringView recordElement; ///< of the snapshot
   OdTcSymbolTableRecordPtr (*makeRecord)();
   bool (*isRecord)(const OdRxObject* object);
-  /// A snapshot can be taken from a drawing.
-  bool isTakeable;
 };
 extern const RecordInfoKind kLayerInfo, kLineTypeInfo, kTextStyleInfo, kDimStyleInfo;
 

@@ -11,6 +11,7 @@
 #include "properties/owner_item.h"
 #include "properties/property_basic_info_impl.h"
 #include "properties/stored_field.h"
+#include "properties/value_words.h"
 
 #include <algorithm>
 #include <optional>
@@ -52,6 +53,7 @@ class OdTcDatabasePropertyImpl::Component final : public IKVUnknown {
 /// What only a run or the inspector needs.
 struct OdTcDatabasePropertyImpl::Extras {
   CurrentValue saved;
+  bool isImposed = false;
   std::unique_ptr<Component> component;
 };
 
@@ -153,7 +155,7 @@ void OdTcDatabasePropertyImpl::setRecordName(const OdString& name) {
   IHostDocument* const document = host::curDocument();
   const OdDbDatabase* const database = document ? document->database() : nullptr;
   const bool isWord = std::ranges::find(kind().words, QStringView(name)) != kind().words.end();
-  if (database && !isWord && kind().record->isTakeable) {
+  if (database && !isWord) {
     const OdDbObjectId table = kind().record->makeRecord()->tableId(database);
     if (const OdDbObjectId found = table.openAs<OdDbSymbolTable>()->getAt(name)) {
       takeRecord(found);
@@ -166,18 +168,31 @@ void OdTcDatabasePropertyImpl::setRecordName(const OdString& name) {
 }
 
 OdDbObjectId OdTcDatabasePropertyImpl::recordIn(OdDbDatabase* database) const {
-  const RecordInfoKind* const info = kind().record;
-  if (!info) return {};
+  if (!kind().record) return {};
   if (const OdTcSymbolTableRecord* const snapshot = record();
       snapshot && !snapshot->recordName().isEmpty())
     return ensureRecord(database, snapshot);
   // Without a snapshot the name alone can lead to a record that the drawing has.
   if (text().isEmpty()) return {};
-  const OdDbObjectId table = info->makeRecord()->tableId(database);
-  return table.openAs<OdDbSymbolTable>()->getAt(text());
+  const QStringView word = storedWord(text());
+  const bool isWord = std::ranges::find(kind().words, word) != kind().words.end();
+  return usableRecord(kind().record->makeRecord()->tableId(database),
+                      isWord ? word.toString() : text());
 }
 
 // --- a run
+
+namespace {
+
+/// The record without which a value cannot be put back; null if it needs none.
+const OdDbObjectId* recordOf(const CurrentValue& value) {
+  if (const auto* const id = std::get_if<OdDbObjectId>(&value)) return id;
+  if (const auto* const style = std::get_if<CurrentDimStyle>(&value)) return &style->id;
+  const auto* const style = std::get_if<CurrentPlotStyle>(&value);
+  return style && style->type == OdDb::kPlotStyleNameById ? &style->id : nullptr;
+}
+
+} // namespace
 
 bool OdTcDatabasePropertyImpl::hasSavedValue() const {
   return m_extras && m_extras->saved.index() != 0;
@@ -189,32 +204,43 @@ void OdTcDatabasePropertyImpl::applyToDatabase(OdDbDatabase* database) {
   // Kept even if nothing is imposed: the tool's own command may change the value, and a run leaves
   // no value behind.
   extras().saved = row.current(*database);
+  m_extras->isImposed = false;
   if (m_basicInfo && m_basicInfo->isUnspecified()) return;
   const CurrentValue wanted = row.wanted(*this, *database);
-  if (wanted.index() != 0) row.setCurrent(*database, wanted);
+  if (wanted.index() == 0) return;
+  m_extras->isImposed = true;
+  try {
+    row.setCurrent(*database, wanted);
+  } catch (const OdError_NotThatKindOfClass&) {
+    throw;
+  } catch (const OdError& error) {
+    // The run goes on without the value.
+    tellFailure(QStringLiteral("\nCannot set the drawing's %s: %s"), error);
+  }
 }
 
 void OdTcDatabasePropertyImpl::restoreToDatabase(OdDbDatabase* database) {
   if (m_frozen || !database || !hasSavedValue()) return;
   const CurrentValue saved = std::exchange(m_extras->saved, CurrentValue());
+  const bool wasImposed = m_extras->isImposed;
   if (!m_extras->component) m_extras.reset();
   const GeneralPropertyKind& row = kind();
-  // A drawing that holds the value already is not to count as changed.
-  if (row.current(*database) == saved) return;
+  // A drawing that holds the value already is not to count as changed. What was imposed can have
+  // changed more than the value tells.
+  if (!wasImposed && row.current(*database) == saved) return;
   // The record that was current can be gone by now: the drawing then keeps what it has.
-  if (const auto* const id = std::get_if<OdDbObjectId>(&saved); id && !id->isValid()) return;
-  if (const auto* const style = std::get_if<CurrentPlotStyle>(&saved);
-      style && style->type == OdDb::kPlotStyleNameById && !style->id.isValid())
-    return;
+  if (const OdDbObjectId* const id = recordOf(saved); id && !id->isValid()) return;
   try {
     row.setCurrent(*database, saved);
   } catch (const OdError& error) {
     // A file can bring values that no drawing takes back. The other properties are restored all the
     // same.
-    host::print(
-        formatText(host::translate(QStringLiteral("\nCannot put back the drawing's %s: %s")),
-                   getDisplayName(), error.description()));
+    tellFailure(QStringLiteral("\nCannot put back the drawing's %s: %s"), error);
   }
+}
+
+void OdTcDatabasePropertyImpl::tellFailure(const OdString& text, const OdError& error) const {
+  host::print(formatText(host::translate(text), getDisplayName(), error.description()));
 }
 
 bool OdTcDatabasePropertyImpl::captureFromObject(const OdDbObject* object) {
@@ -234,7 +260,7 @@ OdVariant OdTcDatabasePropertyImpl::getValue() const {
   const OdString stored =
       snapshot && !snapshot->recordName().isEmpty() ? snapshot->recordName() : text();
   for (const QStringView word : row.words)
-    if (stored == word) return host::translate(stored);
+    if (stored == word || storedWord(stored) == word) return host::translate(word.toString());
   return stored;
 }
 

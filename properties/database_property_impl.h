@@ -62,7 +62,8 @@ class OdTcDatabasePropertyImpl : public OdTcPropertyImplBase<OdTcDatabasePropert
   /// name is kept, and one of another name goes.
   void setRecordName(const OdString& name);
   /// The drawing's record of the snapshot's name, or of the text's; made from the snapshot if the
-  /// drawing has none. Null if that cannot be done.
+  /// drawing has none. Null if that cannot be done, of which the user is told unless there is just
+  /// no such record.
   OdDbObjectId recordIn(OdDbDatabase* database) const;
 
   /// The property as a component of the host, for the inspector. The component shares the
@@ -81,6 +82,8 @@ class OdTcDatabasePropertyImpl : public OdTcPropertyImplBase<OdTcDatabasePropert
  private:
   class Component;
   struct Extras;
+  /// Prints `text` with the property's name and the error's description.
+  void tellFailure(const OdString& text, const OdError& error) const;
   Extras& extras();
   OdTcPersist* self() const { return const_cast<OdTcDatabasePropertyImpl*>(this); }
   OdTcPropertyCreateInfoBase* createInfo() const;

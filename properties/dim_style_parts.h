@@ -1,6 +1,7 @@
 // The linked records of a dimension style's snapshot: its colours, text style and line types.
 #pragma once
 
+#include "drawing/tables/dim_vars.h"
 #include "module/persist_impl.h"
 #include "properties/property.h"
 
@@ -8,6 +9,8 @@
 
 #include <array>
 #include <cstdint>
+
+class OdDbDatabase;
 
 namespace tc {
 
@@ -24,10 +27,18 @@ enum class DimStylePart : std::uint8_t {
 };
 inline constexpr std::size_t kDimStylePartCount = 8;
 
+class OdTcDimStylePart;
+using OdTcDimStylePartPtr = OdSmartPtr<OdTcDimStylePart>;
+
 struct DimStylePartRow {
   QStringView element;
   QStringView child; ///< the element of the one property that the part holds
   bool (*isProperty)(const OdRxObject* object);
+  /// The part of a drawing's style; null if the style is linked to nothing there.
+  OdTcDimStylePartPtr (*take)(const OdDbDimVarValues& from);
+  /// Links a drawing's style to what the property holds, which is made in the drawing if need be.
+  /// What cannot be had leaves the style as it is.
+  void (*give)(const OdTcDatabaseProperty& property, OdDbDimVarValues& to, OdDbDatabase& database);
 };
 /// The row of a part.
 const DimStylePartRow& dimStylePartRow(DimStylePart part);
@@ -52,8 +63,6 @@ class OdTcDimStylePart : public OdTcPersistImpl<OdTcPersist> {
  private:
   OdTcDatabasePropertyPtr m_property;
 };
-using OdTcDimStylePartPtr = OdSmartPtr<OdTcDimStylePart>;
-
 template <DimStylePart Part>
 class OdTcDimStylePartImpl final : public OdTcDimStylePart {
  public:

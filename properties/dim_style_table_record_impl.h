@@ -13,6 +13,7 @@ namespace tc {
 class OdTcDimStyleTableRecordImpl final : public OdTcSymbolTableRecordImplBase {
  public:
   OdString elementName() const override { return QStringLiteral("DimstyleTableRecord"); }
+  QStringView what() const override { return u"dimension style"; }
   const OdTcDimStyleVariables& variables() const { return m_variables; }
   OdTcDimStyleVariables& variables() { return m_variables; }
   /// May be null. Borrowed.

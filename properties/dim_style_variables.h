@@ -1,6 +1,7 @@
-// The variables of a dimension style's snapshot.
+// The variables of a dimension style's snapshot: one table for files and drawings.
 #pragma once
 
+#include "properties/dim_style_values.h"
 #include "properties/stored_field.h"
 
 #include <array>
@@ -86,79 +87,108 @@ struct OdTcDimStyleVariables {
 
 namespace dim_style {
 
-using Variables = OdTcDimStyleVariables;
-using Field = StoredField<Variables>;
+using Stored = OdTcDimStyleVariables;
+using Drawn = OdDbDimVarValues;
+using Field = StoredField<Stored>;
+
+/// One variable: what it is called in a file, and its way from a drawing's style and into one.
+struct Variable {
+  Field field;
+  void (*take)(Stored& to, const Drawn& from);
+  /// False, and nothing is changed, if no drawing's style can have the value.
+  bool (*give)(const Stored& from, Drawn& to, const Destination& destination);
+  /// The flag of a drawing's style without which its value counts for nothing; null: it counts.
+  bool Drawn::*onlyIf = nullptr;
+};
+
+template <auto StoredMember, auto DrawnMember>
+constexpr Variable variable(QStringView name, FieldForm form = FieldForm::kPlain,
+                            bool Drawn::*onlyIf = nullptr) {
+  return {Field{name, StoredMember, form},
+          [](Stored& to, const Drawn& from) { takeValue(to.*StoredMember, from.*DrawnMember); },
+          [](const Stored& from, Drawn& to, const Destination& destination) {
+            return giveValue(from.*StoredMember, to.*DrawnMember, destination);
+          },
+          onlyIf};
+}
 
 /// Two names have mixed case, and one flag alone is written as a native boolean value.
 inline constexpr std::array kVariables = {
-    Field{u"dimadec", &Variables::dimadec},
-    Field{u"dimalt", &Variables::dimalt},
-    Field{u"dimaltd", &Variables::dimaltd},
-    Field{u"dimaltf", &Variables::dimaltf},
-    Field{u"dimaltrnd", &Variables::dimaltrnd},
-    Field{u"dimalttd", &Variables::dimalttd},
-    Field{u"dimalttz", &Variables::dimalttz},
-    Field{u"dimasz", &Variables::dimasz},
-    Field{u"dimatfit", &Variables::dimatfit},
-    Field{u"dimaunit", &Variables::dimaunit},
-    Field{u"dimazin", &Variables::dimazin},
-    Field{u"dimcen", &Variables::dimcen},
-    Field{u"dimdec", &Variables::dimdec},
-    Field{u"dimdle", &Variables::dimdle},
-    Field{u"dimdli", &Variables::dimdli},
-    Field{u"dimdsep", &Variables::dimdsep},
-    Field{u"dimexe", &Variables::dimexe},
-    Field{u"dimexo", &Variables::dimexo},
-    Field{u"dimfrac", &Variables::dimfrac},
-    Field{u"dimgap", &Variables::dimgap},
-    Field{u"dimjust", &Variables::dimjust},
-    Field{u"dimlfac", &Variables::dimlfac},
-    Field{u"dimlim", &Variables::dimlim},
-    Field{u"dimlunit", &Variables::dimlunit},
-    Field{u"dimlwd", &Variables::dimlwd},
-    Field{u"dimlwe", &Variables::dimlwe},
-    Field{u"dimrnd", &Variables::dimrnd},
-    Field{u"dimsah", &Variables::dimsah},
-    Field{u"dimscale", &Variables::dimscale},
-    Field{u"dimsd1", &Variables::dimsd1},
-    Field{u"dimsd2", &Variables::dimsd2},
-    Field{u"dimse1", &Variables::dimse1},
-    Field{u"dimse2", &Variables::dimse2},
-    Field{u"dimsoxd", &Variables::dimsoxd},
-    Field{u"dimtad", &Variables::dimtad},
-    Field{u"dimtdec", &Variables::dimtdec},
-    Field{u"dimtfac", &Variables::dimtfac},
-    Field{u"dimtih", &Variables::dimtih},
-    Field{u"dimtix", &Variables::dimtix},
-    Field{u"dimtm", &Variables::dimtm},
-    Field{u"dimtmove", &Variables::dimtmove},
-    Field{u"dimtofL", &Variables::dimtofl},
-    Field{u"dimtoh", &Variables::dimtoh},
-    Field{u"dimtoL", &Variables::dimtol},
-    Field{u"dimtolj", &Variables::dimtolj},
-    Field{u"dimtp", &Variables::dimtp},
-    Field{u"dimtsz", &Variables::dimtsz},
-    Field{u"dimtvp", &Variables::dimtvp},
-    Field{u"dimtxt", &Variables::dimtxt},
-    Field{u"dimtzin", &Variables::dimtzin},
-    Field{u"dimupt", &Variables::dimupt},
-    Field{u"dimzin", &Variables::dimzin},
-    Field{u"dimfxlon", &Variables::dimfxlon, FieldForm::kNativeFlag},
-    Field{u"dimfxl", &Variables::dimfxl},
-    Field{u"dimfixedext", &Variables::dimfixedext},
-    Field{u"dimjogang", &Variables::dimjogang},
-    Field{u"dimarcsym", &Variables::dimarcsym},
-    Field{u"dimtfill", &Variables::dimtfill},
-    Field{u"dimtxtdirection", &Variables::dimtxtdirection},
-    Field{u"dimaltz", &Variables::dimaltz},
-    Field{u"dimaltmzf", &Variables::dimaltmzf},
-    Field{u"dimapost", &Variables::dimapost},
-    Field{u"dimpost", &Variables::dimpost},
-    Field{u"dimblk", &Variables::dimblk},
-    Field{u"dimblk1", &Variables::dimblk1},
-    Field{u"dimblk2", &Variables::dimblk2},
-    Field{u"dimldrblk", &Variables::dimldrblk},
+    variable<&Stored::dimadec, &Drawn::dimadec>(u"dimadec"),
+    variable<&Stored::dimalt, &Drawn::dimalt>(u"dimalt"),
+    variable<&Stored::dimaltd, &Drawn::dimaltd>(u"dimaltd"),
+    variable<&Stored::dimaltf, &Drawn::dimaltf>(u"dimaltf"),
+    variable<&Stored::dimaltrnd, &Drawn::dimaltrnd>(u"dimaltrnd"),
+    variable<&Stored::dimalttd, &Drawn::dimalttd>(u"dimalttd"),
+    variable<&Stored::dimalttz, &Drawn::dimalttz>(u"dimalttz"),
+    variable<&Stored::dimasz, &Drawn::dimasz>(u"dimasz"),
+    variable<&Stored::dimatfit, &Drawn::dimatfit>(u"dimatfit"),
+    variable<&Stored::dimaunit, &Drawn::dimaunit>(u"dimaunit"),
+    variable<&Stored::dimazin, &Drawn::dimazin>(u"dimazin"),
+    variable<&Stored::dimcen, &Drawn::dimcen>(u"dimcen"),
+    variable<&Stored::dimdec, &Drawn::dimdec>(u"dimdec"),
+    variable<&Stored::dimdle, &Drawn::dimdle>(u"dimdle"),
+    variable<&Stored::dimdli, &Drawn::dimdli>(u"dimdli"),
+    variable<&Stored::dimdsep, &Drawn::dimdsep>(u"dimdsep"),
+    variable<&Stored::dimexe, &Drawn::dimexe>(u"dimexe"),
+    variable<&Stored::dimexo, &Drawn::dimexo>(u"dimexo"),
+    variable<&Stored::dimfrac, &Drawn::dimfrac>(u"dimfrac"),
+    variable<&Stored::dimgap, &Drawn::dimgap>(u"dimgap"),
+    variable<&Stored::dimjust, &Drawn::dimjust>(u"dimjust"),
+    variable<&Stored::dimlfac, &Drawn::dimlfac>(u"dimlfac"),
+    variable<&Stored::dimlim, &Drawn::dimlim>(u"dimlim"),
+    variable<&Stored::dimlunit, &Drawn::dimlunit>(u"dimlunit"),
+    variable<&Stored::dimlwd, &Drawn::dimlwd>(u"dimlwd"),
+    variable<&Stored::dimlwe, &Drawn::dimlwe>(u"dimlwe"),
+    variable<&Stored::dimrnd, &Drawn::dimrnd>(u"dimrnd"),
+    variable<&Stored::dimsah, &Drawn::dimsah>(u"dimsah"),
+    variable<&Stored::dimscale, &Drawn::dimscale>(u"dimscale"),
+    variable<&Stored::dimsd1, &Drawn::dimsd1>(u"dimsd1"),
+    variable<&Stored::dimsd2, &Drawn::dimsd2>(u"dimsd2"),
+    variable<&Stored::dimse1, &Drawn::dimse1>(u"dimse1"),
+    variable<&Stored::dimse2, &Drawn::dimse2>(u"dimse2"),
+    variable<&Stored::dimsoxd, &Drawn::dimsoxd>(u"dimsoxd"),
+    variable<&Stored::dimtad, &Drawn::dimtad>(u"dimtad"),
+    variable<&Stored::dimtdec, &Drawn::dimtdec>(u"dimtdec"),
+    variable<&Stored::dimtfac, &Drawn::dimtfac>(u"dimtfac"),
+    variable<&Stored::dimtih, &Drawn::dimtih>(u"dimtih"),
+    variable<&Stored::dimtix, &Drawn::dimtix>(u"dimtix"),
+    variable<&Stored::dimtm, &Drawn::dimtm>(u"dimtm"),
+    variable<&Stored::dimtmove, &Drawn::dimtmove>(u"dimtmove"),
+    variable<&Stored::dimtofl, &Drawn::dimtofl>(u"dimtofL"),
+    variable<&Stored::dimtoh, &Drawn::dimtoh>(u"dimtoh"),
+    variable<&Stored::dimtol, &Drawn::dimtol>(u"dimtoL"),
+    variable<&Stored::dimtolj, &Drawn::dimtolj>(u"dimtolj"),
+    variable<&Stored::dimtp, &Drawn::dimtp>(u"dimtp"),
+    variable<&Stored::dimtsz, &Drawn::dimtsz>(u"dimtsz"),
+    variable<&Stored::dimtvp, &Drawn::dimtvp>(u"dimtvp"),
+    variable<&Stored::dimtxt, &Drawn::dimtxt>(u"dimtxt"),
+    variable<&Stored::dimtzin, &Drawn::dimtzin>(u"dimtzin"),
+    variable<&Stored::dimupt, &Drawn::dimupt>(u"dimupt"),
+    variable<&Stored::dimzin, &Drawn::dimzin>(u"dimzin"),
+    variable<&Stored::dimfxlon, &Drawn::dimfxlon>(u"dimfxlon", FieldForm::kNativeFlag),
+    variable<&Stored::dimfxl, &Drawn::dimfxl>(u"dimfxl", FieldForm::kPlain, &Drawn::dimfxlon),
+    variable<&Stored::dimfixedext, &Drawn::dimfixedext>(u"dimfixedext"),
+    variable<&Stored::dimjogang, &Drawn::dimjogang>(u"dimjogang"),
+    variable<&Stored::dimarcsym, &Drawn::dimarcsym>(u"dimarcsym"),
+    variable<&Stored::dimtfill, &Drawn::dimtfill>(u"dimtfill"),
+    variable<&Stored::dimtxtdirection, &Drawn::dimtxtdirection>(u"dimtxtdirection"),
+    variable<&Stored::dimaltz, &Drawn::dimaltz>(u"dimaltz"),
+    variable<&Stored::dimaltmzf, &Drawn::dimaltmzf>(u"dimaltmzf"),
+    variable<&Stored::dimapost, &Drawn::dimapost>(u"dimapost"),
+    variable<&Stored::dimpost, &Drawn::dimpost>(u"dimpost"),
+    variable<&Stored::dimblk, &Drawn::dimblk>(u"dimblk"),
+    variable<&Stored::dimblk1, &Drawn::dimblk1>(u"dimblk1", FieldForm::kPlain, &Drawn::dimsah),
+    variable<&Stored::dimblk2, &Drawn::dimblk2>(u"dimblk2", FieldForm::kPlain, &Drawn::dimsah),
+    variable<&Stored::dimldrblk, &Drawn::dimldrblk>(u"dimldrblk"),
 };
+
+/// The part of the table that files know.
+inline constexpr auto kFields = [] {
+  std::array<Field, kVariables.size()> fields{};
+  for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = kVariables[i].field;
+  return fields;
+}();
 
 } // namespace dim_style
 

@@ -1,14 +1,16 @@
 #include "properties/general_property_kind.h"
 
 #include "drawing/database.h"
+#include "host/host_locator.h"
 #include "module/string_table.h"
+#include "properties/color_value.h"
 #include "properties/database_property_impl.h"
 #include "properties/entity_values.h"
+#include "properties/refusals.h"
 #include "properties/value_words.h"
 
 #include <array>
 #include <cmath>
-#include <optional>
 
 namespace tc {
 namespace {
@@ -25,60 +27,121 @@ OdTcPropertyCreateInfoPtr makeRecordInfo() {
 }
 OdTcPropertyCreateInfoPtr makeColorInfo() { return odrxMake<OdTcColorPropertyCreateInfoImpl>(); }
 
-CurrentValue wantedRecord(const Property& property, OdDbDatabase& database) {
+OdDbObjectId usableId(const Property& property, OdDbDatabase& database) {
   const OdDbObjectId id = property.recordIn(&database);
+  if (id.isNull() && !property.record() && !property.text().isEmpty())
+    tellValueRefused(property.getDisplayName(), property.text());
+  return id;
+}
+
+CurrentValue wantedRecord(const Property& property, OdDbDatabase& database) {
+  const OdDbObjectId id = usableId(property, database);
   return id.isNull() ? CurrentValue() : CurrentValue(id);
 }
 
-/// The text as a number; nothing if it does not begin with one. Files from other programs can hold
-/// words of another language here.
-std::optional<double> numberOf(const OdString& text) {
-  bool isNumber = false;
-  const double number = text.trimmed().toDouble(&isNumber);
-  return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+CurrentValue wantedLayer(const Property& property, OdDbDatabase& database) {
+  const OdDbObjectId id = usableId(property, database);
+  if (id.isNull()) return {};
+  const auto layer = id.openAs<OdDbLayerTableRecord>();
+  if (!layer->isFrozen()) return id;
+  // What is drawn on it would not be seen, and no program lets its users draw there.
+  tellRecordUnusable(
+      host::translate(QStringLiteral("\nLayer \"%s\" is frozen and cannot be made current.")),
+      layer->getName());
+  return {};
+}
+
+CurrentValue wantedDimStyle(const Property& property, OdDbDatabase& database) {
+  const OdDbObjectId id = usableId(property, database);
+  return id.isNull() ? CurrentValue() : CurrentValue(CurrentDimStyle{id});
 }
 
 CurrentValue wantedColor(const Property& property, OdDbDatabase&) {
-  return property.hasColor() ? CurrentValue(property.color()) : CurrentValue();
+  // No colour at all is what files of other programs have beside "unspecified".
+  if (!property.hasColor() || property.color().isNone()) return {};
+  const OdCmColor color = property.color();
+  if (!isEntityColor(color)) {
+    tellValueRefused(property.getDisplayName(), OdString::number(color.color()));
+    return {};
+  }
+  // The palette's entry 0 is by block.
+  return color.isByACI() && color.colorIndex() == OdCmColor::kACIbyBlock
+             ? OdCmColor(OdCmColor::kByBlock)
+             : color;
 }
 
+/// The value of a text: `ofWord` gives that of a word, `ofNumber` that of a number. What is neither
+/// is told.
+template <class OfWord, class OfNumber>
+CurrentValue valueOfText(const Property& property, OfWord ofWord, OfNumber ofNumber) {
+  const OdString text = property.text();
+  if (text.trimmed().isEmpty()) return {};
+  CurrentValue value = ofWord(storedWord(text));
+  bool isNumber = false;
+  const double number = text.trimmed().toDouble(&isNumber);
+  if (value.index() == 0 && isNumber && std::isfinite(number)) value = ofNumber(number);
+  if (value.index() == 0) tellValueRefused(property.getDisplayName(), text);
+  return value;
+}
+
+CurrentValue noWord(QStringView) { return {}; }
+
 CurrentValue wantedScale(const Property& property, OdDbDatabase&) {
-  const auto scale = numberOf(property.text());
-  return scale && *scale > 0 ? CurrentValue(*scale) : CurrentValue();
+  return valueOfText(property, noWord,
+                     [](double scale) { return scale > 0 ? CurrentValue(scale) : CurrentValue(); });
 }
 
 CurrentValue wantedPlotStyle(const Property& property, OdDbDatabase& database) {
   const OdString text = property.text();
-  if (text == kByLayer) return CurrentPlotStyle{OdDb::kPlotStyleNameByLayer, {}};
-  if (text == kByBlock) return CurrentPlotStyle{OdDb::kPlotStyleNameByBlock, {}};
-  const OdDbObjectId dictionary = database.getPlotStyleNameDictionaryId();
-  if (text.isEmpty() || dictionary.isNull()) return {};
-  const OdDbObjectId style = dictionary.openAs<OdDbDictionary>()->getAt(text);
-  return style.isNull() ? CurrentValue()
-                        : CurrentValue(CurrentPlotStyle{OdDb::kPlotStyleNameById, style});
+  if (text.isEmpty()) return {};
+  const QStringView word = storedWord(text);
+  if (word == kByLayer) return CurrentPlotStyle{OdDb::kPlotStyleNameByLayer, {}};
+  if (word == kByBlock) return CurrentPlotStyle{OdDb::kPlotStyleNameByBlock, {}};
+  const OdDbDictionaryPtr styles = database.getPlotStyleNameDictionaryId().openObject();
+  const OdDbObjectId style = styles ? styles->getAt(text) : OdDbObjectId();
+  if (!style.isNull()) return CurrentPlotStyle{OdDb::kPlotStyleNameById, style};
+  tellValueRefused(property.getDisplayName(), text);
+  return {};
 }
 
 CurrentValue wantedLineWeight(const Property& property, OdDbDatabase&) {
-  const OdString text = property.text();
-  if (text == kByLayer) return OdDb::kLnWtByLayer;
-  if (text == kByBlock) return OdDb::kLnWtByBlock;
-  if (text == kByDefault) return OdDb::kLnWtByLwDefault;
-  const auto weight = numberOf(text);
-  if (!weight || std::abs(*weight) > 211.0) return {};
-  const int rounded = static_cast<int>(*weight);
-  return rounded == *weight && OdDb::isValidLineWeight(rounded)
-             ? CurrentValue(static_cast<OdDb::LineWeight>(rounded))
-             : CurrentValue();
+  const auto ofWord = [](QStringView word) -> CurrentValue {
+    if (word == kByLayer) return OdDb::kLnWtByLayer;
+    if (word == kByBlock) return OdDb::kLnWtByBlock;
+    return word == kByDefault ? CurrentValue(OdDb::kLnWtByLwDefault) : CurrentValue();
+  };
+  return valueOfText(property, ofWord, [](double weight) -> CurrentValue {
+    if (std::abs(weight) > double{OdDb::kLnWt211}) return {};
+    const int whole = static_cast<int>(weight);
+    if (whole != weight || !OdDb::isValidLineWeight(whole)) return {};
+    return static_cast<OdDb::LineWeight>(whole);
+  });
 }
 
 CurrentValue wantedTransparency(const Property& property, OdDbDatabase&) {
-  const OdString text = property.text();
-  if (text == kByLayer) return OdCmTransparency(OdCmTransparency::kByLayer);
-  if (text == kByBlock) return OdCmTransparency(OdCmTransparency::kByBlock);
-  const auto percent = numberOf(text);
-  return percent && *percent >= 0 && *percent <= 100
-             ? CurrentValue(OdCmTransparency::fromPercent(static_cast<int>(*percent)))
-             : CurrentValue();
+  const auto ofWord = [](QStringView word) -> CurrentValue {
+    if (word == kByLayer) return OdCmTransparency(OdCmTransparency::kByLayer);
+    return word == kByBlock ? CurrentValue(OdCmTransparency(OdCmTransparency::kByBlock))
+                            : CurrentValue();
+  };
+  return valueOfText(property, ofWord, [](double percent) -> CurrentValue {
+    if (percent < 0 || percent > 100) return {};
+    return OdCmTransparency::fromPercent(static_cast<int>(percent));
+  });
+}
+
+CurrentValue currentDimStyle(const OdDbDatabase& database) {
+  return CurrentDimStyle{database.currentDimStyle(),
+                         std::make_shared<const oddb::DimVariableCopy>(database)};
+}
+
+void setDimStyle(OdDbDatabase& database, const CurrentValue& value) {
+  const auto& style = std::get<CurrentDimStyle>(value);
+  database.setCurrentDimStyle(style.id);
+  if (style.variables)
+    style.variables->putBack(database);
+  else
+    database.setDimstyleData(style.id);
 }
 
 void setPlotStyle(OdDbDatabase& database, const CurrentValue& value) {
@@ -119,7 +182,7 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      {},
      get<&Db::currentLayer>,
      set<OdDbObjectId, &Db::setCurrentLayer>,
-     wantedRecord,
+     wantedLayer,
      captureLayer},
     {u"Linetype", label(StringId::kLineType), makeRecordInfo<kLineTypeInfo>, &kLineTypeInfo,
      kLineTypeWords, get<&Db::currentLinetype>, set<OdDbObjectId, &Db::setCurrentLinetype>,
@@ -158,9 +221,9 @@ constexpr std::array<GeneralPropertyKind, kGeneralPropertyCount> kKinds = {{
      makeRecordInfo<kDimStyleInfo>,
      &kDimStyleInfo,
      {},
-     get<&Db::currentDimStyle>,
-     set<OdDbObjectId, &Db::setCurrentDimStyle>,
-     wantedRecord,
+     currentDimStyle,
+     setDimStyle,
+     wantedDimStyle,
      captureDimStyle},
     // Kept for the files' sake: it has no label and drives nothing.
     {u"Tablestyle", {}},

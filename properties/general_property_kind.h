@@ -4,10 +4,12 @@
 #include "drawing/color.h"
 #include "drawing/enums.h"
 #include "drawing/object_id.h"
+#include "drawing/tables/dim_variable_copy.h"
 #include "drawing/transparency.h"
 #include "properties/create_infos.h"
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <variant>
 
@@ -38,9 +40,16 @@ struct CurrentPlotStyle {
   OdDbObjectId id;
   bool operator==(const CurrentPlotStyle&) const = default;
 };
+/// A dimension style in force. The variables of dimensions are loaded from it when it becomes
+/// current, and can be set beside it afterwards: `variables` keeps them as they were.
+struct CurrentDimStyle {
+  OdDbObjectId id;
+  std::shared_ptr<const oddb::DimVariableCopy> variables = nullptr; ///< null: those of the style
+  bool operator==(const CurrentDimStyle& other) const { return id == other.id; }
+};
 /// One of a drawing's current values; nothing if there is none.
 using CurrentValue = std::variant<std::monostate, OdCmColor, OdDbObjectId, double, CurrentPlotStyle,
-                                  OdDb::LineWeight, OdCmTransparency>;
+                                  OdDb::LineWeight, OdCmTransparency, CurrentDimStyle>;
 
 /// One row.
 struct GeneralPropertyKind {
@@ -56,7 +65,8 @@ struct GeneralPropertyKind {
   /// The drawing value that the kind drives; null for a kind that drives none.
   CurrentValue (*current)(const OdDbDatabase& database) = nullptr;
   void (*setCurrent)(OdDbDatabase& database, const CurrentValue& value) = nullptr;
-  /// What the property imposes; nothing if it holds no value that the drawing can take.
+  /// What the property imposes; nothing if it holds no value, or none that the drawing can take, of
+  /// which the user is told.
   CurrentValue (*wanted)(const OdTcDatabasePropertyImpl& property,
                          OdDbDatabase& database) = nullptr;
   /// Takes the value of an entity; false if the entity has none. Null for kinds that no entity has.

@@ -2,10 +2,12 @@
 
 #include "drawing/database.h"
 #include "module/persist_cast.h"
+#include "module/string_table.h"
 #include "properties/create_infos.h"
 #include "properties/general_properties.h"
 #include "properties/line_type_table_record_impl.h"
 #include "properties/owned_part.h"
+#include "properties/refusals.h"
 #include "properties/stored_field.h"
 
 #include <array>
@@ -23,6 +25,11 @@ constexpr std::array kAttributes = {
 constexpr std::array kElements = {
     Field{u"Plotstylename", &Values::plotStyleName},
 };
+
+/// A layer has a colour of its own: nothing stands above it.
+bool isLayerColor(const OdCmColor& color) {
+  return color.isByColor() || color.isForeground() || (color.isByACI() && color.colorIndex() > 0);
+}
 
 } // namespace
 
@@ -72,10 +79,17 @@ OdTcLayerTableRecordImpl::createRecord(OdDbDatabase* database) const {
   auto layer = odrxMake<OdDbLayerTableRecord>();
   layer->setName(recordName());
   if (!m_values.plotStyleName.isEmpty()) layer->setPlotStyleName(m_values.plotStyleName);
-  if (const auto* const color = dynamic_cast<OdTcColorPropertyImpl*>(m_color.get()))
-    layer->setColor(color->color());
+  if (const auto* const color = dynamic_cast<OdTcColorPropertyImpl*>(m_color.get());
+      color && color->hasColor()) {
+    if (isLayerColor(color->color()))
+      layer->setColor(color->color());
+    else
+      tellValueRefused(color->getDisplayName(), OdString::number(color->color().color()));
+  }
   if (OdDb::isValidLineWeight(m_values.lineWeight))
     layer->setLineWeight(static_cast<OdDb::LineWeight>(m_values.lineWeight));
+  else
+    tellValueRefused(stringText(StringId::kLineWeight), OdString::number(m_values.lineWeight));
   layer->setIsPlottable(!m_values.isNotPlotted);
   if (const auto* const lineType = dynamic_cast<OdTcLineTypePropertyImpl*>(m_lineType.get()))
     if (const OdDbObjectId id = lineType->recordIn(database)) layer->setLinetypeObjectId(id);

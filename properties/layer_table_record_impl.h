@@ -14,6 +14,7 @@ namespace tc {
 class OdTcLayerTableRecordImpl final : public OdTcSymbolTableRecordImplBase {
  public:
   OdString elementName() const override { return QStringLiteral("LayerTableRecord"); }
+  QStringView what() const override { return u"layer"; }
 
   bool isNotPlotted() const { return m_values.isNotPlotted; }
   void setNotPlotted(bool notPlotted) { m_values.isNotPlotted = notPlotted; }

@@ -3,6 +3,7 @@
 
 #include "properties/line_type_element.h"
 #include "properties/part_list.h"
+#include "properties/stored_field.h"
 
 #include <cstdint>
 
@@ -28,7 +29,7 @@ class OdTcLineTypeElementImplBase : public OdTcPersistImpl<T> {
     if (name != QLatin1String("Dash") && name != QLatin1String("Dot") &&
         name != QLatin1String("Space"))
       return false;
-    m_length = odParseReal(value.toString());
+    field_detail::read(m_length, value, FieldForm::kPlain);
     return true;
   }
 

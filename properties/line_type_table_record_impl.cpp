@@ -1,13 +1,14 @@
 #include "properties/line_type_table_record_impl.h"
 
 #include "drawing/database.h"
-#include "frame/file_path.h"
 #include "host/host_locator.h"
 #include "properties/general_properties.h"
 #include "properties/line_type_element_impl.h"
 #include "properties/property_reference_impl.h"
 #include "properties/stored_field.h"
 #include "properties/text_style_table_record_impl.h"
+
+#include <QHash>
 
 #include <algorithm>
 #include <array>
@@ -37,14 +38,24 @@ OdDbObjectId findStyle(const OdDbTextStyleTable& table, const OdTcTextStyleValue
   return {};
 }
 
-/// The entries of shape files have no name, and a name can be taken by another font.
-OdString freeStyleName(const OdDbTextStyleTable& table, const OdTcTextStyleTableRecordImpl& style) {
-  OdString name = style.recordName();
-  if (name.isEmpty()) name = odpath::titleOf(style.values().fontOrShapeFile);
-  if (name.isEmpty()) name = host::ownText(QStringLiteral("Style"));
+/// A name can be taken by another font.
+OdString freeStyleName(const OdDbTextStyleTable& table, const OdString& wanted) {
+  const OdString name = wanted.isEmpty() ? host::ownText(QStringLiteral("Style")) : wanted;
   OdString free = name;
   for (int n = 1; table.has(free); ++n) free = QStringLiteral("%1_%2").arg(name).arg(n);
   return free;
+}
+
+/// The drawing's style with the font of a snapshot, made if there is none.
+OdDbObjectId ensureStyle(const OdTcTextStyleTableRecordImpl& style, OdDbDatabase* database) {
+  const auto table = database->getTextStyleTableId().openAs<OdDbTextStyleTable>();
+  if (const OdDbObjectId found = findStyle(*table, style.values())) return found;
+  const auto copy = odrxMake<OdTcTextStyleTableRecordImpl>();
+  copy->setValues(style.values());
+  // Shape files are known by their file and need no name.
+  if (!style.values().isShapeFile || !style.recordName().isEmpty())
+    copy->setRecordName(freeStyleName(*table, style.recordName()));
+  return addRecord(database, *copy);
 }
 
 } // namespace
@@ -82,20 +93,14 @@ OdRxObjectPtr OdTcLineTypeTableRecordImpl::clone() const {
   return copy;
 }
 
-OdDbObjectId OdTcLineTypeTableRecordImpl::styleOf(const OdTcComplexElementValues& complex,
+OdDbObjectId OdTcLineTypeTableRecordImpl::styleOf(std::uint64_t handle,
                                                   OdDbDatabase* database) const {
-  const auto* const reference = m_textStyles ? m_textStyles->find(complex.styleHandle) : nullptr;
+  const auto* const reference = m_textStyles ? m_textStyles->find(handle) : nullptr;
   const auto* const property =
       reference ? dynamic_cast<OdTcTextStylePropertyImpl*>(reference->textStyle()) : nullptr;
   const auto* const style =
       property ? dynamic_cast<OdTcTextStyleTableRecordImpl*>(property->record()) : nullptr;
-  if (!style) return {};
-  const auto table = database->getTextStyleTableId().openAs<OdDbTextStyleTable>();
-  if (const OdDbObjectId found = findStyle(*table, style->values())) return found;
-  const auto copy = odrxMake<OdTcTextStyleTableRecordImpl>();
-  copy->setRecordName(freeStyleName(*table, *style));
-  copy->setValues(style->values());
-  return ensureRecord(database, copy);
+  return style ? ensureStyle(*style, database) : OdDbObjectId();
 }
 
 OdSmartPtr<OdDbSymbolTableRecord>
@@ -105,6 +110,8 @@ OdTcLineTypeTableRecordImpl::createRecord(OdDbDatabase* database) const {
   record->setComments(m_values.comments);
   record->setNumDashes(m_elements->count());
   record->setPatternLength(m_values.patternLength);
+  // Line types can have very many dashes, and drawings very many styles.
+  QHash<std::uint64_t, OdDbObjectId> styles;
   for (int i = 0; i < m_elements->count(); ++i) {
     const OdTcLineTypeElement* const element = m_elements->at(i);
     const OdTcComplexLineTypeElement* const complex = element->complexElement();
@@ -120,7 +127,11 @@ OdTcLineTypeTableRecordImpl::createRecord(OdDbDatabase* database) const {
     record->setShapeOffsetAt(i, {v.offsetX, v.offsetY});
     record->setShapeNumberAt(i, v.shapeNumber);
     record->setTextAt(i, v.text);
-    if (const OdDbObjectId style = styleOf(v, database)) record->setShapeStyleAt(i, style);
+    const auto known = styles.constFind(v.styleHandle);
+    const OdDbObjectId style =
+        known != styles.cend() ? *known
+                               : *styles.insert(v.styleHandle, styleOf(v.styleHandle, database));
+    if (style) record->setShapeStyleAt(i, style);
   }
   return record;
 }

@@ -16,6 +16,7 @@ class OdTcLineTypeTableRecordImpl final : public OdTcSymbolTableRecordImplBase {
   OdTcLineTypeTableRecordImpl();
 
   OdString elementName() const override { return QStringLiteral("LinetypeTableRecord"); }
+  QStringView what() const override { return u"line type"; }
   /// The number of dashes as the file or the drawing has it.
   std::int32_t numberOfDashes() const { return m_values.numberOfDashes; }
   OdString comments() const { return m_values.comments; }
@@ -41,7 +42,9 @@ class OdTcLineTypeTableRecordImpl final : public OdTcSymbolTableRecordImplBase {
 
  private:
   void takeDash(const OdDbLinetypeTableRecord& record, int index);
-  OdDbObjectId styleOf(const OdTcComplexElementValues& complex, OdDbDatabase* database) const;
+  /// The drawing's text style for elements of that handle, made if need be; null without a
+  /// snapshot.
+  OdDbObjectId styleOf(std::uint64_t handle, OdDbDatabase* database) const;
 
   Values m_values;
   OdTcLineTypeElementsListPtr m_elements;

@@ -58,7 +58,7 @@ OdRxObjectPtr OdTcTextStyleTableRecordImpl::clone() const {
 
 OdSmartPtr<OdDbSymbolTableRecord> OdTcTextStyleTableRecordImpl::createRecord(OdDbDatabase*) const {
   auto style = odrxMake<OdDbTextStyleTableRecord>();
-  style->setName(recordName());
+  if (!recordName().isEmpty()) style->setName(recordName());
   style->setFileName(m_values.fontOrShapeFile);
   style->setBigFontFileName(m_values.bigFontFile);
   style->setObliquingAngle(m_values.obliqueAngle);

@@ -31,6 +31,7 @@ struct OdTcTextStyleValues {
 class OdTcTextStyleTableRecordImpl final : public OdTcSymbolTableRecordImplBase {
  public:
   OdString elementName() const override { return QStringLiteral("TextstyleTableRecord"); }
+  QStringView what() const override { return u"text style"; }
   const OdTcTextStyleValues& values() const { return m_values; }
   void setValues(const OdTcTextStyleValues& values) { m_values = values; }
 

@@ -47,13 +47,13 @@ TEST_P(DimVariableTest, ComesBackFromAFileWithAValueOfItsOwn) {
             storedValue(OdTcDimStyleVariables(), field).toString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Variables, DimVariableTest, testing::ValuesIn(dim_style::kVariables),
+INSTANTIATE_TEST_SUITE_P(Variables, DimVariableTest, testing::ValuesIn(dim_style::kFields),
                          [](const auto& row) { return row.param.name.toString().toStdString(); });
 
 TEST_F(DimStyleTest, HasEveryVariableOnce) {
-  EXPECT_EQ(dim_style::kVariables.size(), 67u);
+  EXPECT_EQ(dim_style::kFields.size(), 67u);
   QStringList names;
-  for (const auto& field : dim_style::kVariables) names << field.name.toString();
+  for (const auto& field : dim_style::kFields) names << field.name.toString();
   EXPECT_EQ(names.removeDuplicates(), 0);
   EXPECT_TRUE(names.contains(text(u"dimtofL")));
   EXPECT_TRUE(names.contains(text(u"dimtoL")));

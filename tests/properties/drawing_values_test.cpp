@@ -173,7 +173,9 @@ INSTANTIATE_TEST_SUITE_P(Values, LineWeightTest,
                                          WeightRow{u"ByDefault", -3}, WeightRow{u"-1", -1},
                                          WeightRow{u"25", 25}, WeightRow{u"26", 50},
                                          WeightRow{u"99999999999", 50}, WeightRow{u"", 50},
-                                         WeightRow{u"VonLayer", 50}, WeightRow{u"nan", 50}));
+                                         WeightRow{u"VonLayer", -1}, WeightRow{u"999", 50},
+                                         WeightRow{u"2.5", 50}, WeightRow{u"vonnirgends", 50},
+                                         WeightRow{u"nan", 50}));
 
 TEST_F(DrawingValuesTest, TransparencyTakesPercentAndTheSpecialWords) {
   const auto value = odrxMake<OdTcTransparencyPropertyImpl>();
@@ -189,8 +191,12 @@ TEST_F(DrawingValuesTest, TransparencyTakesPercentAndTheSpecialWords) {
   EXPECT_EQ(applied(u"50").percent(), 50);
   EXPECT_TRUE(applied(u"ByLayer").isByLayer());
   EXPECT_TRUE(applied(u"ByBlock").isByBlock());
-  EXPECT_EQ(applied(u"VonLayer").percent(), 10);
+  EXPECT_TRUE(applied(u"VonLayer").isByLayer()) << "as programs in German write it";
+  EXPECT_TRUE(applied(u"ПоБлоку").isByBlock());
+  EXPECT_EQ(applied(u"vonnirgends").percent(), 10);
   EXPECT_EQ(applied(u"-5").percent(), 10);
+  EXPECT_EQ(applied(u"150").percent(), 10);
+  EXPECT_EQ(applied(u"nan").percent(), 10);
 }
 
 TEST_F(DrawingValuesTest, ScaleIsImposedOnlyAboveZero) {

@@ -3,26 +3,25 @@
 #include "drafton/engine/commands/wildcard.h"
 #include "drafton/engine/translator.h"
 #include "drawing/objects/xref_manager.h"
+#include "drawing/tables/record_names.h"
 
 namespace drafton {
-namespace {
-
-constexpr qsizetype kLongestName = 255;
-
-QStringView forbiddenSigns() { return u"<>/\\\":;?*|,=`"; }
-
-} // namespace
-
 OdString recordNameFault(QStringView name) {
-  if (name.isEmpty()) return translated(u"it is empty");
-  if (name.size() > kLongestName)
-    return translated(u"it is longer than %1 characters").arg(kLongestName);
-  for (const QChar c : name) {
-    if (forbiddenSigns().contains(c)) return translated(u"the character %1 is not allowed").arg(c);
-    if (c.category() == QChar::Other_Control)
-      return translated(u"control characters are not allowed");
+  QChar sign;
+  switch (oddbNameFault(name, &sign)) {
+  case OdDbNameFault::kEmpty:
+    return translated(u"it is empty");
+  case OdDbNameFault::kTooLong:
+    return translated(u"it is longer than %1 characters").arg(kOdDbLongestName);
+  case OdDbNameFault::kSign:
+    return translated(u"the character %1 is not allowed").arg(sign);
+  case OdDbNameFault::kControl:
+    return translated(u"control characters are not allowed");
+  case OdDbNameFault::kBlank:
+    return translated(u"it begins or ends with a blank");
+  case OdDbNameFault::kNone:
+    break;
   }
-  if (name.trimmed() != name) return translated(u"it begins or ends with a blank");
   return {};
 }
 
