@@ -1,7 +1,9 @@
 #include "drafton/desktop/desktop_run.h"
 
+#include "drafton/desktop/autosave.h"
 #include "drafton/desktop/desktop_options.h"
 #include "drafton/desktop/main_window.h"
+#include "drafton/desktop/options_dialog.h"
 #include "drafton/program/program_setup.h"
 #include "drafton/render/text_shapes.h"
 #include "frame/file_path.h"
@@ -41,6 +43,25 @@ void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
+/// Offers what a crashed run has left behind.
+void recover(Autosave& autosave, UserDialogs& dialogs) {
+  const std::vector<LostDrawing> lost = autosave.findLost();
+  if (lost.empty()) return;
+  QStringList names;
+  for (const LostDrawing& drawing : lost) names << drawing.name;
+  if (dialogs.confirm(translated(u"Drafton did not end as it should. Copies of changed drawings "
+                                 u"were kept: %1. Open them?")
+                          .arg(names.join(QStringLiteral(", "))),
+                      translated(u"&Open"))) {
+    bool isOpen = true;
+    for (const LostDrawing& drawing : lost) isOpen = autosave.open(drawing) && isOpen;
+    // What cannot be read now may be read by somebody later.
+    if (!isOpen) return;
+    autosave.saveNow();
+  }
+  autosave.forget();
+}
+
 } // namespace
 
 int runDesktop(int& argc, char** argv) {
@@ -62,14 +83,21 @@ int runDesktop(int& argc, char** argv) {
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *options.catalogs);
   offerPictures(engine);
 
+  applyTheme(choiceOption(desktop, "Theme"));
   UserDialogs dialogs;
   MainWindow window(desktop, dialogs);
   loadToolPalettes(engine);
+  Autosave autosave(desktop,
+                    odpath::toPlatform(engine.application().userDataFolder()) +
+                        QLatin1String("/recovery"),
+                    &window);
+  autosave.setInterval(numberOption(desktop, "AutosaveMinutes"));
   window.show();
   for (const OdString& argument : options.unknown)
     engine.print(translated(u"The option %1 is not known.").arg(argument));
   // With the event loop running, since a file that cannot be opened is told in a dialog.
   QTimer::singleShot(0, &window, [&] {
+    recover(autosave, dialogs);
     for (const OdString& drawing : options.drawings) window.files().openFile(drawing);
     if (!desktop.document()) window.files().newDrawing();
     engine.runStartupCommands();

@@ -1,15 +1,24 @@
 #include "drafton/desktop/main_window.h"
 
+#include "drafton/desktop/block_list.h"
 #include "drafton/desktop/command_line.h"
 #include "drafton/desktop/help_window.h"
 #include "drafton/desktop/host_pane.h"
+#include "drafton/desktop/inspector.h"
+#include "drafton/desktop/layer_manager.h"
+#include "drafton/desktop/options_dialog.h"
+#include "drafton/desktop/printing.h"
+#include "drafton/desktop/property_bar.h"
 #include "drafton/desktop/window_services.h"
+#include "drafton/render/picture_file.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPrintDialog>
 #include <QTimer>
 #include <QUrl>
 
@@ -37,14 +46,19 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   , m_documents(new DocumentArea(desktop, this))
   , m_commandLine(new CommandLine(desktop))
   , m_statusLine(new StatusLine(desktop, this))
+  , m_properties(new PropertyBar(desktop, this))
+  , m_inspector(new Inspector(desktop))
+  , m_layers(new LayerManager(desktop))
+  , m_blocks(new BlockList(desktop))
   , m_aids(desktop) {
   setObjectName(QStringLiteral("mainWindow"));
   setAcceptDrops(true);
   setDockNestingEnabled(true);
   setCentralWidget(m_documents);
   setStatusBar(m_statusLine);
-  addCommandLine();
+  addPanes();
   connectActions();
+  connectPanes();
   dialogs.setWindow(this);
   desktop.console().setWindow(this);
   connect(m_documents, &DocumentArea::cursorMoved, this,
@@ -74,12 +88,85 @@ MainWindow::~MainWindow() {
   for (PaneDock* const pane : findChildren<PaneDock*>()) pane->end();
 }
 
-void MainWindow::addCommandLine() {
-  auto* const dock = new QDockWidget(translated(u"Command Line"), this);
-  dock->setObjectName(QStringLiteral("commandLine"));
-  dock->setWidget(m_commandLine);
-  addDockWidget(Qt::BottomDockWidgetArea, dock);
-  resizeDocks({dock}, {120}, Qt::Vertical);
+QDockWidget* MainWindow::addPane(const char* name, const char16_t* title, QWidget* content,
+                                 Qt::DockWidgetArea area) {
+  auto* const dock = new QDockWidget(translated(title), this);
+  dock->setObjectName(OdString::fromLatin1(name));
+  dock->setWidget(content);
+  addDockWidget(area, dock);
+  return dock;
+}
+
+void MainWindow::addPanes() {
+  addToolBarBreak();
+  addToolBar(m_properties);
+  QDockWidget* const line =
+      addPane("commandLine", u"Command Line", m_commandLine, Qt::BottomDockWidgetArea);
+  addPane("inspector", u"Inspector", m_inspector, Qt::RightDockWidgetArea);
+  QDockWidget* const layers = addPane("layers", u"Layers", m_layers, Qt::BottomDockWidgetArea);
+  QDockWidget* const blocks = addPane("blocks", u"Blocks", m_blocks, Qt::RightDockWidgetArea);
+  layers->setFloating(true);
+  layers->resize(640, 360);
+  layers->hide();
+  blocks->hide();
+  resizeDocks({line}, {120}, Qt::Vertical);
+}
+
+void MainWindow::connectPanes() {
+  m_actions->connectTo(u"layers", [this] {
+    auto* const dock = findChild<QDockWidget*>(QStringLiteral("layers"));
+    dock->show();
+    dock->raise();
+    m_layers->follow();
+  });
+  m_actions->connectTo(u"blocks", [this] {
+    auto* const dock = findChild<QDockWidget*>(QStringLiteral("blocks"));
+    dock->show();
+    dock->raise();
+  });
+  m_actions->connectTo(u"options", [this] { OptionsDialog(m_desktop, this).exec(); });
+  m_actions->connectTo(u"print", [this] { print(); });
+  m_actions->connectTo(u"exportPdf", [this] {
+    if (!m_desktop.document()) return;
+    const OdString path = m_dialogs.chooseToSave(
+        translated(u"Save as PDF"), QStringLiteral("drawing.pdf"), QStringLiteral("PDF (*.pdf)"));
+    if (!path.isEmpty()) exportPdf(path);
+  });
+  connect(m_documents, &DocumentArea::choiceChanged, this, &MainWindow::followChoice);
+}
+
+void MainWindow::followChoice() {
+  m_properties->follow();
+  m_inspector->follow();
+}
+
+bool MainWindow::exportPdf(const OdString& path) {
+  OdDbDatabase* const database = m_desktop.database();
+  if (!database) return false;
+  PictureRequest request;
+  request.file = QFileInfo(path).suffix().isEmpty() ? path + QLatin1String(".pdf") : path;
+  request.layout = shownLayoutName(*database);
+  try {
+    writePicture(*database, request);
+  } catch (const OdFileError& error) {
+    m_dialogs.warn(translated(u"%1 is not written: %2").arg(request.file, error.reason()));
+    return false;
+  } catch (const OdError& error) {
+    m_dialogs.warn(translated(u"%1 is not written: %2").arg(request.file, error.description()));
+    return false;
+  }
+  m_desktop.engine().print(translated(u"Saved to %1.").arg(request.file));
+  return true;
+}
+
+void MainWindow::print() {
+  OdDbDatabase* const database = m_desktop.database();
+  if (!database) return;
+  QPrinter printer(QPrinter::HighResolution);
+  setPaper(printer, *database);
+  if (QPrintDialog(&printer, this).exec() != QDialog::Accepted) return;
+  if (!printSheet(printer, *database))
+    m_dialogs.warn(translated(u"The printer does not take the sheet."));
 }
 
 void MainWindow::connectActions() {
@@ -157,6 +244,9 @@ void MainWindow::zoomMiddle(double factor) {
 /// Brings actions and title to what is true now.
 void MainWindow::follow() {
   showTitle();
+  followChoice();
+  m_layers->follow();
+  m_blocks->follow();
   const bool hasDocument = m_desktop.document() != nullptr;
   for (const AidAction& row : kAidActions) {
     m_actions->find(row.name)->setEnabled(hasDocument);

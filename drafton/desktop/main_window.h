@@ -8,7 +8,11 @@
 
 namespace drafton {
 
+class BlockList;
 class CommandLine;
+class Inspector;
+class LayerManager;
+class PropertyBar;
 
 /// Puts the parts together: drawings in the middle, the command line below, menus, toolbars and
 /// panes around them. Keys that no part takes go to the command line.
@@ -26,6 +30,12 @@ class MainWindow : public QMainWindow {
   CommandLine& commandLine() { return *m_commandLine; }
   StatusLine& statusLine() { return *m_statusLine; }
   WindowActions& actions() { return *m_actions; }
+  PropertyBar& properties() { return *m_properties; }
+  Inspector& inspector() { return *m_inspector; }
+  LayerManager& layers() { return *m_layers; }
+  BlockList& blocks() { return *m_blocks; }
+  /// Writes the sheet that is shown as PDF. False, and a message, if that fails.
+  bool exportPdf(const OdString& path);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -37,7 +47,12 @@ class MainWindow : public QMainWindow {
 
  private:
   void connectActions();
-  void addCommandLine();
+  QDockWidget* addPane(const char* name, const char16_t* title, QWidget* content,
+                       Qt::DockWidgetArea area);
+  void addPanes();
+  void connectPanes();
+  void followChoice();
+  void print();
   void follow();
   void showTitle();
   void showMenuAt(const QPoint& place);
@@ -53,6 +68,10 @@ class MainWindow : public QMainWindow {
   DocumentArea* m_documents;
   CommandLine* m_commandLine;
   StatusLine* m_statusLine;
+  PropertyBar* m_properties;
+  Inspector* m_inspector;
+  LayerManager* m_layers;
+  BlockList* m_blocks;
   DraftingAids m_aids;
   bool m_isClosing = false;
 };

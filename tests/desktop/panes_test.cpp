@@ -1,0 +1,243 @@
+#include "desktop/desktop_fixture.h"
+#include "drafton/desktop/autosave.h"
+#include "drafton/desktop/block_list.h"
+#include "drafton/desktop/inspector.h"
+#include "drafton/desktop/layer_manager.h"
+#include "drafton/desktop/options_dialog.h"
+#include "drafton/desktop/printing.h"
+#include "drafton/desktop/property_bar.h"
+#include "drawing/entities/line.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QSpinBox>
+
+using namespace drafton;
+
+namespace {
+
+class PanesTest : public DesktopFixture {
+ protected:
+  /// The value of a row of the inspector; empty if there is none.
+  OdString inspected(const char* name) {
+    for (QTreeWidgetItem* const item :
+         window().inspector().findItems(QString::fromLatin1(name), Qt::MatchExactly))
+      return item->text(1);
+    return {};
+  }
+  void pick(QComboBox& list, const char* text) {
+    const int index = list.findText(QString::fromLatin1(text));
+    ASSERT_GE(index, 0) << text;
+    list.setCurrentIndex(index);
+    Q_EMIT list.activated(index);
+  }
+};
+
+TEST_F(PanesTest, TheInspectorShowsOneEntityAndCountsSeveral) {
+  type("LINE -3,0 3,4  LINE -3,5 3,5  ");
+  click(0, 2);
+  EXPECT_EQ(inspected("Kind"), QStringLiteral("LINE"));
+  EXPECT_EQ(inspected("Layer"), QStringLiteral("0"));
+  EXPECT_EQ(inspected("Length").toDouble(), std::round(std::hypot(6, 4) * 1e4) / 1e4);
+  picture("inspector");
+  press(Qt::Key_Escape);
+  type("-COLOR 1 LINE -3,-3 3,-3  ");
+  click(0, 5);
+  click(0, -3);
+  EXPECT_EQ(inspected("LINE"), QStringLiteral("2"));
+  EXPECT_EQ(inspected("Color"), QStringLiteral("varies"));
+  press(Qt::Key_Escape);
+  EXPECT_EQ(window().inspector().topLevelItem(0)->text(0), QStringLiteral("Nothing is chosen"));
+}
+
+TEST_F(PanesTest, TheListsShowAndSetTheCurrentValues) {
+  type("-LAYER New Walls\n ");
+  PropertyBar& bar = window().properties();
+  pick(bar.layers(), "Walls");
+  EXPECT_EQ(database().sysVarText("CLAYER"), QStringLiteral("Walls"));
+  pick(bar.colors(), "3 (green)");
+  EXPECT_EQ(database().currentColor().colorIndex(), 3);
+  pick(bar.lineWeights(), "0.50mm");
+  EXPECT_EQ(database().currentLineWeight(), 50);
+  type("CLAYER 0 ");
+  EXPECT_EQ(bar.layers().currentText(), QStringLiteral("0")) << "however it was changed";
+}
+
+TEST_F(PanesTest, TheListsShowAndSetWhatIsChosenAndOneUndoTakesItBack) {
+  type("-LAYER New Walls\n LINE -3,0 3,0  LINE -3,5 3,5  ");
+  click(0, 0);
+  click(0, 5);
+  PropertyBar& bar = window().properties();
+  pick(bar.layers(), "Walls");
+  for (const OdDbEntityPtr& entity : entities())
+    EXPECT_EQ(entity->layer(), QStringLiteral("Walls"));
+  EXPECT_EQ(database().sysVarText("CLAYER"), QStringLiteral("0")) << "the current layer stays";
+  press(Qt::Key_Escape);
+  type("U ");
+  for (const OdDbEntityPtr& entity : entities()) EXPECT_EQ(entity->layer(), QStringLiteral("0"));
+}
+
+TEST_F(PanesTest, ListsDoNothingWhileACommandRuns) {
+  type("-LAYER New Walls\n LINE 0,0 ");
+  pick(window().properties().layers(), "Walls");
+  EXPECT_EQ(database().sysVarText("CLAYER"), QStringLiteral("0"));
+  EXPECT_EQ(window().properties().layers().currentText(), QStringLiteral("0"));
+}
+
+TEST_F(PanesTest, TheLayerManagerMakesRenamesAndSwitchesLayers) {
+  window().actions().find(u"layers")->trigger();
+  LayerManager& manager = window().layers();
+  manager.addLayer();
+  ASSERT_EQ(manager.table().rowCount(), 2);
+  manager.table().item(1, 0)->setText(QStringLiteral("Walls"));
+  const auto layers = database().getLayerTableId().openAs<OdDbLayerTable>();
+  ASSERT_TRUE(layers->has(QStringLiteral("Walls")));
+  manager.table().item(1, 3)->setCheckState(Qt::Checked);
+  const OdDbLayerTableRecordPtr walls = layers->getAt(QStringLiteral("Walls")).openObject();
+  EXPECT_TRUE(walls->isLocked());
+  manager.makeCurrent();
+  EXPECT_EQ(database().sysVarText("CLAYER"), QStringLiteral("Walls"));
+  manager.table().item(0, 0)->setText(QStringLiteral("Walls"));
+  EXPECT_EQ(manager.table().item(0, 0)->text(), QStringLiteral("0")) << "the name is taken";
+  manager.table().item(1, 6)->setText(QStringLiteral("nonsense"));
+  EXPECT_NE(manager.table().item(1, 6)->text(), QStringLiteral("nonsense"));
+  EXPECT_TRUE(history().contains(QStringLiteral("There is no line type \"nonsense\".")));
+}
+
+TEST_F(PanesTest, TheBlockListBeginsToInsert) {
+  type("CIRCLE 0,0 1 BLOCK dot 0,0 Last\n\n");
+  window().actions().find(u"blocks")->trigger();
+  BlockList& list = window().blocks();
+  ASSERT_EQ(list.count(), 1);
+  EXPECT_EQ(list.item(0)->text(), QStringLiteral("dot"));
+  EXPECT_FALSE(list.item(0)->icon().isNull());
+  Q_EMIT list.itemActivated(list.item(0));
+  EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("INSERT")});
+}
+
+TEST_F(PanesTest, WritesThePdfOfTheSheetOrSaysWhyNot) {
+  type("LINE 0,0 5,5  ");
+  EXPECT_TRUE(window().exportPdf(path("sheet")));
+  QFile file(path("sheet.pdf"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(file.read(5) == "%PDF-");
+  EXPECT_FALSE(window().exportPdf(path("no/such/folder/sheet.pdf")));
+  ASSERT_EQ(dialogs.said.size(), 1);
+  EXPECT_TRUE(dialogs.said[0].contains(QStringLiteral("sheet.pdf is not written: ")));
+}
+
+TEST_F(PanesTest, PrintsTheSheetOnItsPaper) {
+  type("LINE 0,0 5,5  LAYOUT Set Layout1\n");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(path("printed.pdf"));
+  setPaper(printer, database());
+  EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape) << "420 x 297";
+  EXPECT_TRUE(printSheet(printer, database()));
+  EXPECT_GT(QFileInfo(path("printed.pdf")).size(), 500);
+}
+
+TEST_F(PanesTest, OptionsAreKeptAndTakenOver) {
+  OptionsDialog dialog(desktop(), &window());
+  dialog.findChild<QSpinBox*>(QStringLiteral("CURSORSIZE"))->setValue(40);
+  dialog.findChild<QSpinBox*>(QStringLiteral("AutosaveMinutes"))->setValue(3);
+  dialog.accept();
+  EXPECT_EQ(desktop().variable("CURSORSIZE").toInt32(), 40);
+  EXPECT_EQ(numberOption(desktop(), "AutosaveMinutes"), 3);
+  desktop().setSetting("AutosaveMinutes", -7);
+  EXPECT_EQ(numberOption(desktop(), "AutosaveMinutes"), 0) << "what a file says is bounded";
+  desktop().setSetting("Theme", OdString(QStringLiteral("Plaid")));
+  EXPECT_EQ(choiceOption(desktop(), "Theme"), QStringLiteral("System"));
+}
+
+TEST_F(PanesTest, EveryControlHasAName) {
+  QStringList nameless;
+  for (QWidget* const widget : window().findChildren<QWidget*>()) {
+    const bool isControl = widget->focusPolicy() != Qt::NoFocus && widget->isVisibleTo(&window());
+    if (!isControl || widget->objectName().startsWith(QLatin1String("qt_"))) continue;
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(widget);
+    if (face && face->text(QAccessible::Name).isEmpty() && widget->toolTip().isEmpty())
+      nameless << QString::fromLatin1(widget->metaObject()->className()) + u' ' +
+                      widget->objectName();
+  }
+  EXPECT_EQ(nameless, QStringList()) << nameless.join(u'\n').toStdString();
+}
+
+TEST_F(PanesTest, EveryActionHasTextTipAndAKeyOfItsOwn) {
+  QStringList keys;
+  for (const ActionRow& row : actionTable()) {
+    const QAction* const action = window().actions().find(row.name);
+    const std::string name = OdString::fromUtf16(row.name).toStdString();
+    EXPECT_FALSE(action->text().isEmpty()) << name;
+    EXPECT_FALSE(action->toolTip().isEmpty()) << name;
+    for (const QKeySequence& key : action->shortcuts()) keys << key.toString();
+    EXPECT_TRUE(row.toolbar == ToolbarId::kNone || !action->icon().isNull()) << name;
+  }
+  EXPECT_EQ(keys.removeDuplicates(), 0);
+}
+
+// --- copies for recovery
+
+class AutosaveTest : public DesktopFixture {
+ protected:
+  OdString folder() { return path("recovery"); }
+  /// Leaves copies behind as a crash does.
+  void leaveCopies() {
+    Autosave crashed(desktop(), path("elsewhere"), nullptr);
+    crashed.saveNow();
+    const QStringList made = QDir(path("elsewhere")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    ASSERT_EQ(made.size(), 1);
+    const QDir from(path("elsewhere") + u'/' + made[0]);
+    ASSERT_TRUE(QDir().mkpath(folder() + QStringLiteral("/crashed")));
+    for (const QString& name : from.entryList(QDir::Files))
+      if (name != QLatin1String("running"))
+        QFile::copy(from.filePath(name), folder() + QStringLiteral("/crashed/") + name);
+  }
+};
+
+TEST_F(AutosaveTest, CopiesOfChangedDrawingsComeBackAsChanged) {
+  type("LINE 0,0 5,5  ");
+  dialogs.toSave = path("plan.dxf");
+  window().actions().find(u"saveAs")->trigger();
+  type("LINE 0,0 7,7  ");
+  leaveCopies();
+  EXPECT_TRUE(document().isModified()) << "a copy is no save";
+  desktop().engine().documents().close(document());
+
+  Autosave autosave(desktop(), folder(), nullptr);
+  const std::vector<LostDrawing> lost = autosave.findLost();
+  ASSERT_EQ(lost.size(), 1u);
+  EXPECT_EQ(lost[0].name, QStringLiteral("plan.dxf"));
+  ASSERT_TRUE(autosave.open(lost[0]));
+  EXPECT_EQ(document().name(), QStringLiteral("plan.dxf"));
+  EXPECT_TRUE(document().isModified());
+  EXPECT_EQ(entities().size(), 2u);
+  autosave.forget();
+  EXPECT_TRUE(Autosave(desktop(), folder(), nullptr).findLost().empty());
+}
+
+TEST_F(AutosaveTest, WhatRunsOrEndedAsItShouldLeavesNothing) {
+  type("LINE 0,0 5,5  ");
+  Autosave other(desktop(), folder(), nullptr);
+  {
+    Autosave first(desktop(), folder(), nullptr);
+    first.saveNow();
+    EXPECT_EQ(QDir(folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+    EXPECT_TRUE(other.findLost().empty()) << "it still runs";
+  }
+  EXPECT_TRUE(QDir(folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+}
+
+TEST_F(AutosaveTest, NothingIsCopiedWhileACommandRunsOrWithoutChanges) {
+  Autosave autosave(desktop(), folder(), nullptr);
+  autosave.saveNow();
+  EXPECT_FALSE(QDir(folder()).exists());
+  type("LINE 0,0 5,5 ");
+  autosave.saveNow();
+  EXPECT_FALSE(QDir(folder()).exists());
+}
+
+} // namespace
