@@ -25,7 +25,8 @@ std::optional<OdDbVarValue> fitting(const V& row, const OdDbVarValue& value,
         inRange(row, static_cast<double>(*whole)))
       return value;
     return std::nullopt;
-  case V::kReal: {
+  case V::kReal:
+  case V::kTime: {
     const auto* const real = std::get_if<double>(&value);
     if (!whole && !real) return std::nullopt;
     const double number = real ? *real : static_cast<double>(*whole);
@@ -168,6 +169,7 @@ OdDbVarValue oddbPresetOf(const OdDbHeaderVarInfo& row) {
   case V::kInt:
     return std::int64_t{text.toInt()};
   case V::kReal:
+  case V::kTime:
     return text.toDouble();
   case V::kPoint3d:
     return OdGePoint3d{numbers[0].toDouble(), numbers[1].toDouble(), numbers[2].toDouble()};

@@ -20,6 +20,7 @@ struct OdDbHeaderVarInfo {
   enum Type : std::uint8_t {
     kInt,
     kReal,
+    kTime, ///< days: a Julian date or a span. New drawings lack it; who saves tells it
     kText,
     kPoint3d,
     kPoint2d,

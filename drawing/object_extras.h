@@ -14,6 +14,7 @@ struct OdDbObjectExtras {
 
   // Of entities.
   OdString colorName, bookName;
+  int colorIndex = -1; ///< that a file tells beside a true colour, if it is not the nearest one
   double linetypeScale = 1;
   OdDbObjectId plotStyle;
   OdCmTransparency transparency;

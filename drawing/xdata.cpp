@@ -1,6 +1,7 @@
 #include "drawing/xdata.h"
 
 #include "drawing/database_data.h"
+#include "drawing/dxf/johab.h"
 #include "drawing/dxf/residue.h"
 #include "drawing/dxf/text.h"
 
@@ -65,7 +66,10 @@ QByteArray oddb::keptText(const OdString& text) {
 }
 
 OdString oddb::textOfKept(const QByteArray& line, const OdDbDatabase* database) {
-  QStringDecoder decoder(database ? database->data().encoding.constData() : "UTF-8");
+  const QByteArray encoding = database ? database->data().encoding : QByteArray("UTF-8");
+  bool isBad = false;
+  if (encoding == oddxf::kJohab) return oddxf::withoutEscapes(oddxf::fromJohab(line, isBad));
+  QStringDecoder decoder(encoding.constData());
   return oddxf::withoutEscapes(decoder.decode(line));
 }
 
@@ -73,5 +77,5 @@ void oddb::registerApplications(const OdDbObject& object) {
   if (!object.residue() || !object.database()) return;
   for (const OdDbKeptTags::Tag& tag : OdDbKeptTags(object.residue()->xdata).tags)
     if (tag.code == kApplication)
-      registerApplication(*object.database(), OdString::fromUtf8(tag.value.trimmed()));
+      registerApplication(*object.database(), textOfKept(tag.value.trimmed(), object.database()));
 }

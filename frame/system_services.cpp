@@ -48,7 +48,15 @@ class PlatformServices : public OdRxSystemServices {
   OdString createGuid() override {
     return QUuid::createUuid().toString(QUuid::WithBraces).toUpper();
   }
-  OdTimeStamp currentTime() override { return OdTimeStamp(QDateTime::currentDateTimeUtc()); }
+  OdTimeStamp currentTime() override {
+    // What is made again shall be the same: whoever wants that holds the clock of all programs.
+    bool isHeld = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isHeld);
+    constexpr qint64 kLast = 253402300799; // of the year 9999
+    return OdTimeStamp(isHeld && seconds >= 0 && seconds <= kLast
+                           ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)
+                           : QDateTime::currentDateTimeUtc());
+  }
   OdString userProfileFolder() override { return odpath::fromPlatform(QDir::homePath()); }
 
  private:

@@ -3,6 +3,7 @@
 #include "drafton/engine/drawing_files.h"
 #include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
+#include "drafton/engine/saved_facts.h"
 #include "drawing/variable_recording.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
@@ -15,6 +16,7 @@ Document::Document(Engine& engine, OdDbDatabasePtr database, OdString name)
   , m_name(std::move(name))
   , m_variables(engine, this)
   , m_hatchKeeper(*m_database)
+  , m_since(odrxSystemServices()->currentTime())
   , m_processor(engine, this) {
   m_database->addReactor(this);
   // What changes outside of commands is lent and put back.
@@ -76,7 +78,9 @@ void Document::save(const OdString& path) {
   const OdDb::DwgVersion version = savingVersion(m_engine, *this);
   const OdDb::DwgVersion former = m_database->originalFileVersion();
   const bool isChosen = m_values.contains(QStringLiteral("DXFVERSION"));
+  tellTimes(*m_database, m_since, this->path().isEmpty());
   writeDrawing(m_engine, *m_database, path, version);
+  m_since = odrxSystemServices()->currentTime();
   if (version != former && !isChosen && !this->path().isEmpty())
     m_engine.print(translated(u"The drawing was read as %1 and is saved as %2.")
                        .arg(dxfVersionName(former), dxfVersionName(version)));

@@ -5,6 +5,7 @@
 #include "drafton/engine/hatch_keeper.h"
 #include "drafton/engine/host_variables.h"
 #include "drawing/database.h"
+#include "frame/time_stamp.h"
 #include "host/document.h"
 
 #include <map>
@@ -78,6 +79,7 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   OdString m_name;
   HostVariables m_variables;
   HatchKeeper m_hatchKeeper;
+  OdTimeStamp m_since; ///< when it was opened, made, or last saved
   std::map<OdString, OdVariant> m_values;
   std::vector<OdDbObjectId> m_previousSelection, m_preselection, m_chosen;
   OdGePoint3d m_lastPoint;

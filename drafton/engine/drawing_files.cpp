@@ -2,9 +2,9 @@
 
 #include "drafton/engine/dwg_converter.h"
 #include "drafton/engine/engine.h"
+#include "drafton/engine/saved_facts.h"
 #include "drawing/foreign_drawings.h"
 #include "drawing/replaced_file.h"
-#include "drawing/variable_recording.h"
 #include "frame/file_path.h"
 
 #include <QFile>
@@ -18,32 +18,6 @@ namespace {
 constexpr const char16_t* kSetting = u"DwgConverter";
 constexpr const char16_t* kSavingSetting = u"DwgConverterForSaving";
 constexpr const char16_t* kPatienceSetting = u"DwgConverterSeconds";
-
-/// Where the header tells what a space takes up.
-struct ExtentsRow {
-  OdDbObjectId (OdDbDatabase::*space)() const;
-  const char* least;
-  const char* greatest;
-};
-constexpr ExtentsRow kExtents[] = {{&OdDbDatabase::getModelSpaceId, "EXTMIN", "EXTMAX"},
-                                   {&OdDbDatabase::getPaperSpaceId, "PEXTMIN", "PEXTMAX"}};
-/// What an empty space tells, as the format has it: nothing is within.
-constexpr double kNothing = 1e20;
-
-/// Other programs zoom to what the header tells, and lay sheets out by it.
-void tellExtents(OdDbDatabase& database) {
-  if (!database.isModified()) return;
-  const oddb::VariableRecording unrecorded(&database, false);
-  for (const ExtentsRow& row : kExtents) {
-    const OdDbBlockTableRecordPtr space = (database.*row.space)().openObject();
-    const OdGeExtents3d box = space ? space->extents() : OdGeExtents3d();
-    const bool isEmpty = box.isEmpty();
-    database.setSysVar(QLatin1String(row.least),
-                       isEmpty ? OdGePoint3d{kNothing, kNothing, kNothing} : box.minPoint());
-    database.setSysVar(QLatin1String(row.greatest),
-                       isEmpty ? OdGePoint3d{-kNothing, -kNothing, -kNothing} : box.maxPoint());
-  }
-}
 
 OdString settingOf(Engine& engine, const char16_t* name) {
   OdString value;

@@ -51,6 +51,7 @@ OdDbVarValue toHeader(const OdDbHeaderVarInfo& info, const OdVariant& value) {
   case OdDbHeaderVarInfo::kDimStyle:
     return text;
   case OdDbHeaderVarInfo::kHandle:
+  case OdDbHeaderVarInfo::kTime:
     break;
   }
   return {};
@@ -137,7 +138,7 @@ bool HostVariables::isWritable(const OdString& name) const {
   if (const VariableRow* const row = findVariable(name))
     return row->scope != VariableRow::Scope::kComputed || row->set;
   const OdDbHeaderVarInfo* const info = database() ? oddbFindHeaderVar(name) : nullptr;
-  return info && info->type != OdDbHeaderVarInfo::kHandle;
+  return info && info->type != OdDbHeaderVarInfo::kHandle && info->type != OdDbHeaderVarInfo::kTime;
 }
 
 QStringList HostVariables::names() const {

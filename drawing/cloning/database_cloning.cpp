@@ -11,7 +11,8 @@ bool isOwnVar(const OdDbHeaderVarInfo& row) {
       "ACADMAINTVER", "ACADVER", "DWGCODEPAGE", "EXTMAX",   "EXTMIN",  "HANDSEED",
       "INSBASE",      "PEXTMAX", "PEXTMIN",     "TILEMODE", "UCSNAME", "PUCSNAME",
   };
-  return row.type == OdDbHeaderVarInfo::kHandle || oddbTableOf(row) ||
+  return row.type == OdDbHeaderVarInfo::kHandle || row.type == OdDbHeaderVarInfo::kTime ||
+         oddbTableOf(row) ||
          std::find(std::begin(kNames), std::end(kNames), row.name) != std::end(kNames);
 }
 

@@ -38,6 +38,7 @@ void OdDbDxfReader::readHeader() {
       value = m_in.longInteger(tag, 0);
       break;
     case OdDbHeaderVarInfo::kReal:
+    case OdDbHeaderVarInfo::kTime:
       value = m_in.real(tag, 0);
       break;
     case OdDbHeaderVarInfo::kPoint3d:

@@ -10,7 +10,8 @@ OdDbDatabasePtr oddxf::newDocument(std::uint64_t lastHandle) {
   const auto vars = oddbHeaderVars();
   for (std::size_t i = 0; i < vars.size(); ++i) {
     d.vars[i] = oddbPresetOf(vars[i]);
-    d.varPresent[i] = vars[i].type != OdDbHeaderVarInfo::kHandle;
+    d.varPresent[i] =
+        vars[i].type != OdDbHeaderVarInfo::kHandle && vars[i].type != OdDbHeaderVarInfo::kTime;
   }
   // The header's place is taken by the presets, but for what decides how the rest is read.
   static const std::string text =

@@ -43,6 +43,7 @@ OdCmColor OdDbEntity::color() const {
 void OdDbEntity::storeColor(const OdCmColor& color) {
   m_common.color = color.color();
   storeColorNames(color);
+  if (m_extras) m_extras->colorIndex = kNoExtras.colorIndex;
 }
 
 void OdDbEntity::storeColorNames(const OdCmColor& color) {
@@ -160,6 +161,10 @@ void OdDbEntity::worldDraw(OdGiWorldDraw&) const {}
 
 bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (!in.in("AcDbEntity")) return false;
+  // Mostly an index beside a true colour is the nearest one, and nothing has to be kept.
+  const auto storeIndexBeside = [&](int index) {
+    if (index != color().colorIndex()) setExtra(&OdDbObjectExtras::colorIndex, index);
+  };
   switch (tag.code) {
   case 100:
     return true;
@@ -173,15 +178,21 @@ bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     // A true colour comes with the nearest index before it.
     const int index = std::abs(in.integer(tag, OdCmColor::kACIbyLayer));
     if (index > OdCmColor::kACInone) return false;
-    if (!isTrueColor(m_common.color)) m_common.color = OdCmColor::fromColorIndex(index).color();
+    if (isTrueColor(m_common.color))
+      storeIndexBeside(index);
+    else
+      m_common.color = OdCmColor::fromColorIndex(index).color();
     return true;
   }
   case 420: {
     const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
+    const bool hasIndex = m_common.color != OdCmColor().color() && !isTrueColor(m_common.color);
+    const int index = color().colorIndex();
     m_common.color =
         OdCmColor::fromRgb(static_cast<std::uint8_t>(rgb >> 16),
                            static_cast<std::uint8_t>(rgb >> 8), static_cast<std::uint8_t>(rgb))
             .color();
+    if (hasIndex) storeIndexBeside(index);
     return true;
   }
   case 430: {
@@ -236,7 +247,8 @@ void OdDbEntity::dxfOut(OdDbDxfOut& out) const {
   out.recordName(8, c.layer, "0");
   if (!c.linetype.isNull() && c.linetype != out.database().getLinetypeByLayerId())
     out.recordName(6, c.linetype, "ByLayer");
-  if (c.color != OdCmColor().color()) out.integer(62, color().colorIndex());
+  const int index = m_extras ? m_extras->colorIndex : kNoExtras.colorIndex;
+  if (c.color != OdCmColor().color()) out.integer(62, index >= 0 ? index : color().colorIndex());
   if (linetypeScale() != 1) out.real(48, linetypeScale());
   if (c.invisible) out.integer(60, 1);
   if (c.lineWeight != OdDb::kLnWtByLayer) out.integer(370, c.lineWeight);

@@ -35,6 +35,8 @@ struct Spline {
   std::vector<double> knots, weights;
   std::vector<OdGePoint2d> controlPoints, fitPoints;
   OdGePoint2d startTangent, endTangent;
+  /// How many counts a file had behind it: of its fit points, and of the sources of its loop.
+  int countsBehind = 0;
   bool operator==(const Spline&) const = default;
 };
 

@@ -102,6 +102,8 @@ class OdDbMText : public OdDbEntity {
   struct Data {
     OdGePoint3d location;
     double height = 1, definedHeight = 0;
+    /// The file says so even if it says nothing new.
+    bool tellsDefinedHeight = false, tellsColumns = false;
     double width = -1; ///< below 0: not given
     double spacingFactor = 1, fillScale = 1.5;
     double rotation = 0;    ///< counts unless there is a direction

@@ -95,7 +95,8 @@ class OdDb2dPolyline : public OdDbCurve {
     double startWidth = 0, endWidth = 0;
     int flags = 0, mCount = 0, nCount = 0, mDensity = 0, nDensity = 0, smoothType = 0;
     OdDbExtrusion extrusion;
-    OdDbObjectId end; ///< the end mark
+    OdDbObjectId end;        ///< the end mark
+    bool tellsFlags = false; ///< files say so even if none is set
   };
 
  protected:

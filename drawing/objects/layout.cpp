@@ -52,3 +52,11 @@ void OdDbLayout::getExtents(OdGePoint3d& lower, OdGePoint3d& upper) const {
   lower = m_layout.extentsMin;
   upper = m_layout.extentsMax;
 }
+
+void OdDbLayout::setExtents(const OdGePoint3d& lower, const OdGePoint3d& upper) {
+  odcheck::finite(lower);
+  odcheck::finite(upper);
+  assertWriteEnabled();
+  m_layout.extentsMin = lower;
+  m_layout.extentsMax = upper;
+}

@@ -112,7 +112,10 @@ class OdDbLayout : public OdDbPlotSettings {
   bool isModelType() const { return m_plot.flags & kModelType; }
   void getLimits(OdGePoint2d& lower, OdGePoint2d& upper) const;
   void setLimits(const OdGePoint2d& lower, const OdGePoint2d& upper);
+  /// The box around what stands on it, as it was told last; the greater is below the lower one if
+  /// there is nothing.
   void getExtents(OdGePoint3d& lower, OdGePoint3d& upper) const;
+  void setExtents(const OdGePoint3d& lower, const OdGePoint3d& upper);
   const OdGePoint3d& getInsertionBase() const { return m_layout.base; }
   /// The viewport that was worked in last; null if there was none.
   OdDbObjectId activeViewportId() const { return m_layout.viewport; }

@@ -1,8 +1,10 @@
 #include "drawing/objects/mleader_shape.h"
 
+#include "drawing/entities/attribute.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/spline.h"
 #include "drawing/objects/tag_values.h"
+#include "drawing/xdata.h"
 
 #include <algorithm>
 
@@ -23,6 +25,12 @@ struct Leader {
   std::vector<LeaderLine> lines;
 };
 
+/// What a block is given to show in the place of one of its definitions.
+struct BlockText {
+  OdDbObjectId definition;
+  OdString text;
+};
+
 struct Shape {
   double textHeight = 0, arrowSize = 0;
   OdString text;
@@ -35,6 +43,7 @@ struct Shape {
   int attachment = 1; ///< 1 left, 2 centred, 3 right
   OdCmColor textColor{OdCmColor::kByBlock}, lineColor{OdCmColor::kByBlock};
   std::vector<Leader> leaders;
+  std::vector<BlockText> blockTexts;
 };
 
 OdCmColor colorOf(const OdDbKeptTags::Tag& tag) {
@@ -102,6 +111,13 @@ class Reader {
       break;
     case 91:
       m_shape.lineColor = colorOf(tag);
+      break;
+    case 330:
+      m_shape.blockTexts.push_back({oddb::objectOf(tag, m_database), {}});
+      break;
+    case 302:
+      if (!m_shape.blockTexts.empty())
+        m_shape.blockTexts.back().text = oddb::textOfKept(tag.value, &m_database);
       break;
     case 342:
       m_shape.arrow = oddb::objectOf(tag, m_database);
@@ -269,13 +285,27 @@ class Painter {
     const auto* const record = odrxCast<OdDbBlockTableRecord>(object.get());
     if (!record || s.blockNormal.isZeroLength()) return;
     m_draw.setPieceColor(std::nullopt);
-    m_draw.block(s.block,
-                 OdGeMatrix3d::translation(s.blockPlace.asVector()) *
-                     OdGeMatrix3d::planeToWorld(s.blockNormal.normal()) *
-                     OdGeMatrix3d::rotation(s.blockRotation, OdGeVector3d::zAxis()) *
-                     OdGeMatrix3d::scaling(s.blockScale.x, s.blockScale.y, s.blockScale.z) *
-                     OdGeMatrix3d::translation(-record->origin().asVector()),
-                 m_entity);
+    const OdGeMatrix3d toWorld =
+        OdGeMatrix3d::translation(s.blockPlace.asVector()) *
+        OdGeMatrix3d::planeToWorld(s.blockNormal.normal()) *
+        OdGeMatrix3d::rotation(s.blockRotation, OdGeVector3d::zAxis()) *
+        OdGeMatrix3d::scaling(s.blockScale.x, s.blockScale.y, s.blockScale.z) *
+        OdGeMatrix3d::translation(-record->origin().asVector());
+    m_draw.block(s.block, toWorld, m_entity);
+    for (const BlockText& each : s.blockTexts) blockText(each, toWorld);
+  }
+
+  void blockText(const BlockText& told, const OdGeMatrix3d& toWorld) {
+    const OdDbObjectPtr object = told.definition.openObject();
+    const auto* const definition = odrxCast<OdDbAttributeDefinition>(object.get());
+    if (!definition || definition->ownerId() != m_shape.block || definition->isInvisible() ||
+        definition->isConstant())
+      return;
+    const auto shown = odrxMake<OdDbAttribute>();
+    shown->setAttributeFromBlock(*definition, toWorld);
+    shown->setTextString(told.text);
+    setColor(definition->color());
+    shown->worldDraw(m_draw);
   }
 
   const Shape& m_shape;

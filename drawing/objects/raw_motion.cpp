@@ -39,7 +39,11 @@ constexpr TagMotion kTable[] = {{11, TagMotion::kDirection}};
 constexpr TagMotion kTolerance[] = {
     {10, TagMotion::kPoint}, {11, TagMotion::kDirection}, {210, TagMotion::kDirection}};
 constexpr TagMotion kMesh[] = {{10, TagMotion::kPoint}};
-constexpr TagMotion kLight[] = {{10, TagMotion::kPoint}, {11, TagMotion::kPoint}};
+// Behind them the reach of the light.
+constexpr TagMotion kLight[] = {{10, TagMotion::kPoint},
+                                {11, TagMotion::kPoint},
+                                {41, TagMotion::kLength},
+                                {42, TagMotion::kLength}};
 
 /// The tags of one subclass of a class.
 struct Known {
@@ -55,9 +59,10 @@ constexpr Known kKnown[] = {
     {"HELIX", "AcDbHelix", kHelix, kUniform | kNoMirror},
     {"ACAD_TABLE", "AcDbBlockReference", kInsert, kUniform | kSameSize | kNoMirror | kInPlane},
     {"ACAD_TABLE", "AcDbTable", kTable, kUniform | kSameSize | kNoMirror | kInPlane},
-    {"TOLERANCE", "AcDbFcf", kTolerance, kUniform | kSameSize | kNoMirror},
+    // Its size is that of its dimension style, as that of dimensions.
+    {"TOLERANCE", "AcDbFcf", kTolerance, kUniform | kNoMirror},
     {"MESH", "AcDbSubDMesh", kMesh, 0},
-    {"LIGHT", "AcDbLight", kLight, kUniform | kSameSize | kNoMirror},
+    {"LIGHT", "AcDbLight", kLight, kUniform},
 };
 
 bool fits(unsigned needs, const TagMover& mover) {
@@ -92,18 +97,37 @@ bool moveKnown(std::string_view name, OdDbKeptTags& tags, const TagMover& mover)
 }
 
 // A multileader's tags mean different things in the parts that lie one within another.
-constexpr TagMotion kLeaderStyle[] = {{43, TagMotion::kTurn}};
+constexpr TagMotion kLeaderStyle[] = {
+    {43, TagMotion::kTurn},   {41, TagMotion::kLength}, // the landing
+    {42, TagMotion::kLength},                           // arrows
+    {45, TagMotion::kLength}, // the scale of all sizes that the style gives
+    {10, TagMotion::kLength}, // the scales of a block
+    {20, TagMotion::kLength}, {30, TagMotion::kLength},
+};
 constexpr TagMotion kLeaderContent[] = {
-    {10, TagMotion::kPoint},      {11, TagMotion::kDirection}, {12, TagMotion::kPoint},
-    {13, TagMotion::kDirection},  {42, TagMotion::kTurn},      {14, TagMotion::kDirection},
-    {15, TagMotion::kPoint},      {46, TagMotion::kTurn},      {110, TagMotion::kPoint},
-    {111, TagMotion::kDirection}, {112, TagMotion::kDirection}};
+    {10, TagMotion::kPoint},      {11, TagMotion::kDirection},
+    {12, TagMotion::kPoint},      {13, TagMotion::kDirection},
+    {42, TagMotion::kTurn},       {14, TagMotion::kDirection},
+    {15, TagMotion::kPoint},      {46, TagMotion::kTurn},
+    {110, TagMotion::kPoint},     {111, TagMotion::kDirection},
+    {112, TagMotion::kDirection}, {40, TagMotion::kLength},  // the scale of all sizes
+    {41, TagMotion::kLength},                                // letters
+    {140, TagMotion::kLength},                               // arrows
+    {145, TagMotion::kLength},                               // the gap before the text
+    {43, TagMotion::kLength},                                // width and height of the text
+    {44, TagMotion::kLength},     {142, TagMotion::kLength}, // its columns
+    {143, TagMotion::kLength},    {144, TagMotion::kLength},
+    {16, TagMotion::kLength}, // the scales of a block
+    {26, TagMotion::kLength},     {36, TagMotion::kLength}};
 constexpr TagMotion kLeaderNode[] = {{10, TagMotion::kPoint},
                                      {11, TagMotion::kDirection},
                                      {12, TagMotion::kPoint},
-                                     {13, TagMotion::kPoint}};
-constexpr TagMotion kLeaderLine[] = {
-    {10, TagMotion::kPoint}, {11, TagMotion::kPoint}, {12, TagMotion::kPoint}};
+                                     {13, TagMotion::kPoint},
+                                     {40, TagMotion::kLength}};
+constexpr TagMotion kLeaderLine[] = {{10, TagMotion::kPoint},
+                                     {11, TagMotion::kPoint},
+                                     {12, TagMotion::kPoint},
+                                     {40, TagMotion::kLength}};
 
 struct Part {
   int opens;
@@ -142,7 +166,7 @@ bool moveMatrix(OdDbKeptTags& tags, const std::vector<std::size_t>& places,
 }
 
 bool moveLeader(OdDbKeptTags& tags, const TagMover& mover, const OdGeMatrix3d& transform) {
-  if (!fits(kUniform | kSameSize | kNoMirror | kInPlane, mover)) return false;
+  if (!fits(kUniform | kNoMirror | kInPlane, mover)) return false;
   std::vector<const Part*> open;
   std::vector<std::size_t> matrix;
   bool any = false;

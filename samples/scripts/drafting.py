@@ -259,7 +259,9 @@ class Program:
             command += extra
             if drawing:
                 command.append(os.path.abspath(drawing))
-            done = subprocess.run(command, capture_output=True, text=True, cwd=folder)
+            # Drawings tell when they were made: the same time each time.
+            clock = {**os.environ, "SOURCE_DATE_EPOCH": "1767225600", "TZ": "UTC"}
+            done = subprocess.run(command, capture_output=True, text=True, cwd=folder, env=clock)
             if done.returncode:
                 tail = "\n".join(done.stdout.splitlines()[-12:])
                 raise RuntimeError(f"{out}: exit code {done.returncode}\n{tail}\n{done.stderr}")

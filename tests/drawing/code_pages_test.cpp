@@ -109,6 +109,24 @@ TEST(CodePages, WhatACodePageLacksIsEscaped) {
   }
 }
 
+TEST(CodePages, DescriptionsOfLayersAreReadInThem) {
+  for (const Row& row : kRows) {
+    QByteArray text = drawingIn(row.name, "Named");
+    const qsizetype name = text.indexOf("  2\nNamed\n");
+    text.insert(text.indexOf("  0\n", name),
+                "1001\nAcAecLayerStandard\n1000\n\n1000\n" + QByteArray(row.bytes) + "\n");
+    const OdDbDatabasePtr db = OdDbDatabase::readDxf(text, QStringLiteral("page.dxf"));
+    const auto layer = db->getLayerTableId()
+                           .openAs<OdDbLayerTable>()
+                           ->getAt(QStringLiteral("Named"))
+                           .openAs<OdDbLayerTableRecord>(OdDb::kForWrite);
+    EXPECT_EQ(layer->description(), OdString::fromUtf16(row.text)) << row.name;
+    EXPECT_TRUE(db->writeDxf() == text) << row.name;
+    layer->setDescription(layer->description() + u'!');
+    EXPECT_EQ(layer->description(), OdString::fromUtf16(row.text) + u'!') << row.name;
+  }
+}
+
 TEST(CodePages, BytesThatAreNoCharactersAreTold) {
   for (const char* bytes : {"\x88", "\x88\x20", "\xD9\x7F", "\xFF\xFF"}) {
     const OdDbDatabasePtr db =

@@ -200,3 +200,102 @@ TEST_F(KeptValues, KeptTextsOutsideOfTheCodePageAreEscapedAndNotLost) {
   const QByteArray text = m_db->writeDxf(OdDb::kR2000);
   EXPECT_TRUE(text.contains("1000\nW\xE4nde \\U+6249\n"));
 }
+
+namespace {
+
+/// A drawing of a version with the tags, whose lines bars part, in its model.
+QByteArray drawingWith(const QByteArray& tags, OdDb::DwgVersion version) {
+  QByteArray file = OdDbDatabase::createDatabase()->writeDxf(version);
+  QByteArray lines = tags;
+  lines.replace('|', '\n');
+  return file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")), lines + '\n');
+}
+
+/// As the writer writes it: codes in three places, numbers with a point.
+QByteArray head(const char* name, const char* subclass, const char* common = "") {
+  return QByteArray("  0|") + name + "|  5|F0|330|1F|100|AcDbEntity|  8|0|" + common + "100|" +
+         subclass;
+}
+
+struct Oddity {
+  const char* what;
+  OdDb::DwgVersion version;
+  QByteArray tags;
+};
+
+const QByteArray kSplineEdge =
+    " 10|0.0| 20|0.0| 30|0.0|210|0.0|220|0.0|230|1.0|  2|SOLID| 70|1| 71|0| 91|1| 92|0| 93|1| "
+    "72|4| "
+    "94|1| 73|0| 74|0| 95|4| 96|2| 40|0.0| 40|0.0| 40|1.0| 40|1.0| 10|0.0| 20|0.0| 10|5.0| 20|5.0|";
+const QByteArray kSplineEnd = " 97|0| 75|0| 76|1| 98|0";
+const QByteArray kFitData = " 11|0.0| 21|0.0| 11|5.0| 21|5.0| 12|1.0| 22|0.0| 13|0.0| 23|1.0|";
+const QByteArray kCircle = "| 10|1.0| 20|2.0| 30|0.0| 40|3.0";
+const QByteArray kPolylineHead = "| 66|1| 10|0.0| 20|0.0| 30|0.0";
+const QByteArray kSeqend = "|  0|SEQEND|  5|F1|330|F0|100|AcDbEntity|  8|0";
+const QByteArray kMtext = "| 10|1.0| 20|2.0| 30|0.0| 40|3.0| 41|9.0|";
+const QByteArray kMtextEnd = " 71|1| 72|1|  1|Text|  7|Standard| 73|1| 44|1.0";
+const QByteArray kEmbedded = "|101|Embedded Object| 70|1| 10|1.0| 20|0.0| 30|0.0| 11|1.0| 21|2.0| "
+                             "31|0.0| 40|9.0| 41|0.0| 42|4.0| 43|3.0| 71|0";
+
+const Oddity kOddities[] = {
+    {"fit data of a spline, which newer files count", OdDb::kR2004,
+     head("HATCH", "AcDbHatch|") + kSplineEdge + kFitData + kSplineEnd},
+    {"counted fit data", OdDb::kR2007,
+     head("HATCH", "AcDbHatch|") + kSplineEdge + " 97|2|" + kFitData + kSplineEnd},
+    {"a spline without any", OdDb::kR2000, head("HATCH", "AcDbHatch|") + kSplineEdge + kSplineEnd},
+    {"fit data where they belong", OdDb::kR2010,
+     head("HATCH", "AcDbHatch|") + kSplineEdge + " 97|2|" + kFitData + kSplineEnd},
+    {"an index far from the true colour", OdDb::kR2018,
+     head("CIRCLE", "AcDbCircle", " 62|5|420|16711680|") + kCircle},
+    {"the index of the layer beside a true colour", OdDb::kR2004,
+     head("CIRCLE", "AcDbCircle", " 62|0|420|16711680|") + kCircle},
+    {"the nearest index", OdDb::kR2018,
+     head("CIRCLE", "AcDbCircle", " 62|1|420|16711680|") + kCircle},
+    {"flags that are not set", OdDb::kR2018,
+     head("POLYLINE", "AcDb2dPolyline") + kPolylineHead + "| 70|0" + kSeqend},
+    {"no flags", OdDb::kR2018, head("POLYLINE", "AcDb2dPolyline") + kPolylineHead + kSeqend},
+    {"a height that is not defined", OdDb::kR2007,
+     head("MTEXT", "AcDbMText") + kMtext + " 46|0.0|" + kMtextEnd},
+    {"no height", OdDb::kR2007, head("MTEXT", "AcDbMText") + kMtext + kMtextEnd},
+    {"sizes of columns that a text has not", OdDb::kR2018,
+     head("MTEXT", "AcDbMText") + kMtext + " 46|0.0|" + kMtextEnd + kEmbedded +
+         "| 72|1| 44|9.0| 45|1.5| 73|0| 74|0"},
+    {"no columns", OdDb::kR2018, head("MTEXT", "AcDbMText") + kMtext + kMtextEnd + kEmbedded},
+};
+
+} // namespace
+
+TEST(KeptOddities, ComeBackTagByTag) {
+  for (const Oddity& odd : kOddities) {
+    const QByteArray file = drawingWith(odd.tags, odd.version);
+    const OdDbDatabasePtr db = OdDbDatabase::readDxf(file, QStringLiteral("x.dxf"));
+    EXPECT_EQ(db->unknownContent(), QStringList()) << odd.what;
+    QByteArray lines = odd.tags;
+    lines.replace('|', '\n');
+    const QByteArray saved = db->writeDxf();
+    EXPECT_TRUE(saved.contains(lines + "\n  0\n"))
+        << odd.what << "\n"
+        << saved.mid(saved.indexOf("\nENTITIES\n"), 1500).constData();
+  }
+}
+
+TEST(KeptOddities, IndexBesideATrueColorGoesWithIt) {
+  const OdDbDatabasePtr db = OdDbDatabase::readDxf(
+      drawingWith(head("CIRCLE", "AcDbCircle", " 62|5|420|16711680|") + kCircle, OdDb::kR2018),
+      QStringLiteral("x.dxf"));
+  const auto space = db->getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  const auto circle = space->entityIds().front().openAs<OdDbEntity>(OdDb::kForWrite);
+  EXPECT_EQ(circle->color(), OdCmColor::fromRgb(255, 0, 0));
+  circle->setColor(OdCmColor::fromRgb(0, 255, 0));
+  EXPECT_TRUE(db->writeDxf().contains(" 62\n3\n420\n65280\n"));
+}
+
+TEST(KeptOddities, FitDataOfNewerFilesAreNotToldToOldOnes) {
+  const OdDbDatabasePtr db = OdDbDatabase::readDxf(
+      drawingWith(head("HATCH", "AcDbHatch|") + kSplineEdge + " 97|2|" + kFitData + kSplineEnd,
+                  OdDb::kR2018),
+      QStringLiteral("x.dxf"));
+  QByteArray lines = kSplineEdge + kSplineEnd;
+  lines.replace('|', '\n');
+  EXPECT_TRUE(db->writeDxf(OdDb::kR2004).contains(lines));
+}

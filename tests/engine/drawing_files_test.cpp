@@ -1,6 +1,7 @@
 // Drawings that are converted by other programs.
 #include "drafton/engine/drawing_files.h"
 
+#include "drawing/objects/layout.h"
 #include "engine/support/engine_fixture.h"
 #include "engine/support/test_commands.h"
 #include "frame/file_path.h"
@@ -286,4 +287,99 @@ TEST_F(DrawingFilesTest, AFolderIsNoDrawing) {
   EXPECT_TRUE(QDir(path("folder.dwg")).exists());
   open("none.dwg");
   EXPECT_TRUE(console().shows(QStringLiteral("there is no such file")));
+}
+
+namespace {
+
+/// The clock stands still while this is there; hands may be moved.
+class HeldClock {
+ public:
+  explicit HeldClock(qint64 seconds) { moveTo(seconds); }
+  ~HeldClock() { qunsetenv("SOURCE_DATE_EPOCH"); }
+  void moveTo(qint64 seconds) { qputenv("SOURCE_DATE_EPOCH", QByteArray::number(seconds)); }
+};
+
+constexpr double kDay = 24 * 60 * 60;
+/// The last evening of 1999, 21:58:35.
+constexpr qint64 kEvening = 946677515;
+constexpr double kEveningInDays = 2451544.91568287;
+
+} // namespace
+
+TEST_F(DrawingFilesTest, TimesOfADrawingAreToldWhenItIsSaved) {
+  HeldClock clock(kEvening);
+  type(QStringLiteral("NewDocument\n"));
+  draw();
+  clock.moveTo(kEvening + 3600);
+  saveAs("a.dxf");
+  const auto told = [&](const char* name) {
+    return OdDbDatabase::readFile(path("a.dxf"))->sysVarReal(name);
+  };
+  const double zone = QDateTime::fromSecsSinceEpoch(kEvening).offsetFromUtc() / kDay;
+  EXPECT_NEAR(told("TDUCREATE"), kEveningInDays, 1e-7);
+  EXPECT_NEAR(told("TDCREATE"), kEveningInDays + zone, 1e-7);
+  EXPECT_NEAR(told("TDUUPDATE"), kEveningInDays + 3600 / kDay, 1e-7);
+  EXPECT_NEAR(told("TDUPDATE"), kEveningInDays + zone + 3600 / kDay, 1e-7);
+  EXPECT_NEAR(told("TDINDWG"), 3600 / kDay, 1e-7);
+
+  clock.moveTo(kEvening + 5400);
+  type(QStringLiteral("CloseDocument\n"));
+  open("a.dxf");
+  clock.moveTo(kEvening + 7200);
+  draw();
+  type(QStringLiteral("Save\n"));
+  EXPECT_NEAR(told("TDUCREATE"), kEveningInDays, 1e-7) << "made once";
+  EXPECT_NEAR(told("TDUUPDATE"), kEveningInDays + 7200 / kDay, 1e-7);
+  EXPECT_NEAR(told("TDINDWG"), (3600 + 1800) / kDay, 1e-7);
+
+  clock.moveTo(kEvening + 9000);
+  const QByteArray before = bytesOf(path("a.dxf"));
+  type(QStringLiteral("Save\n"));
+  EXPECT_EQ(bytesOf(path("a.dxf")), before) << "nothing was changed";
+}
+
+TEST_F(DrawingFilesTest, TimesAreNoChangeThatIsUndone) {
+  HeldClock clock(kEvening);
+  draw();
+  EXPECT_FALSE(database().writeDxf().contains("$TD")) << "only files tell times";
+  const std::size_t steps = database().undoDepth();
+  saveAs("a.dxf");
+  EXPECT_EQ(database().undoDepth(), steps);
+  const QByteArray saved = database().writeDxf();
+  type(QStringLiteral("U\n"));
+  type(QStringLiteral("REDO\n"));
+  EXPECT_EQ(database().writeDxf(), saved);
+  type(QStringLiteral("TDUPDATE 5\n"));
+  EXPECT_NEAR(database().sysVarReal("TDUUPDATE"), kEveningInDays, 1e-7);
+  EXPECT_FALSE(variables().set(QStringLiteral("TDUPDATE"), 5.0)) << "nobody else sets the clock";
+}
+
+TEST_F(DrawingFilesTest, WrittenBlocksAreMadeWhenTheyAreWritten) {
+  HeldClock clock(kEvening);
+  draw();
+  type(QStringLiteral("WBLOCK \"%1\"\n*\n").arg(path("w.dxf")));
+  const OdDbDatabasePtr written = OdDbDatabase::readFile(path("w.dxf"));
+  EXPECT_NEAR(written->sysVarReal("TDUCREATE"), kEveningInDays, 1e-7);
+  EXPECT_NEAR(written->sysVarReal("TDUUPDATE"), kEveningInDays, 1e-7);
+}
+
+TEST_F(DrawingFilesTest, LayoutsTellTheirExtents) {
+  draw();
+  const auto extentsOf = [](const OdDbDatabase& from, std::size_t tab) {
+    OdGePoint3d least, greatest;
+    oddb::layouts(from).at(tab)->getExtents(least, greatest);
+    return std::pair(least, greatest);
+  };
+  const std::size_t steps = database().undoDepth();
+  saveAs("box.dxf");
+  EXPECT_EQ(database().undoDepth(), steps);
+  const OdDbDatabasePtr model = OdDbDatabase::readFile(path("box.dxf"));
+  EXPECT_EQ(extentsOf(*model, 0), std::pair(OdGePoint3d(), OdGePoint3d(10, 10, 0)));
+  EXPECT_EQ(extentsOf(*model, 1).first.x, 1e20) << "nothing is on the sheet";
+  type(QStringLiteral("TILEMODE 0\n"));
+  type(QStringLiteral("DRAW 3,4 5,6 \n"));
+  type(QStringLiteral("Save\n"));
+  const OdDbDatabasePtr sheet = OdDbDatabase::readFile(path("box.dxf"));
+  EXPECT_EQ(extentsOf(*sheet, 1), std::pair(OdGePoint3d(3, 4, 0), OdGePoint3d(5, 6, 0)));
+  EXPECT_EQ(sheet->sysVarPoint("PEXTMAX"), (OdGePoint3d{5, 6, 0}));
 }

@@ -108,7 +108,7 @@ bool takeEdgeTag(Spline& spline, const OdDbDxfTag& tag, OdDbDxfIn& in) {
   }
 }
 
-void putEdge(const Line& line, OdDbDxfOut& out) {
+void putEdge(const Line& line, bool, OdDbDxfOut& out) {
   out.integer(72, 1);
   out.point2d(10, line.start);
   out.point2d(11, line.end);
@@ -121,14 +121,14 @@ void putAngles(const A& arc, OdDbDxfOut& out) {
   out.integer(73, arc.counterclockwise);
 }
 
-void putEdge(const Arc& arc, OdDbDxfOut& out) {
+void putEdge(const Arc& arc, bool, OdDbDxfOut& out) {
   out.integer(72, 2);
   out.point2d(10, arc.center);
   out.real(40, arc.radius);
   putAngles(arc, out);
 }
 
-void putEdge(const Ellipse& ellipse, OdDbDxfOut& out) {
+void putEdge(const Ellipse& ellipse, bool, OdDbDxfOut& out) {
   out.integer(72, 3);
   out.point2d(10, ellipse.center);
   out.point2d(11, ellipse.majorAxis);
@@ -136,7 +136,7 @@ void putEdge(const Ellipse& ellipse, OdDbDxfOut& out) {
   putAngles(ellipse, out);
 }
 
-void putEdge(const Spline& spline, OdDbDxfOut& out) {
+void putEdge(const Spline& spline, bool isLast, OdDbDxfOut& out) {
   out.integer(72, 4);
   out.integer(94, spline.degree);
   out.integer(73, spline.rational);
@@ -148,12 +148,17 @@ void putEdge(const Spline& spline, OdDbDxfOut& out) {
     out.point2d(10, spline.controlPoints[i]);
     if (spline.rational) out.real(42, i < spline.weights.size() ? spline.weights[i] : 1);
   }
-  if (out.version() < OdDb::kR2010) return;
-  out.integer(97, static_cast<std::int64_t>(spline.fitPoints.size()));
-  for (const OdGePoint2d& p : spline.fitPoints) out.point2d(11, p);
   const bool hasTangents =
       spline.startTangent != OdGePoint2d() || spline.endTangent != OdGePoint2d();
-  if (spline.fitPoints.empty() && !hasTangents) return;
+  const bool fits = !spline.fitPoints.empty() || hasTangents;
+  // Files before R2010 tell nothing of what a spline was laid through; some that do stay as they
+  // are.
+  const bool isOld = out.version() < OdDb::kR2010;
+  if (isOld && (!fits || out.database().originalFileVersion() >= OdDb::kR2010)) return;
+  if (!isOld || spline.countsBehind > (isLast ? 1 : 0))
+    out.integer(97, static_cast<std::int64_t>(spline.fitPoints.size()));
+  for (const OdGePoint2d& p : spline.fitPoints) out.point2d(11, p);
+  if (!fits) return;
   out.point2d(12, spline.startTangent);
   out.point2d(13, spline.endTangent);
 }
@@ -173,7 +178,7 @@ void putLoop(const OdDbHatchLoop& loop, OdDbDxfOut& out) {
   } else {
     out.integer(93, static_cast<std::int64_t>(loop.edges.size()));
     for (const OdDbHatchEdge& edge : loop.edges)
-      std::visit([&](const auto& e) { putEdge(e, out); }, edge);
+      std::visit([&](const auto& e) { putEdge(e, &edge == &loop.edges.back(), out); }, edge);
   }
   const auto isThere = [](OdDbObjectId id) { return id.isValid(); };
   out.integer(97, std::count_if(loop.sources.begin(), loop.sources.end(), isThere));
@@ -239,7 +244,10 @@ bool OdDbHatch::readLoopTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   OdDbHatchLoop& loop = m_hatch.loops.back();
   switch (tag.code) {
   case 93: // the lists tell their lengths
+    return true;
   case 97:
+    if (Spline* const last = loop.edges.empty() ? nullptr : std::get_if<Spline>(&loop.edges.back()))
+      ++last->countsBehind;
     return true;
   case 330:
     if (const OdDbObjectId id = in.reference(tag); !id.isNull()) loop.sources.push_back(id);
@@ -380,6 +388,7 @@ void OdDbHatch::dxfOut(OdDbDxfOut& out) const {
   if (!isGradient() || out.version() < OdDb::kR2004) return;
   oddxf::putFields<Data>(kGradient, m_hatch, out);
   putGradientColor(m_hatch.colorValue1, m_hatch.color1, m_hatch.colorIndex1, out);
-  if (m_hatch.colorCount > 1) putGradientColor(m_hatch.colorValue2, m_hatch.color2, m_hatch.colorIndex2, out);
+  if (m_hatch.colorCount > 1)
+    putGradientColor(m_hatch.colorValue2, m_hatch.color2, m_hatch.colorIndex2, out);
   oddxf::putField(kGradientName, m_hatch, out);
 }

@@ -6,11 +6,12 @@
 namespace {
 
 using Field = OdDbDxfField<OdDbMText::Data>;
+constexpr int kDefinedHeight = 46;
 constexpr Field kFields[] = {
     {10, &OdDbMText::Data::location},
     {40, &OdDbMText::Data::height},
     {41, &OdDbMText::Data::width, Field::kUnlessPreset},
-    {46, &OdDbMText::Data::definedHeight, Field::kUnlessPreset},
+    {kDefinedHeight, &OdDbMText::Data::definedHeight},
     {71, &OdDbMText::Data::attachment},
     {72, &OdDbMText::Data::flow},
 };
@@ -46,6 +47,9 @@ bool OdDbMText::takeField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   case 7:
     m_mtext.style = in.textStyle(tag.text);
     return true;
+  case kDefinedHeight:
+    m_mtext.tellsDefinedHeight = true;
+    break;
   case 50:
     m_mtext.directionLast = false;
     break;
@@ -113,6 +117,7 @@ bool OdDbMText::takeColumnField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     return true;
   }
   case 72:
+    m_mtext.tellsColumns = true;
     c.count = in.integer(tag, 0);
     return true;
   case 44:
@@ -157,7 +162,10 @@ void OdDbMText::dxfInEnd(OdDbDxfIn& in) {
 }
 
 void OdDbMText::putFields(OdDbDxfOut& out) const {
-  oddxf::putFields<Data>(kFields, m_mtext, out);
+  for (const Field& field : kFields)
+    if (field.code != kDefinedHeight || m_mtext.definedHeight != 0 ||
+        (m_mtext.tellsDefinedHeight && out.version() >= OdDb::kR2004))
+      oddxf::putField(field, m_mtext, out);
   const OdString contents = oddxf::oneLine(m_mtext.contents);
   qsizetype at = 0;
   while (contents.size() - at > kChunk) {
@@ -200,7 +208,7 @@ void OdDbMText::putColumns(OdDbDxfOut& out) const {
   out.real(42, m_mtext.totalWidth);
   out.real(43, m_mtext.totalHeight);
   out.integer(71, c.kind);
-  if (c.kind == OdMTextColumns::kNone) return;
+  if (c.kind == OdMTextColumns::kNone && !m_mtext.tellsColumns) return;
   out.integer(72, c.count);
   out.real(44, c.width);
   out.real(45, c.gutter);

@@ -8,7 +8,6 @@ using Field = OdDbDxfField<OdDb2dPolyline::Data>;
 constexpr Field kFields[] = {
     {10, &OdDb2dPolyline::Data::elevation},
     {39, &OdDb2dPolyline::Data::extrusion, Field::kUnlessPreset},
-    {70, &OdDb2dPolyline::Data::flags, Field::kUnlessPreset},
     {40, &OdDb2dPolyline::Data::startWidth, Field::kUnlessPreset},
     {41, &OdDb2dPolyline::Data::endWidth, Field::kUnlessPreset},
     {71, &OdDb2dPolyline::Data::mCount, Field::kUnlessPreset},
@@ -18,6 +17,8 @@ constexpr Field kFields[] = {
     {75, &OdDb2dPolyline::Data::smoothType, Field::kUnlessPreset},
     {210, &OdDb2dPolyline::Data::extrusion, Field::kUnlessPreset},
 };
+constexpr Field kFlags = {70, &OdDb2dPolyline::Data::flags};
+constexpr std::size_t kBeforeFlags = 2;
 /// By kind.
 constexpr const char* kSubclasses[] = {"AcDb2dPolyline", "AcDb3dPolyline", "AcDbPolygonMesh",
                                        "AcDbPolyFaceMesh"};
@@ -37,8 +38,11 @@ bool OdDb2dPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   const bool known = std::any_of(std::begin(kSubclasses), std::end(kSubclasses),
                                  [&](const char* name) { return in.in(name); });
   if (!known) return false;
+  if (tag.code == kFlags.code) m_polyline.tellsFlags = true;
   // Code 66 says that corners follow, which they always do.
-  return tag.code == 100 || tag.code == 66 || oddxf::takeTag<Data>(kFields, m_polyline, tag, in);
+  return tag.code == 100 || tag.code == 66 ||
+         oddxf::takeTag<Data>({&kFlags, 1}, m_polyline, tag, in) ||
+         oddxf::takeTag<Data>(kFields, m_polyline, tag, in);
 }
 
 void OdDb2dPolyline::dxfInEnd(OdDbDxfIn& in) {
@@ -50,7 +54,10 @@ void OdDb2dPolyline::dxfOut(OdDbDxfOut& out) const {
   OdDbEntity::dxfOut(out);
   out.subclass(dxfSubclass());
   out.integer(66, 1);
-  oddxf::putFields<Data>(kFields, m_polyline, out);
+  const std::span<const Field> fields(kFields);
+  oddxf::putFields<Data>(fields.first(kBeforeFlags), m_polyline, out);
+  if (m_polyline.tellsFlags || m_polyline.flags != 0) oddxf::putField(kFlags, m_polyline, out);
+  oddxf::putFields<Data>(fields.subspan(kBeforeFlags), m_polyline, out);
 }
 
 void OdDb2dPolyline::dxfOutFollowers(OdDbDxfOut& out) const {

@@ -1,9 +1,11 @@
 // Entities that are kept as the file had them, moved; and what applications keep with entities.
+#include "drawing/entities/attribute_definition.h"
 #include "drawing/entities/circle.h"
 #include "drawing/moved_xdata.h"
 #include "drawing/objects/raw_object.h"
 
 #include "drawing/contents/support.h"
+#include "drawing/entities/recorder.h"
 
 using namespace oddbtest;
 
@@ -189,4 +191,91 @@ TEST(MovedXData, PlacesDirectionsAndLengthsFollowTheirEntity) {
   const QByteArray before = db->writeDxf();
   EXPECT_FALSE(oddb::transformWithXData(*circle, OdGeMatrix3d::scaling(2, 1, 1)));
   EXPECT_EQ(db->writeDxf(), before);
+}
+
+namespace {
+
+/// A multileader with a text and a block, whose attribute says "B7".
+QByteArray leaderWithBlock(OdDbHandle block, OdDbHandle definition) {
+  const QByteArray blockHandle = block.ascii().toLatin1();
+  return head("MULTILEADER") +
+         "100|AcDbMLeader|270|2|300|CONTEXT_DATA{|40|1.0|10|20.0|20|10.0|30|0.0|41|2.5|140|3.0|145|"
+         "1.0|174|1|290|0|296|1|341|" +
+         blockHandle +
+         "|14|0.0|24|0.0|34|1.0|15|20.0|25|10.0|35|0.0|16|1.0|26|1.0|36|1.0|46|0.0|93|-1056964608|"
+         "47|1.0|47|0.0|47|0.0|47|20.0|47|0.0|47|1.0|47|0.0|47|10.0|47|0.0|47|0.0|47|1.0|47|0.0|47|"
+         "0.0|47|0.0|47|0.0|47|1.0|110|0.0|120|0.0|130|0.0|111|1.0|121|0.0|131|0.0|112|0.0|122|1.0|"
+         "132|0.0|297|0|302|LEADER{|290|1|291|1|10|15.0|20|10.0|30|0.0|11|1.0|21|0.0|31|0.0|90|0|"
+         "40|5.0|304|LEADER_LINE{|10|1.0|20|1.0|30|0.0|91|0|305|}|271|0|303|}|301|}|340|0|90|0|170|"
+         "1|91|-1056964608|171|-2|290|1|291|1|41|5.0|42|3.0|172|1|344|" +
+         blockHandle + "|10|1.0|20|1.0|30|1.0|43|0.0|176|0|330|" + definition.ascii().toLatin1() +
+         "|177|0|44|0.0|302|B7|45|1.0";
+}
+
+} // namespace
+
+TEST(RawMotion, MultileadersGrowWithAllTheirSizes) {
+  const OdDbDatabasePtr db = drawingWith(leaderWithBlock(0x1F, 0));
+  const OdDbEntityPtr leader = first(*db);
+  ASSERT_TRUE(leader->transformBy(kShift * OdGeMatrix3d::scaling(2)));
+  // Places in the order of the file; the last one is the scale of the block.
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 10), "45 35 7 2");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 15), "45");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 40), "2 10") << "of all, and the landing";
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 41), "5 10") << "letters, and the landing";
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 42), "6");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 140), "6");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 145), "2");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 16), "2");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 36), "2");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 45), "2");
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 11), "1") << "directions keep their length";
+  EXPECT_EQ(valuesOf(*db, "MULTILEADER", 47), "2 0 0 45 0 2 0 26 0 0 2 0 0 0 0 1");
+  EXPECT_FALSE(leader->transformBy(OdGeMatrix3d::scaling(2, 1, 1)));
+}
+
+TEST(RawMotion, LightsGrowAndAreMirrored) {
+  const OdDbDatabasePtr db =
+      drawingWith(head("LIGHT") + "100|AcDbLight|90|0|1|Lamp|70|3|290|1|291|0|40|1.5|10|1.0|20|2.0|"
+                                  "30|3.0|11|4.0|21|5.0|31|0.0|72|0|292|1|41|1.0|42|10.0|50|45.0");
+  const OdDbEntityPtr light = first(*db);
+  ASSERT_TRUE(light->transformBy(OdGeMatrix3d::mirroring({}, OdGeVector3d::xAxis()) *
+                                 OdGeMatrix3d::scaling(2)));
+  EXPECT_EQ(valuesOf(*db, "LIGHT", 10), "-2");
+  EXPECT_EQ(valuesOf(*db, "LIGHT", 21), "10");
+  EXPECT_EQ(valuesOf(*db, "LIGHT", 42), "20");
+  EXPECT_EQ(valuesOf(*db, "LIGHT", 40), "1.5") << "as bright as before";
+  EXPECT_FALSE(light->transformBy(OdGeMatrix3d::scaling(2, 1, 1)));
+}
+
+TEST(RawMotion, TolerancesMoveWithTheirPlaceAndKeepTheSizeOfTheirStyle) {
+  const OdDbDatabasePtr db = drawingWith(
+      head("TOLERANCE") + "100|AcDbFcf|3|Standard|10|1.0|20|2.0|30|0.0|1|{\\Fgdt;j}|210|"
+                          "0.0|220|0.0|230|1.0|11|1.0|21|0.0|31|0.0");
+  const OdDbEntityPtr tolerance = first(*db);
+  ASSERT_TRUE(tolerance->transformBy(kQuarter * OdGeMatrix3d::scaling(3)));
+  EXPECT_EQ(valuesOf(*db, "TOLERANCE", 10), "-6");
+  EXPECT_EQ(valuesOf(*db, "TOLERANCE", 20), "3");
+  EXPECT_EQ(valuesOf(*db, "TOLERANCE", 21), "1");
+  EXPECT_FALSE(tolerance->transformBy(OdGeMatrix3d::mirroring({}, OdGeVector3d::xAxis())));
+}
+
+TEST(RawMotion, BlocksOfMultileadersShowTheTextsThatTheyAreGiven) {
+  const OdDbDatabasePtr made = OdDbDatabase::createDatabase();
+  const OdDbObjectId block = addBlock(*made, QStringLiteral("BALLOON"));
+  const auto definition = odrxMake<OdDbAttributeDefinition>();
+  definition->setTag(QStringLiteral("NUMBER"));
+  definition->setPosition({0, 5, 0});
+  definition->setHeight(2);
+  const OdDbObjectId id =
+      block.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(definition);
+  QByteArray file = made->writeDxf();
+  QByteArray lines = leaderWithBlock(block.getHandle(), id.getHandle());
+  lines.replace('|', '\n').replace("5\nF0\n", "5\nFF0\n");
+  file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")), lines + '\n');
+  const OdDbDatabasePtr db = OdDbDatabase::readDxf(file, QStringLiteral("x"));
+  Recorder recorder;
+  first(*db)->worldDraw(recorder);
+  ASSERT_EQ(recorder.texts.size(), 1u);
+  EXPECT_EQ(recorder.texts[0].text, QStringLiteral("B7"));
 }
