@@ -1,6 +1,7 @@
 // Drawings that are converted by other programs.
 #include "drafton/engine/drawing_files.h"
 
+#include "drawing/entities/line.h"
 #include "drawing/objects/layout.h"
 #include "engine/support/engine_fixture.h"
 #include "engine/support/test_commands.h"
@@ -354,15 +355,6 @@ TEST_F(DrawingFilesTest, TimesAreNoChangeThatIsUndone) {
   EXPECT_FALSE(variables().set(QStringLiteral("TDUPDATE"), 5.0)) << "nobody else sets the clock";
 }
 
-TEST_F(DrawingFilesTest, WrittenBlocksAreMadeWhenTheyAreWritten) {
-  HeldClock clock(kEvening);
-  draw();
-  type(QStringLiteral("WBLOCK \"%1\"\n*\n").arg(path("w.dxf")));
-  const OdDbDatabasePtr written = OdDbDatabase::readFile(path("w.dxf"));
-  EXPECT_NEAR(written->sysVarReal("TDUCREATE"), kEveningInDays, 1e-7);
-  EXPECT_NEAR(written->sysVarReal("TDUUPDATE"), kEveningInDays, 1e-7);
-}
-
 TEST_F(DrawingFilesTest, LayoutsTellTheirExtents) {
   draw();
   const auto extentsOf = [](const OdDbDatabase& from, std::size_t tab) {
@@ -376,8 +368,10 @@ TEST_F(DrawingFilesTest, LayoutsTellTheirExtents) {
   const OdDbDatabasePtr model = OdDbDatabase::readFile(path("box.dxf"));
   EXPECT_EQ(extentsOf(*model, 0), std::pair(OdGePoint3d(), OdGePoint3d(10, 10, 0)));
   EXPECT_EQ(extentsOf(*model, 1).first.x, 1e20) << "nothing is on the sheet";
-  type(QStringLiteral("TILEMODE 0\n"));
-  type(QStringLiteral("DRAW 3,4 5,6 \n"));
+  database()
+      .getPaperSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d{3, 4, 0}, OdGePoint3d{5, 6, 0}));
   type(QStringLiteral("Save\n"));
   const OdDbDatabasePtr sheet = OdDbDatabase::readFile(path("box.dxf"));
   EXPECT_EQ(extentsOf(*sheet, 1), std::pair(OdGePoint3d(3, 4, 0), OdGePoint3d(5, 6, 0)));

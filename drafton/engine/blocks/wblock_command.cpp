@@ -5,11 +5,9 @@
 #include "drafton/engine/document.h"
 #include "drafton/engine/drawing_files.h"
 #include "drafton/engine/engine.h"
-#include "drafton/engine/saved_facts.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
 #include "frame/file_path.h"
-#include "frame/system_services.h"
 
 #include <QFileInfo>
 
@@ -72,7 +70,6 @@ Task<void> writeBlock(CommandContext& context) {
   const OdDbDatabasePtr drawing = co_await askContents(context, path);
   if (!drawing) co_return;
   try {
-    tellTimes(*drawing, odrxSystemServices()->currentTime(), true);
     writeDrawing(context.engine(), *drawing, path);
   } catch (const OdError& error) {
     throw CommandFailure(error.description());
