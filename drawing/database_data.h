@@ -3,6 +3,7 @@
 
 #include "drawing/database.h"
 #include "drawing/file_stamp.h"
+#include "drawing/seldom.h"
 #include "drawing/undo.h"
 
 #include <unordered_set>
@@ -15,9 +16,9 @@ struct OdDbRawSection {
 
 /// One place in the order of the header's variables.
 struct OdDbHeaderEntry {
-  int known = -1;        ///< the row of the table, or -1
-  std::int16_t code = 0; ///< the group code in the file, or 0
-  QByteArray tags;       ///< the lines of a variable that the table does not know
+  int known = -1;              ///< the row of the table, or -1
+  std::int16_t code = 0;       ///< the group code in the file, or 0
+  OdDbSeldom<QByteArray> tags; ///< the lines of a variable that the table does not know
 };
 
 struct OdDbDatabaseData {

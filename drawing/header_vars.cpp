@@ -255,14 +255,6 @@ constexpr V kVars[] = {
     {"XEDIT", 290, V::kInt, "1"},
 };
 
-int compare(const char* row, QStringView name) {
-  for (qsizetype i = 0;; ++i) {
-    const int a = static_cast<unsigned char>(row[i]);
-    const int b = i < name.size() ? name[i].toUpper().unicode() : 0;
-    if (a != b || a == 0) return a - b;
-  }
-}
-
 constexpr bool isSorted() {
   for (std::size_t i = 1; i < std::size(kVars); ++i)
     if (std::string_view(kVars[i - 1].name) >= kVars[i].name) return false;
@@ -276,8 +268,14 @@ std::span<const OdDbHeaderVarInfo> oddbHeaderVars() { return kVars; }
 
 const OdDbHeaderVarInfo* oddbFindHeaderVar(QStringView name) {
   if (name.startsWith(u'$')) name = name.mid(1);
+  // Folded once, it can be compared as the rows are.
+  char upper[32];
+  if (name.size() > static_cast<qsizetype>(sizeof upper)) return nullptr;
+  const char* const end = std::transform(name.begin(), name.end(), upper,
+                                         [](QChar c) { return c.toUpper().toLatin1(); });
+  const std::string_view wanted(upper, static_cast<std::size_t>(end - upper));
   const auto* const at =
-      std::lower_bound(std::begin(kVars), std::end(kVars), name,
-                       [](const V& row, QStringView n) { return compare(row.name, n) < 0; });
-  return at != std::end(kVars) && compare(at->name, name) == 0 ? at : nullptr;
+      std::lower_bound(std::begin(kVars), std::end(kVars), wanted,
+                       [](const V& row, std::string_view n) { return row.name < n; });
+  return at != std::end(kVars) && at->name == wanted ? at : nullptr;
 }

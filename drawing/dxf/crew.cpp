@@ -6,7 +6,10 @@
 std::size_t OdDbDxfCrew::machineThreads() {
   // What one thread puts in order keeps no more than these busy.
   constexpr std::size_t kUseful = 8;
-  return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, kUseful);
+  // The system reads files to answer that.
+  static const auto count =
+      std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, kUseful);
+  return count;
 }
 
 OdDbDxfCrew::OdDbDxfCrew(std::size_t threads)

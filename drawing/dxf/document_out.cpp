@@ -69,7 +69,7 @@ class Writer {
     }
     for (const OdDbHeaderEntry& entry : m_data.headerOrder) {
       if (entry.known < 0) {
-        m_out.kept(entry.tags);
+        m_out.kept(*entry.tags);
       } else {
         variable(static_cast<std::size_t>(entry.known), entry.code);
         written[static_cast<std::size_t>(entry.known)] = true;

@@ -17,7 +17,7 @@ void OdDbDxfReader::readHeader() {
       if (row)
         entry->known = static_cast<int>(row - vars.data());
       else
-        oddxf::addLines(entry->tags, 9, tag.text);
+        oddxf::addLines(entry->tags.edit(), 9, tag.text);
       continue;
     }
     if (!entry) {
@@ -25,7 +25,7 @@ void OdDbDxfReader::readHeader() {
       continue;
     }
     if (entry->known < 0) {
-      oddxf::addLines(entry->tags, tag.code, tag.text);
+      oddxf::addLines(entry->tags.edit(), tag.code, tag.text);
       continue;
     }
     const auto i = static_cast<std::size_t>(entry->known);

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::size_t kSize = 64 * 1024;
+constexpr std::size_t kSize = 32 * 1024;
 constexpr std::size_t kLargest = 1024 * 1024;
 
 std::size_t countLines(std::string_view text) {
