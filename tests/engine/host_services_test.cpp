@@ -4,9 +4,12 @@
 #include "engine/support/engine_fixture.h"
 #include "frame/dynamic_library.h"
 #include "frame/file_path.h"
+#include "host/clipboard.h"
+#include "host/clipboard_payload.h"
 #include "host/command_menu.h"
 #include "host/exports.h"
 #include "host/hatch_settings.h"
+#include "host/selection.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -142,6 +145,74 @@ TEST_F(HostServicesTest, TheMenuHasEachCommandOnce) {
   wanted.sort();
   shown.sort();
   EXPECT_EQ(shown.join(u' ').toStdString(), wanted.join(u' ').toStdString());
+}
+
+TEST_F(HostServicesTest, TheListForOtherProgramsHasTheRowsOfTheMenu) {
+  QFile file(QStringLiteral(SOURCE_DIR "/drafton/engine/data/command_menu.xml"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&file);
+  QStringList listed, shown;
+  while (!xml.atEnd())
+    if (xml.readNext() == QXmlStreamReader::StartElement &&
+        xml.name() == QLatin1String("MenuCommand")) {
+      const auto attributes = xml.attributes();
+      for (const char* name : {"name", "label", "tip", "macro"})
+        listed << attributes.value(QLatin1String(name)).toString();
+    }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  for (const drafton::MenuRow& row : drafton::commandMenu())
+    for (const char16_t* text : {row.command, row.label, row.tip, row.macro})
+      shown << OdString::fromUtf16(text);
+  EXPECT_EQ(listed, shown);
+}
+
+TEST_F(HostServicesTest, CopiedObjectsStandOnTheClipboardWithADrawingOfTheirOwn) {
+  const auto clipboard = kvQuery<IHostClipboard>(&engine().services());
+  ASSERT_TRUE(clipboard);
+  const int format = clipboard->registerFormat(kHostClipboardFormat.toString());
+  EXPECT_EQ(clipboard->registerFormat(kHostClipboardFormat.toString()), format);
+  EXPECT_NE(clipboard->registerFormat(QStringLiteral("AutoCAD.r15")), format);
+  EXPECT_TRUE(clipboard->data(format).isEmpty());
+  type(QStringLiteral("LINE 0,0 10,0 \nCIRCLE 0,0 5\nCOPYCLIP Last \n"));
+  const HostClipboardPayload payload = hostclipboard::fromBytes(clipboard->data(format));
+  ASSERT_EQ(payload.entities.size(), 1u);
+  const OdDbObjectId copied = database().getOdDbObjectId(payload.entities[0]);
+  EXPECT_EQ(copied.openObject()->isA()->name(), QStringLiteral("OdDbCircle"));
+  const OdDbDatabasePtr drawing = OdDbDatabase::readFile(payload.drawing);
+  const OdDbBlockTableRecordPtr space = drawing->getModelSpaceId().openObject();
+  EXPECT_EQ(space->entityIds().size(), 1u);
+  const OdString name = odpath::fileNameOf(payload.drawing);
+  EXPECT_EQ(name, name.toLower());
+  EXPECT_TRUE(QFile::remove(odpath::toPlatform(payload.drawing)));
+  clipboard->setData(clipboard->registerFormat(QStringLiteral("AutoCAD.r15")), "x");
+  EXPECT_TRUE(clipboard->data(format).isEmpty()) << "what is new takes the place of everything";
+}
+
+TEST_F(HostServicesTest, ModulesLetTheUserChooseObjects) {
+  const auto selection = kvQuery<IHostSelection>(&engine().services());
+  ASSERT_TRUE(selection);
+  type(QStringLiteral("LINE 0,0 10,0 \nCIRCLE 0,0 5\n"));
+  EXPECT_TRUE(selection->choose(document()).empty()) << "nobody answers";
+  type(QStringLiteral("QSELECT LINE * * \nInclude\n"));
+  const std::vector<OdDbObjectId> chosen = selection->choose(document());
+  ASSERT_EQ(chosen.size(), 1u) << "what was chosen before counts";
+  EXPECT_EQ(chosen[0].openObject()->isA()->name(), QStringLiteral("OdDbLine"));
+}
+
+TEST_F(HostServicesTest, ADrawingIsSavedAsLongAsItsFileHasAllOfIt) {
+  const auto isSaved = exported<hostexport::IsObjectSaved>(hostexport::kIsObjectSaved);
+  ASSERT_TRUE(isSaved);
+  EXPECT_FALSE(isSaved(&document())) << "it has no file";
+  const QTemporaryDir folder;
+  const OdString path = folder.filePath(QStringLiteral("a.dxf"));
+  type(QStringLiteral("LINE 0,0 10,0 \n"));
+  document().save(odpath::fromPlatform(path));
+  EXPECT_TRUE(isSaved(&document()));
+  type(QStringLiteral("CIRCLE 0,0 5\n"));
+  EXPECT_FALSE(isSaved(&document()));
+  document().save(odpath::fromPlatform(path));
+  ASSERT_TRUE(QFile::remove(path));
+  EXPECT_FALSE(isSaved(&document()));
 }
 
 TEST_F(HostServicesTest, ATickedMessageIsNotShownAgain) {
