@@ -2,6 +2,7 @@
 
 #include "drafton/desktop/autosave.h"
 #include "drafton/desktop/desktop_options.h"
+#include "drafton/desktop/language.h"
 #include "drafton/desktop/main_window.h"
 #include "drafton/desktop/options_dialog.h"
 #include "drafton/program/program_setup.h"
@@ -84,6 +85,7 @@ int runDesktop(int& argc, char** argv) {
   offerPictures(engine);
 
   applyTheme(choiceOption(desktop, "Theme"));
+  loadLanguage(QApplication::applicationDirPath(), choiceOption(desktop, "Language"));
   UserDialogs dialogs;
   MainWindow window(desktop, dialogs);
   loadToolPalettes(engine);

@@ -15,6 +15,8 @@ namespace {
 
 constexpr OptionRow kOptions[] = {
     {u"&Theme", "Theme", false, OptionKind::kChoice, 0, 0, 0, u"System|Light|Dark"},
+    {u"&Language (at the next start)", "Language", false, OptionKind::kChoice, 0, 0, 0,
+     u"System|English|Deutsch"},
     {u"Size of the &crosshair (percent)", "CURSORSIZE", true, OptionKind::kNumber, 1, 100, 5, u""},
     {u"&Pick box (pixels)", "PICKBOX", true, OptionKind::kNumber, 0, 50, 5, u""},
     {u"&Reach of object snaps (pixels)", "APERTURE", true, OptionKind::kNumber, 1, 50, 10, u""},
