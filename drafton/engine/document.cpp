@@ -3,6 +3,7 @@
 #include "drafton/engine/drawing_files.h"
 #include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
+#include "drafton/engine/preview_keeper.h"
 #include "drafton/engine/saved_facts.h"
 #include "drawing/variable_recording.h"
 #include "frame/file_path.h"
@@ -75,6 +76,7 @@ void Document::save(const OdString& path) {
                    u"it. Save the drawing under another name.")
             .arg(path, lostBySaving().join(QStringLiteral(", "))));
   keepBackup(path);
+  keepPreview(m_engine, *this);
   const OdDb::DwgVersion version = savingVersion(m_engine, *this);
   const OdDb::DwgVersion former = m_database->originalFileVersion();
   const bool isChosen = m_values.contains(QStringLiteral("DXFVERSION"));

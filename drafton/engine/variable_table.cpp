@@ -116,6 +116,8 @@ constexpr VariableRow kVariables[] = {
     {u"PLATFORM", Type::kText, Scope::kComputed, u"", 0, 0, platform},
     {u"POLARANG", Type::kReal, Scope::kProfile, u"45", kAboveZero, 180},
     {u"POLYSIDES", Type::kInteger, Scope::kDocument, u"4", 3, 1024},
+    // Off for scripts: what they save is to be alike on every machine, whatever fonts that has.
+    {u"RASTERPREVIEW", Type::kInteger, Scope::kSession, u"0", 0, 1},
     {u"RefreshProperties", Type::kInteger, Scope::kSession, u"0"},
     {u"SNAPMODE", Type::kInteger, Scope::kDocument, u"0", 0, 1},
 };

@@ -1,7 +1,11 @@
 // Pictures that a run without a window draws.
 #include "batch_run.h"
 
+#include "drafton/previews/stored_preview.h"
+#include "frame/file_path.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -67,6 +71,43 @@ TEST(Pictures, InAFolderThatIsNotThereAreAnError) {
       bench.batch({}, kLine, {QStringLiteral("--png"), bench.path(QStringLiteral("none/a.png"))});
   EXPECT_EQ(run.exitCode, 3);
   EXPECT_TRUE(run.err.contains(QStringLiteral("is not drawn"))) << qPrintable(run.err);
+}
+
+constexpr const char* kPreview = "SETVAR RASTERPREVIEW 1\n";
+
+QImage previewOf(const QString& file) {
+  return drafton::readStoredPreview(odpath::fromPlatform(file));
+}
+
+TEST(Pictures, AreKeptInDrawingsOnDemand) {
+  const Workbench bench;
+  const RunResult run =
+      bench.batch({}, QByteArray(kPreview) + "CIRCLE 50,50 40\nRECTANG 0,0 100,100\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  const QImage picture = previewOf(bench.drawing());
+  ASSERT_EQ(picture.size(), QSize(128, 128));
+  EXPECT_EQ(picture.pixel(20, 20), qRgb(255, 255, 255));
+  EXPECT_GT(darkPixels(picture), 500);
+  EXPECT_LT(QFileInfo(bench.drawing()).size(), 60'000);
+  EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
+}
+
+TEST(Pictures, AreNotKeptInDrawingsOtherwiseAndStayWhereTheyAre) {
+  const Workbench bench;
+  ASSERT_EQ(bench.batch({}, kLine).exitCode, 0);
+  EXPECT_TRUE(previewOf(bench.drawing()).isNull());
+  ASSERT_EQ(bench.batch({}, QByteArray(kPreview) + kLine).exitCode, 0);
+  const QImage before = previewOf(bench.drawing());
+  ASSERT_FALSE(before.isNull());
+  ASSERT_EQ(bench.batch({}, "CIRCLE 0,0 5\n", {bench.drawing()}).exitCode, 0);
+  EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
+  EXPECT_EQ(previewOf(bench.drawing()), before);
+}
+
+TEST(Pictures, OfNothingAreNotKept) {
+  const Workbench bench;
+  ASSERT_EQ(bench.batch({}, kPreview).exitCode, 0);
+  EXPECT_TRUE(previewOf(bench.drawing()).isNull());
 }
 
 } // namespace
