@@ -1,6 +1,7 @@
 // Pictures of tools: palettes that have them, photographs, previews of blocks.
 #include "bench/ratio_report.h"
 #include "bench/sample_catalog.h"
+#include "catalog/tool.h"
 #include "catalog/tool_palette.h"
 #include "drafton/previews/offscreen_application.h"
 #include "drafton/previews/preview_service.h"
@@ -8,12 +9,14 @@
 #include "drawing/entities/line.h"
 #include "frame/file_path.h"
 #include "images/image_list.h"
+#include "images/picture_cache.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -80,6 +83,27 @@ OdDbObjectId bigBlock(OdDbDatabase& drawing) {
   return id;
 }
 
+/// Shows every picture of a palette ten times over, as somebody does who scrolls to and fro, and
+/// tells what stays in memory.
+void tellMemory(const QString& file) {
+  const tc::OdTcToolPalettePtr palette = tc::OdTcToolPalette::createObject();
+  palette->load(odpath::fromPlatform(file));
+  qsizetype shown = 0, most = 0;
+  for (int round = 0; round < 10; ++round) {
+    const tc::OdTcEnumPtr<tc::OdTcTool> tools = palette->enumTools();
+    while (tc::OdTcTool* const tool = tools->next()) {
+      const auto images = tool->images()->enumImages();
+      while (tc::OdTcImage* const image = images->next()) shown += image->getBitmap().sizeInBytes();
+      most = std::max(most, tc::PictureCache::instance().size());
+    }
+  }
+  std::printf(
+      "Pictures of %.1f MB were shown; at most %.1f MB of them were in memory, the bound is "
+      "%.1f MB.\n",
+      static_cast<double>(shown) / (1 << 20), static_cast<double>(most) / (1 << 20),
+      static_cast<double>(tc::PictureCache::instance().limit()) / (1 << 20));
+}
+
 void preview(benchmark::State& state, OdDbObjectId block) {
   const auto service =
       kvMake<drafton::PreviewService>([](const OdString&) { return std::nullopt; });
@@ -119,5 +143,6 @@ int main(int argc, char** argv) {
         1.2},
        {"three pictures of a photo / one by Qt", "three pictures", "one picture by Qt", 1.3}});
   std::printf("The target of a preview of 1,000 lines is 20 milliseconds; it stands above.\n");
+  tellMemory(with);
   return result;
 }

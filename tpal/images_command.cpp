@@ -136,6 +136,11 @@ class PictureMaker {
   bool take(tc::OdTcImageList& images, const tc::OdTcImagePtr& picture, const Size& size,
             const OdString& palette, const FileUse& use) {
     tc::OdTcImage* const former = images.findBySize(codeOf(size));
+    // One of the program's buttons has no file.
+    if (picture->isResource()) {
+      replace(images, former, picture);
+      return true;
+    }
     const OdString formerFile = former ? former->fullPath() : OdString();
     const bool staysInPlace = !formerFile.isEmpty() && !use.isShared(formerFile);
     const OdString file = staysInPlace ? formerFile : odpath::folderOf(palette) + picture->src();

@@ -12,7 +12,9 @@
 #include "frame/file_path.h"
 #include "render/golden_picture.h"
 
+#include <QBuffer>
 #include <QPainter>
+#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -184,6 +186,39 @@ TEST_F(Previews, OfPatternsRepeatAFewTimes) {
        {u"ANSI31", u"ANSI37", u"BRICK", u"GRAVEL", u"EARTH", u"DOTS", u"SOLID"})
     sheet.add([&](int pixels) { return service->renderPattern(text(name), pixels); });
   EXPECT_TRUE(looksLike(sheet.image(), "preview_patterns"));
+}
+
+TEST_F(Previews, OfDrawingsAndLayoutsShowWhatIsInThem) {
+  // A house of blocks in the model, its sheet, and the picture that the drawing's file keeps.
+  const auto model = drawing->getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  const OdDbObjectId leaf = door(), crown = tree();
+  model->appendOdDbEntity(polyline({{0, 0}, {9000, 0}, {9000, 6000}, {0, 6000}}));
+  model->appendOdDbEntity(odrxMake<OdDbBlockReference>(leaf, OdGePoint3d{2000, 0, 0}));
+  model->appendOdDbEntity(odrxMake<OdDbBlockReference>(crown, OdGePoint3d{12000, 3000, 0}));
+  const auto layouts = drawing->getBlockTableId().openAs<OdDbBlockTable>();
+  const auto paper =
+      layouts->getAt(text(u"*Paper_Space")).openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
+  paper->appendOdDbEntity(polyline({{0, 0}, {297, 0}, {297, 210}, {0, 210}}));
+  paper->appendOdDbEntity(polyline({{180, 10}, {287, 10}, {287, 50}, {180, 50}}));
+  paper->appendOdDbEntity(filled(20, 70, 160, 190, 5));
+  QImage stored = show(model->objectId(), 128);
+  QImage sheetOfPaper(stored.size(), QImage::Format_RGB32);
+  sheetOfPaper.fill(Qt::white);
+  QPainter(&sheetOfPaper).drawImage(0, 0, stored);
+  QByteArray bitmap;
+  QBuffer buffer(&bitmap);
+  ASSERT_TRUE(buffer.open(QIODevice::WriteOnly));
+  sheetOfPaper.save(&buffer, "BMP");
+  drawing->setThumbnail(bitmap.mid(14));
+  const QTemporaryDir folder;
+  const OdString file = odpath::fromPlatform(folder.filePath(QStringLiteral("house.dxf")));
+  drawing->writeFile(file);
+
+  ContactSheet sheet;
+  sheet.add([&](int pixels) { return show(model->objectId(), pixels); });
+  sheet.add([&](int pixels) { return show(paper->objectId(), pixels); });
+  sheet.add([&](int pixels) { return service->storedPreview(file, pixels); });
+  EXPECT_TRUE(looksLike(sheet.image(), "preview_drawings"));
 }
 
 TEST_F(Previews, OfFilesWithoutAPictureAreSheetsWithTheirKind) {

@@ -172,6 +172,29 @@ TEST_F(Images, OfHatchesAndPicturesAreMadeOfThemselves) {
   EXPECT_EQ(pictures().size(), 9);
 }
 
+/// Has an icon of LINE.
+class LineIcon : public CKVUnknownImpl<IHostIconService> {
+ public:
+  QImage icon(const OdString& name, int pixels) override {
+    return name == QLatin1String("LINE") ? QImage(pixels, pixels, QImage::Format_ARGB32) : QImage();
+  }
+};
+
+TEST_F(Images, OfCommandsAreTheIconsOfTheProgram) {
+  tpal::ConsoleHost::instance().setIcons(kvMake<LineIcon>().get());
+  writeCatalog(tool("{1}", "Line", "<Command Macro=\"^C^C_LINE 0,0 \"/>") +
+               tool("{2}", "Other", "<Command Macro=\"^C^C_OTHER \"/>"));
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("P: Line (command): made 16, 32, 64\n")))
+      << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("P: Other (command): lacks 16, 32, 64")));
+  EXPECT_TRUE(pictures().isEmpty());
+  const QByteArray palette = read(QStringLiteral("c/Palettes/p.dtc"));
+  EXPECT_EQ(palette.count("resource=\"LINE\""), 3) << palette.constData();
+  EXPECT_EQ(palette.count("<Image "), 3);
+  tpal::ConsoleHost::instance().setIcons(nullptr);
+}
+
 TEST_F(Images, AreNotMadeAndRebuiltAtOnce) {
   writeCatalog({});
   EXPECT_EQ(images({kMissing, kRebuild}), tpal::kUsage);
