@@ -83,6 +83,8 @@ int runDesktop(int& argc, char** argv) {
   if (options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *options.catalogs);
   offerPictures(engine);
+  // What people save by hand carries a picture, for palettes and lists of files.
+  engine.sessionValues()[QStringLiteral("RASTERPREVIEW")] = std::int32_t{1};
 
   applyTheme(choiceOption(desktop, "Theme"));
   loadLanguage(QApplication::applicationDirPath(), choiceOption(desktop, "Language"));

@@ -47,6 +47,32 @@ void strengthen(QImage& picture) {
   }
 }
 
+QImage strengthenedOnGround(const QImage& picture, double reduction) {
+  constexpr double kLeastGround = 0.4; // of all pixels
+  constexpr double kMostGain = 4;
+  QImage result = picture.convertToFormat(QImage::Format_RGB32);
+  const QRgb ground = result.pixel(0, 0);
+  qsizetype plain = 0;
+  for (int y = 0; y < result.height(); ++y) {
+    const auto* const row = reinterpret_cast<const QRgb*>(result.constScanLine(y));
+    plain += std::count(row, row + result.width(), ground);
+  }
+  const auto all = static_cast<double>(result.width()) * result.height();
+  if (reduction <= 1 || static_cast<double>(plain) < kLeastGround * all) return picture;
+  const double gain = std::min(reduction, kMostGain);
+  const auto away = [gain](int value, int from) {
+    return std::clamp(static_cast<int>(std::lround(from + (value - from) * gain)), 0, 255);
+  };
+  for (int y = 0; y < result.height(); ++y) {
+    auto* const row = reinterpret_cast<QRgb*>(result.scanLine(y));
+    std::for_each(row, row + result.width(), [&](QRgb& pixel) {
+      pixel = qRgb(away(qRed(pixel), qRed(ground)), away(qGreen(pixel), qGreen(ground)),
+                   away(qBlue(pixel), qBlue(ground)));
+    });
+  }
+  return result;
+}
+
 QImage insideSquare(const QImage& picture, int pixels) {
   QImage square(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
   square.fill(Qt::transparent);

@@ -14,6 +14,10 @@ bool isBlank(const QImage& picture);
 /// lies askew over the pixels is seen as a line. For premultiplied pictures.
 void strengthen(QImage& picture);
 
+/// The same for a picture on a plain ground that was made `reduction` times smaller, which leaves
+/// thin lines pale. Pictures without such a ground stay as they are.
+QImage strengthenedOnGround(const QImage& picture, double reduction);
+
 /// A picture in the middle of a transparent square, as large as fits in its proportions.
 QImage insideSquare(const QImage& picture, int pixels);
 

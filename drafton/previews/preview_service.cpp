@@ -7,6 +7,8 @@
 #include "drafton/previews/stored_preview.h"
 #include "frame/file_path.h"
 
+#include <algorithm>
+
 namespace drafton {
 namespace {
 
@@ -36,7 +38,9 @@ QImage PreviewService::storedPreview(const OdString& path, int pixels) {
   if (!isPossible(pixels)) return {};
   const QImage stored = readStoredPreview(path);
   if (stored.isNull()) return {};
-  return insideSquare(stored, pixels);
+  const QImage small = stored.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  const double reduction = std::max(stored.width(), stored.height()) / static_cast<double>(pixels);
+  return insideSquare(strengthenedOnGround(small, reduction), pixels);
 }
 
 QImage PreviewService::fileIcon(const OdString& path, int pixels) {
