@@ -18,8 +18,6 @@ class OdTcToolCommandImpl final : public OdTcToolActionAgentImplBase<OdTcToolCom
   void writeProperties(OdTcFiler* filer) override;
   bool readProperty(const OdString& name, const OdVariant& value) override;
   void createProperties() override;
-  /// The host's icon of the command, if it has one.
-  bool makePicture(OdTcImage& image, OdTcSourceFiles& files) const override;
   OdRxObjectPtr clone() const override;
 
   /// Gives the image the built-in picture that is named like the macro's command.

@@ -3,7 +3,6 @@
 #include "frame/system_services.h"
 #include "images/image.h"
 #include "tools/block_tool.h"
-#include "tools/command_tool.h"
 #include "tools/hatch_tool.h"
 #include "tools/raster_tool.h"
 #include "tools/source_files.h"
@@ -20,13 +19,6 @@ bool OdTcToolBlockCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles& fi
   if (!source) return false;
   const OdDbBlockTablePtr blocks = source->getBlockTableId().openObject();
   return image.makeFromBlock(blocks->getAt(m_fields.name));
-}
-
-bool OdTcToolCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles&) const {
-  // Only where the host has an icon of that name.
-  const OdTcImagePtr icon = OdTcImage::createObject();
-  icon->setSizeKind(image.sizeKind());
-  return imageSourceFromMacro(icon) && !icon->getBitmap().isNull() && imageSourceFromMacro(&image);
 }
 
 bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles&) const {

@@ -4,7 +4,7 @@
 #include "frame/system_services.h"
 #include "images/image_list.h"
 #include "module/properties.h"
-#include "tools/action_agent.h"
+#include "tools/command_tool.h"
 #include "tools/source_files.h"
 #include "tools/tool_source.h"
 #include "tpal/command.h"
@@ -113,6 +113,10 @@ class PictureMaker {
     image->setOwner(&list);
     image->setSizeKind(codeOf(size));
     if (agent && agent->makePicture(*image, m_sources)) return image;
+    // A command shows itself by the program's icon of it, where there is one.
+    const auto* const command = dynamic_cast<const tc::OdTcToolCommandImpl*>(agent);
+    if (command && command->imageSourceFromMacro(image) && !image->getBitmap().isNull())
+      return image;
     m_problem = whyNot(agent);
     return isThere(list.findBySize(codeOf(size))) ? tc::OdTcImagePtr() : scaled(list, size);
   }
