@@ -12,7 +12,8 @@
 namespace tc {
 
 CatalogEntry::CatalogEntry(OdTcCatalogImpl& catalog, OdTcToolPalette* palette)
-  : m_held(&catalog)
+  : m_folders(odpath::folderOf(catalog.path()) + QLatin1String("\\Palettes\\Images"))
+  , m_held(&catalog)
   , m_catalog(catalog)
   , m_palette(palette) {}
 
@@ -92,6 +93,7 @@ bool CatalogEntry::save() {
 
 void CatalogEntry::commit() {
   m_isCommitted = true;
+  m_folders.keep();
   m_catalog.notifyAdded(m_palette);
   if (m_isGroupNew) m_catalog.notifyAdded(m_group);
 }

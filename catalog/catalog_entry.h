@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalog/catalog_impl.h"
+#include "catalog/made_folders.h"
 
 namespace tc {
 
@@ -30,6 +31,8 @@ class CatalogEntry {
   void notePictures();
   void takeBack();
 
+  // Its folders go last.
+  MadeFolders m_folders;
   OdTcCatalogPtr m_held;
   OdTcCatalogImpl& m_catalog;
   OdTcToolPalettePtr m_palette;

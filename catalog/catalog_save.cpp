@@ -54,19 +54,9 @@ bool CatalogSave::write() {
   const OdTcFilerPtr filer = makeCatalogFiler();
   if (m_way == Way::kInPlace)
     return writeFile(m_path, creationFor(m_path), *filer, &m_catalog, &OdTcFiler::openCatalog);
-  OdRxSystemServices* const services = odrxSystemServices();
-  const OdString fresh = m_path + QLatin1String(".new");
-  try {
-    if (!writeFile(fresh, Oda::kCreateAlways, *filer, &m_catalog, &OdTcFiler::openCatalog))
-      return false;
-  } catch (const OdFileError&) {
-    services->removeFile(fresh);
-    throw;
-  }
-  if (services->replaceFile(fresh, m_path)) return true;
-  services->removeFile(fresh);
-  throw OdFileError(eFileAccess, m_path,
-                    host::translate(QStringLiteral("the file cannot be replaced")));
+  return writeBeside(m_path, [&](const OdString& fresh) {
+    return writeFile(fresh, Oda::kCreateAlways, *filer, &m_catalog, &OdTcFiler::openCatalog);
+  });
 }
 
 void CatalogSave::updateLoader(OdTcToolPalette& palette) {

@@ -81,13 +81,12 @@ bool OdTcDatabaseImpl::readWith(const OdTcFilerPtr& filer, const OdString& path)
   return outcome.isRead;
 }
 
-/// Writes the file at the path in force. Why that failed, if it did, is told on the command line
-/// and kept.
-bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation, const OdTcFilerPtr& filer) {
+/// Writes the file at the path in force by `write`. Why that failed, if it did, is told on the
+/// command line and kept.
+bool OdTcDatabaseImpl::writeBy(const std::function<bool()>& write) {
   try {
     m_unread.keepBefore(m_path);
-    const bool isWritten = tc::writeFile(m_path, creation, *filer, this, &OdTcFiler::openPalette);
-    m_saveProblem = isWritten ? OdString() : m_path;
+    m_saveProblem = write() ? OdString() : m_path;
   } catch (const OdFileError& error) {
     m_saveProblem = error.description();
   }
@@ -102,7 +101,10 @@ bool OdTcDatabaseImpl::writeFile(Oda::FileCreationDisposition creation, const Od
 
 bool OdTcDatabaseImpl::saveAs(const OdString& path) {
   const OdString former = std::exchange(m_path, path);
-  if (!writeFile(creationFor(path), makePaletteFiler())) {
+  const bool isWritten = writeBy([&] {
+    return writeFile(path, creationFor(path), *makePaletteFiler(), this, &OdTcFiler::openPalette);
+  });
+  if (!isWritten) {
     m_path = former;
     return false;
   }
@@ -113,18 +115,25 @@ bool OdTcDatabaseImpl::saveAs(const OdString& path) {
 bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(OdString(m_path)); }
 
 bool OdTcDatabaseImpl::saveCopy(const OdString& path) {
-  return writeCopy(path, makePaletteFiler());
+  return writeCopy(path, [&] {
+    return writeFile(path, Oda::kCreateAlways, *makePaletteFiler(), this, &OdTcFiler::openPalette);
+  });
 }
 
 bool OdTcDatabaseImpl::saveExchange(const OdString& path, const OdString& imageFolder) {
-  return writeCopy(path, makeExchangeFiler(imageFolder));
+  return writeCopy(path, [&] {
+    return writeBeside(path, [&](const OdString& fresh) {
+      return writeFile(fresh, Oda::kCreateAlways, *makeExchangeFiler(imageFolder), this,
+                       &OdTcFiler::openPalette);
+    });
+  });
 }
 
-bool OdTcDatabaseImpl::writeCopy(const OdString& path, const OdTcFilerPtr& filer) {
+bool OdTcDatabaseImpl::writeCopy(const OdString& path, const std::function<bool()>& write) {
   // Pictures are written beside the path that is in force. A failed copy leaves its path behind,
   // as it always did.
   const OdString former = std::exchange(m_path, path);
-  if (!writeFile(Oda::kCreateAlways, filer)) return false;
+  if (!writeBy(write)) return false;
   m_path = former;
   return true;
 }

@@ -9,6 +9,7 @@
 #include "persistence/filer.h"
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace tc {
@@ -29,7 +30,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   /// As load, for a file of another program: `content` takes what no class here takes.
   bool loadForeign(const OdString& path, OdTcForeignContent& content);
   /// As saveCopy, in the form in which palettes are exchanged with other programs; `imageFolder`
-  /// is where that program is to look for the pictures.
+  /// is where that program is to look for the pictures. A failure leaves a file that is there as it
+  /// is.
   bool saveExchange(const OdString& path, const OdString& imageFolder);
   /// A save that fails leaves the path as it was.
   bool saveAs(const OdString& path) override;
@@ -65,8 +67,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
 
  private:
   bool readWith(const OdTcFilerPtr& filer, const OdString& path);
-  bool writeFile(Oda::FileCreationDisposition creation, const OdTcFilerPtr& filer);
-  bool writeCopy(const OdString& path, const OdTcFilerPtr& filer);
+  bool writeBy(const std::function<bool()>& write);
+  bool writeCopy(const OdString& path, const std::function<bool()>& write);
 
   OdString m_path;
   OdString m_fileRevision;

@@ -1,18 +1,23 @@
 #include "catalog/foreign_store.h"
 
-#include "persistence/foreign_paths.h"
+#include "catalog/foreign_folder.h"
 #include "catalog/inside_folder.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "persistence/document_check.h"
+#include "persistence/foreign_paths.h"
 #include "persistence/path_operations.h"
 
+#include <QDirIterator>
+#include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
 
 #include <algorithm>
 #include <array>
 #include <deque>
+#include <optional>
 
 namespace tc {
 namespace {
@@ -22,103 +27,161 @@ constexpr std::array<QStringView, 2> kCatalogRoots = {u"Catalog", u"Category"};
 
 OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
 
-/// Hands a file to the XML reader piece by piece: to tell a catalog from a palette its first tag is
-/// enough.
-class Pieces {
- public:
-  explicit Pieces(const OdString& file)
-    : m_stream(odrxSystemServices()->createFile(file, Oda::kFileRead, Oda::kShareDenyNo,
-                                                Oda::kOpenExisting)) {}
-  /// False at the end.
-  bool feed(QXmlStreamReader& xml) {
-    const std::uint64_t left = m_stream->length() - m_stream->tell();
-    if (left == 0) return false;
-    QByteArray piece(static_cast<qsizetype>(std::min<std::uint64_t>(left, kPiece)),
-                     Qt::Uninitialized);
-    m_stream->getBytes(piece.data(), static_cast<std::uint32_t>(piece.size()));
-    xml.addData(piece);
-    return true;
-  }
-
- private:
-  static constexpr std::uint64_t kPiece = std::uint64_t{1} << 16;
-  OdStreamBufPtr m_stream;
-};
-
-/// The next token; more of the file is read as it is needed.
-bool readNext(QXmlStreamReader& xml, Pieces& pieces) {
-  for (;;) {
-    if (!xml.atEnd()) xml.readNext();
-    if (xml.error() == QXmlStreamReader::PrematureEndOfDocumentError) {
-      if (!pieces.feed(xml)) return false;
-      continue;
-    }
-    return !xml.hasError() && !xml.atEnd();
-  }
+OdStreamBufPtr opened(const OdString& file) {
+  return odrxSystemServices()->createFile(file, Oda::kFileRead, Oda::kShareDenyNo,
+                                          Oda::kOpenExisting);
 }
 
-/// The paths in a catalog's entries; false if the file is no catalog.
-bool readEntries(const OdString& file, QStringList& entries) {
-  Pieces pieces(file);
-  QXmlStreamReader xml;
-  while (readNext(xml, pieces) && !xml.isStartElement()) {
+QByteArray readPiece(OdStreamBuf& stream, std::uint64_t most) {
+  const std::uint64_t length = std::min(stream.length() - stream.tell(), most);
+  QByteArray bytes(static_cast<qsizetype>(length), Qt::Uninitialized);
+  stream.getBytes(bytes.data(), static_cast<std::uint32_t>(length));
+  return bytes;
+}
+
+/// The name of the outermost element, if it stands near the beginning. A palette can be large: to
+/// tell it from a catalog its first tag is enough.
+OdString rootIn(const QByteArray& beginning) {
+  static const QRegularExpression first(
+      QStringLiteral("\\A(?:\\x{FEFF}|\\s|<\\?.*?\\?>|<!--.*?-->|<![^>]*>)*<([^\\s/><?!]+)"),
+      QRegularExpression::DotMatchesEverythingOption);
+  return first.match(OdString::fromUtf8(beginning)).captured(1);
+}
+
+/// What a catalog of a store says.
+struct Entries {
+  QStringList targets;
+  QStringList inlinePalettes; ///< names of palettes that stand in the catalog itself
+  OdString broken;            ///< where and why it breaks off; empty if it does not
+};
+
+/// Reads the text as far as it goes.
+Entries entriesIn(const QByteArray& text) {
+  Entries entries;
+  QXmlStreamReader xml(text);
+  xml.setNamespaceProcessing(false);
+  QStringList path;
+  OdString lastName;
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (xml.isEndElement()) path.removeLast();
+    if (!xml.isStartElement()) continue;
+    const bool isInPalette = !path.isEmpty() && path.last() == QLatin1String("Palette");
+    path << xml.qualifiedName().toString();
+    if (path.last() == QLatin1String("Url")) {
+      entries.targets << xml.attributes().value(QLatin1String("href")).toString();
+    } else if (path.last() == QLatin1String("ItemName")) {
+      lastName = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      path.removeLast();
+    } else if (path.last() == QLatin1String("Tools") && isInPalette) {
+      entries.inlinePalettes << lastName;
+    }
   }
-  if (!xml.isStartElement() || !isForeignCatalog(xml.name())) return false;
-  while (readNext(xml, pieces))
-    if (xml.isStartElement() && xml.name() == QLatin1String("Url"))
-      entries << xml.attributes().value(QLatin1String("href")).toString();
-  return true;
+  if (xml.hasError())
+    entries.broken = translated(u"line %1, column %2: %3")
+                         .arg(OdString::number(xml.lineNumber()),
+                              OdString::number(xml.columnNumber()), xml.errorString());
+  return entries;
+}
+
+/// What the catalog in a file says; nothing if the file is no catalog.
+std::optional<Entries> readEntries(const OdString& file) {
+  constexpr std::uint64_t kBeginning = std::uint64_t{1} << 16;
+  const OdStreamBufPtr stream = opened(file);
+  const QByteArray beginning = readPiece(*stream, kBeginning);
+  if (!isForeignCatalog(rootIn(beginning))) return std::nullopt;
+  if (stream->length() > static_cast<std::uint64_t>(kMaxDocumentBytes)) {
+    Entries none;
+    none.broken = translated(u"the file is too large");
+    return none;
+  }
+  const QByteArray bytes = beginning + readPiece(*stream, stream->length());
+  // Read as palettes are: what is mended there is mended here.
+  const OdTcCheckedDocument checked = checkDocument(bytes);
+  if (checked.refusal.isEmpty()) return entriesIn(checked.text);
+  Entries entries = entriesIn(bytes);
+  entries.broken = checked.refusal;
+  return entries;
+}
+
+/// The files of a folder and of those in it, in a stable order. Links are not followed to other
+/// folders.
+QStringList filesBelow(const OdString& folder) {
+  QStringList files;
+  QDirIterator each(odpath::toPlatform(folder), {QStringLiteral("*.xtp"), QStringLiteral("*.atc")},
+                    QDir::Files, QDirIterator::Subdirectories);
+  while (each.hasNext()) files << odpath::fromPlatform(each.next());
+  files.sort();
+  return files;
 }
 
 class Walk {
  public:
-  Walk(const OdString& first, OdTcForeignPalettes& found)
-    : m_home(odpath::folderOf(first))
-    , m_found(found) {
-    m_waiting.push_back(first);
-  }
+  Walk(const OdString& home, OdTcForeignPalettes& found)
+    : m_home(home)
+    , m_folder(home)
+    , m_found(found) {}
 
-  void run() {
+  void run(const OdString& first) {
+    m_waiting.push_back(first);
     while (!m_waiting.empty()) {
       const OdString file = m_waiting.front();
       m_waiting.pop_front();
-      if (!m_met.contains(file)) visit(file);
+      if (m_met.contains(file)) continue;
+      m_met.insert(file);
+      visit(file);
     }
   }
 
  private:
-  void problem(const OdString& text) { m_found.problems << text; }
-
   void visit(const OdString& file) {
-    m_met.insert(file);
     if (!odrxSystemServices()->fileExists(file))
-      return problem(translated(u"%1: there is no such file").arg(file));
-    QStringList entries;
+      return m_found.add(file, translated(u"there is no such file"));
+    std::optional<Entries> entries;
     try {
-      if (!readEntries(file, entries)) {
-        if (!m_found.files.contains(file)) m_found.files << file;
-        return;
-      }
+      entries = readEntries(file);
     } catch (const OdFileError& error) {
-      return problem(error.description());
+      return m_found.add(file, error.reason());
     }
-    for (const OdString& entry : entries) follow(file, entry);
+    if (entries)
+      followAll(file, *entries);
+    else if (!m_found.files.contains(file))
+      m_found.files << file;
+  }
+
+  void followAll(const OdString& file, const Entries& entries) {
+    if (!entries.broken.isEmpty())
+      m_found.add(file,
+                  translated(u"the catalog is only read as far as this: %1").arg(entries.broken));
+    for (const OdString& name : entries.inlinePalettes)
+      m_found.add(file,
+                  translated(u"the palette \"%1\" stands in the catalog itself, and is not taken")
+                      .arg(name));
+    if (entries.targets.isEmpty()) m_found.add(file, translated(u"it points to no palettes"));
+    for (const OdString& entry : entries.targets) follow(file, entry);
   }
 
   void follow(const OdString& catalog, const OdString& entry) {
-    if (entry.isEmpty()) return;
+    if (entry.isEmpty()) return refuse(catalog, entry, translated(u"it names no file"));
     const OdString target = expandedStoredPath(odpath::fromPlatform(entry));
-    OdString why = whyNotLookedFor(target);
+    if (const OdString why = whyNotLookedFor(target); !why.isEmpty())
+      return refuse(catalog, entry, why);
     OdString path = odpath::isRelative(target) ? combinePath(target, catalog) : target;
     normalizePath(path);
-    if (why.isEmpty() && !isInsideFolder(path, m_home))
-      why = translated(u"it leads out of the store's folder");
-    if (!why.isEmpty())
-      return problem(translated(u"%1: the entry %2 is not followed: %3").arg(catalog, entry, why));
-    m_waiting.push_back(path);
+    OdString inside;
+    const bool isInside = isInsideFolder(path, m_home) && makeRelativePath(path, m_home, inside);
+    const ForeignFolder::Found found = isInside ? m_folder.find(inside) : ForeignFolder::Found{};
+    if (!isInside || found.isRefused)
+      return refuse(catalog, entry, translated(u"it leads out of the store's folder"));
+    m_waiting.push_back(found.path.isEmpty() ? path : found.path);
+  }
+
+  void refuse(const OdString& catalog, const OdString& entry, const OdString& why) {
+    m_found.add(catalog, translated(u"the entry %1 is not followed: %2").arg(entry, why));
   }
 
   const OdString m_home;
+  ForeignFolder m_folder;
   OdTcForeignPalettes& m_found;
   std::deque<OdString> m_waiting;
   QSet<OdString> m_met;
@@ -130,8 +193,24 @@ bool isForeignCatalog(QStringView root) {
   return std::find(kCatalogRoots.begin(), kCatalogRoots.end(), root) != kCatalogRoots.end();
 }
 
-void findForeignPalettes(const OdString& file, OdTcForeignPalettes& found) {
-  Walk(odpath::fromPlatform(file), found).run();
+OdString OdTcForeignPalettes::Problem::inWords() const {
+  return QStringLiteral("%1: %2").arg(file, text);
+}
+
+void OdTcForeignPalettes::add(const OdString& file, const OdString& text) {
+  for (const Problem& known : problems)
+    if (known.file == file && known.text == text) return;
+  problems.push_back({file, text});
+}
+
+void findForeignPalettes(const OdString& path, OdTcForeignPalettes& found) {
+  const OdString first = odpath::fromPlatform(path);
+  if (!odrxSystemServices()->folderExists(first))
+    return Walk(odpath::folderOf(first), found).run(first);
+  const QStringList files = filesBelow(first);
+  if (files.isEmpty()) found.add(first, translated(u"there are no palettes in the folder"));
+  Walk walk(first, found);
+  for (const OdString& file : files) walk.run(file);
 }
 
 } // namespace tc

@@ -3,23 +3,36 @@
 
 #include "frame/string.h"
 
+#include <vector>
+
 namespace tc {
 
 /// What a walk through such files found.
 struct OdTcForeignPalettes {
+  /// A file or an entry that was passed over.
+  struct Problem {
+    OdString file;
+    OdString text; ///< the reason, in words for the user
+    /// "file: reason"
+    OdString inWords() const;
+  };
+
   /// Files of palettes, each once, in the order in which they were met.
   QStringList files;
-  /// Files and entries that were passed over, each with the reason, in words for the user.
-  QStringList problems;
+  std::vector<Problem> problems;
+
+  /// Notes a problem that is not noted already.
+  void add(const OdString& file, const OdString& text);
 };
 
 /// True for the outermost element of a file whose entries point to others.
 bool isForeignCatalog(QStringView root);
 
 /// Follows a file to the palettes that it holds: an exported palette or a palette of a store is
-/// one, a catalog of a store leads to others, relative to its own folder. A file that was met
-/// before is passed over, so entries may point at each other; one that leads out of the folder of
-/// the first file is refused.
-void findForeignPalettes(const OdString& file, OdTcForeignPalettes& found);
+/// one, a catalog of a store leads to others, relative to its own folder. Of a folder all such
+/// files in it and below are followed. A file that was met before is passed over, so entries may
+/// point at each other; one that leads out of the folder, or out of that of the first file, is
+/// refused, by its path or by a link.
+void findForeignPalettes(const OdString& path, OdTcForeignPalettes& found);
 
 } // namespace tc

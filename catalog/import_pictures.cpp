@@ -1,36 +1,56 @@
 #include "catalog/import_pictures.h"
 
-#include "persistence/foreign_paths.h"
+#include "catalog/import_review.h"
+#include "catalog/library_pictures.h"
+#include "catalog/whole_png.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "host/icon_service.h"
 #include "module/properties.h"
+#include "persistence/foreign_paths.h"
 #include "persistence/path_operations.h"
 
+#include <QFile>
+
 #include <algorithm>
-#include <array>
+#include <utility>
 
 namespace tc {
 namespace {
 
-/// The library of another program, whose pictures its own tools replace once they are in.
-constexpr QStringView kForeignLibrary = u"AcTpCatalogRes.dll";
+/// While it lives, the decoders of pictures say nothing of what they cannot read: the report says
+/// it.
+class QuietDecoding {
+ public:
+  QuietDecoding() { s_former = qInstallMessageHandler(&QuietDecoding::handle); }
+  ~QuietDecoding() { qInstallMessageHandler(s_former); }
+  QuietDecoding(const QuietDecoding&) = delete;
+  QuietDecoding& operator=(const QuietDecoding&) = delete;
 
-/// Sizes that every tool has here, the largest first: the others are made from it.
-constexpr std::array kSizes = {OdTcSizeKind::kLarge, OdTcSizeKind::kNormal, OdTcSizeKind::kSmall};
+ private:
+  static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    const bool isOfDecoder =
+        context.category && qstrncmp(context.category, "qt.gui.imageio", 14) == 0;
+    if (!isOfDecoder && s_former) s_former(type, context, text);
+  }
+  static inline QtMessageHandler s_former = nullptr;
+};
 
 constexpr qsizetype kLongestName = 80;
 
 OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
 
+/// Nothing if the file cannot be read: the decoder will not read it either.
+QByteArray bytesOf(const OdString& path) {
+  QFile file(odpath::toPlatform(path));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 void worsen(OdTcImportedTool& row, OdTcPictureFate fate, const OdString& file) {
   if (fate <= row.picture) return;
   row.picture = fate;
   row.pictureFile = file;
-}
-
-bool isElsewhere(const OdTcImage& image) {
-  return image.isResource() || image.src().compare(kForeignLibrary, Qt::CaseInsensitive) == 0;
 }
 
 /// The path as the file has it: an image that finds its picture puts a separator before it.
@@ -51,108 +71,109 @@ OdTcImagePtr blankLike(const OdTcImage& other) {
   return image;
 }
 
-/// A picture to make the missing sizes from: the largest that can be decoded.
-OdTcImage* largestOf(const OdTcImageList& images) {
-  OdTcImage* largest = nullptr;
-  const OdTcEnumPtr<OdTcImage> all = images.enumImages();
-  while (OdTcImage* const image = all->next())
-    if (!isElsewhere(*image) && (!largest || image->cx() > largest->cx())) largest = image;
-  return largest;
-}
-
-void addMissingSizes(OdTcImageList& images) {
-  OdTcImage* const source = largestOf(images);
-  if (!source || source->getBitmap().isNull()) return;
-  for (const OdTcSizeKind kind : kSizes) {
-    if (!images.findBySize(static_cast<std::int32_t>(kind)))
-      images.add(source->cloneAtSize(static_cast<std::int32_t>(kind)));
-  }
-}
-
 } // namespace
 
-ImportPictures::ImportPictures(const OdString& file, const OdTcForeignContent& content) {
-  const OdString home = odpath::folderOf(file);
+ImportPictures::ImportPictures(const OdString& file, const OdTcForeignContent& content)
+  : m_home(odpath::folderOf(file)) {
   if (!content.dependentFilesPath.isNull()) {
     const OdString named = content.dependentFilesPath.trimmed();
     const std::optional<OdString> inside = insidePath(named);
     if (inside && !inside->isEmpty()) {
-      addFolder(home + u'\\' + *inside);
+      addFolder(*inside + u'\\');
     } else if (!named.isEmpty()) {
       m_refusedFolder = named;
       m_refusedBecause = inside ? translated(u"it is the root folder") : whyOutside(named);
     }
   }
-  addFolder(home + u'\\' + odpath::titleOf(file));
-  addFolder(home);
+  addFolder(odpath::titleOf(file) + u'\\');
+  addFolder({});
 }
 
 void ImportPictures::addFolder(const OdString& folder) {
   if (!m_folders.contains(folder)) m_folders << folder;
 }
 
-const QHash<OdString, OdString>& ImportPictures::filesIn(const OdString& folder) {
-  const auto known = m_files.constFind(folder);
-  if (known != m_files.constEnd()) return *known;
-  QHash<OdString, OdString> names;
-  for (const OdString& name : odrxSystemServices()->filesIn(folder)) names[name.toLower()] = name;
-  return m_files[folder] = names;
+ForeignFolder::Found ImportPictures::find(const OdString& inside) {
+  ForeignFolder::Found result;
+  for (const OdString& folder : m_folders) {
+    const ForeignFolder::Found found = m_home.find(folder + inside);
+    if (!found.path.isEmpty()) return found;
+    result.isRefused |= found.isRefused;
+  }
+  return result;
 }
 
-OdString ImportPictures::find(const OdString& inside) {
-  for (const OdString& folder : m_folders) {
-    const OdString path = folder + u'\\' + inside;
-    const OdString in = odpath::folderOf(path);
-    const OdString name = odpath::fileNameOf(path);
-    const OdString found = filesIn(in).value(name.toLower());
-    if (!found.isEmpty()) return in + u'\\' + found;
-    if (odrxSystemServices()->fileExists(path)) return path;
-  }
-  return {};
+bool ImportPictures::showsPicture(const OdString& file) {
+  const auto known = m_shown.constFind(file);
+  if (known != m_shown.constEnd()) return *known;
+  const QuietDecoding quiet;
+  return m_shown[file] =
+             isNoBrokenPng(bytesOf(file)) && OdTcImage::createObject()->loadFromFile(file);
 }
 
 void ImportPictures::look(OdTcCatalogItem& item, std::uint32_t dark) { look(item, dark, m_own); }
 
 void ImportPictures::look(OdTcCatalogItem& item, std::uint32_t dark, OdTcImportedTool& row) {
-  const OdTcImageList* const images = item.images();
-  if (!images) return;
   Plan plan{OdTcCatalogItemPtr(&item), &row, {}};
-  struct Candidate {
-    OdTcImagePtr image;
-    bool isDark;
-  };
+  const OdTcImageList* const images = item.images();
+  const std::vector<Candidate> chosen =
+      images ? chosenFrom(*images, dark) : std::vector<Candidate>();
+  const bool hasFound = std::any_of(chosen.begin(), chosen.end(), [](const Candidate& each) {
+    return each.sight.fate == OdTcPictureFate::kFound;
+  });
+  for (const Candidate& each : chosen) {
+    const Sight& sight = each.sight;
+    if (sight.fate == OdTcPictureFate::kNone) continue;
+    if (sight.rank() > 0) plan.pictures.push_back({each.image, sight.name, sight.file});
+    // Where there is one picture, the other sizes are made from it.
+    if (!sight.isNamed || !hasFound) worsen(row, sight.fate, sight.name);
+  }
+  m_plans.push_back(std::move(plan));
+}
+
+/// One image a size: one that can be shown, and among those the one for light windows.
+std::vector<ImportPictures::Candidate> ImportPictures::chosenFrom(const OdTcImageList& images,
+                                                                  std::uint32_t dark) {
   std::vector<Candidate> chosen;
-  const OdTcEnumPtr<OdTcImage> all = images->enumImages();
+  const OdTcEnumPtr<OdTcImage> all = images.enumImages();
   for (std::uint32_t bit = 1; OdTcImage* const image = all->next(); bit <<= 1) {
-    const bool isDark = dark & bit;
+    Candidate next{OdTcImagePtr(image), (dark & bit) != 0, sightOf(*image)};
     const auto same = std::find_if(chosen.begin(), chosen.end(), [&](const Candidate& other) {
       return sizeKey(*other.image) == sizeKey(*image);
     });
     if (same == chosen.end()) {
-      chosen.push_back({OdTcImagePtr(image), isDark});
+      chosen.push_back(std::move(next));
       continue;
     }
-    if (isDark != same->isDark) ++m_dark;
-    if (same->isDark && !isDark) *same = {OdTcImagePtr(image), false};
+    const int rank = next.sight.rank(), former = same->sight.rank();
+    if (rank > former || (rank == former && same->isDark && !next.isDark)) std::swap(*same, next);
+    if (next.isDark && !same->isDark) ++m_dark;
   }
-  for (const Candidate& each : chosen) lookAt(*each.image, plan, row);
-  m_plans.push_back(std::move(plan));
+  return chosen;
 }
 
-void ImportPictures::lookAt(OdTcImage& image, Plan& plan, OdTcImportedTool& row) {
+int ImportPictures::Sight::rank() const {
+  if (fate == OdTcPictureFate::kFound || fate == OdTcPictureFate::kResource) return 2;
+  return isNamed ? 1 : 0;
+}
+
+ImportPictures::Sight ImportPictures::sightOf(OdTcImage& image) {
   const OdString name = nameInFile(image);
-  if (isElsewhere(image)) {
-    plan.pictures.push_back({OdTcImagePtr(&image), name, {}});
-    worsen(row, OdTcPictureFate::kResource, name);
-    return;
+  if (isInForeignLibrary(image)) return {OdTcPictureFate::kMissing, name, {}, true};
+  if (image.isResource()) {
+    // Without the host's icons nobody knows what it will show.
+    const bool isThere = !host::service<IHostIconService>() || !image.getBitmap().isNull();
+    image.releaseBitmap();
+    return {isThere ? OdTcPictureFate::kResource : OdTcPictureFate::kMissing, name, {}, true};
   }
-  if (name.isEmpty()) return;
+  if (name.isEmpty()) return {};
   const std::optional<OdString> inside = insidePath(name);
-  if (!inside) return worsen(row, OdTcPictureFate::kRefused, name);
-  const OdString file = inside->isEmpty() ? OdString() : find(*inside);
-  if (file.isEmpty()) return worsen(row, OdTcPictureFate::kMissing, name);
-  plan.pictures.push_back({OdTcImagePtr(&image), name, file});
-  worsen(row, OdTcPictureFate::kFound, name);
+  if (!inside) return {OdTcPictureFate::kRefused, name, {}};
+  const ForeignFolder::Found found = inside->isEmpty() ? ForeignFolder::Found{} : find(*inside);
+  if (found.path.isEmpty())
+    return {found.isRefused ? OdTcPictureFate::kRefused : OdTcPictureFate::kMissing, name, {}};
+  if (!showsPicture(found.path)) return {OdTcPictureFate::kUnreadable, name, {}};
+  return {OdTcPictureFate::kFound, name, found.path};
 }
 
 OdString ImportPictures::freeName(const OdString& file) {
@@ -185,7 +206,7 @@ bool ImportPictures::bringOne(const Picture& picture, OdTcImage& ours, OdTcImpor
     odrxSystemServices()->copyFile(picture.file, target);
   } catch (const OdFileError& error) {
     worsen(row, OdTcPictureFate::kMissing, picture.name);
-    row.reason = error.description();
+    remark(row, error.description());
     return false;
   }
   ours.setResource(QStringLiteral("\\Images\\") + name, picture.image->resource());
@@ -207,7 +228,8 @@ void ImportPictures::bringAll(const Plan& plan) {
   plan.item->setImages(images->count() > 0 ? images.get() : nullptr);
 }
 
-void ImportPictures::bring(const OdString& palettesFolder, QStringList& made) {
+bool ImportPictures::bring(const OdString& palettesFolder, QStringList& made,
+                           const std::function<bool()>& step) {
   m_target = palettesFolder + QLatin1String("\\Images");
   m_made = &made;
   const bool hasFiles = std::any_of(m_plans.begin(), m_plans.end(), [](const Plan& plan) {
@@ -216,8 +238,13 @@ void ImportPictures::bring(const OdString& palettesFolder, QStringList& made) {
   });
   if (hasFiles && !odrxSystemServices()->createFolder(m_target))
     throw OdFileError(eFileAccess, m_target, translated(u"the folder cannot be made"));
-  for (const Plan& plan : m_plans) bringAll(plan);
+  for (const Plan& plan : m_plans) {
+    // The palette itself is none of the tools that are counted.
+    if (plan.row != &m_own && !step()) return false;
+    if (plan.item->images()) bringAll(plan);
+  }
   m_made = nullptr;
+  return true;
 }
 
 QStringList ImportPictures::notes() const {

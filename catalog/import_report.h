@@ -19,13 +19,16 @@ struct OdTcImportOptions {
   bool convertCommands = false;
   /// Only looks: nothing is written, nothing comes into the catalog, nobody is asked anything.
   bool dryRun = false;
+  /// Names that no palette is to get, besides those in the catalog: of palettes that would be there
+  /// if earlier runs had not only looked.
+  QStringList takenNames;
   /// Writes the palette's file and the catalog's. Without it both are the caller's to save.
   bool save = true;
 };
 
 enum class OdTcToolFate { kTaken, kConverted, kSkipped };
 /// Ordered from the best to the worst, for a tool with several pictures.
-enum class OdTcPictureFate { kNone, kResource, kFound, kMade, kRefused, kMissing };
+enum class OdTcPictureFate { kNone, kResource, kFound, kMade, kRefused, kUnreadable, kMissing };
 enum class OdTcSourceFate { kNone, kFound, kMissing, kRefused };
 
 /// One tool of the file.
@@ -34,7 +37,8 @@ struct OdTcImportedTool {
   OdString kind;    ///< "Command", "Block", ..., "Text", "Separator"; empty without an agent
   OdString command; ///< the macro, of a command tool
   OdTcToolFate fate = OdTcToolFate::kTaken;
-  OdString reason; ///< why it was skipped or converted, or what it lacks
+  bool isUnread = false; ///< it stands in the file, but no tool came of it
+  OdString reason;       ///< why it was skipped or converted, or what it lacks
   OdTcPictureFate picture = OdTcPictureFate::kNone;
   OdString pictureFile; ///< as the file names it, the worst of them
   OdTcSourceFate source = OdTcSourceFate::kNone;

@@ -54,12 +54,14 @@ OdString whyNotConverted(const OdTcToolImpl& tool) {
       .arg(tool.customData()->className());
 }
 
-OdString whySkipped(const OdTcToolImpl& tool) {
+OdString whySkipped(const OdTcToolImpl& tool, const OdTcForeignTool& foreign) {
   if (tool.getActionAgent() && !tool.getActionAgent()->isSupported())
     return translated(u"tools of the kind \"%1\" cannot run here").arg(kindOf(tool));
   if (const OdString kind = kindOf(tool); !tool.getActionAgent() && !kind.isEmpty())
     return translated(u"entries of the kind \"%1\" have no place here").arg(kind);
   if (isMultitool(tool)) return whyNotConverted(tool);
+  if (tool.getToolType() == OdTcTool::kNoType && !foreign.losses.empty())
+    return lossesInWords(foreign.losses);
   return translated(u"it is of type %1, which cannot run here").arg(tool.getToolType());
 }
 
@@ -70,7 +72,7 @@ void reviewMissingAgent(OdTcToolImpl& tool, const OdTcForeignTool& foreign, bool
                                    : translated(u"the file does not say what it does");
     return;
   }
-  if (!convert || foreign.macro.isEmpty()) {
+  if (!convert || !foreign.isOnlyMacro) {
     row.reason = translated(u"its record \"%1\" belongs to another product; the tool does nothing")
                      .arg(foreign.record);
     row.command = foreign.macro;
@@ -106,6 +108,19 @@ OdString mapped(const OdString& path, const OdTcImportOptions& options) {
 
 } // namespace
 
+OdString lossesInWords(const std::vector<OdTcForeignLoss>& losses) {
+  QStringList words;
+  for (const OdTcForeignLoss& loss : losses)
+    words << translated(u"<%1> holds no value and ends the reading of %2: not read are %3")
+                 .arg(loss.empty, loss.around, loss.behind.join(QStringLiteral(", ")));
+  return words.join(QStringLiteral("; "));
+}
+
+void remark(OdTcImportedTool& row, const OdString& text) {
+  if (text.isEmpty()) return;
+  row.reason += row.reason.isEmpty() ? text : QStringLiteral("; ") + text;
+}
+
 void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdString& paletteFile,
                   OdTcImportedTool& row) {
   OdTcToolActionAgent* const agent = tool.getActionAgent();
@@ -117,22 +132,29 @@ void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdStri
   if (row.sourceFile != path) agent->setSourcePath(row.sourceFile);
   if (const OdString why = whyNotLookedFor(row.sourceFile); !why.isEmpty()) {
     row.source = OdTcSourceFate::kRefused;
-    if (row.reason.isEmpty()) row.reason = translated(u"its source is not looked for: %1").arg(why);
+    remark(row, translated(u"its source is not looked for: %1").arg(why));
     return;
   }
-  const OdString place =
-      isRelativePath(row.sourceFile) ? combinePath(row.sourceFile, paletteFile) : row.sourceFile;
-  row.source =
-      odrxSystemServices()->fileExists(place) ? OdTcSourceFate::kFound : OdTcSourceFate::kMissing;
+  const bool isRelative = isRelativePath(row.sourceFile);
+  const OdString place = isRelative ? combinePath(row.sourceFile, paletteFile) : row.sourceFile;
+  if (!odrxSystemServices()->fileExists(place)) {
+    row.source = OdTcSourceFate::kMissing;
+    return;
+  }
+  row.source = OdTcSourceFate::kFound;
+  if (!isRelative) return;
+  row.sourceFile = place;
+  agent->setSourcePath(place);
 }
 
 void reviewKind(OdTcToolImpl& tool, const OdTcForeignTool& foreign,
                 const OdTcImportOptions& options, OdTcImportedTool& row) {
-  row.name = tool.name();
+  // A tool may have lost its name on the way.
+  row.name = tool.name().isEmpty() ? foreign.name : tool.name();
   if (isUnsupportedTool(tool)) {
     row.fate = OdTcToolFate::kSkipped;
     row.kind = kindOf(tool);
-    row.reason = whySkipped(tool);
+    row.reason = whySkipped(tool, foreign);
     if (row.name.isEmpty()) row.name = row.kind;
     return;
   }
@@ -142,12 +164,13 @@ void reviewKind(OdTcToolImpl& tool, const OdTcForeignTool& foreign,
     row.fate = OdTcToolFate::kConverted;
     row.reason = translated(u"one command in the place of several");
   }
+  remark(row, lossesInWords(foreign.losses));
   const OdTcToolActionAgent* const agent = tool.getActionAgent();
   if (!agent) return;
   row.command = agent->commandString();
   const OdString command = commandOf(row.command);
   if (OdTcValueStorageImpl::isCommandUnsupported(command))
-    row.reason = translated(u"the command \"%1\" is not available here").arg(command);
+    remark(row, translated(u"the command \"%1\" is not available here").arg(command));
 }
 
 } // namespace tc

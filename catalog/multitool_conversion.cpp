@@ -10,12 +10,30 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace tc {
 namespace {
 
-/// The pictures of a converted tool: the host's button at two sizes.
-constexpr OdTcSizeKind kSizes[] = {OdTcSizeKind::kNormal, OdTcSizeKind::kLarge};
+/// The pictures of a converted tool: the host's button at the sizes that every tool has.
+constexpr OdTcSizeKind kSizes[] = {OdTcSizeKind::kSmall, OdTcSizeKind::kNormal,
+                                   OdTcSizeKind::kLarge};
+
+/// How classes of drawings begin in the other program and here.
+constexpr QStringView kForeignClasses = u"AcDb";
+constexpr QStringView kOwnClasses = u"OdDb";
+
+/// The command by which the host adds an object of the class, which files and hosts may call by
+/// either of two names; empty if there is none.
+OdString commandFor(const OdString& className) {
+  const OdString command = addSelectedCommand(className);
+  if (!command.isEmpty()) return command;
+  for (const auto& [from, to] :
+       {std::pair(kForeignClasses, kOwnClasses), std::pair(kOwnClasses, kForeignClasses)})
+    if (className.startsWith(from))
+      return addSelectedCommand(to.toString() + className.mid(from.size()));
+  return {};
+}
 
 void addButtonImages(OdTcToolImpl& tool, const OdString& button) {
   OdSmartPtr<OdTcImageList> images(tool.images());
@@ -36,7 +54,7 @@ void addButtonImages(OdTcToolImpl& tool, const OdString& button) {
 
 void convertMultitool(OdTcToolImpl& tool) {
   showImportPrompt(kMultitoolPrompt);
-  const OdString wanted = addSelectedCommand(tool.customData()->className());
+  const OdString wanted = commandFor(tool.customData()->className());
   if (wanted.isEmpty()) return;
   const std::optional<HostMenuEntry> command = findMenuCommand(wanted);
   if (!command) return;

@@ -1,17 +1,23 @@
 #include "catalog/palette_export.h"
 
 #include "catalog/database_impl.h"
+#include "catalog/made_folders.h"
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
 #include "images/image_home.h"
 #include "images/image_list.h"
+#include "images/picture_file.h"
+
+#include <QSet>
 
 #include <utility>
 
 namespace tc {
 namespace {
+
+OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
 
 /// Puts the palette to the target's place for as long as it lives.
 class AtTarget {
@@ -34,6 +40,54 @@ class AtTarget {
   const OdString m_former;
 };
 
+/// Files that are put in the place of others, and those put back unless all went through.
+class Replacement {
+ public:
+  Replacement() = default;
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement() {
+    OdRxSystemServices* const services = odrxSystemServices();
+    for (const Entry& entry : m_entries) {
+      if (m_isKept && entry.hasFormer) services->removeFile(entry.target + kFormer);
+      if (m_isKept) continue;
+      if (entry.hasFormer)
+        services->replaceFile(entry.target + kFormer, entry.target);
+      else if (services->fileExists(entry.target))
+        services->removeFile(entry.target);
+    }
+  }
+
+  void copy(const OdString& from, const OdString& target) {
+    begin(target);
+    odrxSystemServices()->copyFile(from, target);
+  }
+  void save(const QImage& picture, const OdString& target) {
+    begin(target);
+    if (!savePicture(picture, target, formatExtension(kPngFormat)))
+      throw OdFileError(eFileAccess, target, translated(u"the picture cannot be written"));
+  }
+  void keep() { m_isKept = true; }
+
+ private:
+  static constexpr QLatin1String kFormer{".old"};
+  struct Entry {
+    OdString target;
+    bool hasFormer;
+  };
+
+  void begin(const OdString& target) {
+    OdRxSystemServices* const services = odrxSystemServices();
+    const bool hasFormer = services->fileExists(target);
+    if (hasFormer && !services->replaceFile(target, target + kFormer))
+      throw OdFileError(eFileAccess, target, translated(u"the file cannot be replaced"));
+    m_entries.push_back({target, hasFormer});
+  }
+
+  std::vector<Entry> m_entries;
+  bool m_isKept = false;
+};
+
 class Exporter {
  public:
   Exporter(OdTcToolPalette& palette, const OdString& target)
@@ -47,11 +101,17 @@ class Exporter {
       gather(m_palette);
       const OdTcEnumPtr<OdTcTool> tools = m_palette.enumTools();
       while (OdTcTool* const tool = tools->next()) gather(*tool);
+      MadeFolders folders(m_report.imageFolder + QLatin1String("\\Images"));
+      Replacement replacement;
       const AtTarget atTarget(m_palette, m_report.file);
-      for (const auto& [image, file] : m_pictures) copyPicture(*image, file);
+      for (const auto& [image, file] : m_pictures) copyPicture(*image, file, replacement);
       auto& content = static_cast<OdTcDatabaseImpl&>(*m_palette.getDatabase());
-      if (!content.saveExchange(m_report.file, odpath::titleOf(m_report.file)))
+      if (content.saveExchange(m_report.file, odpath::titleOf(m_report.file))) {
+        replacement.keep();
+        folders.keep();
+      } else {
         m_report.problem = content.saveProblem();
+      }
     } catch (const OdFileError& error) {
       m_report.problem = error.description();
     }
@@ -76,26 +136,26 @@ class Exporter {
     if (isMissing) m_report.withoutPicture << item.name();
   }
 
-  void copyPicture(const OdTcImage& image, const OdString& file) {
+  void copyPicture(OdTcImage& image, const OdString& file, Replacement& replacement) {
     const OdString target = imageFilePath(m_palette.getDatabase(), image.src());
     if (!isBelowPalette(m_report.imageFolder + QLatin1String("\\x"), target) ||
-        odpath::samePlace(file, target))
+        odpath::samePlace(file, target) || m_written.contains(target))
       return;
-    OdRxSystemServices* const services = odrxSystemServices();
-    if (services->fileExists(target)) services->removeFile(target);
-    ++m_report.pictures;
-    // A picture without a file is written with the palette.
-    if (file.isEmpty()) return;
     const OdString folder = odpath::folderOf(target);
-    if (!services->createFolder(folder))
-      throw OdFileError(eFileAccess, folder,
-                        host::translate(QStringLiteral("the folder cannot be made")));
-    services->copyFile(file, target);
+    if (!odrxSystemServices()->createFolder(folder))
+      throw OdFileError(eFileAccess, folder, translated(u"the folder cannot be made"));
+    if (file.isEmpty())
+      replacement.save(image.getBitmap(), target);
+    else
+      replacement.copy(file, target);
+    m_written << target;
+    ++m_report.pictures;
   }
 
   OdTcToolPalette& m_palette;
   OdTcExportReport m_report;
   std::vector<std::pair<OdTcImagePtr, OdString>> m_pictures;
+  QSet<OdString> m_written; ///< several tools may show one picture
 };
 
 } // namespace

@@ -4,11 +4,17 @@
 #include "catalog/foreign_store.h"
 #include "catalog/import_prompt.h"
 #include "catalog/import_review.h"
+#include "catalog/library_pictures.h"
 #include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "host/preview_service.h"
 #include "module/string_table.h"
 #include "persistence/path_operations.h"
 #include "persistence/value_storage.h"
+#include "tools/hatch_tool.h"
+
+#include <QImage>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +26,13 @@ OdTcImportProgress* g_progress = nullptr;
 bool g_isUnderWay = false;
 
 OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
+
+/// Without a host that shows patterns nobody knows which it has.
+bool isPatternKnown(const OdString& name) {
+  constexpr int kSmallest = 16;
+  const KVPtr<IHostPreviewService> previews = host::service<IHostPreviewService>();
+  return !previews || !previews->renderPattern(name, kSmallest).isNull();
+}
 
 /// Keeps a second import out while the first lets other events in, and tells whoever follows.
 class UnderWay {
@@ -75,12 +88,16 @@ OdTcToolPalettePtr PaletteImport::run() {
   const ImportConversation conversation(m_options.dryRun);
   try {
     if (!checkTarget() || !read()) return {};
-    underWay.start(m_palette->content().tools()->count());
+    // Each tool is looked at, and brought.
+    underWay.start(m_palette->content().tools()->count() * (m_options.dryRun ? 1 : 2));
     review();
     if (!m_report.problem.isEmpty()) return {};
     announceSkipped();
     adopt();
-    if (!m_options.dryRun && !enter()) return {};
+    if (m_options.dryRun)
+      refreshImages();
+    else if (!enter())
+      return {};
   } catch (const OdError& error) {
     fail(error.description());
     return {};
@@ -108,7 +125,20 @@ bool PaletteImport::read() {
     return fail(translated(u"it is a catalog, which only points to palettes"));
   if (!isRead) return fail(remark.isEmpty() ? translated(u"there is no such file") : remark);
   if (!remark.isEmpty()) m_report.notes << remark;
+  noteContent();
   return true;
+}
+
+void PaletteImport::noteContent() {
+  if (const OdString lost = lossesInWords(m_foreign.losses); !lost.isEmpty())
+    m_report.notes << lost;
+  if (!m_foreign.earlierTools.isEmpty())
+    m_report.notes << translated(u"The palette has another list of tools behind these, which are "
+                                 u"not taken: %1")
+                          .arg(m_foreign.earlierTools.join(QStringLiteral(", ")));
+  if (!m_foreign.otherPalettes.isEmpty())
+    m_report.notes << translated(u"Further palettes in the file, which are not taken: %1")
+                          .arg(m_foreign.otherPalettes.join(QStringLiteral(", ")));
 }
 
 void PaletteImport::review() {
@@ -123,6 +153,8 @@ void PaletteImport::review() {
     if (!step()) return;
     const auto at = static_cast<std::size_t>(i);
     reviewTool(static_cast<OdTcTool&>(*tools.at(i)), m_foreign.tools[at], m_report.tools[at]);
+    const bool isSkipped = m_report.tools[at].fate == OdTcToolFate::kSkipped;
+    if (isSkipped && !m_options.dryRun && !step()) return;
   }
   noteUnread(count);
 }
@@ -135,13 +167,24 @@ void PaletteImport::reviewTool(OdTcTool& tool, const OdTcForeignTool& foreign,
     tool.setMarked();
     return;
   }
+  reviewPattern(tool, row);
   reviewSource(tool, m_options, m_path, row);
   m_pictures->look(tool, foreign.darkImages, row);
+}
+
+void PaletteImport::reviewPattern(const OdTcTool& tool, OdTcImportedTool& row) {
+  const auto* const hatch = dynamic_cast<const OdTcToolHatchCommandImpl*>(tool.getActionAgent());
+  const OdString pattern = hatch ? hatch->namedPattern() : OdString();
+  if (pattern.isEmpty()) return;
+  auto known = m_patterns.find(pattern);
+  if (known == m_patterns.end()) known = m_patterns.insert(pattern, isPatternKnown(pattern));
+  if (!*known) remark(row, translated(u"there is no hatch pattern \"%1\" here").arg(pattern));
 }
 
 void PaletteImport::noteUnread(int first) {
   for (std::size_t i = static_cast<std::size_t>(first); i < m_report.tools.size(); ++i) {
     m_report.tools[i].name = m_foreign.tools[i].name;
+    m_report.tools[i].isUnread = true;
     m_report.tools[i].fate = OdTcToolFate::kSkipped;
     m_report.tools[i].reason =
         translated(u"it stands behind an empty element, which ends the list");
@@ -157,15 +200,20 @@ void PaletteImport::announceSkipped() {
                           .arg(kinds.join(QStringLiteral(", ")));
   bool isPrompted = false;
   for (const OdTcImportedTool& row : m_report.tools) {
-    if (row.fate != OdTcToolFate::kSkipped) continue;
+    // What was never read is in the report; nothing of it is of a kind that cannot run.
+    if (row.fate != OdTcToolFate::kSkipped || row.isUnread) continue;
     if (!std::exchange(isPrompted, true)) showImportPrompt(kUnsupportedToolsPrompt);
     printImported(formatText(translated(u"\nSkipped unsupported tool: %s"), row.name));
   }
 }
 
 OdString PaletteImport::uniqueName(const OdString& wanted) const {
+  // Gathered once: many palettes may have this name and a number.
+  QSet<OdString> taken(m_options.takenNames.begin(), m_options.takenNames.end());
+  const OdTcEnumPtr<OdTcCatalogItem> palettes = m_catalog.palettesEnum();
+  while (const OdTcCatalogItem* const palette = palettes->next()) taken << palette->name();
   OdString name = wanted;
-  for (int number = 2; m_catalog.findPaletteByName(name); ++number)
+  for (int number = 2; taken.contains(name); ++number)
     name = QStringLiteral("%1 (%2)").arg(wanted, OdString::number(number));
   return name;
 }
@@ -178,6 +226,8 @@ void PaletteImport::adopt() {
   const bool isStore = odpath::extensionOf(m_path) != QLatin1String("xtp");
   m_palette->setName(uniqueName(isStore && !ownName.isEmpty() ? ownName : m_palette->name()));
   m_palette->renewIds();
+  // The other program shows the tools in the order that they were given.
+  if (!m_foreign.hasSortType) m_palette->setSortType(OdTcPaletteUi::kManual);
   m_palette->setImported();
   m_report.palette = m_palette->name();
   m_report.id = m_palette->id();
@@ -185,7 +235,8 @@ void PaletteImport::adopt() {
 
 bool PaletteImport::enter() {
   CatalogEntry entry(m_catalog, m_palette);
-  m_pictures->bring(m_catalog.palettesFolder(), entry.madeFiles());
+  if (!m_pictures->bring(m_catalog.palettesFolder(), entry.madeFiles(), [this] { return step(); }))
+    return false;
   entry.enter(m_options.group);
   refreshImages();
   if (m_options.save && !entry.save()) return fail(entry.problem());
@@ -194,11 +245,17 @@ bool PaletteImport::enter() {
 }
 
 void PaletteImport::refreshImages() {
+  OdTcSourceDrawings sources;
   const OdTcEnumPtr<OdTcTool> tools = m_palette->enumTools();
   auto row = m_report.tools.begin();
   while (OdTcTool* const tool = tools->next()) {
     while (row->fate == OdTcToolFate::kSkipped) ++row;
-    if (tool->updateAgent()) row->picture = OdTcPictureFate::kMade;
+    if (tool->updateAgent()) {
+      row->picture = OdTcPictureFate::kMade;
+      row->pictureFile.clear();
+    } else {
+      replaceLibraryPictures(*tool, sources, *row);
+    }
     ++row;
   }
 }

@@ -28,6 +28,8 @@ class PaletteImport {
   void noteUnread(int first);
   void announceSkipped();
   void adopt();
+  void noteContent();
+  void reviewPattern(const OdTcTool& tool, OdTcImportedTool& row);
   OdString uniqueName(const OdString& wanted) const;
   bool enter();
   void refreshImages();
@@ -41,6 +43,7 @@ class PaletteImport {
   OdSmartPtr<OdTcToolPaletteImpl> m_palette;
   OdTcForeignContent m_foreign;
   std::optional<ImportPictures> m_pictures;
+  QHash<OdString, bool> m_patterns; ///< by name, whether the host has them
 };
 
 } // namespace tc

@@ -1,5 +1,10 @@
 #include "catalog/write_file.h"
 
+#include "frame/file_path.h"
+#include "host/host_locator.h"
+
+#include <QFileInfo>
+
 #include <cstdint>
 #include <utility>
 
@@ -45,6 +50,33 @@ bool writeFile(const OdString& path, Oda::FileCreationDisposition creation, OdTc
   if (!(filer.*open)(file, root, true)) return false;
   filer.flush();
   return true;
+}
+
+bool writeBeside(const OdString& path, const std::function<bool(const OdString& fresh)>& write) {
+  OdRxSystemServices* const services = odrxSystemServices();
+  OdString target = path;
+  if (services->fileExists(path)) {
+    // Raises the error that writing over it would raise.
+    services->createFile(path, Oda::kFileWrite, Oda::kShareDenyNo, Oda::kOpenExisting);
+    target = odpath::fromPlatform(QFileInfo(odpath::toPlatform(path)).canonicalFilePath());
+  }
+  const OdString fresh = target + QLatin1String(".new");
+  const auto dropFresh = [&] {
+    if (services->fileExists(fresh)) services->removeFile(fresh);
+  };
+  try {
+    if (!write(fresh)) {
+      dropFresh();
+      return false;
+    }
+  } catch (const OdFileError&) {
+    dropFresh();
+    throw;
+  }
+  if (services->replaceFile(fresh, target)) return true;
+  dropFresh();
+  throw OdFileError(eFileAccess, path,
+                    host::translate(QStringLiteral("the file cannot be replaced")));
 }
 
 Oda::FileCreationDisposition creationFor(const OdString& path) {

@@ -200,7 +200,10 @@ bool OdTcFilerImplBase<T>::readElement(OdTcFieldMap& map) {
   const OdString text = textOf(element);
   if (!text.isEmpty()) map.set(name, text);
   // An element with nothing in it ends the reading of its parent: the cursor stays.
-  if (!hasValues && text.isEmpty()) return false;
+  if (!hasValues && text.isEmpty()) {
+    noteEmpty(element);
+    return false;
+  }
   advance();
   return true;
 }

@@ -56,6 +56,8 @@ class OdTcFilerImplBase : public T {
   virtual bool isSkipped(const OdString& name) const = 0;
   virtual void link(OdTcPersist* object, OdTcPersist* owner) = 0;
   virtual OdTcNumberForm numberForm(const OdString& name) const = 0;
+  /// Called with an empty element that has ended the reading of the one around it.
+  virtual void noteEmpty(const TiXmlElement& /*element*/) {}
 
   /// Reads and parses the stream; false, with the problem kept, if there is no document.
   bool parse(OdStreamBuf* stream);

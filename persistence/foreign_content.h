@@ -10,13 +10,24 @@ class TiXmlElement;
 
 namespace tc {
 
+/// An element without attribute and text, which ends the reading of the one around it.
+struct OdTcForeignLoss {
+  OdString empty;
+  OdString around;
+  QStringList behind; ///< what is not read for it
+};
+
 /// One tool of such a palette, whether or not an object came of it.
 struct OdTcForeignTool {
   OdString name;
-  /// The element in the tool's data that no class here has; empty if there is none.
+  /// The element in the tool's data that no class here has, the one with a macro if there are
+  /// several; empty if there is none.
   OdString record;
   /// The macro that stands in that record as text.
   OdString macro;
+  /// True if the data hold no foreign record but that, and it nothing but the macro.
+  bool isOnlyMacro = false;
+  std::vector<OdTcForeignLoss> losses;
   /// Bit n is set if the tool's picture number n is one for dark windows.
   std::uint32_t darkImages = 0;
 };
@@ -31,6 +42,14 @@ struct OdTcForeignContent {
   std::vector<OdTcForeignTool> tools;
   /// As OdTcForeignTool::darkImages, for the pictures of the palette itself.
   std::uint32_t darkImages = 0;
+  /// What was lost outside of the tools.
+  std::vector<OdTcForeignLoss> losses;
+  /// The tools of lists that another list of the palette takes the place of.
+  QStringList earlierTools;
+  /// The names of further palettes in the file.
+  QStringList otherPalettes;
+  /// True if the file says how the tools are sorted.
+  bool hasSortType = false;
   /// True if the user was told in a message box that the file holds no palette.
   bool isReported = false;
 };
@@ -39,5 +58,22 @@ struct OdTcForeignContent {
 /// trees below these cost nothing.
 void gatherForeignContent(const TiXmlElement& root, const TiXmlElement& palette,
                           OdTcForeignContent& content);
+
+/// Finds the tool that an element stands in. Elements come in the order of the document, so all of
+/// them together cost one walk over the tools.
+class OdTcForeignLosses {
+ public:
+  OdTcForeignLosses(const TiXmlElement& palette, OdTcForeignContent& content);
+  /// Notes what stands behind an empty element that has ended the reading.
+  void note(const TiXmlElement& empty);
+
+ private:
+  std::vector<OdTcForeignLoss>* placeOf(const TiXmlElement& element);
+
+  OdTcForeignContent& m_content;
+  const TiXmlElement* m_list;
+  const TiXmlElement* m_tool;
+  std::size_t m_at = 0;
+};
 
 } // namespace tc

@@ -1,7 +1,6 @@
 #include "persistence/palette_filer.h"
 
 #include "host/host_locator.h"
-#include "persistence/foreign_content.h"
 
 namespace tc {
 namespace {
@@ -36,7 +35,10 @@ bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersis
   if (saving) return writeRoot(stream, root);
   m_root = root;
   const bool found = parse(stream) && findPalette();
-  if (found && m_foreign) gatherForeignContent(*rootElement(), *m_parent, *m_foreign);
+  if (found && m_foreign) {
+    gatherForeignContent(*rootElement(), *m_parent, *m_foreign);
+    m_losses.emplace(*m_parent, *m_foreign);
+  }
   const bool done = found && read();
   report();
   if (!found) showUnreadable();

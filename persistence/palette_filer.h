@@ -2,6 +2,9 @@
 #pragma once
 
 #include "persistence/filer_base.h"
+#include "persistence/foreign_content.h"
+
+#include <optional>
 
 namespace tc {
 
@@ -23,6 +26,9 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
     object->setOwnerInDatabase(owner, OdString());
   }
   OdTcNumberForm numberForm(const OdString& name) const override;
+  void noteEmpty(const TiXmlElement& element) override {
+    if (m_losses) m_losses->note(element);
+  }
 
   /// Raises OdError_NotThatKindOfClass unless the object is a palette's database. The class stands
   /// in a higher layer, so it is known here by name.
@@ -36,6 +42,7 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
   bool readBesideContent();
 
   OdTcForeignContent* const m_foreign;
+  std::optional<OdTcForeignLosses> m_losses;
   OdTcPersistPtr m_root;
   QStringList m_skipNames;
 };

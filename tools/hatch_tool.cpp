@@ -210,6 +210,12 @@ bool OdTcToolHatchCommandImpl::readProperty(const OdString& name, const OdVarian
 
 void OdTcToolHatchCommandImpl::createProperties() { fillProperties(kProperties); }
 
+OdString OdTcToolHatchCommandImpl::namedPattern() const {
+  const bool isNamed = m_fields.hatchObjectType == 0 && m_fields.hatchType != 0 &&
+                       m_fields.patternName.compare(QLatin1String("SOLID"), Qt::CaseInsensitive);
+  return isNamed ? m_fields.patternName : OdString();
+}
+
 OdRxObjectPtr OdTcToolHatchCommandImpl::clone() const {
   auto copy = odrxMake<OdTcToolHatchCommandImpl>();
   copy->m_fields = m_fields;

@@ -67,6 +67,9 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdRxObjectPtr clone() const override;
 
   const OdTcHatchFields& fields() const { return m_fields; }
+  /// The pattern that the host must have for the tool to run; empty for a gradient, for lines of
+  /// the user's own and for a filling.
+  OdString namedPattern() const;
   OdString getSourceFile() const { return m_fields.sourceFile; }
   void setSourceFile(const OdString& path) { m_fields.sourceFile = path; }
   const OdCmColor& previewColor() const { return m_previewColor; }

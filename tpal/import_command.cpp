@@ -1,5 +1,6 @@
 // tpal import: palettes of other programs into a catalog.
 #include "catalog/foreign_store.h"
+#include "catalog/made_folders.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
@@ -8,7 +9,6 @@
 #include "tpal/import_text.h"
 #include "tpal/loaded_catalog.h"
 
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -18,27 +18,19 @@
 namespace tpal {
 namespace {
 
-/// The files of a folder and of those in it, in a stable order.
-QStringList filesBelow(const QString& folder) {
-  QStringList files;
-  QDirIterator each(folder, {QStringLiteral("*.xtp"), QStringLiteral("*.atc")}, QDir::Files,
-                    QDirIterator::Subdirectories);
-  while (each.hasNext()) files << each.next();
-  files.sort();
-  return files;
-}
-
 tc::OdTcForeignPalettes palettesIn(const QStringList& words) {
   tc::OdTcForeignPalettes found;
   for (const OdString& word : words) {
     const QFileInfo info(odpath::toPlatform(word));
-    const QString path = info.absoluteFilePath();
-    const QStringList files = info.isDir() ? filesBelow(path) : QStringList(path);
-    if (files.isEmpty())
-      found.problems << QStringLiteral("%1: there are no palettes in the folder").arg(word);
-    for (const QString& file : files) tc::findForeignPalettes(odpath::fromPlatform(file), found);
+    tc::findForeignPalettes(odpath::fromPlatform(info.absoluteFilePath()), found);
   }
   return found;
+}
+
+/// A folder of the user's shell, where it is: the palettes go elsewhere.
+OdString placeOf(const OdString& folder) {
+  if (!odpath::isRelative(folder) || folder.startsWith(u'%')) return folder;
+  return odpath::fromPlatform(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
 }
 
 bool hasSomethingLeftOut(const tc::OdTcImportReport& report) {
@@ -51,7 +43,7 @@ bool hasSomethingLeftOut(const tc::OdTcImportReport& report) {
 
 tc::OdTcImportOptions optionsOf(const Arguments& arguments) {
   tc::OdTcImportOptions options;
-  options.folderMap = arguments.map;
+  for (const auto& [from, to] : arguments.map) options.folderMap.emplace_back(from, placeOf(to));
   options.group = arguments.group;
   options.convertCommands = arguments.convertCommands;
   options.dryRun = arguments.dryRun;
@@ -72,16 +64,22 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
     return kFailed;
   }
   const OdString folder = odpath::folderOf(target.file);
+  tc::MadeFolders made(folder);
   if (!arguments.dryRun && !odrxSystemServices()->createFolder(folder)) {
     console.err << "tpal: the folder " << folder << " cannot be made\n";
     return kFailed;
   }
   const tc::OdTcForeignPalettes found = palettesIn(arguments.words);
-  ExitCode code = found.problems.isEmpty() ? kOk : kFindings;
+  ExitCode code = found.problems.empty() ? kOk : kFindings;
   QJsonArray rows;
+  tc::OdTcImportOptions options = optionsOf(arguments);
   for (const OdString& file : found.files) {
     tc::OdTcImportReport report;
-    target.catalog->importPalette(file, optionsOf(arguments), report);
+    const bool isIn = target.catalog->importPalette(file, options, report);
+    if (arguments.dryRun)
+      options.takenNames << report.palette;
+    else if (isIn)
+      made.keep();
     ConsoleHost::instance().takeMessages();
     if (arguments.json)
       rows.append(jsonOf(report, arguments.dryRun));
@@ -92,7 +90,10 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
     else if (hasSomethingLeftOut(report))
       code = std::max(code, kFindings);
   }
-  for (const OdString& problem : found.problems) console.err << "tpal: " << problem << "\n";
+  for (const tc::OdTcForeignPalettes::Problem& problem : found.problems) {
+    console.err << "tpal: " << problem.inWords() << "\n";
+    if (arguments.json) rows.append(jsonOf(problem));
+  }
   if (arguments.json) console.out << OdString::fromUtf8(QJsonDocument(rows).toJson());
   return found.files.isEmpty() ? kFailed : code;
 }

@@ -7,7 +7,8 @@ namespace {
 
 // By value.
 constexpr const char* kToolWords[] = {"taken", "converted", "skipped"};
-constexpr const char* kPictureWords[] = {"none", "resource", "found", "made", "refused", "missing"};
+constexpr const char* kPictureWords[] = {"none",    "resource",   "found",  "made",
+                                         "refused", "unreadable", "missing"};
 constexpr const char* kSourceWords[] = {"none", "found", "missing", "refused"};
 
 template <std::size_t N, class Fate>
@@ -56,6 +57,13 @@ QJsonObject jsonOf(const tc::OdTcImportReport& report, bool isDry) {
           {QStringLiteral("problem"), report.problem},
           {QStringLiteral("notes"), QJsonArray::fromStringList(report.notes)},
           {QStringLiteral("tools"), tools}};
+}
+
+QJsonObject jsonOf(const tc::OdTcForeignPalettes::Problem& problem) {
+  tc::OdTcImportReport report;
+  report.file = problem.file;
+  report.problem = problem.text;
+  return jsonOf(report, false);
 }
 
 void printReport(const tc::OdTcImportReport& report, bool isDry, QTextStream& out) {

@@ -1,6 +1,7 @@
 // The report of an import, in words and as JSON.
 #pragma once
 
+#include "catalog/foreign_store.h"
 #include "catalog/import_report.h"
 
 #include <QJsonObject>
@@ -14,6 +15,9 @@ OdString wordOf(tc::OdTcPictureFate fate);
 OdString wordOf(tc::OdTcSourceFate fate);
 
 QJsonObject jsonOf(const tc::OdTcImportReport& report, bool isDry);
+/// A file or an entry of a store that led to no palette, in the form of a file that did not come
+/// in.
+QJsonObject jsonOf(const tc::OdTcForeignPalettes::Problem& problem);
 void printReport(const tc::OdTcImportReport& report, bool isDry, QTextStream& out);
 
 } // namespace tpal

@@ -11,12 +11,23 @@
 namespace tc {
 namespace {
 
+/// What is said of pictures that do not come in.
+struct PictureText {
+  OdTcPictureFate fate;
+  const char16_t* text;
+};
+constexpr PictureText kPictureTexts[] = {
+    {OdTcPictureFate::kRefused, u"%1: the picture \"%2\" is refused: it leads out of its folder."},
+    {OdTcPictureFate::kUnreadable, u"%1: the picture \"%2\" cannot be read."},
+    {OdTcPictureFate::kMissing, u"%1: the picture \"%2\" is missing."},
+};
+
 /// What is worth a line: a tool that changed, or that lacks something.
 void printTool(const OdTcImportedTool& tool) {
-  if (tool.fate != OdTcToolFate::kSkipped && !tool.reason.isEmpty())
+  if ((tool.fate != OdTcToolFate::kSkipped || tool.isUnread) && !tool.reason.isEmpty())
     printLine(QStringLiteral("%1: %2").arg(tool.name, tool.reason));
-  if (tool.picture >= OdTcPictureFate::kRefused)
-    printLine(translated(u"%1: the picture \"%2\" is missing.").arg(tool.name, tool.pictureFile));
+  for (const PictureText& row : kPictureTexts)
+    if (tool.picture == row.fate) printLine(translated(row.text).arg(tool.name, tool.pictureFile));
   if (tool.source == OdTcSourceFate::kMissing)
     printLine(translated(u"%1: the file \"%2\" is missing.").arg(tool.name, tool.sourceFile));
 }
@@ -52,8 +63,8 @@ int runImport(IHostDocument* document) {
   const OdTcCatalogPtr held(catalog);
   OdTcForeignPalettes found;
   findForeignPalettes(typedPath(*file), found);
-  for (const OdString& problem : found.problems) printLine(problem);
-  bool isDone = found.problems.isEmpty();
+  for (const OdTcForeignPalettes::Problem& problem : found.problems) printLine(problem.inWords());
+  bool isDone = found.problems.empty();
   for (const OdString& palette : found.files)
     isDone = importOne(*catalog, palette, *group) && isDone;
   refreshWindow();
@@ -75,7 +86,10 @@ int runExport(IHostDocument* document) {
   const OdTcExportReport report = exportPalette(*palette, target);
   for (const OdString& name : report.withoutPicture)
     printLine(translated(u"%1: its picture is missing.").arg(name));
-  if (!report.problem.isEmpty()) return kFailed;
+  if (!report.problem.isEmpty()) {
+    printLine(translated(u"%1 is not written: %2.").arg(target, report.problem));
+    return kFailed;
+  }
   printLine(translated(u"%1 is written.").arg(target));
   return kDone;
 }

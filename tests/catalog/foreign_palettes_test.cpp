@@ -22,6 +22,9 @@ struct ForeignPalettes : ImportFixture, testing::WithParamInterface<QString> {
                                "<Command name=\"ADDSELECTED\"><StartCommand name=\"CIRCLE\"/>"
                                "</Command></Entry></Entries>");
     theHost().routeMap = stored(u"routes.xml"_s);
+    QImage button(16, 16, QImage::Format_ARGB32);
+    button.fill(Qt::red);
+    theHost().icons.images = {{u"CIRCLE"_s, button}, {u"line"_s, button}, {u"LINE"_s, button}};
     theHost().menu.entries = {{true, u"CIRCLE"_s, u"Circle"_s, {}, u"^C^C_CIRCLE "_s}};
   }
 };

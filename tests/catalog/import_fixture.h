@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalog/catalog_fixture.h"
+#include "catalog/foreign_store.h"
 #include "images/image_list.h"
 #include "support/data_file.h"
 
@@ -105,6 +106,11 @@ class ImportFixture : public CatalogFixture {
       bytes[QDir(platform({})).relativeFilePath(file.fileName())] = file.readAll();
     }
     return bytes;
+  }
+  static OdString problemsOf(const OdTcForeignPalettes& found) {
+    QStringList words;
+    for (const OdTcForeignPalettes::Problem& problem : found.problems) words << problem.inWords();
+    return words.join(u'\n');
   }
   /// How often a text stands in what was printed.
   static qsizetype printedTimes(const OdString& what) {

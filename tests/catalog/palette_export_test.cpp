@@ -109,6 +109,38 @@ TEST_F(PaletteExportTest, ReplacesThePicturesOfAFormerExport) {
   EXPECT_EQ(readFile(u"out\\q\\Images\\other.png"_s), "other");
 }
 
+TEST_F(PaletteExportTest, AFailureAnywhereLeavesTheFormerExportAsItWas) {
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  writeFile(u"out\\q\\Images\\a.png"_s, "old");
+  QFile::remove(platform(u"out\\q\\Images\\a_missing.png"_s));
+  const auto before = allFiles();
+  const qsizetype whole = readFile(u"out\\q.xtp"_s).size();
+  for (qsizetype room = 0; room < whole; room += whole / 7) {
+    FailingServices services;
+    services.bytesLeft = static_cast<std::uint64_t>(room);
+    EXPECT_FALSE(exportTo(u"out\\q.xtp"_s).problem.isEmpty()) << room;
+    EXPECT_EQ(allFiles(), before) << room;
+  }
+  for (const OdString& denied : {u"out\\q\\Images"_s, u"out\\q.xtp"_s, u"out\\q.xtp.new"_s}) {
+    FailingServices services;
+    services.deniedFolder = stored(denied);
+    EXPECT_FALSE(exportTo(u"out\\q.xtp"_s).problem.isEmpty()) << text(denied);
+    EXPECT_EQ(allFiles(), before) << text(denied);
+  }
+  ASSERT_TRUE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  EXPECT_EQ(allFiles().size(), before.size()) << "nothing is left of the exchange";
+}
+
+TEST_F(PaletteExportTest, AFirstExportThatFailsLeavesNothing) {
+  QDir().mkpath(platform(u"out"_s));
+  const auto before = allFiles();
+  FailingServices services;
+  services.bytesLeft = 100;
+  EXPECT_FALSE(exportTo(u"out\\q.xtp"_s).problem.isEmpty());
+  EXPECT_EQ(allFiles(), before);
+  EXPECT_FALSE(exists(u"out\\q"_s));
+}
+
 TEST_F(PaletteExportTest, NamesToolsWhosePictureIsGone) {
   for (const OdString& name : odrxSystemServices()->filesIn(stored(u"c\\Palettes\\Images"_s)))
     QFile::remove(platform(u"c\\Palettes\\Images\\"_s + name));

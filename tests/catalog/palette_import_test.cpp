@@ -193,26 +193,6 @@ TEST_F(PaletteImportTest, WithoutANamedFolderPicturesLieInTheOneThatIsCalledLike
   EXPECT_EQ(row(u"A"_s).picture, OdTcPictureFate::kFound);
 }
 
-TEST_F(PaletteImportTest, PicturesThatLieInALibraryOfTheOtherProgramAreMadeAnew) {
-  const QByteArray library =
-      "<Image cx=\"64\" cy=\"64\" src=\"AcTpCatalogRes.dll\" resource=\"X\"/>";
-  const OdTcToolPalettePtr palette = import(exported(
-      toolXml("L", "<Light/>") +
-      toolXml("G",
-              "<Hatch><hatchObjectType>1</hatchObjectType><GradientName>LINEAR</GradientName>"
-              "</Hatch>",
-              "1", library) +
-      toolXml("C", "<Command Macro=\"_LINE\"/>", "1", library)));
-  EXPECT_EQ(row(u"G"_s).picture, OdTcPictureFate::kMade);
-  EXPECT_EQ(row(u"C"_s).picture, OdTcPictureFate::kResource);
-  const OdTcCatalogPtr again = load(catalog().path());
-  const auto tools = toolsOf(*again->findPalette(palette->id()));
-  for (const int kind : {1, 3, 4}) {
-    ASSERT_TRUE(tools[0]->images()->findBySize(kind)) << kind;
-    EXPECT_FALSE(tools[0]->images()->findBySize(kind)->getBitmap().isNull()) << kind;
-  }
-}
-
 TEST_F(PaletteImportTest, MapsTheFoldersOfSourcesOnTheWayIn) {
   writeFile(u"lib\\door.dwg"_s, "x");
   const auto block = [](const QByteArray& id, const QByteArray& source) {
@@ -230,6 +210,89 @@ TEST_F(PaletteImportTest, MapsTheFoldersOfSourcesOnTheWayIn) {
   EXPECT_EQ(row(u"B"_s).sourceFile, u"D:\\aec\\x\\y.dwg"_s);
   EXPECT_EQ(row(u"B"_s).source, OdTcSourceFate::kMissing);
   EXPECT_EQ(row(u"C"_s).sourceFile, u"C:\\Old Library\\door.dwg"_s) << "another folder";
+}
+
+TEST_F(PaletteImportTest, ASourceBesideTheFileIsFoundByTheToolAfterwards) {
+  writeFile(u"in\\lib\\door.dxf"_s, "x");
+  const auto block = [](const QByteArray& id, const QByteArray& source) {
+    return toolXml(id, "<Block><SourceFile>" + source + "</SourceFile></Block>");
+  };
+  OdTcImportOptions options;
+  options.folderMap = {{u"C:\\lib"_s, u"lib"_s}};
+  const OdTcToolPalettePtr palette =
+      import(exported(block("A", "lib\\door.dxf") + block("B", "C:\\lib\\door.dxf") +
+                      block("C", "gone.dxf")),
+             options);
+  for (const OdString& name : {u"A"_s, u"B"_s}) {
+    EXPECT_EQ(row(name).source, OdTcSourceFate::kFound);
+    EXPECT_EQ(row(name).sourceFile, stored(u"in\\lib\\door.dxf"_s));
+  }
+  for (const std::size_t at : {0u, 1u})
+    EXPECT_EQ(toolsOf(*palette)[at]->getActionAgent()->sourcePath(),
+              stored(u"in\\lib\\door.dxf"_s));
+  EXPECT_EQ(row(u"C"_s).source, OdTcSourceFate::kMissing);
+  EXPECT_EQ(toolsOf(*palette)[2]->getActionAgent()->sourcePath(), u"gone.dxf"_s);
+}
+
+TEST_F(PaletteImportTest, NamesPatternsThatTheHostDoesNotHave) {
+  const auto hatch = [](const QByteArray& id, const QByteArray& more) {
+    return toolXml(id, "<Hatch>" + more + "</Hatch>");
+  };
+  const OdString file = exported(
+      hatch("Named", "<hatchObjectType>0</hatchObjectType><HatchType>1</HatchType>"
+                     "<PatternName>AR-CONC</PatternName>") +
+      hatch("Lines", "<hatchObjectType>0</hatchObjectType><HatchType>0</HatchType>") +
+      hatch("Filling", "<hatchObjectType>0</hatchObjectType><HatchType>1</HatchType>"
+                       "<PatternName>SOLID</PatternName>") +
+      hatch("Gradient", "<hatchObjectType>1</hatchObjectType><GradientName>LINEAR</GradientName>"));
+  theHost().previews.canRender = false;
+  import(file);
+  EXPECT_TRUE(row(u"Named"_s).reason.contains(u"\"AR-CONC\""_s)) << text(row(u"Named"_s).reason);
+  for (const OdString& name : {u"Lines"_s, u"Filling"_s, u"Gradient"_s})
+    EXPECT_EQ(row(name).reason, OdString()) << text(name);
+  theHost().previews.canRender = true;
+  import(file);
+  EXPECT_EQ(row(u"Named"_s).reason, OdString());
+}
+
+TEST_F(PaletteImportTest, ConvertsOnlyRecordsThatHoldNothingButAMacro) {
+  const QByteArray macro = "<CommandString>^C^C_LINE</CommandString>";
+  OdTcImportOptions options;
+  options.convertCommands = true;
+  import(exported(toolXml("Bare", macro) +
+                  toolXml("Record", "<AecDbCommandObject>" + macro +
+                                        "</AecDbCommandObject><Units>1</Units>") +
+                  toolXml("More", "<Recipe101><Style>S</Style>" + macro + "</Recipe101>") +
+                  toolXml("Deep", "<Recipe101>" + macro + "<Deep><x>1</x></Deep></Recipe101>") +
+                  toolXml("Beside", "<AecDbGeo><x>1</x></AecDbGeo>" + macro)),
+         options);
+  for (const OdString& name : {u"Bare"_s, u"Record"_s})
+    EXPECT_EQ(row(name).fate, OdTcToolFate::kConverted) << text(name);
+  for (const OdString& name : {u"More"_s, u"Deep"_s, u"Beside"_s}) {
+    EXPECT_EQ(row(name).fate, OdTcToolFate::kTaken) << text(name);
+    EXPECT_EQ(row(name).command, u"^C^C_LINE"_s) << "it is told all the same";
+  }
+  EXPECT_TRUE(row(u"Beside"_s).reason.contains(u"\"CommandString\""_s))
+      << "the macro is that record's";
+}
+
+TEST_F(PaletteImportTest, ShowsTheToolsInTheirOrderUnlessTheFileSaysOtherwise) {
+  EXPECT_EQ(import(exported(commandXml("B") + commandXml("A")))->getSortType(), 2);
+  writeFile(u"own.xtp"_s, "<Palette><ItemID idValue=\"{P}\"/><Tools/><PaletteUI><SortType>1"
+                          "</SortType></PaletteUI></Palette>");
+  EXPECT_EQ(import(stored(u"own.xtp"_s))->getSortType(), 1);
+  const QByteArray bytes = readFile(u"in\\p.xtp"_s);
+  writeFile(u"in\\p.xtp"_s,
+            QByteArray(bytes).replace("<PaletteUI>", "<PaletteUI><SortType>0</SortType>"));
+  EXPECT_EQ(import(stored(u"in\\p.xtp"_s))->getSortType(), 0);
+}
+
+TEST_F(PaletteImportTest, TakesNoNameThatIsSpokenFor) {
+  OdTcImportOptions dry;
+  dry.dryRun = true;
+  dry.takenNames = {u"p"_s, u"p (2)"_s};
+  import(exported(commandXml("A")), dry);
+  EXPECT_EQ(report.palette, u"p (3)"_s);
 }
 
 TEST_F(PaletteImportTest, NamesCommandsThatAreNotAvailableHere) {
@@ -264,15 +327,15 @@ struct CountingProgress : OdTcImportProgress {
 TEST_F(PaletteImportTest, TellsItsProgressToolByTool) {
   CountingProgress progress;
   import(exported(commandXml("A") + light("B") + commandXml("C")));
-  EXPECT_EQ(progress.range, 3);
-  EXPECT_EQ(progress.steps, 3);
+  EXPECT_EQ(progress.range, 6);
+  EXPECT_EQ(progress.steps, 6) << "each is looked at, and brought";
   EXPECT_EQ(progress.stops, 1);
 }
 
 TEST_F(PaletteImportTest, ACancelledImportLeavesNoTrace) {
   const OdString file = exported(commandXml("A") + light("B") + commandXml("C"));
   const auto before = allFiles();
-  for (int allowed = 0; allowed < 3; ++allowed) {
+  for (int allowed = 0; allowed < 6; ++allowed) {
     CountingProgress progress;
     progress.allowed = allowed;
     EXPECT_FALSE(import(file)) << allowed;

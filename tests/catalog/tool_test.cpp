@@ -234,12 +234,19 @@ TEST_F(MultitoolTest, BecomesARegularToolThatRunsTheCommand) {
       theHost().log.contains(u"print \nMultitool \"Draw line\" has been converted to regular."_s));
   OdTcImageList* const images = read->images();
   ASSERT_TRUE(images);
-  EXPECT_EQ(images->count(), 2);
-  for (const int size : {3, 4}) {
+  EXPECT_EQ(images->count(), 3);
+  for (const int size : {1, 3, 4}) {
     ASSERT_TRUE(images->findBySize(size)) << size;
     EXPECT_EQ(images->findBySize(size)->src(), u"%ProgramBtnRes%"_s);
     EXPECT_EQ(images->findBySize(size)->resource(), u"LINE"_s);
   }
+}
+
+TEST_F(MultitoolTest, KnowsTheClassByEitherOfItsNames) {
+  QByteArray foreign = both();
+  ASSERT_TRUE(foreign.contains("OdDbLine"));
+  foreign.replace("OdDbLine", "AcDbLine");
+  EXPECT_TRUE(isConverted(loadedTool(foreign)));
 }
 
 TEST_F(MultitoolTest, ConvertsAtTheSecondOfItsRecordsWhateverTheirOrder) {
@@ -280,8 +287,8 @@ TEST_F(MultitoolTest, ItsPicturesBelongToItAndStandInItsFile) {
   ASSERT_TRUE(read->images());
   EXPECT_EQ(read->images()->owner(), read->properties());
   const QByteArray saved = savedWith(read);
-  EXPECT_EQ(saved.count("src=\"%ProgramBtnRes%\""), 2) << saved.toStdString();
-  EXPECT_EQ(saved.count("resource=\"LINE\""), 2);
+  EXPECT_EQ(saved.count("src=\"%ProgramBtnRes%\""), 3) << saved.toStdString();
+  EXPECT_EQ(saved.count("resource=\"LINE\""), 3);
 }
 
 TEST_F(MultitoolTest, TakesItsNameFromTheTipOrTheTranslatedCommand) {

@@ -99,10 +99,14 @@ TEST_F(ImportCommand, TakesWholeFoldersWithTheStoresInThem) {
     }());
   write(QStringLiteral("in/x.xtp"), "<Palette><ItemID idValue=\"{X}\"/></Palette>");
   EXPECT_EQ(import({path(QStringLiteral("in")), QStringLiteral("--json")}), tpal::kFindings);
-  ASSERT_EQ(json().size(), 2) << "each palette once: " << qPrintable(out());
+  ASSERT_EQ(json().size(), 5) << "each palette and each problem once: " << qPrintable(out());
   EXPECT_EQ(json()[0][QStringLiteral("palette")].toString(), QStringLiteral("Store palette"));
   EXPECT_EQ(json()[1][QStringLiteral("palette")].toString(), QStringLiteral("x"));
   EXPECT_TRUE(err().contains(QStringLiteral("is not followed"))) << qPrintable(err());
+  for (int i = 2; i < 5; ++i) {
+    EXPECT_FALSE(json()[i][QStringLiteral("imported")].toBool());
+    EXPECT_FALSE(json()[i][QStringLiteral("problem")].toString().isEmpty());
+  }
 }
 
 TEST_F(ImportCommand, NamesAFileThatCannotBeReadAndTakesTheOthers) {
