@@ -63,7 +63,7 @@ OdTcImageListPtr buttonsOf(const OdTcToolCommandImpl& agent, const OdTcImageList
 }
 
 OdTcImageListPtr pictureOf(const OdTcToolActionAgent& agent, const OdTcImageList& images,
-                           OdTcSourceDrawings& sources) {
+                           OdTcSourceFiles& sources) {
   const OdTcImageListPtr list = listLike(images);
   const auto make = [&](OdTcImage& image) { return agent.makePicture(image, sources); };
   return list->setFrom(make) ? list : OdTcImageListPtr();
@@ -84,7 +84,7 @@ void addMissingSizes(OdTcImageList& images) {
   }
 }
 
-void replaceLibraryPictures(OdTcTool& tool, OdTcSourceDrawings& sources, OdTcImportedTool& row) {
+void replaceLibraryPictures(OdTcTool& tool, OdTcSourceFiles& sources, OdTcImportedTool& row) {
   OdTcImageList* const images = tool.images();
   const OdTcToolActionAgent* const agent = tool.getActionAgent();
   if (!images || !agent || !hasLibraryPictures(*images)) return;

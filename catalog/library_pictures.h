@@ -4,7 +4,7 @@
 #include "catalog/import_report.h"
 #include "catalog/tool.h"
 #include "images/image_list.h"
-#include "tools/source_drawings.h"
+#include "tools/source_files.h"
 
 namespace tc {
 
@@ -18,6 +18,6 @@ void addMissingSizes(OdTcImageList& images);
 /// Puts pictures of our own in the place of those in the library: of what the tool brings in, the
 /// button of its command, or its other pictures in another size. Says in the row what came of it;
 /// where nothing does, the pictures stay, and are missing.
-void replaceLibraryPictures(OdTcTool& tool, OdTcSourceDrawings& sources, OdTcImportedTool& row);
+void replaceLibraryPictures(OdTcTool& tool, OdTcSourceFiles& sources, OdTcImportedTool& row);
 
 } // namespace tc

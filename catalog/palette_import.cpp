@@ -7,13 +7,12 @@
 #include "catalog/library_pictures.h"
 #include "frame/file_path.h"
 #include "host/host_locator.h"
-#include "host/preview_service.h"
 #include "module/string_table.h"
 #include "persistence/path_operations.h"
 #include "persistence/value_storage.h"
 #include "tools/hatch_tool.h"
+#include "tools/host_patterns.h"
 
-#include <QImage>
 #include <QSet>
 
 #include <algorithm>
@@ -26,13 +25,6 @@ OdTcImportProgress* g_progress = nullptr;
 bool g_isUnderWay = false;
 
 OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
-
-/// Without a host that shows patterns nobody knows which it has.
-bool isPatternKnown(const OdString& name) {
-  constexpr int kSmallest = 16;
-  const KVPtr<IHostPreviewService> previews = host::service<IHostPreviewService>();
-  return !previews || !previews->renderPattern(name, kSmallest).isNull();
-}
 
 /// Keeps a second import out while the first lets other events in, and tells whoever follows.
 class UnderWay {
@@ -245,7 +237,7 @@ bool PaletteImport::enter() {
 }
 
 void PaletteImport::refreshImages() {
-  OdTcSourceDrawings sources;
+  OdTcSourceFiles sources;
   const OdTcEnumPtr<OdTcTool> tools = m_palette->enumTools();
   auto row = m_report.tools.begin();
   while (OdTcTool* const tool = tools->next()) {

@@ -50,7 +50,7 @@ struct Command {
   const char* options;
   int leastWords;
   int mostWords;
-  bool makesPictures; ///< needs fonts, and with them an application that can draw
+  bool makesPictures; ///< draws, if only to see what can be drawn: needs fonts
   ExitCode (*run)(const Arguments& arguments, Console& console);
 };
 

@@ -7,9 +7,12 @@
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
 #include "tools/action_agent.h"
+#include "tools/hatch_tool.h"
+#include "tools/host_patterns.h"
 #include "tools/tool_source.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace tpal {
 namespace {
@@ -31,6 +34,8 @@ constexpr KindText kKindTexts[] = {
     {FindingKind::kUnresolvedPath, "C106", "unresolved-path"},
     {FindingKind::kMissingPicture, "C107", "missing-picture"},
     {FindingKind::kSourceElsewhere, "C108", "source-elsewhere"},
+    {FindingKind::kUnknownPattern, "C109", "unknown-pattern"},
+    {FindingKind::kUnusedPicture, "C110", "unused-picture"},
 };
 
 const KindText& textOf(FindingKind kind) {
@@ -51,6 +56,7 @@ class Examination {
     checkLoaders();
     forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) { checkGroup(*group); });
     for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog)) checkPalette(*palette);
+    checkUnusedPictures();
     return std::move(m_findings);
   }
 
@@ -99,12 +105,14 @@ class Examination {
 
   void checkPalette(const tc::OdTcToolPalette& palette) {
     const OdString file = palette.getPath();
+    m_isUnread |= palette.getDatabase()->isUnread();
     if (palette.getDatabase()->isUnread()) {
       add(FindingKind::kUnreadablePalette, file,
           QStringLiteral("the file cannot be read: %1").arg(palette.getDatabase()->readProblem()));
       return;
     }
     noteId(palette, file);
+    notePictures(palette, file);
     for (const tc::OdTcTool* tool : toolsOf(palette)) checkTool(*tool, file);
   }
 
@@ -115,7 +123,28 @@ class Examination {
       add(FindingKind::kToolWithoutAgent, file,
           QStringLiteral("tool \"%1\" does nothing").arg(tool.name()));
     if (agent) checkSource(tool, *agent, file);
+    checkPattern(tool, file);
     checkPictures(tool, file);
+    notePictures(tool, file);
+  }
+
+  void notePictures(const tc::OdTcCatalogItem& item, const OdString& file) {
+    if (const tc::OdTcImageList* const images = item.images())
+      forEach(images->enumImages(), [&](tc::OdTcImage* image) {
+        m_usedPictures << tc::combinePath(image->src(), file).toCaseFolded();
+      });
+  }
+
+  /// Pictures that an import which was ended from outside has left, and those of tools that went.
+  void checkUnusedPictures() {
+    // Whose pictures lie there can only be told if all palettes were read.
+    if (m_isUnread) return;
+    const OdString folder = odpath::folderOf(m_catalogFile) + QLatin1String("\\Palettes\\Images");
+    for (const OdString& name : odrxSystemServices()->filesIn(folder)) {
+      const OdString path = folder + u'\\' + name;
+      if (!m_usedPictures.contains(path.toCaseFolded()))
+        add(FindingKind::kUnusedPicture, path, QStringLiteral("no tool shows this picture"));
+    }
   }
 
   void checkSource(const tc::OdTcTool& tool, const tc::OdTcToolActionAgent& agent,
@@ -141,6 +170,16 @@ class Examination {
     }
   }
 
+  void checkPattern(const tc::OdTcTool& tool, const OdString& file) {
+    const auto* const hatch =
+        dynamic_cast<const tc::OdTcToolHatchCommandImpl*>(tool.getActionAgent());
+    const OdString pattern = hatch ? hatch->namedPattern() : OdString();
+    if (!pattern.isEmpty() && !tc::isPatternKnown(pattern))
+      add(FindingKind::kUnknownPattern, file,
+          QStringLiteral("tool \"%1\": there is no hatch pattern \"%2\"")
+              .arg(tool.name(), pattern));
+  }
+
   void checkPictures(const tc::OdTcTool& tool, const OdString& file) {
     const tc::OdTcImageList* const images = tool.images();
     if (!images) return;
@@ -156,6 +195,8 @@ class Examination {
   const tc::OdTcCatalog& m_catalog;
   OdString m_catalogFile;
   QHash<OdString, OdString> m_ids;
+  QSet<OdString> m_usedPictures; ///< folded paths
+  bool m_isUnread = false;
   std::vector<Finding> m_findings;
 };
 

@@ -19,6 +19,8 @@ enum class FindingKind {
   kUnresolvedPath,
   kMissingPicture,
   kSourceElsewhere,
+  kUnknownPattern,
+  kUnusedPicture,
 };
 
 /// The code of a kind, such as "C101".

@@ -14,8 +14,10 @@ constexpr Command kCommands[] = {
      kAnyNumber, false, listCommand},
     {"check", "check DIR... [--json]",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
-     "      references, ids that stand twice, tools that do nothing and paths that lead nowhere.",
-     "", 1, kAnyNumber, false, checkCommand},
+     "      references, ids that stand twice, tools that do nothing, paths that lead nowhere, "
+     "unknown\n"
+     "      patterns and pictures that no tool shows.",
+     "", 1, kAnyNumber, true, checkCommand},
     {"resave", "resave DIR [--to DIR] [--json]",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
      "--to ", 1, 1, false, resaveCommand},
@@ -25,7 +27,7 @@ constexpr Command kCommands[] = {
      "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
      "its\n"
      "      stores (.atc), and all of these in a folder. Says of each tool what became of it.",
-     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, false, importCommand},
+     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, true, importCommand},
     {"export", "export DIR PALETTE FILE.xtp [--json]",
      "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
      "", 3, 3, false, exportCommand},

@@ -69,6 +69,22 @@ TEST(ImportingPalettes, ToolsOfSeveralCommandsBecomeToolsOfOne) {
   EXPECT_EQ(bench.count(QStringLiteral("CIRCLE")), 1);
 }
 
+TEST(ImportingPalettes, ADryRunTellsOfTheSamplesWhatARealOneTells) {
+  const Workbench bench;
+  const QString namesake = bench.write(QStringLiteral("site-2005.xtp"),
+                                       "<Palette><ItemID idValue=\"{P}\"/><Tools/></Palette>");
+  const QStringList samples = {sample("site-2005.xtp"), sample("office-2012.xtp"),
+                               sample("civil-2026.xtp"), namesake};
+  const RunResult dry = import(bench, samples + QStringList(QStringLiteral("--dry-run")));
+  const RunResult real = import(bench, samples);
+  EXPECT_EQ(QString(dry.out).replace(QStringLiteral("would be"), QStringLiteral("is now")),
+            real.out);
+  EXPECT_TRUE(real.out.contains(QStringLiteral("Brick [Hatch]; picture made")))
+      << qPrintable(real.out);
+  EXPECT_TRUE(real.out.contains(QStringLiteral("no hatch pattern \"AR-CONC\"")));
+  EXPECT_TRUE(real.out.contains(QStringLiteral("\"site-2005 (2)\"")));
+}
+
 TEST(ImportingPalettes, AScriptImportsRunsAndExports) {
   const Workbench bench;
   const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});

@@ -1,3 +1,5 @@
+#include "tpal/console_host.h"
+#include "tpal/plain_previews.h"
 #include "tpal/tool_fixture.h"
 
 #include <QJsonArray>
@@ -104,6 +106,36 @@ TEST_F(CheckCommand, NamesAPictureThatIsNotThere) {
         "<Image cx=\"32\" cy=\"32\" src=\"\\Images\\gone.png\"/></Images></Properties>"
         "<ToolType>1</ToolType><Data><Command Macro=\"_LINE\"/></Data></Tool></Tools></Palette>");
   EXPECT_EQ(codes(), QStringList{QStringLiteral("C107")});
+}
+
+TEST_F(CheckCommand, NamesPicturesThatNoToolShows) {
+  writeCatalog("<Tool><Properties><ItemName>T</ItemName><Images option=\"0\"><Image cx=\"32\" "
+               "cy=\"32\" src=\"\\Images\\used.png\"/></Images></Properties><ToolType>1</ToolType>"
+               "<Data><Command Macro=\"_LINE\"/></Data></Tool>");
+  write(QStringLiteral("c/Palettes/Images/Used.PNG"), "x");
+  write(QStringLiteral("c/Palettes/Images/used.png"), "x");
+  EXPECT_EQ(codes(), QStringList());
+  write(QStringLiteral("c/Palettes/Images/left over.png"), "x");
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C110")});
+  EXPECT_TRUE(out().contains(QStringLiteral("left over.png")));
+  write(QStringLiteral("c/Palettes/p.dtc"), "not XML at all");
+  EXPECT_FALSE(codes().contains(QStringLiteral("C110"))) << "whose they are nobody can tell";
+}
+
+TEST_F(CheckCommand, NamesAPatternThatTheProgramDoesNotHave) {
+  const auto hatch = [](const QByteArray& pattern) {
+    return tool("{1}", "H",
+                "<Hatch><HatchType>1</HatchType><PatternName>" + pattern +
+                    "</PatternName></Hatch>");
+  };
+  const auto previews = kvMake<PlainPreviews>();
+  previews->unknownPattern = QStringLiteral("NO-SUCH-PATTERN");
+  tpal::ConsoleHost::instance().setPreviews(previews.get());
+  writeCatalog(hatch("NO-SUCH-PATTERN"));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C109")});
+  writeCatalog(hatch("ANSI31"));
+  EXPECT_EQ(codes(), QStringList());
+  tpal::ConsoleHost::instance().setPreviews(nullptr);
 }
 
 TEST_F(CheckCommand, PrintsOneLineForEachFinding) {

@@ -2,6 +2,7 @@
 #include "drawing/entities/circle.h"
 #include "frame/file_path.h"
 #include "tpal/console_host.h"
+#include "tpal/plain_previews.h"
 #include "tpal/tool_fixture.h"
 
 #include <QImage>
@@ -10,27 +11,6 @@
 #include <QJsonObject>
 
 namespace {
-
-/// Makes pictures of one colour, and says what was asked for.
-class PlainPreviews : public CKVUnknownImpl<IHostPreviewService> {
- public:
-  QImage renderObjects(std::span<const OdDbObjectId>, const OdGeExtents3d&, int pixels) override {
-    ++objects;
-    return plain(pixels);
-  }
-  QImage renderPattern(const OdString&, int pixels) override { return plain(pixels); }
-  QImage storedPreview(const OdString&, int) override { return {}; }
-  QImage fileIcon(const OdString&, int pixels) override { return plain(pixels); }
-
-  int objects = 0;
-
- private:
-  static QImage plain(int pixels) {
-    QImage picture(pixels, pixels, QImage::Format_ARGB32);
-    picture.fill(qRgb(0, 100, 0));
-    return picture;
-  }
-};
 
 class Images : public ToolFixture {
  protected:
