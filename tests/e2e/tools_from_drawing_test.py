@@ -148,11 +148,17 @@ class Entities(Roads):
                 self.assert_same(document.styles.get("Fancy"), self.source.styles.get("Fancy"),
                                  ("font", "width", "oblique"))
 
+    def test_dimension_style_comes_along(self):
+        made, original, document = self.check("linear")
+        self.assert_same(made, original, ["dimstyle"])
+        self.assert_same(document.dimstyles.get("Plans"), self.source.dimstyles.get("Plans"),
+                         ("dimtxt", "dimasz", "dimexo", "dimtxsty"))
+
     def test_entity_of_a_kind_that_no_command_draws(self):
         face = self.space.add_3dface([(0, 0), (1, 0), (1, 1)])
         output = self.make(f"Object\nHandle\n{face.dxf.handle}\n\n", 1)
         self.assertIn("no command draws objects of this kind", output)
-        self.assertNotIn("3D", self.tools())
+        self.assertNotIn("[", self.tools())
 
     def test_many_at_once(self):
         for x in range(5):
@@ -176,7 +182,7 @@ class Entities(Roads):
 
 
 for _kind in DRAWN:
-    if _kind not in ("text", "mtext"):
+    if _kind not in ("text", "mtext", "linear"):
         setattr(Entities, "test_" + _kind, lambda self, kind=_kind: self.check(kind) and None)
 
 
