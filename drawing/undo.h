@@ -37,6 +37,9 @@ class OdDbUndo {
   void willErase(OdDbStub& stub);
   void willSetVar(int index);
   bool recordVariables(bool on) { return std::exchange(m_recordsVariables, on); }
+  bool recordsVariables() const { return m_recordsVariables; }
+  /// Leaves out all changes until it is called with the former answer, which it gives.
+  bool record(bool on) { return std::exchange(m_recording, on); }
 
  private:
   struct Modified {

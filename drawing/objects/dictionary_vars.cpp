@@ -1,5 +1,7 @@
 #include "drawing/objects/dictionary_vars.h"
 
+#include "drawing/database_data.h"
+
 namespace {
 
 const QLatin1String kVariables("AcDbVariableDictionary");
@@ -12,6 +14,23 @@ std::optional<std::uint32_t> wholeValue(const OdString& text) {
   const std::uint32_t value = QStringView(text).left(8).toUInt(&ok, 16);
   return ok ? std::optional(value) : std::nullopt;
 }
+
+/// Leaves changes out of undo while those of variables are: these objects are variables as well.
+class AsVariable {
+ public:
+  explicit AsVariable(OdDbDatabase& database)
+    : m_undo(database.data().undo)
+    , m_former(m_undo.record(false)) {
+    m_undo.record(m_former && m_undo.recordsVariables());
+  }
+  ~AsVariable() { m_undo.record(m_former); }
+  AsVariable(const AsVariable&) = delete;
+  AsVariable& operator=(const AsVariable&) = delete;
+
+ private:
+  OdDbUndo& m_undo;
+  bool m_former;
+};
 
 OdString shownValue(std::uint32_t value) {
   return OdString::number(value, 16).toUpper().rightJustified(8, u'0');
@@ -31,6 +50,7 @@ OdString oddb::dictionaryVar(const OdDbDatabase& database, const OdString& name)
 
 void oddb::setDictionaryVar(OdDbDatabase& database, const OdString& name, const OdString& text) {
   if (text == dictionaryVar(database, name)) return;
+  const AsVariable unrecorded(database);
   const OdDbDictionaryPtr root =
       database.getNamedObjectsDictionaryId().safeOpenObject(OdDb::kForWrite);
   OdDbObjectId varsId = root->getAt(kVariables);

@@ -2,6 +2,8 @@
 #include "properties/general_properties.h"
 
 #include "drawing/database.h"
+#include "drawing/entities/line.h"
+#include "drawing/variable_recording.h"
 #include "properties/layer_table_record_impl.h"
 #include "properties/line_type_table_record_impl.h"
 #include "support/golden.h"
@@ -197,6 +199,34 @@ TEST_F(DrawingValuesTest, TransparencyTakesPercentAndTheSpecialWords) {
   EXPECT_EQ(applied(u"-5").percent(), 10);
   EXPECT_EQ(applied(u"150").percent(), 10);
   EXPECT_EQ(applied(u"nan").percent(), 10);
+}
+
+TEST_F(DrawingValuesTest, ACancelledCommandDoesNotBringLentValuesAgain) {
+  // Another tool takes the place of one whose command is under way: its values go back first, and
+  // then the command's changes are taken back.
+  const oddb::VariableRecording lent(drawing, false);
+  drawing->setCurrentColor(OdCmColor::fromRgb(1, 2, 3));
+  const auto transparency = odrxMake<OdTcTransparencyPropertyImpl>();
+  transparency->setText(text(u"40"));
+  const auto color = odrxMake<OdTcColorPropertyImpl>();
+  color->setColor(OdCmColor::fromColorIndex(3));
+  drawing->startUndoRecord(text(u"EXECUTETOOL"));
+  transparency->applyToDatabase(drawing);
+  color->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentTransparency().percent(), 40);
+  drawing->endUndoRecord();
+  drawing->startUndoRecord(text(u"LINE"));
+  drawing->getModelSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d(), OdGePoint3d(1, 0, 0)));
+  transparency->restoreToDatabase(drawing);
+  color->restoreToDatabase(drawing);
+  drawing->abandonUndoRecord();
+  EXPECT_TRUE(drawing->currentTransparency().isByLayer());
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(drawing->writeDxf(), text(u"after.dxf"));
+  EXPECT_EQ(read->currentColor(), OdCmColor::fromRgb(1, 2, 3));
+  EXPECT_TRUE(read->currentTransparency().isByLayer());
+  EXPECT_FALSE(drawing->hasUndo()) << "what was lent is no change";
 }
 
 TEST_F(DrawingValuesTest, ScaleIsImposedOnlyAboveZero) {
