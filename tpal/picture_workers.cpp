@@ -1,5 +1,6 @@
 #include "tpal/picture_workers.h"
 
+#include "frame/error.h"
 #include "images/image.h"
 #include "images/picture_file.h"
 #include "tools/action_agent.h"
@@ -42,6 +43,15 @@ MadePictures picturesOf(const tc::OdTcTool& tool, tc::OdTcSourceFiles& files) {
   return made;
 }
 
+/// A drawing that breaks a rule costs its own pictures and not the run.
+MadePictures triedPicturesOf(const tc::OdTcTool& tool, tc::OdTcSourceFiles& files) {
+  try {
+    return picturesOf(tool, files);
+  } catch (const OdError& error) {
+    return {{}, error.description()};
+  }
+}
+
 /// Threads that make pictures, and one that takes them in order.
 class Workers {
  public:
@@ -76,7 +86,7 @@ class Workers {
       const std::size_t from = m_next.fetch_add(kShare);
       for (std::size_t i = from; i < std::min(from + kShare, m_tools.size()); ++i) {
         if (m_isEnding) return;
-        MadePictures made = picturesOf(*m_tools[i], files);
+        MadePictures made = triedPicturesOf(*m_tools[i], files);
         const std::scoped_lock lock(m_mutex);
         m_made[i] = std::move(made);
         m_isMade[i] = true;
@@ -102,7 +112,7 @@ void makePictures(const std::vector<tc::OdTcToolPtr>& tools,
                   const std::function<void(std::size_t index, const MadePictures& made)>& take) {
   if (!ConsoleHost::instance().canMakePreviewsInThreads()) {
     tc::OdTcSourceFiles files;
-    for (std::size_t i = 0; i < tools.size(); ++i) take(i, picturesOf(*tools[i], files));
+    for (std::size_t i = 0; i < tools.size(); ++i) take(i, triedPicturesOf(*tools[i], files));
     return;
   }
   Workers workers(tools);
