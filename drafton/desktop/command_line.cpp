@@ -14,6 +14,11 @@ namespace {
 
 constexpr qsizetype kMostTyped = 200;
 
+bool walksThroughList(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_PageUp ||
+         key.key() == Qt::Key_PageDown;
+}
+
 /// The prompt with its keywords as links, which hold what a click types.
 OdString linked(const OdString& prompt, const KeywordList& keywords) {
   OdString html = prompt.toHtmlEscaped();
@@ -49,6 +54,8 @@ CommandLine::CommandLine(Desktop& desktop, QWidget* parent)
   m_edit->setAccessibleName(translated(u"Command line"));
   m_edit->setPlaceholderText(translated(u"Type a command"));
   m_edit->installEventFilter(this);
+  // Behind the completer's own, so that ours comes first.
+  m_offers->list()->installEventFilter(this);
 
   auto* const row = new QHBoxLayout;
   row->setContentsMargins(6, 2, 6, 4);
@@ -64,6 +71,7 @@ CommandLine::CommandLine(Desktop& desktop, QWidget* parent)
   connect(m_edit, &QLineEdit::textEdited, this, [this] { m_offers->show(); });
   connect(&desktop.console(), &DesktopConsole::historyChanged, this, &CommandLine::showHistory);
   connect(&desktop, &Desktop::settled, this, &CommandLine::showPrompt);
+  connect(&desktop, &Desktop::documentActivated, this, &CommandLine::showPrompt);
   m_offers->update();
   showHistory();
   showPrompt();
@@ -77,7 +85,7 @@ void CommandLine::showHistory() {
 void CommandLine::showPrompt() {
   const InputRequest* const asked = m_desktop.request();
   if (asked) {
-    m_prompt->setText(linked(m_desktop.console().currentPrompt().trimmed(), asked->keywords()));
+    m_prompt->setText(linked(asked->shown().trimmed(), asked->keywords()));
   } else {
     // What nobody will answer is history.
     m_desktop.console().dropPrompt();
@@ -148,6 +156,14 @@ bool CommandLine::handleKey(QKeyEvent* event) {
 }
 
 bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_edit && event->type() == QEvent::ShortcutOverride && m_edit->text().isEmpty()) {
+    // With nothing to edit, the keys of editing are those of the drawing: undo, erase, select all.
+    event->ignore();
+    return true;
+  }
+  if (watched == m_offers->list() && event->type() == QEvent::KeyPress)
+    return !walksThroughList(*static_cast<QKeyEvent*>(event)) &&
+           handleKey(static_cast<QKeyEvent*>(event));
   if (watched == m_edit && event->type() == QEvent::KeyPress)
     return handleKey(static_cast<QKeyEvent*>(event));
   return QWidget::eventFilter(watched, event);

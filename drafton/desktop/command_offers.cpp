@@ -53,6 +53,8 @@ void CommandOffers::show() {
 
 bool CommandOffers::isShown() const { return m_completer->popup()->isVisible(); }
 
+QWidget* CommandOffers::list() const { return m_completer->popup(); }
+
 void CommandOffers::hide() { m_completer->popup()->hide(); }
 
 bool CommandOffers::takeMarked() {

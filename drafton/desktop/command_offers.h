@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QStandardItemModel;
+class QWidget;
 
 namespace drafton {
 
@@ -22,6 +23,8 @@ class CommandOffers : public QObject {
   /// Shows the list for the text of the line, or hides it.
   void show();
   bool isShown() const;
+  /// The list, which has the keyboard while it is shown.
+  QWidget* list() const;
   /// Runs the offer that is marked in the list; false if there is none.
   bool takeMarked();
   void hide();

@@ -3,11 +3,13 @@
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QSignalSpy>
+#include <QTimer>
 
 using namespace drafton;
 
@@ -165,6 +167,109 @@ TEST_F(MainWindowTest, LayoutTabsFollowTheDrawingAndSwitchIt) {
   EXPECT_EQ(tabs.currentIndex(), 0);
   type("LAYOUT New Second\n");
   EXPECT_EQ(tabs.count(), 3);
+}
+
+TEST_F(MainWindowTest, CommandsThatBeginWithTheTextAreOfferedAndChosen) {
+  auto* const list = window().commandLine().findChild<QCompleter*>()->popup();
+  type("ell");
+  ASSERT_TRUE(list->isVisible());
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("ELLIPSE")});
+  press(Qt::Key_Escape);
+  type("li");
+  ASSERT_TRUE(list->isVisible());
+  QTest::keyClicks(list, QStringLiteral("ne "));
+  EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("LINE")})
+      << "a blank takes what is typed, not what is offered";
+  EXPECT_FALSE(list->isVisible());
+}
+
+TEST_F(MainWindowTest, KeysOfEditingAreThoseOfTheDrawingWhereThereIsNoText) {
+  type("LINE 0,0 1,1  ");
+  window().commandLine().edit().setFocus();
+  QKeyEvent undo(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+  undo.ignore();
+  QApplication::sendEvent(&window().commandLine().edit(), &undo);
+  EXPECT_FALSE(undo.isAccepted());
+  window().commandLine().edit().setText(QStringLiteral("text"));
+  QApplication::sendEvent(&window().commandLine().edit(), &undo);
+  EXPECT_TRUE(undo.isAccepted());
+}
+
+// --- commands of modules, which wait on the stack
+
+int g_asked = 0;
+OdString g_answer;
+IHostUserInput::Result g_result;
+
+void askSynchronously() {
+  ++g_asked;
+  g_result = Engine::current()->documents().current()->userInput()->getString(
+      IHostUserInput::kKeepCase, QStringLiteral("What? "), g_answer);
+}
+
+class WaitingModuleTest : public DesktopFixture {
+ protected:
+  WaitingModuleTest() {
+    g_asked = 0;
+    g_answer.clear();
+    RegisteredCommand command;
+    command.name = QStringLiteral("ASKME");
+    command.function = askSynchronously;
+    desktop().engine().commands().add(command);
+  }
+  /// Does something once the command waits.
+  void later(std::function<void()> action) { QTimer::singleShot(0, &window(), std::move(action)); }
+};
+
+TEST_F(WaitingModuleTest, GetsItsAnswerWhileTheWindowLives) {
+  later([&] {
+    EXPECT_TRUE(desktop().input().isWaiting());
+    type("yes ");
+  });
+  type("ASKME ");
+  EXPECT_EQ(g_answer, QStringLiteral("yes"));
+  EXPECT_FALSE(desktop().isBusy());
+}
+
+TEST_F(WaitingModuleTest, TextThatAModuleSendsMeanwhileIsTakenUp) {
+  later([&] { document().commandInput()->sendText(QStringLiteral("sent ")); });
+  type("ASKME ");
+  EXPECT_EQ(g_answer, QStringLiteral("sent"));
+}
+
+TEST_F(WaitingModuleTest, IsCancelledWhenTheWindowIsClosed) {
+  later([&] { window().close(); });
+  type("ASKME ");
+  EXPECT_EQ(g_result, IHostUserInput::Result::kCancelled);
+  QTRY_VERIFY_WITH_TIMEOUT(!window().isVisible(), 2000);
+  EXPECT_EQ(desktop().document(), nullptr);
+}
+
+TEST_F(WaitingModuleTest, IsCancelledWhenItsDrawingIsClosed) {
+  later([&] { window().actions().find(u"close")->trigger(); });
+  type("ASKME ");
+  EXPECT_EQ(g_result, IHostUserInput::Result::kCancelled);
+  QTRY_VERIFY_WITH_TIMEOUT(desktop().document() == nullptr, 2000);
+}
+
+TEST_F(WaitingModuleTest, EscEndsIt) {
+  later([&] { press(Qt::Key_Escape); });
+  type("ASKME ");
+  EXPECT_EQ(g_result, IHostUserInput::Result::kCancelled);
+  EXPECT_EQ(g_asked, 1);
+}
+
+TEST_F(MainWindowTest, AThousandClicksAndKeysInARowDoNoHarm) {
+  type("LINE ");
+  for (int i = 0; i < 1000; ++i)
+    QTest::mouseClick(&canvas(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(50 + i % 300, 40 + i % 200));
+  press(Qt::Key_Return);
+  EXPECT_EQ(entities().size(), 999u);
+  type("U ");
+  EXPECT_EQ(entities().size(), 0u);
 }
 
 // --- closing
