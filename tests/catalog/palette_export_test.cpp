@@ -70,6 +70,32 @@ TEST_F(PaletteExportTest, ComesBackAsItWasButForIdsAndTimes) {
   EXPECT_EQ(readFile(u"again\\p\\Images\\a.png"_s), png());
 }
 
+TEST_F(PaletteExportTest, HatchesGradientsRastersAndXrefsComeBackAsTheyWere) {
+  palette = import(exported(
+      toolXml("H", "<Hatch><hatchObjectType>0</hatchObjectType><HatchType>1</HatchType>"
+                   "<PatternName>ANSI31</PatternName><Angle>0.5</Angle><Scale>2</Scale></Hatch>") +
+          toolXml("G", "<Hatch><hatchObjectType>1</hatchObjectType><GradientName>LINEAR"
+                       "</GradientName><GradientAngle>0.25</GradientAngle></Hatch>") +
+          toolXml("R", "<Raster><SourceFile>C:\\p\\a.png</SourceFile><RasterName>a</RasterName>"
+                       "<Scale>3</Scale></Raster>") +
+          toolXml("X",
+                  "<Block><BlockType>2</BlockType><BlockName>x</BlockName><SourceFile>C:\\x.dwg"
+                  "</SourceFile><InsertAs>2</InsertAs><XrefType>2</XrefType></Block>"),
+      "kinds"));
+  ASSERT_TRUE(palette) << text(report.problem);
+  for (const OdString& folder : {u"out"_s, u"again"_s}) QDir().mkpath(platform(folder));
+  ASSERT_TRUE(exportTo(u"out\\kinds.xtp"_s).problem.isEmpty());
+  const QByteArray first = withoutChance(readFile(u"out\\kinds.xtp"_s));
+  for (const char* value : {"ANSI31", "LINEAR", "a.png", "x.dwg", "<XrefType>2<", "<Angle>0.5<"})
+    EXPECT_TRUE(first.contains(value)) << value;
+  writeFile(u"other\\DrfTcCatalog.dtc"_s, catalogXml({}));
+  const OdTcCatalogPtr other = load(stored(u"other\\DrfTcCatalog.dtc"_s));
+  const OdTcToolPalettePtr back = other->importPalette(stored(u"out\\kinds.xtp"_s), {}, report);
+  ASSERT_TRUE(back) << text(report.problem);
+  ASSERT_TRUE(exportPalette(*back, stored(u"again\\kinds.xtp"_s)).problem.isEmpty());
+  EXPECT_EQ(withoutChance(readFile(u"again\\kinds.xtp"_s)).toStdString(), first.toStdString());
+}
+
 TEST_F(PaletteExportTest, TheFormThatSaveCopyWritesComesBackAsWell) {
   palette->setExporting(true);
   ASSERT_TRUE(palette->saveCopy(stored(u"out.xtp"_s)));

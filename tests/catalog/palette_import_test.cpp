@@ -332,6 +332,14 @@ TEST_F(PaletteImportTest, TellsItsProgressToolByTool) {
   EXPECT_EQ(progress.stops, 1);
 }
 
+TEST_F(PaletteImportTest, OfAPaletteWithoutToolsTheProgressHasARangeOfNothing) {
+  CountingProgress progress;
+  ASSERT_TRUE(import(exported({})));
+  EXPECT_EQ(progress.range, 0);
+  EXPECT_EQ(progress.steps, 0);
+  EXPECT_EQ(progress.stops, 1);
+}
+
 TEST_F(PaletteImportTest, ACancelledImportLeavesNoTrace) {
   const OdString file = exported(commandXml("A") + light("B") + commandXml("C"));
   const auto before = allFiles();
