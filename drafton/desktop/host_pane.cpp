@@ -6,6 +6,7 @@ namespace drafton {
 namespace {
 
 constexpr int kFirstWidth = 320;
+constexpr int kLeastHeight = 100;
 
 } // namespace
 
@@ -52,6 +53,15 @@ void HostPane::show(bool activate) {
   if (!m_dock) return;
   m_dock->show();
   m_dock->raise();
+  // Beside other panes, content that asks for nothing would get nothing. The layout is made later.
+  QMetaObject::invokeMethod(
+      m_dock,
+      [dock = m_dock.data(), &window = m_window] {
+        if (!dock->isFloating() && dock->isVisible() && dock->widget() &&
+            dock->widget()->height() < kLeastHeight)
+          window.resizeDocks({dock}, {window.height() / 2}, Qt::Vertical);
+      },
+      Qt::QueuedConnection);
   if (activate) {
     m_dock->activateWindow();
     if (m_dock->widget()) m_dock->widget()->setFocus();

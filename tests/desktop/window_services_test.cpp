@@ -51,6 +51,16 @@ TEST_F(WindowServicesTest, APaneComesHiddenAtTheRightSide) {
   log.pane.reset();
 }
 
+TEST_F(WindowServicesTest, ContentThatAsksForNothingGetsRoomBesideOtherPanes) {
+  const auto pane =
+      windows()->createPane(QStringLiteral("Bare"), QStringLiteral("Bare"), new QWidget, nullptr);
+  pane->show(false);
+  QApplication::processEvents();
+  QApplication::processEvents();
+  EXPECT_GE(dock()->widget()->height(), 100);
+  EXPECT_GE(dock()->widget()->width(), 100);
+}
+
 TEST_F(WindowServicesTest, ClosingIsToldWhenThePaneIsHiddenAndHidingIsNot) {
   PaneLog log;
   make(log);
