@@ -12,9 +12,11 @@ def describe(entity):
         if entity.dxf.hasattr(name):
             row[name] = [round(c, 6) for c in entity.dxf.get(name)]
     for name in ("radius", "text", "height", "name", "xscale", "rotation", "pattern_name",
-                 "pattern_scale"):
+                 "pattern_scale", "lineweight", "linetype", "ltscale", "true_color"):
         if entity.dxf.hasattr(name):
             row[name] = entity.dxf.get(name)
+    if entity.dxf.hasattr("transparency"):
+        row["transparency"] = round(entity.transparency * 100)
     if entity.dxftype() == "LWPOLYLINE":
         row["points"] = [[round(c, 6) for c in p[:2]] for p in entity.get_points()]
         row["closed"] = bool(entity.closed)

@@ -139,6 +139,38 @@ TEST(ImportingPalettes, BlocksAndHatchesKeepWhatTheyWereGiven) {
   EXPECT_EQ(entities[2][QStringLiteral("color")].toInt(), 1);
 }
 
+TEST(ImportingPalettes, WhatToolsDrawHasTheirGeneralProperties) {
+  const Workbench bench;
+  const auto property = [](const QByteArray& name, const QByteArray& type,
+                           const QByteArray& value) {
+    return "<" + name + "><BasicPropInfo><PropValue unspecified=\"FALSE\" valueType=\"" + type +
+           "\" value=\"" + value + "\"/></BasicPropInfo></" + name + ">";
+  };
+  const QString file = bench.write(
+      QStringLiteral("p.xtp"),
+      "<Palette><ItemID idValue=\"{P}\"/><Tools><Tool><ItemID idValue=\"{A}\"/><Properties>"
+      "<ItemName>All</ItemName></Properties><ToolType>1</ToolType><Data><GeneralProperties><Color>"
+      "<BasicPropInfo><PropValue unspecified=\"FALSE\"/></BasicPropInfo><CreateInfo><AcCmColor "
+      "mRGB=\"-1039130576\"/></CreateInfo></Color>" +
+          property("LinetypeScale", "3", "0.5") + property("LineWeight", "2", "50") +
+          property("Transparency", "2", "40") +
+          "</GeneralProperties><Command Macro=\"_LINE 0,0 1,1 ;\"/></Data></Tool></Tools>"
+          "</Palette>");
+  ASSERT_EQ(import(bench, {file}).exitCode, 0);
+  const RunResult run = bench.batch(bench.path(QStringLiteral("c")), "TOOL:All\nLINE 5,5 6,6 \n\n");
+  ASSERT_EQ(run.exitCode, 0) << qPrintable(run.out + run.err);
+  const QJsonArray entities = bench.entities();
+  ASSERT_EQ(entities.size(), 2) << qPrintable(run.out);
+  EXPECT_EQ(entities[0][QStringLiteral("true_color")].toInt(), -1039130576 & 0xFFFFFF);
+  EXPECT_EQ(entities[0][QStringLiteral("ltscale")].toDouble(), 0.5);
+  EXPECT_EQ(entities[0][QStringLiteral("lineweight")].toInt(), 50);
+  EXPECT_EQ(entities[0][QStringLiteral("transparency")].toInt(), 40);
+  for (const char* name : {"true_color", "ltscale", "lineweight", "transparency"})
+    EXPECT_TRUE(entities[1][QLatin1String(name)].isUndefined() ||
+                entities[1][QLatin1String(name)].isNull())
+        << name << ": settings are put back";
+}
+
 TEST(ImportingPalettes, AScriptFailsAtAFileThatCannotBeImported) {
   const Workbench bench;
   const QString catalog = bench.writeCatalog(QStringLiteral("c"), {});
