@@ -40,7 +40,8 @@ double luminance(QRgb pixel) {
          0.0722 * linear(qBlue(pixel));
 }
 double contrast(QRgb a, QRgb b) {
-  const auto [low, high] = std::minmax(luminance(a), luminance(b));
+  const double ofA = luminance(a), ofB = luminance(b);
+  const auto [low, high] = std::minmax(ofA, ofB);
   return (high + 0.05) / (low + 0.05);
 }
 
