@@ -30,14 +30,17 @@ OdString imageHomePath(const OdTcDatabase* database) {
   return database && g_home.pathOf ? g_home.pathOf(database) : OdString();
 }
 
+bool isBeingExported(const OdTcDatabase* database) {
+  return g_home.isExporting && g_home.isExporting(database);
+}
+
 OdString imagePathBeside(const OdString& palettePath, const OdString& src) {
   return palettePath.isEmpty() ? OdString() : joined(odpath::folderOf(palettePath), src);
 }
 
 OdString imageFilePath(const OdTcDatabase* database, const OdString& src) {
   const OdString path = imageHomePath(database);
-  if (path.isEmpty() || !g_home.isExporting || !g_home.isExporting(database))
-    return imagePathBeside(path, src);
+  if (path.isEmpty() || !isBeingExported(database)) return imagePathBeside(path, src);
   // An exported palette has its pictures in a folder of its own; that folder is where they are
   // looked for when the palette comes back, so "Images" must not stand there twice.
   OdString folder = odpath::folderOf(path) + u'\\' + odpath::titleOf(path);

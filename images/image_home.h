@@ -24,6 +24,8 @@ OdString imageHomePath(const OdTcDatabase* database);
 /// The stored path of a picture under a palette: beside its file or, while it is exported, in a
 /// folder named after the new file. Empty without a palette or its path.
 OdString imageFilePath(const OdTcDatabase* database, const OdString& src);
+/// True while the palette is being written to another place, where its own pictures stay unchanged.
+bool isBeingExported(const OdTcDatabase* database);
 /// `src` joined to the folder of a palette file.
 OdString imagePathBeside(const OdString& palettePath, const OdString& src);
 /// True if the picture lies in the folder of the palette file or below, and is no device. A `src`

@@ -12,6 +12,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <vector>
 
 namespace tc {
@@ -20,6 +21,8 @@ namespace {
 constexpr QStringView kButtonResources = u"%ProgramBtnRes%";
 constexpr QStringView kForeignButtons = u"acadbtn.xmx";
 constexpr QStringView kExchangeExtension = u".xtp";
+/// Buttons are never drawn larger, whatever a file asks for.
+constexpr int kMostButtonPixels = 1024;
 
 /// The paths of the palette files that images were read from; number 0 stands for none.
 class Homes {
@@ -92,6 +95,8 @@ QImage OdTcImageImpl::resourcePicture() const {
   const int width = static_cast<int>(m_cx), height = static_cast<int>(m_cy);
   if (icon.isNull() || width <= 0 || height <= 0 || icon.size() == QSize(width, height))
     return icon;
+  // Files of others say what they like.
+  if (std::max(width, height) > kMostButtonPixels) return icon;
   return scaledTo(icon, width, height);
 }
 
@@ -231,11 +236,17 @@ void OdTcImageImpl::saveBesidePalette() {
   if (!m_decoded && path == imagePathBeside(g_homes.path(m_home), src())) return;
   if (path.isEmpty() || !isBelowPalette(palette, path)) return;
   OdRxSystemServices* const system = odrxSystemServices();
+  if (isBeingExported(database())) {
+    // A copy goes along; what is not saved beside the palette yet is still to be saved there.
+    const QImage picture = system->fileExists(path) ? QImage() : getBitmap();
+    if (!picture.isNull() && system->createFolder(odpath::folderOf(path)))
+      savePicture(picture, path, QStringLiteral("png"));
+    return;
+  }
   OdString target = path;
   if (system->fileExists(path)) {
     // A picture that was made before its tool came to a palette has not seen whose names are taken.
-    const bool isNew = m_isMade && m_decoded && !m_decoded->label.isEmpty();
-    if (!isNew || path != imagePathBeside(palette, src())) {
+    if (!m_isMade || !m_decoded || m_decoded->label.isEmpty()) {
       m_isMade = false;
       return;
     }

@@ -2,6 +2,7 @@
 #include "catalog/database.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
+#include "images/image_home.h"
 #include "images/image_list.h"
 #include "module/properties.h"
 #include "tools/command_tool.h"
@@ -11,6 +12,7 @@
 #include "tpal/console_host.h"
 #include "tpal/loaded_catalog.h"
 
+#include <QDir>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -66,17 +68,22 @@ std::vector<int> pixelsOf(const std::vector<Size>& sizes) {
   return pixels;
 }
 
-/// Which picture files the tools of a palette show, and how many of them each.
+/// Which picture files the tools of a catalog show, and how many of them each. Its palettes have
+/// one folder of pictures in common.
 class FileUse {
  public:
-  explicit FileUse(const tc::OdTcToolPalette& palette) {
+  void add(const tc::OdTcToolPalette& palette) {
     for (const tc::OdTcTool* tool : toolsOf(palette))
       if (const tc::OdTcImageList* const images = tool->images())
-        forEach(images->enumImages(), [&](tc::OdTcImage* image) { ++m_counts[image->fullPath()]; });
+        forEach(images->enumImages(),
+                [&](tc::OdTcImage* image) { ++m_counts[fileOf(image->fullPath())]; });
   }
-  bool isShared(const OdString& path) const { return m_counts.value(path) > 1; }
+  bool isShared(const OdString& path) const { return m_counts.value(fileOf(path)) > 1; }
 
  private:
+  /// One name for each file, however its path is spelled.
+  static OdString fileOf(const OdString& path) { return QDir::cleanPath(odpath::toPlatform(path)); }
+
   QHash<OdString, int> m_counts;
 };
 
@@ -113,9 +120,12 @@ class PictureMaker {
     image->setOwner(&list);
     image->setSizeKind(codeOf(size));
     if (agent && agent->makePicture(*image, m_sources)) return image;
-    // A command shows itself by the program's icon of it, where there is one.
+    // A command shows itself by the program's icon of it, where there is one and nobody has given
+    // it another picture.
+    tc::OdTcImage* const former = list.findBySize(codeOf(size));
+    const bool hasOwn = isThere(former) && !former->isResource();
     const auto* const command = dynamic_cast<const tc::OdTcToolCommandImpl*>(agent);
-    if (command && command->imageSourceFromMacro(image) && !image->getBitmap().isNull())
+    if (command && !hasOwn && command->imageSourceFromMacro(image) && !image->getBitmap().isNull())
       return image;
     m_problem = whyNot(agent);
     return isThere(list.findBySize(codeOf(size))) ? tc::OdTcImagePtr() : scaled(list, size);
@@ -146,7 +156,8 @@ class PictureMaker {
       return true;
     }
     const OdString formerFile = former ? former->fullPath() : OdString();
-    const bool staysInPlace = !formerFile.isEmpty() && !use.isShared(formerFile);
+    // Pictures elsewhere are not the catalog's to write.
+    const bool staysInPlace = tc::isBelowPalette(palette, formerFile) && !use.isShared(formerFile);
     const OdString file = staysInPlace ? formerFile : odpath::folderOf(palette) + picture->src();
     if (!odrxSystemServices()->createFolder(odpath::folderOf(file)) || !picture->saveTo(file, -1)) {
       m_problem = QStringLiteral("%1 cannot be written").arg(file);
@@ -184,6 +195,7 @@ class ImagesRun {
     const LoadedCatalog loaded = loadCatalog(m_arguments.words.first());
     for (const OdString& message : loaded.messages) m_console.err << "tpal: " << message << "\n";
     if (!loaded.isRead) return kFailed;
+    for (const tc::OdTcToolPalette* palette : palettesOf(*loaded.catalog)) m_use.add(*palette);
     for (tc::OdTcToolPalette* palette : palettesOf(*loaded.catalog)) look(*palette);
     report();
     const bool isComplete = std::all_of(m_rows.begin(), m_rows.end(),
@@ -194,10 +206,9 @@ class ImagesRun {
  private:
   void look(tc::OdTcToolPalette& palette) {
     if (palette.getDatabase()->isUnread()) return;
-    const FileUse use(palette);
     bool hasChanged = false;
     for (tc::OdTcTool* tool : toolsOf(palette))
-      if (tool->isRegular()) hasChanged |= look(palette, *tool, use);
+      if (tool->isRegular()) hasChanged |= look(palette, *tool);
     if (!hasChanged || palette.save()) return;
     m_console.err << "tpal: " << palette.getPath()
                   << ": not written: " << palette.getDatabase()->saveProblem() << "\n";
@@ -205,7 +216,7 @@ class ImagesRun {
   }
 
   /// True if the tool was changed.
-  bool look(const tc::OdTcToolPalette& palette, tc::OdTcTool& tool, const FileUse& use) {
+  bool look(const tc::OdTcToolPalette& palette, tc::OdTcTool& tool) {
     const std::vector<Size> missing = missingSizes(tool);
     const std::vector<Size> wanted =
         m_arguments.rebuild ? std::vector<Size>(kSizes.begin(), kSizes.end()) : missing;
@@ -213,7 +224,7 @@ class ImagesRun {
     Row row{palette.name(),       palette.getPath(), tool.name(), tool.id(),
             summarize(tool).kind, pixelsOf(missing), {},          {}};
     const bool makes = m_arguments.missing || m_arguments.rebuild;
-    const bool hasChanged = makes && m_maker.make(tool, wanted, palette.getPath(), use);
+    const bool hasChanged = makes && m_maker.make(tool, wanted, palette.getPath(), m_use);
     if (makes) {
       row.missing = pixelsOf(missingSizes(tool));
       if (hasChanged) row.made = without(pixelsOf(wanted), row.missing);
@@ -266,6 +277,7 @@ class ImagesRun {
 
   const Arguments& m_arguments;
   Console& m_console;
+  FileUse m_use;
   PictureMaker m_maker;
   std::vector<Row> m_rows;
   bool m_hasFailed = false;

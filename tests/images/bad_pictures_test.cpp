@@ -228,6 +228,30 @@ TEST_F(PictureFolder, ThatIsReadOnlyKeepsThePictureInMemoryUntilItCanBeSaved) {
   EXPECT_EQ(QDir(folder.filePath(QStringLiteral("Images"))).entryList(QDir::Files).size(), 1);
 }
 
+TEST_F(PictureFolder, ThatWasReadOnlyGetsItsPictureAlsoAfterAnExport) {
+  const auto image = made();
+  {
+    testhost::FailingServices services;
+    services.deniedFolder = stored(QStringLiteral("Images"));
+    written(image);
+    image->setOwner(palette);
+  }
+  const OdString home = palette->getPath();
+  for (int time = 0; time < 2; ++time) { // the second finds the copy of the first
+    palette->setPath(stored(QStringLiteral("out/copy.xtp")));
+    palette->setExporting(true);
+    written(image);
+    palette->setExporting(false);
+    palette->setPath(home);
+    image->setOwner(palette);
+    EXPECT_EQ(
+        QDir(folder.filePath(QStringLiteral("out/copy/Images"))).entryList(QDir::Files).size(), 1);
+  }
+  EXPECT_FALSE(exists(QStringLiteral("Images")));
+  written(image);
+  EXPECT_EQ(QDir(folder.filePath(QStringLiteral("Images"))).entryList(QDir::Files).size(), 1);
+}
+
 TEST_F(PictureFolder, ThatIsMissingIsMade) {
   written(made());
   EXPECT_EQ(QDir(folder.filePath(QStringLiteral("Images"))).entryList(QDir::Files).size(), 1);

@@ -95,6 +95,13 @@ TEST_F(ImageTest, ForeignResourceNameGivesItsLastPartInLowerCase) {
   EXPECT_TRUE(image->getBitmap().isNull());
 }
 
+TEST_F(ImageTest, ButtonOfAFileThatAsksForAGiantIsShownAsItIs) {
+  host().icons.images[text(u"line")] = QImage(64, 64, QImage::Format_ARGB32);
+  const auto image =
+      readImage("cx=\"64\" cy=\"40000000\" src=\"acadbtn.xmx\" resource=\"RCDATA_16_LINE\"");
+  EXPECT_EQ(image->getBitmap().size(), QSize(64, 64));
+}
+
 TEST_F(ImageTest, DecodesTheFileBesideThePaletteWhenItIsAsked) {
   makePicture(QStringLiteral("Images/a.png"), 64, qRgb(1, 2, 3));
   const auto image = readImage("cx=\"64\" cy=\"64\" src=\"\\Images\\a.png\"");

@@ -77,6 +77,19 @@ TEST_F(Images, ThatAreThereStayWhenOthersAreMade) {
   EXPECT_EQ(read(QStringLiteral("c/Palettes/Images/Door64.png")), large);
 }
 
+TEST_F(Images, ThatLieOutsideOfTheCatalogAreNeverWritten) {
+  QImage photo(300, 200, QImage::Format_RGB32);
+  photo.fill(Qt::red);
+  ASSERT_TRUE(photo.save(path(QStringLiteral("photo.png"))));
+  const QByteArray before = read(QStringLiteral("photo.png"));
+  writeCatalog(blockTool("{1}", "Door", writeSource())
+                   .replace("</ItemName>", "</ItemName><Images option=\"0\"><Image cx=\"16\" "
+                                           "cy=\"16\" src=\"\\..\\..\\photo.png\"/></Images>"));
+  EXPECT_EQ(images({kRebuild}), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(read(QStringLiteral("photo.png")), before);
+  EXPECT_EQ(pictures().size(), 3);
+}
+
 TEST_F(Images, ThatCannotBeReadCountAsMissing) {
   writeCatalog(blockTool("{1}", "Door", writeSource()));
   images({kMissing});
