@@ -202,8 +202,8 @@ void PaletteImport::announceSkipped() {
 OdString PaletteImport::uniqueName(const OdString& wanted) const {
   // Gathered once: many palettes may have this name and a number.
   QSet<OdString> taken(m_options.takenNames.begin(), m_options.takenNames.end());
-  const OdTcEnumPtr<OdTcCatalogItem> palettes = m_catalog.palettesEnum();
-  while (const OdTcCatalogItem* const palette = palettes->next()) taken << palette->name();
+  const OdTcEnumPtr<OdTcToolPalette> palettes = m_catalog.palettesEnum();
+  while (const OdTcToolPalette* const palette = palettes->next()) taken << palette->name();
   OdString name = wanted;
   for (int number = 2; taken.contains(name); ++number)
     name = QStringLiteral("%1 (%2)").arg(wanted, OdString::number(number));

@@ -149,8 +149,9 @@ TEST(DynamicBlocks, AreFoundBehindTheStateThatIsShown) {
 }
 
 TEST(Tables, OwnDictionariesThatAreNoRecordsOfTheirs) {
-  const QByteArray plain = OdDbDatabase::createDatabase()->writeDxf();
-  const OdDbObjectId layers = OdDbDatabase::createDatabase()->getLayerTableId();
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  const QByteArray plain = drawing->writeDxf();
+  const OdDbObjectId layers = drawing->getLayerTableId();
   const QByteArray handle = layers.getHandle().ascii().toLatin1();
   QByteArray file = plain;
   // What programs that filter layers write.
