@@ -290,6 +290,16 @@ TEST(KeptOddities, IndexBesideATrueColorGoesWithIt) {
   EXPECT_TRUE(db->writeDxf().contains(" 62\n3\n420\n65280\n"));
 }
 
+TEST(KeptOddities, ScaleInTheHeadOfASolidHatchStaysThroughEverySave) {
+  QByteArray file =
+      drawingWith(head("HATCH", "AcDbHatch|") + kSplineEdge + kSplineEnd, OdDb::kR2018);
+  const qsizetype at = file.indexOf("AcDbHatch\n") + 10;
+  file.insert(at, " 41\n7.5\n");
+  const QByteArray first = OdDbDatabase::readDxf(file, QStringLiteral("x.dxf"))->writeDxf();
+  EXPECT_TRUE(first.contains(" 41\n7.5\n"));
+  EXPECT_EQ(OdDbDatabase::readDxf(first, QStringLiteral("y.dxf"))->writeDxf(), first);
+}
+
 TEST(KeptOddities, FitDataOfNewerFilesAreNotToldToOldOnes) {
   const OdDbDatabasePtr db = OdDbDatabase::readDxf(
       drawingWith(head("HATCH", "AcDbHatch|") + kSplineEdge + " 97|2|" + kFitData + kSplineEnd,

@@ -227,7 +227,9 @@ bool OdDbHatch::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   }
   switch (m_stage) {
   case Stage::kHead:
-    return oddxf::takeTag<Data>(kHead, m_hatch, tag, in);
+    // Angle, scale and doubling have one meaning wherever they stand.
+    return oddxf::takeTag<Data>(kHead, m_hatch, tag, in) ||
+           oddxf::takeTag<Data>(kLines, m_hatch, tag, in);
   case Stage::kLoops:
     return readLoopTag(tag, in);
   case Stage::kPattern:
@@ -377,8 +379,13 @@ void OdDbHatch::dxfOut(OdDbDxfOut& out) const {
   out.integer(91, numLoops());
   for (const OdDbHatchLoop& loop : m_hatch.loops) putLoop(loop, out);
   oddxf::putFields<Data>(kPattern, m_hatch, out);
+  const Data preset;
+  const bool hasLineValues = m_hatch.patternAngle != preset.patternAngle ||
+                             m_hatch.patternScale != preset.patternScale ||
+                             m_hatch.patternDouble != preset.patternDouble;
+  // A solid one needs them for nothing, but keeps what it was given.
+  if (!isSolidFill() || hasLineValues) oddxf::putFields<Data>(kLines, m_hatch, out);
   if (!isSolidFill()) {
-    oddxf::putFields<Data>(kLines, m_hatch, out);
     out.integer(78, static_cast<std::int64_t>(m_hatch.lines.size()));
     for (const OdHatchPatternLine& line : m_hatch.lines) putPatternLine(line, out);
   }
