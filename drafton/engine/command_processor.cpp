@@ -37,7 +37,7 @@ struct CommandProcessor::Frame {
   bool isRunning = false; ///< its code is on the stack, so it cannot be destroyed
   bool isCancelled = false;
   bool hasUndoStep = false;
-  bool wasModified = false; ///< the drawing, before the step
+  bool wasModified = false;         ///< the drawing, before the step
   std::optional<OdDbUndoMark> mark; ///< where it began in the step of a command around it
   bool isAnswered = false;          ///< the text that a module's command waited for is there
   bool* succeeded = nullptr;
@@ -355,15 +355,23 @@ void CommandProcessor::finish(Outcome outcome, const OdString& message) {
   if (outcome == Outcome::kFailed) trouble(message);
 
   const OdString& name = frame->command->name;
-  tell([&](HostEditorReactor& r) {
-    if (outcome == Outcome::kEnded) r.commandEnded(name);
-    if (outcome == Outcome::kFailed) r.commandFailed(name);
-    // One cancel is one event, that of the outermost command: what it ran ends with it. A module
-    // that sends a cancel and waits for its event would take a second one for the user's. A command
-    // that gives up by itself while the one around it goes on has an event of its own.
-    if (outcome == Outcome::kCancelled && (isOutermost || !frame->isCancelled))
-      r.commandCancelled(name);
-  });
+  const auto tellEnd = [&] {
+    tell([&](HostEditorReactor& r) {
+      if (outcome == Outcome::kEnded) r.commandEnded(name);
+      if (outcome == Outcome::kFailed) r.commandFailed(name);
+      // One cancel is one event, that of the outermost command: what it ran ends with it. A module
+      // that sends a cancel and waits for its event would take a second one for the user's. A
+      // command that gives up by itself while the one around it goes on has an event of its own.
+      if (outcome == Outcome::kCancelled && (isOutermost || !frame->isCancelled))
+        r.commandCancelled(name);
+    });
+  };
+  // Commands that wait in other documents than the active one are cancelled too. One that has ended
+  // well may have made another document the active one.
+  if (m_document && outcome != Outcome::kEnded)
+    m_engine.documents().withCurrent(*m_document, tellEnd);
+  else
+    tellEnd();
   // A macro that opens a drawing goes on in it.
   if (CommandProcessor& now = m_engine.currentProcessor(); isOutermost && &now != this)
     now.takeTextFrom(*this);

@@ -69,6 +69,23 @@ void DocumentManager::activate(Document& document) {
   m_engine.events().fire([&](HostEditorReactor& r) { r.documentActivated(&document); });
 }
 
+bool DocumentManager::isOpen(const Document* document) const {
+  return std::ranges::any_of(m_documents, [&](const auto& d) { return d.get() == document; });
+}
+
+void DocumentManager::withCurrent(Document& document, const std::function<void()>& act) {
+  Document* const former = m_current;
+  if (&document == former || !isOpen(&document)) return act();
+  m_current = &document;
+  act();
+  if (m_current != &document) return; // a reactor has activated one, or closed this one
+  m_current = nullptr;
+  if (isOpen(former))
+    m_current = former;
+  else if (!m_documents.empty())
+    activate(*m_documents.back());
+}
+
 void DocumentManager::close(Document& document) {
   const auto at = std::find_if(m_documents.begin(), m_documents.end(),
                                [&](const auto& d) { return d.get() == &document; });

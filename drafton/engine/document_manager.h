@@ -3,6 +3,8 @@
 
 #include "drafton/engine/document.h"
 
+#include <functional>
+
 namespace drafton {
 
 /// Opens, activates and closes documents. A closed document lives on, without a drawing, until
@@ -29,6 +31,9 @@ class DocumentManager : public IHostDocumentManager {
   /// What was mended or not understood is told on the command line. Raises OdFileError.
   Document& open(const OdString& path);
   void activate(Document& document);
+  /// Calls `act` with an open document as the current one, of which nobody is told: what happens in
+  /// a document behind the active one is told by events, and reactors compare the current one.
+  void withCurrent(Document& document, const std::function<void()>& act);
   /// Closes without asking. The document that was active before becomes the active one.
   void close(Document& document);
 
@@ -36,6 +41,7 @@ class DocumentManager : public IHostDocumentManager {
   void buryClosed();
 
  private:
+  bool isOpen(const Document* document) const;
   Document& add(std::unique_ptr<Document> document);
   void tellDamage(const Document& document, const OdString& path);
 

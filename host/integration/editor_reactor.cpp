@@ -4,12 +4,16 @@
 #include "host/host_locator.h"
 
 #include <array>
+#include <utility>
 
 namespace tc {
 namespace {
 
 /// Commands at whose end the run goes on.
 constexpr std::array kPassedOver = {u"NewDocument", u"OpenDocument", u"Import"};
+
+/// The command that closes one document; the other documents stay open.
+constexpr QStringView kClosesOne = u"CloseDocument";
 
 bool isPassedOver(const OdString& command) {
   for (const char16_t* name : kPassedOver)
@@ -32,9 +36,16 @@ void TcEditorReactor::rxInit(OdRxModule* application) {
 
 void TcEditorReactor::rxUninit() { od_detail::unregisterClass(g_pDesc); }
 
+void TcEditorReactor::commandWillStart(const OdString& name) {
+  if (name == kClosesOne) m_closing = host::curDocument();
+}
+
 void TcEditorReactor::commandEnded(const OdString& name) {
+  const bool isFinishing = m_finishingCommands.contains(name);
+  const bool isGoing = isFinishing && goesWithItsDocument(name);
   if (!m_tool) return;
-  if (m_finishingCommands.contains(name)) return dropTool();
+  if (isGoing) return dropTool();
+  if (isFinishing) return;
   if (isPassedOver(name)) return;
   if (runsInCurrentDocument()) finishTool();
 }
@@ -84,6 +95,15 @@ void TcEditorReactor::forget(const OdTcTool* tool) {
 bool TcEditorReactor::runsInCurrentDocument() const {
   const IHostDocument* const current = m_tool ? host::curDocument() : nullptr;
   return current && current == m_tool->runningDocument();
+}
+
+// A tool that runs in a document that stays open would leave its values there for good if it were
+// dropped: it goes on, and its own command's end puts them back. A host that does not tell of the
+// beginning of commands is taken to close the tool's document.
+bool TcEditorReactor::goesWithItsDocument(const OdString& closingCommand) {
+  if (closingCommand != kClosesOne) return true;
+  const IHostDocument* const closed = std::exchange(m_closing, nullptr);
+  return !m_tool || !closed || closed == m_tool->runningDocument();
 }
 
 // The document is going, and with it everything that would be put back.

@@ -16,8 +16,11 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
  public:
   TcEditorReactor();
 
+  /// Notes which document a command that closes one begins in.
+  void commandWillStart(const OdString& name) override;
   /// Finishes the tool if its document is the current one. At the end of a command that closes the
-  /// document the tool is only forgotten; commands that open another document leave it running.
+  /// document the tool is only forgotten; commands that open another document leave it running, and
+  /// so does one that has closed another document.
   void commandEnded(const OdString& name) override;
   void commandCancelled(const OdString& name) override;
   void commandFailed(const OdString& name) override;
@@ -49,6 +52,7 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
 
  private:
   bool runsInCurrentDocument() const;
+  bool goesWithItsDocument(const OdString& closingCommand);
   void finishTool();
   void dropTool();
 
@@ -56,6 +60,7 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
 
   OdTcTool* m_tool = nullptr;
   bool m_armed = true;
+  const IHostDocument* m_closing = nullptr; ///< only for comparing: it is gone when it is asked for
   OdArray<OdString> m_finishingCommands;
 };
 using TcEditorReactorPtr = OdSmartPtr<TcEditorReactor>;

@@ -80,6 +80,13 @@ MACROS = {
 }
 
 
+def header(document):
+    """The current values in a file; records by their names, in whatever case."""
+    names = ("$CECOLOR", "$CLAYER", "$CELTYPE", "$CELTSCALE", "$CEPSNTYPE", "$CELWEIGHT",
+             "$TEXTSTYLE", "$DIMSTYLE", "$DIMSCALE", "$DIMTXT", "$DIMTAD", "$CETRANSPARENCY")
+    return {name: str(document.header.get(name)).upper() for name in names}
+
+
 class ToolProperties(unittest.TestCase):
     def setUp(self):
         self.bench = tool_bench.Bench(PROGRAMS)
@@ -189,6 +196,29 @@ class ToolProperties(unittest.TestCase):
             for end, script in self.ENDS.items():
                 with self.subTest(end=end):
                     self.assert_nothing_is_left(script)
+        self.each_state(check)
+
+    def test_a_tool_goes_on_when_another_drawing_is_closed(self):
+        def check(*_):
+            ezdxf.new("R2010").saveas(self.bench.path("other.dxf"))
+            other = self.bench.path("other.dxf")
+            for close in ("CloseDocument\n", "LINE 0,0 1,1\n\nCloseDocument\nNo\n"):
+                with self.subTest(close=close):
+                    self.assert_nothing_is_left(
+                        f"OpenDocument {other}\nDOCUMENT:host.dxf\nTOOL:Line\n1,1\n"
+                        f"DOCUMENT:other.dxf\n{close}2,2\n")
+                    self.assertEqual(len(self.bench.read().modelspace()), 1)
+        self.each_state(check)
+
+    def test_values_are_back_in_the_file_that_is_saved_after_a_cancel_or_a_failure(self):
+        def check(*_):
+            ezdxf.readfile(self.bench.path("host.dxf")).saveas(self.bench.path("plain.dxf"))
+            self.run_script("")
+            before = header(self.bench.read())
+            for script in ("TOOL:Line\n1,1\n^C\n", "TOOL:Line\n1,1\n2,2\nU\n"):
+                with self.subTest(script=script):
+                    self.run_script(script)
+                    self.assertEqual(header(self.bench.read()), before)
         self.each_state(check)
 
     def test_unspecified_leaves_the_drawings_value_alone(self):

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <functional>
+
 using namespace drafton;
 
 namespace {
@@ -52,6 +54,72 @@ TEST_F(DocumentCommandsTest, SavesUnderANameWithBlanksAndOpensAgain) {
   ASSERT_EQ(openDocuments(), 1u);
   EXPECT_FALSE(database().extents().isEmpty());
   EXPECT_EQ(variable("DWGTITLED").toInt32(), 1);
+}
+
+/// Notes which document is the current one when commands are cancelled.
+class CancelWitness : public HostEditorReactor {
+ public:
+  explicit CancelWitness(Engine& engine)
+    : m_engine(engine) {}
+  void commandCancelled(const OdString& name) override {
+    Document* const current = m_engine.documents().current();
+    seen << name + QStringLiteral(" in ") + (current ? current->name() : QString());
+    if (onCancel) onCancel();
+  }
+  QStringList seen;
+  std::function<void()> onCancel;
+
+ private:
+  Engine& m_engine;
+};
+
+class CancelledBehindTest : public DocumentCommandsTest {
+ protected:
+  CancelledBehindTest() {
+    engine().events().addReactor(m_witness.get());
+    m_behind = &document();
+    type(QStringLiteral("LINE 1,1 "));
+    engine().documents().newDocument();
+    log().clear();
+  }
+  ~CancelledBehindTest() override { engine().events().removeReactor(m_witness.get()); }
+
+  Document* m_behind = nullptr;
+  OdSmartPtr<CancelWitness> m_witness = odrxMake<CancelWitness>(engine());
+};
+
+TEST_F(CancelledBehindTest, IsToldWithItsDocumentAsTheCurrentOne) {
+  Document& front = document();
+  ASSERT_NE(&front, m_behind);
+  engine().cancelAll();
+  EXPECT_EQ(m_witness->seen, QStringList(QStringLiteral("LINE in ") + m_behind->name()));
+  EXPECT_EQ(&document(), &front) << "the active one stays that";
+  EXPECT_TRUE(events({QStringLiteral("activated")}).isEmpty()) << "and nobody sees another";
+}
+
+TEST_F(CancelledBehindTest, IsToldInTheDocumentThatIsClosed) {
+  Document& front = document();
+  const OdString name = m_behind->name();
+  engine().documents().close(*m_behind);
+  EXPECT_EQ(m_witness->seen, QStringList(QStringLiteral("LINE in ") + name));
+  EXPECT_EQ(&document(), &front);
+}
+
+TEST_F(CancelledBehindTest, AReactorMayCloseTheActiveDocumentMeanwhile) {
+  Document& front = document();
+  m_witness->onCancel = [&] { engine().documents().close(front); };
+  engine().cancelAll();
+  ASSERT_EQ(openDocuments(), 1u);
+  EXPECT_EQ(&document(), m_behind);
+  EXPECT_EQ(events({QStringLiteral("activated")}).size(), 1) << "of that the window is told";
+}
+
+TEST_F(CancelledBehindTest, AReactorMayCloseItsDocumentMeanwhile) {
+  Document& front = document();
+  m_witness->onCancel = [&] { engine().documents().close(*m_behind); };
+  engine().cancelAll();
+  ASSERT_EQ(openDocuments(), 1u);
+  EXPECT_EQ(&document(), &front);
 }
 
 TEST_F(DocumentCommandsTest, SavesInTheVersionThatIsChosen) {

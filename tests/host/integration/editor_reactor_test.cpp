@@ -220,6 +220,44 @@ TEST_F(EditorReactorTest, DropsAToolWhoseDocumentIsClosedWithoutACommand) {
   EXPECT_EQ(tool->runningDocument(), &other);
 }
 
+TEST_F(EditorReactorTest, GoesOnWhenAnotherDocumentIsClosed) {
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  host().documents.activate(other);
+  host().events.commandWillStart(QStringLiteral("CloseDocument"));
+  host().events.documentToBeDestroyed(&other);
+  host().documents.activate(here);
+  host().events.commandEnded(QStringLiteral("CloseDocument"));
+  EXPECT_EQ(guard.tool(), tool.get());
+  EXPECT_EQ(tool->runningDocument(), &here);
+  EXPECT_FALSE(isFinished(QStringLiteral("Door")));
+  host().events.commandEnded(QStringLiteral("LINE"));
+  EXPECT_FALSE(guard.isRunning());
+  EXPECT_TRUE(isFinished(QStringLiteral("Door"))) << "what it set is put back in the open document";
+}
+
+TEST_F(EditorReactorTest, GoesWithItsDocumentWhateverDocumentIsCurrentThen) {
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  host().events.commandWillStart(QStringLiteral("CloseDocument"));
+  host().documents.activate(other);
+  host().events.commandEnded(QStringLiteral("CloseDocument"));
+  EXPECT_FALSE(guard.isRunning());
+  EXPECT_FALSE(isFinished(QStringLiteral("Door")));
+}
+
+TEST_F(EditorReactorTest, AClosingThatWasGivenUpSaysNothingOfTheNext) {
+  host().documents.activate(other);
+  host().events.commandWillStart(QStringLiteral("CloseDocument"));
+  host().events.commandCancelled(QStringLiteral("CloseDocument"));
+  host().documents.activate(here);
+  const OdTcToolPtr tool = makeTool(QStringLiteral("Door"));
+  tool->execute(&here);
+  host().events.commandWillStart(QStringLiteral("CloseDocument"));
+  host().events.commandEnded(QStringLiteral("CloseDocument"));
+  EXPECT_FALSE(guard.isRunning());
+}
+
 TEST_F(EditorReactorTest, IsOfTheHostsReactorClasses) {
   EXPECT_EQ(guard.isA()->name(), QStringLiteral("TcEditorReactor"));
   EXPECT_TRUE(guard.isKindOf(HostEditorReactor::desc()));
