@@ -25,6 +25,11 @@ void printRow(const std::string& what, double value, double target) {
               value <= target ? "ok" : "MISSED");
 }
 
+/// How much longer the one takes than the other, if there is another.
+double growth(const RatioReporter& reporter, const std::string& name, const std::string& base) {
+  return reporter.seconds(name) - (base.empty() ? 0.0 : reporter.seconds(base));
+}
+
 } // namespace
 
 int run(int argc, char** argv, const std::vector<Ratio>& ratios,
@@ -50,7 +55,9 @@ int run(int argc, char** argv, const std::vector<Ratio>& ratios,
   for (const Ratio& r : ratios)
     // A filter may have left out what others are compared with.
     if (reporter.has(r.numerator) && reporter.has(r.divisor))
-      printRow(r.what, r.factor * reporter.seconds(r.numerator) / reporter.seconds(r.divisor),
+      printRow(r.what,
+               r.factor * growth(reporter, r.numerator, r.numeratorBase) /
+                   growth(reporter, r.divisor, r.divisorBase),
                r.target);
   for (const Figure& f : figures) printRow(f.what, f.value, f.target);
   return 0;

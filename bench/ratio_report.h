@@ -29,6 +29,9 @@ struct Ratio {
   std::string divisor;
   double target;
   double factor = 1.0; ///< multiplies the quotient, to compare work of different size
+  // What of the two times is not meant: what grew is compared with what grew.
+  std::string numeratorBase = {};
+  std::string divisorBase = {};
 };
 
 /// A figure that is no time: memory, for example.

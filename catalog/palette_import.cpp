@@ -238,11 +238,13 @@ bool PaletteImport::enter() {
 
 void PaletteImport::refreshImages() {
   OdTcSourceFiles sources;
+  IHostDocument* const document = host::curDocument();
   const OdTcEnumPtr<OdTcTool> tools = m_palette->enumTools();
   auto row = m_report.tools.begin();
   while (OdTcTool* const tool = tools->next()) {
     while (row->fate == OdTcToolFate::kSkipped) ++row;
-    if (tool->updateAgent()) {
+    OdTcToolActionAgent* const agent = tool->getActionAgent();
+    if (agent && agent->refreshImages(document)) {
       row->picture = OdTcPictureFate::kMade;
       row->pictureFile.clear();
     } else {

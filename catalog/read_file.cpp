@@ -1,12 +1,14 @@
 #include "catalog/read_file.h"
 
 #include "frame/system_services.h"
+#include "persistence/path_macros.h"
 #include "persistence/unread_original.h"
 
 namespace tc {
 
 ReadOutcome readFile(const OdString& path, OdTcFiler& filer, OdTcPersist* root,
                      bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool)) {
+  const HeldPathMacros heldMacros;
   ReadOutcome outcome;
   try {
     const OdStreamBufPtr stream = odrxSystemServices()->createFile(

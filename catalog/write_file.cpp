@@ -2,6 +2,7 @@
 
 #include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "persistence/path_macros.h"
 
 #include <QFileInfo>
 
@@ -46,6 +47,7 @@ class FileAtFirstByte final : public OdStreamBuf {
 
 bool writeFile(const OdString& path, Oda::FileCreationDisposition creation, OdTcFiler& filer,
                OdTcPersist* root, bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool)) {
+  const HeldPathMacros heldMacros;
   const auto file = odrxMake<FileAtFirstByte>(path, creation);
   if (!(filer.*open)(file, root, true)) return false;
   filer.flush();

@@ -54,7 +54,7 @@ void addRemark(OdString& remarks, const OdString& remark) {
 
 } // namespace
 
-OdTcCheckedDocument checkDocument(QByteArray bytes) {
+OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver) {
   OdTcCheckedDocument result;
   if (bytes.isEmpty()) {
     result.refusal = host::translate(QStringLiteral("the file is empty"));
@@ -77,7 +77,7 @@ OdTcCheckedDocument checkDocument(QByteArray bytes) {
                          .arg(repaired.badBytes)));
   bytes.clear();
 
-  OdTcDocumentScanner scanner(repaired.text);
+  OdTcDocumentScanner scanner(repaired.text, passedOver);
   if (!scanner.scan()) {
     result.refusal = placed(repaired.text, scanner.failedAt(), scanner.failure());
     return result;

@@ -3,7 +3,19 @@
 
 #include "frame/string.h"
 
+#include <span>
+#include <string_view>
+
 namespace tc {
+
+/// Elements of which a reader takes attributes and text, and never what stands in them.
+struct OdTcPassedOver {
+  std::span<const std::string_view> elements;
+  /// They are passed over only inside of an element of this name.
+  std::string_view inside;
+  /// Nor are they if one of these texts stands in them.
+  std::span<const std::string_view> unlessTheyHold;
+};
 
 /// What may be given to the parser.
 struct OdTcCheckedDocument {
@@ -33,6 +45,8 @@ inline constexpr qsizetype kMaxDocumentBytes = qsizetype{1} << 30;
 /// - References to unknown entities, and an ampersand that begins no reference, stand for
 ///   themselves; the former with a remark.
 /// - What follows the last element is left out, with a remark.
-OdTcCheckedDocument checkDocument(QByteArray bytes);
+/// - What stands in an element that is passed over is checked like all else and then left out, from
+///   its first child element on: the parser would make many small objects of it for nobody.
+OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver = nullptr);
 
 } // namespace tc

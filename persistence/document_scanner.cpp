@@ -53,12 +53,13 @@ OdString tr(const QString& text) { return host::translate(text); }
 
 } // namespace
 
-OdTcDocumentScanner::OdTcDocumentScanner(const QByteArray& text)
+OdTcDocumentScanner::OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver)
   : m_text(text)
   , m_begin(text.constData())
   , m_end(m_begin + text.size())
   , m_at(m_begin)
-  , m_copied(m_begin) {}
+  , m_copied(m_begin)
+  , m_passedOver(passedOver) {}
 
 bool OdTcDocumentScanner::fail(const char* at, const OdString& why) {
   m_failure = why;
@@ -128,7 +129,10 @@ bool OdTcDocumentScanner::scanMarkup() {
   if (m_end - m_at >= 5 && qstrnicmp(m_at, "<?xml", 5) == 0) return cutDeclaration();
   if (startsWith("<!--")) return scanPast("-->", 4, u"the comment does not end");
   if (startsWith("<![CDATA[")) return scanPast("]]>", 9, u"the CDATA section does not end");
-  if (m_end - m_at > 1 && isNameStart(m_at[1])) return scanElement();
+  if (m_end - m_at > 1 && isNameStart(m_at[1])) {
+    if (m_passedOver && !m_passage && isPassedOver()) beginPassingOver();
+    return scanElement();
+  }
   return scanPast(">", 1, u"the tag does not end");
 }
 
@@ -179,6 +183,7 @@ bool OdTcDocumentScanner::scanEndTag() {
     return fail(m_at,
                 tr(QStringLiteral("the end of the element \"%1\" is broken")).arg(shortName(name)));
   ++m_at;
+  if (m_passage && m_passage->depth == m_open.size()) endPassingOver(start);
   m_open.pop_back();
   return true;
 }
@@ -287,6 +292,28 @@ const char* OdTcDocumentScanner::checkNumber(const char* at, const char* to) {
     replace(at, p, kReplacement);
   }
   return p;
+}
+
+bool OdTcDocumentScanner::isPassedOver() const {
+  const auto holds = [](const auto& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  };
+  return !m_open.empty() && holds(m_passedOver->elements, m_open.back()) &&
+         holds(m_open, m_passedOver->inside);
+}
+
+void OdTcDocumentScanner::beginPassingOver() {
+  m_passage = Passage{m_at, m_open.size(), m_mended.size(), m_copied};
+}
+
+void OdTcDocumentScanner::endPassingOver(const char* at) {
+  const Passage passage = *std::exchange(m_passage, std::nullopt);
+  const std::string_view inside = between(passage.from, at);
+  for (const std::string_view text : m_passedOver->unlessTheyHold)
+    if (inside.find(text) != std::string_view::npos) return;
+  m_mended.truncate(passage.mended);
+  m_copied = passage.copied;
+  replace(passage.from, at, {});
 }
 
 void OdTcDocumentScanner::replace(const char* at, const char* end, std::string_view by) {

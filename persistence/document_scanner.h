@@ -3,10 +3,13 @@
 
 #include "frame/string.h"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace tc {
+
+struct OdTcPassedOver;
 
 /// Reads tags, comments, CDATA sections and declarations as the parser does, and stops at the first
 /// thing that the parser would stumble over. What it has passed can be parsed in bounded depth.
@@ -17,8 +20,8 @@ class OdTcDocumentScanner {
     OdString text;
   };
 
-  /// `text` is valid UTF-8 without NUL.
-  explicit OdTcDocumentScanner(const QByteArray& text);
+  /// `text` is valid UTF-8 without NUL. Both arguments must live as long.
+  explicit OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver = nullptr);
 
   /// False if the document is not well-formed: see failure() and failedAt().
   bool scan();
@@ -28,7 +31,8 @@ class OdTcDocumentScanner {
   int deepest() const { return m_deepest; }
   /// At most one of each kind: the first.
   const std::vector<Remark>& remarks() const { return m_remarks; }
-  /// The text with its references put right and without what follows the last element.
+  /// The text with its references put right and without what is passed over or follows
+  /// the last element.
   QByteArray takeText();
 
  private:
@@ -52,6 +56,10 @@ class OdTcDocumentScanner {
   void checkReferences(const char* from, const char* to);
   const char* checkReference(const char* at, const char* to);
   const char* checkNumber(const char* at, const char* to);
+  /// True if what stands in the innermost element that is open is to be left out.
+  bool isPassedOver() const;
+  void beginPassingOver();
+  void endPassingOver(const char* at);
   void replace(const char* at, const char* end, std::string_view by);
 
   const QByteArray& m_text;
@@ -64,6 +72,16 @@ class OdTcDocumentScanner {
   // The mended text, as far as there was anything to mend; the rest is copied at the end.
   QByteArray m_mended;
   const char* m_copied;
+
+  /// Where something is passed over: how deep it stands, and what was mended before it.
+  struct Passage {
+    const char* from;
+    std::size_t depth;
+    qsizetype mended;
+    const char* copied;
+  };
+  const OdTcPassedOver* const m_passedOver;
+  std::optional<Passage> m_passage;
 
   OdString m_failure;
   qsizetype m_failedAt = 0;

@@ -108,7 +108,7 @@ bool OdTcFilerImplBase<T>::parse(OdStreamBuf* stream) {
   m_saving = false;
   OdTcCheckedDocument checked;
   try {
-    checked = checkDocument(readAll(stream));
+    checked = checkDocument(readAll(stream), passedOver());
   } catch (const OdFileError& error) {
     return failed(error.reason());
   }

@@ -14,6 +14,8 @@
 
 namespace tc {
 
+struct OdTcPassedOver;
+
 /// Owns the document and the cursor in it. The filers differ in what they look for in a document,
 /// how they link objects to their owners and how they write numbers.
 template <class T>
@@ -56,6 +58,8 @@ class OdTcFilerImplBase : public T {
   virtual bool isSkipped(const OdString& name) const = 0;
   virtual void link(OdTcPersist* object, OdTcPersist* owner) = 0;
   virtual OdTcNumberForm numberForm(const OdString& name) const = 0;
+  /// Elements whose content is for nobody; null if there are none.
+  virtual const OdTcPassedOver* passedOver() const { return nullptr; }
   /// Called with an empty element that has ended the reading of the one around it.
   virtual void noteEmpty(const TiXmlElement& /*element*/) {}
 

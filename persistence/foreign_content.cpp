@@ -1,5 +1,6 @@
 #include "persistence/foreign_content.h"
 
+#include "persistence/document_check.h"
 #include "persistence/element_table.h"
 #include "persistence/xml_text.h"
 
@@ -128,6 +129,14 @@ void gatherBeside(const TiXmlElement& root, const TiXmlElement& palette,
 }
 
 } // namespace
+
+const OdTcPassedOver& treesOfOthers() {
+  static constexpr std::string_view kTrees[] = {"DynamicProperties", "ExtensionDictionary"};
+  // The one ends the first pass over the file, the other may be the macro of a tool.
+  static constexpr std::string_view kWanted[] = {"PaletteContent", "CommandString"};
+  static constexpr OdTcPassedOver passedOver = {kTrees, "Palette", kWanted};
+  return passedOver;
+}
 
 void gatherForeignContent(const TiXmlElement& root, const TiXmlElement& palette,
                           OdTcForeignContent& content) {

@@ -10,6 +10,8 @@ class TiXmlElement;
 
 namespace tc {
 
+struct OdTcPassedOver;
+
 /// An element without attribute and text, which ends the reading of the one around it.
 struct OdTcForeignLoss {
   OdString empty;
@@ -53,6 +55,9 @@ struct OdTcForeignContent {
   /// True if the user was told in a message box that the file holds no palette.
   bool isReported = false;
 };
+
+/// The trees that tools of dynamic blocks carry along.
+const OdTcPassedOver& treesOfOthers();
 
 /// Looks the palette's element over. It goes no deeper than the records of the tools, so large
 /// trees below these cost nothing.

@@ -26,6 +26,9 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
     object->setOwnerInDatabase(owner, OdString());
   }
   OdTcNumberForm numberForm(const OdString& name) const override;
+  const OdTcPassedOver* passedOver() const override {
+    return m_foreign ? &treesOfOthers() : nullptr;
+  }
   void noteEmpty(const TiXmlElement& element) override {
     if (m_losses) m_losses->note(element);
   }

@@ -4,6 +4,8 @@
 #include "persistence/path_operations.h"
 #include "persistence/value_storage.h"
 
+#include <utility>
+
 namespace tc {
 namespace {
 
@@ -22,9 +24,12 @@ constexpr Source kSources[] = {
      [](const OdTcValueStorageImpl& s) { return QStringList(s.toolPaletteFolders()); }},
 };
 
-} // namespace
+using PathMacros = std::optional<std::vector<OdTcPathMacro>>;
 
-std::optional<std::vector<OdTcPathMacro>> pathMacros() {
+bool g_isHeld = false;
+std::optional<PathMacros> g_held;
+
+PathMacros macrosOfThisMoment() {
   if (odrxSystemServices()->userProfileFolder().isEmpty()) return std::nullopt;
   const auto storage = odrxMake<OdTcValueStorageImpl>();
   std::vector<OdTcPathMacro> macros;
@@ -34,6 +39,23 @@ std::optional<std::vector<OdTcPathMacro>> pathMacros() {
     macros.push_back({OdString::fromUtf16(source.macro), values});
   }
   return macros;
+}
+
+} // namespace
+
+std::optional<std::vector<OdTcPathMacro>> pathMacros() {
+  if (!g_isHeld) return macrosOfThisMoment();
+  if (!g_held) g_held = macrosOfThisMoment();
+  return *g_held;
+}
+
+HeldPathMacros::HeldPathMacros()
+  : m_isOutermost(!std::exchange(g_isHeld, true)) {}
+
+HeldPathMacros::~HeldPathMacros() {
+  if (!m_isOutermost) return;
+  g_isHeld = false;
+  g_held.reset();
 }
 
 } // namespace tc

@@ -18,4 +18,17 @@ struct OdTcPathMacro {
 /// folder is unknown. A setting that is not there, or empty, is no value: every path holds it.
 std::optional<std::vector<OdTcPathMacro>> pathMacros();
 
+/// While it lives, the macros have the values of the first time that they are asked for: one file
+/// is read or written with the same folders from beginning to end, and the host is asked once.
+class HeldPathMacros {
+ public:
+  HeldPathMacros();
+  ~HeldPathMacros();
+  HeldPathMacros(const HeldPathMacros&) = delete;
+  HeldPathMacros& operator=(const HeldPathMacros&) = delete;
+
+ private:
+  const bool m_isOutermost;
+};
+
 } // namespace tc

@@ -1,7 +1,7 @@
 // Palettes that are broken, huge or hostile, and imports that are interrupted.
-#include "persistence/foreign_paths.h"
 #include "catalog/foreign_store.h"
 #include "catalog/import_fixture.h"
+#include "persistence/foreign_paths.h"
 
 namespace {
 
@@ -220,6 +220,24 @@ TEST_F(ImportSafety, TakesManyToolsAndDuplicateIds) {
     for (const OdTcTool* const tool : toolsOf(*palette)) ids << tool->id();
     EXPECT_EQ(ids.size(), kTools);
   }
+}
+
+TEST_F(ImportSafety, TakesAFileOf200Megabytes) {
+  QByteArray records;
+  while (records.size() < 1 << 20)
+    records += "<Xrecord handle=\"1\"><Resbuf code=\"70\">12</Resbuf></Xrecord>";
+  QByteArray tools;
+  for (int i = 0; i < 200; ++i)
+    tools += toolXml("T" + QByteArray::number(i),
+                     "<Block><BlockName>A</BlockName></Block><DynamicProperties>" + records +
+                         "</DynamicProperties>");
+  EXPECT_GT(tools.size(), 200 << 20);
+  const OdString file = exported(tools);
+  tools.clear();
+  const OdTcToolPalettePtr palette = import(file);
+  ASSERT_TRUE(palette) << text(report.problem);
+  EXPECT_EQ(toolsOf(*palette).size(), 200u);
+  EXPECT_EQ(row(u"T199"_s).kind, u"Block"_s);
 }
 
 TEST_F(ImportSafety, AStoreWhoseEntriesPointToEachOtherIsWalkedOnce) {

@@ -1,5 +1,6 @@
 #include "persistence/document_check.h"
 #include "persistence/document_scanner.h"
+#include "persistence/foreign_content.h"
 #include "persistence/utf8_repair.h"
 
 #include <QStringConverter>
@@ -212,6 +213,71 @@ int depthOf(const TiXmlNode& node) {
 }
 
 // What the check calls well-formed must be what the parser sees, or nesting could hide from it.
+struct PassedOver {
+  QByteArray bytes;
+  QByteArray left;
+};
+
+TEST(DocumentCheck, LeavesOutWhatStandsInElementsThatArePassedOver) {
+  const PassedOver cases[] = {
+      {"<P><D><x/></D><b/></P>", "<P><D></D><b/></P>"},
+      {"<P><D a=\"1\">text<x><y>1</y></x> more </D></P>", "<P><D a=\"1\">text</D></P>"},
+      {"<P><a><D><![CDATA[<x/>]]><!-- <x> --><x/></D></a></P>",
+       "<P><a><D><![CDATA[<x/>]]><!-- <x> --></D></a></P>"},
+      {"<P><D><x><D><y/></D></x><D/></D><D><z/></D></P>", "<P><D></D><D></D></P>"},
+      {"<P><D><x><![CDATA[</D></P>]]></x><!-- </D> --></D></P>", "<P><D></D></P>"},
+      {"<P>a & b<D>c & d<x>e & f</x>g & h</D>i & j</P>",
+       "<P>a &amp; b<D>c &amp; d</D>i &amp; j</P>"},
+      // What has no content, stands elsewhere, has another name or holds what somebody looks for.
+      {"<P><D/><D></D><D>1</D></P>", "<P><D/><D></D><D>1</D></P>"},
+      {"<a><D><x/></D></a>", "<a><D><x/></D></a>"},
+      {"<a><P/><D><x/></D></a>", "<a><P/><D><x/></D></a>"},
+      {"<P><DD><x/></DD><d><x/></d></P>", "<P><DD><x/></DD><d><x/></d></P>"},
+      {"<P><D>1 & 2<x><Wanted/>3 & 4</x></D>5 & 6</P>",
+       "<P><D>1 &amp; 2<x><Wanted/>3 &amp; 4</x></D>5 &amp; 6</P>"},
+  };
+  constexpr std::string_view kElements[] = {"E", "D"};
+  constexpr std::string_view kWanted[] = {"Wanted"};
+  const OdTcPassedOver passedOver = {kElements, "P", kWanted};
+  for (const PassedOver& c : cases) {
+    const OdTcCheckedDocument checked = checkDocument(c.bytes, &passedOver);
+    EXPECT_EQ(checked.refusal.toStdString(), "") << c.bytes.toStdString();
+    EXPECT_EQ(checked.text.toStdString(), c.left.toStdString());
+  }
+}
+
+TEST(DocumentCheck, RefusesWhatIsBrokenWhereItIsPassedOver) {
+  constexpr std::string_view kElements[] = {"D"};
+  const OdTcPassedOver passedOver = {kElements, "P", {}};
+  for (const char* const document :
+       {"<P><D><x></D></P>", "<P><D><x/>", "<P><D><x y/></D></P>", "<P><D><x/></P></D>"})
+    EXPECT_NE(checkDocument(document, &passedOver).refusal.toStdString(), "") << document;
+  const QByteArray deep = "<P><D>" + nested(kMaxElementDepth) + "</D></P>";
+  EXPECT_NE(checkDocument(deep, &passedOver).refusal.toStdString(), "");
+  const OdTcCheckedDocument remarked = checkDocument("<P><D><x>&uuml;</x></D></P>", &passedOver);
+  EXPECT_NE(remarked.remark.toStdString(), "");
+  EXPECT_EQ(remarked.text.toStdString(), "<P><D></D></P>");
+}
+
+TEST(DocumentCheck, OfDynamicBlocksTheParserSeesNothingButTheirTools) {
+  const QByteArray tree = "<Dictionary handle=\"1\"><Xrecord><Resbuf code=\"70\">12</Resbuf>"
+                          "</Xrecord></Dictionary>";
+  const auto palette = [](const QByteArray& data) {
+    return "<ToolPaletteExport><Palette><Tools><Tool><Data>" + data +
+           "</Data></Tool></Tools></Palette></ToolPaletteExport>";
+  };
+  for (const QByteArray name : {"DynamicProperties", "ExtensionDictionary"}) {
+    const auto in = [&name](const QByteArray& inner) {
+      return "<Block><BlockName>A</BlockName></Block><" + name + ">" + inner + "</" + name + ">";
+    };
+    EXPECT_EQ(checkDocument(palette(in(tree.repeated(1000))), &treesOfOthers()).text,
+              palette(in({})));
+    for (const char* const wanted : {"<CommandString>_A</CommandString>", "<PaletteContent/>"})
+      EXPECT_EQ(checkDocument(palette(in(tree + wanted)), &treesOfOthers()).text,
+                palette(in(tree + wanted)));
+  }
+}
+
 TEST(DocumentCheck, SeesTheSameTreeAsTheParser) {
   constexpr std::string_view kPieces[] = {"<a>",
                                           "</a>",

@@ -2,6 +2,7 @@
 
 #include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "persistence/path_macros.h"
 #include "persistence/value_storage.h"
 #include "support/failing_services.h"
 #include "support/test_host.h"
@@ -53,6 +54,24 @@ class Paths : public testing::Test {
 TEST_F(Paths, ExpandTheUsersFolder) {
   EXPECT_EQ(expanded(u"%UserProfileFolder%\\x"), "+C:\\Users\\me\\x");
   EXPECT_EQ(expanded(u"a %UserProfileFolder% b"), "+a C:\\Users\\me b");
+}
+
+TEST_F(Paths, OfOneFileHaveTheSameFoldersFromBeginningToEnd) {
+  set("Shx", u"C:\\fonts");
+  {
+    const HeldPathMacros file;
+    EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+C:\\fonts\\x");
+    set("Shx", u"D:\\fonts");
+    {
+      const HeldPathMacros inner;
+      EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+C:\\fonts\\x");
+    }
+    EXPECT_EQ(collapsed(u"C:\\fonts\\x"), "+%ShxFolder%\\x");
+  }
+  EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+D:\\fonts\\x");
+  const HeldPathMacros next;
+  set("Shx", u"E:\\fonts");
+  EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+E:\\fonts\\x");
 }
 
 TEST_F(Paths, ExpandTheFirstMacroInOrderOfText) {
