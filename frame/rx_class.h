@@ -24,6 +24,7 @@ class OdRxClass : public OdRxObject {
   OdRxObjectPtr create() const;
 
   OdRxClass* isA() const override;
+  using OdRxDescribed = OdRxClass;
   static OdRxClass* desc();
 
  private:

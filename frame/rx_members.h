@@ -16,6 +16,7 @@
 /// - `s_factory` is set by the composition root before `rxInit`; null for abstract classes.
 #define ODRX_DECLARE_MEMBERS_EX(Class, API)                                                        \
  public:                                                                                           \
+  using OdRxDescribed = Class;                                                                     \
   API static OdRxClass* g_pDesc;                                                                   \
   static OdRxFactory s_factory;                                                                    \
   API static void rxInit();                                                                        \

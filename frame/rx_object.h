@@ -38,6 +38,7 @@ class OdRxObject {
   /// A deep copy. Raises OdError(eNotApplicable) for classes that cannot be copied.
   virtual OdRxObjectPtr clone() const;
 
+  using OdRxDescribed = OdRxObject;
   /// The description of OdRxObject itself; always there.
   static OdRxClass* desc();
 

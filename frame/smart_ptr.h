@@ -73,6 +73,8 @@ class OdSmartPtr {
     if constexpr (std::is_convertible_v<U*, T*>) {
       return object;
     } else {
+      static_assert(std::is_same_v<typename T::OdRxDescribed, T>,
+                    "a class without a description of its own cannot be told from its base");
       if (!object) return nullptr;
       if (OdRxObject* found = object->queryX(T::desc())) return static_cast<T*>(found);
       od_detail::raiseNotThatKind(object, T::desc());
@@ -97,5 +99,7 @@ OdSmartPtr<T> odrxMake(Args&&... args) {
 /// `object` seen as T without a new reference, or null if it is of another class.
 template <class T>
 T* odrxCast(const OdRxObject* object) {
+  static_assert(std::is_same_v<typename T::OdRxDescribed, T>,
+                "a class without a description of its own cannot be told from its base");
   return object ? static_cast<T*>(object->queryX(T::desc())) : nullptr;
 }

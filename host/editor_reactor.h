@@ -15,6 +15,7 @@ class OdEditorReactor : public OdRxObject {
   virtual void commandFailed(const OdString& /*name*/) {}
   virtual void sysVarChanged(OdDbDatabase* /*database*/, const OdString& /*name*/) {}
 
+  using OdRxDescribed = OdEditorReactor;
   /// The host registers both classes; null without a host.
   static OdRxClass* desc() { return odrxFindClass(QStringLiteral("OdEditorReactor")); }
 };
@@ -25,6 +26,7 @@ class HostEditorReactor : public OdEditorReactor {
   virtual void documentActivated(IHostDocument* /*document*/) {}
   virtual void documentToBeDestroyed(IHostDocument* /*document*/) {}
 
+  using OdRxDescribed = HostEditorReactor;
   static OdRxClass* desc() { return odrxFindClass(QStringLiteral("HostEditorReactor")); }
 };
 

@@ -41,6 +41,7 @@ class TcEditorReactor final : public HostEditorReactor, public IToolGuard {
   OdTcTool* tool() const { return m_tool; }
 
   OdRxClass* isA() const override { return g_pDesc; }
+  using OdRxDescribed = TcEditorReactor;
   static OdRxClass* desc() { return g_pDesc; }
   static void rxInit(OdRxModule* application);
   static void rxUninit();

@@ -25,6 +25,7 @@ class TcEditorReactorEx final : public HostEditorReactor {
   void sysVarChanged(OdDbDatabase* database, const OdString& name) override;
 
   OdRxClass* isA() const override { return g_pDesc; }
+  using OdRxDescribed = TcEditorReactorEx;
   static OdRxClass* desc() { return g_pDesc; }
   static void rxInit(OdRxModule* application);
   static void rxUninit();
