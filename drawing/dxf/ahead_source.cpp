@@ -1,5 +1,6 @@
 #include "drawing/dxf/ahead_source.h"
 
+#include "drawing/dxf/makers.h"
 #include "drawing/dxf/piece_source.h"
 
 #include <algorithm>
@@ -17,7 +18,9 @@ class OdDbDxfAheadSource::Piece final : public OdDbDxfJob {
 
  public:
   const OdDbDxfPiece content;
-  std::vector<OdDbDxfReadEntity> entities; ///< those that were managed
+  // Those that were managed.
+  std::vector<OdDbDxfReadEntity> entities;
+  std::vector<OdDbDxfReadObject> objects;
 };
 
 /// Reads the entities of pieces in one thread.
@@ -29,7 +32,9 @@ class OdDbDxfAheadSource::Helper {
   void read(Piece& piece);
 
  private:
-  void readOne(Piece& piece);
+  void readEntity(Piece& piece);
+  void readObject(Piece& piece);
+  OdDbDxfReadAhead behind(std::string_view name) const;
 
   OdDbDxfPieceSource m_source;
   OdDbDxfIn m_in;
@@ -43,33 +48,47 @@ void OdDbDxfAheadSource::Piece::work(std::size_t who) {
 
 void OdDbDxfAheadSource::Helper::read(Piece& piece) {
   // These stand between entities.
-  static constexpr std::string_view kMarks[] = {"SECTION", "ENDSEC", "BLOCK", "ENDBLK", "EOF"};
+  static constexpr std::string_view kMarks[] = {"ENDSEC", "BLOCK", "ENDBLK", "EOF"};
   constexpr std::size_t kShortEntity = 100;
   piece.entities.reserve(piece.content.text.size() / kShortEntity);
   m_source.restart(piece.content);
   m_in.restart();
+  // Pieces are asked for among entities.
+  bool areObjects = false;
   while (!m_in.isDamaged()) {
-    if (std::find(std::begin(kMarks), std::end(kMarks), m_in.tag().text) == std::end(kMarks))
-      readOne(piece);
-    else
+    const std::string_view name = m_in.tag().text;
+    if (name == "SECTION") {
       m_in.next();
+      areObjects = m_in.tag().is(2, "OBJECTS");
+    } else if (std::find(std::begin(kMarks), std::end(kMarks), name) != std::end(kMarks)) {
+      m_in.next();
+    } else {
+      try {
+        areObjects ? readObject(piece) : readEntity(piece);
+      } catch (const std::exception&) {
+        // It will be raised again where it can be told.
+      }
+    }
     while (m_in.tag().code != 0) m_in.next();
   }
 }
 
-void OdDbDxfAheadSource::Helper::readOne(Piece& piece) {
+OdDbDxfReadAhead OdDbDxfAheadSource::Helper::behind(std::string_view name) const {
+  return {m_in.head(), name, m_in.isDamaged() ? std::string_view() : m_in.tag().text,
+          m_source.place(), m_source.line()};
+}
+
+void OdDbDxfAheadSource::Helper::readEntity(Piece& piece) {
   const std::string_view name = m_in.tag().text;
-  OdDbEntityPtr entity;
-  try {
-    entity = m_in.readEntity(name);
-  } catch (const std::exception&) {
-    // It will be raised again where it can be told.
-    return;
-  }
-  if (m_in.hasGivenUp()) return;
-  piece.entities.push_back({std::move(entity), m_in.head(), name,
-                            m_in.isDamaged() ? std::string_view() : m_in.tag().text,
-                            m_source.place(), m_source.line()});
+  OdDbEntityPtr entity = m_in.readEntity(name);
+  if (!m_in.hasGivenUp()) piece.entities.push_back({behind(name), std::move(entity)});
+}
+
+void OdDbDxfAheadSource::Helper::readObject(Piece& piece) {
+  const std::string_view name = m_in.tag().text;
+  OdDbObjectPtr object = oddxf::makeObject(name);
+  m_in.readTags(*object);
+  if (!m_in.hasGivenUp()) piece.objects.push_back({behind(name), std::move(object)});
 }
 
 OdDbDxfAheadSource::OdDbDxfAheadSource(OdDbDxfBytes bytes, std::size_t threads)
@@ -132,9 +151,24 @@ bool OdDbDxfAheadSource::advance() {
   if (m_in) m_lock.lock();
   m_piece.reset(static_cast<Piece*>(job.release()));
   m_text.restart(m_piece->content.text, m_piece->content.line);
-  m_at = 0;
+  m_at = m_objectAt = 0;
   return true;
 }
+
+namespace {
+
+/// Of what was read, from `at` on: that of the tag, and those that follow without a gap.
+template <class T>
+std::span<T> oneBehindTheOther(std::vector<T>& all, std::size_t& at, const OdDbDxfTag& tag) {
+  const char* const wanted = tag.text.data();
+  while (at < all.size() && all[at].name.data() < wanted) ++at;
+  if (at == all.size() || all[at].name.data() != wanted) return {};
+  const std::size_t first = at++;
+  while (at < all.size() && all[at].name.data() == all[at - 1].next.data()) ++at;
+  return std::span(all).subspan(first, at - first);
+}
+
+} // namespace
 
 std::span<OdDbDxfReadEntity> OdDbDxfAheadSource::entities(OdDbDxfIn& in) {
   if (!m_in) begin(in);
@@ -146,21 +180,20 @@ std::span<OdDbDxfReadEntity> OdDbDxfAheadSource::entities(OdDbDxfIn& in) {
     in.next();
     if (!m_piece) return {};
   }
-  auto& all = m_piece->entities;
-  const char* const wanted = in.tag().text.data();
-  while (m_at < all.size() && all[m_at].name.data() < wanted) ++m_at;
-  if (m_at == all.size() || all[m_at].name.data() != wanted) return {};
-  const std::size_t first = m_at++;
-  while (m_at < all.size() && all[m_at].name.data() == all[m_at - 1].next.data()) ++m_at;
-  return std::span(all).subspan(first, m_at - first);
+  return oneBehindTheOther(m_piece->entities, m_at, in.tag());
 }
 
-void OdDbDxfAheadSource::takeOver(const OdDbDxfReadEntity& read, OdDbDxfIn& in) {
+std::span<OdDbDxfReadObject> OdDbDxfAheadSource::objects(const OdDbDxfIn& in) {
+  if (!m_piece) return {};
+  return oneBehindTheOther(m_piece->objects, m_objectAt, in.tag());
+}
+
+void OdDbDxfAheadSource::takeOver(const OdDbDxfReadAhead& read, OdDbDxfIn& in) {
   m_line = read.line;
   in.takeOver(read.head, {0, read.next});
 }
 
-void OdDbDxfAheadSource::goBehind(const OdDbDxfReadEntity& read, OdDbDxfIn& in) {
+void OdDbDxfAheadSource::goBehind(const OdDbDxfReadAhead& read, OdDbDxfIn& in) {
   m_text.goOn(read.place, read.line);
   if (read.next.data() == nullptr) in.next();
 }

@@ -8,9 +8,8 @@
 
 #include <span>
 
-/// An entity whose tags were read ahead, to be entered in the drawing.
-struct OdDbDxfReadEntity {
-  OdDbEntityPtr entity;
+/// Where something stands whose tags were read ahead, to be entered in the drawing.
+struct OdDbDxfReadAhead {
   OdDbDxfHead head;
   std::string_view name; ///< where it stands in the file
   /// The object that follows: what stands in its first tag, the place behind that, and its line.
@@ -18,6 +17,12 @@ struct OdDbDxfReadEntity {
   std::string_view next;
   const char* place;
   qint64 line;
+};
+struct OdDbDxfReadEntity : OdDbDxfReadAhead {
+  OdDbEntityPtr entity;
+};
+struct OdDbDxfReadObject : OdDbDxfReadAhead {
+  OdDbObjectPtr object;
 };
 
 /// Gives the tags of a text file, as any source. In sections with entities it cuts the file into
@@ -40,10 +45,13 @@ class OdDbDxfAheadSource final : public OdDbDxfSource {
   /// Nothing if that one was not. Helpers read for `in`, which takes the tags of this source, until
   /// end() is called; the drawing must not be changed by others meanwhile.
   std::span<OdDbDxfReadEntity> entities(OdDbDxfIn& in);
-  /// Makes `in` and the line for messages those that they are when an entity's tags were read.
-  void takeOver(const OdDbDxfReadEntity& read, OdDbDxfIn& in);
-  /// Goes on behind the entity.
-  void goBehind(const OdDbDxfReadEntity& read, OdDbDxfIn& in);
+  /// The same for objects behind the entities, if a piece with some of them has been read. They may
+  /// be taken behind end() as well.
+  std::span<OdDbDxfReadObject> objects(const OdDbDxfIn& in);
+  /// Makes `in` and the line for messages those that they are when the tags were read.
+  void takeOver(const OdDbDxfReadAhead& read, OdDbDxfIn& in);
+  /// Goes on behind what was read.
+  void goBehind(const OdDbDxfReadAhead& read, OdDbDxfIn& in);
   /// No more entities are taken. This waits for the helpers.
   void end();
 
@@ -58,6 +66,7 @@ class OdDbDxfAheadSource final : public OdDbDxfSource {
   OdDbDxfTextSource m_text;   ///< the piece at hand
   std::unique_ptr<Piece> m_piece;
   std::size_t m_at = 0; ///< in its entities
+  std::size_t m_objectAt = 0;
   qint64 m_line = 1;
   const std::size_t m_threads;
 

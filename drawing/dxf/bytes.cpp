@@ -15,6 +15,10 @@ OdDbDxfBytes::OdDbDxfBytes(QIODevice& device)
   more();
 }
 
+bool OdDbDxfBytes::hasFallenBehind() const {
+  return m_device && (m_device->isSequential() || m_device->pos() != m_behind);
+}
+
 bool OdDbDxfBytes::more() {
   if (!m_device) return false;
   const std::size_t kept = left();
@@ -29,6 +33,7 @@ bool OdDbDxfBytes::more() {
     std::memmove(m_memory.get(), at, kept);
   }
   const qint64 read = m_device->read(m_memory.get() + kept, static_cast<qint64>(m_size - kept));
+  m_behind = m_device->pos();
   m_begin = at = m_memory.get();
   end = at + kept + std::max<qint64>(read, 0);
   if (read > 0) return true;

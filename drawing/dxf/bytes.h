@@ -23,6 +23,11 @@ class OdDbDxfBytes {
   OdDbDxfBytes(OdDbDxfBytes&&) = default;
   OdDbDxfBytes& operator=(OdDbDxfBytes&&) = default;
 
+  /// A second window on the same bytes, for a look ahead. Once it has brought further bytes from
+  /// the device, hasFallenBehind() is true and this window is of no use any more.
+  OdDbDxfBytes twin() const { return *this; }
+  bool hasFallenBehind() const;
+
   /// The first byte that can still be read; bytes before `at` can be gone back to.
   const char* begin() const { return m_begin; }
   std::size_t left() const { return static_cast<std::size_t>(end - at); }
@@ -38,8 +43,11 @@ class OdDbDxfBytes {
   const char* end; ///< behind the last byte in the window
 
  private:
+  OdDbDxfBytes(const OdDbDxfBytes&) = default;
+
   const char* m_begin = nullptr;
   QIODevice* m_device = nullptr;
+  qint64 m_behind = 0; ///< the place in the device behind the window
   std::shared_ptr<char[]> m_memory;
   std::size_t m_size = 0;
   OdString m_problem;

@@ -153,11 +153,28 @@ void OdDbDxfReader::readObjects() {
   while (!m_in.isDamaged()) {
     const std::string_view name = m_in.tag().text;
     if (name == "ENDSEC" || name == "EOF" || name == "SECTION") return;
+    if (takeObjects()) continue;
     const OdDbObjectPtr object = oddxf::makeObject(name);
     m_in.readTags(*object);
     if (m_in.isDamaged()) return;
-    m_in.enter(*object, {});
-    if (m_data.rootDictionary.isNull() && odrxCast<OdDbDictionary>(object.get()))
-      m_data.rootDictionary = object->objectId();
+    enterObject(*object);
   }
+}
+
+bool OdDbDxfReader::takeObjects() {
+  if (!m_ahead) return false;
+  const auto objects = m_ahead->objects(m_in);
+  if (objects.empty()) return false;
+  for (const OdDbDxfReadObject& read : objects) {
+    m_ahead->takeOver(read, m_in);
+    enterObject(*read.object);
+  }
+  m_ahead->goBehind(objects.back(), m_in);
+  return true;
+}
+
+void OdDbDxfReader::enterObject(OdDbObject& object) {
+  m_in.enter(object, {});
+  if (m_data.rootDictionary.isNull() && odrxCast<OdDbDictionary>(&object))
+    m_data.rootDictionary = object.objectId();
 }

@@ -1,11 +1,27 @@
 #include "drawing/dxf/crew.h"
 
+#include <QThreadPool>
+
 #include <algorithm>
-#include <system_error>
+#include <thread>
+
+namespace {
+
+// What one thread puts in order keeps no more than these busy.
+constexpr std::size_t kUseful = 8;
+
+/// Threads that wait for a crew. To make one takes as long as to read a small drawing.
+QThreadPool& waitingThreads() {
+  struct Pool : QThreadPool {
+    Pool() { setMaxThreadCount(static_cast<int>(kUseful)); }
+  };
+  static Pool pool;
+  return pool;
+}
+
+} // namespace
 
 std::size_t OdDbDxfCrew::machineThreads() {
-  // What one thread puts in order keeps no more than these busy.
-  constexpr std::size_t kUseful = 8;
   // The system reads files to answer that.
   static const auto count =
       std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, kUseful);
@@ -17,35 +33,29 @@ OdDbDxfCrew::OdDbDxfCrew(std::size_t threads)
 
 OdDbDxfCrew::~OdDbDxfCrew() {
   stop();
-  {
-    const Lock lock(m_mutex);
-    m_end = true;
-  }
-  m_given.notify_all();
-  for (std::thread& thread : m_threads) thread.join();
+  const Lock lock(m_shared->mutex);
+  m_shared->end = true;
+  m_shared->given.notify_all();
 }
 
-void OdDbDxfCrew::addThread() {
-  // The number of threads changes only here, before the new one is there.
-  const std::size_t who = m_threads.size() + 1;
+void OdDbDxfCrew::call() {
+  const std::size_t who = m_called + 1;
   if (who >= m_most) return;
-  try {
-    m_threads.emplace_back([this, who] { workAlong(who); });
-  } catch (const std::system_error&) {
-    // The others do its work.
-  }
+  // Without one the others do its work.
+  if (waitingThreads().tryStart([shared = m_shared, who] { shared->workAlong(who); }))
+    m_called = who;
 }
 
-OdDbDxfJob* OdDbDxfCrew::nextWaiting() const {
-  const auto at = std::find_if(m_jobs.begin(), m_jobs.end(), [](const auto& job) {
+OdDbDxfJob* OdDbDxfCrew::Shared::nextWaiting() const {
+  const auto at = std::find_if(jobs.begin(), jobs.end(), [](const auto& job) {
     return job->m_state == OdDbDxfJob::kWaiting;
   });
-  return at == m_jobs.end() ? nullptr : at->get();
+  return at == jobs.end() ? nullptr : at->get();
 }
 
-void OdDbDxfCrew::carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock) {
+void OdDbDxfCrew::Shared::carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock) {
   job.m_state = OdDbDxfJob::kBegun;
-  ++m_begun;
+  ++begun;
   lock.unlock();
   try {
     job.work(who);
@@ -54,17 +64,17 @@ void OdDbDxfCrew::carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock) {
   }
   lock.lock();
   job.m_state = OdDbDxfJob::kDone;
-  --m_begun;
+  --begun;
 }
 
-void OdDbDxfCrew::workAlong(std::size_t who) {
-  Lock lock(m_mutex);
-  while (!m_end) {
+void OdDbDxfCrew::Shared::workAlong(std::size_t who) {
+  Lock lock(mutex);
+  while (!end) {
     if (OdDbDxfJob* const job = nextWaiting()) {
       carryOut(*job, who, lock);
-      m_done.notify_one();
+      done.notify_one();
     } else {
-      m_given.wait(lock);
+      given.wait(lock);
     }
   }
 }
@@ -72,34 +82,35 @@ void OdDbDxfCrew::workAlong(std::size_t who) {
 void OdDbDxfCrew::give(std::unique_ptr<OdDbDxfJob> job) {
   bool isFirst = false;
   {
-    const Lock lock(m_mutex);
+    const Lock lock(m_shared->mutex);
     job->m_state = OdDbDxfJob::kWaiting;
-    isFirst = m_jobs.empty();
-    m_jobs.push_back(std::move(job));
+    isFirst = m_shared->jobs.empty();
+    m_shared->jobs.push_back(std::move(job));
   }
   // The first job is for whoever takes it; who has only one needs no help.
-  if (!isFirst) addThread();
-  m_given.notify_one();
+  if (!isFirst) call();
+  m_shared->given.notify_one();
 }
 
 std::unique_ptr<OdDbDxfJob> OdDbDxfCrew::take() {
-  Lock lock(m_mutex);
-  while (m_jobs.front()->m_state != OdDbDxfJob::kDone) {
-    if (OdDbDxfJob* const job = nextWaiting())
-      carryOut(*job, 0, lock);
+  Lock lock(m_shared->mutex);
+  auto& jobs = m_shared->jobs;
+  while (jobs.front()->m_state != OdDbDxfJob::kDone) {
+    if (OdDbDxfJob* const job = m_shared->nextWaiting())
+      m_shared->carryOut(*job, 0, lock);
     else
-      m_done.wait(lock);
+      m_shared->done.wait(lock);
   }
-  std::unique_ptr<OdDbDxfJob> job = std::move(m_jobs.front());
-  m_jobs.pop_front();
+  std::unique_ptr<OdDbDxfJob> job = std::move(jobs.front());
+  jobs.pop_front();
   lock.unlock();
   if (job->m_error) std::rethrow_exception(job->m_error);
   return job;
 }
 
 void OdDbDxfCrew::stop() {
-  Lock lock(m_mutex);
-  for (const auto& job : m_jobs)
+  Lock lock(m_shared->mutex);
+  for (const auto& job : m_shared->jobs)
     if (job->m_state == OdDbDxfJob::kWaiting) job->m_state = OdDbDxfJob::kDone;
-  m_done.wait(lock, [&] { return m_begun == 0; });
+  m_shared->done.wait(lock, [&] { return m_shared->begun == 0; });
 }

@@ -7,8 +7,6 @@
 #include <exception>
 #include <memory>
 #include <mutex>
-#include <thread>
-#include <vector>
 
 /// One piece of work.
 class OdDbDxfJob {
@@ -31,7 +29,7 @@ class OdDbDxfCrew {
   static std::size_t machineThreads();
 
   /// `threads` counts the maker. The others begin when there is work for them; there are fewer if
-  /// the system gives no more.
+  /// the system gives no more. They outlive the crew for a while, and then serve the next one.
   explicit OdDbDxfCrew(std::size_t threads);
   /// Waits for what has begun; what has not is dropped.
   ~OdDbDxfCrew();
@@ -39,11 +37,13 @@ class OdDbDxfCrew {
   OdDbDxfCrew& operator=(const OdDbDxfCrew&) = delete;
 
   std::size_t threads() const { return m_most; }
-  bool isEmpty() const { return m_jobs.empty(); }
+  bool isEmpty() const { return m_shared->jobs.empty(); }
   /// True if there is enough to do, and more would only take memory.
-  bool isFull() const { return m_jobs.size() >= 2 * m_most + 2; }
+  bool isFull() const { return m_shared->jobs.size() >= 2 * m_most + 2; }
   /// A job that was taken may be given again.
   void give(std::unique_ptr<OdDbDxfJob> job);
+  /// Has another thread come, if there are more: soon there is work for it.
+  void call();
   /// The oldest job when it is done. What it raised is raised here.
   std::unique_ptr<OdDbDxfJob> take();
   /// Waits for what has begun. What has not counts as done, though nobody did it.
@@ -51,16 +51,20 @@ class OdDbDxfCrew {
 
  private:
   using Lock = std::unique_lock<std::mutex>;
-  OdDbDxfJob* nextWaiting() const;
-  void carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock);
-  void workAlong(std::size_t who);
-  void addThread();
+  /// What the threads have in common: it lives as long as one of them looks at it.
+  struct Shared {
+    OdDbDxfJob* nextWaiting() const;
+    void carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock);
+    void workAlong(std::size_t who);
+
+    std::mutex mutex;
+    std::condition_variable given, done;
+    std::deque<std::unique_ptr<OdDbDxfJob>> jobs;
+    std::size_t begun = 0;
+    bool end = false;
+  };
 
   const std::size_t m_most;
-  std::mutex m_mutex;
-  std::condition_variable m_given, m_done;
-  std::deque<std::unique_ptr<OdDbDxfJob>> m_jobs;
-  std::size_t m_begun = 0;
-  bool m_end = false;
-  std::vector<std::thread> m_threads;
+  std::size_t m_called = 0; ///< threads beside the maker
+  const std::shared_ptr<Shared> m_shared = std::make_shared<Shared>();
 };

@@ -40,6 +40,8 @@ class OdDbDxfReader {
   OdDbBlockTableRecord& spaceOf(OdDbObjectId id);
   OdDbBlockTableRecord& spaceFor(OdDbObjectId block);
   void readObjects();
+  bool takeObjects();
+  void enterObject(OdDbObject& object);
   void keepSection(std::string_view name);
   void finish();
   void finishHeader();
@@ -64,7 +66,7 @@ class OdDbDxfReader {
 namespace oddxf {
 
 /// Reads a drawing with up to `threads` threads; what comes of it does not depend on their number.
-/// `make` gives the bytes from their beginning and is called twice: for a look ahead, and for good.
+/// `make` gives the bytes from their beginning; it is called again behind a long look ahead.
 /// `name` is the path for messages. Raises OdFileError if nothing can be trusted.
 OdDbDatabasePtr readDocument(const std::function<OdDbDxfBytes()>& make, const OdString& name,
                              std::size_t threads);

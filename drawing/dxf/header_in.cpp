@@ -4,15 +4,34 @@
 #include "drawing/dxf/text.h"
 #include "drawing/objects/dictionary_vars.h"
 
+#include <unordered_map>
+
+namespace {
+
+/// The row of a variable by its name in the file; null if there is none.
+const OdDbHeaderVarInfo* rowOf(std::string_view name) {
+  // A header asks for some hundred of them, nearly all written as programs write them.
+  static const auto byName = [] {
+    std::unordered_map<std::string_view, const OdDbHeaderVarInfo*> all;
+    for (const OdDbHeaderVarInfo& row : oddbHeaderVars()) all.emplace(row.name, &row);
+    return all;
+  }();
+  if (name.starts_with('$'))
+    if (const auto at = byName.find(name.substr(1)); at != byName.end()) return at->second;
+  return oddbFindHeaderVar(OdString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+} // namespace
+
 void OdDbDxfReader::readHeader() {
   const auto vars = oddbHeaderVars();
   OdDbHeaderEntry* entry = nullptr;
   m_data.headerOrder.clear();
+  m_data.headerOrder.reserve(vars.size());
   while (m_in.next() && m_in.tag().code != 0) {
     const OdDbDxfTag tag = m_in.tag();
     if (tag.code == 9) {
-      const OdDbHeaderVarInfo* const row = oddbFindHeaderVar(
-          OdString::fromLatin1(tag.text.data(), static_cast<qsizetype>(tag.text.size())));
+      const OdDbHeaderVarInfo* const row = rowOf(tag.text);
       entry = &m_data.headerOrder.emplace_back();
       if (row)
         entry->known = static_cast<int>(row - vars.data());

@@ -53,10 +53,11 @@ bool isForSeveral(const OdDbDxfBytes& bytes) {
 
 OdDbDatabasePtr oddxf::readDocument(const std::function<OdDbDxfBytes()>& make, const OdString& name,
                                     std::size_t threads) {
-  const Start start = lookAhead(*OdDbDxfSource::of(make()), name);
+  OdDbDxfBytes bytes = make();
+  const Start start = lookAhead(*OdDbDxfSource::of(bytes.twin()), name);
+  if (bytes.hasFallenBehind()) bytes = make();
   const OdDbDatabasePtr database =
       start.isPlain() ? newDocument(start.handseed - 1) : odrxMake<OdDbDatabase>();
-  OdDbDxfBytes bytes = make();
   if (threads > 1 && isForSeveral(bytes)) {
     OdDbDxfAheadSource source(std::move(bytes), threads);
     readFrom(source, *database, start, name);

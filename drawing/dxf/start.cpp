@@ -7,6 +7,12 @@
 
 namespace {
 
+/// True if the rest of the header tells nothing more: newer files have one encoding.
+bool isComplete(const oddxf::Start& start) {
+  return start.version >= OdDb::kR2007 && start.handseed != 0 &&
+         start.handseed <= oddxf::kHighestHandle;
+}
+
 OdDb::DwgVersion versionOf(std::string_view text) {
   for (int v = OdDb::kR12; v <= OdDb::kR2018; ++v)
     if (const auto version = static_cast<OdDb::DwgVersion>(v); text == OdDb::versionText(version))
@@ -38,7 +44,7 @@ oddxf::Start oddxf::lookAhead(OdDbDxfSource& source, const OdString& name) {
   Start start;
   start.handseed = 0;
   std::string variable;
-  while (source.next(tag) == OdDbDxfSource::kTag && !tag.is(0, "ENDSEC")) {
+  while (!isComplete(start) && source.next(tag) == OdDbDxfSource::kTag && !tag.is(0, "ENDSEC")) {
     if (tag.code == 9) variable = tag.text;
     if (variable == "$HANDSEED" && tag.code == 5)
       start.handseed = OdDbHandle::fromText(tag.text).value_or(0);

@@ -223,16 +223,33 @@ std::string_view oddxf::realText(char (&buffer)[kRealDigits], double value) {
   return {buffer, static_cast<std::size_t>(putReal(buffer, value) - buffer)};
 }
 
-void oddxf::addCode(QByteArray& lines, int code) {
+namespace {
+
+/// Writes the line of a group code at `to`, where kCodeLine bytes have to fit; gives the end.
+constexpr std::size_t kCodeLine = 16;
+char* putCode(char* to, int code) {
   char digits[12];
   const auto [end, error] = std::to_chars(digits, digits + sizeof digits, code);
-  for (auto width = end - digits; width < 3; ++width) lines.append(' ');
-  lines.append(digits, end - digits);
-  lines.append('\n');
+  for (auto width = end - digits; width < 3; ++width) *to++ = ' ';
+  to = std::copy(digits, end, to);
+  *to++ = '\n';
+  return to;
+}
+
+} // namespace
+
+void oddxf::addCode(QByteArray& lines, int code) {
+  char line[kCodeLine];
+  lines.append(line, putCode(line, code) - line);
 }
 
 void oddxf::addLines(QByteArray& lines, int code, std::string_view value) {
-  addCode(lines, code);
-  lines.append(value.data(), static_cast<qsizetype>(value.size()));
-  lines.append('\n');
+  char line[kCodeLine];
+  const auto codeSize = static_cast<std::size_t>(putCode(line, code) - line);
+  const qsizetype before = lines.size();
+  // One look at the room that is left does for all.
+  lines.resize(before + static_cast<qsizetype>(codeSize + value.size() + 1));
+  char* const to = lines.data() + before;
+  std::copy_n(line, codeSize, to);
+  *std::copy(value.begin(), value.end(), to + codeSize) = '\n';
 }

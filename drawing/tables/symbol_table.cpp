@@ -2,6 +2,21 @@
 
 #include "drawing/database_data.h"
 
+namespace {
+
+/// A name as the index has it. Folding all of Unicode takes long, and most names need none of it.
+OdString folded(const OdString& name) {
+  OdString key(name.size(), Qt::Uninitialized);
+  QChar* to = key.data();
+  for (const QChar c : name) {
+    if (c.unicode() >= 0x80) return name.toCaseFolded();
+    *to++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() - u'A' + u'a') : c;
+  }
+  return key;
+}
+
+} // namespace
+
 OdDbSymbolTableRecord::OdDbSymbolTableRecord() = default;
 
 void OdDbSymbolTableRecord::setName(const OdString& name) {
@@ -56,13 +71,13 @@ OdDbObjectId OdDbSymbolTable::getAt(const OdString& name) const {
     for (const OdDbObjectId id : m_records) {
       const OdDbSymbolTableRecordPtr record = id.openObject();
       if (!record) continue;
-      const OdString key = record->getName().toCaseFolded();
+      const OdString key = folded(record->getName());
       // Of several records of one name the first one counts.
       if (!m_index.contains(key)) m_index.insert(key, id);
     }
     m_indexed = true;
   }
-  return m_index.value(name.toCaseFolded());
+  return m_index.value(folded(name));
 }
 
 OdDbObjectId OdDbSymbolTable::add(OdDbSymbolTableRecord* record) {
@@ -82,7 +97,7 @@ void OdDbSymbolTable::attach(OdDbObjectId id) {
   m_records.push_back(id);
   if (!m_indexed) return;
   const OdDbSymbolTableRecordPtr record = id.openObject();
-  const OdString key = record->getName().toCaseFolded();
+  const OdString key = folded(record->getName());
   if (!m_index.contains(key)) m_index.insert(key, id);
 }
 

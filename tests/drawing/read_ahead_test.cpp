@@ -3,6 +3,7 @@
 #include "drawing/dxf/ahead_source.h"
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/piece_source.h"
+#include "drawing/objects/dictionary_vars.h"
 #include "drawing/support/many_entities.h"
 
 #include <gtest/gtest.h>
@@ -90,6 +91,82 @@ TEST(ReadAhead, HelpersReadWhatTheyCanAndTheRestIsReadAsItComes) {
   EXPECT_EQ(taken, helped);
   EXPECT_EQ(left, 3);
   EXPECT_EQ(db->unknownContent().size(), 3);
+}
+
+TEST(ReadAhead, ObjectsBehindTheEntitiesAreReadAheadWithThem) {
+  Entities all = many(100);
+  QByteArray objects;
+  for (int i = 0; i < 50; ++i)
+    objects += "  0\nDICTIONARYVAR\n  5\n" + QByteArray::number(0x9000 + i, 16).toUpper() +
+               "\n330\nC\n100\nDictionaryVariables\n280\n" + (i == 20 ? "x" : "0") +
+               "\n  1\nvalue\n";
+  const QByteArray text =
+      all.lines + "  0\nENDSEC\n  0\nSECTION\n  2\nOBJECTS\n" + objects + "  0\nENDSEC\n";
+  const OdDbDatabasePtr db = OdDbDatabase::createDatabase();
+  OdDbDxfAheadSource source(OdDbDxfBytes(view(text)), 3);
+  OdDbDxfIn in(*db, source, QStringLiteral("d.dxf"));
+  in.next();
+  while (in.tag().text != "ENDSEC")
+    if (const auto entities = source.entities(in); !entities.empty()) {
+      source.takeOver(entities.back(), in);
+      source.goBehind(entities.back(), in);
+    } else {
+      in.readEntity(std::string(in.tag().text));
+    }
+  source.end();
+  for (int i = 0; i < 3; ++i) in.next();
+  ASSERT_EQ(in.tag().text, "DICTIONARYVAR");
+  // One of them has a value that has to be told, in its place.
+  const auto before = source.objects(in);
+  ASSERT_EQ(before.size(), 20U);
+  EXPECT_EQ(before[3].head.handle, OdDbHandle(0x9003));
+  EXPECT_TRUE(odrxCast<OdDbDictionaryVar>(before[3].object.get()));
+  source.takeOver(before.back(), in);
+  source.goBehind(before.back(), in);
+  EXPECT_TRUE(source.objects(in).empty());
+  in.readTags(*odrxMake<OdDbDictionaryVar>());
+  EXPECT_EQ(db->unknownContent().size(), 1);
+  const auto behind = source.objects(in);
+  EXPECT_EQ(behind.size(), 29U);
+}
+
+namespace {
+
+/// Counts what is read from it.
+class CountingDevice : public QBuffer {
+ public:
+  explicit CountingDevice(QByteArray* bytes)
+    : QBuffer(bytes) {}
+  qint64 count = 0;
+
+ protected:
+  qint64 readData(char* data, qint64 most) override {
+    const qint64 read = QBuffer::readData(data, most);
+    count += std::max<qint64>(read, 0);
+    return read;
+  }
+};
+
+qint64 bytesRead(QByteArray text) {
+  CountingDevice device(&text);
+  EXPECT_TRUE(device.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+  readWith(2, [&] {
+    device.seek(0);
+    return OdDbDxfBytes(device);
+  });
+  return device.count;
+}
+
+} // namespace
+
+TEST(ReadAhead, WhatTheLookAheadHasReadIsNotReadAgain) {
+  const QByteArray small = drawing(many(200).lines);
+  EXPECT_EQ(bytesRead(small), small.size());
+  const QByteArray large = drawing(many(4000).lines);
+  EXPECT_EQ(bytesRead(large), large.size());
+  // Without the highest handle all of the file has to be looked through.
+  const QByteArray unsure = QByteArray(large).replace("FFFFFF", "0");
+  EXPECT_EQ(bytesRead(unsure), 2 * unsure.size());
 }
 
 TEST(ReadAhead, TellsWhatIsWrongInTheLineWhereItIs) {
@@ -289,6 +366,13 @@ TEST(PieceSource, GivesTheTagsOfATextSource) {
                               "  1\na\rb\r\r\n",
                               "  1\nlonger than a word of the machine, and with \xC3\xA4\n",
                               "  1\n1234567\n",
+                              " 10\ntwo digits\n",
+                              "100\nthree\n",
+                              "1 0\na blank between\n",
+                              "10 \na blank behind\n",
+                              "1  \ntwo behind\n",
+                              ": 1\nno digit\n",
+                              "-10\nbelow nothing\n",
                               "  1\n12345678\n"};
   QByteArray all;
   for (const QByteArray& first : parts)
