@@ -51,38 +51,70 @@ OdString rootIn(const QByteArray& beginning) {
 /// What a catalog of a store says.
 struct Entries {
   QStringList targets;
-  QStringList inlinePalettes; ///< names of palettes that stand in the catalog itself
-  OdString broken;            ///< where and why it breaks off; empty if it does not
+  struct Palette {
+    OdString name;
+    QStringList tools; ///< their names; empty ones for those without
+  };
+  std::vector<Palette> inlinePalettes; ///< those that stand in the catalog itself
+  OdString broken;                     ///< where and why it breaks off; empty if it does not
 };
 
 /// Reads the text as far as it goes.
-Entries entriesIn(const QByteArray& text) {
-  Entries entries;
-  QXmlStreamReader xml(text);
-  xml.setNamespaceProcessing(false);
-  QStringList path;
-  OdString lastName;
-  while (!xml.atEnd()) {
-    xml.readNext();
-    if (xml.isEndElement()) path.removeLast();
-    if (!xml.isStartElement()) continue;
-    const bool isInPalette = !path.isEmpty() && path.last() == QLatin1String("Palette");
-    path << xml.qualifiedName().toString();
-    if (path.last() == QLatin1String("Url")) {
-      entries.targets << xml.attributes().value(QLatin1String("href")).toString();
-    } else if (path.last() == QLatin1String("ItemName")) {
-      lastName = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-      path.removeLast();
-    } else if (path.last() == QLatin1String("Tools") && isInPalette) {
-      entries.inlinePalettes << lastName;
+class EntriesReader {
+ public:
+  explicit EntriesReader(const QByteArray& text)
+    : m_xml(text) {
+    m_xml.setNamespaceProcessing(false);
+  }
+
+  Entries read() {
+    while (!m_xml.atEnd()) {
+      m_xml.readNext();
+      if (m_xml.isEndElement()) m_path.removeLast();
+      if (!m_xml.isStartElement()) continue;
+      m_path << m_xml.qualifiedName().toString();
+      visit();
+    }
+    if (m_xml.hasError())
+      m_entries.broken = translated(u"line %1, column %2: %3")
+                             .arg(OdString::number(m_xml.lineNumber()),
+                                  OdString::number(m_xml.columnNumber()), m_xml.errorString());
+    return std::move(m_entries);
+  }
+
+ private:
+  /// The name of the element that stands `up` levels above the one that begins.
+  QStringView outer(qsizetype up) const {
+    return up < m_path.size() ? QStringView(m_path[m_path.size() - 1 - up]) : QStringView();
+  }
+
+  void visit() {
+    const OdString& element = m_path.last();
+    std::vector<Entries::Palette>& palettes = m_entries.inlinePalettes;
+    if (element == QLatin1String("Url")) {
+      m_entries.targets << m_xml.attributes().value(QLatin1String("href")).toString();
+    } else if (element == QLatin1String("Palette")) {
+      m_name.clear();
+    } else if (element == QLatin1String("Tools") && outer(1) == u"Palette") {
+      palettes.push_back({m_name, {}});
+    } else if (element == QLatin1String("Tool") && outer(1) == u"Tools" && outer(2) == u"Palette") {
+      palettes.back().tools << OdString();
+    } else if (element == QLatin1String("ItemName")) {
+      const bool isTool = outer(1) == u"Properties" && outer(2) == u"Tool" &&
+                          outer(3) == u"Tools" && outer(4) == u"Palette";
+      const OdString name = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      (isTool ? palettes.back().tools.last() : m_name) = name;
+      m_path.removeLast();
     }
   }
-  if (xml.hasError())
-    entries.broken = translated(u"line %1, column %2: %3")
-                         .arg(OdString::number(xml.lineNumber()),
-                              OdString::number(xml.columnNumber()), xml.errorString());
-  return entries;
-}
+
+  QXmlStreamReader m_xml;
+  QStringList m_path;
+  OdString m_name; ///< the last one that was none of a tool
+  Entries m_entries;
+};
+
+Entries entriesIn(const QByteArray& text) { return EntriesReader(text).read(); }
 
 /// What the catalog in a file says; nothing if the file is no catalog.
 std::optional<Entries> readEntries(const OdString& file) {
@@ -136,12 +168,12 @@ class Walk {
  private:
   void visit(const OdString& file) {
     if (!odrxSystemServices()->fileExists(file))
-      return m_found.add(file, translated(u"there is no such file"));
+      return m_found.add({file, translated(u"there is no such file")});
     std::optional<Entries> entries;
     try {
       entries = readEntries(file);
     } catch (const OdFileError& error) {
-      return m_found.add(file, error.reason());
+      return m_found.add({file, error.reason()});
     }
     if (entries)
       followAll(file, *entries);
@@ -151,13 +183,14 @@ class Walk {
 
   void followAll(const OdString& file, const Entries& entries) {
     if (!entries.broken.isEmpty())
-      m_found.add(file,
-                  translated(u"the catalog is only read as far as this: %1").arg(entries.broken));
-    for (const OdString& name : entries.inlinePalettes)
-      m_found.add(file,
-                  translated(u"the palette \"%1\" stands in the catalog itself, and is not taken")
-                      .arg(name));
-    if (entries.targets.isEmpty()) m_found.add(file, translated(u"it points to no palettes"));
+      m_found.add(
+          {file, translated(u"the catalog is only read as far as this: %1").arg(entries.broken)});
+    for (const Entries::Palette& palette : entries.inlinePalettes)
+      m_found.add({file,
+                   translated(u"the palette \"%1\" stands in the catalog itself, and is not taken")
+                       .arg(palette.name),
+                   palette.name, palette.tools});
+    if (entries.targets.isEmpty()) m_found.add({file, translated(u"it points to no palettes")});
     for (const OdString& entry : entries.targets) follow(file, entry);
   }
 
@@ -177,7 +210,7 @@ class Walk {
   }
 
   void refuse(const OdString& catalog, const OdString& entry, const OdString& why) {
-    m_found.add(catalog, translated(u"the entry %1 is not followed: %2").arg(entry, why));
+    m_found.add({catalog, translated(u"the entry %1 is not followed: %2").arg(entry, why)});
   }
 
   const OdString m_home;
@@ -197,10 +230,10 @@ OdString OdTcForeignPalettes::Problem::inWords() const {
   return QStringLiteral("%1: %2").arg(file, text);
 }
 
-void OdTcForeignPalettes::add(const OdString& file, const OdString& text) {
+void OdTcForeignPalettes::add(const Problem& problem) {
   for (const Problem& known : problems)
-    if (known.file == file && known.text == text) return;
-  problems.push_back({file, text});
+    if (known.file == problem.file && known.text == problem.text) return;
+  problems.push_back(problem);
 }
 
 void findForeignPalettes(const OdString& path, OdTcForeignPalettes& found) {
@@ -208,7 +241,7 @@ void findForeignPalettes(const OdString& path, OdTcForeignPalettes& found) {
   if (!odrxSystemServices()->folderExists(first))
     return Walk(odpath::folderOf(first), found).run(first);
   const QStringList files = filesBelow(first);
-  if (files.isEmpty()) found.add(first, translated(u"there are no palettes in the folder"));
+  if (files.isEmpty()) found.add({first, translated(u"there are no palettes in the folder")});
   Walk walk(first, found);
   for (const OdString& file : files) walk.run(file);
 }

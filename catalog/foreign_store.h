@@ -13,6 +13,9 @@ struct OdTcForeignPalettes {
   struct Problem {
     OdString file;
     OdString text; ///< the reason, in words for the user
+    /// The palette that is passed over and its tools, if it stands in the file itself.
+    OdString palette = {};
+    QStringList tools = {};
     /// "file: reason"
     OdString inWords() const;
   };
@@ -22,7 +25,7 @@ struct OdTcForeignPalettes {
   std::vector<Problem> problems;
 
   /// Notes a problem that is not noted already.
-  void add(const OdString& file, const OdString& text);
+  void add(const Problem& problem);
 };
 
 /// True for the outermost element of a file whose entries point to others.

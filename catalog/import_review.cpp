@@ -1,13 +1,16 @@
 #include "catalog/import_review.h"
 
-#include "persistence/foreign_paths.h"
+#include "catalog/inside_folder.h"
 #include "catalog/tool_palette_impl.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "persistence/foreign_paths.h"
 #include "persistence/path_operations.h"
 #include "persistence/value_storage.h"
 #include "tools/action_agent.h"
+
+#include <QFileInfo>
 
 #include <array>
 
@@ -106,6 +109,14 @@ OdString mapped(const OdString& path, const OdTcImportOptions& options) {
   return path;
 }
 
+/// Where a file lies indeed, if links on its way lead out of the folder; empty if they do not.
+OdString placeBehindLinks(const OdString& file, const OdString& folder) {
+  const OdString real = QFileInfo(odpath::toPlatform(file)).canonicalFilePath();
+  const OdString home = QFileInfo(odpath::toPlatform(folder)).canonicalFilePath();
+  const bool leadsOut = !real.startsWith(home.endsWith(u'/') ? home : home + u'/');
+  return leadsOut ? odpath::fromPlatform(real) : OdString();
+}
+
 } // namespace
 
 OdString lossesInWords(const std::vector<OdTcForeignLoss>& losses) {
@@ -142,6 +153,10 @@ void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdStri
     return;
   }
   row.source = OdTcSourceFate::kFound;
+  const OdString folder =
+      odpath::folderOf(isInsideFolder(place, odpath::folderOf(paletteFile)) ? paletteFile : place);
+  if (const OdString real = placeBehindLinks(place, folder); !real.isEmpty())
+    remark(row, translated(u"its source is a link that leads to %1").arg(real));
   if (!isRelative) return;
   row.sourceFile = place;
   agent->setSourcePath(place);

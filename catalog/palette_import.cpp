@@ -80,16 +80,12 @@ OdTcToolPalettePtr PaletteImport::run() {
   const ImportConversation conversation(m_options.dryRun);
   try {
     if (!checkTarget() || !read()) return {};
-    // Each tool is looked at, and brought.
-    underWay.start(m_palette->content().tools()->count() * (m_options.dryRun ? 1 : 2));
+    underWay.start(m_palette->content().tools()->count() * stages());
     review();
     if (!m_report.problem.isEmpty()) return {};
     announceSkipped();
     adopt();
-    if (m_options.dryRun)
-      refreshImages();
-    else if (!enter())
-      return {};
+    if (!(m_options.dryRun ? refreshImages() : enter())) return {};
   } catch (const OdError& error) {
     fail(error.description());
     return {};
@@ -145,8 +141,9 @@ void PaletteImport::review() {
     if (!step()) return;
     const auto at = static_cast<std::size_t>(i);
     reviewTool(static_cast<OdTcTool&>(*tools.at(i)), m_foreign.tools[at], m_report.tools[at]);
-    const bool isSkipped = m_report.tools[at].fate == OdTcToolFate::kSkipped;
-    if (isSkipped && !m_options.dryRun && !step()) return;
+    if (m_report.tools[at].fate != OdTcToolFate::kSkipped) continue;
+    for (int stage = 1; stage < stages(); ++stage)
+      if (!step()) return;
   }
   noteUnread(count);
 }
@@ -230,19 +227,20 @@ bool PaletteImport::enter() {
   if (!m_pictures->bring(m_catalog.palettesFolder(), entry.madeFiles(), [this] { return step(); }))
     return false;
   entry.enter(m_options.group);
-  refreshImages();
+  if (!refreshImages()) return false;
   if (m_options.save && !entry.save()) return fail(entry.problem());
   entry.commit();
   return true;
 }
 
-void PaletteImport::refreshImages() {
+bool PaletteImport::refreshImages() {
   OdTcSourceFiles sources;
   IHostDocument* const document = host::curDocument();
   const OdTcEnumPtr<OdTcTool> tools = m_palette->enumTools();
   auto row = m_report.tools.begin();
   while (OdTcTool* const tool = tools->next()) {
     while (row->fate == OdTcToolFate::kSkipped) ++row;
+    if (!step()) return false;
     OdTcToolActionAgent* const agent = tool->getActionAgent();
     if (agent && agent->refreshImages(document)) {
       row->picture = OdTcPictureFate::kMade;
@@ -252,6 +250,7 @@ void PaletteImport::refreshImages() {
     }
     ++row;
   }
+  return true;
 }
 
 OdTcToolPalettePtr OdTcCatalogImpl::importPalette(const OdString& path,

@@ -32,7 +32,9 @@ class PaletteImport {
   void reviewPattern(const OdTcTool& tool, OdTcImportedTool& row);
   OdString uniqueName(const OdString& wanted) const;
   bool enter();
-  void refreshImages();
+  bool refreshImages();
+  /// What is done with each tool: it is looked at, brought, and gets the pictures that are made.
+  int stages() const { return m_options.dryRun ? 2 : 3; }
   bool fail(const OdString& problem);
   bool step();
 

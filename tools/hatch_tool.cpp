@@ -1,5 +1,6 @@
 #include "tools/hatch_tool.h"
 
+#include "frame/file_path.h"
 #include "module/persist_cast.h"
 #include "properties/gradient_names.h"
 #include "properties/owned_part.h"
@@ -211,7 +212,10 @@ bool OdTcToolHatchCommandImpl::readProperty(const OdString& name, const OdVarian
 void OdTcToolHatchCommandImpl::createProperties() { fillProperties(kProperties); }
 
 OdString OdTcToolHatchCommandImpl::namedPattern() const {
-  const bool isNamed = m_fields.hatchObjectType == 0 && m_fields.hatchType != 0 &&
+  constexpr int kCustom = 2;
+  const bool isOfFile =
+      m_fields.hatchType == kCustom && !odpath::folderOf(m_fields.sourceFile).isEmpty();
+  const bool isNamed = m_fields.hatchObjectType == 0 && m_fields.hatchType != 0 && !isOfFile &&
                        m_fields.patternName.compare(QLatin1String("SOLID"), Qt::CaseInsensitive);
   return isNamed ? m_fields.patternName : OdString();
 }

@@ -68,7 +68,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
 
   const OdTcHatchFields& fields() const { return m_fields; }
   /// The pattern that the host must have for the tool to run; empty for a gradient, for lines of
-  /// the user's own and for a filling.
+  /// the user's own, for a filling, and for a pattern that comes from a file of its own.
   OdString namedPattern() const;
   OdString getSourceFile() const { return m_fields.sourceFile; }
   void setSourceFile(const OdString& path) { m_fields.sourceFile = path; }

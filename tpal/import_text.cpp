@@ -63,6 +63,13 @@ QJsonObject jsonOf(const tc::OdTcForeignPalettes::Problem& problem) {
   tc::OdTcImportReport report;
   report.file = problem.file;
   report.problem = problem.text;
+  report.palette = problem.palette;
+  for (const OdString& name : problem.tools) {
+    tc::OdTcImportedTool& tool = report.tools.emplace_back();
+    tool.name = name;
+    tool.fate = tc::OdTcToolFate::kSkipped;
+    tool.reason = problem.text;
+  }
   return jsonOf(report, false);
 }
 

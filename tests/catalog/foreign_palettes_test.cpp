@@ -3,6 +3,7 @@
 // are written first.
 #include "catalog/import_fixture.h"
 
+#include "catalog/palette_export.h"
 #include "catalog/tool_impl.h"
 #include "properties/color_value.h"
 #include "properties/property_bag.h"
@@ -55,6 +56,36 @@ TEST_P(ForeignPalettes, ReadAgainFromOurOwnFileAreTheSame) {
   ASSERT_TRUE(copy);
   EXPECT_TRUE(copy->save());
   EXPECT_EQ(allFiles(), before);
+}
+
+TEST_P(ForeignPalettes, ExportedAndImportedAgainAreTheSameButForIdsAndTimes) {
+  const OdString name = GetParam() + u".xtp"_s;
+  const OdTcToolPalettePtr palette = import(given(GetParam()));
+  ASSERT_TRUE(palette);
+  for (const OdString& folder : {u"out"_s, u"again"_s}) QDir().mkpath(platform(folder));
+  const OdTcExportReport out = exportPalette(*palette, stored(u"out\\"_s + name));
+  ASSERT_EQ(text(out.problem), "");
+  const QByteArray before = readFile(u"out/"_s + name);
+
+  writeFile(u"other\\DrfTcCatalog.dtc"_s, catalogXml({}));
+  const OdTcCatalogPtr other = load(stored(u"other\\DrfTcCatalog.dtc"_s));
+  const OdTcToolPalettePtr back = other->importPalette(stored(u"out\\"_s + name), {}, report);
+  ASSERT_TRUE(back) << text(report.problem);
+  EXPECT_NE(back->id(), palette->id());
+  for (const OdTcImportedTool& tool : report.tools)
+    EXPECT_EQ(tool.fate, OdTcToolFate::kTaken) << text(tool.name) << ": " << text(tool.reason);
+  ASSERT_EQ(text(exportPalette(*back, stored(u"again\\"_s + name)).problem), "");
+  EXPECT_EQ(withoutChance(readFile(u"again/"_s + name)).toStdString(),
+            withoutChance(before).toStdString());
+  QMap<OdString, QByteArray> pictures, picturesAgain;
+  const auto all = allFiles();
+  for (auto file = all.begin(); file != all.end(); ++file)
+    if (const OdString inside = file.key().section(u'/', 1); inside != name) {
+      if (file.key().startsWith(u"out/"_s)) pictures[inside] = file.value();
+      if (file.key().startsWith(u"again/"_s)) picturesAgain[inside] = file.value();
+    }
+  EXPECT_EQ(picturesAgain, pictures);
+  EXPECT_EQ(pictures.size(), out.pictures);
 }
 
 QStringList fixtures() {

@@ -89,6 +89,49 @@ TEST_F(ImportSafety, LooksNotForSourcesOnSharesAndDevices) {
     EXPECT_EQ(row(name).source, OdTcSourceFate::kRefused) << text(name);
 }
 
+TEST_F(ImportSafety, NamesWhereSourcesBehindLinksLie) {
+  for (const OdString& file :
+       {u"elsewhere\\door.dxf"_s, u"elsewhere\\site.png"_s, u"in\\own.dxf"_s, u"libs\\x"_s})
+    writeFile(file, "x");
+  const auto link = [this](const OdString& to, const OdString& from) {
+    ASSERT_TRUE(QFile::link(platform(to), platform(from))) << text(from);
+  };
+  link(u"elsewhere\\door.dxf"_s, u"in\\linked.dxf"_s);
+  link(u"elsewhere\\site.png"_s, u"in\\linked.png"_s);
+  link(u"elsewhere"_s, u"in\\folder"_s);
+  link(u"in\\own.dxf"_s, u"in\\same.dxf"_s);
+  link(u"elsewhere\\gone.dxf"_s, u"in\\gone.dxf"_s);
+  link(u"elsewhere\\door.dxf"_s, u"libs\\lib.dxf"_s);
+  const auto block = [](const QByteArray& id, const QByteArray& source) {
+    return toolXml(id, "<Block><BlockName>A</BlockName><SourceFile>" + source +
+                           "</SourceFile></Block>");
+  };
+  const OdTcToolPalettePtr palette = import(exported(
+      block("File", "linked.dxf") +
+      toolXml("Picture", "<Raster><RasterName>A</RasterName><SourceFile>.\\linked.png</SourceFile>"
+                         "</Raster>") +
+      block("Folder", "folder\\door.dxf") + block("Inside", "same.dxf") +
+      block("Gone", "gone.dxf") + block("Absolute", stored(u"libs\\lib.dxf"_s).toUtf8()) +
+      block("Plain", stored(u"elsewhere\\door.dxf"_s).toUtf8()) +
+      block("Above", "..\\elsewhere\\door.dxf")));
+  ASSERT_TRUE(palette) << text(report.problem);
+  const auto leadsTo = [](const OdString& file) {
+    return OdString(u"its source is a link that leads to "_s + file);
+  };
+  const OdString door = stored(u"elsewhere\\door.dxf"_s);
+  EXPECT_EQ(row(u"File"_s).reason, leadsTo(door));
+  EXPECT_EQ(row(u"Picture"_s).reason, leadsTo(stored(u"elsewhere\\site.png"_s)));
+  EXPECT_EQ(row(u"Folder"_s).reason, leadsTo(door));
+  EXPECT_EQ(row(u"Absolute"_s).reason, leadsTo(door));
+  for (const OdString& name :
+       {u"File"_s, u"Picture"_s, u"Folder"_s, u"Absolute"_s, u"Inside"_s, u"Plain"_s, u"Above"_s})
+    EXPECT_EQ(row(name).source, OdTcSourceFate::kFound) << text(name);
+  EXPECT_EQ(row(u"Gone"_s).source, OdTcSourceFate::kMissing);
+  for (const OdString& name : {u"Inside"_s, u"Gone"_s, u"Plain"_s, u"Above"_s})
+    EXPECT_EQ(row(name).reason, OdString()) << text(name);
+  EXPECT_EQ(row(u"Above"_s).sourceFile, door) << "the report names what lies above the palette";
+}
+
 TEST_F(ImportSafety, AFileThatCannotBeReadGivesNullAndChangesNothing) {
   const QDir hostile(QStringLiteral(TEST_DATA_DIR "/hostile"));
   const auto before = allFiles();

@@ -244,11 +244,16 @@ TEST_F(PaletteImportTest, NamesPatternsThatTheHostDoesNotHave) {
       hatch("Lines", "<hatchObjectType>0</hatchObjectType><HatchType>0</HatchType>") +
       hatch("Filling", "<hatchObjectType>0</hatchObjectType><HatchType>1</HatchType>"
                        "<PatternName>SOLID</PatternName>") +
+      hatch("File", "<hatchObjectType>0</hatchObjectType><HatchType>2</HatchType>"
+                    "<PatternName>MINE</PatternName><SourceFile>C:\\mine.pat</SourceFile>") +
+      hatch("Own", "<hatchObjectType>0</hatchObjectType><HatchType>2</HatchType>"
+                   "<PatternName>MINE</PatternName><SourceFile>mine.pat</SourceFile>") +
       hatch("Gradient", "<hatchObjectType>1</hatchObjectType><GradientName>LINEAR</GradientName>"));
   theHost().previews.canRender = false;
   import(file);
   EXPECT_TRUE(row(u"Named"_s).reason.contains(u"\"AR-CONC\""_s)) << text(row(u"Named"_s).reason);
-  for (const OdString& name : {u"Lines"_s, u"Filling"_s, u"Gradient"_s})
+  EXPECT_TRUE(row(u"Own"_s).reason.contains(u"\"MINE\""_s)) << text(row(u"Own"_s).reason);
+  for (const OdString& name : {u"Lines"_s, u"Filling"_s, u"Gradient"_s, u"File"_s})
     EXPECT_EQ(row(name).reason, OdString()) << text(name);
   theHost().previews.canRender = true;
   import(file);
@@ -327,9 +332,15 @@ struct CountingProgress : OdTcImportProgress {
 TEST_F(PaletteImportTest, TellsItsProgressToolByTool) {
   CountingProgress progress;
   import(exported(commandXml("A") + light("B") + commandXml("C")));
-  EXPECT_EQ(progress.range, 6);
-  EXPECT_EQ(progress.steps, 6) << "each is looked at, and brought";
+  EXPECT_EQ(progress.range, 9);
+  EXPECT_EQ(progress.steps, 9) << "each is looked at, brought, and gets its pictures";
   EXPECT_EQ(progress.stops, 1);
+  CountingProgress dry;
+  OdTcImportOptions options;
+  options.dryRun = true;
+  import(exported(commandXml("A") + light("B") + commandXml("C")), options);
+  EXPECT_EQ(dry.range, 6);
+  EXPECT_EQ(dry.steps, 6) << "nothing is brought";
 }
 
 TEST_F(PaletteImportTest, OfAPaletteWithoutToolsTheProgressHasARangeOfNothing) {
@@ -343,7 +354,7 @@ TEST_F(PaletteImportTest, OfAPaletteWithoutToolsTheProgressHasARangeOfNothing) {
 TEST_F(PaletteImportTest, ACancelledImportLeavesNoTrace) {
   const OdString file = exported(commandXml("A") + light("B") + commandXml("C"));
   const auto before = allFiles();
-  for (int allowed = 0; allowed < 6; ++allowed) {
+  for (int allowed = 0; allowed < 9; ++allowed) {
     CountingProgress progress;
     progress.allowed = allowed;
     EXPECT_FALSE(import(file)) << allowed;

@@ -109,6 +109,33 @@ TEST_F(ImportCommand, TakesWholeFoldersWithTheStoresInThem) {
   }
 }
 
+TEST_F(ImportCommand, NamesThePalettesInACatalogOfAStoreWithTheirTools) {
+  const auto tool = [](const QByteArray& name) {
+    return "<Tool><Properties>" + name + "</Properties><ToolType>1</ToolType></Tool>";
+  };
+  write(QStringLiteral("store.atc"),
+        "<Catalog><Properties><ItemName>Store</ItemName></Properties>"
+        "<Palette><Properties><ItemName>Doors</ItemName></Properties><Tools>" +
+            tool("<ItemName>Single</ItemName>") + tool({}) +
+            "</Tools></Palette><Palette><Tools/></Palette></Catalog>");
+  EXPECT_EQ(import({path(QStringLiteral("store.atc")), QStringLiteral("--json")}), tpal::kFailed);
+  ASSERT_EQ(json().size(), 3) << qPrintable(out());
+  const QJsonObject doors = json()[0].toObject();
+  EXPECT_EQ(doors[QStringLiteral("palette")].toString(), QStringLiteral("Doors"));
+  EXPECT_FALSE(doors[QStringLiteral("imported")].toBool());
+  const QJsonArray tools = doors[QStringLiteral("tools")].toArray();
+  ASSERT_EQ(tools.size(), 2);
+  EXPECT_EQ(field(tools[0].toObject(), "name"), QStringLiteral("Single"));
+  EXPECT_EQ(field(tools[1].toObject(), "name"), QString());
+  for (const QJsonValue& row : tools) {
+    EXPECT_EQ(field(row.toObject(), "fate"), QStringLiteral("skipped"));
+    EXPECT_TRUE(field(row.toObject(), "reason").contains(QStringLiteral("stands in the catalog")));
+  }
+  EXPECT_EQ(json()[1][QStringLiteral("palette")].toString(), QString()) << "it has no name";
+  EXPECT_TRUE(json()[2][QStringLiteral("problem")].toString().contains(
+      QStringLiteral("points to no palettes")));
+}
+
 TEST_F(ImportCommand, NamesAFileThatCannotBeReadAndTakesTheOthers) {
   write(QStringLiteral("bad.xtp"), "<Palette");
   EXPECT_EQ(import({path(QStringLiteral("bad.xtp")), data(QStringLiteral("one_line.xtp"))}),
