@@ -7,7 +7,20 @@
 #include "properties/property.h"
 #include "tools/action_agent.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace tc {
+
+namespace {
+
+/// A number that is too large is no kind of tool, least of all the one that its last bits are.
+std::uint32_t typeFromText(const OdString& text) {
+  constexpr std::uint64_t kLargest = std::numeric_limits<std::uint32_t>::max();
+  return static_cast<std::uint32_t>(std::min(odParseUInt(text), kLargest));
+}
+
+} // namespace
 
 OdTcToolImpl::~OdTcToolImpl() {
   leaveGuard();
@@ -64,7 +77,7 @@ void OdTcToolImpl::readData(const OdTcToolDataPtr& data) {
 
 bool OdTcToolImpl::readOwnField(const OdString& name, const OdVariant& value) {
   if (name == QLatin1String("ToolType"))
-    m_toolType = static_cast<std::uint32_t>(odParseUInt(value.toString()));
+    m_toolType = typeFromText(value.toString());
   else if (name == QLatin1String("CustomData"))
     foreign().customData = value.objectAs<OdTcToolCustomData>();
   else if (name == QLatin1String("Flyout"))

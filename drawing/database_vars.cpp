@@ -271,9 +271,14 @@ OdDbObjectId OdDbDatabase::currentPlotStyleId() const {
 }
 
 void OdDbDatabase::setCurrentPlotStyle(OdDb::PlotStyleNameType type, OdDbObjectId id) {
+  const OdString named = QStringLiteral("CEPSNID");
   if (type == OdDb::kPlotStyleNameById) {
     require(id.isValid(), "plot style");
-    setSysVar(QStringLiteral("CEPSNID"), id);
+    setSysVar(named, id);
+  } else if (currentPlotStyleType() == OdDb::kPlotStyleNameById) {
+    // The former name does not stay behind, and files do not say that there is none.
+    setSysVar(named, OdDbObjectId());
+    m_data->varPresent[static_cast<std::size_t>(indexOf(oddbFindHeaderVar(named)))] = false;
   }
   setSysVar(QStringLiteral("CEPSNTYPE"), std::int64_t{type});
 }

@@ -5,6 +5,7 @@
 #include "properties/layer_table_record_impl.h"
 #include "properties/line_type_table_record_impl.h"
 #include "properties/owned_part.h"
+#include "properties/stored_field.h"
 #include "properties/text_style_table_record_impl.h"
 
 #include <cstdint>
@@ -38,9 +39,13 @@ void OdTcColorPropertyCreateInfoImpl::writeFields(OdTcFiler* filer) {
 
 bool OdTcColorPropertyCreateInfoImpl::readField(const OdString& name, const OdVariant& value) {
   if (name != QLatin1String("mRGB")) return false;
+  const std::int64_t bits = odParseInt(value.toString());
+  if (!field_detail::hasBitsFor<std::uint32_t>(bits)) {
+    tellFieldRefused(name, value.toString());
+    return true;
+  }
   OdCmColor color;
-  // With a sign or without one: both stand for the same 32 bits.
-  color.setColor(static_cast<std::uint32_t>(odParseInt(value.toString())));
+  color.setColor(static_cast<std::uint32_t>(bits));
   m_color = color;
   return true;
 }

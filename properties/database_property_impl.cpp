@@ -163,7 +163,9 @@ void OdTcDatabasePropertyImpl::setRecordName(const OdString& name) {
     }
   }
   const OdTcSymbolTableRecord* const snapshot = record();
-  if (snapshot && snapshot->recordName() != name) m_createInfo = nullptr;
+  // Names that differ in case only are the same record.
+  if (snapshot && snapshot->recordName().compare(name, Qt::CaseInsensitive) != 0)
+    m_createInfo = nullptr;
   setText(name);
 }
 

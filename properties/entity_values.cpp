@@ -22,6 +22,14 @@ bool takeRecord(Property& property, OdDbObjectId record) {
   return true;
 }
 
+/// Programs round percentages to opacities down. A whole percentage stands for most of them; the
+/// others get one digit more, from which the same opacity comes.
+OdString percentText(OdCmTransparency value) {
+  if (OdCmTransparency::fromPercent(value.percent()) == value)
+    return OdString::number(value.percent());
+  return OdString::number(100 - (value.alpha() + 0.5) * 100 / 255, 'f', 1);
+}
+
 bool takeWord(Property& property, QStringView word) {
   property.setText(word.toString());
   return true;
@@ -86,7 +94,7 @@ bool captureTransparency(Property& property, const OdDbEntity& entity) {
   const OdCmTransparency value = entity.transparency();
   if (value.isByLayer()) return takeWord(property, kByLayer);
   if (value.isByBlock()) return takeWord(property, kByBlock);
-  property.setText(OdString::number(value.percent()));
+  property.setText(percentText(value));
   return true;
 }
 

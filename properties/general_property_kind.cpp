@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 
 namespace tc {
 namespace {
@@ -125,8 +126,10 @@ CurrentValue wantedTransparency(const Property& property, OdDbDatabase&) {
                             : CurrentValue();
   };
   return valueOfText(property, ofWord, [](double percent) -> CurrentValue {
-    if (percent < 0 || percent > 100) return {};
-    return OdCmTransparency::fromPercent(static_cast<int>(percent));
+    // What is clearer would hardly be seen: drawings have no such current value.
+    constexpr double kClearest = 90;
+    if (percent < 0 || percent > kClearest) return {};
+    return OdCmTransparency::fromAlpha(static_cast<std::uint8_t>((100 - percent) * 255 / 100));
   });
 }
 

@@ -91,8 +91,12 @@ OdTcLayerTableRecordImpl::createRecord(OdDbDatabase* database) const {
   else
     tellValueRefused(stringText(StringId::kLineWeight), OdString::number(m_values.lineWeight));
   layer->setIsPlottable(!m_values.isNotPlotted);
-  if (const auto* const lineType = dynamic_cast<OdTcLineTypePropertyImpl*>(m_lineType.get()))
-    if (const OdDbObjectId id = lineType->recordIn(database)) layer->setLinetypeObjectId(id);
+  if (const auto* const lineType = dynamic_cast<OdTcLineTypePropertyImpl*>(m_lineType.get())) {
+    if (const OdDbObjectId id = lineType->recordIn(database))
+      layer->setLinetypeObjectId(id);
+    else if (!lineType->record() && !lineType->text().isEmpty())
+      tellValueRefused(lineType->getDisplayName(), lineType->text());
+  }
   return layer;
 }
 

@@ -29,7 +29,8 @@ class OdTcLineTypeElementImplBase : public OdTcPersistImpl<T> {
     if (name != QLatin1String("Dash") && name != QLatin1String("Dot") &&
         name != QLatin1String("Space"))
       return false;
-    field_detail::read(m_length, value, FieldForm::kPlain);
+    if (!field_detail::read(m_length, value, FieldForm::kPlain))
+      tellFieldRefused(name, value.toString());
     return true;
   }
 

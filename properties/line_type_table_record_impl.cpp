@@ -27,12 +27,12 @@ constexpr std::array kElements = {
     Field{u"TotalPatternLength", &Values::patternLength},
 };
 
-/// A style of the snapshot's file that the drawing has.
+/// A style of the snapshot's file that the drawing has. Fonts are named in any case.
 OdDbObjectId findStyle(const OdDbTextStyleTable& table, const OdTcTextStyleValues& wanted) {
   for (auto it = table.newIterator(); !it->done(); it->step()) {
     const auto* const style = odrxCast<OdDbTextStyleTableRecord>(it->getRecord());
     if (style && style->isShapeFile() == wanted.isShapeFile &&
-        style->fileName() == wanted.fontOrShapeFile)
+        style->fileName().compare(wanted.fontOrShapeFile, Qt::CaseInsensitive) == 0)
       return it->getRecordId();
   }
   return {};

@@ -25,6 +25,12 @@ void tellRecordUnusable(const OdString& reason, const OdString& name) {
   host::print(formatText(reason, shown(name)));
 }
 
+void tellFieldRefused(const OdString& name, const OdString& value) {
+  host::print(formatText(
+      host::translate(QStringLiteral("\n%s: \"%s\" is no value for it, the usual one is taken.")),
+      name, shown(value)));
+}
+
 void tellValueRefused(const OdString& what, const OdString& value) {
   host::print(formatText(
       host::translate(QStringLiteral("\n%s: \"%s\" cannot be set, the drawing's own value stays.")),

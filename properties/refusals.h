@@ -14,6 +14,8 @@ void tellRecordRefused(const OdTcSymbolTableRecord& snapshot, const OdString& re
 /// Tells that a record of the drawing cannot be used: `reason` is a text with one "%s" for its
 /// name.
 void tellRecordUnusable(const OdString& reason, const OdString& name);
+/// Tells that a file's value is none for the field of that name, which stays as it is.
+void tellFieldRefused(const OdString& name, const OdString& value);
 /// Tells that the drawing does not take a value; `what` is the name of a property or a variable.
 void tellValueRefused(const OdString& what, const OdString& value);
 

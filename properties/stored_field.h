@@ -3,6 +3,7 @@
 
 #include "persistence/filer.h"
 #include "persistence/path_operations.h"
+#include "properties/refusals.h"
 
 #include <QStringView>
 
@@ -11,6 +12,7 @@
 #include <cstdint>
 #include <limits>
 #include <span>
+#include <type_traits>
 #include <variant>
 
 namespace tc {
@@ -41,29 +43,56 @@ inline OdString staticName(QStringView name) {
 
 namespace field_detail {
 
-inline void read(bool& field, const OdVariant& value, FieldForm form) {
+// Each gives false for a value that the field cannot hold, and then leaves the field as it is.
+
+inline bool read(bool& field, const OdVariant& value, FieldForm form) {
   const OdString text = value.toString();
   // A native flag is written as "-1", which the shared test of flags does not take for true.
   field = boolFromText(text) || (form == FieldForm::kNativeFlag && odParseInt(text) != 0);
+  return true;
+}
+/// True if a text begins with a number; so it counts if it is empty.
+inline bool isNumber(QStringView text) {
+  text = text.trimmed();
+  if (text.isEmpty()) return true;
+  if (text.startsWith(u'-') || text.startsWith(u'+')) text = text.mid(1);
+  if (text.startsWith(u'.')) text = text.mid(1);
+  return !text.isEmpty() && text.front() >= u'0' && text.front() <= u'9';
+}
+/// Programs write the bits of a number with a sign or without one.
+template <class Number>
+constexpr bool hasBitsFor(std::int64_t value) {
+  using Low = std::numeric_limits<std::make_signed_t<Number>>;
+  using High = std::numeric_limits<std::make_unsigned_t<Number>>;
+  return value >= std::int64_t{Low::min()} && value <= std::int64_t{High::max()};
 }
 template <class Number>
 requires std::is_integral_v<Number>
-void read(Number& field, const OdVariant& value, FieldForm) {
+bool read(Number& field, const OdVariant& value, FieldForm) {
   const OdString text = value.toString();
-  if constexpr (std::is_same_v<Number, std::uint64_t>)
+  if (!isNumber(text)) return false;
+  if constexpr (std::is_same_v<Number, std::uint64_t>) {
     field = odParseUInt(text);
-  else
-    field = static_cast<Number>(odParseInt(text));
+  } else {
+    const std::int64_t whole = odParseInt(text);
+    if (!hasBitsFor<Number>(whole)) return false;
+    field = static_cast<Number>(whole);
+  }
+  return true;
 }
-inline void read(double& field, const OdVariant& value, FieldForm form) {
+inline bool read(double& field, const OdVariant& value, FieldForm form) {
   const OdString text = value.toString();
+  if (!isNumber(text)) return false;
   // A number without end has no text that could be read again.
   constexpr double kLargest = std::numeric_limits<double>::max();
-  field = form == FieldForm::kWholeNumber ? static_cast<double>(odParseInt(text))
-                                          : std::clamp(odParseReal(text), -kLargest, kLargest);
+  const double number =
+      form == FieldForm::kWholeNumber ? static_cast<double>(odParseInt(text)) : odParseReal(text);
+  field = std::clamp(number, -kLargest, kLargest);
+  return true;
 }
-inline void read(OdString& field, const OdVariant& value, FieldForm form) {
+inline bool read(OdString& field, const OdVariant& value, FieldForm form) {
   field = form == FieldForm::kPath ? expandedStoredPath(value.toString()) : value.toString();
+  return true;
 }
 
 inline OdVariant write(bool field, FieldForm form) {
@@ -99,14 +128,17 @@ const StoredField<R>* findField(std::span<const StoredField<R>> fields, const Od
   return nullptr;
 }
 
-/// Stores the value if the table has the name; false otherwise.
+/// Stores the value if the table has the name; false otherwise. A number that the field cannot hold
+/// is told, and the field stays as it is.
 template <class R>
 bool readStoredField(R& record, std::span<const StoredField<R>> fields, const OdString& name,
                      const OdVariant& value) {
   const StoredField<R>* const field = findField(fields, name);
   if (!field || value.isObject()) return false;
-  std::visit([&](auto member) { field_detail::read(record.*member, value, field->form); },
-             field->member);
+  if (!std::visit(
+          [&](auto member) { return field_detail::read(record.*member, value, field->form); },
+          field->member))
+    tellFieldRefused(name, value.toString());
   return true;
 }
 

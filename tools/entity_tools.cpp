@@ -3,13 +3,19 @@
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/raster_image.h"
+#include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "module/message_table.h"
+#include "module/string_table.h"
 #include "properties/entity_values.h"
 #include "properties/gradient_names.h"
 #include "tools/command_route_map.h"
 #include "tools/hatch_tool.h"
+#include "tools/host_patterns.h"
 #include "tools/raster_tool.h"
 #include "tools/tool_maker.h"
+
+#include <QFileInfo>
 
 namespace tc {
 namespace {
@@ -44,6 +50,17 @@ void takePattern(Hatch& agent, const OdDbHatch& hatch) {
   agent.setIsCrosswise(hatch.patternDouble());
 }
 
+/// A pattern can be the drawing's alone. The tool is made all the same: the pattern may come.
+void tellUnknownPattern(const Hatch& agent) {
+  const bool hasPattern =
+      agent.fields().hatchObjectType == 0 && agent.getHatchType() != OdDbHatch::kUserDefined;
+  if (hasPattern && !isPatternKnown(agent.getPatternName()))
+    host::print(formatText(
+        host::translate(QStringLiteral(
+            "\nThe hatch pattern \"%s\" is in no file of patterns: its tool cannot hatch here.")),
+        agent.getPatternName()));
+}
+
 } // namespace
 
 OdString withoutForeignPrefix(const OdString& patternName) {
@@ -70,7 +87,14 @@ bool OdTcToolMaker::takeImage(OdTcTool& tool, const OdDbRasterImage& image) {
   const OdDbRasterImageDefPtr definition = image.imageDefId().openObject();
   if (!definition || definition->activeFileName().isEmpty())
     return fail(host::translate(QStringLiteral("the image has no file")));
-  fromRaster(tool, definition->activeFileName());
+  // The palette does not know the drawing that a relative path starts from.
+  const QFileInfo file(odpath::toPlatform(definition->activeFileName()));
+  if (!file.isFile())
+    return fail(showWarning(
+        formatText(host::translate(QStringLiteral(
+                       "Unable to create the tool. The image file '%s' could not be located.")),
+                   definition->activeFileName())));
+  fromRaster(tool, odpath::fromPlatform(file.absoluteFilePath()));
   if (const OdString name = definition->name(); !name.isEmpty())
     static_cast<OdTcToolRasterCommandImpl*>(tool.getActionAgent())->setRasterName(name);
   captureGeneralProperties(tool.getGeneralProperties(), &image);
@@ -86,6 +110,7 @@ bool OdTcToolMaker::takeHatch(OdTcTool& tool, const OdDbHatch& hatch) {
   tool.setToolType(OdTcTool::kRegular);
   tool.setName(hatch.isGradient() ? agent->getGradientName() : agent->getPatternName());
   tool.setActionAgent(agent);
+  tellUnknownPattern(*agent);
   // The picture shows the colour.
   captureGeneralProperties(tool.getGeneralProperties(), &hatch);
   if (m_pictures == Pictures::kAtOnce) makePictures(tool);
@@ -100,8 +125,10 @@ bool OdTcToolMaker::takeInsert(OdTcTool& tool, OdDbObjectId insert) {
   IHostDocument* const document = host::curDocument();
   if (document && document->database() == block->database())
     return fromBlock(tool, block->getName(), document);
+  // Of a drawing that is not the active one only itself can tell whether it is saved.
   const OdString file = block->database()->fileName();
-  return file.isEmpty() ? failWith(5) : takeBlock(tool, *block, file);
+  const bool isSaved = !file.isEmpty() && !block->database()->isModified();
+  return isSaved ? takeBlock(tool, *block, file) : failWith(5);
 }
 
 bool OdTcToolMaker::takeDrawnBy(OdTcTool& tool, const OdDbEntity& entity) {

@@ -49,7 +49,7 @@ class MakeRun {
     }
     makeTools();
     ConsoleHost::instance().takeMessages();
-    if (toolCount() > 0 && !m_arguments.dryRun) enter(*target.catalog, target.file);
+    if (toolCount() > 0) enter(*target.catalog, target.file);
     report();
     if (!m_failure.isEmpty()) {
       m_console.err << "tpal: " << m_failure << "\n";
@@ -106,9 +106,10 @@ class MakeRun {
     return false;
   }
 
-  /// Brings the tools with their pictures into the palette, all or none.
+  /// Brings the tools with their pictures into the palette, all or none. A dry run goes the same
+  /// way up to the disk, so that it promises nothing that fails.
   void enter(tc::OdTcCatalog& catalog, const OdString& file) {
-    if (!odrxSystemServices()->createFolder(odpath::folderOf(file))) {
+    if (!m_arguments.dryRun && !odrxSystemServices()->createFolder(odpath::folderOf(file))) {
       m_failure = QStringLiteral("the folder %1 cannot be made").arg(odpath::folderOf(file));
       return;
     }
@@ -120,7 +121,7 @@ class MakeRun {
     for (const Row& row : m_rows)
       if (row.tool) filling.add(row.tool);
     makeAllPictures(filling);
-    if (!filling.commit())
+    if (!m_arguments.dryRun && !filling.commit())
       m_failure =
           QStringLiteral("%1: not written: %2").arg(filling.palette().getPath(), filling.problem());
     ConsoleHost::instance().takeMessages();
@@ -145,6 +146,10 @@ class MakeRun {
   void take(Row& row, const MadePictures& made, tc::OdTcPaletteFilling& filling) {
     if (made.pictures.empty()) {
       row.problem = QStringLiteral("no picture: %1").arg(made.problem);
+      return;
+    }
+    if (m_arguments.dryRun) {
+      for (const MadePicture& picture : made.pictures) row.pictures.push_back(picture.pixels);
       return;
     }
     row.tool->setImages(tc::OdTcImageList::createObject());
@@ -188,7 +193,11 @@ class MakeRun {
       if (!row.problem.isEmpty()) m_console.out << ": " << row.problem;
       m_console.out << "\n";
     }
-    m_console.out << toolCount() << (m_arguments.dryRun ? " tools would be" : " tools are")
+    const bool isOne = toolCount() == 1;
+    m_console.out << toolCount() << (isOne ? " tool " : " tools ")
+                  << (m_arguments.dryRun ? "would be"
+                      : isOne            ? "is"
+                                         : "are")
                   << " on the palette \"" << m_arguments.words[1] << "\"\n";
   }
   QJsonArray asJson() const {
@@ -218,6 +227,10 @@ class MakeRun {
 } // namespace
 
 ExitCode makeCommand(const Arguments& arguments, Console& console) {
+  if (arguments.words[1].trimmed().isEmpty()) {
+    console.err << "tpal: the palette needs a name\n";
+    return kUsage;
+  }
   return MakeRun(arguments, console).run();
 }
 

@@ -7,7 +7,8 @@ namespace oddb {
 
 /// The file that a stored path stands for: the path itself, taken from the drawing's folder if it
 /// is relative, or a file of its name in that folder. Empty if there is none; `drawing` may be
-/// empty.
+/// empty. Whoever asks gets what the drawing shows: DXF keeps no list of the files that a drawing
+/// depended on, so that there is no other record of what stood behind a path.
 OdString findStoredFile(const OdString& path, const OdString& drawing);
 
 /// True if something else stands where the path points to: a folder, a device or a pipe.

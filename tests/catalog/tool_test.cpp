@@ -47,6 +47,7 @@ TEST_F(ToolTest, SettingTheTypeMarksNothing) {
 TEST_F(ToolTest, WithoutATypeInTheFileIsNoRegularTool) {
   EXPECT_EQ(loadedTool("<ItemID idValue=\"T\"/>")->getToolType(), 0u);
   EXPECT_EQ(loadedTool("<ToolType>4294967295</ToolType>")->getToolType(), 4294967295u);
+  EXPECT_NE(loadedTool("<ToolType>4294967297</ToolType>")->getToolType(), 1u);
   EXPECT_EQ(loadedTool("<ToolType>none</ToolType>")->getToolType(), 0u);
 }
 

@@ -74,7 +74,7 @@ RECORDS = {
 
 MACROS = {
     "Line": "_LINE \\\\;",
-    "Text": "_TEXT \\;;Hello;",
+    "Text": "_MTEXT 0,0 50,-20 Hello;;",
     "Dimension": "_DIMLINEAR 0,0 10,0 5,5",
     "Look": "SETVAR ?;",
 }
@@ -147,11 +147,34 @@ class ToolProperties(unittest.TestCase):
                 self.run_script("TOOL:Line\n1,1\n2,2\n")
                 line = self.bench.read().modelspace()[0]
                 self.assertAlmostEqual(line.transparency, 0.4, places=2)
+            elif name == "Textstyle":
+                self.run_script("TOOL:Text\n")
+                text = self.bench.read().modelspace().query("MTEXT")[0]
+                self.assertEqual((text.dxf.style.upper(), text.dxf.text), ("NOTES", "Hello"))
+            elif name == "PlotStyle":
+                self.run_script("TOOL:Line\n1,1\n2,2\nLINE 0,0 1,1 \n")
+                line, plain = self.bench.read().modelspace()
+                self.assertEqual(line.dxf.get("plotstyle_enum"), 1)
+                self.assertEqual(plain.dxf.get("plotstyle_enum", 0), 0)
             elif name == "Dimstyle":
                 self.run_script("TOOL:Dimension\n")
                 dimension = self.bench.read().modelspace().query("DIMENSION")[0]
                 self.assertEqual(dimension.dxf.dimstyle.upper(), "SITE")
         self.each_state(check)
+
+    def test_named_plot_style_is_drawn(self):
+        self.prepare(None)
+        document = ezdxf.readfile(self.bench.path("host.dxf"))
+        document.header["$PSTYLEMODE"] = 0
+        styles = document.rootdict["ACAD_PLOTSTYLENAME"]
+        styles["Grey"] = document.objects.add_placeholder(styles.dxf.handle)
+        document.saveas(self.bench.path("host.dxf"))
+        self.bench.write_catalog([("T", "Command", {"Macro": MACROS["Line"]},
+                                   prop("PlotStyle", "Grey"))])
+        self.assert_nothing_is_left("TOOL:T\n1,1\n2,2\n")
+        made = self.bench.read()
+        self.assertEqual(made.modelspace()[0].dxf.get("plotstyle_handle"),
+                         made.rootdict["ACAD_PLOTSTYLENAME"]["Grey"].dxf.handle)
 
     def test_records_of_the_drawing_win(self):
         tables = {"Layer": ("layers", "Walls", "color", 6, 3),

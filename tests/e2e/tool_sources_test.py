@@ -100,16 +100,16 @@ PATHS = ["", "%NOSUCHMACRO%\\x.dxf", "%UserProfileSamplesFolder%\\nothing\\x.dxf
 # Numbers of a palette's file, and the refusal of the host; without one the tool runs.
 NUMBERS = [
     ("Block", "Scale", "0", "A block cannot be inserted at the scale 0."),
-    ("Block", "Scale", "nan", "A block cannot be inserted at the scale 0."),
-    ("Block", "Scale", "inf", "A block cannot be inserted at the scale 0."),
+    ("Block", "Scale", "nan", None),
+    ("Block", "Scale", "inf", None),
     ("Block", "Scale", "-2", None),
     ("Block", "Scale", "1e300", None),
     ("Block", "Rotation", "1e300", None),
     ("Block", "Rotation", "nan", None),
     ("Raster", "Scale", "0", "A picture cannot be inserted at the scale 0."),
     ("Raster", "Scale", "-2", "A picture cannot be inserted at the scale -2."),
-    ("Raster", "Scale", "nan", "A picture cannot be inserted at the scale 0."),
-    ("Raster", "Scale", "inf", "A picture cannot be inserted at the scale 0."),
+    ("Raster", "Scale", "nan", None),
+    ("Raster", "Scale", "inf", None),
     ("Raster", "Rotation", "1e300", None),
     ("Raster", "Rotation", "inf", None),
     ("Hatch", "Scale", "0", None),
@@ -258,6 +258,9 @@ class ToolSources(unittest.TestCase):
                     self.expect(run, refusal, True)
                     continue
                 self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+                # What is no number is told, and the field has its usual value.
+                self.assertEqual(f'{field}: "{value}" is no value' in run.stdout + run.stderr,
+                                 value in ("nan", "inf"), run.stdout + run.stderr)
                 kind = {"Block": "INSERT", "Raster": "IMAGE"}.get(agent, "HATCH")
                 made = self.bench.read().modelspace().query(kind)
                 self.assertEqual(len(made), 1)

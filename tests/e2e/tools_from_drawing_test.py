@@ -25,6 +25,16 @@ GENERAL = {"layer": "Walls", "color": 30, "linetype": "DASHDOT", "ltscale": 2.5,
 # Blocks, hatches and images leave the scale of line types to the drawing.
 WITHOUT_SCALE = [name for name in GENERAL if name != "ltscale"]
 
+
+def aligned(space, attributes):
+    """ezdxf makes a turned linear dimension of it; the kind that other programs write is told in its
+    type alone."""
+    made = space.add_aligned_dim((0, 0), (20, 10), 5, dimstyle="Plans",
+                                 dxfattribs=attributes).render().dimension
+    made.dxf.dimtype = made.dxf.dimtype & ~7 | 1
+    return made
+
+
 # An entity of each kind that a command draws, the name of its tool, and what the command is told.
 DRAWN = {
     "line": (lambda m, a: m.add_line((0, 0), (50, 0), a), "Line", "0,0\n50,0\n\n"),
@@ -44,7 +54,27 @@ DRAWN = {
     "linear": (lambda m, a: m.add_linear_dim((0, 5), (0, 0), (20, 0), dimstyle="Plans",
                                              dxfattribs=a).render().dimension,
                "Linear Dimension", "0,0\n20,0\n0,5\n"),
+    "aligned": (lambda m, a: aligned(m, a), "Aligned Dimension", "0,0\n30,40\n0,20\n"),
+    "radius": (lambda m, a: m.add_radius_dim((0, 0), radius=5, angle=45, dimstyle="Plans",
+                                             dxfattribs=a).render().dimension,
+               "Radius Dimension", "35,0\n30,12\n"),
+    "diameter": (lambda m, a: m.add_diameter_dim((0, 0), radius=5, angle=45, dimstyle="Plans",
+                                                 dxfattribs=a).render().dimension,
+                 "Diameter Dimension", "35,0\n30,12\n"),
+    "leader": (lambda m, a: m.add_leader([(0, 0), (10, 10), (15, 10)], "Plans", dxfattribs=a),
+               "Leader", "0,0\n10,10\n\nnote\n\n"),
+    "attribute": (lambda m, a: m.add_attdef("NO", (0, 0), "7", height=3,
+                                            dxfattribs={**a, "style": "Fancy"}),
+                  "Attribute", "\nNO\n\n7\n0,0\n3\n0\n"),
+    "old polyline": (lambda m, a: m.add_polyline2d([(0, 0), (9, 0), (9, 9)], dxfattribs=a),
+                     "Polyline", "0,0\n9,0\n\n"),
+    "old polyline in space": (lambda m, a: m.add_polyline3d([(0, 0, 0), (9, 0, 5)], dxfattribs=a),
+                              "Polyline", "0,0\n9,0\n\n"),
 }
+# What commands need in the drawing, and what they draw in place of the entity's own kind.
+NEEDS = {"radius": "CIRCLE 30,0 5\n", "diameter": "CIRCLE 30,0 5\n"}
+DRAWS = {"old polyline": "LWPOLYLINE", "old polyline in space": "LWPOLYLINE"}
+TEXTS, DIMENSIONS = ("text", "mtext", "attribute"), ("linear", "aligned", "radius", "diameter", "leader")
 
 
 def source_drawing():
@@ -129,8 +159,8 @@ class Entities(Roads):
         make, name, answers = DRAWN[kind]
         original = make(self.space, dict(GENERAL))
         self.make_of(original)
-        document = self.run_tool(name, answers)
-        made = self.only(document, original.dxftype())
+        document = self.run_tool(name, answers, NEEDS.get(kind, ""))
+        made = self.only(document, DRAWS.get(kind, original.dxftype()))
         self.assert_same(made, original, GENERAL)
         self.assert_same_layer(document)
         # What was current before the run is so again.
@@ -140,7 +170,7 @@ class Entities(Roads):
         return made, original, document
 
     def test_text_style_comes_along(self):
-        for kind in ("text", "mtext"):
+        for kind in TEXTS:
             with self.subTest(kind):
                 self.setUp()
                 made, original, document = self.check(kind)
@@ -149,10 +179,17 @@ class Entities(Roads):
                                  ("font", "width", "oblique"))
 
     def test_dimension_style_comes_along(self):
-        made, original, document = self.check("linear")
-        self.assert_same(made, original, ["dimstyle"])
-        self.assert_same(document.dimstyles.get("Plans"), self.source.dimstyles.get("Plans"),
-                         ("dimtxt", "dimasz", "dimexo", "dimtxsty"))
+        for kind in DIMENSIONS:
+            with self.subTest(kind):
+                self.setUp()
+                made, original, document = self.check(kind)
+                self.assert_same(made, original, ["dimstyle"])
+                if original.dxftype() == "DIMENSION":
+                    self.assertEqual(made.dimtype, original.dimtype)
+                self.assert_same(document.dimstyles.get("Plans"),
+                                 self.source.dimstyles.get("Plans"),
+                                 ("dimtxt", "dimasz", "dimexo", "dimtxsty"))
+                self.assertEqual(document.header["$DIMSTYLE"].upper(), "STANDARD")
 
     def test_entity_of_a_kind_that_no_command_draws(self):
         face = self.space.add_3dface([(0, 0), (1, 0), (1, 1)])
@@ -182,8 +219,8 @@ class Entities(Roads):
 
 
 for _kind in DRAWN:
-    if _kind not in ("text", "mtext", "linear"):
-        setattr(Entities, "test_" + _kind, lambda self, kind=_kind: self.check(kind) and None)
+    if _kind not in TEXTS + DIMENSIONS:
+        setattr(Entities, "test_" + _kind.replace(" ", "_"), lambda self, kind=_kind: self.check(kind) and None)
 
 
 class Hatches(Roads):
@@ -214,6 +251,16 @@ class Hatches(Roads):
         made, _ = self.hatch(setup, "ISO02W100")
         self.assertEqual(made.dxf.pattern_name, "ISO02W100")
         self.assertEqual(made.dxf.pattern_scale, 3)
+
+    def test_pattern_that_stands_in_no_file(self):
+        def setup(h):
+            h.set_pattern_fill("ANSI31", color=30)
+            h.dxf.pattern_name = "HOUSEOWN"
+        hatch = self.space.add_hatch()
+        hatch.paths.add_polyline_path([(0, 0), (9, 0), (9, 9)], is_closed=True)
+        setup(hatch)
+        self.assertIn('The hatch pattern "HOUSEOWN" is in no file of patterns', self.make_of(hatch))
+        self.assertIn("HOUSEOWN  [hatch]", self.tools())
 
     def test_solid(self):
         made, _ = self.hatch(lambda h: h.set_solid_fill(color=30), "SOLID")
@@ -322,6 +369,17 @@ class Blocks(Roads):
         self.assertTrue(block.dxf.xref_path.endswith("other.dxf"))
         self.assertEqual(made.dxf.layer, "Walls")
 
+    def test_external_reference_is_the_file_that_the_drawing_shows(self):
+        self.bench.path("parts").mkdir()
+        for name in ("other.dxf", "parts/other.dxf"):
+            other = ezdxf.new("R2010")
+            other.modelspace().add_line((0, 0), (30, 0))
+            other.saveas(self.bench.path(name))
+        self.make_of(self.reference("parts\\other.dxf"))
+        made = self.only(self.run_tool("Ref", "7,8\n"), "INSERT")
+        path = made.block().block.dxf.xref_path.replace("\\", "/")
+        self.assertTrue(path.endswith("/parts/other.dxf"), path)
+
     def test_external_reference_whose_file_has_vanished(self):
         original = self.reference("..\\gone\\other.dxf")
         output = self.make(f"Object\nHandle\n{original.dxf.handle}\n\n", 1)
@@ -362,6 +420,21 @@ class FilesAndCommands(Roads):
         self.assertTrue(made.image_def.dxf.filename.endswith("photo.png"))
         self.assert_same(made, original, WITHOUT_SCALE)
         self.assert_same_layer(document)
+
+    def test_image_whose_file_is_missing(self):
+        definition = self.source.add_image_def("pictures\\gone.png", (40, 20), "Site")
+        original = self.space.add_image(definition, (0, 0), (8, 4))
+        output = self.make(f"Object\nHandle\n{original.dxf.handle}\n\n", 1)
+        self.assertIn("Unable to create the tool. The image file 'pictures\\gone.png' could not be "
+                      "located.", output)
+        self.assertNotIn("[", self.tools())
+
+    def test_image_beside_the_drawing(self):
+        write_picture(self.bench.path("photo.png"), 40, 20)
+        definition = self.source.add_image_def("photo.png", (40, 20), "Site")
+        self.make_of(self.space.add_image(definition, (0, 0), (8, 4)))
+        made = self.only(self.run_tool("photo", "5,6\n"), "IMAGE")
+        self.assertTrue(made.image_def.dxf.filename.endswith("photo.png"))
 
     def test_command(self):
         self.script("ToolPalettesMake\nNew palette\nNew group\nCommand\nrectang\n")

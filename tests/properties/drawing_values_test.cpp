@@ -120,6 +120,20 @@ TEST_F(DrawingValuesTest, AValueThatNoDrawingTakesBackIsTold) {
       << testhost::host().log.join(u'\n').toStdString();
 }
 
+TEST_F(DrawingValuesTest, ANamedPlotStyleDoesNotStayBehindTheTypeThatIsPutBack) {
+  const OdDbDictionaryPtr styles =
+      drawing->getPlotStyleNameDictionaryId().openObject(OdDb::kForWrite);
+  styles->setAt(text(u"Grey"), odrxMake<OdDbDictionaryVar>());
+  const QByteArray before = drawing->writeDxf();
+  const auto style = odrxMake<OdTcPlotStylePropertyImpl>();
+  style->setText(text(u"Grey"));
+  style->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentPlotStyleType(), OdDb::kPlotStyleNameById);
+  style->restoreToDatabase(drawing);
+  EXPECT_EQ(drawing->currentPlotStyleType(), OdDb::kPlotStyleNameByLayer);
+  EXPECT_EQ(drawing->writeDxf(), before);
+}
+
 TEST_F(DrawingValuesTest, FrozenPropertyNeitherSavesNorApplies) {
   const auto scale = odrxMake<OdTcLineTypeScalePropertyImpl>();
   scale->setText(text(u"4"));

@@ -143,4 +143,18 @@ TEST_F(EntityValuesTest, WhatIsNoEntityChangesNothing) {
   EXPECT_FALSE(isUnspecified<OdTcTextStylePropertyImpl>());
 }
 
+TEST_F(EntityValuesTest, EveryOpacityOfProgramsComesBackFromItsPercentage) {
+  // 10 % opaque is the clearest that programs offer.
+  for (int alpha = 26; alpha <= 255; ++alpha) {
+    const auto opacity = OdCmTransparency::fromAlpha(static_cast<std::uint8_t>(alpha));
+    const auto line = odrxMake<OdDbLine>();
+    line->setTransparency(opacity);
+    const auto property = odrxMake<OdTcTransparencyPropertyImpl>();
+    ASSERT_TRUE(property->captureFromObject(line));
+    const OdDbDatabasePtr fresh = OdDbDatabase::createDatabase();
+    property->applyToDatabase(fresh);
+    EXPECT_EQ(fresh->currentTransparency(), opacity) << property->text().toStdString();
+  }
+}
+
 } // namespace

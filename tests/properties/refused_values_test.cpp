@@ -295,6 +295,80 @@ TEST_F(RefusedValuesTest, LengthsThatAreNoNumbersAreNone) {
   EXPECT_TRUE(std::isfinite(made->dashLengthAt(2)));
 }
 
+TEST_F(RefusedValuesTest, ALengthThatIsNoNumberIsTold) {
+  lineTypeOf("numberOfPatternElements=\"1\"><SymbolTableNameRecord>Odd</SymbolTableNameRecord>"
+             "<TotalPatternLength>NaN</TotalPatternLength><LinetypeElements>"
+             "<LinetypeElement><Dash>nan</Dash></LinetypeElement></LinetypeElements>");
+  EXPECT_TRUE(told().contains(u"TotalPatternLength: \"NaN\""_s)) << told().toStdString();
+  EXPECT_TRUE(told().contains(u"Dash: \"nan\""_s)) << told().toStdString();
+}
+
+TEST_F(RefusedValuesTest, AColorOfMoreThanItsBitsIsToldAndNotTaken) {
+  const auto color = readPart<OdTcColorPropertyImpl>(
+      "<Color><BasicPropInfo><PropValue unspecified=\"FALSE\"/></BasicPropInfo>"
+      "<ColorCreateInfo><AcCmColor mRGB=\"7566524417\"/></ColorCreateInfo></Color>");
+  EXPECT_FALSE(color->hasColor()) << "its last 32 bits are colour 1";
+  EXPECT_TRUE(told().contains(u"mRGB: \"7566524417\""_s)) << told().toStdString();
+}
+
+TEST_F(RefusedValuesTest, ALayersLineTypeThatIsNowhereIsTold) {
+  const auto layer = readPart<OdTcLayerPropertyImpl>(
+      layerElement(u"Walls"_s, "<Linetype><BasicPropInfo><PropValue unspecified=\"FALSE\" "
+                               "valueType=\"1\" value=\"Nowhere\"/></BasicPropInfo></Linetype>")
+          .constData());
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(currentLayer(), u"Walls"_s);
+  EXPECT_TRUE(told().contains(u"General.Line type: \"Nowhere\""_s)) << told().toStdString();
+}
+
+TEST_F(RefusedValuesTest, ATransparencyThatDrawingsCannotHaveIsTold) {
+  const auto apply = [&](const char16_t* percent) {
+    testhost::host().log.clear();
+    const auto property = odrxMake<OdTcTransparencyPropertyImpl>();
+    property->setText(OdString::fromUtf16(percent));
+    drawing->setCurrentTransparency(OdCmTransparency());
+    property->applyToDatabase(drawing);
+    return drawing->currentTransparency();
+  };
+  EXPECT_EQ(apply(u"90").percent(), 90);
+  EXPECT_EQ(told(), QString());
+  EXPECT_EQ(apply(u"33.7"), OdCmTransparency::fromAlpha(169)) << "not that of 33";
+  EXPECT_EQ(told(), QString());
+  for (const char16_t* percent : {u"90.5", u"95", u"100"}) {
+    EXPECT_TRUE(apply(percent).isByLayer());
+    EXPECT_TRUE(told().contains(u"General.Transparency: \""_s + OdString::fromUtf16(percent)));
+  }
+}
+
+TEST_F(RefusedValuesTest, AFontOfALineTypeIsFoundInAnyCase) {
+  auto shapes = odrxMake<OdDbTextStyleTableRecord>();
+  shapes->setName(u"Notes"_s);
+  shapes->setFileName(u"ROMANS.SHX"_s);
+  const OdDbObjectId own =
+      drawing->getTextStyleTableId().openAs<OdDbTextStyleTable>(OdDb::kForWrite)->add(shapes);
+  const auto made = lineTypeOf(
+      "numberOfPatternElements=\"1\"><SymbolTableNameRecord>Gas</SymbolTableNameRecord>"
+      "<LinetypeElements><LinetypeElement><Dash>2</Dash><ComplexLinetypeElement handle=\"7\">"
+      "<TextString>GAS</TextString></ComplexLinetypeElement></LinetypeElement></LinetypeElements>"
+      "<TextstyleTableRecordCollection><Reference handle=\"7\"><Textstyle><TextStyleCreateInfo>"
+      "<TextstyleTableRecord fontOrShapeFile=\"romans.shx\" widthRatio=\"1\">"
+      "<SymbolTableNameRecord>Mine</SymbolTableNameRecord></TextstyleTableRecord>"
+      "</TextStyleCreateInfo></Textstyle></Reference></TextstyleTableRecordCollection>");
+  ASSERT_TRUE(made);
+  EXPECT_EQ(made->shapeStyleAt(0), own);
+}
+
+TEST_F(RefusedValuesTest, ANameInAnotherCaseKeepsItsSnapshot) {
+  const auto layer = readPart<OdTcLayerPropertyImpl>(
+      layerElement(u"Walls"_s, {}, "lineWeight=\"35\"").constData());
+  layer->setRecordName(u"WALLS"_s);
+  ASSERT_TRUE(layer->record());
+  layer->applyToDatabase(drawing);
+  EXPECT_EQ(drawing->currentLayer().openAs<OdDbLayerTableRecord>()->lineWeight(), 35);
+  layer->setRecordName(u"Windows"_s);
+  EXPECT_FALSE(layer->record()) << "another name is another record";
+}
+
 TEST_F(RefusedValuesTest, ATextStyleKeepsAFontThatThisMachineLacks) {
   const auto style = readPart<OdTcTextStylePropertyImpl>(
       "<Textstyle><TextStyleCreateInfo><TextstyleTableRecord isShapeFilePointer=\"FALSE\" "

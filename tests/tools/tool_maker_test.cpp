@@ -389,6 +389,9 @@ TEST_F(ToolMakerTest, InsertOfADrawingThatIsNotShownNeedsItsFile) {
   EXPECT_FALSE(manager().createToolFromEntity(insert));
   EXPECT_EQ(boxes().size(), 1);
   drawing->setFileName(u"C:\\lib.dxf"_s);
+  EXPECT_FALSE(manager().createToolFromEntity(insert)) << "the block is not in the file yet";
+  EXPECT_EQ(boxes().size(), 2);
+  drawing->setSaved();
   const OdTcToolPtr tool = manager().createToolFromEntity(insert);
   ASSERT_TRUE(tool);
   EXPECT_EQ(agentOf<OdTcToolBlockCommandImpl>(tool).getSourceFile(), u"C:\\lib.dxf"_s);
@@ -416,12 +419,30 @@ TEST_F(ToolMakerTest, ImageBecomesARasterToolOfItsFileAndDefinition) {
   EXPECT_FALSE(manager().createToolFromEntity(entity));
 }
 
+TEST_F(ToolMakerTest, ImageIsFoundBesideTheDrawingOrToldToBeMissing) {
+  save();
+  const auto definition = odrxMake<OdDbRasterImageDef>();
+  definition->setSourceFileName(u"pictures\\photo.png"_s);
+  const OdDbObjectId id = OdDbRasterImageDef::createImageDictionary(*drawing)
+                              .openAs<OdDbDictionary>(OdDb::kForWrite)
+                              ->setAt(u"Site"_s, definition);
+  const auto image = odrxMake<OdDbRasterImage>();
+  image->setImageDefId(id);
+  const OdDbObjectId entity = add(image);
+  EXPECT_FALSE(manager().createToolFromEntity(entity));
+  EXPECT_EQ(boxes(), QStringList{u"Drafton: Unable to create the tool. The image file "
+                                 u"'pictures\\photo.png' could not be located."_s});
+  const OdString path = writePicture(u"photo.png"_s);
+  const OdTcToolPtr tool = manager().createToolFromEntity(entity);
+  ASSERT_TRUE(tool);
+  EXPECT_EQ(agentOf<OdTcToolRasterCommandImpl>(tool).getSourceFile(), path);
+  EXPECT_EQ(boxes().size(), 1);
+}
+
 // --- hatches
 
 struct HatchMakerTest : ToolMakerTest {
-  OdTcToolPtr toolOfHatch() {
-    return manager().createToolFromEntity(add(hatch));
-  }
+  OdTcToolPtr toolOfHatch() { return manager().createToolFromEntity(add(hatch)); }
   const OdTcToolHatchCommandImpl& agent() { return agentOf<OdTcToolHatchCommandImpl>(tool); }
   OdSmartPtr<OdDbHatch> hatch = odrxMake<OdDbHatch>();
   OdTcToolPtr tool;
@@ -453,6 +474,16 @@ TEST_F(HatchMakerTest, PatternThatIsNobodysOwnStandsInTheDefaultFile) {
   tool = toolOfHatch();
   EXPECT_EQ(agent().getHatchType(), 2);
   EXPECT_EQ(agent().getSourceFile(), u"draftoniso.pat"_s);
+}
+
+TEST_F(HatchMakerTest, LinesAndGradientsNeedNoPattern) {
+  host().previews.canRender = false;
+  hatch->setPattern(OdDbHatch::kUserDefined, u"_USER"_s, OdHatchPattern::userDefined(1, true));
+  ASSERT_TRUE(toolOfHatch());
+  hatch = odrxMake<OdDbHatch>();
+  hatch->setGradient(true);
+  ASSERT_TRUE(toolOfHatch());
+  EXPECT_EQ(host().messages.printed, QStringList());
 }
 
 TEST_F(HatchMakerTest, HatchOfLinesHasTheTranslatedNameAndIsUserDefined) {

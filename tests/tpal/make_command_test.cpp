@@ -249,8 +249,58 @@ TEST_F(Make, OnlyLooksInADryRun) {
   EXPECT_EQ(make({drawing(QStringLiteral("doors.dxf"), {QStringLiteral("Door")}), kBlocks, kDry}),
             tpal::kOk);
   EXPECT_TRUE(out().contains(QStringLiteral("would be Door (block)"))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("1 tool would be on the palette \"P\"")));
   EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("c"))));
-  EXPECT_EQ(count.services, 0);
+}
+
+TEST_F(Make, PromisesInADryRunWhatTheRunKeeps) {
+  write(QStringLiteral("broken.png"), "no picture");
+  const QStringList words{path(QStringLiteral("broken.png")), picture(QStringLiteral("site.png")),
+                          QStringLiteral("LINE"), kJson};
+  const auto told = [&] {
+    QStringList all;
+    for (const QJsonValue& row : rows())
+      all << row[QStringLiteral("kind")].toString() + u' ' +
+                 QString::number(row[QStringLiteral("pictures")].toArray().size()) + u' ' +
+                 row[QStringLiteral("problem")].toString();
+    return all;
+  };
+  EXPECT_EQ(make(words + QStringList{kDry}), tpal::kFindings) << qPrintable(err());
+  const QStringList promised = told();
+  EXPECT_TRUE(promised.value(0).startsWith(QStringLiteral("raster 0 no picture: ")))
+      << qPrintable(out());
+  EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("c"))));
+  EXPECT_EQ(make(words), tpal::kFindings);
+  EXPECT_EQ(told(), promised);
+}
+
+TEST_F(Make, LooksAtThePaletteInADryRunAndLeavesIt) {
+  writeCatalog(tool("{1}", "Old", "<Command Macro=\"LINE\"/>"));
+  const QByteArray before = read(QStringLiteral("c/Palettes/p.dtc"));
+  const QString plan = drawing(QStringLiteral("plan.dxf"), {});
+  EXPECT_EQ(make({plan, kDry}), tpal::kOk) << qPrintable(err());
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/p.dtc")), before);
+  write(QStringLiteral("c/Palettes/p.dtc"), "<Palette><broken");
+  EXPECT_EQ(
+      run({QStringLiteral("make"), path(QStringLiteral("c")), QStringLiteral("{P}"), plan, kDry}),
+      tpal::kFailed);
+  EXPECT_TRUE(err().contains(QStringLiteral("cannot be read"))) << qPrintable(err());
+}
+
+TEST_F(Make, GivesNoPaletteWithoutAName) {
+  for (const char* name : {"", "  "}) {
+    EXPECT_EQ(run({QStringLiteral("make"), path(QStringLiteral("c")), QLatin1String(name),
+                   drawing(QStringLiteral("plan.dxf"), {})}),
+              tpal::kUsage);
+    EXPECT_TRUE(err().contains(QStringLiteral("the palette needs a name"))) << qPrintable(err());
+  }
+  EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("c"))));
+}
+
+TEST_F(Make, CountsOneToolAsOne) {
+  EXPECT_EQ(make({drawing(QStringLiteral("plan.dxf"), {})}), tpal::kOk);
+  EXPECT_TRUE(out().contains(QStringLiteral("1 tool is on the palette \"P\"")))
+      << qPrintable(out());
 }
 
 TEST_F(Make, ReportsEachToolAsJson) {
