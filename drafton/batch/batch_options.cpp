@@ -105,14 +105,18 @@ BatchArguments parseArguments(const QStringList& arguments) {
 
 OdString helpText() {
   return QStringLiteral(
-      "Usage: drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
+      "Usage: drafton [--catalogs DIR[;DIR...]] [--profile FILE] [DRAWING...]\n"
+      "       drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
       "                     [--out FILE.dxf [--dxf-version V]]\n"
       "                     [--png FILE [--size WxH] [--background COLOR]\n"
       "                     [--extents | --window X1,Y1,X2,Y2] [--layout NAME]] [DRAWING.dxf]\n"
       "\n"
-      "Runs Drafton without a window. The lines of the script, or of standard input, are\n"
-      "typed into the command line; each is followed by Enter. What the command line shows\n"
-      "goes to standard output, errors go to standard error.\n"
+      "The first opens Drafton's window, with the drawings in tabs; without one, with a new\n"
+      "drawing.\n"
+      "\n"
+      "The second runs Drafton without a window. The lines of the script, or of standard\n"
+      "input, are typed into the command line; each is followed by Enter. What the command\n"
+      "line shows goes to standard output, errors go to standard error.\n"
       "\n"
       "  DRAWING.dxf      the drawing to open; without it a new one\n"
       "  --catalogs DIRS  the folders of tool palette catalogs for this run, separated by ;\n"

@@ -4,6 +4,8 @@
 #include "drafton/render/renderer.h"
 #include "drafton/render/scene_painter.h"
 
+#include <QEvent>
+
 namespace drafton {
 namespace {
 
@@ -49,6 +51,14 @@ BlockList::BlockList(Desktop& desktop, QWidget* parent)
 
 void BlockList::showEvent(QShowEvent* event) {
   QListWidget::showEvent(event);
+  follow();
+}
+
+void BlockList::changeEvent(QEvent* event) {
+  QListWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  // The pictures stand on the drawing's ground.
+  m_shown = nullptr;
   follow();
 }
 

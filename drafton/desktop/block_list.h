@@ -18,6 +18,7 @@ class BlockList : public QListWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   Desktop& m_desktop;

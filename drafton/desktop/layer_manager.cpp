@@ -1,9 +1,11 @@
 #include "drafton/desktop/layer_manager.h"
 
+#include "drafton/desktop/theme.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/render/style.h"
 
 #include <QColorDialog>
+#include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -77,6 +79,12 @@ LayerManager::LayerManager(Desktop& desktop, QWidget* parent)
   follow();
 }
 
+void LayerManager::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  // Colours are shown as they are drawn, and so by what they are drawn on.
+  if (event->type() == QEvent::PaletteChange && isVisible()) follow();
+}
+
 OdDbObjectId LayerManager::layerAt(int row) const {
   OdDbDatabase* const database = m_desktop.database();
   const QTableWidgetItem* const item = m_table->item(row, kName);
@@ -110,8 +118,10 @@ void LayerManager::follow() {
         m_table->setItem(row, kFirstSwitch + static_cast<int>(i), item);
       }
       QTableWidgetItem* const color = cell(shownColor(layer->color()), false);
-      color->setData(Qt::DecorationRole,
-                     QColor::fromRgb(Ground(qRgb(255, 255, 255)).paint(layer->color().color())));
+      color->setData(
+          Qt::DecorationRole,
+          QColor::fromRgb(
+              Ground(canvasColors(isDark(palette())).ground.rgb()).paint(layer->color().color())));
       m_table->setItem(row, kColor, color);
       m_table->setItem(row, kLinetype, cell(recordName(layer->linetypeObjectId()), true));
       m_table->setItem(row, kWeight, cell(shownLineWeight(layer->lineWeight()), false));

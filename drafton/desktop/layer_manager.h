@@ -20,6 +20,9 @@ class LayerManager : public QWidget {
   void addLayer();
   void makeCurrent();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void changed(QTableWidgetItem* item);
   void chooseColor(int row);

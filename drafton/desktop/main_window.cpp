@@ -288,7 +288,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  // The system went over to the other theme.
+  // The user, or the system, went over to the other theme.
   if (event->type() == QEvent::PaletteChange) m_actions->showIcons(isDark(palette()));
   QMainWindow::changeEvent(event);
 }

@@ -118,14 +118,23 @@ void OptionsDialog::accept() {
     else
       m_desktop.setSetting(row.name, value);
   }
+  applyTheme(choiceOption(m_desktop, "Theme"));
   QDialog::accept();
 }
 
 void applyTheme(const OdString& name) {
-  if (name == QLatin1String("System")) return;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  QApplication::setPalette(
-      name == QLatin1String("Dark") ? darkPalette() : QApplication::style()->standardPalette());
+  // What was there first is the system's.
+  static const OdString systemStyle = QApplication::style()->name();
+  const bool isSystem = name == QLatin1String("System");
+  const OdString style = isSystem ? systemStyle : QStringLiteral("Fusion");
+  if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0)
+    QApplication::setStyle(QStyleFactory::create(style));
+  if (isSystem)
+    QApplication::setPalette(QPalette());
+  else if (name == QLatin1String("Dark"))
+    QApplication::setPalette(darkPalette());
+  else
+    QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 } // namespace drafton

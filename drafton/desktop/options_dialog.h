@@ -40,7 +40,8 @@ class OptionsDialog : public QDialog {
   std::vector<QWidget*> m_editors; ///< in the order of the table
 };
 
-/// Puts the chosen theme in force: that of the system, or one of Drafton's own.
+/// Puts the chosen theme in force at once: that of the system, or one of Drafton's own. To be
+/// called first before anything else has changed the style.
 void applyTheme(const OdString& name);
 
 } // namespace drafton

@@ -1,11 +1,13 @@
 #include "drafton/desktop/property_bar.h"
 
+#include "drafton/desktop/theme.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/render/style.h"
 
 #include <QAbstractItemView>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 
@@ -24,13 +26,14 @@ OdCmColor colorOf(std::uint32_t value) {
   return color;
 }
 
-QIcon swatch(const OdCmColor& color, bool isOff = false) {
-  QPixmap pixmap(kSwatch, kSwatch);
+QIcon swatch(const OdCmColor& color, const Ground& ground, double ratio, bool isOff = false) {
+  QPixmap pixmap(QSizeF(kSwatch * ratio, kSwatch * ratio).toSize());
+  pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setPen(QColor(128, 128, 128));
   if (!color.isByLayer() && !color.isByBlock() && !isOff)
-    painter.setBrush(QColor::fromRgb(Ground(qRgb(255, 255, 255)).paint(color.color())));
+    painter.setBrush(QColor::fromRgb(ground.paint(color.color())));
   painter.drawRect(1, 1, kSwatch - 3, kSwatch - 3);
   return QIcon(pixmap);
 }
@@ -82,6 +85,12 @@ PropertyBar::PropertyBar(Desktop& desktop, QWidget* parent)
   follow();
 }
 
+void PropertyBar::changeEvent(QEvent* event) {
+  QToolBar::changeEvent(event);
+  // Colours are shown as they are drawn, and so by what they are drawn on.
+  if (event->type() == QEvent::PaletteChange && isVisible()) follow();
+}
+
 QComboBox* PropertyBar::addList(const char16_t* name, int letters) {
   auto* const list = new QComboBox(this);
   list->setAccessibleName(translated(name));
@@ -94,20 +103,22 @@ QComboBox* PropertyBar::addList(const char16_t* name, int letters) {
 }
 
 void PropertyBar::fill(OdDbDatabase& database) {
+  const double ratio = devicePixelRatioF();
+  const Ground ground(canvasColors(isDark(palette())).ground.rgb());
   m_layers->clear();
   const auto layers = database.getLayerTableId().openAs<OdDbLayerTable>();
   for (auto at = layers->newIterator(); !at->done(); at->step()) {
     const auto layer = odrxCast<OdDbLayerTableRecord>(at->getRecord().get());
-    m_layers->addItem(swatch(layer->color(), layer->isOff() || layer->isFrozen()), layer->getName(),
-                      layer->getName());
+    m_layers->addItem(swatch(layer->color(), ground, ratio, layer->isOff() || layer->isFrozen()),
+                      layer->getName(), layer->getName());
   }
   m_linetypes->clear();
   const auto linetypes = database.getLinetypeTableId().openAs<OdDbLinetypeTable>();
   for (auto at = linetypes->newIterator(); !at->done(); at->step())
     m_linetypes->addItem(at->getRecord()->getName(), at->getRecord()->getName());
   m_colors->clear();
-  const auto addColor = [this](const OdCmColor& color) {
-    m_colors->addItem(swatch(color), shownColor(color), color.color());
+  const auto addColor = [&](const OdCmColor& color) {
+    m_colors->addItem(swatch(color, ground, ratio), shownColor(color), color.color());
   };
   addColor(OdCmColor());
   addColor(OdCmColor(OdCmColor::kByBlock));
@@ -144,7 +155,9 @@ void PropertyBar::follow() {
   select(*m_weights, weight);
   if (color.isValid() && m_colors->findData(color) < 0) {
     const OdCmColor other = colorOf(color.toUInt());
-    m_colors->insertItem(m_colors->count() - 1, swatch(other), shownColor(other), color);
+    const Ground ground(canvasColors(isDark(palette())).ground.rgb());
+    m_colors->insertItem(m_colors->count() - 1, swatch(other, ground, devicePixelRatioF()),
+                         shownColor(other), color);
   }
   select(*m_colors, color);
 }

@@ -25,6 +25,9 @@ class PropertyBar : public QToolBar {
   /// Brings the lists to what is true now.
   void follow();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   QComboBox* addList(const char16_t* name, int letters);
   void fill(OdDbDatabase& database);

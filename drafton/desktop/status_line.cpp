@@ -87,10 +87,16 @@ void StatusLine::chooseSnaps() {
 
 void StatusLine::showPlace(const Canvas* canvas) {
   const std::optional<CursorPlace> place = canvas ? canvas->cursorPlace() : std::nullopt;
-  if (!place) return m_place->clear();
-  const int digits = digitsFor(canvas->document()->pixelSize());
-  m_place->setText(QStringLiteral("%1, %2").arg(QString::number(place->point.x, 'f', digits),
-                                                QString::number(place->point.y, 'f', digits)));
+  OdString text;
+  if (place) {
+    const int digits = digitsFor(canvas->document()->pixelSize());
+    text = QStringLiteral("%1, %2").arg(QString::number(place->point.x, 'f', digits),
+                                        QString::number(place->point.y, 'f', digits));
+  }
+  m_place->setText(text);
+  // A name stands in for the text, so it has to hold it.
+  const OdString name = translated(u"Place of the cursor");
+  m_place->setAccessibleName(text.isEmpty() ? name : QStringLiteral("%1: %2").arg(name, text));
 }
 
 OdString StatusLine::placeText() const { return m_place->text(); }

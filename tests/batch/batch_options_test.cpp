@@ -71,6 +71,11 @@ TEST_P(Arguments, AreUnderstoodOrNamed) {
 
 INSTANTIATE_TEST_SUITE_P(All, Arguments, ::testing::ValuesIn(kRows));
 
+TEST(HelpText, TellsOfTheWindowToo) {
+  EXPECT_TRUE(helpText().contains(QStringLiteral("Usage: drafton [--catalogs")));
+  EXPECT_TRUE(helpText().contains(QStringLiteral("drafton batch [--catalogs")));
+}
+
 } // namespace
 
 TEST(BatchOptions, TakeTheirValuesInBothForms) {

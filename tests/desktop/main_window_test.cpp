@@ -94,6 +94,21 @@ TEST_F(MainWindowTest, ABlankBelongsToATextThatIsAskedFor) {
   EXPECT_EQ(window().commandLine().edit().text(), QStringLiteral("Two words"));
 }
 
+TEST_F(MainWindowTest, WhatIsChosenFirstCountsForCommandsOnlyWherePickFirstIsOn) {
+  type("LINE -3,0 3,0  PICKFIRST 0 ");
+  click(0, 0);
+  EXPECT_EQ(document().preselection().size(), 1u) << "for grips and the inspector";
+  type("ERASE ");
+  EXPECT_TRUE(desktop().isBusy()) << "it asks";
+  press(Qt::Key_Escape);
+  EXPECT_EQ(entities().size(), 1u);
+  type("PICKFIRST 1 ");
+  click(0, 0);
+  type("ERASE ");
+  EXPECT_FALSE(desktop().isBusy());
+  EXPECT_TRUE(entities().empty());
+}
+
 TEST_F(MainWindowTest, ShowsWhatWasAnsweredAndWhatIsAsked) {
   type("LINE 1,2 ");
   EXPECT_TRUE(history().contains(QStringLiteral("Specify first point: 1,2")))

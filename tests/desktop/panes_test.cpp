@@ -6,6 +6,7 @@
 #include "drafton/desktop/options_dialog.h"
 #include "drafton/desktop/printing.h"
 #include "drafton/desktop/property_bar.h"
+#include "drafton/desktop/theme.h"
 #include "drawing/entities/line.h"
 
 #include <QAccessible>
@@ -151,6 +152,48 @@ TEST_F(PanesTest, OptionsAreKeptAndTakenOver) {
   EXPECT_EQ(numberOption(desktop(), "AutosaveMinutes"), 0) << "what a file says is bounded";
   desktop().setSetting("Theme", OdString(QStringLiteral("Plaid")));
   EXPECT_EQ(choiceOption(desktop(), "Theme"), QStringLiteral("System"));
+}
+
+/// Whatever a test chooses, the others begin with the system's theme.
+class ThemeTest : public PanesTest {
+ protected:
+  ThemeTest() { applyTheme(QStringLiteral("System")); }
+  ~ThemeTest() override { applyTheme(QStringLiteral("System")); }
+
+  void choose(const char* theme) {
+    OptionsDialog dialog(desktop(), &window());
+    auto* const list = dialog.findChild<QComboBox*>(QStringLiteral("Theme"));
+    list->setCurrentIndex(list->findData(QString::fromLatin1(theme)));
+    dialog.accept();
+    QApplication::processEvents();
+  }
+  QImage icon(const char16_t* action) {
+    return window().actions().find(action)->icon().pixmap(24, 24).toImage();
+  }
+  /// The colour in the middle of the picture of the current layer, whose colour is 7.
+  QColor layerSwatch() {
+    const QComboBox& layers = window().properties().layers();
+    return layers.itemIcon(0).pixmap(16, 16).toImage().pixelColor(8, 8);
+  }
+};
+
+TEST_F(ThemeTest, IsInForceAtOnceThereAndBack) {
+  const QPalette before = window().palette();
+  const QImage lightIcon = icon(u"LINE");
+  ASSERT_FALSE(isDark(before)) << "offscreen the system is light";
+  EXPECT_EQ(layerSwatch(), QColor(Qt::black));
+  choose("Dark");
+  EXPECT_TRUE(isDark(window().palette()));
+  EXPECT_TRUE(isDark(canvas().palette()));
+  EXPECT_NE(icon(u"LINE"), lightIcon);
+  EXPECT_EQ(layerSwatch(), QColor(Qt::white)) << "as it is drawn on the dark";
+  picture("theme-dark");
+  choose("Light");
+  EXPECT_FALSE(isDark(window().palette()));
+  EXPECT_EQ(icon(u"LINE"), lightIcon);
+  choose("System");
+  EXPECT_EQ(window().palette().color(QPalette::Window), before.color(QPalette::Window));
+  EXPECT_EQ(layerSwatch(), QColor(Qt::black));
 }
 
 TEST_F(PanesTest, EveryControlHasAName) {

@@ -1,5 +1,7 @@
 #include "ui/window/frame_wnd.h"
 
+#include <QEvent>
+
 namespace tc {
 namespace {
 
@@ -25,6 +27,13 @@ TcUiFrameWnd::TcUiFrameWnd(ITcUiPaletteSet& window)
   }
   resize(widths[0] + handleWidth() + widths[1], height());
   setSizes(widths);
+}
+
+void TcUiFrameWnd::changeEvent(QEvent* event) {
+  QSplitter::changeEvent(event);
+  // Signs are drawn in the theme's colour. The views paint themselves anew anyway.
+  if (event->type() == QEvent::PaletteChange)
+    m_pictures.setInk(palette().color(QPalette::WindowText));
 }
 
 bool TcUiFrameWnd::queryInterface(std::string_view id, void** out) {

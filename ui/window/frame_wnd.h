@@ -42,6 +42,9 @@ class TcUiFrameWnd : public QSplitter, public ITcUiFrameWnd {
   TcUiStateSaver& state() { return m_state; }
   const TcUiItemPictures& pictures() const { return m_pictures; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   TcUiStateSaver m_state;
   TcUiItemPictures m_pictures;
