@@ -72,9 +72,9 @@ class Screen:
     def move(self, place):
         self._do("mousemove", round(place[0]), round(place[1]))
 
-    def click(self, place, button=1, count=1):
+    def click(self, place, button=1, count=1, delay=30):
         self.move(place)
-        self._do("click", "--repeat", count, "--delay", 30, button)
+        self._do("click", "--repeat", count, "--delay", delay, button)
 
     def drag(self, start, end):
         self.move(start)
@@ -161,6 +161,11 @@ class Program:
 
     def has(self, role, name=None):
         return self.alive() and self._search(role, name) is not None
+
+    def has_window(self, title):
+        root = self._root()
+        windows = [root.get_child_at_index(i) for i in range(root.get_child_count())] if root else []
+        return any(w and w.get_name() == title and shows(w) for w in windows)
 
     def find(self, role, name=None):
         def look():

@@ -1,0 +1,262 @@
+"""What must not end or harm Drafton's window: files that are no drawings, settings that cannot be
+used, modules that do not start, closing while something waits, and two programs on one settings
+file."""
+
+import os
+import pathlib
+import shutil
+import sys
+import tempfile
+import traceback
+
+import ezdxf
+
+import screen
+from screen import wait_for
+
+SAMPLES = pathlib.Path(__file__).resolve().parents[3] / "samples"
+MODULE = "ToolPaletteManager.so"
+
+
+class Bench:
+    """A folder, a settings file with the palettes open, and programs on them."""
+
+    def __init__(self, own_screen, programs, folder):
+        self.screen = own_screen
+        self.programs = pathlib.Path(programs)
+        self.folder = folder
+        self.profile = folder / "drafton.ini"
+        self.profile.write_text("[Startup]\nToolPalettes=1\n", encoding="utf-8")
+        self.drawing = folder / "plan.dxf"
+        shutil.copy(SAMPLES / "drawings" / "floor-plan.dxf", self.drawing)
+        self.catalogs = SAMPLES / "catalog"
+        self.running = []
+
+    def start(self, *drawings, programs=None, profile=None):
+        program = screen.Program(self.screen, programs or self.programs, [
+            "--profile", profile or self.profile, "--catalogs", self.catalogs, *drawings])
+        self.running.append(program)
+        return program
+
+    def start_on_plan(self):
+        program = self.start(self.drawing)
+        self.title(program, "plan.dxf - Drafton")
+        program.find("table cell", "Drafton samples")
+        return program
+
+    def close(self):
+        for program in self.running:
+            program.kill()
+
+    def title(self, program, title):
+        return program.find("frame", title)
+
+    def history(self, program):
+        return read_text(program.find("text", "Command history"))
+
+    def wait_for_history(self, program, text):
+        wait_for(f"{text!r} in the history", lambda: text in self.history(program))
+
+    def dismiss(self, program, text):
+        """Reads a message that has to say `text`, and closes it."""
+        def say():
+            return [name for role, name, control in program.controls()
+                    if role == "label" and text in name]
+        wait_for(f"the message {text!r}", say)
+        wait_for("the message's window", lambda: program.has_window("Drafton"))
+        self.screen.key("Return")
+        wait_for("the message to go", lambda: not say())
+
+    def draw(self, program):
+        """It works: a line can be drawn."""
+        self.screen.type("line 0,0 77,0 ")
+        self.screen.key("Return")
+        program.find("label", "Command:")
+        wait_for("the changed drawing", lambda: program.has("frame", lambda n: "* - Drafton" in n))
+
+    def leave(self, program, discard=False):
+        self.screen.key("ctrl+q")
+        if discard:
+            program.find("push button", "Do Not Save")
+            self.screen.key("alt+d")
+        code = program.wait()
+        assert code == 0, (code, program.kill())
+
+    def show_tools(self, program, group, palette):
+        program.click("table cell", group, count=2)
+        program.click("table cell", palette)
+        program.find("page tab", palette)
+        program.click("push button", "Change active view")
+        return program.find("list item")
+
+    def start_tool(self, program):
+        """A block hangs at the cursor."""
+        self.show_tools(program, "Building", "Furniture")
+        program.click("list item", "ARMCHAIR")
+        program.find("label", lambda name: "insertion point" in name)
+
+
+def read_text(control):
+    text = screen.atspi().Text
+    return text.get_text(control, 0, text.get_character_count(control))
+
+
+def closing_the_drawing_ends_its_tool(bench):
+    program = bench.start_on_plan()
+    bench.start_tool(program)
+    bench.screen.key("ctrl+w")
+    bench.title(program, "Drafton")
+    # A tool without a drawing does nothing.
+    program.click("list item", "BED-900")
+    bench.screen.key("ctrl+n")
+    program.find("frame", lambda name: name.startswith("Drawing") and name.endswith(" - Drafton"))
+    bench.draw(program)
+    bench.leave(program, discard=True)
+
+
+def closing_the_window_ends_its_tool(bench):
+    program = bench.start_on_plan()
+    bench.start_tool(program)
+    bench.screen.key("alt+F4")
+    assert program.wait() == 0, program.kill()
+
+
+def ending_the_program_ends_its_command(bench):
+    program = bench.start_on_plan()
+    bench.screen.type("line 0,0 ")
+    program.find("label", lambda name: name.startswith("Specify next point"))
+    bench.leave(program)
+    assert not ezdxf.readfile(bench.drawing).modelspace().query("LINE[layer=='Nowhere']")
+
+
+def closing_the_palettes_leaves_the_tool(bench):
+    program = bench.start_on_plan()
+    bench.start_tool(program)
+    bench.screen.key("ctrl+3")
+    bench.draw(program)
+    bench.leave(program, discard=True)
+
+
+def what_is_no_drawing_is_named(bench):
+    garbage = bench.folder / "garbage.dxf"
+    garbage.write_bytes(bytes(range(256)) * 50)
+    missing = bench.folder / "missing.dxf"
+    program = bench.start(garbage, missing, bench.drawing)
+    bench.dismiss(program, "garbage.dxf cannot be opened")
+    bench.dismiss(program, "missing.dxf cannot be opened")
+    bench.title(program, "plan.dxf - Drafton")
+    # And by a double click on its name.
+    bench.screen.key("ctrl+o")
+    wait_for("the dialog", lambda: program.has_window("Open Drawing"))
+    program.click("table cell", "garbage.dxf", count=2)
+    bench.dismiss(program, "garbage.dxf cannot be opened")
+    bench.title(program, "plan.dxf - Drafton")
+    assert garbage.read_bytes() == bytes(range(256)) * 50
+    bench.draw(program)
+    bench.leave(program, discard=True)
+
+
+def settings_that_cannot_be_used_are_told_and_left(bench):
+    garbage = b"\x00\xff\x07 no settings at all\n[[[\n=\n"
+    later = ("[Desktop]\nVersion=int:99\nTheme=Sepia\nGeometry=AAAA\nWindows=!!!\nAutosaveMinutes=many\n"
+             "Recent1=\n[Future]\nthing=blob:7\n").encode()
+    for name, content in (("garbage.ini", garbage), ("later.ini", later)):
+        profile = bench.folder / name
+        profile.write_bytes(content)
+        program = bench.start(bench.drawing, profile=profile)
+        bench.title(program, "plan.dxf - Drafton")
+        if content is garbage:
+            bench.wait_for_history(program, "garbage.ini cannot be used")
+        bench.draw(program)
+        bench.leave(program, discard=True)
+        if content is garbage:
+            assert profile.read_bytes() == garbage
+        else:
+            assert b"thing=blob:7" in profile.read_bytes(), "what later versions keep stays"
+    # Where nothing can be written.
+    program = bench.start(bench.drawing, profile="/proc/no/such/drafton.ini")
+    bench.title(program, "plan.dxf - Drafton")
+    bench.wait_for_history(program, "drafton.ini cannot be used")
+    bench.draw(program)
+    bench.leave(program, discard=True)
+
+
+def without_a_working_module_drafton_goes_on(bench):
+    own = bench.folder / "programs"
+    own.mkdir()
+    for name in ("drafton", "command_menu.xml", "command_routes.xml", "draftoniso.lin",
+                 "draftoniso.pat"):
+        shutil.copy(bench.programs / name, own)
+    for library in bench.programs.glob("lib*.so"):
+        os.symlink(library, own / library.name)
+    for module, reason in ((None, "there is no such file"),
+                           ("engine_old_module.so", "3.3.1.0"),
+                           ("engine_failing_module.so", "does not start today")):
+        (own / MODULE).unlink(missing_ok=True)
+        if module:
+            shutil.copy(bench.programs / module, own / MODULE)
+        program = bench.start(bench.drawing, programs=own)
+        bench.title(program, "plan.dxf - Drafton")
+        bench.wait_for_history(program, f"{MODULE} is not loaded")
+        assert reason in bench.history(program), bench.history(program)
+        bench.screen.key("ctrl+3")
+        bench.wait_for_history(program, "Unknown command")
+        bench.draw(program)
+        bench.leave(program, discard=True)
+
+
+def two_programs_share_their_settings(bench):
+    first = bench.start_on_plan()
+    second = bench.start()
+    second.find("frame", lambda name: name.startswith("Drawing"))
+    second.find("table cell", "Drafton samples")
+    # Both write: the second its options, then the first its window.
+    bench.screen.key("alt+t", "o")
+    wait_for("the options", lambda: second.has_window("Options"))
+    bench.screen.key("alt+r")
+    bench.screen.key("ctrl+a")
+    bench.screen.type("31")
+    bench.screen.key("Return")
+    wait_for("the end of the options", lambda: not second.has_window("Options"))
+    bench.leave(second)
+    wait_for("the keys to come back", lambda: bench.title(first, "plan.dxf - Drafton")
+             .get_state_set().contains(screen.atspi().StateType.ACTIVE))
+    bench.leave(first)
+    settings = bench.profile.read_text(encoding="utf-8")
+    assert "AutosaveMinutes=int:31" in settings, settings
+    assert "Recent1=" + str(bench.drawing) in settings, settings
+    third = bench.start_on_plan()
+    bench.leave(third)
+
+
+TESTS = [closing_the_drawing_ends_its_tool, closing_the_window_ends_its_tool,
+         ending_the_program_ends_its_command, closing_the_palettes_leaves_the_tool,
+         what_is_no_drawing_is_named, settings_that_cannot_be_used_are_told_and_left,
+         without_a_working_module_drafton_goes_on, two_programs_share_their_settings]
+
+
+def main(programs, names):
+    own_screen = screen.Screen()
+    failed = []
+    for test in TESTS:
+        if names and test.__name__ not in names:
+            continue
+        with tempfile.TemporaryDirectory() as folder:
+            bench = Bench(own_screen, programs, pathlib.Path(folder))
+            try:
+                test(bench)
+                print("passed", test.__name__, flush=True)
+            except AssertionError:
+                traceback.print_exc()
+                failed.append(test.__name__)
+                own_screen.picture("failed-" + test.__name__)
+            finally:
+                bench.close()
+    own_screen.close()
+    print("failed:", ", ".join(failed) or "none")
+    return bool(failed)
+
+
+if __name__ == "__main__":
+    screen.run_on_own_screen()
+    sys.exit(main(sys.argv[1], sys.argv[2:]))
