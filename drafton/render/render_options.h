@@ -22,6 +22,9 @@ struct RenderOptions {
   /// What is too small to be seen may be drawn as less: right for pixels, wrong for what can be
   /// enlarged afterwards.
   bool simplifies = true;
+  /// So many references within blocks are drawn for one entity of a space; a few that stand for
+  /// four others each, thirty levels deep, would never end.
+  std::size_t mostNestedBlocks = 1'000'000;
   /// Entities of the block that is drawn which stand out; null for none.
   const std::unordered_set<OdDbObjectId>* highlighted = nullptr;
   QRgb highlightColor = qRgb(0, 120, 215);

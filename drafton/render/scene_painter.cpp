@@ -82,6 +82,7 @@ void ScenePainter::drawLevel(const Level& level, const std::vector<std::uint32_t
   const bool marks = level.isTop && !m_isInWindow;
   for (const std::uint32_t number : numbers) {
     const ShapeItem& item = level.shapes.items()[number];
+    if (level.isTop) m_nestedLeft = m_options.mostNestedBlocks;
     if (item.pieceCount == 0) continue;
     if (marks && m_options.hidden != nullptr && m_options.hidden->contains(item.id)) continue;
     if (marks && m_options.highlighted != nullptr && m_options.highlighted->contains(item.id)) {
@@ -111,6 +112,10 @@ void ScenePainter::drawItem(const Level& level, const ShapeItem& item) {
   if (!item.box.isEmpty() && !item.isEndless) {
     box = level.projection.boxOf(item.box);
     if (!box.adjusted(-kReach, -kReach, kReach, kReach).intersects(m_surface.clipRect())) return;
+  }
+  if (item.hasBlocks && !level.isTop) {
+    if (m_nestedLeft == 0) return;
+    m_nestedLeft -= std::min<std::size_t>(m_nestedLeft, item.pieceCount);
   }
   m_pieces.setProjection(level.projection, level.scale);
   m_pieces.setStyle(style, tables.linetype(style.linetype));
@@ -223,6 +228,7 @@ void ScenePainter::drawTransient(std::span<const OdDbEntityPtr> entities, const 
   const Projection projection = view.projection();
   const double scale = projection.scale();
   m_pieces.setPictureHeight(view.size.height());
+  m_nestedLeft = m_options.mostNestedBlocks;
   ShapeList list;
   ShapeRecorder recorder(list, deviationFor(view.scale));
   for (const OdDbEntityPtr& entity : entities) {

@@ -44,6 +44,7 @@ class ScenePainter {
   PiecePainter m_pieces;
   LayerFilter m_layers;
   std::unordered_set<OdDbObjectId> m_open; ///< blocks that are just being drawn
+  std::size_t m_nestedLeft = 0; ///< blocks within blocks that the entity at hand may still show
   bool m_isInWindow = false;
   bool m_isHalo = false;
 };

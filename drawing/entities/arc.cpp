@@ -3,6 +3,7 @@
 #include "drawing/checks.h"
 #include "drawing/entities/ellipse.h"
 #include "drawing/entities/plane_transform.h"
+#include "drawing/geometry/start_angle.h"
 
 OdDbArc::OdDbArc() = default;
 
@@ -88,9 +89,11 @@ bool OdDbArc::transformBy(const OdGeMatrix3d& transform) {
   return true;
 }
 
+double OdDbArc::getStartParam() const { return odgeStartAngle(m_arc.startAngle); }
+
 double OdDbArc::getEndParam() const {
-  const double sweep = odgeNormalAngle(m_arc.endAngle - m_arc.startAngle);
-  return m_arc.startAngle + (sweep > 0 ? sweep : 2 * kOdaPi);
+  const double sweep = odgeNormalAngle(odgeStartAngle(m_arc.endAngle) - getStartParam());
+  return getStartParam() + (sweep > 0 ? sweep : 2 * kOdaPi);
 }
 
 OdGePoint3d OdDbArc::getPointAtParam(double param) const { return pointAt(checkedParam(param)); }
@@ -106,7 +109,7 @@ void OdDbArc::appendSegments(OdGeCurveSegments& segments, double) const {
   segments.push_back(OdGeCurveSegment::arc(toWorld * m_arc.center,
                                            toWorld * OdGeVector3d{m_arc.radius, 0, 0},
                                            toWorld * OdGeVector3d{0, m_arc.radius, 0},
-                                           m_arc.startAngle, getEndParam() - m_arc.startAngle));
+                                           getStartParam(), getEndParam() - getStartParam()));
 }
 
 OdDbEntityPtr OdDbArc::getTransformedCopy(const OdGeMatrix3d& transform) const {

@@ -34,7 +34,7 @@ class OdDbArc : public OdDbCurve {
   OdGePoint3d pointAt(double angle) const;
 
   bool isClosed() const override { return false; }
-  double getStartParam() const override { return m_arc.startAngle; }
+  double getStartParam() const override;
   double getEndParam() const override;
   OdGePoint3d getPointAtParam(double param) const override;
   OdGeVector3d getFirstDeriv(double param) const override;

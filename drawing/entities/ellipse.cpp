@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/entities/smooth_offset.h"
+#include "drawing/geometry/start_angle.h"
 
 namespace {
 /// An ellipse that is flatter has no area that anyone could see.
@@ -101,11 +102,13 @@ void OdDbEllipse::setEndParam(double param) {
   m_ellipse.endParam = param;
 }
 
+double OdDbEllipse::getStartParam() const { return odgeStartAngle(m_ellipse.startParam); }
+
 double OdDbEllipse::getEndParam() const {
-  const double sweep = odgeNormalAngle(m_ellipse.endParam - m_ellipse.startParam);
+  const double sweep = odgeNormalAngle(odgeStartAngle(m_ellipse.endParam) - getStartParam());
   // A full turn may miss itself by the last digits of a file.
   const bool full = sweep < 1e-9 || sweep > 2 * kOdaPi - 1e-9;
-  return m_ellipse.startParam + (full ? 2 * kOdaPi : sweep);
+  return getStartParam() + (full ? 2 * kOdaPi : sweep);
 }
 
 bool OdDbEllipse::isClosed() const { return getEndParam() - getStartParam() == 2 * kOdaPi; }

@@ -35,7 +35,7 @@ class OdDbEllipse : public OdDbCurve {
   void setEndParam(double param);
 
   bool isClosed() const override;
-  double getStartParam() const override { return m_ellipse.startParam; }
+  double getStartParam() const override;
   double getEndParam() const override;
   OdGePoint3d getPointAtParam(double param) const override;
   OdGeVector3d getFirstDeriv(double param) const override;

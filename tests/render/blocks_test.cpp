@@ -114,6 +114,32 @@ TEST_F(BlockPictures, ABlockThatContainsItselfEnds) {
   EXPECT_EQ(scene().boxOf(block, 1).maxPoint().x, 10);
 }
 
+TEST_F(BlockPictures, BlocksThatFanOutWithoutEndAreDrawnWithinTheirBounds) {
+  OdDbObjectId block = addBlock(u"Fan0");
+  addTo(block, frame(0, 0, 10, 10));
+  const std::u16string base = u"Fan";
+  for (char16_t level = u'A'; level < u'A' + 24; ++level) {
+    const OdDbObjectId outer = addBlock((base + level).c_str());
+    for (const double at : {0.0, 1.0, 2.0, 3.0})
+      addTo(outer, odrxMake<OdDbBlockReference>(block, OdGePoint3d{at, at, 0}));
+    block = outer;
+  }
+  insert(block, 0, 0);
+  add(frame(-30, -30, -20, -20));
+  RenderOptions options;
+  options.mostNestedBlocks = 1000;
+  const QImage image = picture(-40, -40, 100, 100, {280, 280}, options);
+  const auto inkIn = [&](QRect part) {
+    for (int y = part.top(); y <= part.bottom(); ++y)
+      for (int x = part.left(); x <= part.right(); ++x)
+        if (image.pixel(x, y) != qRgb(255, 255, 255)) return true;
+    return false;
+  };
+  EXPECT_TRUE(inkIn({75, 150, 40, 50}));
+  // What comes after the block is drawn whole.
+  EXPECT_TRUE(inkIn({15, 235, 30, 30}));
+}
+
 TEST_F(BlockPictures, LayersThatAreOffFrozenOrNotPlotted) {
   const OdDbObjectId layer = addLayer(u"L", 1);
   auto line = odrxMake<OdDbLine>(OdGePoint3d{0, 0, 0}, OdGePoint3d{100, 0, 0});

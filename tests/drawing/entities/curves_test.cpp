@@ -204,6 +204,26 @@ TEST(Curves, ACircleSeenAskewIsAnEllipseWithItsProperties) {
   EXPECT_FALSE(circle->getTransformedCopy(OdGeMatrix3d::scaling(0, 1, 1)));
 }
 
+TEST(Curves, AnglesTooLargeToAddATurnToAreTakenWithinOne) {
+  for (const double angle : {1e10, -1e17, 1e30, 1e300}) {
+    const auto arc = odrxMake<OdDbArc>(OdGePoint3d{}, kZ, 2.0, angle, 1.0);
+    EXPECT_EQ(arc->startAngle(), angle) << "kept as the file says";
+    const auto oval =
+        odrxMake<OdDbEllipse>(OdGePoint3d{}, kZ, OdGeVector3d{4, 0, 0}, 0.5, angle, 1.0);
+    for (const OdDbCurve* curve :
+         {static_cast<const OdDbCurve*>(arc.get()), static_cast<const OdDbCurve*>(oval.get())}) {
+      EXPECT_GE(curve->getStartParam(), 0);
+      EXPECT_LT(curve->getStartParam(), 2 * kOdaPi);
+      EXPECT_GT(curve->getEndParam(), curve->getStartParam());
+      EXPECT_LE(curve->getEndParam(), curve->getStartParam() + 2 * kOdaPi);
+      EXPECT_NEAR(std::remainder(curve->getEndParam() - 1.0, 2 * kOdaPi), 0, 1e-9);
+      OdGeExtents3d box;
+      ASSERT_TRUE(curve->getGeomExtents(box));
+      EXPECT_LE(box.maxPoint().x, 4 + 1e-9);
+    }
+  }
+}
+
 TEST(Curves, EmptyOnesHaveNoShapeAndSayNothing) {
   const auto poly = odrxMake<OdDbPolyline>();
   Recorder draw;
