@@ -38,6 +38,7 @@ constexpr ValueOption kOptions[] = {
 };
 
 const OdString kExtents = QStringLiteral("--extents");
+const OdString kKeepGoing = QStringLiteral("--keep-going");
 
 BatchArguments wrong(const OdString& error) {
   return {.wish = BatchArguments::Wish::kWrong, .options = {}, .error = error};
@@ -74,6 +75,10 @@ BatchArguments parseArguments(const QStringList& arguments) {
         result.picture.extents = true;
         continue;
       }
+      if (argument == kKeepGoing) {
+        result.options.keepsGoing = true;
+        continue;
+      }
       const ValueOption* const option = findOption(name);
       if (!option) return wrong(QStringLiteral("unknown option %1").arg(name));
       if (equals < 0 && i + 1 >= arguments.size())
@@ -107,7 +112,7 @@ OdString helpText() {
   return QStringLiteral(
       "Usage: drafton [--catalogs DIR[;DIR...]] [--profile FILE] [DRAWING...]\n"
       "       drafton batch [--catalogs DIR[;DIR...]] [--profile FILE] [--script FILE]\n"
-      "                     [--out FILE.dxf [--dxf-version V]]\n"
+      "                     [--keep-going] [--out FILE.dxf [--dxf-version V]]\n"
       "                     [--png FILE [--size WxH] [--background COLOR]\n"
       "                     [--extents | --window X1,Y1,X2,Y2] [--layout NAME]] [DRAWING.dxf]\n"
       "\n"
@@ -122,6 +127,8 @@ OdString helpText() {
       "  --catalogs DIRS  the folders of tool palette catalogs for this run, separated by ;\n"
       "  --profile FILE   the settings file; without it the user's own\n"
       "  --script FILE    the script; without it, or with -, standard input\n"
+      "  --keep-going     goes on behind lines that fail, each of which is named; the drawing is\n"
+      "                   saved and drawn all the same, and the exit code is 1\n"
       "  --out FILE.dxf   saves the active drawing there at the end, unless the script failed\n"
       "  --dxf-version V  in that version: R2000, R2004, R2007, R2010, R2013 or R2018; without\n"
       "                   it in that of the drawing\n"

@@ -22,6 +22,7 @@ struct BatchOptions {
   OdString out;
   OdString dxfVersion; ///< of the file `out`; empty for that of the drawing
   OdString drawing;
+  bool keepsGoing = false; ///< behind lines of the script that fail
   std::optional<PictureRequest> picture;
 };
 

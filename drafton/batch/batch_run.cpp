@@ -31,6 +31,7 @@ class BatchRun {
   bool openDrawing(Engine& engine);
   bool saveDrawing(Engine& engine);
   bool drawPicture(Engine& engine);
+  int failLine(const OdString& failure);
   int failWith(int code, const OdString& text);
 
   BatchOptions m_options;
@@ -119,19 +120,22 @@ bool BatchRun::drawPicture(Engine& engine) {
 }
 
 int BatchRun::runScript(Engine& engine, ScriptSource& script) {
-  while (!script.hasFailed() && !engine.isExiting() && script.waitForInput()) engine.run();
+  while (!script.isEnded() && !engine.isExiting() && script.waitForInput()) engine.run();
   QStringList waiting;
   for (const auto& document : engine.documents().documents())
     waiting << document->processor().runningCommands();
   waiting << engine.currentProcessor().runningCommands();
-  if (!script.hasFailed() && !waiting.isEmpty())
+  if (!script.isEnded() && !waiting.isEmpty())
     script.fail(translated(u"The script ends while %1 waits for input.").arg(waiting.first()));
   engine.cancelAll();
-  if (script.hasFailed())
-    return failWith(kExitScriptFailed,
-                    (m_options.script.isEmpty() ? QStringLiteral("script") : m_options.script) +
-                        QLatin1String(", ") + script.failure());
-  return kExitOk;
+  if (script.isEnded()) return failLine(script.failure());
+  return script.hasFailed() ? kExitScriptFailed : kExitOk;
+}
+
+/// Tells of a line of the script.
+int BatchRun::failLine(const OdString& failure) {
+  const OdString name = m_options.script.isEmpty() ? QStringLiteral("script") : m_options.script;
+  return failWith(kExitScriptFailed, name + QLatin1String(", ") + failure);
 }
 
 int BatchRun::run() {
@@ -145,6 +149,8 @@ int BatchRun::run() {
   options.programFolder = m_programFolder;
   Engine engine(std::move(options), m_console, &script);
   script.setEngine(engine);
+  if (m_options.keepsGoing)
+    script.keepGoing([this](const OdString& failure) { failLine(failure); });
   if (m_options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
   offerPictures(engine);
@@ -154,10 +160,10 @@ int BatchRun::run() {
   m_console.setTroubleHandler([&](const OdString& text) { script.fail(text); });
   const int code = runScript(engine, script);
   m_console.setTroubleHandler({});
-  if (code != kExitOk) return code;
+  if (script.isEnded()) return code;
   if (!m_options.out.isEmpty() && !saveDrawing(engine)) return kExitDrawing;
   if (m_options.picture && !drawPicture(engine)) return kExitDrawing;
-  return kExitOk;
+  return code;
 }
 
 } // namespace

@@ -27,7 +27,7 @@ bool ScriptSource::readPiece(OdString& piece, bool& endsLine) {
 bool ScriptSource::waitForInput() {
   OdString piece;
   bool endsLine = false;
-  if (m_hasFailed || m_engine->isExiting() || !readPiece(piece, endsLine)) return false;
+  if (isEnded() || m_engine->isExiting() || !readPiece(piece, endsLine)) return false;
   const bool startsLine = !std::exchange(m_inLine, !endsLine);
   if (startsLine) {
     ++m_lineNumber;
@@ -65,9 +65,10 @@ void ScriptSource::activate(const OdString& name) {
 }
 
 void ScriptSource::fail(const OdString& reason) {
-  if (m_hasFailed) return;
+  if (isEnded()) return;
   m_hasFailed = true;
   m_reason = reason;
+  if (m_tell) m_tell(failure());
 }
 
 OdString ScriptSource::failure() const {

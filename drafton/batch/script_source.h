@@ -5,6 +5,8 @@
 
 #include <QStringDecoder>
 
+#include <functional>
+
 class QIODevice;
 
 namespace drafton {
@@ -21,9 +23,13 @@ class ScriptSource : public InputSource {
   /// Types the next piece, at most one line. False at the end of the script and after a failure.
   bool waitForInput() override;
 
-  /// Ends the script at the current line.
+  /// Ends the script at the current line; one that goes on tells of it and goes on.
   void fail(const OdString& reason);
+  /// From here on the script goes on behind lines that fail; `tell` is given what failure() gives.
+  void keepGoing(std::function<void(const OdString& failure)> tell) { m_tell = std::move(tell); }
   bool hasFailed() const { return m_hasFailed; }
+  /// True if it has failed and does not go on.
+  bool isEnded() const { return m_hasFailed && !m_tell; }
   /// "line 3: LINE x,y" and the reason of the failure.
   OdString failure() const;
 
@@ -42,6 +48,7 @@ class ScriptSource : public InputSource {
   OdString m_lineText; // the beginning of the line, for messages
   bool m_hasFailed = false;
   OdString m_reason;
+  std::function<void(const OdString& failure)> m_tell;
 };
 
 } // namespace drafton

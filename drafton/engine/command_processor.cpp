@@ -172,7 +172,12 @@ void CommandProcessor::takeCommandWord(const OdString& word) {
     parameters = kvMake<MemParam>();
     parameters->setValue(QStringLiteral("name"), word.toUpper());
   }
-  if (!command) return trouble(translated(u"Unknown command \"%1\".").arg(word.left(60)));
+  if (!command) {
+    trouble(translated(u"Unknown command \"%1\".").arg(word.left(60)));
+    // A module that has typed it waits for an end.
+    if (m_frames.empty()) tell([&](HostEditorReactor& r) { r.commandFailed(word); });
+    return;
+  }
   start(command, parameters.get(), nullptr);
 }
 

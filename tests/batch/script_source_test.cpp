@@ -20,7 +20,7 @@ class ScriptTest : public ::testing::Test {
     m_script.setEngine(m_engine);
     m_engine.commands().add(testCommands());
     m_engine.documents().newDocument();
-    while (!m_script.hasFailed() && m_script.waitForInput()) m_engine.run();
+    while (!m_script.isEnded() && m_script.waitForInput()) m_engine.run();
   }
 
   RecordingConsole m_console;
@@ -52,6 +52,20 @@ TEST_F(ScriptTest, AToolRunsByItsLine) {
   EXPECT_EQ(runs, 2);
   EXPECT_TRUE(m_script.hasFailed());
   EXPECT_EQ(m_script.failure(), QStringLiteral("line 3: TOOL:Other\nThere is no tool \"Other\"."));
+}
+
+TEST_F(ScriptTest, GoesOnBehindLinesThatFailIfToldSo) {
+  QStringList failures;
+  m_script.keepGoing([&](const OdString& failure) { failures << failure; });
+  run("TOOL:Other\nASKTEXT\nabc\nDOCUMENT:gone\nASKTEXT last\n");
+  EXPECT_EQ(
+      failures,
+      (QStringList{QStringLiteral("line 1: TOOL:Other\nThere is no tool \"Other\"."),
+                   QStringLiteral("line 4: DOCUMENT:gone\nThere is no open drawing \"gone\".")}));
+  EXPECT_TRUE(m_script.hasFailed());
+  EXPECT_FALSE(m_script.isEnded());
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <abc>")));
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <last>")));
 }
 
 TEST_F(ScriptTest, TextKeepsItsSignsAcrossThePiecesOfALongLine) {
