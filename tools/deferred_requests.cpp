@@ -1,12 +1,16 @@
 // What the words of the hidden command run.
 #include "drawing/database.h"
+#include "drawing/objects/file_references.h"
 #include "drawing/objects/xref_manager.h"
+#include "drawing/tables/record_names.h"
 #include "frame/system_services.h"
 #include "host/document_lock.h"
 #include "module/string_table.h"
 #include "tools/block_loops.h"
 #include "tools/command_conveyor.h"
 #include "tools/execute_tool_command.h"
+
+#include <cmath>
 
 namespace tc {
 namespace {
@@ -41,6 +45,30 @@ void loadReferences(OdDbDatabase& drawing) {
   }
 }
 
+struct NameFaultRow {
+  OdDbNameFault fault;
+  QStringView words;
+};
+constexpr NameFaultRow kNameFaults[] = {
+    {OdDbNameFault::kEmpty, u"the tool names no block"},
+    {OdDbNameFault::kTooLong, u"a block's name has at most 255 characters"},
+    {OdDbNameFault::kSign, u"a block's name cannot have any of < > / \\ \" : ; ? * | , = `"},
+    {OdDbNameFault::kControl, u"a block's name cannot have control characters"},
+    {OdDbNameFault::kBlank, u"a block's name cannot begin or end with a blank"},
+};
+
+/// A message if the drawing cannot have a block of that name; else empty. Its "%s" are the name and
+/// the source file.
+OdString nameProblem(const OdString& name) {
+  const OdDbNameFault fault = oddbNameFault(name);
+  for (const NameFaultRow& row : kNameFaults)
+    if (row.fault == fault)
+      return host::translate(
+                 QStringLiteral("\nBlock \"%s\" of the source file \"%s\" cannot be inserted: ")) +
+             host::translate(row.words.toString());
+  return {};
+}
+
 /// What of the source is to become the block; null, with a message, if it cannot.
 OdDbObjectId wantedBlock(const OdDbDatabase& source, const OdTcBlockRequest& request) {
   const OdDbObjectId block =
@@ -51,6 +79,8 @@ OdDbObjectId wantedBlock(const OdDbDatabase& source, const OdTcBlockRequest& req
   else if (hasBlockLoop(block))
     problem =
         host::translate(QStringLiteral("\nBlock \"%s\" of the source file \"%s\" contains itself"));
+  else
+    problem = nameProblem(request.name);
   if (problem.isEmpty()) return block;
   host::print(formatText(problem, request.name, request.sourceFile));
   return {};
@@ -84,6 +114,7 @@ bool ensureDefinition(IHostDocument& document, OdDbDatabase& drawing,
   if (!definitionIn(drawing, request.name).isNull()) return true;
   const HostDocumentLock lock(&document);
   const OdDbDatabasePtr source = OdDbDatabase::readFile(request.sourceFile);
+  oddbRebaseFileReferences(*source, drawing.fileName());
   tellDamage(*source, request.sourceFile);
   const OdDbObjectId block = wantedBlock(*source, request);
   if (block.isNull()) return false;
@@ -92,6 +123,11 @@ bool ensureDefinition(IHostDocument& document, OdDbDatabase& drawing,
   made.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
       ->setBlockInsertUnits(static_cast<int>(source->sysVarInt("INSUNITS")));
   return true;
+}
+
+/// The host refuses an insert at no scale. No definition is brought in that would stay behind.
+bool canBePlaced(const OdTcBlockRequest& request) {
+  return request.scale != 0 && std::isfinite(request.scale);
 }
 
 } // namespace
@@ -109,7 +145,8 @@ void insertRequestedBlock() {
   }
   IHostDocument* const document = host::curDocument();
   OdDbDatabase* const drawing = document ? document->database() : nullptr;
-  if (!drawing || !ensureDefinition(*document, *drawing, *request)) return;
+  if (!drawing) return;
+  if (canBePlaced(*request) && !ensureDefinition(*document, *drawing, *request)) return;
   runHostCommand(u"InsertBlock", {{u"BC_RUN_BY_NAME_SCALE_ROT_EXPLODE", u"Run"},
                                   {u"name", request->name},
                                   {u"BC_SCALE", request->scale},

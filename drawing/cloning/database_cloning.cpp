@@ -76,6 +76,10 @@ OdDbObjectId insertBlock(OdDbDatabase& target, OdDbDatabase& source, OdDbObjectI
   cloner.setReservedBlock(name);
   cloner.addEntitiesOf(contents, block->objectId());
   cloner.run();
+  // What came with the references of the other drawing is no more saved here than there.
+  for (const OdDbIdMapping::Pair& pair : mapping.pairs())
+    if (pair.isCloned && source.data().transient.contains(pair.key))
+      target.data().transient.insert(pair.value);
   return block->objectId();
 }
 

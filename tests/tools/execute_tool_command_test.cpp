@@ -314,6 +314,35 @@ TEST_F(ExecuteToolTest, ABlockThatTheSourceLacksIsNamed) {
   EXPECT_TRUE(host().commandService.runs.empty());
 }
 
+int blockCount(const OdDbDatabase& drawing) {
+  int count = 0;
+  const auto table = drawing.getBlockTableId().openAs<OdDbBlockTable>();
+  for (auto at = table->newIterator(); !at->done(); at->step()) ++count;
+  return count;
+}
+
+TEST_F(ExecuteToolTest, ANameThatNoBlockCanHaveIsToldWithTheReason) {
+  const OdString source = writeSource(folder);
+  const std::pair<const char16_t*, const char16_t*> rows[] = {
+      {u"", u"the tool names no block"},
+      {u"a|b/c*", u"a block's name cannot have any of < > / \\ \" : ; ? * | , = `"},
+      {u"a\tb", u"a block's name cannot have control characters"},
+      {u" a", u"a block's name cannot begin or end with a blank"}};
+  for (const auto& [name, reason] : rows) {
+    host().messages.printed.clear();
+    const int blocks = blockCount(*drawing);
+    conveyor.setBlockRequest(
+        {.name = OdString::fromUtf16(name), .sourceFile = source, .wholeDrawing = true});
+    type(QStringLiteral("<block>"));
+    EXPECT_EQ(host().messages.printed,
+              QStringList(
+                  QStringLiteral("\nBlock \"%1\" of the source file \"%2\" cannot be inserted: %3")
+                      .arg(OdString::fromUtf16(name), source, OdString::fromUtf16(reason))));
+    EXPECT_EQ(blockCount(*drawing), blocks);
+    EXPECT_TRUE(host().commandService.runs.empty());
+  }
+}
+
 TEST_F(ExecuteToolTest, ASourceThatCannotBeReadEndsTheCommandWithItsName) {
   const OdString source = file(QStringLiteral("broken.dxf"), "not a drawing");
   conveyor.setBlockRequest({.name = QStringLiteral("Door"), .sourceFile = source});

@@ -6,6 +6,7 @@
 #include "drafton/engine/support_files.h"
 #include "drafton/engine/translator.h"
 #include "drawing/entities/block_reference.h"
+#include "drawing/objects/file_references.h"
 #include "frame/file_path.h"
 
 #include <QFileInfo>
@@ -30,6 +31,7 @@ OdDbObjectId insertFile(CommandContext& context, const OdString& path, const OdS
   if (odpath::samePlace(path, context.document().path()))
     throw CommandFailure(translated(u"A drawing cannot be inserted into itself."));
   const OdDbDatabasePtr source = readDrawing(path);
+  oddbRebaseFileReferences(*source, context.document().path());
   const OdDbObjectId id = database.insert(name, source, true);
   const auto block = id.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   block->setBlockInsertUnits(static_cast<int>(source->sysVarInt("INSUNITS")));

@@ -59,10 +59,10 @@ Task<void> insertBlockByName(CommandContext& context) {
     co_return;
   }
   const ParameterSet set(*context.parameters());
-  const OdDbObjectId block = blockFor(context, set.text(u"name"));
   const double scale = set.number(u"BC_SCALE", 1);
   if (scale == 0 || !std::isfinite(scale))
     throw CommandFailure(translated(u"A block cannot be inserted at the scale %1.").arg(scale));
+  const OdDbObjectId block = blockFor(context, set.text(u"name"));
   BlockPlace place;
   place.scale = {scale, scale, scale};
   place.rotation = set.number(u"BC_ROTATE_ANGLE", 0);
