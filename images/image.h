@@ -54,8 +54,10 @@ class OdTcImage : public OdTcPersist {
   /// Shows a gradient by its stored name; an unknown one is taken for LINEAR.
   virtual bool makeFromGradient(const OdString& name, const OdCmColor& first,
                                 const OdCmColor& second) = 0;
-  /// Shows a hatch pattern. The pattern SOLID with a colour needs no host.
-  virtual bool makeFromPattern(const OdString& name, const std::optional<OdCmColor>& color) = 0;
+  /// Shows a hatch pattern of a file, which may be empty, or of the host. The pattern SOLID with a
+  /// colour needs no host.
+  virtual bool makeFromPattern(const OdString& name, const OdString& file,
+                               const std::optional<OdCmColor>& color) = 0;
   /// Shows a picture file, whose proportions are not kept, under its name; a name that the
   /// palette's folder has already is replaced by a fresh one.
   virtual bool setSrcFromFile(const OdString& path) = 0;
@@ -77,6 +79,8 @@ class OdTcImage : public OdTcPersist {
   /// As setSrcFromFile(), for a file whose picture is at hand already: several sizes are made of it
   /// decoding it once.
   virtual bool setSrcFromPicture(const QImage& picture, const OdString& path) = 0;
+  /// As makeFromPattern(), for lines of the user's own at an angle (radians), crossed or not.
+  virtual bool makeFromUserPattern(double angle, bool isCrosswise) = 0;
 };
 using OdTcImagePtr = OdSmartPtr<OdTcImage>;
 

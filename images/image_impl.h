@@ -34,7 +34,9 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   bool makeFromBlock(OdDbObjectId source) override;
   bool makeFromGradient(const OdString& name, const OdCmColor& first,
                         const OdCmColor& second) override;
-  bool makeFromPattern(const OdString& name, const std::optional<OdCmColor>& color) override;
+  bool makeFromPattern(const OdString& name, const OdString& file,
+                       const std::optional<OdCmColor>& color) override;
+  bool makeFromUserPattern(double angle, bool isCrosswise) override;
   bool makeFromDrawing(const OdString& path) override;
   bool saveTo(const OdString& path, std::int32_t format) override;
   bool loadFromFile(const OdString& path) override;
@@ -57,6 +59,7 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   Decoded& decoded();
   /// Keeps a picture that can be decoded again, as long as there is room for it.
   void keepDecoded(const QImage& picture);
+  void noteSaved(const QImage& picture, const OdString& path);
   QImage resourcePicture() const;
   void resolveAfterReading();
   void saveBesidePalette();

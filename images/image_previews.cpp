@@ -83,11 +83,19 @@ bool OdTcImageImpl::makeFromGradient(const OdString& name, const OdCmColor& firs
                      kHatchLabel);
 }
 
-bool OdTcImageImpl::makeFromPattern(const OdString& name, const std::optional<OdCmColor>& color) {
+bool OdTcImageImpl::makeFromPattern(const OdString& name, const OdString& file,
+                                    const std::optional<OdCmColor>& color) {
   if (color && name.compare(kSolid, Qt::CaseInsensitive) == 0)
     return makeFromGradient(QStringLiteral("LINEAR"), *color, *color);
   const KVPtr<IHostPreviewService> host = host::service<IHostPreviewService>();
-  return host && takePreview(host->renderPattern(name, pixelsOfKind(m_sizeKind)), {}, kHatchLabel);
+  return host &&
+         takePreview(host->renderPattern(name, file, pixelsOfKind(m_sizeKind)), {}, kHatchLabel);
+}
+
+bool OdTcImageImpl::makeFromUserPattern(double angle, bool isCrosswise) {
+  const KVPtr<IHostPreviewService> host = host::service<IHostPreviewService>();
+  return host && takePreview(host->renderUserPattern(angle, isCrosswise, pixelsOfKind(m_sizeKind)),
+                             {}, kHatchLabel);
 }
 
 bool OdTcImageImpl::setSrcFromFile(const OdString& path) {

@@ -5,6 +5,7 @@
 #include "properties/gradient_names.h"
 #include "properties/owned_part.h"
 #include "tools/object_property_families.h"
+#include "tools/tool_source.h"
 
 namespace tc {
 namespace {
@@ -100,6 +101,10 @@ OdTcChoices numbered(std::span<const QStringView> texts) {
 OdTcChoice named(QStringView text) {
   const OdString shown = translated(text);
   return {shown, shown};
+}
+
+bool isSolid(const OdString& pattern) {
+  return pattern.compare(QLatin1String("SOLID"), Qt::CaseInsensitive) == 0;
 }
 
 OdTcToolHatchCommandImpl::PatternDialog g_patternDialog = nullptr;
@@ -211,13 +216,26 @@ bool OdTcToolHatchCommandImpl::readProperty(const OdString& name, const OdVarian
 
 void OdTcToolHatchCommandImpl::createProperties() { fillProperties(kProperties); }
 
+bool OdTcToolHatchCommandImpl::isUserDefined(const OdString& pattern) const {
+  return !isSolid(pattern) && (m_fields.hatchType == 0 || pattern == translated(u"_USER"));
+}
+
+OdString OdTcToolHatchCommandImpl::soughtPattern() const {
+  const OdString& name = m_fields.patternName;
+  const bool isSought = m_fields.hatchObjectType == 0 && !isSolid(name) && !isUserDefined(name);
+  return isSought ? name : OdString();
+}
+
 OdString OdTcToolHatchCommandImpl::namedPattern() const {
   constexpr int kCustom = 2;
   const bool isOfFile =
       m_fields.hatchType == kCustom && !odpath::folderOf(m_fields.sourceFile).isEmpty();
-  const bool isNamed = m_fields.hatchObjectType == 0 && m_fields.hatchType != 0 && !isOfFile &&
-                       m_fields.patternName.compare(QLatin1String("SOLID"), Qt::CaseInsensitive);
-  return isNamed ? m_fields.patternName : OdString();
+  return isOfFile ? OdString() : soughtPattern();
+}
+
+OdString OdTcToolHatchCommandImpl::patternFile() const {
+  const bool hasNone = m_fields.patternName == translated(u"_USER");
+  return hasNone ? OdString() : sourceFromPalette(*this, m_fields.sourceFile);
 }
 
 OdRxObjectPtr OdTcToolHatchCommandImpl::clone() const {

@@ -70,6 +70,11 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   /// The pattern that the host must have for the tool to run; empty for a gradient, for lines of
   /// the user's own, for a filling, and for a pattern that comes from a file of its own.
   OdString namedPattern() const;
+  /// The same, and a pattern that comes from a file of its own as well.
+  OdString soughtPattern() const;
+  /// Where the host is to look for the pattern: the file, from the palette's folder if it is there;
+  /// empty for lines of the user's own.
+  OdString patternFile() const;
   OdString getSourceFile() const { return m_fields.sourceFile; }
   void setSourceFile(const OdString& path) { m_fields.sourceFile = path; }
   const OdCmColor& previewColor() const { return m_previewColor; }
@@ -133,10 +138,15 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdCmColor gradientColor(std::size_t index) const;
   void setGradientColor(std::size_t index, const OdCmColor& color);
   std::optional<OdCmColor> generalColor() const;
+  OdCmColor runColor(const OdDbDatabase* database) const;
+  /// A pattern of that name in this tool is lines of the user's own, as the host sees it: a filling
+  /// is one whatever the type says.
+  bool isUserDefined(const OdString& pattern) const;
   /// A filling by layer or by block has no colour of its own: the host shows it in one that is seen
   /// on any ground.
   static std::optional<OdCmColor> ownColorOf(const std::optional<OdCmColor>& color);
-  bool renderPattern(OdTcImage& image, const OdString& pattern) const;
+  bool renderPattern(OdTcImage& image, const OdString& pattern,
+                     const std::optional<OdCmColor>& color) const;
   void takeAuxiliaryScale(const OdDbDatabase* database);
   void beginHatch(IHostDocument& document);
   void beginGradient(IHostDocument& document);

@@ -96,6 +96,13 @@ std::optional<OdCmColor> OdTcToolHatchCommandImpl::generalColor() const {
   return colorFromVariant(color->getValue());
 }
 
+/// A tool without a colour of its own draws in the drawing's current one, as all tools do, and not
+/// in what the last hatch had.
+OdCmColor OdTcToolHatchCommandImpl::runColor(const OdDbDatabase* database) const {
+  const OdCmColor current = database ? database->currentColor() : OdCmColor();
+  return generalColor().value_or(current);
+}
+
 void OdTcToolHatchCommandImpl::beginExecution(IHostDocument* document) {
   if (!document) return;
   if (m_fields.hatchObjectType == 0)
@@ -123,15 +130,12 @@ void OdTcToolHatchCommandImpl::beginHatch(IHostDocument& document) {
     settings->get(staticName(kTypeSetting), m_saved->hatchType);
     settings->get(staticName(kFileSetting), m_saved->patternFile);
   }
-  OdString patternFile = m_fields.sourceFile;
-  if (m_fields.patternName == host::translate(QStringLiteral("_USER"))) patternFile.clear();
   takeAuxiliaryScale(document.database());
   if (settings) {
     settings->set(hostName(kTypeSetting), hostHatchType(m_fields.hatchType));
-    settings->set(hostName(kFileSetting), host::ownText(patternFile));
+    settings->set(hostName(kFileSetting), host::ownText(patternFile()));
   }
-  if (const std::optional<OdCmColor> color = generalColor())
-    set(variables, u"HPCOLOR", colorNumber(*color));
+  set(variables, u"HPCOLOR", colorNumber(runColor(document.database())));
   set(variables, u"HPNAME", host::ownText(m_fields.patternName));
   set(variables, u"HPANG", m_fields.angle);
   set(variables, u"HPSCALE", m_fields.scale);

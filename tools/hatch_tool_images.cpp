@@ -32,16 +32,22 @@ OdTcToolHatchCommandImpl::ownColorOf(const std::optional<OdCmColor>& color) {
   return color && !color->isByLayer() && !color->isByBlock() ? color : std::nullopt;
 }
 
-bool OdTcToolHatchCommandImpl::renderPattern(OdTcImage& image, const OdString& pattern) const {
+bool OdTcToolHatchCommandImpl::renderPattern(OdTcImage& image, const OdString& pattern,
+                                             const std::optional<OdCmColor>& color) const {
   if (m_fields.hatchObjectType == 1)
     return image.makeFromGradient(m_fields.gradientName, getGradientColor1(), getGradientColor2());
-  if (m_fields.hatchObjectType == 0)
-    return image.makeFromPattern(pattern, ownColorOf(m_previewColor));
-  return false;
+  if (m_fields.hatchObjectType != 0) return false;
+  if (isUserDefined(pattern))
+    return image.makeFromUserPattern(m_fields.angle, m_fields.isCrosswise);
+  return image.makeFromPattern(pattern, patternFile(), ownColorOf(color));
 }
 
 bool OdTcToolHatchCommandImpl::renderImage(OdTcImage& image) const {
-  return renderPattern(image, m_fields.patternName);
+  return renderPattern(image, m_fields.patternName, m_previewColor);
+}
+
+bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles&) const {
+  return renderPattern(image, m_fields.patternName, generalColor());
 }
 
 void OdTcToolHatchCommandImpl::updateImages(const OdString& pattern) {
@@ -52,7 +58,7 @@ void OdTcToolHatchCommandImpl::updateImages(const OdString& pattern) {
     // In the palette, so that the name that the picture gets is free there.
     image->setOwner(this);
     image->setSizeKind(kind);
-    if (renderPattern(*image, pattern)) conveyor->push(image);
+    if (renderPattern(*image, pattern, m_previewColor)) conveyor->push(image);
   }
   conveyor->flush();
 }

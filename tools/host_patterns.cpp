@@ -7,10 +7,10 @@
 
 namespace tc {
 
-bool isPatternKnown(const OdString& name) {
+bool isPatternKnown(const OdString& name, const OdString& file) {
   constexpr int kSmallest = 16;
   const KVPtr<IHostPreviewService> previews = host::service<IHostPreviewService>();
-  return !previews || !previews->renderPattern(name, kSmallest).isNull();
+  return !previews || !previews->renderPattern(name, file, kSmallest).isNull();
 }
 
 } // namespace tc

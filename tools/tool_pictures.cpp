@@ -3,7 +3,6 @@
 #include "frame/system_services.h"
 #include "images/image.h"
 #include "tools/block_tool.h"
-#include "tools/hatch_tool.h"
 #include "tools/raster_tool.h"
 #include "tools/source_files.h"
 #include "tools/tool_source.h"
@@ -19,11 +18,6 @@ bool OdTcToolBlockCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles& fi
   if (!source) return false;
   const OdDbBlockTablePtr blocks = source->getBlockTableId().openObject();
   return image.makeFromBlock(blocks->getAt(m_fields.name));
-}
-
-bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles&) const {
-  if (m_fields.hatchObjectType != 0) return renderImage(image);
-  return image.makeFromPattern(m_fields.patternName, ownColorOf(generalColor()));
 }
 
 bool OdTcToolRasterCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles& files) const {

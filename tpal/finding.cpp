@@ -38,6 +38,9 @@ constexpr KindText kKindTexts[] = {
     {FindingKind::kUnusedPicture, "C110", "unused-picture"},
 };
 
+/// The type of hatch tools whose pattern stands in a file of its own.
+constexpr int kCustomPattern = 2;
+
 const KindText& textOf(FindingKind kind) {
   for (const KindText& row : kKindTexts)
     if (row.kind == kind) return row;
@@ -173,11 +176,24 @@ class Examination {
   void checkPattern(const tc::OdTcTool& tool, const OdString& file) {
     const auto* const hatch =
         dynamic_cast<const tc::OdTcToolHatchCommandImpl*>(tool.getActionAgent());
-    const OdString pattern = hatch ? hatch->namedPattern() : OdString();
-    if (!pattern.isEmpty() && !tc::isPatternKnown(pattern))
-      add(FindingKind::kUnknownPattern, file,
-          QStringLiteral("tool \"%1\": there is no hatch pattern \"%2\"")
-              .arg(tool.name(), pattern));
+    const OdString pattern = hatch ? hatch->soughtPattern() : OdString();
+    if (pattern.isEmpty() || tc::isPatternKnown(pattern, hatch->patternFile())) return;
+    add(FindingKind::kUnknownPattern, file,
+        QStringLiteral("tool \"%1\": %2")
+            .arg(tool.name(), whyUnknown(pattern, hatch->patternFile(), hatch->getHatchType())));
+  }
+  /// Patterns of a custom file are the file's matter: it is told what is wrong with that.
+  static OdString whyUnknown(const OdString& pattern, const OdString& file, int hatchType) {
+    const OdString text = QStringLiteral("there is no hatch pattern \"%1\"").arg(pattern);
+    if (hatchType != kCustomPattern || file.isEmpty()) return text;
+    if (odrxSystemServices()->fileExists(file)) return QStringLiteral("%1 in %2").arg(text, file);
+    return odpath::isRelative(file)
+               ? QStringLiteral("there is no pattern file %1 beside the palette, so that its "
+                                "pattern \"%2\" cannot be looked for: the tool works only where "
+                                "the program finds the file")
+                     .arg(file, pattern)
+               : QStringLiteral("there is no pattern file %1, which is to have the pattern \"%2\"")
+                     .arg(file, pattern);
   }
 
   void checkPictures(const tc::OdTcTool& tool, const OdString& file) {

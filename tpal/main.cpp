@@ -18,25 +18,41 @@
 
 namespace {
 
-/// A pattern of the file beside the program, which is read when the first one is asked for.
+/// Patterns of files, and of the file beside the program. Both are read when the first one is asked
+/// for; of the others the last one is kept, as tools of one file often stand together.
 class Patterns {
  public:
-  std::optional<OdHatchPattern> operator()(const OdString& name) {
-    if (!m_file) m_file = read();
-    const OdHatchPattern* const found = m_file->find(name);
+  std::optional<OdHatchPattern> operator()(const OdString& name, const OdString& file) {
+    const OdString path = pathOf(file);
+    if (!path.isEmpty() && path != m_path) {
+      m_file = read(path);
+      m_path = path;
+    }
+    const OdHatchPattern* found = path.isEmpty() ? nullptr : m_file.find(name);
+    if (!found) {
+      if (!m_own) m_own = read(pathOf(QStringLiteral("draftoniso.pat")));
+      found = m_own->find(name);
+    }
     return found ? std::optional(*found) : std::nullopt;
   }
 
  private:
-  static OdHatchPatternFile read() {
-    const QString path = QCoreApplication::applicationDirPath() + QLatin1String("/draftoniso.pat");
+  /// A file that is there; the program's folder is looked into for those without one.
+  static OdString pathOf(const OdString& file) {
+    if (file.isEmpty() || !odpath::isRelative(file)) return file;
+    return odpath::fromPlatform(QCoreApplication::applicationDirPath()) + u'\\' + file;
+  }
+  static OdHatchPatternFile read(const OdString& path) {
     try {
-      return OdHatchPatternFile::read(odpath::fromPlatform(path));
+      return OdHatchPatternFile::read(path);
     } catch (const OdFileError&) {
       return {}; // without the file there are no patterns to show
     }
   }
-  std::optional<OdHatchPatternFile> m_file;
+
+  OdString m_path;
+  OdHatchPatternFile m_file;
+  std::optional<OdHatchPatternFile> m_own;
 };
 
 bool isTerminal(std::FILE* stream) {

@@ -8,6 +8,7 @@
 #include "frame/file_path.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace drafton {
 namespace {
@@ -27,10 +28,10 @@ QImage PreviewService::renderObjects(std::span<const OdDbObjectId> objects,
   return isPossible(pixels) ? objectPicture(objects, view, pixels) : QImage();
 }
 
-QImage PreviewService::renderPattern(const OdString& name, int pixels) {
+QImage PreviewService::renderPattern(const OdString& name, const OdString& file, int pixels) {
   if (!isPossible(pixels)) return {};
   if (name.compare(kSolid, Qt::CaseInsensitive) == 0) return filledPicture(pixels);
-  const std::optional<OdHatchPattern> pattern = m_findPattern(name);
+  const std::optional<OdHatchPattern> pattern = m_findPattern(name, file);
   return pattern ? patternPicture(*pattern, pixels) : QImage();
 }
 
@@ -45,6 +46,13 @@ QImage PreviewService::storedPreview(const OdString& path, int pixels) {
 
 QImage PreviewService::fileIcon(const OdString& path, int pixels) {
   return isPossible(pixels) ? sheetIcon(odpath::extensionOf(path), pixels) : QImage();
+}
+
+QImage PreviewService::renderUserPattern(double angle, bool isCrosswise, int pixels) {
+  if (!isPossible(pixels)) return {};
+  OdHatchPattern pattern = OdHatchPattern::userDefined(1, isCrosswise);
+  pattern.lines = pattern.placed(1, std::isfinite(angle) ? std::remainder(angle, 2 * kOdaPi) : 0);
+  return patternPicture(pattern, pixels);
 }
 
 } // namespace drafton

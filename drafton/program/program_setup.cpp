@@ -15,10 +15,11 @@ OdString defaultProfile() {
 }
 
 void offerPictures(Engine& engine) {
-  const auto findPattern = [&engine](const OdString& name) -> std::optional<OdHatchPattern> {
-    OdVariant file;
-    engine.hatchSettings()->get(QStringLiteral("hatch_pattern_file"), file);
-    auto found = findHatchPattern(engine, engine.documents().current(), name, file.toString());
+  const auto findPattern = [&engine](const OdString& name,
+                                     const OdString& file) -> std::optional<OdHatchPattern> {
+    OdVariant current = file;
+    if (file.isEmpty()) engine.hatchSettings()->get(QStringLiteral("hatch_pattern_file"), current);
+    auto found = findHatchPattern(engine, engine.documents().current(), name, current.toString());
     if (!found) return std::nullopt;
     return std::move(found->pattern);
   };

@@ -157,8 +157,8 @@ class Previews : public testing::Test {
   }
 
   OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
-  KVPtr<PreviewService> service =
-      kvMake<PreviewService>([](const OdString& name) -> std::optional<OdHatchPattern> {
+  KVPtr<PreviewService> service = kvMake<PreviewService>(
+      [](const OdString& name, const OdString&) -> std::optional<OdHatchPattern> {
         const OdHatchPattern* const found = patterns().find(name);
         return found ? std::optional(*found) : std::nullopt;
       });
@@ -184,8 +184,19 @@ TEST_F(Previews, OfPatternsRepeatAFewTimes) {
   ContactSheet sheet;
   for (const char16_t* const name :
        {u"ANSI31", u"ANSI37", u"BRICK", u"GRAVEL", u"EARTH", u"DOTS", u"SOLID"})
-    sheet.add([&](int pixels) { return service->renderPattern(text(name), pixels); });
+    sheet.add([&](int pixels) { return service->renderPattern(text(name), {}, pixels); });
   EXPECT_TRUE(looksLike(sheet.image(), "preview_patterns"));
+}
+
+TEST_F(Previews, OfLinesOfTheUsersOwnShowTheirAngleAndWhatCrossesThem) {
+  ContactSheet sheet;
+  for (const double angle : {0.0, kOdaPi / 4, 1.2})
+    for (const bool isCrosswise : {false, true})
+      sheet.add([&](int pixels) { return service->renderUserPattern(angle, isCrosswise, pixels); });
+  EXPECT_TRUE(looksLike(sheet.image(), "preview_user_patterns"));
+  // An angle that is no number, or so large that nothing of it is left, is some angle all the same.
+  for (const double angle : {std::nan(""), HUGE_VAL, 1e300})
+    EXPECT_FALSE(service->renderUserPattern(angle, true, 32).isNull());
 }
 
 TEST_F(Previews, OfDrawingsAndLayoutsShowWhatIsInThem) {
@@ -285,10 +296,11 @@ TEST_F(Previews, AreNotMadeOfNothing) {
   EXPECT_TRUE(service->renderObjects(block, OdGeExtents3d(), 32).isNull());
   for (const int pixels : {0, -1, 1 << 20}) {
     EXPECT_TRUE(service->renderObjects(block, view, pixels).isNull());
-    EXPECT_TRUE(service->renderPattern(text(u"ANSI31"), pixels).isNull());
+    EXPECT_TRUE(service->renderPattern(text(u"ANSI31"), {}, pixels).isNull());
     EXPECT_TRUE(service->fileIcon(text(u"a.dxf"), pixels).isNull());
+    EXPECT_TRUE(service->renderUserPattern(0, false, pixels).isNull());
   }
-  EXPECT_TRUE(service->renderPattern(text(u"no such pattern"), 32).isNull());
+  EXPECT_TRUE(service->renderPattern(text(u"no such pattern"), {}, 32).isNull());
 }
 
 TEST_F(Previews, OfABlockThatContainsItselfEnd) {

@@ -276,8 +276,17 @@ QImage TestPreviewService::renderObjects(std::span<const OdDbObjectId> objects,
   return picture(canRender, QStringLiteral("objects %1").arg(objects.size()), pixels);
 }
 
-QImage TestPreviewService::renderPattern(const OdString& name, int pixels) {
-  return picture(canRender, QStringLiteral("pattern ") + name, pixels);
+QImage TestPreviewService::renderPattern(const OdString& name, const OdString& file, int pixels) {
+  const QString from = file.isEmpty() ? QString() : QStringLiteral(" of ") + file;
+  return picture(canRender, QStringLiteral("pattern ") + name + from, pixels);
+}
+
+QImage TestPreviewService::renderUserPattern(double angle, bool isCrosswise, int pixels) {
+  return picture(canRender,
+                 QStringLiteral("lines at %1%2")
+                     .arg(angle)
+                     .arg(isCrosswise ? QStringLiteral(" crossed") : QString()),
+                 pixels);
 }
 
 QImage TestPreviewService::storedPreview(const OdString& path, int pixels) {

@@ -275,9 +275,10 @@ class TestPreviewService : public CKVUnknownImpl<IHostPreviewService> {
   }
   QImage renderObjects(std::span<const OdDbObjectId> objects, const OdGeExtents3d& shown,
                        int pixels) override;
-  QImage renderPattern(const OdString& name, int pixels) override;
+  QImage renderPattern(const OdString& name, const OdString& file, int pixels) override;
   QImage storedPreview(const OdString& path, int pixels) override;
   QImage fileIcon(const OdString& path, int pixels) override;
+  QImage renderUserPattern(double angle, bool isCrosswise, int pixels) override;
 
  private:
   QImage picture(bool isThere, const QString& what, int pixels);

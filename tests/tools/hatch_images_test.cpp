@@ -4,6 +4,7 @@
 #include "support/module_fixture.h"
 #include "tools/conveyor_impl.h"
 #include "tools/hatch_tool.h"
+#include "tools/source_files.h"
 #include "tools/tool_data.h"
 
 namespace {
@@ -49,9 +50,33 @@ TEST_F(HatchImagesTest, AreConveyedFromTheLargestToTheSmallest) {
   EXPECT_EQ(sink.got[0]->sizeKind(), 4);
   EXPECT_EQ(sink.got[1]->sizeKind(), 3);
   EXPECT_EQ(sink.got[2]->sizeKind(), 1);
-  EXPECT_EQ(host().previews.asked,
-            QStringList(
-                {text(u"pattern BRICK 64"), text(u"pattern BRICK 32"), text(u"pattern BRICK 16")}));
+  EXPECT_EQ(host().previews.asked, QStringList({text(u"pattern BRICK of draftoniso.pat 64"),
+                                                text(u"pattern BRICK of draftoniso.pat 32"),
+                                                text(u"pattern BRICK of draftoniso.pat 16")}));
+}
+
+TEST_F(HatchImagesTest, OfLinesOfTheUsersOwnAreNoPattern) {
+  agent->setAngle(0.5);
+  agent->setIsCrosswise(true);
+  const auto askedOf = [&](const OdString& name, int type) {
+    host().previews.asked.clear();
+    agent->setPatternName(name);
+    agent->setHatchType(type);
+    const OdTcImagePtr image = OdTcImage::createObject();
+    image->setSizeKind(1);
+    OdTcSourceFiles files;
+    EXPECT_TRUE(agent->makePicture(*image, files));
+    EXPECT_TRUE(agent->renderImage(*image));
+    EXPECT_EQ(host().previews.asked.size(), 2);
+    EXPECT_EQ(host().previews.asked.front(), host().previews.asked.back());
+    return host().previews.asked.front();
+  };
+  EXPECT_EQ(askedOf(text(u"_USER"), 0), text(u"lines at 0.5 crossed 16"));
+  EXPECT_EQ(askedOf(text(u"_USER"), 1), text(u"lines at 0.5 crossed 16"));
+  EXPECT_EQ(askedOf(text(u"ANSI31"), 0), text(u"lines at 0.5 crossed 16"));
+  EXPECT_EQ(askedOf(text(u"Solid"), 0), text(u"pattern Solid of draftoniso.pat 16"));
+  agent->setSourceFile(text(u"C:\\mine.pat"));
+  EXPECT_EQ(askedOf(text(u"MINE"), 2), text(u"pattern MINE of C:\\mine.pat 16"));
 }
 
 TEST_F(HatchImagesTest, AreNotMadeWhileTheyAreDisabled) {

@@ -94,6 +94,18 @@ TEST_F(HatchToolTest, SetsTheHatchVariablesInOrderAndPutsThemBack) {
   EXPECT_EQ(host().hatch.values[text(u"hatch_pattern_file")].toString(), text(u"mine.pat"));
 }
 
+TEST_F(HatchToolTest, WithoutAColourOfItsOwnDrawsInTheCurrentOne) {
+  defineHatchVariables();
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  drawing->setCurrentColor(OdCmColor::fromColorIndex(5));
+  document.databaseOfDocument = drawing;
+  document.variableSet.define(text(u"HPCOLOR"), OdVariant(OdCmColor::fromColorIndex(1).color()));
+  agent->beginExecution(&document);
+  EXPECT_EQ(variable(u"HPCOLOR").toUInt32(), OdCmColor::fromColorIndex(5).color());
+  agent->endExecution(&document);
+  EXPECT_EQ(variable(u"HPCOLOR").toUInt32(), OdCmColor::fromColorIndex(1).color());
+}
+
 TEST_F(HatchToolTest, CountsKindsOfPatternAsTheHostDoes) {
   defineHatchVariables();
   const std::pair<int, int> rows[] = {{0, 1}, {1, 0}, {2, 2}, {7, 0}};

@@ -1,3 +1,4 @@
+#include "frame/file_path.h"
 #include "tpal/console_host.h"
 #include "tpal/plain_previews.h"
 #include "tpal/tool_fixture.h"
@@ -135,6 +136,51 @@ TEST_F(CheckCommand, NamesAPatternThatTheProgramDoesNotHave) {
   EXPECT_EQ(codes(), QStringList{QStringLiteral("C109")});
   writeCatalog(hatch("ANSI31"));
   EXPECT_EQ(codes(), QStringList());
+  tpal::ConsoleHost::instance().setPreviews(nullptr);
+}
+
+TEST_F(CheckCommand, SaysOfACustomPatternWhatIsWrongWithItsFile) {
+  const auto previews = kvMake<PlainPreviews>();
+  previews->unknownPattern = QStringLiteral("MINE");
+  tpal::ConsoleHost::instance().setPreviews(previews.get());
+  const auto found = [&](int type, const QByteArray& file) {
+    previews->asked.clear();
+    writeCatalog(tool("{1}", "H",
+                      "<Hatch><HatchType>" + QByteArray::number(type) +
+                          "</HatchType><PatternName>MINE</PatternName><SourceFile>" + file +
+                          "</SourceFile></Hatch>"));
+    EXPECT_EQ(codes(), QStringList{QStringLiteral("C109")});
+    EXPECT_EQ(previews->asked.size(), 1);
+    return out().section(QStringLiteral("tool \"H\": "), 1).trimmed();
+  };
+  write(QStringLiteral("c/patterns/mine.pat"), "*OTHER\n0, 0,0, 0,9\n");
+  const OdString mine = odpath::fromPlatform(path(QStringLiteral("c/patterns/mine.pat")));
+  EXPECT_EQ(found(2, "..\\patterns\\mine.pat"),
+            QStringLiteral("there is no hatch pattern \"MINE\" in ") + mine);
+  EXPECT_EQ(previews->asked, QStringList(QStringLiteral("MINE|") + mine));
+  EXPECT_EQ(found(2, mine.toUtf8()),
+            QStringLiteral("there is no hatch pattern \"MINE\" in ") + mine);
+  EXPECT_EQ(found(2, "gone.pat"),
+            QStringLiteral("there is no pattern file gone.pat beside the palette, so that its "
+                           "pattern \"MINE\" cannot be looked for: the tool works only where the "
+                           "program finds the file"));
+  EXPECT_EQ(found(2, "C:\\gone.pat"),
+            QStringLiteral("there is no pattern file C:\\gone.pat, which is to have the pattern "
+                           "\"MINE\""));
+  EXPECT_EQ(found(1, "draftoniso.pat"), QStringLiteral("there is no hatch pattern \"MINE\""));
+  tpal::ConsoleHost::instance().setPreviews(nullptr);
+}
+
+TEST_F(CheckCommand, DoesNotMissThePatternOfLinesOfTheUsersOwn) {
+  const auto previews = kvMake<PlainPreviews>();
+  previews->unknownPattern = QStringLiteral("_USER");
+  tpal::ConsoleHost::instance().setPreviews(previews.get());
+  for (const QByteArray type : {"0", "1", "2"}) {
+    writeCatalog(
+        tool("{1}", "H",
+             "<Hatch><HatchType>" + type + "</HatchType><PatternName>_USER</PatternName></Hatch>"));
+    EXPECT_EQ(codes(), QStringList());
+  }
   tpal::ConsoleHost::instance().setPreviews(nullptr);
 }
 

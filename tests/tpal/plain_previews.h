@@ -12,14 +12,17 @@ class PlainPreviews : public CKVUnknownImpl<IHostPreviewService> {
     ++objects;
     return plain(pixels);
   }
-  QImage renderPattern(const OdString& name, int pixels) override {
+  QImage renderPattern(const OdString& name, const OdString& file, int pixels) override {
+    asked << name + u'|' + file;
     return name == unknownPattern ? QImage() : plain(pixels);
   }
   QImage storedPreview(const OdString&, int) override { return {}; }
   QImage fileIcon(const OdString&, int pixels) override { return plain(pixels); }
+  QImage renderUserPattern(double, bool, int pixels) override { return plain(pixels); }
 
   int objects = 0;
   OdString unknownPattern;
+  QStringList asked; ///< patterns and their files
 
  private:
   static QImage plain(int pixels) {
