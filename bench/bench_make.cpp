@@ -1,5 +1,5 @@
-// Tools made from libraries of blocks, with their pictures: the time of one must not grow with their
-// number, and all cores work on the pictures.
+// Tools made from libraries of blocks, with their pictures: the time of one must not grow with
+// their number, and all cores work on the pictures.
 #include "bench/ratio_report.h"
 #include "drafton/previews/offscreen_application.h"
 #include "drafton/previews/preview_service.h"
@@ -49,7 +49,9 @@ QString writeLibrary(const QTemporaryDir& folder, int blocks) {
 
 KVPtr<IHostPreviewService> makePreviews() {
   drafton::OffscreenApplication::prepareThread();
-  return kvMake<drafton::PreviewService>([](const OdString&) { return std::nullopt; }).get();
+  return kvMake<drafton::PreviewService>(
+             [](const OdString&, const OdString&) { return std::nullopt; })
+      .get();
 }
 
 void make(benchmark::State& state, const QString& library, bool onAllCores) {

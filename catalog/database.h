@@ -52,6 +52,11 @@ class OdTcDatabase : public OdTcCatalogItem {
   /// The path and the reason of the last save that failed, in words for the user; empty once one
   /// went through.
   virtual OdString saveProblem() const = 0;
+  /// Pictures that the last save could not write beside the palette, each with its file and the
+  /// reason, in words for the user, who was told. The palette itself is saved all the same.
+  virtual QStringList unsavedPictures() const = 0;
+  /// Called by a picture that cannot be written while the palette is.
+  virtual void noteUnsavedPicture(const OdString& problem) = 0;
 };
 using OdTcDatabasePtr = OdSmartPtr<OdTcDatabase>;
 

@@ -11,6 +11,7 @@
 #include "module/string_table.h"
 #include "persistence/unread_original.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tc {
@@ -81,15 +82,29 @@ bool OdTcDatabaseImpl::readWith(const OdTcFilerPtr& filer, const OdString& path)
   return outcome.isRead;
 }
 
+/// Where one picture cannot be written, hundreds often cannot: the first few show why.
+void OdTcDatabaseImpl::tellUnsavedPictures() const {
+  constexpr qsizetype kMostTold = 3;
+  const qsizetype count = m_unsavedPictures.size();
+  for (const OdString& problem : m_unsavedPictures.first(std::min(kMostTold, count)))
+    host::print(
+        formatText(host::translate(QStringLiteral("\nCannot save the picture: %s")), problem));
+  if (count > kMostTold)
+    host::print(formatText(host::translate(QStringLiteral("\nPictures not saved in all: %s")),
+                           OdString::number(count)));
+}
+
 /// Writes the file at the path in force by `write`. Why that failed, if it did, is told on the
 /// command line and kept.
 bool OdTcDatabaseImpl::writeBy(const std::function<bool()>& write) {
+  m_unsavedPictures.clear();
   try {
     m_unread.keepBefore(m_path);
     m_saveProblem = write() ? OdString() : m_path;
   } catch (const OdFileError& error) {
     m_saveProblem = error.description();
   }
+  tellUnsavedPictures();
   if (m_saveProblem.isEmpty()) {
     m_unread.noteWritten(m_path);
     return true;

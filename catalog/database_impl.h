@@ -49,6 +49,8 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   bool isUnread() const override { return m_unread.isAt(m_path); }
   OdString readProblem() const override { return m_unread.problemAt(m_path); }
   OdString saveProblem() const override { return m_saveProblem; }
+  QStringList unsavedPictures() const override { return m_unsavedPictures; }
+  void noteUnsavedPicture(const OdString& problem) override { m_unsavedPictures << problem; }
   /// True if the id was read from the file.
   bool hasStoredId() const { return m_hasStoredId; }
 
@@ -67,6 +69,7 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
 
  private:
   bool readWith(const OdTcFilerPtr& filer, const OdString& path);
+  void tellUnsavedPictures() const;
   bool writeBy(const std::function<bool()>& write);
   bool writeCopy(const OdString& path, const std::function<bool()>& write);
 
@@ -78,6 +81,7 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   OdSmartPtr<OdTcPaletteUi> m_ui;
   UnreadFile m_unread;
   OdString m_saveProblem;
+  QStringList m_unsavedPictures;
   bool m_isExporting = false;
   bool m_hasStoredId = false;
 };

@@ -165,8 +165,10 @@ void PaletteImport::reviewPattern(const OdTcTool& tool, OdTcImportedTool& row) {
   const auto* const hatch = dynamic_cast<const OdTcToolHatchCommandImpl*>(tool.getActionAgent());
   const OdString pattern = hatch ? hatch->namedPattern() : OdString();
   if (pattern.isEmpty()) return;
-  auto known = m_patterns.find(pattern);
-  if (known == m_patterns.end()) known = m_patterns.insert(pattern, isPatternKnown(pattern));
+  const OdString file = hatch->patternFile();
+  const OdString question = pattern + u'\n' + file;
+  auto known = m_patterns.find(question);
+  if (known == m_patterns.end()) known = m_patterns.insert(question, isPatternKnown(pattern, file));
   if (!*known) remark(row, translated(u"there is no hatch pattern \"%1\" here").arg(pattern));
 }
 
@@ -229,6 +231,8 @@ bool PaletteImport::enter() {
   entry.enter(m_options.group);
   if (!refreshImages()) return false;
   if (m_options.save && !entry.save()) return fail(entry.problem());
+  for (const OdString& problem : m_palette->getDatabase()->unsavedPictures())
+    m_report.notes << translated(u"A picture is not saved: %1").arg(problem);
   entry.commit();
   return true;
 }

@@ -3,6 +3,7 @@
 #include "catalog/owner_link.h"
 #include "frame/error.h"
 #include "host/host_locator.h"
+#include "images/image_home.h"
 #include "images/image_list.h"
 #include "tools/tool_guard.h"
 
@@ -16,6 +17,15 @@ void endRun(OdTcTool& tool) {
   if (!tool.runningDocument()) return;
   tool.finish();
   if (IToolGuard* const guard = IToolGuard::instance()) guard->forget(&tool);
+}
+
+/// Takes the pictures from a tool that goes; the files of those that go with it.
+QStringList takePictures(const OdTcTool& tool) {
+  OdTcImageList* const images = tool.isMarked() ? nullptr : tool.images();
+  if (!images) return {};
+  const QStringList files = images->pictureFiles();
+  images->removeAll(false);
+  return files;
 }
 
 } // namespace
@@ -40,16 +50,11 @@ void OdTcToolListImpl::add(OdTcCatalogItem* item) {
   appendShared(tool);
 }
 
-void OdTcToolListImpl::dropImages(OdTcTool& tool) const {
-  if (tool.isMarked()) return;
-  if (OdTcImageList* const images = tool.images()) images->removeAll(true);
-}
-
 bool OdTcToolListImpl::remove(const OdString& id) {
   const OdTcToolPtr tool(find(id));
   if (!tool) return false;
   endRun(*tool);
-  dropImages(*tool);
+  removePictureFiles(database(), takePictures(*tool));
   return OdTcListImplBase::remove(id);
 }
 
@@ -58,14 +63,17 @@ void OdTcToolListImpl::removeWhere(const std::function<bool(const OdTcTool&)>& i
   for (const OdTcToolPtr& tool : former)
     if (isUnwanted(*tool)) endRun(*tool);
   clearItems();
+  QStringList pictures;
   for (const OdTcToolPtr& tool : former) {
     if (!isUnwanted(*tool)) {
       appendShared(tool);
       continue;
     }
-    dropImages(*tool);
+    pictures << takePictures(*tool);
     disown(tool);
   }
+  // All at once: to know what is shown still the whole catalog is looked through.
+  removePictureFiles(database(), pictures);
 }
 
 OdRxObjectPtr OdTcToolListImpl::clone() const {

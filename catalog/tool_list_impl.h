@@ -16,7 +16,7 @@ class OdTcToolListImpl : public OdTcListImplBase<OdTcToolList, OdTcTool> {
   /// palette has it.
   void add(OdTcCatalogItem* item) override;
   /// Ends the tool's run, if it runs, and deletes its pictures, unless the tool is marked as
-  /// sharing them.
+  /// sharing them or another one shows them.
   bool remove(const OdString& id) override;
   void removeWhere(const std::function<bool(const OdTcTool&)>& isUnwanted) override;
 
@@ -27,9 +27,6 @@ class OdTcToolListImpl : public OdTcListImplBase<OdTcToolList, OdTcTool> {
  protected:
   bool acceptsElement(const OdString& element) const override;
   OdTcPersist* ownerOfItems() const override { return const_cast<OdTcToolListImpl*>(this); }
-
- private:
-  void dropImages(OdTcTool& tool) const;
 };
 
 } // namespace tc

@@ -1,8 +1,14 @@
 #include "images/image_home.h"
 
 #include "frame/file_path.h"
+#include "frame/system_services.h"
 #include "persistence/foreign_paths.h"
 #include "persistence/path_operations.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <array>
 
 namespace tc {
 namespace {
@@ -20,6 +26,16 @@ OdString plainForm(const OdString& path) {
   plain.replace(u'/', u'\\');
   normalizePath(plain);
   return plain;
+}
+
+/// What nobody would take for a tool's picture is none, whatever a file says.
+bool isPictureInItsFolder(const OdString& path) {
+  static constexpr std::array<QStringView, 10> kPictures = {
+      u"png", u"bmp", u"jpg", u"jpeg", u"gif", u"tif", u"tiff", u"ico", u"wmf", u"emf"};
+  const OdString folder = odpath::folderOf(plainForm(path));
+  const OdString extension = odpath::extensionOf(path);
+  return folder.endsWith(QLatin1String("\\Images"), Qt::CaseInsensitive) &&
+         std::ranges::any_of(kPictures, [&](QStringView known) { return extension == known; });
 }
 
 } // namespace
@@ -47,6 +63,26 @@ OdString imageFilePath(const OdTcDatabase* database, const OdString& src) {
   if (!plainForm(joined({}, src)).startsWith(QLatin1String("\\Images\\")))
     folder += QLatin1String("\\Images");
   return joined(folder, src);
+}
+
+void noteUnsavedPicture(OdTcDatabase* database, const OdString& problem) {
+  if (database && g_home.noteUnsaved) g_home.noteUnsaved(database, problem);
+}
+
+OdString pictureFileKey(const OdString& path) { return plainForm(path).toCaseFolded(); }
+
+void removePictureFiles(const OdTcDatabase* database, const QStringList& files) {
+  const OdString palette = imageHomePath(database);
+  QHash<OdString, OdString> byKey;
+  for (const OdString& file : files)
+    if (isBelowPalette(palette, file) && isPictureInItsFolder(file))
+      byKey.insert(pictureFileKey(file), file);
+  if (byKey.isEmpty()) return;
+  if (g_home.stillShown)
+    for (const OdString& key :
+         g_home.stillShown(database, QSet<OdString>(byKey.keyBegin(), byKey.keyEnd())))
+      byKey.remove(key);
+  for (const OdString& file : byKey) odrxSystemServices()->removeFile(file);
 }
 
 bool isBelowPalette(const OdString& palettePath, const OdString& imagePath) {

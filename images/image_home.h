@@ -3,6 +3,8 @@
 
 #include "frame/string.h"
 
+#include <QSet>
+
 namespace tc {
 
 class OdTcDatabase;
@@ -15,6 +17,12 @@ struct OdTcImageHome {
   OdString (*pathOf)(const OdTcDatabase* database) = nullptr;
   /// True while the palette is being written to another place.
   bool (*isExporting)(const OdTcDatabase* database) = nullptr;
+  /// Tells the palette, which is being written, that a picture of it cannot be: the file and the
+  /// reason, in words for the user.
+  void (*noteUnsaved)(OdTcDatabase* database, const OdString& problem) = nullptr;
+  /// Those of the picture files that an item of the palette, or of the catalog that it is in, shows
+  /// or may show. The files are told by keys, as pictureFileKey() gives them.
+  QSet<OdString> (*stillShown)(const OdTcDatabase* database, const QSet<OdString>& keys) = nullptr;
 };
 
 void setImageHome(const OdTcImageHome& home);
@@ -31,5 +39,13 @@ OdString imagePathBeside(const OdString& palettePath, const OdString& src);
 /// True if the picture lies in the folder of the palette file or below, and is no device. A `src`
 /// from a file can lead anywhere; nothing is written or deleted outside.
 bool isBelowPalette(const OdString& palettePath, const OdString& imagePath);
+
+/// Tells the palette of a picture that could not be written with it.
+void noteUnsavedPicture(OdTcDatabase* database, const OdString& problem);
+/// One name for each file, however its path is spelled.
+OdString pictureFileKey(const OdString& path);
+/// Deletes files of pictures that were the palette's, by their stored paths: pictures in a folder
+/// for them below its own, which nothing shows any more. Others stay.
+void removePictureFiles(const OdTcDatabase* database, const QStringList& files);
 
 } // namespace tc

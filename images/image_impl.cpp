@@ -169,10 +169,14 @@ bool OdTcImageImpl::saveTo(const OdString& path, std::int32_t format) {
   const OdString extension = format == -1 && !own.isEmpty() ? own : formatExtension(format);
   const OdString target = own.isEmpty() ? path + u'.' + extension : path;
   if (!savePicture(picture, target, extension)) return false;
-  decoded().fullPath = target;
-  // From here on the file has it.
-  keepDecoded(picture);
+  noteSaved(picture, target);
   return true;
+}
+
+/// From here on the file has it.
+void OdTcImageImpl::noteSaved(const QImage& picture, const OdString& path) {
+  decoded().fullPath = path;
+  keepDecoded(picture);
 }
 
 bool OdTcImageImpl::loadFromFile(const OdString& path) {
@@ -239,8 +243,10 @@ void OdTcImageImpl::saveBesidePalette() {
   if (isBeingExported(database())) {
     // A copy goes along; what is not saved beside the palette yet is still to be saved there.
     const QImage picture = system->fileExists(path) ? QImage() : getBitmap();
-    if (!picture.isNull() && system->createFolder(odpath::folderOf(path)))
-      savePicture(picture, path, QStringLiteral("png"));
+    OdString problem;
+    if (!picture.isNull() && (!makePictureFolder(path, &problem) ||
+                              !savePicture(picture, path, QStringLiteral("png"), &problem)))
+      noteUnsavedPicture(database(), problem);
     return;
   }
   OdString target = path;
@@ -253,9 +259,14 @@ void OdTcImageImpl::saveBesidePalette() {
     m_src = uniqueName(m_decoded->label.toString());
     target = imageFilePath(database(), src());
   }
-  if (getBitmap().isNull()) return;
-  if (const OdString folder = odpath::folderOf(target); system->createFolder(folder))
-    saveTo(target, kPngFormat);
+  const QImage picture = getBitmap();
+  if (picture.isNull()) return;
+  OdString problem;
+  if (makePictureFolder(target, &problem) &&
+      savePicture(picture, target, QStringLiteral("png"), &problem))
+    noteSaved(picture, target);
+  else
+    noteUnsavedPicture(database(), problem);
 }
 
 void OdTcImageImpl::writeFields(OdTcFiler* filer) {

@@ -15,7 +15,8 @@ class OdTcImageList : public OdTcPersist {
 
  public:
   virtual void add(OdTcImage* image) = 0;
-  /// Forgets the pictures; with `deleteFiles`, their files go as well.
+  /// Forgets the pictures; with `deleteFiles`, their files go as well, but for those that another
+  /// item of the catalog shows.
   virtual void removeAll(bool deleteFiles) = 0;
   virtual OdTcEnumPtr<OdTcImage> enumImages() const = 0;
   /// The first picture of that size, or null. Borrowed.
@@ -29,6 +30,8 @@ class OdTcImageList : public OdTcPersist {
   /// The same with pictures that `make` makes: it is given each image, of its size kind and already
   /// in the list's palette, and is false if no picture came of it. The list then has none.
   virtual bool setFrom(const std::function<bool(OdTcImage& image)>& make) = 0;
+  /// The stored paths of the pictures' files, as far as these exist.
+  virtual QStringList pictureFiles() const = 0;
 };
 using OdTcImageListPtr = OdSmartPtr<OdTcImageList>;
 

@@ -1,6 +1,5 @@
 #include "images/image_list_impl.h"
 
-#include "frame/system_services.h"
 #include "images/image_home.h"
 #include "images/image_impl.h"
 #include "images/picture_file.h"
@@ -15,14 +14,17 @@ void OdTcImageListImpl::add(OdTcImage* image) {
 }
 
 void OdTcImageListImpl::removeAll(bool deleteFiles) {
-  if (deleteFiles) {
-    const OdString palette = imageHomePath(database());
-    for (const OdTcImagePtr& image : m_images) {
-      const OdString path = image->isResource() ? OdString() : image->fullPath();
-      if (isBelowPalette(palette, path)) odrxSystemServices()->removeFile(path);
-    }
-  }
+  const QStringList files = deleteFiles ? pictureFiles() : QStringList();
   m_images.clear();
+  if (!files.isEmpty()) removePictureFiles(database(), files);
+}
+
+QStringList OdTcImageListImpl::pictureFiles() const {
+  QStringList files;
+  for (const OdTcImagePtr& image : m_images)
+    if (const OdString path = image->isResource() ? OdString() : image->fullPath(); !path.isEmpty())
+      files << path;
+  return files;
 }
 
 OdTcEnumPtr<OdTcImage> OdTcImageListImpl::enumImages() const {

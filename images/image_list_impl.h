@@ -21,6 +21,7 @@ class OdTcImageListImpl final : public OdTcPersistImpl<OdTcImageList> {
   std::uint32_t options() const override { return m_options; }
   bool setFromFile(const OdString& path) override;
   bool setFrom(const std::function<bool(OdTcImage& image)>& make) override;
+  QStringList pictureFiles() const override;
 
   void writeFields(OdTcFiler* filer) override;
   bool readField(const OdString& name, const OdVariant& value) override;

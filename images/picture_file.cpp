@@ -1,6 +1,7 @@
 #include "images/picture_file.h"
 
 #include "frame/error.h"
+#include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
 #include "persistence/path_operations.h"
@@ -31,6 +32,8 @@ constexpr KindRow kOtherKind = {0, 16, u"32"};
 constexpr std::array<QStringView, 8> kExtensions = {u"bmp",  u"wmf", u"ico", u"emf",
                                                     u"jpeg", u"png", u"gif", u"tiff"};
 
+OdString translated(const char16_t* text) { return host::translate(OdString::fromUtf16(text)); }
+
 const KindRow& rowOf(std::int32_t kind) {
   for (const KindRow& row : kKinds)
     if (row.kind == kind) return row;
@@ -58,16 +61,27 @@ bool isPhotograph(const QSize& size) {
   return qint64{size.width()} * size.height() <= kMostPixels;
 }
 
+/// The size of a picture that takes too much memory to be decoded at that size; not valid for one
+/// that can be.
+QSize sizeOfTooLarge(QImageReader& reader) {
+  const QSize size = reader.size();
+  return size.isValid() && !isAllowed(size, reader.imageFormat()) ? size : QSize();
+}
+
+/// Photographs can be decoded at a part of their size. Other formats would be decoded whole first.
+bool canBeReduced(QImageReader& reader) {
+  return reader.format() == "jpeg" && isPhotograph(reader.size());
+}
+
 QImage decoded(QIODevice* device, int atMost) {
   QImageReader reader(device);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   const QSize size = reader.size();
   const QSize reduced = size.boundedTo({atMost, atMost});
-  // Photographs can be decoded at a part of their size. Other formats would be decoded whole first.
-  if (reduced != size && reader.format() == "jpeg" && isPhotograph(size))
+  if (reduced != size && canBeReduced(reader))
     reader.setScaledSize(reduced);
-  else if (size.isValid() && !isAllowed(size, reader.imageFormat()))
+  else if (sizeOfTooLarge(reader).isValid())
     return {};
   QImage picture = reader.read();
   if (picture.isNull()) return {};
@@ -119,20 +133,35 @@ QImage loadPicture(const OdString& path) { return loadAtMost(path, kUnlimited); 
 
 QImage loadReducedPicture(const OdString& path) { return loadAtMost(path, kReduced); }
 
-bool savePicture(const QImage& picture, const OdString& path, const OdString& extension) {
+OdString whyNoPicture(const OdString& path) {
+  OdRxSystemServices* const system = odrxSystemServices();
+  if (system->folderExists(path)) return translated(u"%1 is a folder").arg(path);
+  if (!system->fileExists(path)) return translated(u"there is no file %1").arg(path);
+  QImageReader reader(odpath::toPlatform(path));
+  reader.setDecideFormatFromContent(true);
+  if (const QSize size = sizeOfTooLarge(reader); size.isValid() && !canBeReduced(reader))
+    return translated(u"%1 is too large to be shown: %2 by %3 pixels")
+        .arg(path, OdString::number(size.width()), OdString::number(size.height()));
+  return translated(u"%1 is no picture that can be shown").arg(path);
+}
+
+bool savePicture(const QImage& picture, const OdString& path, const OdString& extension,
+                 OdString* problem) {
   const QByteArray bytes = pictureBytes(picture, extension);
-  return !bytes.isEmpty() && savePictureBytes(bytes, path);
+  if (!bytes.isEmpty()) return savePictureBytes(bytes, path, problem);
+  if (problem) *problem = translated(u"%1: pictures of this kind cannot be written").arg(path);
+  return false;
 }
 
 QByteArray pictureBytes(const QImage& picture, const OdString& extension) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  const bool isWritten = buffer.open(QIODevice::WriteOnly) &&
-                         picture.save(&buffer, extension.toLatin1().constData());
+  const bool isWritten =
+      buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, extension.toLatin1().constData());
   return isWritten ? bytes : QByteArray();
 }
 
-bool savePictureBytes(const QByteArray& bytes, const OdString& path) {
+bool savePictureBytes(const QByteArray& bytes, const OdString& path, OdString* problem) {
   // A full disk must not leave half a picture, nor take the former one.
   OdRxSystemServices* const system = odrxSystemServices();
   const OdString fresh = path + QLatin1String(".new");
@@ -144,10 +173,23 @@ bool savePictureBytes(const QByteArray& bytes, const OdString& path) {
       stream->flush();
     }
     if (system->replaceFile(fresh, path)) return true;
-  } catch (const OdFileError&) {
-    // What is left of it goes.
+    if (problem) *problem = translated(u"%1: the file cannot be replaced").arg(path);
+  } catch (const OdFileError& error) {
+    // The user knows the picture by its own name.
+    if (problem) *problem = QStringLiteral("%1: %2").arg(path, error.reason());
   }
-  system->removeFile(fresh);
+  system->removeFile(fresh); // what is left of it
+  return false;
+}
+
+bool makePictureFolder(const OdString& path, OdString* problem) {
+  OdRxSystemServices* const system = odrxSystemServices();
+  const OdString folder = odpath::folderOf(path);
+  if (system->createFolder(folder)) return true;
+  if (!problem) return false;
+  const char16_t* const text = system->fileExists(folder) ? u"%1: %2 is a file and no folder"
+                                                          : u"%1: the folder %2 cannot be made";
+  *problem = translated(text).arg(path, folder);
   return false;
 }
 

@@ -28,11 +28,19 @@ QImage loadPicture(const OdString& path);
 /// The same with no side longer than a few times that of the largest size kind; a smaller one as it
 /// is. The proportions go where it is reduced. A photograph is not even decoded at its full size.
 QImage loadReducedPicture(const OdString& path);
-/// Writes a picture in the format of an extension; false if that fails.
-bool savePicture(const QImage& picture, const OdString& path, const OdString& extension);
+/// Why one of these gave nothing, in words for the user; looks at the file again.
+OdString whyNoPicture(const OdString& path);
+
+/// Writes a picture in the format of an extension. False if that fails: `problem` then names the
+/// file and the reason.
+bool savePicture(const QImage& picture, const OdString& path, const OdString& extension,
+                 OdString* problem = nullptr);
 /// The two halves of that. The bytes are empty if the picture cannot be written in the format.
 QByteArray pictureBytes(const QImage& picture, const OdString& extension);
-bool savePictureBytes(const QByteArray& bytes, const OdString& path);
+bool savePictureBytes(const QByteArray& bytes, const OdString& path, OdString* problem = nullptr);
+/// Makes the folder that a picture is to be written into. False, with the folder and the reason in
+/// `problem`, if it cannot be made.
+bool makePictureFolder(const OdString& path, OdString* problem = nullptr);
 
 /// A title without what file names may not have, and not too long for one; it may be empty then.
 OdString pictureTitle(const OdString& title);

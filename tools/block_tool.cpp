@@ -148,13 +148,16 @@ void OdTcToolBlockCommandImpl::beginExecution(IHostDocument* document) {
   if (!variables) return;
   OdVariant current;
   const OdString name = OdString::fromUtf16(kAttributeVariable);
+  m_savedAttReq.reset();
   if (variables->get(name, current)) m_savedAttReq = current.toInt32();
   variables->set(name, std::int32_t{m_fields.isQueryAttributes});
 }
 
 void OdTcToolBlockCommandImpl::endExecution(IHostDocument* document) {
-  if (IHostVariables* const variables = document ? document->variables() : nullptr)
-    variables->set(OdString::fromUtf16(kAttributeVariable), m_savedAttReq);
+  IHostVariables* const variables = document ? document->variables() : nullptr;
+  // Without a value that was read there is nothing to put back: the run was not begun, or is ended.
+  const std::optional<std::int32_t> saved = std::exchange(m_savedAttReq, std::nullopt);
+  if (variables && saved) variables->set(OdString::fromUtf16(kAttributeVariable), *saved);
 }
 
 OdTcBlockRequest OdTcToolBlockCommandImpl::makeRequest(IHostDocument& document) const {

@@ -4,6 +4,8 @@
 #include "tools/action_agent_impl_base.h"
 #include "tools/command_conveyor.h"
 
+#include <optional>
+
 namespace tc {
 
 /// What a block tool keeps; the rotation is in radians.
@@ -90,7 +92,7 @@ class OdTcToolBlockCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   OdTcBlockRequest makeRequest(IHostDocument& document) const;
 
   OdTcBlockFields m_fields;
-  std::int32_t m_savedAttReq = 0;
+  std::optional<std::int32_t> m_savedAttReq; ///< of the run that goes on
   AuxScale m_auxScale = AuxScale::kNone;
 };
 

@@ -1,8 +1,6 @@
 #include "tools/source_files.h"
 
 #include "frame/error.h"
-#include "frame/system_services.h"
-#include "host/host_locator.h"
 #include "images/picture_file.h"
 
 #include <algorithm>
@@ -46,11 +44,7 @@ QImage OdTcSourceFiles::picture(const OdString& path) {
   return entry(path,
                [&](Entry& fresh) {
                  fresh.picture = loadReducedPicture(path);
-                 if (!fresh.picture.isNull()) return;
-                 const OdString problem = odrxSystemServices()->fileExists(path)
-                                              ? QStringLiteral("%1 is no picture that can be shown")
-                                              : QStringLiteral("there is no file %1");
-                 fresh.problem = host::translate(problem).arg(path);
+                 if (fresh.picture.isNull()) fresh.problem = whyNoPicture(path);
                })
       .picture;
 }

@@ -4,6 +4,7 @@
 #include "frame/system_services.h"
 #include "images/image_home.h"
 #include "images/image_list.h"
+#include "images/picture_file.h"
 #include "module/properties.h"
 #include "tools/command_tool.h"
 #include "tools/source_files.h"
@@ -159,14 +160,18 @@ class PictureMaker {
     // Pictures elsewhere are not the catalog's to write.
     const bool staysInPlace = tc::isBelowPalette(palette, formerFile) && !use.isShared(formerFile);
     const OdString file = staysInPlace ? formerFile : odpath::folderOf(palette) + picture->src();
-    if (!odrxSystemServices()->createFolder(odpath::folderOf(file)) || !picture->saveTo(file, -1)) {
-      m_problem = QStringLiteral("%1 cannot be written").arg(file);
+    const OdString kind = odpath::extensionOf(file);
+    if (!tc::makePictureFolder(file, &m_problem) ||
+        !tc::savePicture(picture->getBitmap(), file,
+                         kind.isEmpty() ? tc::formatExtension(tc::kPngFormat) : kind, &m_problem))
       return false;
-    }
-    if (staysInPlace)
+    if (staysInPlace) {
       former->releaseBitmap();
-    else
-      replace(images, former, picture);
+      return true;
+    }
+    picture->loadFromFile(file);
+    picture->releaseBitmap();
+    replace(images, former, picture);
     return true;
   }
   static void replace(tc::OdTcImageList& images, const tc::OdTcImage* former,

@@ -1,4 +1,5 @@
 // tpal import: palettes of other programs into a catalog.
+#include "catalog/database.h"
 #include "catalog/foreign_store.h"
 #include "catalog/made_folders.h"
 #include "frame/file_path.h"
@@ -75,10 +76,10 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
   tc::OdTcImportOptions options = optionsOf(arguments);
   for (const OdString& file : found.files) {
     tc::OdTcImportReport report;
-    const bool isIn = target.catalog->importPalette(file, options, report);
+    const tc::OdTcToolPalettePtr palette = target.catalog->importPalette(file, options, report);
     if (arguments.dryRun)
       options.takenNames << report.palette;
-    else if (isIn)
+    else if (palette)
       made.keep();
     ConsoleHost::instance().takeMessages();
     if (arguments.json)
@@ -87,7 +88,8 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
       printReport(report, arguments.dryRun, console.out);
     if (!report.problem.isEmpty())
       code = kFailed;
-    else if (hasSomethingLeftOut(report))
+    else if (hasSomethingLeftOut(report) ||
+             (palette && !palette->getDatabase()->unsavedPictures().isEmpty()))
       code = std::max(code, kFindings);
   }
   for (const tc::OdTcForeignPalettes::Problem& problem : found.problems) {

@@ -158,9 +158,10 @@ class MakeRun {
       OdString src = picture.src;
       if (odrxSystemServices()->fileExists(folder + src)) src = freshName(*row.tool);
       const OdString file = folder + src;
-      if (!odrxSystemServices()->createFolder(odpath::folderOf(file)) ||
-          !tc::savePictureBytes(picture.png, file)) {
-        row.problem = QStringLiteral("no picture: %1 cannot be written").arg(file);
+      OdString problem;
+      if (!tc::makePictureFolder(file, &problem) ||
+          !tc::savePictureBytes(picture.png, file, &problem)) {
+        row.problem = QStringLiteral("no picture: %1").arg(problem);
         row.pictures.clear();
         row.tool->setImages(nullptr);
         return;

@@ -56,6 +56,7 @@ class Resaver {
     if (m_inPlace) {
       const bool isWritten = palette.save();
       noteSave(file, isWritten, palette.getDatabase()->saveProblem());
+      notePictures(palette, file);
       return;
     }
     OdString relative;
@@ -70,6 +71,13 @@ class Resaver {
     copyPictures(odpath::folderOf(file), odpath::folderOf(target));
     const bool isWritten = palette.saveCopy(target);
     noteSave(target, isWritten, palette.getDatabase()->saveProblem());
+    notePictures(palette, target);
+  }
+
+  void notePictures(const tc::OdTcToolPalette& palette, const OdString& file) {
+    for (const OdString& problem : palette.getDatabase()->unsavedPictures())
+      m_outcomes.push_back(
+          {file, Fate::kLeftAlone, QStringLiteral("picture not written: %1").arg(problem)});
   }
 
   void noteSave(const OdString& file, bool isWritten, const OdString& problem) {

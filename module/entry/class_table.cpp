@@ -10,6 +10,7 @@
 #include "catalog/palette_manager_impl.h"
 #include "catalog/palette_soft_ref_impl.h"
 #include "catalog/palette_ui_impl.h"
+#include "catalog/picture_use.h"
 #include "catalog/source_impl.h"
 #include "catalog/tool_impl.h"
 #include "catalog/tool_list_impl.h"
@@ -162,7 +163,11 @@ static_assert(std::size(kDeletions) == std::size(kClasses));
 void registerModuleClasses(OdRxModule* application) {
   OdTcElementTable::setBuilder(&enterElementRows);
   setImageHome({[](const OdTcDatabase* database) { return database->getPath(); },
-                [](const OdTcDatabase* database) { return database->isExporting(); }});
+                [](const OdTcDatabase* database) { return database->isExporting(); },
+                [](OdTcDatabase* database, const OdString& problem) {
+                  database->noteUnsavedPicture(problem);
+                },
+                &picturesStillShown});
   for (const ClassRow& row : kClasses) {
     *row.factorySlot = row.factory;
     row.init(application);

@@ -2,7 +2,9 @@
 
 #include "catalog/palette_filling.h"
 #include "host/selection.h"
+#include "images/picture_file.h"
 #include "module/entry/talking_command.h"
+#include "tools/action_agent.h"
 #include "tools/tool_maker.h"
 
 #include <functional>
@@ -101,6 +103,12 @@ OdTcCatalog* catalogFor(const OdString& palette) {
   return around ? around : findCatalog({});
 }
 
+/// Why a tool of a picture file does not show it; empty for any other tool.
+OdString whyPictureless(const OdTcTool& tool) {
+  const auto* const raster = odrxCast<OdTcToolRasterCommand>(tool.getActionAgent());
+  return raster && !tool.images() ? whyNoPicture(raster->sourcePath()) : OdString();
+}
+
 int make(OdTcCatalog& catalog, const OdString& palette, const OdString& group,
          const Subjects& subjects) {
   const OdTcCatalogPtr held(&catalog);
@@ -112,6 +120,8 @@ int make(OdTcCatalog& catalog, const OdString& palette, const OdString& group,
     if (subject.road(maker, *tool)) {
       filling.add(tool);
       lines << translated(u"%1 is now the tool \"%2\".").arg(subject.words, tool->name());
+      if (const OdString reason = whyPictureless(*tool); !reason.isEmpty())
+        lines << translated(u"The tool \"%1\" has no picture: %2").arg(tool->name(), reason);
     } else {
       printLine(translated(u"%1 gives no tool: %2").arg(subject.words, maker.problem()));
     }

@@ -3,6 +3,7 @@
 #include "drawing/database.h"
 #include "properties/property_bag.h"
 #include "support/recording_agent.h"
+#include "tools/hatch_tool.h"
 #include "tools/tool_data.h"
 
 #include <functional>
@@ -130,6 +131,25 @@ TEST_F(ToolRunTest, AToolInAnotherDocumentIsRefusedWithAMessage) {
                         u"document \"A.dxf\""_s));
   EXPECT_EQ(guard->tool(), first.get());
   EXPECT_EQ(second->runningDocument(), nullptr);
+}
+
+TEST_F(ToolRunTest, AHatchToolOfNoKindSendsNothingAndIsEnteredAllTheSame) {
+  const OdTcToolPtr odd = runnable(u"O"_s);
+  const auto agent = odrxMake<OdTcToolHatchCommandImpl>();
+  agent->setHatchPatternSource(2);
+  odd->setActionAgent(agent);
+  odd->execute(&document);
+  EXPECT_EQ(theHost().log, QStringList({u"lock A.dxf EXECUTETOOL 4 1"_s, u"apply O.one"_s,
+                                        u"apply O.two"_s, u"unlock A.dxf"_s}));
+  EXPECT_EQ(guard->tool(), odd.get());
+  TestDocument& other = theHost().documents.open(u"B.dxf"_s);
+  theHost().log.clear();
+  runnable(u"S"_s)->execute(&other);
+  EXPECT_TRUE(wasTold({u"Tool \"O\" is already running in document \"A.dxf\""_s}));
+  theHost().log.clear();
+  theHost().events.commandEnded(u"LINE"_s);
+  EXPECT_EQ(theHost().log, QStringList({u"restore O.one"_s, u"restore O.two"_s}));
+  EXPECT_FALSE(guard->isRunning());
 }
 
 TEST_F(ToolRunTest, WithoutAnAgentAppliesAndRestoresItsPropertiesAndNothingElse) {

@@ -14,6 +14,7 @@ import unittest
 import ezdxf
 
 import tool_bench
+from tool_fields_test import write_picture
 
 PROGRAMS = "."
 COUNT = 100
@@ -32,6 +33,31 @@ class MovedCatalog(unittest.TestCase):
         self.bench.write_catalog([
             (f"T{i}", "Block", {"BlockType": 1, "BlockName": f"B{i}", "Scale": 1,
                                 "SourceFile": "..\\blocks\\all.dxf"}, "") for i in range(COUNT)])
+
+    def test_finds_patterns_and_pictures_beside_the_palette(self):
+        (self.bench.path("c") / "more").mkdir()
+        (self.bench.path("c") / "more" / "mine.pat").write_text("*MINE, lines\n0, 0,0, 0,9\n")
+        write_picture(self.bench.path("c") / "more" / "photo.png", 40, 20)
+        self.bench.write_catalog([
+            ("H", "Hatch", {"hatchObjectType": 0, "HatchType": 2, "PatternName": "MINE", "Scale": 1,
+                            "SourceFile": "..\\more\\mine.pat"}, ""),
+            ("R", "Raster", {"RasterName": "R", "Scale": 1,
+                             "SourceFile": "..\\more\\photo.png"}, "")])
+        self.assertEqual(self.tpal("images", self.bench.path("c"), "--missing").returncode, 0)
+        moved = self.bench.path("elsewhere")
+        shutil.move(self.bench.path("c"), moved)
+        self.assertEqual(self.tpal("check", moved).stdout, "")
+        self.assertEqual(json.loads(self.tpal("images", moved, "--json").stdout), [])
+        run = subprocess.run([pathlib.Path(PROGRAMS) / "drafton", "batch", "--profile",
+                              self.bench.path("profile.ini"), "--catalogs", moved, "--out",
+                              self.bench.path("out.dxf")], text=True, capture_output=True,
+                             input="RECTANG 0,0 100,80\nTOOL:H\n50,40\n\nTOOL:R\n5,6\n",
+                             timeout=120)
+        self.assertEqual(run.returncode, 0, run.stdout[-1000:] + run.stderr)
+        space = self.bench.read().modelspace()
+        self.assertEqual(space.query("HATCH")[0].dxf.pattern_name, "MINE")
+        self.assertEqual(pathlib.PurePath(space.query("IMAGE")[0].image_def.dxf.filename.replace(
+            "\\", "/")), moved / "more" / "photo.png")
 
     def tpal(self, *words):
         return subprocess.run([pathlib.Path(PROGRAMS) / "tpal", *words], text=True,

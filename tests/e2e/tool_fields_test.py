@@ -32,6 +32,19 @@ def write_source(path, units=4):
     document.saveas(path)
 
 
+def write_layout_host(path):
+    """A drawing whose layout Layout1 is plotted at 1:4."""
+    host = ezdxf.new("R2010")
+    host.header["$INSUNITS"] = 4
+    layout = host.layout("Layout1").dxf_layout
+    layout.dxf.plot_layout_flags |= 16  # a standard scale
+    layout.dxf.standard_scale_type = 18  # 1:4
+    layout.dxf.scale_numerator = 1
+    layout.dxf.scale_denominator = 4
+    host.header["$TILEMODE"] = 0
+    host.saveas(path)
+
+
 def write_picture(path, width, height):
     """A PNG file of one colour."""
     def chunk(kind, data):
@@ -95,15 +108,7 @@ class BlockTools(Tools):
         self.assertEqual(self.insert(Scale=2, AuxiliaryScale="PLOTSCALE").dxf.xscale, 2)
 
     def test_auxiliary_scale_of_the_plot_in_a_layout(self):
-        host = ezdxf.new("R2010")
-        host.header["$INSUNITS"] = 4
-        layout = host.layout("Layout1").dxf_layout
-        layout.dxf.plot_layout_flags |= 16  # a standard scale
-        layout.dxf.standard_scale_type = 18  # 1:4
-        layout.dxf.scale_numerator = 1
-        layout.dxf.scale_denominator = 4
-        host.header["$TILEMODE"] = 0
-        host.saveas(self.bench.path("host.dxf"))
+        write_layout_host(self.bench.path("host.dxf"))
         document = self.run_tool("Block", self.fields(Scale=8, AuxiliaryScale="PLOTSCALE"),
                                  "5,6\n", "LAYOUT Set Layout1\n", "host.dxf")
         inserts = document.layout("Layout1").query("INSERT")
@@ -189,8 +194,76 @@ class BlockTools(Tools):
         self.assertEqual(insert.dxf.xscale, 2)
         self.assertAlmostEqual(insert.dxf.rotation, 90)
 
+    def test_reference_whose_rotation_is_asked_for(self):
+        document = self.run_tool(
+            "Block", self.fields(BlockType=2, InsertAs=2, XrefType=1, PromptRotation="TRUE"),
+            "5,6\n30\n")
+        self.assertAlmostEqual(self.only(document, "INSERT").dxf.rotation, 30)
+
     def test_reference_overlaid(self):
         self.assertTrue(self.only(self.reference(2), "INSERT").block().block.dxf.flags & 8)
+
+    def nested(self, fields, before="", drawing=None):
+        """A run in a drawing that lies elsewhere than the source, which refers to files of its own
+        folder: a part as a reference, and a picture."""
+        folder = self.bench.path("lib") / "parts"
+        folder.mkdir(parents=True, exist_ok=True)
+        part = ezdxf.new("R2010")
+        part.modelspace().add_circle((0, 0), 3)
+        part.saveas(folder / "bolt.dxf")
+        write_picture(folder / "photo.png", 4, 4)
+        source = ezdxf.new("R2010")
+        source.header["$INSUNITS"] = 4
+        source.add_xref_def("parts\\bolt.dxf", "bolt")
+        picture = source.add_image_def("parts\\photo.png", (4, 4))
+        source.modelspace().add_blockref("bolt", (7, 8))
+        source.modelspace().add_image(picture, (0, 0), (4, 4))
+        door = source.blocks.new("Door")
+        door.add_blockref("bolt", (1, 1))
+        door.add_image(picture, (0, 0), (4, 4))
+        source.saveas(self.bench.path("lib") / "plan.dxf")
+        return self.run_tool(
+            "Block", {"SourceFile": self.bench.stored("lib/plan.dxf"), "Scale": 1, **fields},
+            "5,6\n", before, drawing)
+
+    def assert_refers_to_the_library(self, document):
+        self.assertEqual(document.blocks.get("bolt").block.dxf.xref_path.replace("\\", "/"),
+                         str(self.bench.path("lib") / "parts" / "bolt.dxf"))
+        picture, = document.query("IMAGE") or [
+            image for block in document.blocks for image in block.query("IMAGE")]
+        self.assertEqual(picture.image_def.dxf.filename.replace("\\", "/"),
+                         str(self.bench.path("lib") / "parts" / "photo.png"))
+
+    def test_whole_drawing_brings_the_paths_of_its_files(self):
+        document = self.nested({"BlockType": 2, "BlockName": "Plan", "InsertAs": 1})
+        self.assert_refers_to_the_library(document)
+        self.assertEqual(len(document.blocks.get("bolt")), 0, "a reference is saved without contents")
+
+    def test_block_brings_the_paths_of_its_files(self):
+        self.assert_refers_to_the_library(self.nested({"BlockType": 1, "BlockName": "Door"}))
+
+    def test_paths_stay_relative_in_a_drawing_of_the_same_folder(self):
+        host = ezdxf.new("R2010")
+        host.header["$INSUNITS"] = 4
+        self.bench.path("lib").mkdir()
+        host.saveas(self.bench.path("lib") / "host.dxf")
+        document = self.nested({"BlockType": 2, "BlockName": "Plan", "InsertAs": 1},
+                               drawing="lib/host.dxf")
+        self.assertEqual(document.blocks.get("bolt").block.dxf.xref_path.replace("/", "\\"),
+                         "parts\\bolt.dxf")
+
+    def test_whole_drawing_without_a_name(self):
+        fields = self.fields(BlockType=2, InsertAs=1)
+        del fields["BlockName"]
+        document = self.run_tool("Block", fields, "")
+        self.assertEqual(len(document.modelspace()), 0)
+        self.assertIn('cannot be inserted: the tool names no block', self.output)
+
+    def test_whole_drawing_with_a_name_that_no_block_can_have(self):
+        document = self.run_tool("Block", self.fields(BlockType=2, BlockName="a|b/c*", InsertAs=1), "")
+        self.assertEqual(len(document.modelspace()), 0)
+        self.assertIn('Block "a|b/c*" of the source file "' + self.bench.stored("source.dxf") +
+                      '" cannot be inserted: a block\'s name cannot have any of', self.output)
 
     def test_insert_as_reference_needs_a_whole_drawing(self):
         insert = self.insert(InsertAs=2)
@@ -225,6 +298,42 @@ class HatchTools(Tools):
         hatch = self.hatch(Scale=7, AuxiliaryScale="Plot scale")
         self.assertEqual(hatch.dxf.pattern_scale, 1)
 
+    def test_auxiliary_scale_of_the_plot_in_a_layout(self):
+        write_layout_host(self.bench.path("host.dxf"))
+        document = self.run_tool(
+            "Hatch", {"hatchObjectType": 0, "HatchType": 1, "PatternName": "ANSI31", "Scale": 7,
+                      "AuxiliaryScale": "Plot scale"},
+            "50,40\n\n", "LAYOUT Set Layout1\n" + self.RECTANGLE, "host.dxf")
+        hatches = document.layout("Layout1").query("HATCH")
+        self.assertEqual(len(hatches), 1)
+        self.assertEqual(hatches[0].dxf.pattern_scale, 0.25)
+
+    def test_relative_custom_file_is_beside_the_palette(self):
+        (self.bench.path("c") / "patterns").mkdir(parents=True)
+        (self.bench.path("c") / "patterns" / "mine.pat").write_text("*MINE, lines\n0, 0,0, 0,9\n")
+        hatch = self.hatch(HatchType=2, PatternName="MINE", SourceFile="..\\patterns\\mine.pat")
+        self.assertEqual(hatch.dxf.pattern_name, "MINE")
+        self.assertAlmostEqual(math.hypot(*hatch.pattern.lines[0].offset), 9)
+
+    COLOR = ('<Color><BasicPropInfo><PropValue unspecified="{}"/></BasicPropInfo><ColorCreateInfo>'
+             '<AcCmColor mRGB="3271557121"/></ColorCreateInfo></Color>')  # index 1
+
+    def colored(self, unspecified):
+        self.bench.write_catalog([("T", "Hatch", {
+            "hatchObjectType": 0, "HatchType": 1, "PatternName": "ANSI31", "Scale": 1},
+            self.COLOR.format(unspecified))])
+        run = self.bench.run("SETVAR HPCOLOR 3\nSETVAR CECOLOR 5\n" + self.RECTANGLE +
+                             "TOOL:T\n50,40\n\n")
+        self.output = run.stdout + run.stderr
+        self.assertEqual(run.returncode, 0, self.output)
+        return self.only(self.bench.read(), "HATCH").dxf.color
+
+    def test_general_color(self):
+        self.assertEqual(self.colored("FALSE"), 1)
+
+    def test_current_color_where_the_tool_has_none(self):
+        self.assertEqual(self.colored("TRUE"), 5)
+
     def test_user_defined(self):
         hatch = self.hatch(HatchType=0, Spacing=6, Angle=math.pi / 4)
         self.assertEqual(hatch.dxf.pattern_type, 0)
@@ -257,13 +366,24 @@ class HatchTools(Tools):
     def gradient(self, name="LINEAR", **fields):
         return self.hatch(hatchObjectType=1, GradientName=name, **fields).gradient
 
+    COLORS = tool_bench.Xml("".join(
+        '<GradientColor><Color><BasicPropInfo><PropValue unspecified="FALSE"/></BasicPropInfo>'
+        f'<ColorCreateInfo><AcCmColor mRGB="{0xC2000000 | rgb}"/></ColorCreateInfo></Color>'
+        "</GradientColor>" for rgb in (0x102030, 0x405060)))
+
     def test_gradients(self):
         for name in ("LINEAR", "CYLINDER", "INVCYLINDER", "SPHERICAL", "INVSPHERICAL",
                      "HEMISPHERICAL", "INVHEMISPHERICAL", "CURVED", "INVCURVED"):
-            with self.subTest(name):
-                gradient = self.gradient(name)
-                self.assertEqual(gradient.name, name)
-                self.assertEqual(gradient.kind, 1)
+            for centered in ("TRUE", "FALSE"):
+                with self.subTest(name=name, centered=centered):
+                    gradient = self.gradient(name, GradientAngle=math.pi / 3,
+                                             GradientCentered=centered, GradientColors=self.COLORS)
+                    self.assertEqual(gradient.name, name)
+                    self.assertEqual(gradient.kind, 1)
+                    self.assertAlmostEqual(gradient.rotation, 60)
+                    self.assertEqual(gradient.centered, 0 if centered == "TRUE" else 1)
+                    self.assertEqual(tuple(gradient.color1), (0x10, 0x20, 0x30))
+                    self.assertEqual(tuple(gradient.color2), (0x40, 0x50, 0x60))
 
     def test_gradient_angle(self):
         self.assertAlmostEqual(self.gradient(GradientAngle=math.pi / 3).rotation, 60)
@@ -273,10 +393,7 @@ class HatchTools(Tools):
         self.assertEqual(self.gradient(GradientCentered="FALSE").centered, 1)
 
     def test_gradient_colors(self):
-        gradient = self.gradient(GradientColors=tool_bench.Xml("".join(
-            '<GradientColor><Color><BasicPropInfo><PropValue unspecified="FALSE"/></BasicPropInfo>'
-            f'<ColorCreateInfo><AcCmColor mRGB="{0xC2000000 | rgb}"/></ColorCreateInfo></Color>'
-            "</GradientColor>" for rgb in (0x102030, 0x405060))))
+        gradient = self.gradient(GradientColors=self.COLORS)
         self.assertEqual(tuple(gradient.color1), (0x10, 0x20, 0x30))
         self.assertEqual(tuple(gradient.color2), (0x40, 0x50, 0x60))
 

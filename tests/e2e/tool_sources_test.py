@@ -161,26 +161,28 @@ class ToolSources(unittest.TestCase):
         return {"hatchObjectType": 1 if agent == "Gradient" else 0, "HatchType": 1,
                 "PatternName": "ANSI31", "Scale": 1}
 
-    def run_tool(self, agent, fields, answers="", before=""):
+    # Something of everything that a failing run could take along.
+    HOST = "LAYER _M WALLS _C 1  \nLINE 1,1 2,2 \nBLOCK Own 0,0 _L \nRECTANG 0,0 100,80\n"
+
+    def run_tool(self, agent, fields, answers="", before=HOST):
         """A run that leaves the palette as it is."""
         self.bench.write_catalog(
             [("T", "Hatch" if agent == "Gradient" else agent, fields, "")])
         palette = self.bench.path("c") / "Palettes" / "palette.dtc"
         bytes_before = palette.read_bytes()
-        run = self.bench.run(f"{before}TOOL:T\n{answers}")
+        run = self.bench.run(f"{before}TOOL:T\n{answers}", keep_going=True)
         self.assertEqual(palette.read_bytes(), bytes_before)
         return run
 
-    def expect(self, run, message, fails):
+    def expect(self, run, message, fails, before=HOST):
         self.assertEqual(run.returncode, 1 if fails else 0, run.stdout + run.stderr)
-        self.assertIn(message, run.stdout)
-        # A script that fails leaves no drawing; one that goes on leaves it as it was.
-        self.assertEqual(self.bench.path("out.dxf").exists(), not fails)
-        if not fails:
-            document = self.bench.read()
-            self.assertEqual(len(document.modelspace()), 0)
-            self.assertEqual([block.name for block in document.blocks],
-                             ["*Model_Space", "*Paper_Space"])
+        self.assertIn(message, run.stdout + run.stderr)
+        # Byte for byte the drawing of a run without the tool.
+        self.bench.read()
+        untouched = self.bench.run(before, out="untouched.dxf")
+        self.assertEqual(untouched.returncode, 0, untouched.stdout + untouched.stderr)
+        self.assertEqual(self.bench.path("out.dxf").read_bytes(),
+                         self.bench.path("untouched.dxf").read_bytes())
 
     def look(self, agent, name, write, message, fails, **more):
         self.fresh()
@@ -252,8 +254,7 @@ class ToolSources(unittest.TestCase):
                 file = self.bench.stored("photo.png" if agent == "Raster" else "source.dxf")
                 is_hatch = agent in ("Hatch", "Gradient")
                 run = self.run_tool(agent, {**self.fields(agent, file), field: value},
-                                    "50,40\n\n" if is_hatch else "5,6\n",
-                                    "RECTANG 0,0 100,80\n" if is_hatch else "")
+                                    "" if refusal else "50,40\n\n" if is_hatch else "5,6\n")
                 if refusal:
                     self.expect(run, refusal, True)
                     continue
@@ -276,12 +277,15 @@ class ToolSources(unittest.TestCase):
                 file = self.bench.stored("mine.pat")
                 run = self.run_tool(
                     "Hatch", {**self.fields("Hatch", ""), "HatchType": 2, "PatternName": "MINE",
-                              "SourceFile": file}, "50,40\n\n", "RECTANG 0,0 100,80\n")
-                self.assertEqual(run.returncode, 1 if fails else 0, run.stdout + run.stderr)
+                              "SourceFile": file},
+                    "" if fails else "50,40\n\n")
+                if fails:
+                    self.expect(run, message.format(file=file), fails)
+                    continue
+                self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
                 self.assertIn(message.format(file=file), run.stdout)
-                if not fails:
-                    hatch, = self.bench.read().modelspace().query("HATCH")
-                    self.assertEqual(len(hatch.pattern.lines), 1)
+                hatch, = self.bench.read().modelspace().query("HATCH")
+                self.assertEqual(len(hatch.pattern.lines), 1)
 
 
 if __name__ == "__main__":

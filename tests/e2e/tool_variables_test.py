@@ -80,7 +80,19 @@ class ToolVariables(unittest.TestCase):
                                    "GradientAngle": 1, "GradientCentered": "TRUE"}, GENERAL),
             ("Raster", "Raster", {"RasterName": "P", "SourceFile": photo, "Scale": 4}, GENERAL),
             ("LostRaster", "Raster", {"RasterName": "P", "SourceFile": "C:\\no.png"}, GENERAL),
-            ("Line", "Command", {"Macro": "_LINE \\\\;"}, GENERAL)])
+            ("Line", "Command", {"Macro": "_LINE \\\\;"}, GENERAL),
+            ("ZeroBlock", "Block", {**block, "Scale": 0}, GENERAL),
+            ("BrokenBlock", "Block", {**block, "SourceFile": photo, "PromptAttributes": "FALSE"},
+             GENERAL),
+            ("NamelessDrawing", "Block", {"BlockType": 2, "InsertAs": 1, "SourceFile": source},
+             GENERAL),
+            ("LostXref", "Block", {"BlockType": 2, "InsertAs": 2, "SourceFile": "C:\\no.dxf"},
+             GENERAL),
+            ("LostFile", "Hatch", {"hatchObjectType": 0, "HatchType": 2, "PatternName": "MINE",
+                                   "SourceFile": "C:\\no.pat", "Scale": 2}, GENERAL),
+            ("ZeroRaster", "Raster", {"RasterName": "P", "SourceFile": photo, "Scale": 0}, GENERAL),
+            ("NoRaster", "Raster", {"RasterName": "P", "SourceFile": source, "Scale": 1}, GENERAL),
+            ("NoCommand", "Command", {"Macro": "_NOSUCHCOMMAND "}, GENERAL)])
 
     # The answers that bring each tool to its end.
     ANSWERS = {
@@ -93,18 +105,32 @@ class ToolVariables(unittest.TestCase):
         "LostBlock": [],
         "NoBlock": [],
         "LostRaster": [],
+        "NamelessDrawing": [],
+    }
+
+    # Tools whose command fails, and what is said of it.
+    FAILING = {
+        "NoPattern": 'There is no hatch pattern "NOTHING".',
+        "LostFile": 'There is no hatch pattern "MINE".',
+        "ZeroBlock": "A block cannot be inserted at the scale 0.",
+        "BrokenBlock": "this is not a DXF drawing",
+        "LostXref": "no.dxf",
+        "ZeroRaster": "A picture cannot be inserted at the scale 0.",
+        "NoRaster": "cannot be read as a picture",
+        "NoCommand": "NOSUCHCOMMAND",
     }
 
     def values_after(self, script, fails=False):
-        run = self.bench.run(f"{SETUP}SETVAR ?\n\n{script}SETVAR ?\n\n")
+        run = self.bench.run(f"{SETUP}SETVAR ?\n\n{script}SETVAR ?\n\n", keep_going=fails)
         self.assertEqual(run.returncode, 1 if fails else 0, run.stdout[-1500:] + run.stderr)
+        self.errors = run.stderr
         lists = variables(run.stdout)
         self.assertEqual(len(lists), 2, run.stdout[-1500:])
         self.assertGreater(len(lists[0]), 150)
         return lists
 
-    def assert_nothing_is_left(self, script):
-        before, after = self.values_after(script)
+    def assert_nothing_is_left(self, script, fails=False):
+        before, after = self.values_after(script, fails)
         self.assertEqual({k: v for k, v in after.items() if before.get(k) != v}, {})
 
     def test_is_compared_with_care(self):
@@ -120,6 +146,39 @@ class ToolVariables(unittest.TestCase):
             with self.subTest(tool):
                 self.assert_nothing_is_left(
                     f"TOOL:{tool}\n" + "".join(answer + "\n" for answer in answers))
+
+    def test_failed(self):
+        for tool, message in self.FAILING.items():
+            with self.subTest(tool):
+                self.assert_nothing_is_left(f"TOOL:{tool}\n", fails=True)
+                self.assertIn(message, self.errors)
+                self.assertEqual(self.errors.count("drafton: "), 1, self.errors)
+
+    def test_failed_after_another_tool_was_replaced(self):
+        for tool in ("Block", "Xref", "Hatch", "Gradient", "Raster", "Line"):
+            for other in self.FAILING:
+                with self.subTest(tool=tool, other=other):
+                    self.assert_nothing_is_left(f"TOOL:{tool}\nTOOL:{other}\n", fails=True)
+
+    def test_failed_and_run_again(self):
+        for tool in self.FAILING:
+            for other in ("Block", "Hatch", "Gradient"):
+                with self.subTest(tool=tool, other=other):
+                    self.assert_nothing_is_left(
+                        f"TOOL:{tool}\nTOOL:{other}\n" +
+                        "".join(a + "\n" for a in self.ANSWERS[other]), fails=True)
+
+    def test_attribute_requests_in_each_way(self):
+        """ATTREQ is as it was after every end, with either value and with tools of either wish."""
+        for value in (0, 1):
+            for tool in ("Block", "LostBlock", "NoBlock", "ZeroBlock", "BrokenBlock",
+                         "NamelessDrawing", "LostXref"):
+                for end in ("^C\n", "TOOL:Line\n1,1\n2,2\n", "TOOL:Block\n5,6\n30\n^C\n"):
+                    with self.subTest(value=value, tool=tool, end=end):
+                        before, after = self.values_after(
+                            f"SETVAR ATTREQ {value}\nTOOL:{tool}\n{end}",
+                            fails=tool in self.FAILING)
+                        self.assertEqual(after["ATTREQ"], str(value))
 
     def test_cancelled_at_each_prompt(self):
         for tool, answers in self.ANSWERS.items():

@@ -287,6 +287,83 @@ TEST_F(PictureFolder, OnAFullDiskGetsNoHalfPictureAndKeepsTheFormerOne) {
   EXPECT_EQ(QDir(folder.filePath(QStringLiteral("Images"))).entryList(files).size(), 1);
 }
 
+TEST_F(PictureFolder, ThatTakesNoPicturesIsToldToThePalette) {
+  const OdString images = stored(QStringLiteral("Images"));
+  const auto problemOf = [&](const OdSmartPtr<OdTcImageImpl>& image) {
+    const qsizetype before = palette->unsavedPictures().size();
+    written(image);
+    image->setOwner(palette);
+    const QStringList problems = palette->unsavedPictures();
+    EXPECT_EQ(problems.size(), before + 1);
+    // Always the picture's own file comes first, then the reason.
+    EXPECT_TRUE(problems.back().startsWith(images + image->src().mid(7) + QLatin1String(": ")))
+        << problems.back().toStdString();
+    return problems.back();
+  };
+  const auto image = made();
+  {
+    testhost::FailingServices services;
+    services.deniedFolder = images;
+    EXPECT_TRUE(problemOf(image).endsWith(text(u"the folder %1 cannot be made").arg(images)));
+    services.deniedFolder.clear();
+    services.bytesLeft = 40;
+    EXPECT_TRUE(problemOf(image).endsWith(text(u"No space left on device")));
+    services.bytesLeft.reset();
+    services.deniedFolder = images; // which is there by now
+    EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("Images"))).exists());
+  }
+  QDir(folder.filePath(QStringLiteral("Images"))).removeRecursively();
+  QFile file(folder.filePath(QStringLiteral("Images")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  EXPECT_TRUE(problemOf(image).endsWith(text(u"%1 is a file and no folder").arg(images)));
+  ASSERT_TRUE(file.remove());
+  const qsizetype before = palette->unsavedPictures().size();
+  written(image);
+  EXPECT_EQ(palette->unsavedPictures().size(), before) << "now it is saved";
+}
+
+TEST_F(PictureFolder, ThatTakesNoPicturesOfAnExportIsToldToThePalette) {
+  const auto image = made();
+  QDir(folder.path()).mkpath(QStringLiteral("out"));
+  palette->setPath(stored(QStringLiteral("out/copy.xtp")));
+  palette->setExporting(true);
+  testhost::FailingServices services;
+  services.deniedFolder = stored(QStringLiteral("out/copy"));
+  written(image);
+  palette->setExporting(false);
+  EXPECT_EQ(palette->unsavedPictures().size(), 1);
+}
+
+TEST_F(PictureFolder, SaysWhyAPictureIsNotShown) {
+  const auto why = [&](const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(QLatin1String(name)));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    const OdString path = stored(QLatin1String(name));
+    EXPECT_TRUE(loadReducedPicture(path).isNull());
+    const OdString words = whyNoPicture(path);
+    EXPECT_TRUE(words.startsWith(path)) << words.toStdString();
+    return words.mid(path.size());
+  };
+  const OdString huge = text(u" is too large to be shown: 60000 by 60000 pixels");
+  EXPECT_EQ(why("a.png", hugePng()), huge);
+  EXPECT_EQ(why("lying.jpg", hugePng()), huge);
+  EXPECT_EQ(why("a.jpg", hugeJpeg()), huge);
+
+  const OdString none = text(u" is no picture that can be shown");
+  EXPECT_EQ(why("cut.png", png().left(60)), none);
+  EXPECT_EQ(why("empty.png", {}), none);
+  // The decoder of bitmaps tells no size that it would not decode.
+  EXPECT_EQ(why("a.bmp", hugeBmp()), none);
+  EXPECT_EQ(whyNoPicture(stored(QStringLiteral("no.png"))),
+            text(u"there is no file ") + stored(QStringLiteral("no.png")));
+  QDir(folder.path()).mkpath(QStringLiteral("sub.png"));
+  EXPECT_EQ(whyNoPicture(stored(QStringLiteral("sub.png"))),
+            stored(QStringLiteral("sub.png")) + text(u" is a folder"));
+}
+
 class PictureSource : public PictureFolder, public testing::WithParamInterface<const char16_t*> {};
 
 TEST_P(PictureSource, ThatLeadsElsewhereIsNeitherWrittenNorDeleted) {

@@ -18,7 +18,11 @@ namespace testhost {
 struct ImageFixture : ModuleFixture {
   ImageFixture() {
     tc::setImageHome({[](const tc::OdTcDatabase* database) { return database->getPath(); },
-                      [](const tc::OdTcDatabase* database) { return database->isExporting(); }});
+                      [](const tc::OdTcDatabase* database) { return database->isExporting(); },
+                      [](tc::OdTcDatabase* database, const OdString& problem) {
+                        database->noteUnsavedPicture(problem);
+                      },
+                      nullptr});
     palette->setPath(stored(QStringLiteral("palette.dtc")));
   }
 

@@ -53,6 +53,23 @@ TEST_F(ImageListTest, NeverRemovesAFileOutsideThePalettesFolder) {
   EXPECT_TRUE(exists(QStringLiteral("precious.png")));
 }
 
+TEST_F(ImageListTest, RemovesNothingBesidePicturesInTheirFolder) {
+  const QStringList names = {QStringLiteral("palette.dtc"), QStringLiteral("root.png"),
+                             QStringLiteral("Images/notes.txt"), QStringLiteral("Images/b.dxf"),
+                             QStringLiteral("Blocks/door.png")};
+  for (const QString& name : names) {
+    QDir(folder.path()).mkpath(QFileInfo(name).path());
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    list->add(readImage("cx=\"16\" cy=\"16\" src=\"\\" + name.toUtf8().replace('/', '\\') + "\""));
+  }
+  makePicture(QStringLiteral("Images/own.PNG"), 10, qRgb(255, 0, 0));
+  list->add(readImage("cx=\"16\" cy=\"16\" src=\"\\Images\\own.PNG\""));
+  list->removeAll(true);
+  for (const QString& name : names) EXPECT_TRUE(exists(name)) << name.toStdString();
+  EXPECT_FALSE(exists(QStringLiteral("Images/own.PNG")));
+}
+
 TEST_F(ImageListTest, CloneHasImagesOfItsOwn) {
   list->add(newImage(3));
   list->readField(text(u"option"), OdVariant(text(u"4")));

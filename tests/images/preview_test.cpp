@@ -95,27 +95,42 @@ TEST_F(PreviewTest, ThatFailsLeavesTheSourceAsItWas) {
       false;
   EXPECT_FALSE(image->makeFromBlock(addBlock(u"Door")));
   EXPECT_FALSE(image->makeFromBlock(OdDbObjectId()));
-  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), std::nullopt));
+  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), {}, std::nullopt));
+  EXPECT_FALSE(image->makeFromUserPattern(0.5, true));
   EXPECT_FALSE(image->makeFromDrawing(text(u"C:\\a.dxf")));
   EXPECT_FALSE(image->setSrcFromFile(stored(QStringLiteral("missing.png"))));
   host().switchOff(IHostPreviewService::kId);
   EXPECT_FALSE(image->makeFromBlock(addBlock(u"Window")));
-  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), std::nullopt));
+  EXPECT_FALSE(image->makeFromPattern(text(u"ANSI31"), {}, std::nullopt));
+  EXPECT_FALSE(image->makeFromUserPattern(0.5, true));
   EXPECT_FALSE(image->makeFromDrawing(text(u"C:\\a.dxf")));
   EXPECT_EQ(image->src(), text(u"old"));
 }
 
 TEST_F(PreviewTest, OfAPatternComesFromTheHostUnderAFreshName) {
   const auto image = newImage(4);
-  ASSERT_TRUE(image->makeFromPattern(text(u"ANSI31"), OdCmColor::fromRgb(1, 2, 3)));
+  ASSERT_TRUE(image->makeFromPattern(text(u"ANSI31"), {}, OdCmColor::fromRgb(1, 2, 3)));
   EXPECT_EQ(host().previews.asked, QStringList(text(u"pattern ANSI31 64")));
+  EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Hatch tool instrument_{")));
+}
+
+TEST_F(PreviewTest, OfAPatternIsLookedForInItsFile) {
+  const auto image = newImage(4);
+  ASSERT_TRUE(image->makeFromPattern(text(u"MINE"), text(u"C:\\mine.pat"), std::nullopt));
+  EXPECT_EQ(host().previews.asked, QStringList(text(u"pattern MINE of C:\\mine.pat 64")));
+}
+
+TEST_F(PreviewTest, OfLinesOfTheUsersOwnComesFromTheHostUnderAFreshName) {
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromUserPattern(0.5, true));
+  EXPECT_EQ(host().previews.asked, QStringList(text(u"lines at 0.5 crossed 32")));
   EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Hatch tool instrument_{")));
 }
 
 TEST_F(PreviewTest, OfASolidWithAColourIsASquareOfItWithoutTheHost) {
   host().switchOff(IHostPreviewService::kId);
   const auto image = newImage(3);
-  ASSERT_TRUE(image->makeFromPattern(text(u"solid"), OdCmColor::fromRgb(10, 200, 30)));
+  ASSERT_TRUE(image->makeFromPattern(text(u"solid"), {}, OdCmColor::fromRgb(10, 200, 30)));
   const QImage picture = image->getBitmap();
   for (int y = 0; y < 32; ++y)
     for (int x = 0; x < 32; ++x) ASSERT_EQ(picture.pixelColor(x, y), QColor(10, 200, 30));

@@ -167,7 +167,8 @@ TEST_F(StoredPreviews, AreNothingWhereThereIsNoPicture) {
 
 TEST_F(StoredPreviews, KeepTheirProportionsInASquare) {
   drawingWith(bitmapOf(picture()))->writeFile(path());
-  const auto service = kvMake<PreviewService>([](const OdString&) { return std::nullopt; });
+  const auto service =
+      kvMake<PreviewService>([](const OdString&, const OdString&) { return std::nullopt; });
   const QImage square = service->storedPreview(path(), 32);
   ASSERT_EQ(square.size(), QSize(32, 32));
   EXPECT_EQ(qAlpha(square.pixel(16, 2)), 0);

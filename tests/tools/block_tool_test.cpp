@@ -96,6 +96,21 @@ TEST_F(BlockToolTest, KeepsTheAttributeVariableAroundARun) {
   agent->endExecution(nullptr);
 }
 
+TEST_F(BlockToolTest, PutsTheAttributeVariableBackOnceAndOnlyWhatItRead) {
+  document.variableSet.define(text(u"ATTREQ"), std::int32_t{0});
+  agent->beginExecution(&document);
+  agent->endExecution(&document);
+  document.variableSet.define(text(u"ATTREQ"), std::int32_t{1});
+  agent->endExecution(&document);
+  EXPECT_EQ(document.variableSet.value(text(u"ATTREQ")).toInt32(), 1) << "the run is over";
+  odrxMake<OdTcToolBlockCommandImpl>()->endExecution(&document);
+  EXPECT_EQ(document.variableSet.value(text(u"ATTREQ")).toInt32(), 1) << "nothing was begun";
+  agent->beginExecution(&document);
+  const OdRxObjectPtr copy = agent->clone();
+  dynamic_cast<OdTcToolBlockCommandImpl&>(*copy).endExecution(&document);
+  EXPECT_EQ(document.variableSet.value(text(u"ATTREQ")).toInt32(), 1) << "a copy runs not";
+}
+
 TEST_F(BlockToolTest, LosesTheFractionOfItsScaleOnReading) {
   read(u"Scale", u"2.5");
   EXPECT_EQ(agent->getScale(), 2.0);

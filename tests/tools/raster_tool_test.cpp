@@ -64,7 +64,8 @@ TEST_F(RasterToolTest, TakesARelativeFileFromThePaletteWhereTheDrawingHasNone) {
   };
   const OdTcDatabasePtr palette = OdTcDatabase::createObject();
   palette->setPath(stored(QStringLiteral("catalog/Palettes/p.dtc")));
-  setImageHome({[](const OdTcDatabase* database) { return database->getPath(); }, nullptr});
+  setImageHome({[](const OdTcDatabase* database) { return database->getPath(); }, nullptr, nullptr,
+                nullptr});
   const OdTcToolPtr tool = OdTcTool::createObject();
   tool->setActionAgent(agent);
   palette->addTool(tool);

@@ -151,7 +151,8 @@ TEST_F(CheckCommand, SaysOfACustomPatternWhatIsWrongWithItsFile) {
                           "</SourceFile></Hatch>"));
     EXPECT_EQ(codes(), QStringList{QStringLiteral("C109")});
     EXPECT_EQ(previews->asked.size(), 1);
-    return out().section(QStringLiteral("tool \"H\": "), 1).trimmed();
+    const QJsonValue row = QJsonDocument::fromJson(out().toUtf8()).array().first();
+    return row[QStringLiteral("text")].toString().section(QStringLiteral("tool \"H\": "), 1);
   };
   write(QStringLiteral("c/patterns/mine.pat"), "*OTHER\n0, 0,0, 0,9\n");
   const OdString mine = odpath::fromPlatform(path(QStringLiteral("c/patterns/mine.pat")));

@@ -64,6 +64,19 @@ TEST_F(Images, AreMadeWhereTheyAreMissing) {
   EXPECT_TRUE(out().isEmpty()) << qPrintable(out());
 }
 
+TEST_F(Images, ThatCannotBeWrittenAreNamedWithTheReasonAndThePaletteStays) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  write(QStringLiteral("c/Palettes/Images"), "mine");
+  const QByteArray before = read(QStringLiteral("c/Palettes/p.dtc"));
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("P: Door (block): lacks 16, 32, 64: ")))
+      << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images\\Door16.png: ")));
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images is a file and no folder")));
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/p.dtc")), before);
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/Images")), QByteArray("mine"));
+}
+
 TEST_F(Images, ThatAreThereStayWhenOthersAreMade) {
   writeCatalog(blockTool("{1}", "Door", writeSource()));
   images({kMissing});

@@ -40,9 +40,12 @@ class PlainPreviews : public CKVUnknownImpl<IHostPreviewService> {
     ++m_count.made;
     return view.isEmpty() ? QImage() : plain(pixels);
   }
-  QImage renderPattern(const OdString&, int pixels) override { return plain(pixels); }
+  QImage renderPattern(const OdString&, const OdString&, int pixels) override {
+    return plain(pixels);
+  }
   QImage storedPreview(const OdString&, int) override { return {}; }
   QImage fileIcon(const OdString&, int pixels) override { return plain(pixels); }
+  QImage renderUserPattern(double, bool, int pixels) override { return plain(pixels); }
 
  private:
   static QImage plain(int pixels) {
@@ -122,6 +125,16 @@ class Make : public ToolFixture {
 
   Count count;
 };
+
+TEST_F(Make, ThatCannotWritePicturesNamesThemWithTheReason) {
+  write(QStringLiteral("c/Palettes/Images"), "mine");
+  EXPECT_EQ(make({picture(QStringLiteral("site.png"))}), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("no picture: "))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images\\site16.png: ")));
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images is a file and no folder")));
+  EXPECT_EQ(toolNames(), QStringList(QStringLiteral("site")));
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/Images")), QByteArray("mine"));
+}
 
 TEST_F(Make, MakesAToolOfEachFileWithThePalette) {
   EXPECT_EQ(make({drawing(QStringLiteral("plan.dxf"), {}), picture(QStringLiteral("site.png"))}),
