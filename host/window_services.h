@@ -5,10 +5,13 @@
 #include "frame/string.h"
 #include "host/unknown.h"
 
+#include <QEvent>
 #include <QPoint>
 #include <QSize>
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 class QColor;
 class QWidget;
@@ -16,6 +19,11 @@ class QWidget;
 /// What a pane tells whoever owns its content. Everything is called on the thread of the windows.
 class IHostPaneEvents {
  public:
+  /// The pane stands in the host's window, still hidden, and the content in it: the place to fill
+  /// the content. False gives the pane up again.
+  virtual bool paneCreated() { return true; }
+  /// The room for the content has changed.
+  virtual void paneResized(const QSize& /*size*/) {}
   /// The user closed the pane by its own button; it is hidden already.
   virtual void paneClosed() = 0;
   /// The pane is about to go, with its content still alive: the place to remember things.
@@ -45,6 +53,17 @@ class IHostPane : public IKVUnknown {
   ~IHostPane() = default;
 };
 
+/// A registered message on its way, with two numbers whose meaning goes with its name.
+class HostMessage : public QEvent {
+ public:
+  explicit HostMessage(int message, std::intptr_t firstNumber = 0, std::intptr_t secondNumber = 0)
+    : QEvent(static_cast<Type>(message))
+    , first(firstNumber)
+    , second(secondNumber) {}
+
+  const std::intptr_t first, second;
+};
+
 /// Windows and dialogs. Texts are shown as they are given: translated by the caller. Paths are
 /// stored paths.
 class IHostWindowServices : public IKVUnknown {
@@ -57,17 +76,20 @@ class IHostWindowServices : public IKVUnknown {
 
   /// A pane with `content`, which it owns from now on. `name` names its place among the host's
   /// settings; at the first start it stands docked at the right side. It comes hidden. `events` is
-  /// not owned and outlives the pane. Dropping the last reference destroys the pane.
+  /// not owned and outlives the pane. Dropping the last reference destroys the pane. Null, with the
+  /// content gone, if paneCreated() gave it up.
   virtual KVPtr<IHostPane> createPane(const OdString& name, const OdString& title, QWidget* content,
                                       IHostPaneEvents* events) = 0;
 
   /// The event type of a message that is registered by name: the same for everybody in the process
   /// that asks for the name.
   virtual int registeredMessage(const OdString& name) = 0;
-  /// Sends a registered message, without data, to all descendants of a window, deeply.
+  /// Sends a registered message as a HostMessage, with both numbers 0, to all descendants of a
+  /// window, deeply. Who sends to one window only makes the HostMessage itself.
   virtual void broadcast(QWidget* window, int message) = 0;
 
-  /// Nothing if the user gave up. Only folders that exist, without a way to make new ones.
+  /// Nothing if the user gave up, as in all that follow. Only folders that exist, without a way to
+  /// make new ones.
   virtual std::optional<OdString> chooseFolder(const OdString& title) = 0;
   /// `filter` is "Name|*.ext;*.ext|Name|*.ext||".
   virtual std::optional<OdString> chooseFileToOpen(const OdString& title,
@@ -77,8 +99,10 @@ class IHostWindowServices : public IKVUnknown {
                                                    const OdString& extension) = 0;
   /// A box with OK and Cancel; true for OK.
   virtual bool confirm(const OdString& text, const OdString& caption) = 0;
-  /// Lets the user choose a true colour; false if they gave up.
+  /// Lets the user choose a true colour, which is a recent one from then on; false if they gave up.
   virtual bool chooseColor(QColor& color) = 0;
+  /// The colours that were chosen before, the latest first.
+  virtual std::vector<QColor> recentColors() = 0;
   /// Lets the user choose one of the drawing's plot styles by name; false if they gave up.
   virtual bool choosePlotStyle(OdString& name) = 0;
 

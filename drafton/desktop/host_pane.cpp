@@ -1,6 +1,7 @@
 #include "drafton/desktop/host_pane.h"
 
 #include <QCloseEvent>
+#include <QResizeEvent>
 
 namespace drafton {
 namespace {
@@ -16,6 +17,19 @@ PaneDock::PaneDock(const OdString& name, const OdString& title, QWidget* content
   , m_events(events) {
   setObjectName(QStringLiteral("pane.") + name);
   setWidget(content);
+  content->installEventFilter(this);
+}
+
+bool PaneDock::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && watched == widget() && m_events)
+    m_events->paneResized(static_cast<QResizeEvent*>(event)->size());
+  return QDockWidget::eventFilter(watched, event);
+}
+
+bool PaneDock::begin() {
+  if (!m_events || m_events->paneCreated()) return true;
+  m_events = nullptr;
+  return false;
 }
 
 void PaneDock::closeEvent(QCloseEvent* event) {
@@ -45,6 +59,12 @@ HostPane::HostPane(QMainWindow& window, const OdString& name, const OdString& ti
 
 HostPane::~HostPane() {
   if (PaneDock* const dock = std::exchange(m_dock, nullptr)) dock->end();
+}
+
+bool HostPane::begin() {
+  if (!m_dock || m_dock->begin()) return true;
+  delete m_dock;
+  return false;
 }
 
 bool HostPane::isVisible() const { return m_dock && m_dock->isVisible(); }

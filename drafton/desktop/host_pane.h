@@ -17,10 +17,13 @@ class PaneDock : public QDockWidget {
   PaneDock(const OdString& name, const OdString& title, QWidget* content, IHostPaneEvents* events,
            QMainWindow& window);
 
+  /// Tells that the pane is there; false if its owner gave it up.
+  bool begin();
   /// Tells that the pane goes, and destroys it.
   void end();
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -35,6 +38,8 @@ class HostPane : public CKVUnknownImpl<IHostPane> {
   HostPane(QMainWindow& window, const OdString& name, const OdString& title, QWidget* content,
            IHostPaneEvents* events);
   ~HostPane() override;
+  /// Tells that the pane is there; false, with the pane gone, if its owner gave it up.
+  bool begin();
 
   bool isVisible() const override;
   void show(bool activate) override;

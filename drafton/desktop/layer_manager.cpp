@@ -1,10 +1,10 @@
 #include "drafton/desktop/layer_manager.h"
 
+#include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/theme.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/render/style.h"
 
-#include <QColorDialog>
 #include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
@@ -162,14 +162,10 @@ void LayerManager::changed(QTableWidgetItem* item) {
 }
 
 void LayerManager::chooseColor(int row) {
-  const QColor chosen = QColorDialog::getColor(
-      m_table->item(row, kColor)->data(Qt::DecorationRole).value<QColor>(), this);
-  if (!chosen.isValid()) return;
-  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-  change(row, [&](OdDbLayerTableRecord& layer) {
-    layer.setColor(
-        OdCmColor::fromRgb(part(chosen.red()), part(chosen.green()), part(chosen.blue())));
-  });
+  const auto chosen = askColor(
+      m_desktop, m_table->item(row, kColor)->data(Qt::DecorationRole).value<QColor>(), this);
+  if (!chosen) return;
+  change(row, [&](OdDbLayerTableRecord& layer) { layer.setColor(trueColor(*chosen)); });
 }
 
 void LayerManager::addLayer() {

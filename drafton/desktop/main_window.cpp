@@ -76,9 +76,7 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   connect(&desktop, &Desktop::settled, this, &MainWindow::follow);
   connect(&desktop, &Desktop::variableChanged, this, &MainWindow::follow);
   m_actions->showIcons(isDark(palette()));
-  HostServices& services = desktop.engine().services();
-  services.offer(IHostWindowServices::kId, kvMake<WindowServices>(*this).get());
-  services.offer(IHelpService::kId, kvMake<HelpService>(*this).get());
+  offerWindowServices(desktop.engine().services(), *this);
   resize(1280, 820);
   restorePlaces();
   follow();

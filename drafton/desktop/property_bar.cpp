@@ -1,11 +1,11 @@
 #include "drafton/desktop/property_bar.h"
 
+#include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/theme.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/render/style.h"
 
 #include <QAbstractItemView>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QEvent>
 #include <QPainter>
@@ -186,10 +186,9 @@ void PropertyBar::chooseLayer(int index) {
 void PropertyBar::chooseColor(int index) {
   OdCmColor color = colorOf(m_colors->itemData(index).toUInt());
   if (m_colors->itemData(index).toUInt() == kOtherColor) {
-    const QColor chosen = QColorDialog::getColor(Qt::white, this);
-    if (!chosen.isValid()) return follow();
-    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-    color = OdCmColor::fromRgb(part(chosen.red()), part(chosen.green()), part(chosen.blue()));
+    const std::optional<QColor> chosen = askColor(m_desktop, Qt::white, this);
+    if (!chosen) return follow();
+    color = trueColor(*chosen);
   }
   apply(
       QStringLiteral("COLOR"), [&](OdDbEntity& e) { e.setColor(color); },

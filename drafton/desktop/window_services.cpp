@@ -1,33 +1,24 @@
 #include "drafton/desktop/window_services.h"
 
+#include "drafton/desktop/color_choice.h"
+#include "drafton/desktop/exchange.h"
+#include "drafton/desktop/help_window.h"
+#include "drafton/desktop/inspector_control.h"
 #include "drafton/desktop/main_window.h"
+#include "drafton/desktop/window_controls.h"
 #include "frame/file_path.h"
 
 #include <QApplication>
-#include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 
 namespace drafton {
 namespace {
 
-constexpr int kRecentColors = 8;
-
-OdString colorKey(int number) { return QStringLiteral("Color%1").arg(number); }
-
-/// Puts a colour in front of those that were chosen before.
-void rememberColor(Desktop& desktop, const QColor& color) {
-  QStringList names;
-  for (int i = 1; i <= kRecentColors; ++i) {
-    const OdString name = desktop.setting(colorKey(i).toLatin1().constData()).toString();
-    if (!name.isEmpty()) names << name;
-  }
-  names.removeAll(color.name());
-  names.prepend(color.name());
-  for (int i = 1; i <= kRecentColors && i <= names.size(); ++i)
-    desktop.setSetting(colorKey(i).toLatin1().constData(), names[i - 1]);
-}
+/// Where the dialogs of modules were last.
+constexpr char kFolderKey[] = "ModuleFolder";
 
 } // namespace
 
@@ -52,7 +43,9 @@ void WindowServices::focusDrawing() {
 KVPtr<IHostPane> WindowServices::createPane(const OdString& name, const OdString& title,
                                             QWidget* content, IHostPaneEvents* events) {
   if (!m_window) return nullptr;
-  return kvMake<HostPane>(*m_window, name, title, content, events);
+  const auto pane = kvMake<HostPane>(*m_window, name, title, content, events);
+  if (!pane->begin()) return nullptr;
+  return pane;
 }
 
 int WindowServices::registeredMessage(const OdString& name) {
@@ -67,36 +60,46 @@ void WindowServices::broadcast(QWidget* window, int message) {
   std::vector<QPointer<QWidget>> all;
   for (QWidget* const child : window->findChildren<QWidget*>()) all.emplace_back(child);
   for (const QPointer<QWidget>& child : all) {
-    QEvent event(static_cast<QEvent::Type>(message));
+    HostMessage event(message);
     if (child) QApplication::sendEvent(child, &event);
   }
 }
 
-std::optional<OdString> WindowServices::chooseFolder(const OdString& title) {
-  const OdString path = QFileDialog::getExistingDirectory(
-      m_window, title, QDir::homePath(), QFileDialog::ShowDirsOnly | QFileDialog::ReadOnly);
+QString WindowServices::lastFolder() const {
+  const QString folder = m_window ? m_window->desktop().setting(kFolderKey).toString() : QString();
+  return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath();
+}
+
+std::optional<OdString> WindowServices::chosen(const QString& path, const QString& folder) {
   if (path.isEmpty()) return std::nullopt;
+  if (m_window) m_window->desktop().setSetting(kFolderKey, folder);
   return odpath::fromPlatform(path);
+}
+
+std::optional<OdString> WindowServices::chooseFolder(const OdString& title) {
+  const QString path = QFileDialog::getExistingDirectory(
+      m_window, title, lastFolder(), QFileDialog::ShowDirsOnly | QFileDialog::ReadOnly);
+  return chosen(path, path);
 }
 
 std::optional<OdString> WindowServices::chooseFileToOpen(const OdString& title,
                                                          const OdString& filter) {
-  const OdString path =
-      QFileDialog::getOpenFileName(m_window, title, QDir::homePath(), qtFilter(filter));
-  if (path.isEmpty()) return std::nullopt;
-  return odpath::fromPlatform(path);
+  const QString path =
+      QFileDialog::getOpenFileName(m_window, title, lastFolder(), qtFilter(filter));
+  return chosen(path, QFileInfo(path).path());
 }
 
 std::optional<OdString> WindowServices::chooseFileToSave(const OdString& title,
                                                          const OdString& filter,
                                                          const OdString& name,
                                                          const OdString& extension) {
-  QFileDialog dialog(m_window, title, QDir::homePath(), qtFilter(filter));
+  QFileDialog dialog(m_window, title, lastFolder(), qtFilter(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(extension);
   dialog.selectFile(odpath::toPlatform(name));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return odpath::fromPlatform(dialog.selectedFiles().first());
+  const QString path = dialog.selectedFiles().first();
+  return chosen(path, QFileInfo(path).path());
 }
 
 bool WindowServices::confirm(const OdString& text, const OdString& caption) {
@@ -106,16 +109,13 @@ bool WindowServices::confirm(const OdString& text, const OdString& caption) {
 
 bool WindowServices::chooseColor(QColor& color) {
   if (!m_window) return false;
-  Desktop& desktop = m_window->desktop();
-  for (int i = 1; i <= kRecentColors; ++i) {
-    const QColor recent(desktop.setting(colorKey(i).toLatin1().constData()).toString());
-    if (recent.isValid()) QColorDialog::setCustomColor(i - 1, recent);
-  }
-  const QColor chosen = QColorDialog::getColor(color, m_window);
-  if (!chosen.isValid()) return false;
-  color = chosen;
-  rememberColor(desktop, chosen);
-  return true;
+  const std::optional<QColor> chosen = askColor(m_window->desktop(), color, m_window);
+  if (chosen) color = *chosen;
+  return chosen.has_value();
+}
+
+std::vector<QColor> WindowServices::recentColors() {
+  return m_window ? drafton::recentColors(m_window->desktop()) : std::vector<QColor>();
 }
 
 bool WindowServices::choosePlotStyle(OdString& name) {
@@ -136,6 +136,16 @@ bool WindowServices::choosePlotStyle(OdString& name) {
       static_cast<int>(std::max<qsizetype>(0, names.indexOf(name))), false, &isChosen);
   if (isChosen) name = chosen;
   return isChosen;
+}
+
+void offerWindowServices(HostServices& services, MainWindow& window) {
+  services.offer(IHostWindowServices::kId, kvMake<WindowServices>(window).get());
+  services.offer(IHostWindowControls::kId, kvMake<WindowControls>().get());
+  services.offer(IHostInspectorService::kId, kvMake<InspectorService>().get());
+  services.offer(IHelpService::kId, kvMake<HelpService>(window).get());
+  const auto formats = std::make_shared<ExchangeFormats>();
+  services.offer(IHostClipboard::kId, kvMake<SystemClipboard>(formats).get());
+  services.offer(IHostDragDrop::kId, kvMake<DragDrop>(formats).get());
 }
 
 } // namespace drafton

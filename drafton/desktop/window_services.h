@@ -5,10 +5,9 @@
 
 #include <QHash>
 
-#include <functional>
-
 namespace drafton {
 
+class HostServices;
 class MainWindow;
 
 /// Gives modules panes, messages and dialogs of the main window. Lives as long as somebody holds
@@ -30,12 +29,21 @@ class WindowServices : public CKVUnknownImpl<IHostWindowServices> {
                                            const OdString& extension) override;
   bool confirm(const OdString& text, const OdString& caption) override;
   bool chooseColor(QColor& color) override;
+  std::vector<QColor> recentColors() override;
   bool choosePlotStyle(OdString& name) override;
 
  private:
+  QString lastFolder() const;
+  /// A path that the user has chosen, with the folder for the next time.
+  std::optional<OdString> chosen(const QString& path, const QString& folder);
+
   QPointer<MainWindow> m_window;
   QHash<OdString, int> m_messages;
 };
+
+/// Offers modules all that a window has for them: panes, dialogs and messages, controls, the
+/// manual, the system's clipboard, and drag and drop.
+void offerWindowServices(HostServices& services, MainWindow& window);
 
 /// A filter of the form "Name|*.ext;*.ext|Name|*.ext||" as Qt writes it.
 OdString qtFilter(const OdString& filter);

@@ -4,9 +4,13 @@
 #include "catalog/foreign_store.h"
 #include "catalog/palette_export.h"
 #include "frame/file_path.h"
+#include "host/window_services.h"
 #include "module/entry/talking_command.h"
 #include "module/message_table.h"
 #include "module/string_table.h"
+#include "ui/catalog_folder.h"
+#include "ui/palette_set.h"
+#include "ui/window/window_commands.h"
 
 namespace tc {
 namespace {
@@ -94,8 +98,29 @@ int runExport(IHostDocument* document) {
   return kDone;
 }
 
+/// The palettes where the host has windows, shown; null elsewhere.
+ITcUiPaletteSet* shownWindow() {
+  if (!host::service<IHostWindowServices>()) return nullptr;
+  if (!ITcUiPaletteSet::instance())
+    ITcUiPaletteSet::setInstance(makePaletteSet());
+  else if (!isPaletteSetShown())
+    ITcUiPaletteSet::instance()->show(1, 0, 1);
+  if (!isPaletteSetShown()) setPaletteSetShown(true);
+  return ITcUiPaletteSet::instance();
+}
+
+int runOpen(IHostDocument* document) {
+  ITcUiPaletteSet* const window = shownWindow();
+  if (window && window->dispatchCommand(kCommandOpenCatalog)) return kDone;
+  const auto folder = ask(document, u"Folder of the catalog: ");
+  if (!folder || folder->isEmpty() || !openCatalogFolder(typedPath(*folder))) return kFailed;
+  refreshWindow();
+  return kDone;
+}
+
 } // namespace
 
+ICmdProcess* makeOpenCommand() { return TalkingCommand<&runOpen>::create(); }
 ICmdProcess* makeImportCommand() { return TalkingCommand<&runImport>::create(); }
 ICmdProcess* makeExportCommand() { return TalkingCommand<&runExport>::create(); }
 

@@ -1,4 +1,4 @@
-// The commands that take palettes in from other programs, and give palettes to them.
+// The commands that open catalogs, take palettes in from other programs, and give palettes to them.
 #pragma once
 
 #include "host/command.h"
@@ -11,5 +11,8 @@ namespace tc {
 ICmdProcess* makeImportCommand();
 /// The same for `ToolPalettesExport`, which asks for a palette, by its name or id, and a file.
 ICmdProcess* makeExportCommand();
+/// The same for `ToolPalettesOpen`, which opens the catalog of a folder. A host with windows shows
+/// the palettes and has the folder chosen there; any other is asked for it.
+ICmdProcess* makeOpenCommand();
 
 } // namespace tc

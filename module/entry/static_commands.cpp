@@ -20,6 +20,7 @@ struct CommandRow {
   CmdCreator create;
 };
 constexpr CommandRow kCommands[] = {{u"ToolPalettes", &TcCmd::create},
+                                    {u"ToolPalettesOpen", &makeOpenCommand},
                                     {u"ToolPalettesImport", &makeImportCommand},
                                     {u"ToolPalettesExport", &makeExportCommand},
                                     {u"ToolPalettesMake", &makeMakeCommand}};

@@ -3,9 +3,9 @@
 
 namespace tc {
 
-/// Registers `ToolPalettes`, `ToolPalettesImport`, `ToolPalettesExport`, `ToolPalettesMake` and
-/// `__executetool` with the host. Called once, while the library is being loaded; a host without a
-/// command factory gets no commands. Nothing takes them back.
+/// Registers `ToolPalettes`, `ToolPalettesOpen`, `ToolPalettesImport`, `ToolPalettesExport`,
+/// `ToolPalettesMake` and `__executetool` with the host. Called once, while the library is being
+/// loaded; a host without a command factory gets no commands. Nothing takes them back.
 void registerStaticCommands();
 
 } // namespace tc

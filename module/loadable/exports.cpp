@@ -2,6 +2,7 @@
 #include "module/entry/static_commands.h"
 #include "module/entry/tool_palette_module.h"
 #include "module/export.h"
+#include "ui/window/palette_messages.h"
 #include "ui/window/palette_window.h"
 
 extern "C" {
@@ -20,6 +21,8 @@ TC_API void odrxGetAPIVersion(unsigned* major, unsigned* majorMinor, unsigned* m
 
 } // extern "C"
 
-// The commands are there before anything else of the module runs, and so is the way to a window.
+// The commands are there before anything else of the module runs, and so is the way to a window,
+// with the messages by which other windows and this one reach each other.
 static const bool g_commandsAreRegistered = (tc::registerStaticCommands(), true);
 static const bool g_windowIsKnown = (tc::setPaletteSetMaker(&tc::TcUiPaletteSet::create), true);
+static const bool g_messagesAreRegistered = (tc::registerPaletteMessages(), true);

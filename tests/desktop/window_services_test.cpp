@@ -2,10 +2,20 @@
 
 #include "desktop/desktop_fixture.h"
 #include "drafton/desktop/help_window.h"
+#include "drafton/program/program_setup.h"
+#include "frame/file_path.h"
+#include "host/icon_service.h"
 
+#include <QCheckBox>
+#include <QColorDialog>
 #include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTextBrowser>
+#include <QTimer>
 
 using namespace drafton;
 
@@ -16,6 +26,14 @@ struct PaneLog : IHostPaneEvents {
   QPointer<QWidget> content;
   KVPtr<IHostPane> pane;
 
+  bool isWanted = true;
+  QSize room;
+
+  bool paneCreated() override {
+    heard << QStringLiteral("created");
+    return isWanted;
+  }
+  void paneResized(const QSize& size) override { room = size; }
   void paneClosed() override {
     heard << (pane && pane->isVisible() ? QStringLiteral("closed while shown")
                                         : QStringLiteral("closed"));
@@ -34,6 +52,8 @@ class WindowServicesTest : public DesktopFixture {
     log.content = new QLabel(QStringLiteral("content"));
     log.pane =
         windows()->createPane(QStringLiteral("Test"), QStringLiteral("A pane"), log.content, &log);
+    EXPECT_EQ(log.heard, QStringList{QStringLiteral("created")});
+    log.heard.clear();
   }
   PaneDock* dock() { return window().findChild<PaneDock*>(); }
 };
@@ -76,6 +96,30 @@ TEST_F(WindowServicesTest, ClosingIsToldWhenThePaneIsHiddenAndHidingIsNot) {
   EXPECT_FALSE(log.content) << "the pane owned it";
 }
 
+TEST_F(WindowServicesTest, APaneTellsTheRoomOfItsContent) {
+  PaneLog log;
+  make(log);
+  log.pane->show(false);
+  QApplication::processEvents();
+  dock()->setFloating(true);
+  log.pane->place({50, 50}, {260, 380});
+  QApplication::processEvents();
+  EXPECT_EQ(log.room, log.content->size());
+  EXPECT_EQ(log.room.width(), 260);
+  log.pane.reset();
+}
+
+TEST_F(WindowServicesTest, APaneThatItsOwnerGivesUpIsNone) {
+  PaneLog log;
+  log.isWanted = false;
+  log.content = new QLabel;
+  log.pane = windows()->createPane(QStringLiteral("Test"), QStringLiteral("T"), log.content, &log);
+  EXPECT_FALSE(log.pane);
+  EXPECT_FALSE(log.content);
+  EXPECT_EQ(dock(), nullptr);
+  EXPECT_EQ(log.heard, QStringList{QStringLiteral("created")});
+}
+
 TEST_F(WindowServicesTest, APaneStaysWhereItWasOverARestart) {
   PaneLog log;
   make(log);
@@ -111,7 +155,9 @@ class Listener : public QWidget {
   using QWidget::QWidget;
   int wanted = 0, heard = 0;
   bool event(QEvent* event) override {
-    if (event->type() == wanted) ++heard;
+    if (event->type() == wanted && static_cast<HostMessage*>(event)->first == 0 &&
+        static_cast<HostMessage*>(event)->second == 0)
+      ++heard;
     return QWidget::event(event);
   }
 };
@@ -134,6 +180,166 @@ TEST_F(WindowServicesTest, FiltersAreWrittenAsQtReadsThem) {
   EXPECT_EQ(qtFilter(QStringLiteral("Images|*.png;*.jpg|All|*.*||")),
             QStringLiteral("Images (*.png *.jpg);;All (*.*)"));
   EXPECT_EQ(qtFilter(QString()), QString());
+}
+
+/// Acts on the modal dialog that is about to be shown.
+template <class Dialog, class Act>
+void inDialog(Act act) {
+  QTimer::singleShot(0, [act] {
+    auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (dialog) {
+      act(*dialog);
+      return;
+    }
+    ADD_FAILURE() << "another dialog is shown";
+    if (QWidget* const shown = QApplication::activeModalWidget()) shown->close();
+  });
+}
+const auto giveUp = [](QDialog& dialog) { dialog.reject(); };
+
+class DialogsTest : public WindowServicesTest {
+ protected:
+  QTemporaryDir folder;
+  /// Types a name into a file dialog.
+  auto choosing(const QString& name) {
+    return [name](QFileDialog& dialog) {
+      dialog.findChild<QLineEdit*>()->setText(name);
+      QMetaObject::invokeMethod(&dialog, "accept");
+    };
+  }
+};
+
+TEST_F(DialogsTest, AFolderIsChosenAndNoneIsMade) {
+  inDialog<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Select it"));
+    EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+    EXPECT_TRUE(dialog.testOption(QFileDialog::ShowDirsOnly));
+    EXPECT_TRUE(dialog.testOption(QFileDialog::ReadOnly)) << "no new folders";
+    choosing(folder.path())(dialog);
+  });
+  EXPECT_EQ(windows()->chooseFolder(QStringLiteral("Select it")),
+            odpath::fromPlatform(folder.path()));
+  inDialog<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath(), folder.path()) << "where it was last";
+    giveUp(dialog);
+  });
+  EXPECT_EQ(windows()->chooseFolder(QStringLiteral("Select it")), std::nullopt);
+}
+
+TEST_F(DialogsTest, FilesAreChosenToReadAndToWrite) {
+  QFile file(folder.filePath(QStringLiteral("in.xtp")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  const OdString kinds = QStringLiteral("Palettes|*.xtp||");
+  inDialog<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.nameFilters(), QStringList{QStringLiteral("Palettes (*.xtp)")});
+    choosing(file.fileName())(dialog);
+  });
+  EXPECT_EQ(windows()->chooseFileToOpen(QStringLiteral("Read"), kinds),
+            odpath::fromPlatform(file.fileName()));
+  inDialog<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>()->text().contains(QStringLiteral("Doors")));
+    choosing(folder.filePath(QStringLiteral("out")))(dialog);
+  });
+  EXPECT_EQ(windows()->chooseFileToSave(QStringLiteral("Write"), kinds, QStringLiteral("Doors"),
+                                        QStringLiteral("xtp")),
+            odpath::fromPlatform(folder.filePath(QStringLiteral("out.xtp"))));
+  inDialog<QFileDialog>(giveUp);
+  EXPECT_EQ(windows()->chooseFileToOpen(QStringLiteral("Read"), kinds), std::nullopt);
+}
+
+TEST_F(DialogsTest, QuestionsAreAnswered) {
+  for (const auto button : {QMessageBox::Ok, QMessageBox::Cancel}) {
+    inDialog<QMessageBox>([button](QMessageBox& box) {
+      EXPECT_EQ(box.text(), QStringLiteral("Remove it?"));
+      box.button(button)->click();
+    });
+    EXPECT_EQ(windows()->confirm(QStringLiteral("Remove it?"), QStringLiteral("Tools")),
+              button == QMessageBox::Ok);
+  }
+}
+
+TEST_F(DialogsTest, AMessageWithACheckBoxIsShownUntilItIsTicked) {
+  const auto messages = kvQuery<IHostMessages>(&desktop().engine().services());
+  const auto show = [&] {
+    return messages->messageBoxWithCheckBox(QStringLiteral("Module\\It"), QStringLiteral("text"),
+                                            QStringLiteral("caption"), 0);
+  };
+  inDialog<QMessageBox>([](QMessageBox& box) { box.accept(); });
+  EXPECT_FALSE(show());
+  inDialog<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QStringLiteral("text"));
+    box.checkBox()->setChecked(true);
+    box.accept();
+  });
+  EXPECT_TRUE(show());
+  EXPECT_TRUE(show()) << "without a box";
+}
+
+TEST_F(DialogsTest, ChosenColoursAreTheRecentOnes) {
+  const auto choose = [&](const QColor& wanted) {
+    inDialog<QColorDialog>([wanted](QColorDialog& dialog) {
+      dialog.setCurrentColor(wanted);
+      dialog.accept();
+    });
+    QColor color(Qt::white);
+    EXPECT_TRUE(windows()->chooseColor(color));
+    EXPECT_EQ(color, wanted);
+  };
+  EXPECT_TRUE(windows()->recentColors().empty());
+  choose(QColor(1, 2, 3));
+  choose(QColor(4, 5, 6));
+  choose(QColor(1, 2, 3));
+  EXPECT_EQ(windows()->recentColors(), (std::vector<QColor>{{1, 2, 3}, {4, 5, 6}}));
+  inDialog<QColorDialog>([](QColorDialog& dialog) {
+    EXPECT_EQ(QColorDialog::customColor(0), QColor(1, 2, 3));
+    EXPECT_EQ(QColorDialog::customColor(1), QColor(4, 5, 6));
+    giveUp(dialog);
+  });
+  QColor color(Qt::white);
+  EXPECT_FALSE(windows()->chooseColor(color));
+  EXPECT_EQ(color, QColor(Qt::white));
+  for (int i = 0; i < 9; ++i) choose(QColor(100, 0, i));
+  EXPECT_EQ(windows()->recentColors().size(), 8u);
+  EXPECT_EQ(windows()->recentColors().front(), QColor(100, 0, 8));
+  desktop().setSetting("Color1", OdString(QStringLiteral("no colour")));
+  EXPECT_EQ(windows()->recentColors().size(), 7u);
+}
+
+TEST_F(DialogsTest, APlotStyleIsChosenByName) {
+  OdString name = QStringLiteral("Normal");
+  inDialog<QInputDialog>([](QInputDialog& dialog) {
+    EXPECT_EQ(dialog.textValue(), QStringLiteral("Normal"));
+    dialog.accept();
+  });
+  EXPECT_TRUE(windows()->choosePlotStyle(name));
+  EXPECT_EQ(name, QStringLiteral("Normal"));
+  inDialog<QInputDialog>(giveUp);
+  EXPECT_FALSE(windows()->choosePlotStyle(name));
+  desktop().engine().documents().close(document());
+  EXPECT_FALSE(windows()->choosePlotStyle(name)) << "without a drawing";
+}
+
+TEST_F(WindowServicesTest, IconsComeByTheNamesOfCommands) {
+  offerPictures(desktop().engine());
+  const auto icons = kvQuery<IHostIconService>(&desktop().engine().services());
+  ASSERT_TRUE(icons);
+  EXPECT_EQ(icons->icon(QStringLiteral("LINE"), 32).size(), QSize(32, 32));
+  EXPECT_TRUE(icons->icon(QStringLiteral("NoSuchThing"), 32).isNull());
+}
+
+TEST_F(WindowServicesTest, BehindTheWindowsEndTheyDoNothing) {
+  const auto services = windows();
+  stop();
+  QColor color(Qt::white);
+  OdString name;
+  EXPECT_EQ(services->mainWindow(), nullptr);
+  services->focusDrawing();
+  EXPECT_FALSE(services->chooseColor(color));
+  EXPECT_TRUE(services->recentColors().empty());
+  EXPECT_FALSE(services->choosePlotStyle(name));
+  QLabel content;
+  EXPECT_FALSE(services->createPane(name, name, &content, nullptr));
 }
 
 TEST_F(WindowServicesTest, FocusGoesBackToTheDrawing) {

@@ -52,6 +52,26 @@ struct ExchangeCommandsTest : testhost::ModuleFixture {
   QTemporaryDir m_folder;
 };
 
+TEST_F(ExchangeCommandsTest, OpensTheCatalogOfAFolderThatHasOneOfExactlyThatName) {
+  const auto count = [] {
+    const auto all = OdTcPaletteManager::instance()->catalogsEnum();
+    OdString path;
+    OdTcCatalog* found = nullptr;
+    int catalogs = 0;
+    while (all->next(path, found)) ++catalogs;
+    return catalogs;
+  };
+  write(u"d/DrfTcCatalog.dtc"_s, "<Catalog><ItemID idValue=\"{D}\"/></Catalog>");
+  write(u"e/drftccatalog.dtc"_s, "<Catalog/>");
+  EXPECT_EQ(run(&makeOpenCommand, {stored(u"d"_s)}), 0);
+  EXPECT_EQ(count(), 2);
+  EXPECT_NE(run(&makeOpenCommand, {stored(u"e"_s)}), 0);
+  ASSERT_EQ(host().messages.boxes.size(), 1u);
+  EXPECT_EQ(host().messages.boxes.front().text, u"Cannot find catalog in the specified folder."_s);
+  EXPECT_NE(run(&makeOpenCommand, {}), 0) << "cancelled";
+  EXPECT_EQ(count(), 2);
+}
+
 TEST_F(ExchangeCommandsTest, ImportsIntoTheCatalogAndTheGroupThatWereNamed) {
   EXPECT_EQ(run(&makeImportCommand, {u'"' + stored(u"p.xtp"_s) + u'"', stored(u"c"_s), u"Site"_s}),
             0);

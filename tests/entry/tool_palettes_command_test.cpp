@@ -34,7 +34,7 @@ TEST_F(ToolPalettesCommandTest, RegistersItsCommandsWithFactoriesThatAreReleased
   ASSERT_EQ(host().commands.keys(),
             QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
                          QStringLiteral("ToolPalettesImport"), QStringLiteral("ToolPalettesMake"),
-                         QStringLiteral("__executetool")}));
+                         QStringLiteral("ToolPalettesOpen"), QStringLiteral("__executetool")}));
   const testhost::RegisteredCommand palettes = host().commands[QStringLiteral("ToolPalettes")];
   EXPECT_EQ(palettes.group, QStringLiteral("HOST"));
   EXPECT_EQ(palettes.flags, 0u);

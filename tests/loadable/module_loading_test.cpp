@@ -61,7 +61,7 @@ TEST_F(ModuleLoadingTest, LoadingAloneRegistersTheCommands) {
   EXPECT_EQ(host().commands.keys(),
             QStringList({QStringLiteral("ToolPalettes"), QStringLiteral("ToolPalettesExport"),
                          QStringLiteral("ToolPalettesImport"), QStringLiteral("ToolPalettesMake"),
-                         QStringLiteral("__executetool")}));
+                         QStringLiteral("ToolPalettesOpen"), QStringLiteral("__executetool")}));
   EXPECT_EQ(host().liveFactories, 0);
   EXPECT_FALSE(odrxFindClass(QStringLiteral("OdTcPersist"))) << "nothing else is up yet";
   oddynlib::unload(handle);
@@ -108,9 +108,11 @@ TEST_F(ModuleLoadingTest, NothingThatTheHostKeepsPointsIntoTheLibrary) {
   }
   ASSERT_FALSE(isLoaded());
   // The library's memory is gone: to read a text that stood in it would crash.
-  EXPECT_EQ(host().commands.keys().join(QLatin1Char(' ')),
-            QStringLiteral("ToolPalettes ToolPalettesExport ToolPalettesImport ToolPalettesMake "
-                           "__executetool"));
+  EXPECT_EQ(
+      host().commands.keys().join(QLatin1Char(' ')),
+      QStringLiteral(
+          "ToolPalettes ToolPalettesExport ToolPalettesImport ToolPalettesMake ToolPalettesOpen "
+          "__executetool"));
   for (const testhost::RegisteredCommand& command : host().commands)
     EXPECT_EQ(command.group, QStringLiteral("HOST"));
   EXPECT_EQ(host().messages.printed.size(), 2) << "a folder without a catalog, twice";

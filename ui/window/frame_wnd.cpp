@@ -1,6 +1,7 @@
 #include "ui/window/frame_wnd.h"
 
 #include <QEvent>
+#include <QVBoxLayout>
 
 namespace tc {
 namespace {
@@ -8,32 +9,41 @@ namespace {
 constexpr int kFirstWidth = 200;
 constexpr int kLeastShown = 2;
 
-OdString columnKey(int column) { return QStringLiteral("Col%1").arg(column); }
+OdString columnKey(std::size_t column) { return QStringLiteral("Col%1").arg(column); }
 
 } // namespace
 
 TcUiFrameWnd::TcUiFrameWnd(ITcUiPaletteSet& window)
-  : QSplitter(Qt::Horizontal)
-  , m_tree(new TcUiTreeView(window, m_pictures))
+  : m_tree(new TcUiTreeView(window, m_pictures))
   , m_list(new TcUiListView(window, m_pictures)) {
   m_pictures.setInk(palette().color(QPalette::WindowText));
-  addWidget(m_tree);
-  addWidget(m_list);
-  QList<int> widths{kFirstWidth, kFirstWidth};
+  m_tree->setParent(this);
+  m_list->setParent(this);
+}
+
+bool TcUiFrameWnd::create(IHostWindowControls& controls) {
+  m_splitter = controls.createSplitter(*this);
+  if (!m_splitter) return false;
+  auto* const room = new QVBoxLayout(this);
+  room->setContentsMargins(0, 0, 0, 0);
+  room->addWidget(m_splitter->widget());
+  m_splitter->addColumn(m_tree);
+  m_splitter->addColumn(m_list);
+  std::vector<int> widths{kFirstWidth, kFirstWidth};
   OdVariant stored;
-  for (int column = 0; column < widths.size(); ++column) {
-    widget(column)->setMinimumWidth(0);
+  for (std::size_t column = 0; column < widths.size(); ++column)
     if (m_state.read(columnKey(column), stored)) widths[column] = stored.toInt32();
-  }
-  resize(widths[0] + handleWidth() + widths[1], height());
-  setSizes(widths);
+  // At a width at which they keep their proportion.
+  m_splitter->widget()->resize(widths[0] + widths[1] + 1, height());
+  m_splitter->setWidths(widths);
+  return true;
 }
 
 void TcUiFrameWnd::changeEvent(QEvent* event) {
-  QSplitter::changeEvent(event);
-  // Signs are drawn in the theme's colour. The views paint themselves anew anyway.
-  if (event->type() == QEvent::PaletteChange)
-    m_pictures.setInk(palette().color(QPalette::WindowText));
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  m_pictures.setInk(palette().color(QPalette::WindowText));
+  update();
 }
 
 bool TcUiFrameWnd::queryInterface(std::string_view id, void** out) {
@@ -46,9 +56,9 @@ bool TcUiFrameWnd::queryInterface(std::string_view id, void** out) {
 }
 
 void TcUiFrameWnd::saveState() {
-  const QList<int> widths = sizes();
-  for (int column = 0; column < widths.size(); ++column) {
-    OdVariant value(widths[column]);
+  const std::vector<int> all = widths();
+  for (std::size_t column = 0; column < all.size(); ++column) {
+    OdVariant value(all[column]);
     m_state.write(columnKey(column), value);
   }
   m_tree->saveState(m_state);
@@ -56,13 +66,13 @@ void TcUiFrameWnd::saveState() {
 }
 
 bool TcUiFrameWnd::bothPanesVisible() const {
-  const QList<int> widths = sizes();
-  return widths[0] >= kLeastShown && widths[1] >= kLeastShown;
+  const std::vector<int> all = widths();
+  return all[0] >= kLeastShown && all[1] >= kLeastShown;
 }
 
 void TcUiFrameWnd::applyActiveView(int value) {
-  if (value == 0) setSizes({0, width()});
-  if (value == 1) setSizes({width(), 0});
+  if (value == 0) m_splitter->setWidths({0, width()});
+  if (value == 1) m_splitter->setWidths({width(), 0});
 }
 
 } // namespace tc

@@ -1,11 +1,12 @@
 // The two columns of the palette window: the tree and the list.
 #pragma once
 
+#include "host/window_controls.h"
 #include "ui/state_saver.h"
 #include "ui/window/list_view.h"
 #include "ui/window/tree_view.h"
 
-#include <QSplitter>
+#include <QWidget>
 
 namespace tc {
 
@@ -26,15 +27,20 @@ class ITcUiFrameWnd {
   ~ITcUiFrameWnd() = default;
 };
 
-class TcUiFrameWnd : public QSplitter, public ITcUiFrameWnd {
+class TcUiFrameWnd : public QWidget, public ITcUiFrameWnd {
  public:
   explicit TcUiFrameWnd(ITcUiPaletteSet& window);
+
+  /// Puts the tree and the list into the host's splitter; false if the host makes none.
+  bool create(IHostWindowControls& controls);
 
   bool queryInterface(std::string_view id, void** out) override;
   void saveState() override;
   void loadListState() override { m_list->loadState(m_state); }
   bool bothPanesVisible() const override;
 
+  /// The widths of the two columns.
+  std::vector<int> widths() const { return m_splitter->widths(); }
   /// 0 gives the list the whole width, 1 the tree; any other value leaves the columns as they are.
   void applyActiveView(int value);
   TcUiTreeView& tree() { return *m_tree; }
@@ -50,6 +56,7 @@ class TcUiFrameWnd : public QSplitter, public ITcUiFrameWnd {
   TcUiItemPictures m_pictures;
   TcUiTreeView* m_tree;
   TcUiListView* m_list;
+  IHostSplitter* m_splitter = nullptr; ///< this widget's
 };
 
 } // namespace tc

@@ -30,6 +30,7 @@ class TcUiItemPictures {
   void forgetAll() { m_pixmaps.clear(); }
   /// The colour of lines in the pictures of kinds.
   void setInk(const QColor& ink);
+  const QColor& ink() const { return m_ink; }
 
  private:
   QCache<OdString, QPixmap> m_pixmaps;

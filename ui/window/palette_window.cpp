@@ -2,24 +2,20 @@
 
 #include "catalog/palette_manager.h"
 #include "catalog/tool_palette.h"
-#include "frame/file_path.h"
 #include "host/host_locator.h"
 #include "module/string_table.h"
+#include "ui/catalog_folder.h"
+#include "ui/window/palette_messages.h"
 #include "ui/window/window_commands.h"
 
-#include <QDir>
 #include <QMenu>
-#include <QResizeEvent>
-#include <QTabWidget>
+#include <QWidget>
 
 namespace tc {
 namespace {
 
 constexpr const char16_t* kPaneName = u"ToolPaletteManager";
-constexpr const char16_t* kCatalogFile = u"DrfTcCatalog.dtc";
 constexpr const char16_t* kHelpTopic = u"IDH_ToolPalettes";
-constexpr const char16_t* kClosedMessage = u"WM_TC_PALETTE_CLOSED";
-constexpr const char16_t* kCustomizeMessage = u"WM_TC_CUSTOMIZE";
 
 /// A window below this size in both directions was saved collapsed.
 constexpr int kCollapsed = 5;
@@ -67,13 +63,6 @@ int commandOf(const Rows& rows, std::int32_t value, int fallback) {
   return fallback;
 }
 
-/// Only a file of exactly this name counts, whatever the file system makes of case.
-bool holdsCatalog(const OdString& folder) {
-  return QDir(odpath::toPlatform(folder))
-      .entryList(QDir::Files)
-      .contains(OdString::fromUtf16(kCatalogFile), Qt::CaseSensitive);
-}
-
 } // namespace
 
 /// What the pane shows; it hands its events on.
@@ -81,12 +70,16 @@ class TcUiPaletteSet::Content : public QWidget {
  public:
   explicit Content(TcUiPaletteSet& owner)
     : m_owner(owner)
-    , m_customize(owner.m_windows->registeredMessage(OdString::fromUtf16(kCustomizeMessage))) {}
+    , m_customize(customizeMessage()) {}
 
  protected:
-  void resizeEvent(QResizeEvent* event) override { m_owner.layOut(event->size()); }
   bool event(QEvent* event) override {
     return event->type() == m_customize ? m_owner.comeForward() : QWidget::event(event);
+  }
+  void changeEvent(QEvent* event) override {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_owner.m_toolbar.widget())
+      m_owner.m_toolbar.setColors(palette());
   }
 
  private:
@@ -105,8 +98,8 @@ std::unique_ptr<ITcUiPaletteSet> TcUiPaletteSet::create() {
 
 TcUiPaletteSet::TcUiPaletteSet(const KVPtr<IHostWindowServices>& windows)
   : m_windows(windows)
-  , m_content(new Content(*this)) {
-  build(*m_content);
+  , m_content(new Content(*this))
+  , m_toolbar([this](int command) { dispatchCommand(command); }) {
   m_pane =
       m_windows->createPane(OdString::fromUtf16(kPaneName), tr(u"Tool Palettes"), m_content, this);
 }
@@ -117,9 +110,10 @@ TcUiPaletteSet::~TcUiPaletteSet() {
   delete m_content;
 }
 
-void TcUiPaletteSet::build(Content& content) {
-  m_toolbar = new TcUiToolbar([this](int command) { dispatchCommand(command); });
-  m_toolbar->setParent(&content);
+bool TcUiPaletteSet::paneCreated() {
+  const auto controls = host::service<IHostWindowControls>();
+  if (!controls || !m_toolbar.create(*controls.get(), *m_content)) return false;
+  Content& content = *m_content;
 
   m_sizeMenu = new QMenu(&content);
   const QStringList sizes = stringText(StringId::kPreviewSizes).split(u'|');
@@ -127,18 +121,22 @@ void TcUiPaletteSet::build(Content& content) {
     addWord(*m_sizeMenu, kCommandSmallIcons + i, sizes[i], this);
   m_viewMenu = new QMenu(&content);
   for (const MenuWord& word : kViewWords) addWord(*m_viewMenu, word.command, tr(word.text), this);
-  m_toolbar->setMenu(kCommandViewStyle, m_viewMenu);
-  m_toolbar->setMenu(kCommandIconSize, m_sizeMenu);
+  m_toolbar.setMenu(kCommandViewStyle, m_viewMenu);
+  m_toolbar.setMenu(kCommandIconSize, m_sizeMenu);
 
-  m_tabs = new QTabWidget(&content);
-  m_tabs->setDocumentMode(true);
+  m_tabs = controls->createTabs(content);
   m_frame = new TcUiFrameWnd(*this);
-  m_tabs->addTab(m_frame, tr(u"Tools"));
+  m_frame->setParent(&content);
+  if (!m_tabs || !m_frame->create(*controls.get())) return false;
+  m_tabs->addPage(m_frame, tr(u"Tools"), true);
   m_frame->tree().populate();
 
   readState();
   m_frame->tree().loadState(m_frame->state());
   m_frame->loadListState();
+  m_isBuilt = true;
+  layOut(content.size());
+  return true;
 }
 
 void TcUiPaletteSet::readState() {
@@ -154,12 +152,14 @@ void TcUiPaletteSet::writeActiveView() {
 }
 
 void TcUiPaletteSet::layOut(const QSize& size) {
+  if (!m_isBuilt) return;
   if (size.width() < kCollapsed && size.height() < kCollapsed && m_pane) {
     m_pane->place(kRescueCorner, kRescueSize);
     return;
   }
-  m_toolbar->setGeometry(0, 0, size.width(), TcUiToolbar::kHeight);
-  m_tabs->setGeometry(0, TcUiToolbar::kHeight, size.width(), size.height() - kAboveTabs);
+  const int height = m_toolbar.fixedHeight();
+  m_toolbar.widget()->setGeometry(0, 0, size.width(), height);
+  m_tabs->widget()->setGeometry(0, height, size.width(), size.height() - kAboveTabs);
   m_frame->applyActiveView(m_activeView);
 }
 
@@ -191,7 +191,7 @@ bool TcUiPaletteSet::dispatchCommand(int command) {
       {kCommandSmallIconStyle, &TcUiPaletteSet::applyViewStyle, kSmallIconStyle},
       {kCommandListStyle, &TcUiPaletteSet::applyViewStyle, kListStyle},
       {kCommandDetailsStyle, &TcUiPaletteSet::applyViewStyle, kDetailsStyle},
-      {kCommandOpenCatalog, &TcUiPaletteSet::openCatalogFolder},
+      {kCommandOpenCatalog, &TcUiPaletteSet::chooseCatalogFolder},
       {kCommandToggleView, &TcUiPaletteSet::toggleView},
       {kCommandHelp, &TcUiPaletteSet::showHelp},
   };
@@ -204,15 +204,14 @@ bool TcUiPaletteSet::dispatchCommand(int command) {
 }
 
 void TcUiPaletteSet::setTabLabel(int index, const OdString& text) {
-  // An ampersand in a name is no shortcut.
-  if (m_content) m_tabs->setTabText(index, OdString(text).replace(u'&', QLatin1String("&&")));
+  if (m_content) m_tabs->setLabel(index, text);
 }
 
 void TcUiPaletteSet::setActiveView(int value) {
   m_activeView = value;
   if (!m_content) return;
   const bool listShows = value == 0 || value == 2;
-  for (const int index : {1, 2}) m_toolbar->setButtonEnabled(index, listShows);
+  for (const int index : {1, 2}) m_toolbar.setButtonEnabled(index, listShows);
 }
 
 void TcUiPaletteSet::show(int how, int activate, int) {
@@ -245,8 +244,7 @@ bool TcUiPaletteSet::comeForward() {
 
 void TcUiPaletteSet::paneClosed() {
   setPaletteSetShown(false);
-  if (QWidget* const main = m_windows->mainWindow())
-    m_windows->broadcast(main, m_windows->registeredMessage(OdString::fromUtf16(kClosedMessage)));
+  if (QWidget* const main = m_windows->mainWindow()) m_windows->broadcast(main, closedMessage());
 }
 
 void TcUiPaletteSet::paneDestroyed() {
@@ -273,16 +271,9 @@ void TcUiPaletteSet::applyViewStyle(std::int32_t style) {
   m_frame->tree().announceSelection();
 }
 
-void TcUiPaletteSet::openCatalogFolder(std::int32_t) {
-  const auto folder = m_windows->chooseFolder(tr(u"Select Tool Palette folder"));
-  if (!folder) return;
-  if (!holdsCatalog(*folder)) {
-    if (const auto messages = host::service<IHostMessages>())
-      messages->messageBox(stringText(StringId::kFolderHasNoCatalog), tr(u"Tool Palettes"));
-    return;
-  }
-  if (OdTcPaletteManager* const manager = OdTcPaletteManager::instance())
-    manager->openCatalog(*folder + u'\\' + OdString::fromUtf16(kCatalogFile));
+void TcUiPaletteSet::chooseCatalogFolder(std::int32_t) {
+  if (const auto folder = m_windows->chooseFolder(tr(u"Select Tool Palette folder")))
+    openCatalogFolder(*folder);
 }
 
 void TcUiPaletteSet::toggleView(std::int32_t) {

@@ -10,7 +10,6 @@
 #include <QPointer>
 
 class QMenu;
-class QTabWidget;
 
 namespace tc {
 
@@ -46,7 +45,8 @@ class TcUiPaletteSet : public ITcUiPaletteSet,
   struct Command;
 
   explicit TcUiPaletteSet(const KVPtr<IHostWindowServices>& windows);
-  void build(Content& content);
+  bool paneCreated() override;
+  void paneResized(const QSize& size) override { layOut(size); }
   void layOut(const QSize& size);
   void readState();
   void writeActiveView();
@@ -58,18 +58,19 @@ class TcUiPaletteSet : public ITcUiPaletteSet,
   void nothing(std::int32_t) {}
   void setIconSize(std::int32_t size);
   void applyViewStyle(std::int32_t style);
-  void openCatalogFolder(std::int32_t);
+  void chooseCatalogFolder(std::int32_t);
   void toggleView(std::int32_t);
   void showHelp(std::int32_t);
 
   KVPtr<IHostWindowServices> m_windows;
   TcUiMenuBuilder m_menus;
   QPointer<Content> m_content; ///< the pane's
-  TcUiToolbar* m_toolbar = nullptr;
-  QTabWidget* m_tabs = nullptr;
+  TcUiToolbar m_toolbar;
+  IHostTabs* m_tabs = nullptr;
   TcUiFrameWnd* m_frame = nullptr;
   QPointer<QMenu> m_sizeMenu, m_viewMenu;
   int m_activeView = 1;
+  bool m_isBuilt = false;
   KVPtr<IHostPane> m_pane;
 };
 

@@ -4,10 +4,8 @@
 #include "ui/window/glyphs.h"
 #include "ui/window/window_commands.h"
 
-#include <QEvent>
-#include <QHBoxLayout>
-#include <QMenu>
-#include <QToolButton>
+#include <QIcon>
+#include <QWidget>
 
 namespace tc {
 namespace {
@@ -27,55 +25,32 @@ constexpr Button kButtons[] = {
     {kCommandHelp, TcUiGlyph::kHelp, StringId::kHelpTip, u"Help"},
 };
 
-constexpr int kButtonSize = 20, kIconSize = 16, kArrowWidth = 12;
+constexpr QSize kButtonSize(20, 20), kPictureSize(16, 16);
 /// The longest tip, as long as the windows of old could show.
 constexpr int kLongestTip = 64;
 
 } // namespace
 
-TcUiToolbar::TcUiToolbar(Send send) {
-  auto* const layout = new QHBoxLayout(this);
-  layout->setContentsMargins(1, 1, 1, 2);
-  layout->setSpacing(1);
-  for (std::size_t i = 0; i < std::size(kButtons); ++i) {
-    const int command = kButtons[i].command;
-    auto* const button = new QToolButton;
-    button->setAutoRaise(true);
-    button->setIconSize(QSize(kIconSize, kIconSize));
-    button->setFixedSize(kButtonSize, kButtonSize);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setToolTip(tipOf(static_cast<int>(i) + 1));
-    button->setAccessibleName(host::translate(OdString::fromUtf16(kButtons[i].name)));
-    connect(button, &QToolButton::clicked, this, [send, command] { send(command); });
-    layout->addWidget(button);
-    m_buttons.push_back(button);
-  }
-  layout->addStretch();
-  setFixedHeight(kHeight);
-  takeIcons();
+bool TcUiToolbar::create(IHostWindowControls& controls, QWidget& parent) {
+  m_bar = controls.createToolbar(parent, *this);
+  if (!m_bar) return false;
+  m_bar->setSizes(kButtonSize, kPictureSize);
+  int number = 0;
+  for (const Button& row : kButtons)
+    m_bar->addButton(row.command, glyphIcon(row.glyph, parent.palette()), tipOf(++number),
+                     host::translate(OdString::fromUtf16(row.name)));
+  return true;
 }
 
-void TcUiToolbar::takeIcons() {
-  for (std::size_t i = 0; i < m_buttons.size(); ++i)
-    m_buttons[i]->setIcon(glyphIcon(kButtons[i].glyph, palette()));
-}
-
-void TcUiToolbar::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) takeIcons();
+void TcUiToolbar::setColors(const QPalette& palette) {
+  for (std::size_t i = 0; i < std::size(kButtons); ++i)
+    m_bar->setIcon(static_cast<int>(i), glyphIcon(kButtons[i].glyph, palette));
 }
 
 void TcUiToolbar::setMenu(int command, QMenu* menu) {
-  for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-    if (kButtons[i].command != command) continue;
-    m_buttons[i]->disconnect(this);
-    m_buttons[i]->setMenu(menu);
-    m_buttons[i]->setPopupMode(QToolButton::InstantPopup);
-    m_buttons[i]->setFixedWidth(kButtonSize + kArrowWidth);
-  }
+  for (std::size_t i = 0; i < std::size(kButtons); ++i)
+    if (kButtons[i].command == command) m_bar->setMenu(static_cast<int>(i), menu);
 }
-
-void TcUiToolbar::setButtonEnabled(int index, bool enabled) { button(index)->setEnabled(enabled); }
 
 OdString TcUiToolbar::tipOf(int button) {
   if (button < 1 || button > static_cast<int>(std::size(kButtons))) return {};

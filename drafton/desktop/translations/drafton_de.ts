@@ -1231,5 +1231,17 @@
         <source>Deutsch</source>
         <translation>Deutsch</translation>
     </message>
+    <message>
+        <source>Open &amp;Catalog Folder...</source>
+        <translation>&amp;Katalogordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Show the tool palettes of another folder as well</source>
+        <translation>Auch die Werkzeugpaletten eines anderen Ordners zeigen</translation>
+    </message>
+    <message>
+        <source>Folder of the catalog: </source>
+        <translation>Ordner des Katalogs: </translation>
+    </message>
 </context>
 </TS>

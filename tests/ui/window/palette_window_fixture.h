@@ -6,6 +6,7 @@
 #include "catalog/palette_ui.h"
 #include "catalog/tool.h"
 #include "support/module_fixture.h"
+#include "test_controls.h"
 #include "test_windows.h"
 #include "tools/command_tool.h"
 #include "ui/window/palette_window.h"
@@ -22,11 +23,13 @@ namespace testhost {
 struct PaletteWindowFixture : ModuleFixture {
   QTemporaryDir folder;
   KVPtr<TestWindows> windows = kvMake<TestWindows>();
+  KVPtr<TestControls> controls = kvMake<TestControls>();
   KVPtr<TestHelp> help = kvMake<TestHelp>();
   tc::OdTcCatalogPtr catalog;
 
   PaletteWindowFixture() {
     host().offer<IHostWindowServices>(windows.get());
+    host().offer<IHostWindowControls>(controls.get());
     host().offer<IHelpService>(help.get());
     catalog = openCatalog(QStringLiteral("one"), QStringLiteral("Office"));
   }
@@ -118,9 +121,7 @@ struct PaletteWindowFixture : ModuleFixture {
   TestProfile& store() {
     return host().application.store->made(QStringLiteral("cmddata/ToolPaletteManager"));
   }
-  QToolButton& button(int index) {
-    return *tree().window()->findChildren<QToolButton*>().at(index);
-  }
+  QToolButton& button(int index) { return *controls->toolbar->buttons.at(index); }
 };
 
 } // namespace testhost

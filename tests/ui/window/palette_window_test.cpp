@@ -1,16 +1,17 @@
+#include "module/entry/exchange_commands.h"
 #include "palette_window_fixture.h"
+#include "ui/window/palette_messages.h"
 
 #include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTabWidget>
-#include <QToolButton>
 
 namespace {
 
 using namespace tc;
 using testhost::host;
 using PaletteWindow = testhost::PaletteWindowFixture;
+using testhost::TestControls;
 
 QStringList words(QMenu* menu) {
   QStringList result;
@@ -23,8 +24,8 @@ TEST_F(PaletteWindow, AFirstStartShowsTheTreeWithSizeAndViewDisabled) {
   TcUiPaletteSet& window = open();
   EXPECT_TRUE(window.isVisible());
   EXPECT_EQ(window.activeView(), 1);
-  EXPECT_GE(frame().sizes()[0], 200);
-  EXPECT_EQ(frame().sizes()[1], 0);
+  EXPECT_GE(frame().widths()[0], 200);
+  EXPECT_EQ(frame().widths()[1], 0);
   EXPECT_FALSE(frame().bothPanesVisible());
   EXPECT_TRUE(button(0).isEnabled());
   EXPECT_FALSE(button(1).isEnabled());
@@ -36,8 +37,8 @@ TEST_F(PaletteWindow, AStoredListShowsInFullWidth) {
   store().values[QStringLiteral("ActiveView")] = OdVariant(0);
   TcUiPaletteSet& window = open();
   EXPECT_EQ(window.activeView(), 0);
-  EXPECT_EQ(frame().sizes()[0], 0);
-  EXPECT_GE(frame().sizes()[1], 200);
+  EXPECT_EQ(frame().widths()[0], 0);
+  EXPECT_GE(frame().widths()[1], 200);
   EXPECT_FALSE(frame().bothPanesVisible());
   EXPECT_TRUE(button(1).isEnabled());
   EXPECT_TRUE(button(2).isEnabled());
@@ -46,11 +47,11 @@ TEST_F(PaletteWindow, AStoredListShowsInFullWidth) {
 TEST_F(PaletteWindow, TogglingIsStoredAtOnceAndShownAfterARestart) {
   open().dispatchCommand(kCommandToggleView);
   EXPECT_EQ(store().values[QStringLiteral("ActiveView")].toInt32(), 0);
-  EXPECT_EQ(frame().sizes()[0], 0);
+  EXPECT_EQ(frame().widths()[0], 0);
   EXPECT_EQ(restart().activeView(), 0);
   ITcUiPaletteSet::instance()->dispatchCommand(kCommandToggleView);
   EXPECT_EQ(store().values[QStringLiteral("ActiveView")].toInt32(), 1);
-  EXPECT_EQ(frame().sizes()[1], 0);
+  EXPECT_EQ(frame().widths()[1], 0);
 }
 
 TEST_F(PaletteWindow, AnyOtherStoredViewLeavesTheColumnsAndTogglesToTheTree) {
@@ -82,7 +83,7 @@ TEST_F(PaletteWindow, EveryWordIsTranslated) {
   TcUiPaletteSet& window = open();
   EXPECT_EQ(words(window.sizeMenu()).first(), QStringLiteral("S 5001"));
   EXPECT_EQ(words(window.viewMenu()).first(), QStringLiteral("Icons! 6100"));
-  EXPECT_EQ(tree().window()->findChild<QTabWidget*>()->tabText(0), QStringLiteral("Tools!"));
+  EXPECT_EQ(controls->tabs->tabText(0), QStringLiteral("Tools!"));
   EXPECT_EQ(windows->pane->frame->windowTitle(), QStringLiteral("Tool Palettes!"));
   EXPECT_EQ(button(1).toolTip(), QStringLiteral("Change icon size!"));
 }
@@ -138,6 +139,52 @@ TEST_F(PaletteWindow, AViewStyleGoesToThePaletteAndTheListAndNotToTheManager) {
   }
 }
 
+TEST_F(PaletteWindow, WithAToolOrNothingSelectedOnlyTheMarksAndTheManagerChange) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")});
+  palette->setPreviewSize(3);
+  palette->setPreviewStyle(0);
+  TcUiPaletteSet& window = open();
+  const auto choose = [&](int size, int style) {
+    EXPECT_TRUE(window.dispatchCommand(size));
+    EXPECT_TRUE(window.dispatchCommand(style));
+    EXPECT_EQ(palette->getPreviewSize(), 3);
+    EXPECT_EQ(palette->getPreviewStyle(), 0);
+  };
+  ASSERT_TRUE(tree().selectById(palette->enumTools()->next()->id()));
+  choose(kCommandLargeIcons, kCommandListStyle);
+  EXPECT_EQ(manager().viewSetting(), 4u);
+  EXPECT_EQ(checked(window.sizeMenu()), QStringList(QStringLiteral("Large")));
+  EXPECT_EQ(checked(window.viewMenu()), QStringList(QStringLiteral("List")));
+  tree().clearSelection();
+  choose(kCommandSmallIcons, kCommandDetailsStyle);
+  EXPECT_EQ(manager().viewSetting(), 1u);
+  EXPECT_EQ(checked(window.sizeMenu()), QStringList(QStringLiteral("Small")));
+  EXPECT_EQ(checked(window.viewMenu()), QStringList(QStringLiteral("De&tails")));
+}
+
+TEST_F(PaletteWindow, EmptyAndUnknownPiecesOfWhatWasExpandedAreSkipped) {
+  const OdTcGroupPtr group = addGroup(QStringLiteral("Plans"));
+  addPalette(QStringLiteral("Doors"), {}, group);
+  addPalette(QStringLiteral("Walls"), {QStringLiteral("Wall")});
+  store().values[QStringLiteral("ExpandedItems")] =
+      OdVariant(OdString(u"||{gone}||" + group->id() + u'|'));
+  store().values[QStringLiteral("LastSelected")] = OdVariant(OdString(QStringLiteral("{gone}")));
+  open();
+  EXPECT_TRUE(tree().isExpanded(tree().catalogs().indexOf(group)));
+  const QModelIndex walls = tree().catalogs().index(1, 0, tree().catalogs().indexOf(catalog));
+  ASSERT_EQ(walls.data().toString(), QStringLiteral("Walls"));
+  EXPECT_FALSE(tree().isExpanded(walls));
+  EXPECT_EQ(tree().selectedItem(), nullptr);
+}
+
+TEST_F(PaletteWindow, AFirstStartShowsIconsInColumnsOf200) {
+  store().values[QStringLiteral("ActiveView")] = OdVariant(2);
+  open();
+  EXPECT_EQ(list().viewStyle(), kIconStyle);
+  EXPECT_NEAR(frame().widths()[0], frame().widths()[1], 1);
+  EXPECT_TRUE(checked(ITcUiPaletteSet::instance()->sizeMenu()).isEmpty()) << "no size is stored";
+}
+
 TEST_F(PaletteWindow, OtherCommandsAreNotItsOwn) {
   TcUiPaletteSet& window = open();
   EXPECT_TRUE(window.dispatchCommand(5000));
@@ -171,6 +218,20 @@ TEST_F(PaletteWindow, OpensTheCatalogOfAFolder) {
   EXPECT_TRUE(host().messages.boxes.empty());
 }
 
+TEST_F(PaletteWindow, TheCommandToOpenACatalogShowsThePalettesAndAsksThere) {
+  setPaletteSetMaker(&TcUiPaletteSet::create);
+  const auto run = [] { return KVPtr<ICmdProcess>::attach(makeOpenCommand())->Run(); };
+  EXPECT_EQ(run(), 0);
+  ASSERT_TRUE(ITcUiPaletteSet::instance());
+  EXPECT_TRUE(ITcUiPaletteSet::instance()->isVisible());
+  EXPECT_TRUE(isPaletteSetShown());
+  EXPECT_EQ(windows->folderTitle, QStringLiteral("Select Tool Palette folder"));
+  ITcUiPaletteSet::instance()->close();
+  EXPECT_EQ(run(), 0);
+  EXPECT_TRUE(ITcUiPaletteSet::instance()->isVisible());
+  setPaletteSetMaker(nullptr);
+}
+
 TEST_F(PaletteWindow, AFolderWithTheFileUnderAnotherNameOrCaseIsRefused) {
   QDir(folder.path()).mkpath(QStringLiteral("two/DrfTcCatalog.dtc"));
   QFile file(folder.filePath(QStringLiteral("two/drftccatalog.dtc")));
@@ -201,9 +262,9 @@ TEST_F(PaletteWindow, ACollapsedWindowIsBroughtBack) {
 
 TEST_F(PaletteWindow, TheTabsStandBelowTheStripWith23Less) {
   open();
-  QTabWidget* const tabs = tree().window()->findChild<QTabWidget*>();
+  const QTabWidget* const tabs = controls->tabs;
   QWidget* const content = tabs->parentWidget();
-  EXPECT_EQ(tabs->y(), TcUiToolbar::kHeight);
+  EXPECT_EQ(tabs->y(), controls->toolbar->fixedHeight());
   EXPECT_EQ(tabs->width(), content->width());
   EXPECT_EQ(tabs->height(), content->height() - 23);
 }
@@ -226,7 +287,7 @@ TEST_F(PaletteWindow, ClosingForgetsItForTheNextStartAndTellsEverybody) {
 TEST_F(PaletteWindow, TheMessageToCustomizeIsAnswered) {
   open();
   QWidget* const content = button(0).parentWidget()->parentWidget();
-  QEvent event(static_cast<QEvent::Type>(windows->messages[QStringLiteral("WM_TC_CUSTOMIZE")]));
+  HostMessage event(windows->messages[QStringLiteral("WM_TC_CUSTOMIZE")]);
   EXPECT_TRUE(QCoreApplication::sendEvent(content, &event));
 }
 
@@ -269,7 +330,7 @@ TEST_F(PaletteWindow, StoredColumnWidthsAreTaken) {
   store().values[QStringLiteral("Col0")] = OdVariant(100);
   store().values[QStringLiteral("Col1")] = OdVariant(300);
   open();
-  EXPECT_LT(frame().sizes()[0] * 2, frame().sizes()[1]);
+  EXPECT_LT(frame().widths()[0] * 2, frame().widths()[1]);
   restart();
   EXPECT_TRUE(store().values.contains(QStringLiteral("Col0")));
 }
@@ -291,6 +352,61 @@ TEST_F(PaletteWindow, TheHostMayTakeTheWindowAwayFirst) {
   EXPECT_EQ(window.selectedItem(), nullptr);
   EXPECT_TRUE(window.dispatchCommand(kCommandToggleView));
   window.refresh();
+}
+
+TEST_F(PaletteWindow, OneWindowIsToldOfTheClosingByItself) {
+  registerPaletteMessages();
+  EXPECT_EQ(windows->messages.keys(), QStringList({QStringLiteral("WM_TC_CUSTOMIZE"),
+                                                   QStringLiteral("WM_TC_PALETTE_CLOSED")}));
+  struct Listener : QWidget {
+    int wanted = closedMessage(), heard = 0;
+    bool event(QEvent* event) override {
+      if (event->type() != wanted) return QWidget::event(event);
+      const auto& message = *static_cast<HostMessage*>(event);
+      return ++heard, message.first == 0 && message.second == 0;
+    }
+  } told, other;
+  sendPaletteClosed(told);
+  EXPECT_EQ(told.heard, 1);
+  EXPECT_EQ(other.heard, 0);
+  host().switchOff(IHostWindowServices::kId);
+  sendPaletteClosed(told);
+  EXPECT_EQ(told.heard, 1);
+}
+
+TEST_F(PaletteWindow, ThePageWithTheColumnsMayBePulledOut) {
+  open();
+  EXPECT_TRUE(controls->tabs->detachable);
+}
+
+TEST_F(PaletteWindow, WithoutAnyOfItsControlsThereIsNoWindow) {
+  for (bool TestControls::*missing :
+       {&TestControls::hasToolbars, &TestControls::hasTabs, &TestControls::hasSplitters}) {
+    controls.get()->*missing = false;
+    EXPECT_EQ(TcUiPaletteSet::create(), nullptr);
+    controls.get()->*missing = true;
+  }
+  EXPECT_NE(TcUiPaletteSet::create(), nullptr);
+  host().switchOff(IHostWindowControls::kId);
+  EXPECT_EQ(TcUiPaletteSet::create(), nullptr);
+}
+
+TEST_F(PaletteWindow, ItsPicturesFollowTheTheme) {
+  open();
+  const auto inkOf = [&] { return button(2).icon().pixmap(16, 16).toImage().pixelColor(10, 8); };
+  const auto groupOf = [&] { return frame().pictures().ink(); };
+  QWidget* const content = controls->toolbar->parentWidget();
+  QPalette palette = content->palette();
+  for (const auto role : {QPalette::ButtonText, QPalette::WindowText})
+    palette.setColor(role, Qt::white);
+  content->setPalette(palette);
+  const QColor light = inkOf();
+  EXPECT_EQ(groupOf(), QColor(Qt::white));
+  for (const auto role : {QPalette::ButtonText, QPalette::WindowText})
+    palette.setColor(role, Qt::black);
+  content->setPalette(palette);
+  EXPECT_GT(light.lightness(), inkOf().lightness() + 100);
+  EXPECT_EQ(groupOf(), QColor(Qt::black));
 }
 
 TEST_F(PaletteWindow, WithoutWindowsThereIsNone) {

@@ -3,6 +3,7 @@
 
 #include "host/window_services.h"
 
+#include <QColor>
 #include <QEvent>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -12,9 +13,27 @@ namespace testhost {
 
 /// A pane that is a window of its own.
 class TestPane : public CKVUnknownImpl<IHostPane> {
+  /// Tells the pane's owner of the room for its content.
+  class Frame : public QWidget {
+   public:
+    Frame(QWidget* parent, QWidget* content, IHostPaneEvents* events)
+      : QWidget(parent, Qt::Tool)
+      , m_events(events) {
+      content->installEventFilter(this);
+    }
+    bool eventFilter(QObject* content, QEvent* event) override {
+      if (event->type() == QEvent::Resize)
+        m_events->paneResized(static_cast<QWidget*>(content)->size());
+      return false;
+    }
+
+   private:
+    IHostPaneEvents* m_events;
+  };
+
  public:
   TestPane(QWidget* parent, QWidget* content, IHostPaneEvents* events)
-    : frame(new QWidget(parent, Qt::Tool))
+    : frame(new Frame(parent, content, events))
     , m_events(events) {
     auto* const layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -22,9 +41,11 @@ class TestPane : public CKVUnknownImpl<IHostPane> {
     frame->resize(300, 400);
   }
   ~TestPane() override {
-    m_events->paneDestroyed();
+    if (m_isKept) m_events->paneDestroyed();
     delete frame;
   }
+
+  bool begin() { return m_isKept = m_events->paneCreated(); }
 
   QPointer<QWidget> frame;
   QPoint corner;
@@ -45,6 +66,7 @@ class TestPane : public CKVUnknownImpl<IHostPane> {
 
  private:
   IHostPaneEvents* m_events;
+  bool m_isKept = false;
 };
 
 /// Hands out panes, and answers dialogs as it is told.
@@ -63,6 +85,7 @@ class TestWindows : public CKVUnknownImpl<IHostWindowServices> {
   KVPtr<IHostPane> createPane(const OdString&, const OdString& title, QWidget* content,
                               IHostPaneEvents* events) override {
     const auto made = kvMake<TestPane>(&main, content, events);
+    if (!made->begin()) return nullptr;
     made->setTitle(title);
     pane = made.get();
     return made;
@@ -83,6 +106,7 @@ class TestWindows : public CKVUnknownImpl<IHostWindowServices> {
   }
   bool confirm(const OdString&, const OdString&) override { return false; }
   bool chooseColor(QColor&) override { return false; }
+  std::vector<QColor> recentColors() override { return {}; }
   bool choosePlotStyle(OdString&) override { return false; }
 };
 

@@ -1,0 +1,40 @@
+#include "ui/catalog_folder.h"
+
+#include "catalog/palette_manager.h"
+#include "frame/file_path.h"
+#include "host/host_locator.h"
+#include "module/string_table.h"
+
+#include <QDir>
+
+namespace tc {
+namespace {
+
+const OdString& catalogFile() {
+  static const OdString name = QStringLiteral("DrfTcCatalog.dtc");
+  return name;
+}
+
+/// Only a file of exactly this name counts, whatever the file system makes of case.
+bool holdsCatalog(const OdString& folder) {
+  return QDir(odpath::toPlatform(folder))
+      .entryList(QDir::Files)
+      .contains(catalogFile(), Qt::CaseSensitive);
+}
+
+} // namespace
+
+bool openCatalogFolder(const OdString& folder) {
+  OdTcPaletteManager* const manager = OdTcPaletteManager::instance();
+  if (!manager) return false;
+  if (!holdsCatalog(folder)) {
+    if (const auto messages = host::service<IHostMessages>())
+      messages->messageBox(stringText(StringId::kFolderHasNoCatalog),
+                           host::translate(QStringLiteral("Tool Palettes")));
+    return false;
+  }
+  manager->openCatalog(folder + u'\\' + catalogFile());
+  return true;
+}
+
+} // namespace tc
