@@ -181,7 +181,7 @@ void HostTabs::hideEvent(QHideEvent* event) {
 }
 
 void HostTabs::detach(int index) {
-  if (index < 0) return;
+  if (index < 0 || index >= static_cast<int>(m_places.size())) return;
   m_places[static_cast<std::size_t>(index)]->detach(
       tabText(index).replace(QLatin1String("&&"), QLatin1String("&")));
 }
