@@ -70,6 +70,7 @@ OdDbObjectId insertBlock(OdDbDatabase& target, OdDbDatabase& source, OdDbObjectI
   const OdDbBlockTableRecordPtr block = emptyBlock(target, name);
   block->setOrigin(base);
   block->setBlockInsertUnits(units);
+  block->setComments(contents.openAs<OdDbBlockTableRecord>()->comments());
   OdDbIdMapping mapping;
   oddb::Cloner cloner(source, target, mapping, OdDb::kDrcIgnore, name);
   // A block of this name within the other drawing is not the one that is made here.
@@ -148,6 +149,11 @@ OdDbDatabasePtr OdDbDatabase::wblock(OdDbObjectId blockId) const {
   cloner.addEntitiesOf(blockId, made->getModelSpaceId());
   cloner.run();
   if (!block->isLayout()) made->setSysVar(QStringLiteral("INSBASE"), block->origin());
+  // What was said of the block is said of the drawing's contents, until that is a block again.
+  if (!block->comments().isEmpty())
+    made->getModelSpaceId()
+        .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+        ->setComments(block->comments());
   made->clearUndo();
   return made;
 }
@@ -180,11 +186,7 @@ OdDbObjectId OdDbDatabase::insert(const OdString& sourceBlockName, const OdStrin
   if (id.isNull())
     throw OdDbError(eNullObjectId, QStringLiteral("There is no block \"%1\"").arg(sourceBlockName));
   const auto block = id.openAs<OdDbBlockTableRecord>();
-  const OdDbObjectId made =
-      insertBlock(*this, *source, id, blockName, block->origin(), block->blockInsertUnits());
-  const auto copy = made.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
-  if (!block->comments().isEmpty()) copy->setComments(block->comments());
-  return made;
+  return insertBlock(*this, *source, id, blockName, block->origin(), block->blockInsertUnits());
 }
 
 void OdDbDatabase::insert(const OdGeMatrix3d& transform, OdDbDatabase* source, bool) {

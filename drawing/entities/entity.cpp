@@ -10,6 +10,8 @@ OdDbEntity::OdDbEntity() = default;
 
 namespace {
 const OdDbObjectExtras kNoExtras;
+/// In place of an index: a file has a true colour and no index beside it.
+constexpr int kIndexNotInFile = -2;
 
 OdString nameOf(OdDbObjectId id) {
   const OdDbSymbolTableRecordPtr record = id.openObject(OdDb::kForRead, true);
@@ -163,7 +165,8 @@ bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (!in.in("AcDbEntity")) return false;
   // Mostly an index beside a true colour is the nearest one, and nothing has to be kept.
   const auto storeIndexBeside = [&](int index) {
-    if (index != color().colorIndex()) setExtra(&OdDbObjectExtras::colorIndex, index);
+    const bool isNearest = index == color().colorIndex();
+    setExtra(&OdDbObjectExtras::colorIndex, isNearest ? kNoExtras.colorIndex : index);
   };
   switch (tag.code) {
   case 100:
@@ -186,13 +189,17 @@ bool OdDbEntity::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   }
   case 420: {
     const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
-    const bool hasIndex = m_common.color != OdCmColor().color() && !isTrueColor(m_common.color);
+    const bool isFirst = !isTrueColor(m_common.color);
+    const bool hasIndex = isFirst && m_common.color != OdCmColor().color();
     const int index = color().colorIndex();
     m_common.color =
         OdCmColor::fromRgb(static_cast<std::uint8_t>(rgb >> 16),
                            static_cast<std::uint8_t>(rgb >> 8), static_cast<std::uint8_t>(rgb))
             .color();
-    if (hasIndex) storeIndexBeside(index);
+    if (hasIndex)
+      storeIndexBeside(index);
+    else if (isFirst)
+      setExtra(&OdDbObjectExtras::colorIndex, kIndexNotInFile);
     return true;
   }
   case 430: {
@@ -248,7 +255,10 @@ void OdDbEntity::dxfOut(OdDbDxfOut& out) const {
   if (!c.linetype.isNull() && c.linetype != out.database().getLinetypeByLayerId())
     out.recordName(6, c.linetype, "ByLayer");
   const int index = m_extras ? m_extras->colorIndex : kNoExtras.colorIndex;
-  if (c.color != OdCmColor().color()) out.integer(62, index >= 0 ? index : color().colorIndex());
+  // A true colour may stand alone, but not in files that do not know such colours.
+  const bool needsIndex = index != kIndexNotInFile || out.version() < OdDb::kR2004;
+  if (c.color != OdCmColor().color() && needsIndex)
+    out.integer(62, index >= 0 ? index : color().colorIndex());
   if (linetypeScale() != 1) out.real(48, linetypeScale());
   if (c.invisible) out.integer(60, 1);
   if (c.lineWeight != OdDb::kLnWtByLayer) out.integer(370, c.lineWeight);

@@ -74,7 +74,7 @@ class OdDbMText : public OdDbEntity {
 
   /// The columns of the text as the file tells them; count 0 if there are none.
   const OdMTextColumns& columns() const { return m_mtext.columns; }
-  /// Files of R2018 and later have them.
+  /// Files of R2018 have them with the text, older ones in extended data.
   void setColumns(const OdMTextColumns& columns);
 
   /// Where each run of letters comes to stand, in the text's own plane: x along the lines, the
@@ -93,6 +93,7 @@ class OdDbMText : public OdDbEntity {
   bool dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) override;
   void dxfInEnd(OdDbDxfIn& in) override;
   void dxfOut(OdDbDxfOut& out) const override;
+  void dxfOutXData(OdDbDxfOut& out) const override;
 
   /// Takes and writes the fields without the rest of an entity, as attributes have them.
   bool takeField(const OdDbDxfTag& tag, OdDbDxfIn& in);
@@ -126,6 +127,7 @@ class OdDbMText : public OdDbEntity {
   std::vector<OdGiTextRun> runsOf(const OdMTextLayout& shown) const;
   static int mirrored(int attachment, bool alongLines);
   void putColumns(OdDbDxfOut& out) const;
+  void takeOldColumns();
   bool takeColumnField(const OdDbDxfTag& tag, OdDbDxfIn& in);
   Data m_mtext;
   bool m_embedded = false; ///< while reading

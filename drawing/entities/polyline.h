@@ -72,6 +72,7 @@ class OdDbPolyline : public OdDbCurve {
   struct Data {
     OdDbPolylineVertices vertices;
     int flags = 0;
+    bool tellsFlags = true; ///< the file says so even if none is set
     double constantWidth = 0, elevation = 0;
     OdDbExtrusion extrusion;
   };

@@ -1,6 +1,8 @@
 // Values that files keep outside of the obvious places.
 #include "drawing/database.h"
 #include "drawing/dxf/residue.h"
+#include "drawing/entities/mtext.h"
+#include "drawing/entities/polyline.h"
 
 #include <gtest/gtest.h>
 
@@ -308,4 +310,146 @@ TEST(KeptOddities, FitDataOfNewerFilesAreNotToldToOldOnes) {
   QByteArray lines = kSplineEdge + kSplineEnd;
   lines.replace('|', '\n');
   EXPECT_TRUE(db->writeDxf(OdDb::kR2004).contains(lines));
+}
+
+namespace {
+
+/// The lines of the one entity in model space.
+QByteArray entityIn(const QByteArray& file) {
+  const qsizetype begin = file.indexOf("  2\nENTITIES\n") + 13;
+  return file.mid(begin, file.indexOf("  0\nENDSEC\n", begin) - begin);
+}
+
+template <class T>
+OdSmartPtr<T> only(const OdDbDatabase& db) {
+  const auto space = db.getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  return space->newIterator()->entity(OdDb::kForWrite);
+}
+
+template <class T>
+void append(OdDbDatabase& db, const OdSmartPtr<T>& entity) {
+  db.getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(entity);
+}
+
+} // namespace
+
+TEST_F(KeptValues, TrueColourMayStandAloneAndStaysSo) {
+  const auto line = odrxMake<OdDbPolyline>();
+  line->setColor(OdCmColor::fromRgb(10, 20, 30));
+  append(*m_db, line);
+  const QByteArray both = m_db->writeDxf(OdDb::kR2018);
+  const QByteArray index = " 62\n" + QByteArray::number(line->color().colorIndex()) + "\n";
+  ASSERT_TRUE(entityIn(both).contains(index + "420\n"));
+  const QByteArray alone = QByteArray(both).replace(index + "420\n", "420\n");
+  const auto read = [](const QByteArray& text) {
+    return OdDbDatabase::readDxf(text, QStringLiteral("x.dxf"));
+  };
+  EXPECT_EQ(entityIn(read(alone)->writeDxf()), entityIn(alone));
+  EXPECT_EQ(entityIn(read(both)->writeDxf()), entityIn(both));
+  EXPECT_EQ(only<OdDbEntity>(*read(alone))->color(), line->color());
+  // Old programs know nothing else than the index.
+  EXPECT_TRUE(entityIn(read(alone)->writeDxf(OdDb::kR2000)).contains(index));
+  // It may also stand behind the colour, and be another one.
+  for (const char* other : {"1\n", "250\n"}) {
+    QByteArray behind = alone;
+    behind.insert(behind.indexOf("100\nAcDbPolyline\n"), QByteArray(" 62\n") + other);
+    EXPECT_TRUE(entityIn(read(behind)->writeDxf()).contains(QByteArray(" 62\n") + other));
+  }
+  // A colour that is set is told as ever.
+  const OdDbDatabasePtr changed = read(alone);
+  only<OdDbEntity>(*changed)->setColor(OdCmColor::fromRgb(10, 20, 31));
+  EXPECT_TRUE(entityIn(changed->writeDxf()).contains(" 62\n"));
+}
+
+TEST_F(KeptValues, PolylineThatTellsNoFlagsGetsNone) {
+  append(*m_db, odrxMake<OdDbPolyline>());
+  const QByteArray with = m_db->writeDxf();
+  ASSERT_TRUE(entityIn(with).contains(" 70\n0\n"));
+  QByteArray without = with;
+  without.replace(with.indexOf(" 70\n0\n", with.indexOf("AcDbPolyline")), 6, "");
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(without, QStringLiteral("x.dxf"));
+  EXPECT_EQ(entityIn(read->writeDxf()), entityIn(without));
+  EXPECT_EQ(entityIn(reread(*m_db)->writeDxf()), entityIn(with));
+  only<OdDbPolyline>(*read)->setClosed(true);
+  EXPECT_TRUE(entityIn(read->writeDxf()).contains(" 70\n1\n"));
+}
+
+TEST_F(KeptValues, ColumnsOfTextsSurviveInOlderFiles) {
+  OdMTextColumns fixed, running, own;
+  fixed.kind = OdMTextColumns::kStatic;
+  fixed.count = 3;
+  fixed.width = 20;
+  fixed.gutter = 2.5;
+  fixed.height = 30;
+  running = fixed;
+  running.kind = OdMTextColumns::kDynamic;
+  running.autoHeight = running.reversed = true;
+  own = running;
+  own.autoHeight = false;
+  own.height = 0;
+  own.heights = {10, 12.5, 0};
+  for (const OdMTextColumns& columns : {fixed, running, own}) {
+    m_db = OdDbDatabase::createDatabase();
+    const auto text = odrxMake<OdDbMText>();
+    text->setContents(QStringLiteral("First\\NSecond\\NThird"));
+    text->setColumns(columns);
+    append(*m_db, text);
+    for (const OdDb::DwgVersion version : {OdDb::kR2000, OdDb::kR2013}) {
+      const OdDbDatabasePtr old = reread(*m_db, version);
+      EXPECT_FALSE(entityIn(m_db->writeDxf(version)).contains("Embedded Object"));
+      EXPECT_TRUE(old->writeDxf(version) == m_db->writeDxf(version));
+      const OdDbDatabasePtr back = reread(*old, OdDb::kR2018);
+      const OdMTextColumns& found = only<OdDbMText>(*back)->columns();
+      EXPECT_EQ(found.kind, columns.kind);
+      EXPECT_EQ(found.count, columns.autoHeight ? 0 : 3);
+      EXPECT_EQ(found.width, 20);
+      EXPECT_EQ(found.gutter, 2.5);
+      EXPECT_EQ(found.height, columns.height);
+      EXPECT_EQ(found.autoHeight, columns.autoHeight);
+      EXPECT_EQ(found.reversed, columns.reversed);
+      EXPECT_EQ(found.heights, columns.heights);
+      EXPECT_EQ(only<OdDbMText>(*back)->contents(), text->contents());
+      const QByteArray written = entityIn(back->writeDxf());
+      EXPECT_TRUE(written.contains("Embedded Object"));
+      EXPECT_TRUE(written.contains(" 42\n65.0\n")) << "of all columns together";
+      EXPECT_FALSE(written.contains("ACAD_MTEXT"));
+    }
+  }
+}
+
+TEST_F(KeptValues, ColumnsThatStandInTextsOfTheirOwnStayAsTheyAre) {
+  OdMTextColumns columns;
+  columns.kind = OdMTextColumns::kStatic;
+  columns.count = 2;
+  columns.width = 20;
+  const auto text = odrxMake<OdDbMText>();
+  text->setColumns(columns);
+  append(*m_db, text);
+  const QByteArray file = m_db->writeDxf(OdDb::kR2013);
+  const std::pair<const char*, const char*> changes[] = {
+      {"1000\nACAD_MTEXT_COLUMNS_END\n", "1005\n2A\n1000\nACAD_MTEXT_COLUMNS_END\n"},
+      {"1040\n20.0\n", "1040\n20.00\n"},
+      {"1040\n20.0\n", "1040\ninf\n"},
+      {"1070\n75\n1070\n1\n", "1070\n75\n1070\n7\n"},
+      {"1070\n49\n", "1070\n99\n"},
+      {"1000\nACAD_MTEXT_COLUMN_INFO_BEGIN\n1070\n75\n",
+       "1000\nACAD_MTEXT_COLUMN_INFO_BEGIN\n1070\n50\n1070\n2000000000\n1070\n75\n"},
+      {"1000\nACAD_MTEXT_DEFINED_HEIGHT_END\n", "1000\nACAD_MTEXT_OTHER\n"},
+      {"1000\nACAD_MTEXT_DEFINED_HEIGHT_END\n",
+       "1000\nACAD_MTEXT_DEFINED_HEIGHT_END\n1000\nmore\n"},
+  };
+  for (const auto& [from, to] : changes) {
+    ASSERT_TRUE(file.contains(from)) << from;
+    const QByteArray other = QByteArray(file).replace(from, to);
+    const OdDbDatabasePtr read = OdDbDatabase::readDxf(other, QStringLiteral("x.dxf"));
+    EXPECT_EQ(only<OdDbMText>(*read)->columns().kind, OdMTextColumns::kNone) << to;
+    EXPECT_EQ(entityIn(read->writeDxf()), entityIn(other)) << to;
+  }
+  // Other applications' data stand behind as before.
+  const QByteArray more =
+      QByteArray(file).replace("1000\nACAD_MTEXT_DEFINED_HEIGHT_END\n",
+                               "1000\nACAD_MTEXT_DEFINED_HEIGHT_END\n1001\nOTHER\n1000\nkept\n");
+  const OdDbDatabasePtr read = OdDbDatabase::readDxf(more, QStringLiteral("x.dxf"));
+  EXPECT_EQ(only<OdDbMText>(*read)->columns().count, 2);
+  EXPECT_EQ(entityIn(read->writeDxf()), entityIn(more));
 }

@@ -1,6 +1,8 @@
 // How MTEXT stands in files.
 #include "drawing/entities/mtext.h"
 #include "drawing/dxf/fields.h"
+#include "drawing/dxf/mtext_columns.h"
+#include "drawing/dxf/residue.h"
 #include "drawing/dxf/text.h"
 
 namespace {
@@ -156,6 +158,7 @@ void OdDbMText::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
   oddxf::mendNormal(m_mtext.normal, in);
   m_embedded = false;
+  if (!m_mtext.hasEmbedded && residue()) takeOldColumns();
   // Nobody can lay out more columns than there are letters.
   OdMTextColumns& c = m_mtext.columns;
   c.count = std::clamp<int>(c.count, 0, static_cast<int>(m_mtext.contents.size()) + 1);
@@ -215,6 +218,24 @@ void OdDbMText::putColumns(OdDbDxfOut& out) const {
   out.integer(73, c.autoHeight);
   out.integer(74, c.reversed);
   for (const double height : c.heights) out.real(46, height);
+}
+
+void OdDbMText::takeOldColumns() {
+  const auto old = oddxf::columnsOf(residue()->xdata);
+  if (!old) return;
+  m_mtext.columns = old->columns;
+  m_mtext.totalWidth = old->totalWidth;
+  m_mtext.totalHeight = old->totalHeight;
+  m_mtext.hasEmbedded = true;
+  editResidue().xdata.remove(0, old->size);
+}
+
+void OdDbMText::dxfOutXData(OdDbDxfOut& out) const {
+  if (!m_mtext.hasEmbedded || m_mtext.columns.kind == OdMTextColumns::kNone) return;
+  if (out.version() >= OdDb::kR2018) return;
+  // An application may have one piece of data only.
+  if (residue() && oddxf::hasColumnApplication(residue()->xdata)) return;
+  out.kept(oddxf::columnLines(m_mtext.columns, m_mtext.totalWidth));
 }
 
 void OdDbMText::dxfOut(OdDbDxfOut& out) const {

@@ -5,8 +5,9 @@
 namespace {
 
 using PolylineField = OdDbDxfField<OdDbPolyline::Data>;
+constexpr int kFlags = 70;
 constexpr PolylineField kPolylineFields[] = {
-    {70, &OdDbPolyline::Data::flags},
+    {kFlags, &OdDbPolyline::Data::flags},
     {43, &OdDbPolyline::Data::constantWidth, PolylineField::kUnlessPreset},
     {38, &OdDbPolyline::Data::elevation, PolylineField::kUnlessPreset},
     {39, &OdDbPolyline::Data::extrusion, PolylineField::kUnlessPreset},
@@ -26,6 +27,7 @@ bool OdDbPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   };
   switch (tag.code) {
   case 100:
+    m_polyline.tellsFlags = false;
     return true;
   case 90: {
     // The count is only a hint: what follows tells how many there are.
@@ -53,10 +55,14 @@ bool OdDbPolyline::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   case 91:
     vertices.setIdentifier(last(), in.integer(tag, 0));
     return true;
+  case kFlags:
+    m_polyline.tellsFlags = true;
+    break;
   default:
-    return oddxf::takeTag<Data>(kPolylineFields, m_polyline, tag, in) ||
-           oddxf::takeTag<Data>({&kPolylineNormal, 1}, m_polyline, tag, in);
+    break;
   }
+  return oddxf::takeTag<Data>(kPolylineFields, m_polyline, tag, in) ||
+         oddxf::takeTag<Data>({&kPolylineNormal, 1}, m_polyline, tag, in);
 }
 
 void OdDbPolyline::dxfInEnd(OdDbDxfIn& in) {
@@ -69,7 +75,9 @@ void OdDbPolyline::dxfOut(OdDbDxfOut& out) const {
   OdDbEntity::dxfOut(out);
   out.subclass("AcDbPolyline");
   out.integer(90, numVerts());
-  oddxf::putFields<Data>(kPolylineFields, m_polyline, out);
+  for (const PolylineField& field : kPolylineFields)
+    if (field.code != kFlags || m_polyline.flags != 0 || m_polyline.tellsFlags)
+      oddxf::putField(field, m_polyline, out);
   for (const Vertex v : m_polyline.vertices) {
     out.point2d(10, v.point);
     if (v.startWidth != 0 || v.endWidth != 0) {

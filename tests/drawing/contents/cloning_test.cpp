@@ -189,6 +189,49 @@ TEST(Cloning, NeverLetsABlockContainItself) {
   EXPECT_EQ(auditOf(*db), "");
 }
 
+TEST(Cloning, CopiesBlocksThatContainThemselvesOnce) {
+  const OdDbDatabasePtr db = house();
+  const OdDbObjectId room = blockNamed(*db, "ROOM"), door = blockNamed(*db, "DOOR");
+  // Files may have circles, though nobody can draw them.
+  for (const auto& [inside, block] : {std::pair(door, room), std::pair(room, room)})
+    block.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+        ->appendOdDbEntity(odrxMake<OdDbBlockReference>(inside, OdGePoint3d{1, 2, 0}));
+  door.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(odrxMake<OdDbBlockReference>(room, OdGePoint3d{1, 2, 0}));
+  const OdDbDatabasePtr made = db->wblock(room);
+  EXPECT_EQ(auditOf(*made), "");
+  const OdDbObjectId copy = blockNamed(*made, "ROOM");
+  ASSERT_TRUE(copy.isValid());
+  EXPECT_EQ(entitiesOf(copy).size(), entitiesOf(room).size());
+  EXPECT_EQ(entitiesOf(blockNamed(*made, "DOOR")).size(), entitiesOf(door).size());
+  EXPECT_EQ(entitiesOf(made->getModelSpaceId()).size(), entitiesOf(room).size());
+  EXPECT_EQ(made->getBlockTableId().openAs<OdDbBlockTable>()->recordIds().size(), 4u);
+}
+
+TEST(Cloning, WhatIsSaidOfABlockGoesWithIt) {
+  const OdDbDatabasePtr db = house();
+  const OdDbObjectId room = blockNamed(*db, "ROOM");
+  const OdString words = QStringLiteral("A room with one door");
+  room.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->setComments(words);
+  // As a drawing, in a file, and as a block again.
+  const OdDbDatabasePtr made =
+      OdDbDatabase::readDxf(db->wblock(room)->writeDxf(), QStringLiteral("room.dxf"));
+  const OdDbDatabasePtr target = OdDbDatabase::createDatabase();
+  const OdDbObjectId again = target->insert(QStringLiteral("KITCHEN"), made.get());
+  EXPECT_EQ(again.openAs<OdDbBlockTableRecord>()->comments(), words);
+  const OdDbObjectId taken =
+      target->insert(QStringLiteral("ROOM"), QStringLiteral("PARLOUR"), db.get());
+  EXPECT_EQ(taken.openAs<OdDbBlockTableRecord>()->comments(), words);
+  // With an insert it comes as a block within.
+  std::vector<OdDbObjectId> all;
+  for (const OdDbEntityPtr& e : entitiesOf(db->getModelSpaceId())) all.push_back(e->objectId());
+  EXPECT_EQ(blockNamed(*db->wblock(all, {}), "ROOM").openAs<OdDbBlockTableRecord>()->comments(),
+            words);
+  // What replaces a block has its own words, or none.
+  target->insert(QStringLiteral("KITCHEN"), house().get());
+  EXPECT_EQ(again.openAs<OdDbBlockTableRecord>()->comments(), OdString());
+}
+
 TEST(Cloning, TreatsTakenNamesAsToldTo) {
   const OdDbDatabasePtr source = house();
   std::vector<OdDbObjectId> all;

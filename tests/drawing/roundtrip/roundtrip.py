@@ -177,6 +177,36 @@ def other_versions():
         check(kinds == wanted, target.name, "has", kinds, "instead of", wanted)
 
 
+def columns():
+    """What a text in columns says is the same in every version."""
+    doc = ezdxf.new("R2018")
+    msp = doc.modelspace()
+    texts = ["First ", "Second ", "Third"]
+    msp.add_mtext_static_columns(texts, width=20, gutter_width=2.5, height=30)
+    msp.add_mtext_dynamic_auto_height_columns("".join(texts), width=20, gutter_width=2.5, height=30,
+                                              count=3)
+    msp.add_mtext_dynamic_manual_height_columns("".join(texts), width=20, gutter_width=2.5,
+                                                heights=[10, 12.5, 30])
+    source = folder / "columns.dxf"
+    doc.saveas(source)
+
+    def told(path):
+        return [(t.all_columns_raw_content(), int(c.column_type), c.count, c.auto_height,
+                 c.reversed_column_flow, c.defined_height, c.width, c.gutter_width, c.total_width,
+                 c.total_height, list(c.heights))
+                for t in ezdxf.readfile(path).modelspace() for c in [t.columns]]
+
+    wanted = told(source)
+    check(len(wanted) == 3 and wanted[1][2] == 3, "the texts in columns are", wanted)
+    for version in VERSIONS:
+        target, back = folder / f"columns-{version}.dxf", folder / f"columns-{version}-back.dxf"
+        save(source, target, ezdxf.new(version).dxfversion)
+        save(target, back, ezdxf.new("R2018").dxfversion)
+        for path in (target, back):
+            audit(path.name, path)
+            check(told(path) == wanted, path.name, "tells", told(path), "instead of", wanted)
+
+
 def old():
     doc = ezdxf.new("R12", setup=True)
     msp = doc.modelspace()
@@ -251,7 +281,7 @@ def code_pages():
             check(decode_dxf_unicode(text.dxf.layer) == words, page, version, text.dxf.layer)
 
 
-for test in (same_version, other_versions, old, binary, code_pages):
+for test in (same_version, other_versions, columns, old, binary, code_pages):
     test()
 for problem in problems[:60]:
     print(problem)
