@@ -1,6 +1,6 @@
 #include "module/message_table.h"
 
-#include "host/host_locator.h"
+#include "host/show_message.h"
 #include "module/string_table.h"
 
 #include <array>
@@ -24,8 +24,7 @@ OdString showMessage(int code, bool showBox) {
 }
 
 OdString showWarning(const OdString& text) {
-  if (const KVPtr<IHostMessages> messages = host::service<IHostMessages>())
-    messages->messageBox(text, OdString::fromUtf16(kProduct));
+  host::showMessage(text, OdString::fromUtf16(kProduct), messagebox::kWarning);
   return text;
 }
 

@@ -1,6 +1,7 @@
 #include "persistence/palette_filer.h"
 
 #include "host/host_locator.h"
+#include "host/show_message.h"
 
 namespace tc {
 namespace {
@@ -16,9 +17,8 @@ constexpr CreateInfoName kCreateInfoNames[] = {
 };
 
 void showUnreadable() {
-  if (const KVPtr<IHostMessages> messages = host::service<IHostMessages>())
-    messages->messageBox(host::translate(QStringLiteral("Error while reading tool palette file.")),
-                         host::translate(QStringLiteral("Tool Palettes")));
+  host::showMessage(host::translate(QStringLiteral("Error while reading tool palette file.")),
+                    host::translate(QStringLiteral("Tool Palettes")), messagebox::kWarning);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "catalog/palette_manager.h"
 #include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "host/show_message.h"
 #include "module/string_table.h"
 
 #include <QDir>
@@ -28,9 +29,8 @@ bool openCatalogFolder(const OdString& folder) {
   OdTcPaletteManager* const manager = OdTcPaletteManager::instance();
   if (!manager) return false;
   if (!holdsCatalog(folder)) {
-    if (const auto messages = host::service<IHostMessages>())
-      messages->messageBox(stringText(StringId::kFolderHasNoCatalog),
-                           host::translate(QStringLiteral("Tool Palettes")));
+    host::showMessage(stringText(StringId::kFolderHasNoCatalog),
+                      host::translate(QStringLiteral("Tool Palettes")), messagebox::kWarning);
     return false;
   }
   manager->openCatalog(folder + u'\\' + catalogFile());

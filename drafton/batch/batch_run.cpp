@@ -1,6 +1,7 @@
 #include "drafton/batch/batch_run.h"
 
 #include "drafton/batch/batch_console.h"
+#include "drafton/batch/batch_message_boxes.h"
 #include "drafton/batch/script_source.h"
 #include "drafton/program/program_setup.h"
 #include "frame/file_path.h"
@@ -154,6 +155,7 @@ int BatchRun::run() {
   if (m_options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *m_options.catalogs);
   offerPictures(engine);
+  engine.services().offer(IHostMessageBoxes::kId, kvMake<BatchMessageBoxes>(m_console).get());
   if (!openDrawing(engine)) return kExitDrawing;
   loadToolPalettes(engine);
   engine.runStartupCommands();

@@ -1,5 +1,6 @@
 #include "drafton/desktop/window_services.h"
 
+#include "drafton/desktop/message_boxes.h"
 #include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/exchange.h"
 #include "drafton/desktop/help_window.h"
@@ -142,6 +143,7 @@ void offerWindowServices(HostServices& services, MainWindow& window) {
   services.offer(IHostWindowServices::kId, kvMake<WindowServices>(window).get());
   services.offer(IHostWindowControls::kId, kvMake<WindowControls>().get());
   services.offer(IHostInspectorService::kId, kvMake<InspectorService>().get());
+  services.offer(IHostMessageBoxes::kId, kvMake<MessageBoxes>(&window).get());
   services.offer(IHelpService::kId, kvMake<HelpService>(window).get());
   const auto formats = std::make_shared<ExchangeFormats>();
   services.offer(IHostClipboard::kId, kvMake<SystemClipboard>(formats).get());
