@@ -166,6 +166,54 @@ TEST_F(HostServicesTest, TheListForOtherProgramsHasTheRowsOfTheMenu) {
   EXPECT_EQ(listed, shown);
 }
 
+/// The temporary files stand in a folder of their own.
+class CopiedDrawingsTest : public HostServicesTest {
+ protected:
+  CopiedDrawingsTest() { qputenv("TMPDIR", QFile::encodeName(m_folder.path())); }
+  ~CopiedDrawingsTest() override {
+    stop();
+    m_former.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_former);
+  }
+  void copy() { type(QStringLiteral("LINE 0,0 1,1 \nCOPYCLIP ALL \n")); }
+  QStringList drawings() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+
+ private:
+  QTemporaryDir m_folder;
+  QByteArray m_former = qgetenv("TMPDIR");
+};
+
+TEST_F(CopiedDrawingsTest, GoWithWhatReplacesThemAndWithTheProgram) {
+  copy();
+  const QStringList first = drawings();
+  ASSERT_EQ(first.size(), 1);
+  copy();
+  ASSERT_EQ(drawings().size(), 1);
+  EXPECT_NE(drawings(), first);
+  stop();
+  EXPECT_EQ(drawings(), QStringList());
+}
+
+TEST_F(CopiedDrawingsTest, StayIfSomebodyHasAskedForThem) {
+  const auto clipboard = kvQuery<IHostClipboard>(&engine().services());
+  const int format = clipboard->registerFormat(kHostClipboardFormat.toString());
+  copy();
+  EXPECT_FALSE(clipboard->data(format).isEmpty());
+  clipboard->setData(format, "x");
+  EXPECT_EQ(drawings().size(), 1);
+}
+
+TEST_F(CopiedDrawingsTest, AreTheOnlyFilesThatGo) {
+  const auto clipboard = kvQuery<IHostClipboard>(&engine().services());
+  const int format = clipboard->registerFormat(kHostClipboardFormat.toString());
+  const QString other = QDir::temp().filePath(QStringLiteral("plan.dxf"));
+  QFile file(other);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  clipboard->setData(format, *hostclipboard::toBytes({odpath::fromPlatform(other), {}, {}}));
+  clipboard->setData(format, "x");
+  EXPECT_TRUE(QFile::exists(other));
+}
+
 TEST_F(HostServicesTest, CopiedObjectsStandOnTheClipboardWithADrawingOfTheirOwn) {
   const auto clipboard = kvQuery<IHostClipboard>(&engine().services());
   ASSERT_TRUE(clipboard);

@@ -26,8 +26,7 @@ bool hasConverter(CommandContext& context) {
   return false;
 }
 
-/// A fresh name among the temporary files, for a drawing that stays when this program ends: what
-/// was made of it elsewhere may still need it.
+/// A fresh name among the temporary files. The clipboard removes the drawing if nobody takes it.
 OdString temporaryDrawing(CommandContext& context) {
   QTemporaryFile place(QDir(QDir::tempPath()).filePath(QStringLiteral("drfXXXXXX.tmp")));
   if (!place.open())
