@@ -1,11 +1,11 @@
 #include "drafton/desktop/window_services.h"
 
-#include "drafton/desktop/message_boxes.h"
 #include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/exchange.h"
 #include "drafton/desktop/help_window.h"
 #include "drafton/desktop/inspector_control.h"
 #include "drafton/desktop/main_window.h"
+#include "drafton/desktop/message_boxes.h"
 #include "drafton/desktop/window_controls.h"
 #include "frame/file_path.h"
 

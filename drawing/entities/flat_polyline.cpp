@@ -211,25 +211,29 @@ std::vector<OdDbFlatPolyline::Corner> OdDbFlatPolyline::between(double first, do
   return cut;
 }
 
-std::vector<OdGePoint2d> OdDbFlatPolyline::chordsOf(const OdGeCurveSegments& segments,
-                                                    const OdGeMatrix3d& worldToPlane) {
+std::vector<OdDbFlatPolyline::ChordCorner>
+OdDbFlatPolyline::chordsOf(const OdGeCurveSegments& segments, const OdGeMatrix3d& worldToPlane) {
   // Fine enough that nobody sees the chords at the size of the piece.
   constexpr double kDeviation = 1e-3;
+  std::vector<ChordCorner> corners;
+  const auto add = [&](const OdGePoint3d& point, std::size_t piece, double part) {
+    const OdGePoint3d q = worldToPlane * point;
+    corners.push_back({{q.x, q.y}, piece, part});
+  };
   std::vector<OdGePoint3d> points;
-  for (const OdGeCurveSegment& s : segments) {
-    if (!points.empty()) points.pop_back();
+  for (std::size_t piece = 0; piece < segments.size(); ++piece) {
+    const OdGeCurveSegment& s = segments[piece];
+    points.clear();
     if (s.isLine()) {
-      points.push_back(s.start);
-      points.push_back(s.end);
+      points = {s.start, s.end};
     } else {
       const double size = std::max(s.u.length(), s.v.length());
       odgi::appendChords({s.center, s.u, s.v, s.from, s.sweep}, kDeviation * size, points);
     }
+    const double chords = static_cast<double>(points.size() - 1);
+    for (std::size_t i = 0; i + 1 < points.size(); ++i)
+      add(points[i], piece, static_cast<double>(i) / chords);
   }
-  std::vector<OdGePoint2d> flat;
-  for (const OdGePoint3d& p : points) {
-    const OdGePoint3d q = worldToPlane * p;
-    flat.push_back({q.x, q.y});
-  }
-  return flat;
+  if (!points.empty()) add(points.back(), segments.size(), 0);
+  return corners;
 }

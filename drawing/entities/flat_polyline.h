@@ -27,8 +27,14 @@ struct OdDbFlatPolyline {
   OdGeExtents3d extents() const;
   /// The corners between two parameters.
   std::vector<Corner> between(double first, double second) const;
+  /// A corner of chords, and where on the pieces it stands.
+  struct ChordCorner {
+    OdGePoint2d point;
+    std::size_t piece;
+    double part; ///< of the piece, from 0 to below 1
+  };
   /// The same shape moved where arcs cannot stay arcs: chords take their place. Corners are then in
-  /// the coordinates of `plane`.
-  static std::vector<OdGePoint2d> chordsOf(const OdGeCurveSegments& segments,
+  /// the coordinates of `plane`; the last one ends the last piece and has the number behind it.
+  static std::vector<ChordCorner> chordsOf(const OdGeCurveSegments& segments,
                                            const OdGeMatrix3d& worldToPlane);
 };

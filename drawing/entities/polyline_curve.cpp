@@ -160,18 +160,24 @@ OdDbEntityPtr OdDbPolyline::getTransformedCopy(const OdGeMatrix3d& transform) co
   for (const OdGeCurveSegment& s : segments()) moved.push_back(s.transformed(transform));
   if (moved.empty()) return {};
   const OdDbPolylinePtr copy = clone();
-  std::vector<OdGePoint2d> corners = OdDbFlatPolyline::chordsOf(moved, toPlane);
+  auto corners = OdDbFlatPolyline::chordsOf(moved, toPlane);
   if (isClosed()) corners.pop_back();
-  // Widths grow by what areas grow by.
+  // Widths grow by what areas grow by, and along the chords of an arc as they did along the arc.
   const double factor = std::sqrt(n.length());
-  const bool plain = corners.size() == numVerts();
+  const auto widthAt = [&](std::size_t piece, double part) {
+    const Vertex& v = m_polyline.vertices[piece];
+    return factor * (v.startWidth + (v.endWidth - v.startWidth) * part);
+  };
   OdDbPolylineVertices vertices;
   for (std::size_t i = 0; i < corners.size(); ++i) {
-    if (!odcheck::isFinite(corners[i])) return {};
-    Vertex v = plain ? m_polyline.vertices[i] : Vertex();
-    v.point = corners[i];
-    v.startWidth *= factor;
-    v.endWidth *= factor;
+    const auto& [point, piece, part] = corners[i];
+    if (!odcheck::isFinite(point)) return {};
+    Vertex v = part == 0 ? m_polyline.vertices[piece] : Vertex();
+    v.point = point;
+    v.bulge = 0;
+    const bool endsPiece = i + 1 == corners.size() || corners[i + 1].piece != piece;
+    v.startWidth = widthAt(piece, part);
+    v.endWidth = widthAt(piece, endsPiece ? 1 : corners[i + 1].part);
     vertices.push_back(v);
   }
   copy->m_polyline.vertices = std::move(vertices);
