@@ -53,7 +53,7 @@ function(drafton_test name)
     SOURCE_DIR="${CMAKE_SOURCE_DIR}"
     BINARY_DIR="${CMAKE_BINARY_DIR}/bin")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
-  drafton_use_precompiled(${name})
+  drafton_compile_as_test(${name})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ARG_ENV}" LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT})
