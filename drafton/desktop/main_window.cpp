@@ -12,6 +12,8 @@
 #include "drafton/desktop/window_services.h"
 #include "drafton/render/picture_file.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -75,6 +77,7 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   });
   connect(&desktop, &Desktop::settled, this, &MainWindow::follow);
   connect(&desktop, &Desktop::variableChanged, this, &MainWindow::follow);
+  connect(qApp, &QApplication::focusChanged, this, &MainWindow::watchLists);
   m_actions->showIcons(isDark(palette()));
   offerWindowServices(desktop.engine().services(), *this);
   resize(1280, 820);
@@ -283,6 +286,30 @@ void MainWindow::showMenuAt(const QPoint& place) {
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
   if (!m_commandLine->takeKey(event)) QMainWindow::keyPressEvent(event);
+}
+
+/// Lists and trees would search for what is typed; commands are typed more often. Those whose entry
+/// can be edited keep their keys, and so do all of them with Enter, blank and the arrows.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    auto* const key = static_cast<QKeyEvent*>(event);
+    const auto* const list = qobject_cast<QAbstractItemView*>(watched);
+    const bool edits = list && (list->currentIndex().flags() & Qt::ItemIsEditable) &&
+                       list->editTriggers() != QAbstractItemView::NoEditTriggers;
+    const OdString text = key->text();
+    if (list && !edits && !text.isEmpty() && text[0].isPrint() && !text[0].isSpace())
+      return m_commandLine->takeKey(key);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::watchLists(QWidget* former, QWidget* now) {
+  if (former) former->removeEventFilter(this);
+  if (!qobject_cast<QAbstractItemView*>(now)) return;
+  const QWidget* const window = now->window();
+  const bool isPane = window == this ||
+                      (qobject_cast<const QDockWidget*>(window) && window->parentWidget() == this);
+  if (isPane) now->installEventFilter(this);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

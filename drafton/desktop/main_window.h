@@ -40,6 +40,7 @@ class MainWindow : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -51,6 +52,7 @@ class MainWindow : public QMainWindow {
                        Qt::DockWidgetArea area);
   void addPanes();
   void connectPanes();
+  void watchLists(QWidget* former, QWidget* now);
   void followChoice();
   void print();
   void follow();

@@ -19,7 +19,7 @@ constexpr OptionRow kOptions[] = {
      u"System|English|Deutsch"},
     {u"Size of the &crosshair (percent)", "CURSORSIZE", true, OptionKind::kNumber, 1, 100, 5, u""},
     {u"&Pick box (pixels)", "PICKBOX", true, OptionKind::kNumber, 0, 50, 5, u""},
-    {u"&Reach of object snaps (pixels)", "APERTURE", true, OptionKind::kNumber, 1, 50, 10, u""},
+    {u"Reach of object &snaps (pixels)", "APERTURE", true, OptionKind::kNumber, 1, 50, 10, u""},
     {u"Step of polar &angles (degrees)", "POLARANG", true, OptionKind::kNumber, 1, 180, 45, u""},
     {u"&Keep the former file as .bak", "ISAVEBAK", true, OptionKind::kSwitch, 0, 1, 1, u""},
     {u"Copies for &recovery every (minutes, 0 for none)", "AutosaveMinutes", false,

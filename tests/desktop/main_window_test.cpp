@@ -1,4 +1,5 @@
 #include "desktop/desktop_fixture.h"
+#include "drafton/desktop/inspector.h"
 #include "drafton/engine/drawing_files.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
@@ -6,10 +7,13 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <QUrl>
 
 using namespace drafton;
 
@@ -55,6 +59,23 @@ TEST_F(MainWindowTest, KeysThatNobodyElseTakesLandOnTheCommandLine) {
   EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("LINE")});
   QTest::keyClick(&canvas(), Qt::Key_Escape);
   EXPECT_FALSE(desktop().isBusy());
+}
+
+TEST_F(MainWindowTest, WhatIsTypedOnAListLandsOnTheCommandLineUnlessItsEntryIsEdited) {
+  QTreeWidget& rows = window().inspector();
+  rows.setFocus();
+  QApplication::processEvents();
+  ASSERT_TRUE(rows.hasFocus());
+  QTest::keyClicks(&rows, QStringLiteral("l"));
+  EXPECT_EQ(window().commandLine().edit().text(), QStringLiteral("l"));
+  EXPECT_TRUE(window().commandLine().edit().hasFocus());
+  press(Qt::Key_Escape);
+
+  rows.topLevelItem(0)->setFlags(rows.topLevelItem(0)->flags() | Qt::ItemIsEditable);
+  rows.setCurrentItem(rows.topLevelItem(0));
+  rows.setFocus();
+  QTest::keyClicks(&rows, QStringLiteral("l"));
+  EXPECT_EQ(window().commandLine().edit().text(), QString());
 }
 
 TEST_F(MainWindowTest, EnterAndSpaceOnTheEmptyLineRepeatTheLastCommand) {
@@ -285,6 +306,25 @@ TEST_F(MainWindowTest, AThousandClicksAndKeysInARowDoNoHarm) {
   EXPECT_EQ(entities().size(), 999u);
   type("U ");
   EXPECT_EQ(entities().size(), 0u);
+}
+
+TEST_F(MainWindowTest, FilesThatAreDroppedAreOpenedAndOthersNamed) {
+  const QString good = QStringLiteral(SOURCE_DIR "/samples/drawings/mechanical-sheet.dxf");
+  QFile garbage(path("garbage.dxf"));
+  ASSERT_TRUE(garbage.open(QIODevice::WriteOnly));
+  garbage.write("no drawing\0 at all", 18);
+  garbage.close();
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(garbage.fileName()), QUrl::fromLocalFile(path("missing.dxf")),
+                 QUrl(QStringLiteral("https://somewhere/plan.dxf")), QUrl::fromLocalFile(good)});
+  type("LINE 0,0 ");
+  QDropEvent drop(QPointF(200, 200), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window(), &drop);
+  ASSERT_EQ(dialogs.said.size(), 2);
+  EXPECT_TRUE(dialogs.said[0].contains(QStringLiteral("garbage.dxf cannot be opened: ")));
+  EXPECT_TRUE(dialogs.said[1].contains(QStringLiteral("missing.dxf cannot be opened: ")));
+  EXPECT_EQ(document().name(), QStringLiteral("mechanical-sheet.dxf"));
+  EXPECT_EQ(window().documents().documentTabs().count(), 2) << "and what was open stays";
 }
 
 // --- closing

@@ -73,6 +73,9 @@ bool TcUiFrameWnd::bothPanesVisible() const {
 void TcUiFrameWnd::applyActiveView(int value) {
   if (value == 0) m_splitter->setWidths({0, width()});
   if (value == 1) m_splitter->setWidths({width(), 0});
+  // What has no width takes no keys.
+  m_tree->setFocusPolicy(value == 0 ? Qt::NoFocus : Qt::StrongFocus);
+  m_list->takeKeys(value != 1);
 }
 
 } // namespace tc

@@ -42,6 +42,7 @@ TcUiListView::TcUiListView(ITcUiPaletteSet& window, TcUiItemPictures& pictures)
   , m_stack(new QStackedLayout(this))
   , m_icons(new QListView)
   , m_details(new QTreeView) {
+  setAccessibleName(host::translate(QStringLiteral("Tools")));
   m_stack->setContentsMargins(0, 0, 0, 0);
   setUp(*m_icons);
   setUp(*m_details);
@@ -71,6 +72,12 @@ void TcUiListView::setUp(QAbstractItemView& view) {
   view.viewport()->installEventFilter(this);
   connect(&view, &QAbstractItemView::doubleClicked, this, [this](auto& index) { open(index); });
   m_stack->addWidget(&view);
+}
+
+void TcUiListView::takeKeys(bool takes) {
+  for (QAbstractItemView* const view :
+       {static_cast<QAbstractItemView*>(m_icons), static_cast<QAbstractItemView*>(m_details)})
+    view->setFocusPolicy(takes ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 QAbstractItemView& TcUiListView::shownView() const {

@@ -63,6 +63,8 @@ class TcUiListView : public QWidget, public ITcUiListView {
   int sort(std::int32_t mode) override;
   void clear() override { m_model.clear(); }
 
+  /// Whether Tab and clicks bring the keys here.
+  void takeKeys(bool takes);
   TcUiItemListModel& rows() { return m_model; }
   std::int32_t viewStyle() const { return m_style; }
   /// The widget that shows the rows now.

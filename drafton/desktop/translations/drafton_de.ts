@@ -132,7 +132,7 @@
         <translation>An Stellen von Objekten einrasten</translation>
     </message>
     <message>
-        <source>&amp;Line Weights</source>
+        <source>Line Weigh&amp;ts</source>
         <translation>&amp;Linienstärken</translation>
     </message>
     <message>
@@ -676,7 +676,7 @@
         <translation>&amp;Pickbox (Pixel)</translation>
     </message>
     <message>
-        <source>&amp;Reach of object snaps (pixels)</source>
+        <source>Reach of object &amp;snaps (pixels)</source>
         <translation>&amp;Reichweite des Objektfangs (Pixel)</translation>
     </message>
     <message>
@@ -1242,6 +1242,2230 @@
     <message>
         <source>Folder of the catalog: </source>
         <translation>Ordner des Katalogs: </translation>
+    </message>
+    <message>
+        <source>Block "%1" already exists. Redefine it?</source>
+        <translation>Der Block "%1" besteht bereits. Neu festlegen?</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a block: %2.</source>
+        <translation>"%1" ist kein Name für einen Block: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" is an external reference.</source>
+        <translation>"%1" ist eine externe Referenz.</translation>
+    </message>
+    <message>
+        <source>Block "%1" would contain itself.</source>
+        <translation>Der Block "%1" würde sich selbst enthalten.</translation>
+    </message>
+    <message>
+        <source>Enter block name</source>
+        <translation>Name des Blocks</translation>
+    </message>
+    <message>
+        <source>Specify insertion base point</source>
+        <translation>Basispunkt der Einfügung</translation>
+    </message>
+    <message>
+        <source>Enter attribute values</source>
+        <translation>Werte der Attribute eingeben</translation>
+    </message>
+    <message>
+        <source>Verify attribute values</source>
+        <translation>Werte der Attribute prüfen</translation>
+    </message>
+    <message>
+        <source>Block "%1" cannot be exploded.</source>
+        <translation>Der Block "%1" kann nicht zerlegt werden.</translation>
+    </message>
+    <message>
+        <source>A block cannot be inserted into itself.</source>
+        <translation>Ein Block kann nicht in sich selbst eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>A drawing cannot be inserted into itself.</source>
+        <translation>Eine Zeichnung kann nicht in sich selbst eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Defined blocks:</source>
+        <translation>Vorhandene Blöcke:</translation>
+    </message>
+    <message>
+        <source>%1 block(s).</source>
+        <translation>%1 Block/Blöcke.</translation>
+    </message>
+    <message>
+        <source>There is neither a block nor a file "%1".</source>
+        <translation>Es gibt weder einen Block noch eine Datei "%1".</translation>
+    </message>
+    <message>
+        <source>There is no place for what is copied: %1</source>
+        <translation>Für das Kopierte ist kein Platz: %1</translation>
+    </message>
+    <message>
+        <source>There is no clipboard.</source>
+        <translation>Es gibt keine Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>%1 is too long a name to be copied.</source>
+        <translation>%1 ist als Name zum Kopieren zu lang.</translation>
+    </message>
+    <message>
+        <source>%1 copied</source>
+        <translation>%1 kopiert</translation>
+    </message>
+    <message>
+        <source>Units: %1   Conversion: %2</source>
+        <translation>Einheiten: %1   Umrechnung: %2</translation>
+    </message>
+    <message>
+        <source>A block cannot be inserted at the scale %1.</source>
+        <translation>Ein Block kann nicht im Maßstab %1 eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Enter block(s) to list</source>
+        <translation>Aufzulistende Blöcke</translation>
+    </message>
+    <message>
+        <source>There is no layout "%1".</source>
+        <translation>Es gibt kein Layout "%1".</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a layout: %2.</source>
+        <translation>"%1" ist kein Name für ein Layout: %2.</translation>
+    </message>
+    <message>
+        <source>There is a layout "%1" already.</source>
+        <translation>Es gibt bereits ein Layout "%1".</translation>
+    </message>
+    <message>
+        <source>Layout%1</source>
+        <translation>Layout%1</translation>
+    </message>
+    <message>
+        <source>Layouts:</source>
+        <translation>Layouts:</translation>
+    </message>
+    <message>
+        <source>  %1 x %2 mm</source>
+        <translation>  %1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>The model cannot be copied to a layout.</source>
+        <translation>Das Modell kann nicht in ein Layout kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The model cannot be deleted.</source>
+        <translation>Das Modell kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Layout "%1" deleted.</source>
+        <translation>Layout "%1" gelöscht.</translation>
+    </message>
+    <message>
+        <source>The model cannot be renamed.</source>
+        <translation>Das Modell kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>Enter layout option</source>
+        <translation>Option für Layouts</translation>
+    </message>
+    <message>
+        <source>There is no paper size "%1".</source>
+        <translation>Es gibt kein Papierformat "%1".</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the sheet.</source>
+        <translation>Die Ränder lassen vom Blatt nichts übrig.</translation>
+    </message>
+    <message>
+        <source>Sheet of "%1": %2 mm, margins %3, %4, %5, %6</source>
+        <translation>Blatt von "%1": %2 mm, Ränder %3, %4, %5, %6</translation>
+    </message>
+    <message>
+        <source>Enter paper size (A0 to A4, or width x height in millimetres as 420x297)</source>
+        <translation>Papierformat (A0 bis A4, oder Breite x Höhe in Millimetern wie 420x297)</translation>
+    </message>
+    <message>
+        <source>Enter orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Enter plotted millimetres</source>
+        <translation>Geplottete Millimeter</translation>
+    </message>
+    <message>
+        <source>Enter drawing units for them</source>
+        <translation>Zeichnungseinheiten dafür</translation>
+    </message>
+    <message>
+        <source>Enter plot style table, . for none</source>
+        <translation>Plotstiltabelle, . für keine</translation>
+    </message>
+    <message>
+        <source>Enter an option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Specify rotation angle</source>
+        <translation>Drehwinkel</translation>
+    </message>
+    <message>
+        <source>Enter X scale factor</source>
+        <translation>Skalierfaktor in X</translation>
+    </message>
+    <message>
+        <source>Specify insertion point</source>
+        <translation>Einfügepunkt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read as a picture: %2</source>
+        <translation>%1 kann nicht als Bild gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>A picture cannot be inserted at the scale %1.</source>
+        <translation>Ein Bild kann nicht im Maßstab %1 eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Enter image file name</source>
+        <translation>Name der Bilddatei</translation>
+    </message>
+    <message>
+        <source>Specify scale factor</source>
+        <translation>Skalierfaktor</translation>
+    </message>
+    <message>
+        <source>A drawing cannot be attached to itself.</source>
+        <translation>Eine Zeichnung kann nicht an sich selbst angehängt werden.</translation>
+    </message>
+    <message>
+        <source>"%1" is already attached.</source>
+        <translation>"%1" ist bereits angehängt.</translation>
+    </message>
+    <message>
+        <source>%1 was not attached.</source>
+        <translation>%1 wurde nicht angehängt.</translation>
+    </message>
+    <message>
+        <source>A reference cannot be attached at the scale %1.</source>
+        <translation>Eine Referenz kann nicht im Maßstab %1 angehängt werden.</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>überlagert</translation>
+    </message>
+    <message>
+        <source>attached</source>
+        <translation>angehängt</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>gefunden</translation>
+    </message>
+    <message>
+        <source>%1 external reference(s).</source>
+        <translation>%1 externe Referenz(en).</translation>
+    </message>
+    <message>
+        <source>No external reference fits "%1".</source>
+        <translation>Keine externe Referenz passt zu "%1".</translation>
+    </message>
+    <message>
+        <source>"%1": %2</source>
+        <translation>"%1": %2</translation>
+    </message>
+    <message>
+        <source>The file of "%1" was not found: %2</source>
+        <translation>Die Datei von "%1" wurde nicht gefunden: %2</translation>
+    </message>
+    <message>
+        <source>"%1" bound.</source>
+        <translation>"%1" gebunden.</translation>
+    </message>
+    <message>
+        <source>"%1" detached.</source>
+        <translation>"%1" abgehängt.</translation>
+    </message>
+    <message>
+        <source>"%1" unloaded.</source>
+        <translation>"%1" entladen.</translation>
+    </message>
+    <message>
+        <source>Enter name of file to attach</source>
+        <translation>Name der anzuhängenden Datei</translation>
+    </message>
+    <message>
+        <source>Enter reference type</source>
+        <translation>Art der Referenz</translation>
+    </message>
+    <message>
+        <source>Enter new path</source>
+        <translation>Neuer Pfad</translation>
+    </message>
+    <message>
+        <source>Views of the model stand on layouts. Choose a layout first.</source>
+        <translation>Ansichten des Modells stehen auf Layouts. Wählen Sie zuerst ein Layout.</translation>
+    </message>
+    <message>
+        <source>A view needs a width and a height.</source>
+        <translation>Eine Ansicht braucht Breite und Höhe.</translation>
+    </message>
+    <message>
+        <source>No view was chosen.</source>
+        <translation>Es wurde keine Ansicht gewählt.</translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to freeze in views</source>
+        <translation>In Ansichten zu frierende Layer</translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to thaw in views</source>
+        <translation>In Ansichten zu tauende Layer</translation>
+    </message>
+    <message>
+        <source>No layers are frozen in view %1.</source>
+        <translation>In der Ansicht %1 sind keine Layer gefroren.</translation>
+    </message>
+    <message>
+        <source>Layers frozen in view %1: %2</source>
+        <translation>In der Ansicht %1 gefrorene Layer: %2</translation>
+    </message>
+    <message>
+        <source>Specify first corner in the model</source>
+        <translation>Erste Ecke im Modell</translation>
+    </message>
+    <message>
+        <source>Specify opposite corner in the model</source>
+        <translation>Gegenüberliegende Ecke im Modell</translation>
+    </message>
+    <message>
+        <source>Enter sheet units for one unit of the model</source>
+        <translation>Blatteinheiten für eine Einheit des Modells</translation>
+    </message>
+    <message>
+        <source>Lock views?</source>
+        <translation>Ansichten sperren?</translation>
+    </message>
+    <message>
+        <source>Specify corner of view</source>
+        <translation>Ecke der Ansicht</translation>
+    </message>
+    <message>
+        <source>Specify opposite corner</source>
+        <translation>Gegenüberliegende Ecke</translation>
+    </message>
+    <message>
+        <source>%1 is the drawing's own file.</source>
+        <translation>%1 ist die Datei der Zeichnung selbst.</translation>
+    </message>
+    <message>
+        <source>%1 already exists. Replace it?</source>
+        <translation>%1 besteht bereits. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is no block "%1".</source>
+        <translation>Es gibt keinen Block "%1".</translation>
+    </message>
+    <message>
+        <source>%1 written.</source>
+        <translation>%1 geschrieben.</translation>
+    </message>
+    <message>
+        <source>Enter name of output file</source>
+        <translation>Name der Ausgabedatei</translation>
+    </message>
+    <message>
+        <source>Enter name of existing block, = (block of the file's name), * (whole drawing), or nothing to choose objects</source>
+        <translation>Name eines vorhandenen Blocks, = (Block mit dem Namen der Datei), * (ganze Zeichnung), oder nichts, um Objekte zu wählen</translation>
+    </message>
+    <message>
+        <source>The drawing is being closed.</source>
+        <translation>Die Zeichnung wird gerade geschlossen.</translation>
+    </message>
+    <message>
+        <source>The text is longer than %1 characters and is not taken.</source>
+        <translation>Der Text ist länger als %1 Zeichen und wird nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>Command: </source>
+        <translation>Befehl: </translation>
+    </message>
+    <message>
+        <source>Unknown command "%1".</source>
+        <translation>Unbekannter Befehl "%1".</translation>
+    </message>
+    <message>
+        <source>Commands run too deep inside each other.</source>
+        <translation>Befehle sind zu tief ineinander verschachtelt.</translation>
+    </message>
+    <message>
+        <source>%1 failed (%2).</source>
+        <translation>%1 ist fehlgeschlagen (%2).</translation>
+    </message>
+    <message>
+        <source>*Cancel*</source>
+        <translation>*Abbruch*</translation>
+    </message>
+    <message>
+        <source>There is no command that draws objects of this kind.</source>
+        <translation>Es gibt keinen Befehl, der solche Objekte zeichnet.</translation>
+    </message>
+    <message>
+        <source>%1 did not end.</source>
+        <translation>%1 ist nicht zu Ende gekommen.</translation>
+    </message>
+    <message>
+        <source>There is no line or arc to continue.</source>
+        <translation>Es gibt keine Linie und keinen Bogen zum Fortsetzen.</translation>
+    </message>
+    <message>
+        <source>Specify end point of arc</source>
+        <translation>Endpunkt des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify center point of arc</source>
+        <translation>Mittelpunkt des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify tangent direction for the start point of arc</source>
+        <translation>Tangentenrichtung im Startpunkt des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify radius of arc</source>
+        <translation>Radius des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify second point of arc</source>
+        <translation>Zweiter Punkt des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify start point of arc</source>
+        <translation>Startpunkt des Bogens</translation>
+    </message>
+    <message>
+        <source>The angle must not be zero and must be below a full turn.</source>
+        <translation>Der Winkel darf nicht null und muss kleiner als eine volle Drehung sein.</translation>
+    </message>
+    <message>
+        <source>There is no such arc.</source>
+        <translation>Einen solchen Bogen gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Specify included angle</source>
+        <translation>Eingeschlossener Winkel</translation>
+    </message>
+    <message>
+        <source>Specify length of chord</source>
+        <translation>Länge der Sehne</translation>
+    </message>
+    <message>
+        <source>Current attribute modes:  %1</source>
+        <translation>Aktuelle Attributmodi:  %1</translation>
+    </message>
+    <message>
+        <source>A tag cannot have blanks.</source>
+        <translation>Ein Bezeichner darf keine Leerzeichen haben.</translation>
+    </message>
+    <message>
+        <source>A tag is needed.</source>
+        <translation>Ein Bezeichner wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Enter a mode to change</source>
+        <translation>Zu ändernder Modus</translation>
+    </message>
+    <message>
+        <source>Enter attribute tag name</source>
+        <translation>Bezeichner des Attributs</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>%1 polylines were made.</source>
+        <translation>%1 Polylinien erzeugt.</translation>
+    </message>
+    <message>
+        <source>Specify internal point</source>
+        <translation>Punkt im Innern</translation>
+    </message>
+    <message>
+        <source>There is no layer "%1".</source>
+        <translation>Es gibt keinen Layer "%1".</translation>
+    </message>
+    <message>
+        <source>%1 cannot have a thickness.</source>
+        <translation>%1 kann keine Dicke haben.</translation>
+    </message>
+    <message>
+        <source>Objects of this drawing take their plot styles from their colors.</source>
+        <translation>Objekte dieser Zeichnung bekommen ihre Plotstile von ihren Farben.</translation>
+    </message>
+    <message>
+        <source>Enter new layer name</source>
+        <translation>Name des neuen Layers</translation>
+    </message>
+    <message>
+        <source>Specify new linetype scale</source>
+        <translation>Neuer Linientypfaktor</translation>
+    </message>
+    <message>
+        <source>Specify new thickness</source>
+        <translation>Neue Dicke</translation>
+    </message>
+    <message>
+        <source>Enter property to change</source>
+        <translation>Zu ändernde Eigenschaft</translation>
+    </message>
+    <message>
+        <source>The two points must differ.</source>
+        <translation>Die beiden Punkte müssen verschieden sein.</translation>
+    </message>
+    <message>
+        <source>There is no circle through these points: they stand in a line.</source>
+        <translation>Durch diese Punkte geht kein Kreis: sie liegen auf einer Geraden.</translation>
+    </message>
+    <message>
+        <source>Specify radius of circle</source>
+        <translation>Radius des Kreises</translation>
+    </message>
+    <message>
+        <source>Specify diameter of circle</source>
+        <translation>Durchmesser des Kreises</translation>
+    </message>
+    <message>
+        <source>Specify first end point of circle's diameter</source>
+        <translation>Erster Endpunkt des Durchmessers</translation>
+    </message>
+    <message>
+        <source>Specify second end point of circle's diameter</source>
+        <translation>Zweiter Endpunkt des Durchmessers</translation>
+    </message>
+    <message>
+        <source>Specify first point on circle</source>
+        <translation>Erster Punkt auf dem Kreis</translation>
+    </message>
+    <message>
+        <source>Specify second point on circle</source>
+        <translation>Zweiter Punkt auf dem Kreis</translation>
+    </message>
+    <message>
+        <source>Specify third point on circle</source>
+        <translation>Dritter Punkt auf dem Kreis</translation>
+    </message>
+    <message>
+        <source>Specify center point for circle</source>
+        <translation>Mittelpunkt des Kreises</translation>
+    </message>
+    <message>
+        <source>Current settings: Copy mode = Single</source>
+        <translation>Aktuelle Einstellung: Kopiermodus = Einzeln</translation>
+    </message>
+    <message>
+        <source>Current settings: Copy mode = Multiple</source>
+        <translation>Aktuelle Einstellung: Kopiermodus = Mehrfach</translation>
+    </message>
+    <message>
+        <source>Enter a copy mode option</source>
+        <translation>Option für den Kopiermodus</translation>
+    </message>
+    <message>
+        <source>Specify base point</source>
+        <translation>Basispunkt</translation>
+    </message>
+    <message>
+        <source>Specify second point</source>
+        <translation>Zweiter Punkt</translation>
+    </message>
+    <message>
+        <source>Displacement</source>
+        <translation>Verschiebung</translation>
+    </message>
+    <message>
+        <source>Dimension text = %1</source>
+        <translation>Maßtext = %1</translation>
+    </message>
+    <message>
+        <source>The object cannot be dimensioned.</source>
+        <translation>Das Objekt kann nicht bemaßt werden.</translation>
+    </message>
+    <message>
+        <source>Specify dimension line location</source>
+        <translation>Ort der Maßlinie</translation>
+    </message>
+    <message>
+        <source>Specify angle of dimension text</source>
+        <translation>Winkel des Maßtextes</translation>
+    </message>
+    <message>
+        <source>Current dimension style: %1</source>
+        <translation>Aktueller Bemaßungsstil: %1</translation>
+    </message>
+    <message>
+        <source>Current dimension overrides:</source>
+        <translation>Aktuelle Überschreibungen der Bemaßung:</translation>
+    </message>
+    <message>
+        <source>Dimension styles:</source>
+        <translation>Bemaßungsstile:</translation>
+    </message>
+    <message>
+        <source>No dimension was selected.</source>
+        <translation>Es wurde keine Bemaßung gewählt.</translation>
+    </message>
+    <message>
+        <source>There is no dimension style "%1".</source>
+        <translation>Es gibt keinen Bemaßungsstil "%1".</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a dimension style: %2.</source>
+        <translation>"%1" ist kein Name für einen Bemaßungsstil: %2.</translation>
+    </message>
+    <message>
+        <source>Variables of dimension style %1:</source>
+        <translation>Variablen des Bemaßungsstils %1:</translation>
+    </message>
+    <message>
+        <source>%1 are no dimensions.</source>
+        <translation>%1 sind keine Bemaßungen.</translation>
+    </message>
+    <message>
+        <source>Enter dimension style(s) to list</source>
+        <translation>Aufzulistende Bemaßungsstile</translation>
+    </message>
+    <message>
+        <source>Enter a dimension style name</source>
+        <translation>Name eines Bemaßungsstils</translation>
+    </message>
+    <message>
+        <source>Enter name for new dimension style</source>
+        <translation>Name des neuen Bemaßungsstils</translation>
+    </message>
+    <message>
+        <source>That name is already in use, redefine it?</source>
+        <translation>Der Name ist schon vergeben, neu festlegen?</translation>
+    </message>
+    <message>
+        <source>Enter a dimension style option</source>
+        <translation>Option für Bemaßungsstile</translation>
+    </message>
+    <message>
+        <source>Specify displacement</source>
+        <translation>Verschiebung angeben</translation>
+    </message>
+    <message>
+        <source>Specify inside diameter of donut</source>
+        <translation>Innendurchmesser des Rings</translation>
+    </message>
+    <message>
+        <source>Specify outside diameter of donut</source>
+        <translation>Außendurchmesser des Rings</translation>
+    </message>
+    <message>
+        <source>Specify center of donut</source>
+        <translation>Mittelpunkt des Rings</translation>
+    </message>
+    <message>
+        <source>exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>An angle between 0 and 89.4 is needed.</source>
+        <translation>Ein Winkel zwischen 0 und 89.4 wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>The ellipse would be too thin.</source>
+        <translation>Die Ellipse würde zu schmal.</translation>
+    </message>
+    <message>
+        <source>Invalid angle: degrees or a point are needed.</source>
+        <translation>Ungültiger Winkel: Grad oder ein Punkt werden gebraucht.</translation>
+    </message>
+    <message>
+        <source>Specify rotation around major axis</source>
+        <translation>Drehung um die Hauptachse</translation>
+    </message>
+    <message>
+        <source>Specify distance to other axis</source>
+        <translation>Abstand zur anderen Achse</translation>
+    </message>
+    <message>
+        <source>Specify included angle for arc</source>
+        <translation>Eingeschlossener Winkel des Bogens</translation>
+    </message>
+    <message>
+        <source>Specify center of ellipse</source>
+        <translation>Mittelpunkt der Ellipse</translation>
+    </message>
+    <message>
+        <source>Specify axis endpoint of ellipse</source>
+        <translation>Achsenendpunkt der Ellipse</translation>
+    </message>
+    <message>
+        <source>Specify axis endpoint of elliptical arc</source>
+        <translation>Achsenendpunkt des elliptischen Bogens</translation>
+    </message>
+    <message>
+        <source>"%1" is an external reference and cannot be exploded.</source>
+        <translation>"%1" ist eine externe Referenz und kann nicht zerlegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 could not be exploded.</source>
+        <translation>%1 konnte nicht zerlegt werden.</translation>
+    </message>
+    <message>
+        <source>Block "%1" stays whole: its %2 cannot take the shape of the insert.</source>
+        <translation>Der Block "%1" bleibt ganz: %2 darin kann die Form der Einfügung nicht annehmen.</translation>
+    </message>
+    <message>
+        <source>A font is needed.</source>
+        <translation>Eine Schriftart wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Only a shape font can have one big font.</source>
+        <translation>Nur zu einer Formschrift kann es eine große Schriftart geben.</translation>
+    </message>
+    <message>
+        <source>"%1" is no big font.</source>
+        <translation>"%1" ist keine große Schriftart.</translation>
+    </message>
+    <message>
+        <source>This area is chosen already.</source>
+        <translation>Diese Fläche ist schon gewählt.</translation>
+    </message>
+    <message>
+        <source>The point lies on a boundary. Choose a point inside of an area.</source>
+        <translation>Der Punkt liegt auf einer Umgrenzung. Wählen Sie einen Punkt im Innern einer Fläche.</translation>
+    </message>
+    <message>
+        <source>There is no closed boundary around the point.</source>
+        <translation>Um den Punkt gibt es keine geschlossene Umgrenzung.</translation>
+    </message>
+    <message>
+        <source>Gaps up to %1 are closed; HPGAPTOL changes that.</source>
+        <translation>Lücken bis %1 werden geschlossen; HPGAPTOL ändert das.</translation>
+    </message>
+    <message>
+        <source>Gaps are not closed; HPGAPTOL changes that.</source>
+        <translation>Lücken werden nicht geschlossen; HPGAPTOL ändert das.</translation>
+    </message>
+    <message>
+        <source>The objects enclose no area.</source>
+        <translation>Die Objekte schließen keine Fläche ein.</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <translation>ausgefüllt</translation>
+    </message>
+    <message>
+        <source>lines  Angle=%1  Spacing=%2</source>
+        <translation>Linien  Winkel=%1  Abstand=%2</translation>
+    </message>
+    <message>
+        <source>  Double</source>
+        <translation>  Doppelt</translation>
+    </message>
+    <message>
+        <source>gradient %1  Angle=%2</source>
+        <translation>Verlauf %1  Winkel=%2</translation>
+    </message>
+    <message>
+        <source>pattern %1  Scale=%2  Angle=%3</source>
+        <translation>Muster %1  Maßstab=%2  Winkel=%3</translation>
+    </message>
+    <message>
+        <source>Nothing was hatched.</source>
+        <translation>Es wurde nichts schraffiert.</translation>
+    </message>
+    <message>
+        <source>Current fill: %1</source>
+        <translation>Aktuelle Füllung: %1</translation>
+    </message>
+    <message>
+        <source>SOLID fills the area with a color.</source>
+        <translation>SOLID füllt die Fläche mit einer Farbe.</translation>
+    </message>
+    <message>
+        <source>There is no hatch pattern "%1".</source>
+        <translation>Es gibt kein Schraffurmuster "%1".</translation>
+    </message>
+    <message>
+        <source>The value must be between 0 and 5000.</source>
+        <translation>Der Wert muss zwischen 0 und 5000 liegen.</translation>
+    </message>
+    <message>
+        <source>Enter a pattern name or ? for a list</source>
+        <translation>Name des Musters, oder ? für eine Liste</translation>
+    </message>
+    <message>
+        <source>Specify a scale for the pattern</source>
+        <translation>Maßstab des Musters</translation>
+    </message>
+    <message>
+        <source>Specify spacing between the lines</source>
+        <translation>Abstand der Linien</translation>
+    </message>
+    <message>
+        <source>Enter a gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>Füllen mit</translation>
+    </message>
+    <message>
+        <source>Enter hatching style</source>
+        <translation>Stil der Schraffur</translation>
+    </message>
+    <message>
+        <source>Specify the largest gap to be closed</source>
+        <translation>Größte Lücke, die geschlossen wird</translation>
+    </message>
+    <message>
+        <source>The name of a layer is needed.</source>
+        <translation>Der Name eines Layers wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Current layer: "%1"</source>
+        <translation>Aktueller Layer: "%1"</translation>
+    </message>
+    <message>
+        <source>not plotted</source>
+        <translation>nicht geplottet</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a layer: %2.</source>
+        <translation>"%1" ist kein Name für einen Layer: %2.</translation>
+    </message>
+    <message>
+        <source>Layer "%1" is frozen and cannot be made current.</source>
+        <translation>Der Layer "%1" ist gefroren und kann nicht aktuell werden.</translation>
+    </message>
+    <message>
+        <source>Layer "0" cannot be renamed.</source>
+        <translation>Der Layer "0" kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>Layer "%1" belongs to an external reference and cannot be renamed.</source>
+        <translation>Der Layer "%1" gehört zu einer externen Referenz und kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>No layer fits "%1".</source>
+        <translation>Kein Layer passt zu "%1".</translation>
+    </message>
+    <message>
+        <source>Layer "%1" already exists.</source>
+        <translation>Der Layer "%1" besteht bereits.</translation>
+    </message>
+    <message>
+        <source>Enter old layer name</source>
+        <translation>Alter Name des Layers</translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to list</source>
+        <translation>Aufzulistende Layer</translation>
+    </message>
+    <message>
+        <source>Enter name for new layer (becomes current)</source>
+        <translation>Name des neuen Layers (wird aktuell)</translation>
+    </message>
+    <message>
+        <source>Enter layer name to make current</source>
+        <translation>Name des Layers, der aktuell wird</translation>
+    </message>
+    <message>
+        <source>Enter name list for new layer(s)</source>
+        <translation>Namen neuer Layer</translation>
+    </message>
+    <message>
+        <source>Layer "%1" is the current layer and cannot be frozen.</source>
+        <translation>Der Layer "%1" ist der aktuelle und kann nicht gefroren werden.</translation>
+    </message>
+    <message>
+        <source>Layer "%1" is the current layer. Really turn it off?</source>
+        <translation>Der Layer "%1" ist der aktuelle. Wirklich ausschalten?</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) for color %1</source>
+        <translation>Namen der Layer für die Farbe %1</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) for linetype "%1"</source>
+        <translation>Namen der Layer für den Linientyp "%1"</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) for lineweight %1</source>
+        <translation>Namen der Layer für die Linienstärke %1</translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) for this plot preference</source>
+        <translation>Namen der Layer für diese Plotangabe</translation>
+    </message>
+    <message>
+        <source>A description has at most %1 characters.</source>
+        <translation>Eine Beschreibung hat höchstens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) for this description</source>
+        <translation>Namen der Layer für diese Beschreibung</translation>
+    </message>
+    <message>
+        <source>Enter a plotting preference</source>
+        <translation>Plotangabe</translation>
+    </message>
+    <message>
+        <source>Enter layer description</source>
+        <translation>Beschreibung des Layers</translation>
+    </message>
+    <message>
+        <source>Enter leader format option</source>
+        <translation>Option für das Format der Führungslinie</translation>
+    </message>
+    <message>
+        <source>Specify leader start point</source>
+        <translation>Startpunkt der Führungslinie</translation>
+    </message>
+    <message>
+        <source>Specify next point</source>
+        <translation>Nächster Punkt</translation>
+    </message>
+    <message>
+        <source>All segments already undone.</source>
+        <translation>Alle Abschnitte sind schon zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Specify first point</source>
+        <translation>Erster Punkt</translation>
+    </message>
+    <message>
+        <source>Length of line</source>
+        <translation>Länge der Linie</translation>
+    </message>
+    <message>
+        <source>Specify first extension line origin</source>
+        <translation>Ursprung der ersten Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Specify second extension line origin</source>
+        <translation>Ursprung der zweiten Hilfslinie</translation>
+    </message>
+    <message>
+        <source>Specify angle of dimension line</source>
+        <translation>Winkel der Maßlinie</translation>
+    </message>
+    <message>
+        <source>select object</source>
+        <translation>Objekt wählen</translation>
+    </message>
+    <message>
+        <source>No line type fits "%1".</source>
+        <translation>Kein Linientyp passt zu "%1".</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a line type: %2.</source>
+        <translation>"%1" ist kein Name für einen Linientyp: %2.</translation>
+    </message>
+    <message>
+        <source>There is a line type "%1" already.</source>
+        <translation>Es gibt bereits einen Linientyp "%1".</translation>
+    </message>
+    <message>
+        <source>A pattern consists of lengths with commas between them.</source>
+        <translation>Ein Muster besteht aus Längen mit Kommas dazwischen.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1".</source>
+        <translation>Es gibt keine Datei "%1".</translation>
+    </message>
+    <message>
+        <source>Linetype "%1" is already loaded. Reload it?</source>
+        <translation>Der Linientyp "%1" ist schon geladen. Neu laden?</translation>
+    </message>
+    <message>
+        <source>Linetype "%1" loaded.</source>
+        <translation>Linientyp "%1" geladen.</translation>
+    </message>
+    <message>
+        <source>The file has no line type "%1".</source>
+        <translation>Die Datei hat keinen Linientyp "%1".</translation>
+    </message>
+    <message>
+        <source>Current line type: "%1"</source>
+        <translation>Aktueller Linientyp: "%1"</translation>
+    </message>
+    <message>
+        <source>Enter linetype name(s) to list</source>
+        <translation>Aufzulistende Linientypen</translation>
+    </message>
+    <message>
+        <source>Enter name of linetype to create</source>
+        <translation>Name des neuen Linientyps</translation>
+    </message>
+    <message>
+        <source>Descriptive text</source>
+        <translation>Beschreibender Text</translation>
+    </message>
+    <message>
+        <source>Enter linetype pattern: A</source>
+        <translation>Muster des Linientyps: A</translation>
+    </message>
+    <message>
+        <source>Enter name of linetype file</source>
+        <translation>Name der Linientypdatei</translation>
+    </message>
+    <message>
+        <source>Enter linetype(s) to load</source>
+        <translation>Zu ladende Linientypen</translation>
+    </message>
+    <message>
+        <source>Select destination objects</source>
+        <translation>Zielobjekte wählen</translation>
+    </message>
+    <message>
+        <source>Specify first point of mirror line</source>
+        <translation>Erster Punkt der Spiegelachse</translation>
+    </message>
+    <message>
+        <source>Specify second point of mirror line</source>
+        <translation>Zweiter Punkt der Spiegelachse</translation>
+    </message>
+    <message>
+        <source>Erase source objects?</source>
+        <translation>Quellobjekte löschen?</translation>
+    </message>
+    <message>
+        <source>use first point as displacement</source>
+        <translation>ersten Punkt als Verschiebung nehmen</translation>
+    </message>
+    <message>
+        <source>A factor from 0.25x to 4x or a distance of as much is needed.</source>
+        <translation>Ein Faktor von 0.25x bis 4x oder ein Abstand in diesem Maß wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Current text style: "%1"  Text height: %2</source>
+        <translation>Aktueller Textstil: "%1"  Texthöhe: %2</translation>
+    </message>
+    <message>
+        <source>Enter justification</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Enter line spacing type</source>
+        <translation>Art des Zeilenabstands</translation>
+    </message>
+    <message>
+        <source>Enter line spacing factor or distance</source>
+        <translation>Faktor oder Abstand der Zeilen</translation>
+    </message>
+    <message>
+        <source>Specify height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Specify first corner</source>
+        <translation>Erste Ecke</translation>
+    </message>
+    <message>
+        <source>Specify width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>MText</source>
+        <translation>MText</translation>
+    </message>
+    <message>
+        <source>Current settings: Erase source=%1  Layer=%2</source>
+        <translation>Aktuelle Einstellungen: Quelle löschen=%1  Layer=%2</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>The object cannot be offset there.</source>
+        <translation>Dort kann kein Parallelobjekt stehen.</translation>
+    </message>
+    <message>
+        <source>That object cannot be offset.</source>
+        <translation>Von diesem Objekt gibt es keine Parallele.</translation>
+    </message>
+    <message>
+        <source>Specify offset distance</source>
+        <translation>Abstand der Parallele</translation>
+    </message>
+    <message>
+        <source>Erase source object after offsetting?</source>
+        <translation>Quellobjekt danach löschen?</translation>
+    </message>
+    <message>
+        <source>Enter layer option for offset objects</source>
+        <translation>Layer für Parallelobjekte</translation>
+    </message>
+    <message>
+        <source>Current point modes:  PDMODE=%1  PDSIZE=%2</source>
+        <translation>Aktuelle Punktmodi:  PDMODE=%1  PDSIZE=%2</translation>
+    </message>
+    <message>
+        <source>Specify a point</source>
+        <translation>Punkt angeben</translation>
+    </message>
+    <message>
+        <source>A whole number between %1 and %2 is needed.</source>
+        <translation>Eine ganze Zahl zwischen %1 und %2 wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>A distance greater than zero is needed.</source>
+        <translation>Ein Abstand größer als null wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Enter number of sides</source>
+        <translation>Anzahl der Seiten</translation>
+    </message>
+    <message>
+        <source>Specify first endpoint of edge</source>
+        <translation>Erster Endpunkt der Kante</translation>
+    </message>
+    <message>
+        <source>Specify second endpoint of edge</source>
+        <translation>Zweiter Endpunkt der Kante</translation>
+    </message>
+    <message>
+        <source>Specify center of polygon</source>
+        <translation>Mittelpunkt des Polygons</translation>
+    </message>
+    <message>
+        <source>Specify direction of chord for arc</source>
+        <translation>Richtung der Bogensehne</translation>
+    </message>
+    <message>
+        <source>Specify endpoint of arc</source>
+        <translation>Endpunkt des Bogens angeben</translation>
+    </message>
+    <message>
+        <source>Specify the tangent direction for the start point of arc</source>
+        <translation>Tangentenrichtung im Startpunkt des Bogens angeben</translation>
+    </message>
+    <message>
+        <source>Specify endpoint of the arc</source>
+        <translation>Endpunkt von diesem Bogen</translation>
+    </message>
+    <message>
+        <source>Specify second point on arc</source>
+        <translation>Zweiter Punkt auf dem Bogen</translation>
+    </message>
+    <message>
+        <source>Current line-width is %1</source>
+        <translation>Aktuelle Linienbreite: %1</translation>
+    </message>
+    <message>
+        <source>Specify length of line</source>
+        <translation>Länge der Linie angeben</translation>
+    </message>
+    <message>
+        <source>Specify start point</source>
+        <translation>Startpunkt</translation>
+    </message>
+    <message>
+        <source>Three numbers from 0 to 255 with commas between them are needed.</source>
+        <translation>Drei Zahlen von 0 bis 255 mit Kommas dazwischen werden gebraucht.</translation>
+    </message>
+    <message>
+        <source>A color is needed: a name, a number from 1 to 255, or red,green,blue.</source>
+        <translation>Eine Farbe wird gebraucht: ein Name, eine Zahl von 1 bis 255, oder Rot,Grün,Blau.</translation>
+    </message>
+    <message>
+        <source>A layer cannot have the line type "%1".</source>
+        <translation>Ein Layer kann den Linientyp "%1" nicht haben.</translation>
+    </message>
+    <message>
+        <source>A width from 0.0 to 2.11 millimetres or Default is needed.</source>
+        <translation>Eine Stärke von 0.0 bis 2.11 Millimetern oder Vorgabe wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>A whole number from 0 to 90, ByLayer or ByBlock is needed.</source>
+        <translation>Eine ganze Zahl von 0 bis 90, ByLayer oder ByBlock wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>There is no plot style "%1".</source>
+        <translation>Es gibt keinen Plotstil "%1".</translation>
+    </message>
+    <message>
+        <source>Enter Red,Green,Blue</source>
+        <translation>Rot,Grün,Blau</translation>
+    </message>
+    <message>
+        <source>Enter color book name</source>
+        <translation>Name des Farbbuchs</translation>
+    </message>
+    <message>
+        <source>Enter color name</source>
+        <translation>Name der Farbe</translation>
+    </message>
+    <message>
+        <source>The object is no arc and no circle.</source>
+        <translation>Das Objekt ist weder Bogen noch Kreis.</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>er ist leer</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 characters</source>
+        <translation>er ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>the character %1 is not allowed</source>
+        <translation>das Zeichen %1 ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>control characters are not allowed</source>
+        <translation>Steuerzeichen sind nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>it begins or ends with a blank</source>
+        <translation>er beginnt oder endet mit einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>"%1" belongs to an external reference.</source>
+        <translation>"%1" gehört zu einer externen Referenz.</translation>
+    </message>
+    <message>
+        <source>Chamfer=%1 x %2</source>
+        <translation>Fase=%1 x %2</translation>
+    </message>
+    <message>
+        <source>Rotation=%1</source>
+        <translation>Drehung=%1</translation>
+    </message>
+    <message>
+        <source>Current rectangle modes: %1</source>
+        <translation>Aktuelle Modi des Rechtecks: %1</translation>
+    </message>
+    <message>
+        <source>The corners must differ in both directions.</source>
+        <translation>Die Ecken müssen sich in beiden Richtungen unterscheiden.</translation>
+    </message>
+    <message>
+        <source>Specify first chamfer distance for rectangles</source>
+        <translation>Erster Fasenabstand für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify second chamfer distance for rectangles</source>
+        <translation>Zweiter Fasenabstand für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify the elevation for rectangles</source>
+        <translation>Erhebung für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify fillet radius for rectangles</source>
+        <translation>Rundungsradius für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify thickness for rectangles</source>
+        <translation>Dicke für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify line width for rectangles</source>
+        <translation>Linienbreite für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify first corner point</source>
+        <translation>Erster Eckpunkt</translation>
+    </message>
+    <message>
+        <source>Enter area of rectangle in current units</source>
+        <translation>Fläche des Rechtecks in aktuellen Einheiten</translation>
+    </message>
+    <message>
+        <source>Calculate rectangle dimensions based on</source>
+        <translation>Abmessungen des Rechtecks berechnen aus</translation>
+    </message>
+    <message>
+        <source>Specify length for rectangles</source>
+        <translation>Länge für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify width for rectangles</source>
+        <translation>Breite für Rechtecke</translation>
+    </message>
+    <message>
+        <source>Specify other corner point</source>
+        <translation>Anderer Eckpunkt</translation>
+    </message>
+    <message>
+        <source>Rotating a copy of the selected objects.</source>
+        <translation>Eine Kopie der gewählten Objekte wird gedreht.</translation>
+    </message>
+    <message>
+        <source>Specify the reference angle</source>
+        <translation>Bezugswinkel</translation>
+    </message>
+    <message>
+        <source>Specify the new angle</source>
+        <translation>Neuer Winkel</translation>
+    </message>
+    <message>
+        <source>Scaling a copy of the selected objects.</source>
+        <translation>Eine Kopie der gewählten Objekte wird skaliert.</translation>
+    </message>
+    <message>
+        <source>Specify reference length</source>
+        <translation>Bezugslänge</translation>
+    </message>
+    <message>
+        <source>Specify new length</source>
+        <translation>Neue Länge</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 gewählt</translation>
+    </message>
+    <message>
+        <source>Enter type(s) of objects</source>
+        <translation>Arten der Objekte</translation>
+    </message>
+    <message>
+        <source>Enter layer name(s)</source>
+        <translation>Namen der Layer</translation>
+    </message>
+    <message>
+        <source>Enter linetype name(s)</source>
+        <translation>Namen der Linientypen</translation>
+    </message>
+    <message>
+        <source>Include what fits in the set, or exclude it</source>
+        <translation>Passendes in die Auswahl aufnehmen oder davon ausnehmen</translation>
+    </message>
+    <message>
+        <source>Requires a whole number</source>
+        <translation>Verlangt wird eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Requires a number</source>
+        <translation>Verlangt wird eine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 greater than zero.</source>
+        <translation>%1 größer als null.</translation>
+    </message>
+    <message>
+        <source>%1 between %2 and %3.</source>
+        <translation>%1 zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <source>%1 of at least %2.</source>
+        <translation>%1 von mindestens %2.</translation>
+    </message>
+    <message>
+        <source>%1 of at most %2.</source>
+        <translation>%1 von höchstens %2.</translation>
+    </message>
+    <message>
+        <source>Requires a point: x,y or x,y,z.</source>
+        <translation>Verlangt wird ein Punkt: x,y oder x,y,z.</translation>
+    </message>
+    <message>
+        <source>Requires a color: a name, a number from 0 to 256, or r,g,b.</source>
+        <translation>Verlangt wird eine Farbe: ein Name, eine Zahl von 0 bis 256, oder r,g,b.</translation>
+    </message>
+    <message>
+        <source>Requires a single character.</source>
+        <translation>Verlangt wird ein einzelnes Zeichen.</translation>
+    </message>
+    <message>
+        <source>The value cannot be set: there is nothing of that name, or it cannot be used.</source>
+        <translation>Der Wert kann nicht gesetzt werden: es gibt nichts mit diesem Namen, oder es ist nicht zu gebrauchen.</translation>
+    </message>
+    <message>
+        <source>  (read only)</source>
+        <translation>  (nur lesbar)</translation>
+    </message>
+    <message>
+        <source>No variable fits "%1".</source>
+        <translation>Keine Variable passt zu "%1".</translation>
+    </message>
+    <message>
+        <source>Unknown variable name "%1". Type SETVAR ? for a list of variables.</source>
+        <translation>Unbekannte Variable "%1". SETVAR ? listet die Variablen auf.</translation>
+    </message>
+    <message>
+        <source>Unknown variable name "%1".</source>
+        <translation>Unbekannte Variable "%1".</translation>
+    </message>
+    <message>
+        <source>%1 = %2 (read only)</source>
+        <translation>%1 = %2 (nur lesbar)</translation>
+    </message>
+    <message>
+        <source>Enter new value for %1</source>
+        <translation>Neuer Wert für %1</translation>
+    </message>
+    <message>
+        <source>Enter variable name or ?</source>
+        <translation>Name der Variablen oder ?</translation>
+    </message>
+    <message>
+        <source>Enter variable(s) to list</source>
+        <translation>Aufzulistende Variablen</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>natural</source>
+        <translation>natürlich</translation>
+    </message>
+    <message>
+        <source>Text styles:</source>
+        <translation>Textstile:</translation>
+    </message>
+    <message>
+        <source>  %1  Font: %2  Height: %3  Width factor: %4  Obliquing angle: %5</source>
+        <translation>  %1  Schriftart: %2  Höhe: %3  Breitenfaktor: %4  Neigung: %5</translation>
+    </message>
+    <message>
+        <source>Existing style.</source>
+        <translation>Vorhandener Stil.</translation>
+    </message>
+    <message>
+        <source>it stands for a shape file</source>
+        <translation>er steht für eine Formdatei</translation>
+    </message>
+    <message>
+        <source>"%1" is no name for a text style: %2.</source>
+        <translation>"%1" ist kein Name für einen Textstil: %2.</translation>
+    </message>
+    <message>
+        <source>New style.</source>
+        <translation>Neuer Stil.</translation>
+    </message>
+    <message>
+        <source>A number between %1 and %2 is needed.</source>
+        <translation>Eine Zahl zwischen %1 und %2 wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>An angle between -85 and 85 is needed.</source>
+        <translation>Ein Winkel zwischen -85 und 85 wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>"%1" is now the current text style.</source>
+        <translation>"%1" ist jetzt der aktuelle Textstil.</translation>
+    </message>
+    <message>
+        <source>Enter name of text style</source>
+        <translation>Name des Textstils</translation>
+    </message>
+    <message>
+        <source>Enter text style(s) to list</source>
+        <translation>Aufzulistende Textstile</translation>
+    </message>
+    <message>
+        <source>Specify full font name or font filename</source>
+        <translation>Name der Schriftart oder ihrer Datei</translation>
+    </message>
+    <message>
+        <source>Specify obliquing angle</source>
+        <translation>Neigungswinkel</translation>
+    </message>
+    <message>
+        <source>Specify height of text</source>
+        <translation>Höhe des Textes</translation>
+    </message>
+    <message>
+        <source>Enter text</source>
+        <translation>Text eingeben</translation>
+    </message>
+    <message>
+        <source>Specify second endpoint of text baseline</source>
+        <translation>Zweiter Endpunkt der Textgrundlinie</translation>
+    </message>
+    <message>
+        <source>Specify rotation angle of text</source>
+        <translation>Drehwinkel des Textes</translation>
+    </message>
+    <message>
+        <source>  %1  Font: %2  Height: %3</source>
+        <translation>  %1  Schriftart: %2  Höhe: %3</translation>
+    </message>
+    <message>
+        <source>There is no text style "%1".</source>
+        <translation>Es gibt keinen Textstil "%1".</translation>
+    </message>
+    <message>
+        <source>Enter style name</source>
+        <translation>Name des Stils</translation>
+    </message>
+    <message>
+        <source>The beginning of the group is reached.</source>
+        <translation>Der Anfang der Gruppe ist erreicht.</translation>
+    </message>
+    <message>
+        <source>Mark encountered.</source>
+        <translation>Markierung erreicht.</translation>
+    </message>
+    <message>
+        <source>Everything has been undone.</source>
+        <translation>Alles wurde rückgängig gemacht.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>No group is open.</source>
+        <translation>Keine Gruppe ist offen.</translation>
+    </message>
+    <message>
+        <source>This will undo everything. OK?</source>
+        <translation>Damit wird alles rückgängig gemacht. In Ordnung?</translation>
+    </message>
+    <message>
+        <source>Enter the number of operations to undo</source>
+        <translation>Anzahl der rückgängig zu machenden Schritte</translation>
+    </message>
+    <message>
+        <source>No previous view saved.</source>
+        <translation>Es gibt keine vorherige Ansicht.</translation>
+    </message>
+    <message>
+        <source>A height or a magnification (nX or nXP) above zero is needed.</source>
+        <translation>Eine Höhe oder Vergrößerung (nX oder nXP) über null wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>A scale factor above zero is needed.</source>
+        <translation>Ein Skalierfaktor über null wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>The corners must differ.</source>
+        <translation>Die Ecken müssen verschieden sein.</translation>
+    </message>
+    <message>
+        <source>A corner of a window, a scale factor or an option is needed.</source>
+        <translation>Eine Fensterecke, ein Skalierfaktor oder eine Option wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>The view would be too small or too large to be drawn.</source>
+        <translation>Die Ansicht wäre zum Zeichnen zu klein oder zu groß.</translation>
+    </message>
+    <message>
+        <source>Specify center point</source>
+        <translation>Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>Enter magnification or height</source>
+        <translation>Vergrößerung oder Höhe</translation>
+    </message>
+    <message>
+        <source>Enter a scale factor (nX or nXP)</source>
+        <translation>Skalierfaktor (nX oder nXP)</translation>
+    </message>
+    <message>
+        <source>Specify corner of window, enter a scale factor (nX or nXP)</source>
+        <translation>Fensterecke oder Skalierfaktor (nX oder nXP)</translation>
+    </message>
+    <message>
+        <source>%1 holds content that Drafton cannot write (%2): saving over it would lose it. Save the drawing under another name.</source>
+        <translation>%1 enthält, was Drafton nicht schreiben kann (%2): beim Speichern ginge es verloren. Speichern Sie die Zeichnung unter einem anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The drawing was read as %1 and is saved as %2.</source>
+        <translation>Die Zeichnung wurde als %1 gelesen und wird als %2 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1 since it was opened. Save over it?</source>
+        <translation>Ein anderes Programm hat %1 seit dem Öffnen geändert. Trotzdem darüber speichern?</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 besteht. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be opened. %1: %2</source>
+        <translation>Die Zeichnung kann nicht geöffnet werden. %1: %2</translation>
+    </message>
+    <message>
+        <source>Enter the version of DXF</source>
+        <translation>DXF-Version</translation>
+    </message>
+    <message>
+        <source>Enter the file name</source>
+        <translation>Name der Datei</translation>
+    </message>
+    <message>
+        <source>Enter the name of the drawing to open</source>
+        <translation>Name der zu öffnenden Zeichnung</translation>
+    </message>
+    <message>
+        <source>Enter the name of the setting</source>
+        <translation>Name der Einstellung</translation>
+    </message>
+    <message>
+        <source>Enter the new value</source>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>%1 holds content that Drafton does not understand: %2.</source>
+        <translation>%1 enthält, was Drafton nicht versteht: %2.</translation>
+    </message>
+    <message>
+        <source>It is open for reading; it can be saved under another name only.</source>
+        <translation>Sie ist zum Lesen geöffnet; gespeichert werden kann sie nur unter einem anderen Namen.</translation>
+    </message>
+    <message>
+        <source>there is no place for the conversion: %1</source>
+        <translation>für die Umwandlung ist kein Platz: %1</translation>
+    </message>
+    <message>
+        <source>DWG drawings are read and written by a converter, and none is set. Set its command line with the command SETTING under the name %1; {input} and {output} stand for the two files.</source>
+        <translation>DWG-Zeichnungen liest und schreibt ein Umwandler, und es ist keiner eingestellt. Stellen Sie seine Befehlszeile mit dem Befehl SETTING unter dem Namen %1 ein; {input} und {output} stehen für die beiden Dateien.</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>%1. It said: %2</source>
+        <translation>%1. Gesagt hat er: %2</translation>
+    </message>
+    <message>
+        <source>the converter's command line "%1" has to hold {input} and {output}</source>
+        <translation>die Befehlszeile "%1" des Umwandlers muss {input} und {output} enthalten</translation>
+    </message>
+    <message>
+        <source>the converter %1 does not start: %2</source>
+        <translation>der Umwandler %1 startet nicht: %2</translation>
+    </message>
+    <message>
+        <source>the conversion was cancelled</source>
+        <translation>die Umwandlung wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>the converter %1 was stopped, since it did not end within %2 seconds</source>
+        <translation>der Umwandler %1 wurde angehalten, weil er nach %2 Sekunden nicht fertig war</translation>
+    </message>
+    <message>
+        <source>the converter %1 crashed</source>
+        <translation>der Umwandler %1 ist abgestürzt</translation>
+    </message>
+    <message>
+        <source>the converter %1 failed with exit code %2</source>
+        <translation>der Umwandler %1 ist mit dem Code %2 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>the converter %1 made no file</source>
+        <translation>der Umwandler %1 hat keine Datei erzeugt</translation>
+    </message>
+    <message>
+        <source>The module %1 is not loaded: %2.</source>
+        <translation>Das Modul %1 ist nicht geladen: %2.</translation>
+    </message>
+    <message>
+        <source>The startup command "%1" is not known.</source>
+        <translation>Der Startbefehl "%1" ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>%1 or [%2]</source>
+        <translation>%1 oder [%2]</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message>
+        <source>No filter.</source>
+        <translation>Kein Filter.</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found, %2 in total</source>
+        <translation>%1 gefunden, %2 insgesamt</translation>
+    </message>
+    <message>
+        <source>Nothing was found there.</source>
+        <translation>Dort wurde nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Specify next fence point</source>
+        <translation>Nächster Zaunpunkt</translation>
+    </message>
+    <message>
+        <source>Enter what to filter by</source>
+        <translation>Wonach gefiltert wird</translation>
+    </message>
+    <message>
+        <source>Enter the handle</source>
+        <translation>Referenz (Handle)</translation>
+    </message>
+    <message>
+        <source>Remove objects</source>
+        <translation>Objekte entfernen</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>ihr Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be used: %2. Settings of this run are not kept.</source>
+        <translation>Die Einstellungsdatei %1 ist nicht zu gebrauchen: %2. Einstellungen dieses Laufs werden nicht behalten.</translation>
+    </message>
+    <message>
+        <source>it holds lines that are no settings</source>
+        <translation>sie enthält Zeilen, die keine Einstellungen sind</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>sie kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written.</source>
+        <translation>Die Einstellungsdatei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>_USER</source>
+        <translation>_BENUTZER</translation>
+    </message>
+    <message>
+        <source>The script ends while %1 waits for input.</source>
+        <translation>Das Skript endet, während %1 auf eine Eingabe wartet.</translation>
+    </message>
+    <message>
+        <source>The line is longer than %1 bytes.</source>
+        <translation>Die Zeile ist länger als %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>There is no tool "%1".</source>
+        <translation>Es gibt kein Werkzeug "%1".</translation>
+    </message>
+    <message>
+        <source>There is no open drawing "%1".</source>
+        <translation>Es ist keine Zeichnung "%1" geöffnet.</translation>
+    </message>
+    <message>
+        <source>Enter layout to copy</source>
+        <translation>Zu kopierendes Layout</translation>
+    </message>
+    <message>
+        <source>Enter name for copied layout</source>
+        <translation>Name des kopierten Layouts</translation>
+    </message>
+    <message>
+        <source>Enter new layout name</source>
+        <translation>Neuer Name des Layouts</translation>
+    </message>
+    <message>
+        <source>Enter name of layout to delete</source>
+        <translation>Name des zu löschenden Layouts</translation>
+    </message>
+    <message>
+        <source>Enter layout to rename</source>
+        <translation>Umzubenennendes Layout</translation>
+    </message>
+    <message>
+        <source>Enter layout to make current</source>
+        <translation>Layout, das aktuell wird</translation>
+    </message>
+    <message>
+        <source>Specify left margin</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Specify bottom margin</source>
+        <translation>Unterer Rand</translation>
+    </message>
+    <message>
+        <source>Specify right margin</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Specify top margin</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Enter scale factor</source>
+        <translation>Skalierfaktor eingeben</translation>
+    </message>
+    <message>
+        <source>Enter Y scale factor</source>
+        <translation>Skalierfaktor in Y</translation>
+    </message>
+    <message>
+        <source>Enter Z scale factor</source>
+        <translation>Skalierfaktor in Z</translation>
+    </message>
+    <message>
+        <source>Enter scale factor for XYZ axes</source>
+        <translation>Skalierfaktor in X, Y und Z</translation>
+    </message>
+    <message>
+        <source>The file of "%1" cannot be read: %3</source>
+        <translation>Die Datei von "%1" kann nicht gelesen werden: %3</translation>
+    </message>
+    <message>
+        <source>Enter reference(s) whose path changes</source>
+        <translation>Referenzen, deren Pfad sich ändert</translation>
+    </message>
+    <message>
+        <source>Enter reference(s) to detach</source>
+        <translation>Abzuhängende Referenzen</translation>
+    </message>
+    <message>
+        <source>Enter reference(s) to bind</source>
+        <translation>Zu bindende Referenzen</translation>
+    </message>
+    <message>
+        <source>Enter reference(s) to unload</source>
+        <translation>Zu entladende Referenzen</translation>
+    </message>
+    <message>
+        <source>Enter reference(s) to reload</source>
+        <translation>Neu zu ladende Referenzen</translation>
+    </message>
+    <message>
+        <source>Select object</source>
+        <translation>Objekt wählen</translation>
+    </message>
+    <message>
+        <source>Lock position=%1</source>
+        <translation>Ort sperren=%1</translation>
+    </message>
+    <message>
+        <source>Enter constant attribute value</source>
+        <translation>Fester Wert des Attributs</translation>
+    </message>
+    <message>
+        <source>Enter attribute prompt</source>
+        <translation>Frage nach dem Attribut</translation>
+    </message>
+    <message>
+        <source>Enter default attribute value</source>
+        <translation>Vorgabe für den Wert des Attributs</translation>
+    </message>
+    <message>
+        <source>There is no attribute to go on from.</source>
+        <translation>Es gibt kein Attribut zum Fortsetzen.</translation>
+    </message>
+    <message>
+        <source>New color</source>
+        <translation>Neue Farbe</translation>
+    </message>
+    <message>
+        <source>Enter new linetype name</source>
+        <translation>Neuer Linientyp</translation>
+    </message>
+    <message>
+        <source>Enter new lineweight</source>
+        <translation>Neue Linienstärke</translation>
+    </message>
+    <message>
+        <source>Enter new transparency value</source>
+        <translation>Neue Transparenz</translation>
+    </message>
+    <message>
+        <source>Enter new plot style</source>
+        <translation>Neuer Plotstil</translation>
+    </message>
+    <message>
+        <source>Enter default object color</source>
+        <translation>Farbe neuer Objekte</translation>
+    </message>
+    <message>
+        <source>Enter default lineweight for new objects</source>
+        <translation>Linienstärke neuer Objekte</translation>
+    </message>
+    <message>
+        <source>Enter dimension text</source>
+        <translation>Maßtext</translation>
+    </message>
+    <message>
+        <source>Select dimension</source>
+        <translation>Bemaßung wählen</translation>
+    </message>
+    <message>
+        <source>Specify start parameter</source>
+        <translation>Startparameter</translation>
+    </message>
+    <message>
+        <source>Specify end parameter</source>
+        <translation>Endparameter</translation>
+    </message>
+    <message>
+        <source>Specify start angle</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>Specify end angle</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Specify endpoint of axis</source>
+        <translation>Endpunkt der Achse</translation>
+    </message>
+    <message>
+        <source>Specify other endpoint of axis</source>
+        <translation>Anderer Endpunkt der Achse</translation>
+    </message>
+    <message>
+        <source>Enter the hatch color</source>
+        <translation>Farbe der Schraffur</translation>
+    </message>
+    <message>
+        <source>Specify an angle for the pattern</source>
+        <translation>Winkel des Musters</translation>
+    </message>
+    <message>
+        <source>Specify angle for crosshatch lines</source>
+        <translation>Winkel der Schraffurlinien</translation>
+    </message>
+    <message>
+        <source>Double hatch area?</source>
+        <translation>Fläche doppelt schraffieren?</translation>
+    </message>
+    <message>
+        <source>Specify an angle for the gradient</source>
+        <translation>Winkel des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Center the gradient?</source>
+        <translation>Verlauf zentrieren?</translation>
+    </message>
+    <message>
+        <source>Enter the first color</source>
+        <translation>Erste Farbe</translation>
+    </message>
+    <message>
+        <source>Enter the second color</source>
+        <translation>Zweite Farbe</translation>
+    </message>
+    <message>
+        <source>Keep the hatch with its boundary?</source>
+        <translation>Schraffur an ihre Umgrenzung binden?</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to turn on</source>
+        <translation>Namen der einzuschaltenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to turn off</source>
+        <translation>Namen der auszuschaltenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to freeze</source>
+        <translation>Namen der zu frierenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to thaw</source>
+        <translation>Namen der zu tauenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to lock</source>
+        <translation>Namen der zu sperrenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to unlock</source>
+        <translation>Namen der zu entsperrenden Layer</translation>
+    </message>
+    <message>
+        <source>Enter loaded linetype name</source>
+        <translation>Name eines geladenen Linientyps</translation>
+    </message>
+    <message>
+        <source>Enter lineweight (0.0mm - 2.11mm)</source>
+        <translation>Linienstärke (0.0mm - 2.11mm)</translation>
+    </message>
+    <message>
+        <source>Enter first line of annotation text</source>
+        <translation>Erste Zeile der Beschriftung</translation>
+    </message>
+    <message>
+        <source>Enter next line of annotation text</source>
+        <translation>Nächste Zeile der Beschriftung</translation>
+    </message>
+    <message>
+        <source>Select object to dimension</source>
+        <translation>Zu bemaßendes Objekt wählen</translation>
+    </message>
+    <message>
+        <source>Specify linetype name</source>
+        <translation>Name des Linientyps</translation>
+    </message>
+    <message>
+        <source>Select source object</source>
+        <translation>Quellobjekt wählen</translation>
+    </message>
+    <message>
+        <source>Specify through point</source>
+        <translation>Punkt auf der Parallele</translation>
+    </message>
+    <message>
+        <source>Specify point on side to offset</source>
+        <translation>Punkt auf der Seite der Parallele</translation>
+    </message>
+    <message>
+        <source>Select object to offset</source>
+        <translation>Objekt für die Parallele wählen</translation>
+    </message>
+    <message>
+        <source>Specify starting half-width</source>
+        <translation>Halbe Anfangsbreite</translation>
+    </message>
+    <message>
+        <source>Specify starting width</source>
+        <translation>Anfangsbreite</translation>
+    </message>
+    <message>
+        <source>Specify ending half-width</source>
+        <translation>Halbe Endbreite</translation>
+    </message>
+    <message>
+        <source>Specify ending width</source>
+        <translation>Endbreite</translation>
+    </message>
+    <message>
+        <source>Select arc or circle</source>
+        <translation>Bogen oder Kreis wählen</translation>
+    </message>
+    <message>
+        <source>Enter rectangle length</source>
+        <translation>Länge des Rechtecks</translation>
+    </message>
+    <message>
+        <source>Enter rectangle width</source>
+        <translation>Breite des Rechtecks</translation>
+    </message>
+    <message>
+        <source>Enter color</source>
+        <translation>Farbe eingeben</translation>
+    </message>
+    <message>
+        <source>Specify tangent</source>
+        <translation>Tangente</translation>
+    </message>
+    <message>
+        <source>Specify start tangent</source>
+        <translation>Tangente am Anfang</translation>
+    </message>
+    <message>
+        <source>Specify end tangent</source>
+        <translation>Tangente am Ende</translation>
+    </message>
+    <message>
+        <source>Specify width factor</source>
+        <translation>Breitenfaktor</translation>
+    </message>
+    <message>
+        <source>Display text backwards?</source>
+        <translation>Text rückwärts zeigen?</translation>
+    </message>
+    <message>
+        <source>Display text upside-down?</source>
+        <translation>Text kopfüber zeigen?</translation>
+    </message>
+    <message>
+        <source>There is no text to go on from.</source>
+        <translation>Es gibt keinen Text zum Fortsetzen.</translation>
+    </message>
+    <message>
+        <source>Specify start point of text</source>
+        <translation>Startpunkt des Textes</translation>
+    </message>
+    <message>
+        <source>Specify center point of text</source>
+        <translation>Mitte der Grundlinie des Textes</translation>
+    </message>
+    <message>
+        <source>Specify right endpoint of text baseline</source>
+        <translation>Rechter Endpunkt der Textgrundlinie</translation>
+    </message>
+    <message>
+        <source>Specify first endpoint of text baseline</source>
+        <translation>Erster Endpunkt der Textgrundlinie</translation>
+    </message>
+    <message>
+        <source>Specify middle point of text</source>
+        <translation>Mitte des Textes</translation>
+    </message>
+    <message>
+        <source>Specify top-left point of text</source>
+        <translation>Punkt links oben am Text</translation>
+    </message>
+    <message>
+        <source>Specify top-center point of text</source>
+        <translation>Punkt oben in der Mitte des Textes</translation>
+    </message>
+    <message>
+        <source>Specify top-right point of text</source>
+        <translation>Punkt rechts oben am Text</translation>
+    </message>
+    <message>
+        <source>Specify middle-left point of text</source>
+        <translation>Punkt links in der Mitte des Textes</translation>
+    </message>
+    <message>
+        <source>Specify middle-right point of text</source>
+        <translation>Punkt rechts in der Mitte des Textes</translation>
+    </message>
+    <message>
+        <source>Specify bottom-left point of text</source>
+        <translation>Punkt links unten am Text</translation>
+    </message>
+    <message>
+        <source>Specify bottom-center point of text</source>
+        <translation>Punkt unten in der Mitte des Textes</translation>
+    </message>
+    <message>
+        <source>Specify bottom-right point of text</source>
+        <translation>Punkt rechts unten am Text</translation>
+    </message>
+    <message>
+        <source>Select cutting edges; Enter takes everything.</source>
+        <translation>Schneidende Kanten wählen; Enter nimmt alles.</translation>
+    </message>
+    <message>
+        <source>Select object to trim</source>
+        <translation>Zu stutzendes Objekt wählen</translation>
+    </message>
+    <message>
+        <source>The object does not cross a cutting edge there.</source>
+        <translation>Das Objekt schneidet dort keine schneidende Kante.</translation>
+    </message>
+    <message>
+        <source>Select boundary edges; Enter takes everything.</source>
+        <translation>Grenzkanten wählen; Enter nimmt alles.</translation>
+    </message>
+    <message>
+        <source>Select object to extend</source>
+        <translation>Zu dehnendes Objekt wählen</translation>
+    </message>
+    <message>
+        <source>The object does not reach a boundary edge from there.</source>
+        <translation>Das Objekt erreicht von dort keine Grenzkante.</translation>
+    </message>
+    <message>
+        <source>Invalid point.</source>
+        <translation>Ungültiger Punkt.</translation>
+    </message>
+    <message>
+        <source>A point is needed.</source>
+        <translation>Ein Punkt wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Invalid distance: a number or a point is needed.</source>
+        <translation>Ungültiger Abstand: eine Zahl oder ein Punkt wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>A distance is needed: a number or a point.</source>
+        <translation>Ein Abstand wird gebraucht: eine Zahl oder ein Punkt.</translation>
+    </message>
+    <message>
+        <source>An angle is needed: degrees or a point.</source>
+        <translation>Ein Winkel wird gebraucht: Grad oder ein Punkt.</translation>
+    </message>
+    <message>
+        <source>Invalid whole number.</source>
+        <translation>Ungültige ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>A whole number is needed.</source>
+        <translation>Eine ganze Zahl wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Invalid number.</source>
+        <translation>Ungültige Zahl.</translation>
+    </message>
+    <message>
+        <source>A number is needed.</source>
+        <translation>Eine Zahl wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Invalid text.</source>
+        <translation>Ungültiger Text.</translation>
+    </message>
+    <message>
+        <source>A text is needed.</source>
+        <translation>Ein Text wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>Invalid option.</source>
+        <translation>Ungültige Option.</translation>
+    </message>
+    <message>
+        <source>An option is needed.</source>
+        <translation>Eine Option wird gebraucht.</translation>
+    </message>
+    <message>
+        <source>The value must not be zero.</source>
+        <translation>Der Wert darf nicht null sein.</translation>
+    </message>
+    <message>
+        <source>The value must not be negative.</source>
+        <translation>Der Wert darf nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>The value must be greater than zero.</source>
+        <translation>Der Wert muss größer als null sein.</translation>
+    </message>
+    <message>
+        <source>Specify first fence point</source>
+        <translation>Erster Zaunpunkt</translation>
+    </message>
+    <message>
+        <source>First polygon point</source>
+        <translation>Erster Polygonpunkt</translation>
+    </message>
+    <message>
+        <source>Specify endpoint of line</source>
+        <translation>Endpunkt der Linie</translation>
     </message>
 </context>
 </TS>

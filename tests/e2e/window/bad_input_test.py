@@ -1,6 +1,6 @@
-"""What must not end or harm Drafton's window: files that are no drawings, settings that cannot be
-used, modules that do not start, closing while something waits, and two programs on one settings
-file."""
+"""What must not end or harm Drafton's window: files that are no drawings, catalogs that vanish, settings
+that cannot be used, modules that do not start, closing while something waits, hasty clicks, and two
+programs on one settings file."""
 
 import os
 import pathlib
@@ -137,6 +137,47 @@ def closing_the_palettes_leaves_the_tool(bench):
     bench.leave(program, discard=True)
 
 
+def a_catalog_that_vanishes_leaves_what_is_shown(bench):
+    bench.catalogs = bench.folder / "catalog"
+    shutil.copytree(SAMPLES / "catalog", bench.catalogs)
+    program = bench.start_on_plan()
+    bench.show_tools(program, "Building", "Rooms")
+    shutil.rmtree(bench.catalogs)
+    program.click("list item", "Round column 400")
+    program.find("label", lambda name: "center" in name)
+    bench.screen.type("20000,0 ")
+    program.find("label", "Command:")
+    # What was not looked at before has to be looked for now.
+    program.click("push button", "Change active view")
+    program.click("table cell", "Windows")
+    program.find("page tab", "Windows")
+    program.click("push button", "Change active view")
+    program.click("push button", "Change icon size")
+    bench.screen.key("Down", "Down", "Down", "Return")
+    program.find("list item")
+    bench.draw(program)
+    bench.leave(program, discard=True)
+    assert not bench.catalogs.exists(), "nothing is written where the catalog was"
+
+
+def a_thousand_hasty_clicks_do_no_harm(bench):
+    program = bench.start_on_plan()
+    bench.show_tools(program, "Building", "Rooms")
+    first = program.middle(program.find("list item", "Column 300"))
+    second = program.middle(program.find("list item", "Round column 400"))
+    canvas = program.middle(program.find("filler", "Drawing area"))
+    for _ in range(50):
+        for place in (first, second, canvas, first):
+            bench.screen.click(place, count=5, delay=2)
+    def idle():
+        bench.screen.key("Escape")
+        return program.has("label", "Command:")
+
+    wait_for("the end of the last tool", idle)
+    bench.draw(program)
+    bench.leave(program, discard=True)
+
+
 def what_is_no_drawing_is_named(bench):
     garbage = bench.folder / "garbage.dxf"
     garbage.write_bytes(bytes(range(256)) * 50)
@@ -231,6 +272,7 @@ def two_programs_share_their_settings(bench):
 
 TESTS = [closing_the_drawing_ends_its_tool, closing_the_window_ends_its_tool,
          ending_the_program_ends_its_command, closing_the_palettes_leaves_the_tool,
+         a_catalog_that_vanishes_leaves_what_is_shown, a_thousand_hasty_clicks_do_no_harm,
          what_is_no_drawing_is_named, settings_that_cannot_be_used_are_told_and_left,
          without_a_working_module_drafton_goes_on, two_programs_share_their_settings]
 

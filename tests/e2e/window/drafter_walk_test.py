@@ -116,7 +116,9 @@ class Walk:
         return self.program.middle(self.program.find(role, name))
 
     def show_palette(self, group, palette):
-        self.screen.click(self.scroll_to("table cell", group), count=2)
+        place = self.scroll_to("table cell", group)
+        if not self.program.has("table cell", palette):
+            self.screen.click(place, count=2)
         self.screen.click(self.scroll_to("table cell", palette))
         self.program.find("page tab", palette)
         self.program.click("push button", "Change active view")
@@ -161,7 +163,7 @@ class Walk:
 
     def run_commands(self):
         self.program.click("push button", "Change active view")
-        self.show_palette("Drafting", "Rooms")
+        self.show_palette("Building", "Rooms")
         self.screen.click(self.scroll_to("list item", "Column 300"))
         self.wait_for_prompt("corner")
         self.picture("command-tool")

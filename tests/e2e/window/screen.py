@@ -10,7 +10,7 @@ import tempfile
 import time
 
 SIZE = (2600, 1800)
-PATIENCE = 90  # seconds for whatever is waited for; a loaded machine is slow
+PATIENCE = 60  # seconds for whatever is waited for; a loaded machine is slow
 
 
 def run_on_own_screen():
