@@ -59,6 +59,7 @@ LayerManager::LayerManager(Desktop& desktop, QWidget* parent)
   m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
   m_table->setSelectionMode(QAbstractItemView::SingleSelection);
   m_table->setAccessibleName(translated(u"Layers"));
+  setFocusProxy(m_table);
   m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   auto* const buttons = new QHBoxLayout;
   const auto addButton = [&](const char16_t* text, void (LayerManager::*run)()) {

@@ -113,18 +113,24 @@ void MainWindow::addPanes() {
   resizeDocks({line}, {120}, Qt::Vertical);
 }
 
+/// Shows a pane, and gives it the keys.
+void MainWindow::showPane(const char* name) {
+  auto* const dock = findChild<QDockWidget*>(OdString::fromLatin1(name));
+  dock->show();
+  dock->raise();
+  // Where it floats for the first time it would stand in a corner of the screen.
+  if (dock->isFloating() && !dock->geometry().intersects(geometry()))
+    dock->move(geometry().center() - dock->rect().center());
+  dock->activateWindow();
+  dock->widget()->setFocus();
+}
+
 void MainWindow::connectPanes() {
   m_actions->connectTo(u"layers", [this] {
-    auto* const dock = findChild<QDockWidget*>(QStringLiteral("layers"));
-    dock->show();
-    dock->raise();
+    showPane("layers");
     m_layers->follow();
   });
-  m_actions->connectTo(u"blocks", [this] {
-    auto* const dock = findChild<QDockWidget*>(QStringLiteral("blocks"));
-    dock->show();
-    dock->raise();
-  });
+  m_actions->connectTo(u"blocks", [this] { showPane("blocks"); });
   m_actions->connectTo(u"options", [this] { OptionsDialog(m_desktop, this).exec(); });
   m_actions->connectTo(u"print", [this] { print(); });
   m_actions->connectTo(u"exportPdf", [this] {

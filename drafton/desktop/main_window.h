@@ -51,6 +51,7 @@ class MainWindow : public QMainWindow {
   QDockWidget* addPane(const char* name, const char16_t* title, QWidget* content,
                        Qt::DockWidgetArea area);
   void addPanes();
+  void showPane(const char* name);
   void connectPanes();
   void watchLists(QWidget* former, QWidget* now);
   void followChoice();

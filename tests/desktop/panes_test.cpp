@@ -108,6 +108,16 @@ TEST_F(PanesTest, TheLayerManagerMakesRenamesAndSwitchesLayers) {
   EXPECT_TRUE(history().contains(QStringLiteral("There is no line type \"nonsense\".")));
 }
 
+TEST_F(PanesTest, TheLayersComeUpOverTheWindowWithTheKeys) {
+  window().move(300, 40);
+  auto* const dock = window().findChild<QDockWidget*>(QStringLiteral("layers"));
+  dock->move(-2000, -2000);
+  window().actions().find(u"layers")->trigger();
+  EXPECT_TRUE(window().geometry().contains(dock->geometry().center()));
+  QApplication::processEvents();
+  EXPECT_TRUE(window().layers().table().hasFocus());
+}
+
 TEST_F(PanesTest, TheBlockListBeginsToInsert) {
   type("CIRCLE 0,0 1 BLOCK dot 0,0 Last\n\n");
   window().actions().find(u"blocks")->trigger();
