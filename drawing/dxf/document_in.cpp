@@ -164,6 +164,8 @@ void OdDbDxfReader::readTable() {
 void OdDbDxfReader::readRecord(OdDbSymbolTable& table) {
   const OdDbSymbolTableRecordPtr record = table.newRecord();
   m_in.readTags(*record);
+  // Half a record at the end of a cut file says nothing about the record.
+  if (m_in.isDamaged()) return;
   if (record->getName().isEmpty() && record->mayBeNameless()) {
     m_in.enter(*record, table.objectId());
     return;

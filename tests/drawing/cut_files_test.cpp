@@ -62,3 +62,14 @@ TEST(CutFiles, BinaryFileCutAtAnyByteIsRefusedOrOpensWithAReport) {
             QStringList());
   EXPECT_GT(openEveryPiece(whole, 0), 400);
 }
+
+TEST(CutFiles, CutInARecordSaysSoAndNotWhatTheRecordLacks) {
+  const QByteArray whole = kSmall;
+  const qsizetype name = whole.indexOf("AcDbLayerTableRecord\n") + 21;
+  try {
+    OdDbDatabase::readDxf(whole.left(name), QStringLiteral("cut.dxf"));
+    FAIL() << "opened without its tables";
+  } catch (const OdFileError& e) {
+    EXPECT_EQ(e.reason(), QStringLiteral("the file ends too early"));
+  }
+}

@@ -6,7 +6,6 @@
 #include "drawing/id_mapping.h"
 #include "drawing/moved_xdata.h"
 #include "drawing/objects/named_styles.h"
-#include "drawing/objects/raw_object.h"
 
 namespace drafton {
 namespace {
@@ -45,22 +44,15 @@ Selection copyEntities(CommandContext& context, const Selection& entities, const
   OdDbIdMapping mapping;
   // All of one space at once: what refers to each other among them does so among the copies.
   std::vector<std::pair<OdDbObjectId, Selection>> bySpace;
-  Selection copied;
   for (const OdDbObjectId& id : entities) {
-    const auto original = id.openAs<OdDbEntity>();
-    if (odrxCast<OdDbRawEntity>(original.get())) {
-      ++refused;
-      continue;
-    }
-    copied.push_back(id);
-    const OdDbObjectId space = original->ownerId();
+    const OdDbObjectId space = id.openAs<OdDbEntity>()->ownerId();
     auto at = std::find_if(bySpace.begin(), bySpace.end(),
                            [&](const auto& entry) { return entry.first == space; });
     if (at == bySpace.end()) at = bySpace.insert(at, {space, {}});
     at->second.push_back(id);
   }
   for (const auto& [space, ids] : bySpace) database.deepCloneObjects(ids, space, mapping);
-  for (const OdDbObjectId& id : copied) {
+  for (const OdDbObjectId& id : entities) {
     const auto copy = mapping.find(id).openAs<OdDbEntity>(OdDb::kForWrite);
     if (mover(*copy)) {
       made.push_back(copy->objectId());

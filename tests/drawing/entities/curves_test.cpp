@@ -190,6 +190,25 @@ TEST(Curves, PolylinesExplodeIntoLinesAndArcs) {
   expectNear(arc->getClosestPointTo(middle), middle);
 }
 
+TEST(Curves, WidthsGoAlongTheChordsThatArcsBecome) {
+  const OdDbPolylinePtr shape = stadium();
+  for (unsigned i = 0; i < 4; ++i) shape->setWidthsAt(i, i, i + 1.0);
+  const OdDbPolylinePtr chords = shape->getTransformedCopy(OdGeMatrix3d::scaling(4, 1, 1));
+  ASSERT_TRUE(chords);
+  const unsigned count = chords->numVerts();
+  ASSERT_GT(count, 8U);
+  // Areas grow fourfold, and widths by the root of it.
+  double before = 0;
+  for (unsigned i = 0; i < count; ++i) {
+    const OdDbPolyline::Vertex corner = chords->vertexAt(i);
+    EXPECT_NEAR(corner.startWidth, before, 1e-9) << i;
+    EXPECT_GT(corner.endWidth, corner.startWidth);
+    EXPECT_EQ(corner.bulge, 0);
+    before = corner.endWidth;
+  }
+  EXPECT_NEAR(before, 8, 1e-9);
+}
+
 TEST(Curves, ACircleSeenAskewIsAnEllipseWithItsProperties) {
   const auto circle = odrxMake<OdDbCircle>(OdGePoint3d{5, 0, 0}, kZ, 2);
   circle->setColor(OdCmColor::fromColorIndex(3));

@@ -64,6 +64,29 @@ class EditCommands : public CommandFixture {
 
 } // namespace
 
+TEST_F(EditCommands, CopiesWhatIsKeptAsTheFileHadItIfItCanBeMoved) {
+  QByteArray file = OdDbDatabase::createDatabase()->writeDxf();
+  file.replace("\r\n", "\n");
+  QByteArray kept = "0|WIPEOUT|5|F0|100|AcDbEntity|8|0|100|AcDbWipeout|90|0|10|1.0|20|2.0|30|0.0|"
+                    "11|4.0|21|0.0|31|0.0|12|0.0|22|3.0|32|0.0|13|1.0|23|1.0|340|0|70|7|280|1|"
+                    "281|50|282|50|283|0|360|0|71|2|91|4|14|-0.5|24|-0.5|14|0.5|24|-0.5|14|0.5|24|"
+                    "0.5|14|-0.5|24|-0.5|0|MYSTERY|5|F1|100|AcDbEntity|8|0|100|AcDbMystery|";
+  file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")), kept.replace('|', '\n'));
+  QTemporaryDir folder;
+  const OdString path = folder.filePath(QStringLiteral("kept.dxf"));
+  QFile out(path);
+  ASSERT_TRUE(out.open(QFile::WriteOnly));
+  out.write(file);
+  out.close();
+  type(QStringLiteral("INSERT\n*kept=%1\n0,0\n1\n0\n").arg(path));
+  runScript(u"COPY|all||0,0|10,0||");
+  EXPECT_FALSE(isRunning());
+  QByteArray copied = dxf();
+  EXPECT_EQ(copied.count("\nWIPEOUT"), 2);
+  EXPECT_EQ(copied.count("\nMYSTERY"), 1);
+  EXPECT_TRUE(console().shows(QStringLiteral("1 could not be copied.")));
+}
+
 TEST_F(EditCommands, WhatIsChosenBeforeACommandIsNotAskedFor) {
   runScript(u"LINE|0,0|10,0||CIRCLE|20,0|2|QSELECT|CIRCLE|*|*||i|ERASE");
   EXPECT_FALSE(isRunning());
