@@ -54,7 +54,7 @@ void takePattern(Hatch& agent, const OdDbHatch& hatch) {
 void tellUnknownPattern(const Hatch& agent) {
   const bool hasPattern =
       agent.fields().hatchObjectType == 0 && agent.getHatchType() != OdDbHatch::kUserDefined;
-  if (hasPattern && !isPatternKnown(agent.getPatternName()))
+  if (hasPattern && !isPatternKnown(agent.getPatternName(), agent.patternFile()))
     host::print(formatText(
         host::translate(QStringLiteral(
             "\nThe hatch pattern \"%s\" is in no file of patterns: its tool cannot hatch here.")),
