@@ -1,10 +1,13 @@
 #include "drafton/engine/drawing_files.h"
 
 #include "drafton/engine/dwg_converter.h"
+#include "drafton/engine/dxf_versions.h"
 #include "drafton/engine/engine.h"
 #include "drafton/engine/saved_facts.h"
+#include "drafton/engine/translator.h"
 #include "drawing/foreign_drawings.h"
 #include "drawing/replaced_file.h"
+#include "drawing/version_losses.h"
 #include "frame/file_path.h"
 
 #include <QFile>
@@ -102,6 +105,17 @@ OdDbDatabasePtr readConverted(const OdString& made, const OdString& path) {
   return OdDbDatabase::readDxf(all, path);
 }
 
+/// Older versions take less; what they leave out stays in the drawing while it is open.
+void tellLosses(Engine& engine, const OdDbDatabase& database, OdDb::DwgVersion version) {
+  const OdDb::DwgVersion written =
+      version == OdDb::kVersionUnknown ? database.originalFileVersion() : version;
+  QStringList kinds = oddb::lossesInVersion(database, written);
+  if (kinds.isEmpty()) return;
+  for (OdString& kind : kinds) kind = translated(kind);
+  engine.print(translated(u"Files of %1 do not hold: %2.")
+                   .arg(dxfVersionName(written), kinds.join(QStringLiteral(", "))));
+}
+
 } // namespace
 
 bool isConvertedDrawing(const OdString& path) {
@@ -132,6 +146,7 @@ OdDbDatabasePtr readConvertedDrawing(Engine& engine, const OdString& path) {
 void writeDrawing(Engine& engine, OdDbDatabase& database, const OdString& path,
                   OdDb::DwgVersion version) {
   tellExtents(database);
+  tellLosses(engine, database, version);
   if (!isConvertedDrawing(path)) {
     database.writeFile(path, version);
     return;

@@ -3467,5 +3467,25 @@
         <source>Specify endpoint of line</source>
         <translation>Endpunkt der Linie</translation>
     </message>
+    <message>
+        <source>Files of %1 do not hold: %2.</source>
+        <translation>Dateien von %1 fassen nicht: %2.</translation>
+    </message>
+    <message>
+        <source>true colours</source>
+        <translation>Echtfarben</translation>
+    </message>
+    <message>
+        <source>transparencies</source>
+        <translation>Transparenzen</translation>
+    </message>
+    <message>
+        <source>gradients</source>
+        <translation>Farbverläufe</translation>
+    </message>
+    <message>
+        <source>attributes of several lines</source>
+        <translation>mehrzeilige Attribute</translation>
+    </message>
 </context>
 </TS>
