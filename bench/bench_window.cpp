@@ -9,6 +9,7 @@
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
 #include "images/image_list.h"
+#include "module/properties.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -167,7 +167,7 @@ TEST_F(PaletteWindow, EmptyAndUnknownPiecesOfWhatWasExpandedAreSkipped) {
   addPalette(QStringLiteral("Doors"), {}, group);
   addPalette(QStringLiteral("Walls"), {QStringLiteral("Wall")});
   store().values[QStringLiteral("ExpandedItems")] =
-      OdVariant(OdString(u"||{gone}||" + group->id() + u'|'));
+      OdVariant(QStringLiteral("||{gone}||") + group->id() + u'|');
   store().values[QStringLiteral("LastSelected")] = OdVariant(OdString(QStringLiteral("{gone}")));
   open();
   EXPECT_TRUE(tree().isExpanded(tree().catalogs().indexOf(group)));
