@@ -30,6 +30,14 @@ OdDbDatabasePtr newLike(const OdDbDatabase& source) {
 OdDbDatabase& sourceOf(const OdDbDatabase& database) { return const_cast<OdDbDatabase&>(database); }
 
 /// The entities move together or not at all.
+std::vector<OdDbObjectId> entitiesOf(OdDbObjectId block) {
+  std::vector<OdDbObjectId> ids;
+  const auto record = block.openAs<OdDbBlockTableRecord>();
+  for (const auto it = record->newIterator(); !it->done(); it->step())
+    ids.push_back(it->objectId());
+  return ids;
+}
+
 bool moveAll(const std::vector<OdDbObjectId>& entities, const OdGeMatrix3d& transform) {
   std::size_t moved = 0;
   while (moved < entities.size()) {
@@ -148,6 +156,12 @@ OdDbDatabasePtr OdDbDatabase::wblock(OdDbObjectId blockId) const {
   oddb::Cloner cloner(sourceOf(*this), *made, mapping, OdDb::kDrcReplace);
   cloner.addEntitiesOf(blockId, made->getModelSpaceId());
   cloner.run();
+  // A block that contains itself came along as a record, whose contents went to the model space.
+  const OdDbObjectId again = mapping.find(blockId);
+  if (again.isValid() && again != made->getModelSpaceId()) {
+    OdDbIdMapping within;
+    made->deepCloneObjects(entitiesOf(made->getModelSpaceId()), again, within);
+  }
   if (!block->isLayout()) made->setSysVar(QStringLiteral("INSBASE"), block->origin());
   // What was said of the block is said of the drawing's contents, until that is a block again.
   if (!block->comments().isEmpty())
@@ -192,10 +206,7 @@ OdDbObjectId OdDbDatabase::insert(const OdString& sourceBlockName, const OdStrin
 void OdDbDatabase::insert(const OdGeMatrix3d& transform, OdDbDatabase* source, bool) {
   if (source == this)
     throw OdError(eInvalidInput, QStringLiteral("A drawing cannot be inserted into itself"));
-  std::vector<OdDbObjectId> entities;
-  const auto space = source->getModelSpaceId().openAs<OdDbBlockTableRecord>();
-  for (const auto it = space->newIterator(); !it->done(); it->step())
-    entities.push_back(it->objectId());
+  const std::vector<OdDbObjectId> entities = entitiesOf(source->getModelSpaceId());
   OdDbIdMapping mapping;
   wblockCloneObjects(entities, getModelSpaceId(), mapping);
   for (const OdDbObjectId id : entities)

@@ -146,6 +146,7 @@ TEST_F(ToolRunTest, AHatchToolOfNoKindSendsNothingAndIsEnteredAllTheSame) {
   theHost().log.clear();
   runnable(u"S"_s)->execute(&other);
   EXPECT_TRUE(wasTold({u"Tool \"O\" is already running in document \"A.dxf\""_s}));
+  theHost().documents.activate(document);
   theHost().log.clear();
   theHost().events.commandEnded(u"LINE"_s);
   EXPECT_EQ(theHost().log, QStringList({u"restore O.one"_s, u"restore O.two"_s}));

@@ -65,7 +65,7 @@ TEST_F(ModuleLoadingTest, LoadingAloneRegistersTheCommands) {
   EXPECT_EQ(host().liveFactories, 0);
   EXPECT_FALSE(odrxFindClass(QStringLiteral("OdTcPersist"))) << "nothing else is up yet";
   oddynlib::unload(handle);
-  EXPECT_EQ(host().commands.size(), 5) << "the registrations are not taken back";
+  EXPECT_EQ(host().commands.size(), 6) << "the registrations are not taken back";
 }
 
 TEST_F(ModuleLoadingTest, RunsFromLoadingToUnloadingAHundredTimes) {

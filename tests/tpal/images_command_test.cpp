@@ -210,7 +210,9 @@ TEST_F(Images, ThatCannotBeWrittenAreNamed) {
   writeCatalog(blockTool("{1}", "Door", writeSource()));
   write(QStringLiteral("c/Palettes/Images"), "a file where the folder should be");
   EXPECT_EQ(images({kMissing}), tpal::kFindings);
-  EXPECT_TRUE(out().contains(QStringLiteral("cannot be written"))) << qPrintable(out() + err());
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images\\Door16.png: ")));
+  EXPECT_TRUE(out().contains(QStringLiteral("\\c\\Palettes\\Images is a file and no folder")))
+      << qPrintable(out() + err());
   EXPECT_EQ(read(QStringLiteral("c/Palettes/Images")), "a file where the folder should be");
 }
 

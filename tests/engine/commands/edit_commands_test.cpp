@@ -7,6 +7,7 @@
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/raster_image.h"
+#include "drawing/id_mapping.h"
 #include "drawing/objects/group.h"
 #include "drawing/objects/named_styles.h"
 #include "drawing/tables/dim_var_values.h"
@@ -72,13 +73,13 @@ TEST_F(EditCommands, CopiesWhatIsKeptAsTheFileHadItIfItCanBeMoved) {
                     "281|50|282|50|283|0|360|0|71|2|91|4|14|-0.5|24|-0.5|14|0.5|24|-0.5|14|0.5|24|"
                     "0.5|14|-0.5|24|-0.5|0|MYSTERY|5|F1|100|AcDbEntity|8|0|100|AcDbMystery|";
   file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")), kept.replace('|', '\n'));
-  QTemporaryDir folder;
-  const OdString path = folder.filePath(QStringLiteral("kept.dxf"));
-  QFile out(path);
-  ASSERT_TRUE(out.open(QFile::WriteOnly));
-  out.write(file);
-  out.close();
-  type(QStringLiteral("INSERT\n*kept=%1\n0,0\n1\n0\n").arg(path));
+  const OdDbDatabasePtr source = OdDbDatabase::readDxf(file, QStringLiteral("kept.dxf"));
+  std::vector<OdDbObjectId> ids;
+  const auto space = source->getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  for (const auto at = space->newIterator(); !at->done(); at->step()) ids.push_back(at->objectId());
+  ASSERT_EQ(ids.size(), 2U);
+  OdDbIdMapping mapping;
+  database().wblockCloneObjects(ids, database().getModelSpaceId(), mapping, OdDb::kDrcIgnore);
   runScript(u"COPY|all||0,0|10,0||");
   EXPECT_FALSE(isRunning());
   QByteArray copied = dxf();
