@@ -29,7 +29,6 @@ OdDbDatabasePtr newLike(const OdDbDatabase& source) {
 /// Cloning asks for drawings that can be changed, but changes nothing in the source.
 OdDbDatabase& sourceOf(const OdDbDatabase& database) { return const_cast<OdDbDatabase&>(database); }
 
-/// The entities move together or not at all.
 std::vector<OdDbObjectId> entitiesOf(OdDbObjectId block) {
   std::vector<OdDbObjectId> ids;
   const auto record = block.openAs<OdDbBlockTableRecord>();
@@ -38,6 +37,7 @@ std::vector<OdDbObjectId> entitiesOf(OdDbObjectId block) {
   return ids;
 }
 
+/// The entities move together or not at all.
 bool moveAll(const std::vector<OdDbObjectId>& entities, const OdGeMatrix3d& transform) {
   std::size_t moved = 0;
   while (moved < entities.size()) {
