@@ -423,6 +423,7 @@ TEST_F(KeptValues, ColumnsThatStandInTextsOfTheirOwnStayAsTheyAre) {
   columns.count = 2;
   columns.width = 20;
   const auto text = odrxMake<OdDbMText>();
+  text->setContents(QStringLiteral("two columns"));
   text->setColumns(columns);
   append(*m_db, text);
   const QByteArray file = m_db->writeDxf(OdDb::kR2013);

@@ -199,7 +199,6 @@ TEST(Cloning, CopiesBlocksThatContainThemselvesOnce) {
   door.openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
       ->appendOdDbEntity(odrxMake<OdDbBlockReference>(room, OdGePoint3d{1, 2, 0}));
   const OdDbDatabasePtr made = db->wblock(room);
-  EXPECT_EQ(auditOf(*made), "");
   const OdDbObjectId copy = blockNamed(*made, "ROOM");
   ASSERT_TRUE(copy.isValid());
   EXPECT_EQ(entitiesOf(copy).size(), entitiesOf(room).size());
