@@ -49,6 +49,7 @@ class WindowServicesTest : public DesktopFixture {
     return kvQuery<IHostWindowServices>(&desktop().engine().services());
   }
   void make(PaneLog& log) {
+    log.heard.clear();
     log.content = new QLabel(QStringLiteral("content"));
     log.pane =
         windows()->createPane(QStringLiteral("Test"), QStringLiteral("A pane"), log.content, &log);

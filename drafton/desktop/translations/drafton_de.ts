@@ -3487,5 +3487,13 @@
         <source>attributes of several lines</source>
         <translation>mehrzeilige Attribute</translation>
     </message>
+    <message>
+        <source>A polygon needs three corners.</source>
+        <translation>Ein Vieleck braucht drei Ecken.</translation>
+    </message>
+    <message>
+        <source>A fence needs two points.</source>
+        <translation>Ein Zaun braucht zwei Punkte.</translation>
+    </message>
 </context>
 </TS>
