@@ -319,6 +319,8 @@ TEST_F(MainWindowTest, FilesThatAreDroppedAreOpenedAndOthersNamed) {
   files.setUrls({QUrl::fromLocalFile(garbage.fileName()), QUrl::fromLocalFile(path("missing.dxf")),
                  QUrl(QStringLiteral("https://somewhere/plan.dxf")), QUrl::fromLocalFile(good)});
   type("LINE 0,0 ");
+  QDragEnterEvent enter(QPoint(200, 200), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window(), &enter);
   QDropEvent drop(QPointF(200, 200), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&window(), &drop);
   // The line has to end first.
