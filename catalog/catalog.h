@@ -1,6 +1,7 @@
 // The root of one catalog file.
 #pragma once
 
+#include "catalog/catalog_loading.h"
 #include "catalog/group.h"
 #include "catalog/import_report.h"
 #include "catalog/palette_loader.h"
@@ -40,6 +41,11 @@ class OdTcCatalog : public OdTcCatalogItem {
   /// Reads the catalog file and its palettes. False if that fails: without a message if there is no
   /// file, else with the path and the reason on the command line. The path is kept in all cases.
   virtual bool load(const OdString& path) = 0;
+  /// The same for the catalog file alone: its palettes wait. Each of the operations here that has
+  /// to do with palettes reads those that still wait first, and tells the reactors of them.
+  virtual bool beginLoad(const OdString& path) = 0;
+  /// Reads them one by one, and tells which are there. Never null.
+  virtual OdTcCatalogLoading* loading() const = 0;
 
   /// Reads a palette that another program exported, takes what can run here into the catalog,
   /// copies the pictures, and saves the palette and the catalog. Null, with nothing changed in

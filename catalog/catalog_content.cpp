@@ -45,6 +45,7 @@ OdString OdTcCatalogImpl::pathFor(const OdTcToolPalette& palette) const {
 }
 
 void OdTcCatalogImpl::addPalette(OdTcToolPalette* palette) {
+  complete();
   // A catalog that is nowhere yet has no folder for palettes; its first save gives them their
   // place.
   if (!m_path.isEmpty()) palette->getDatabase()->setPath(pathFor(*palette));

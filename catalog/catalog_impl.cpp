@@ -6,7 +6,6 @@
 #include "catalog/group_tree.h"
 #include "catalog/owner_link.h"
 #include "catalog/palette_loader_impl.h"
-#include "catalog/read_file.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
@@ -30,6 +29,7 @@ void OdTcCatalogImpl::clearContent() {
   for (const OdTcToolPalettePtr& palette : m_palettes) forgetOwner(palette, this);
   m_palettes.clear();
   m_paletteIndex.drop();
+  m_pending.clear();
   m_loaders = odrxMake<OdTcPaletteLoaderListImpl>();
   m_loaders->setOwnerQuiet(this);
   m_groups = odrxMake<OdTcGroupListImpl>();
@@ -64,23 +64,27 @@ void OdTcCatalogImpl::forgetInCatalog(OdTcPersist* object) {
 OdString OdTcCatalogImpl::palettesFolder() const { return palettesFolderOf(m_path); }
 
 OdTcEnumPtr<OdTcToolPalette> OdTcCatalogImpl::palettesEnum() const {
-  return odrxMake<OdTcEnumImpl<OdTcToolPalette, Palettes>>(this, m_palettes);
+  complete();
+  return palettesSoFar();
 }
 
 OdTcEnumPtr<OdTcCatalogItem> OdTcCatalogImpl::children() const {
+  complete();
   return odrxMake<OdTcEnumImpl<OdTcCatalogItem, Palettes>>(this, m_palettes);
 }
 
 bool OdTcCatalogImpl::isContainer(const OdString& name) const {
+  complete();
   return !m_palettes.empty() || m_groups->isContainer(name);
 }
 
 OdTcToolPalette* OdTcCatalogImpl::findPalette(const OdString& id) const {
-  const qsizetype position = m_paletteIndex.find(m_palettes, id);
-  return position < 0 ? nullptr : m_palettes[static_cast<std::size_t>(position)].get();
+  complete();
+  return findSoFar(id);
 }
 
 OdTcToolPalette* OdTcCatalogImpl::findPaletteByName(const OdString& name) const {
+  complete();
   for (const OdTcToolPalettePtr& palette : m_palettes)
     if (palette->name() == name) return palette;
   return nullptr;
@@ -96,7 +100,7 @@ OdTcPaletteSoftRef* OdTcCatalogImpl::findInGroups(const OdTcCatalogItem* palette
 }
 
 bool OdTcCatalogImpl::findItem(const OdString& id) const {
-  return m_paletteIndex.find(m_palettes, id) >= 0 || m_groups->contains(id);
+  return findPalette(id) || m_groups->contains(id);
 }
 
 void OdTcCatalogImpl::takeIn(OdTcToolPalette* palette) {
@@ -104,29 +108,10 @@ void OdTcCatalogImpl::takeIn(OdTcToolPalette* palette) {
   m_palettes.emplace_back(palette);
 }
 
-bool OdTcCatalogImpl::load(const OdString& path) {
-  m_path = path;
-  m_unread.note(path, OdString());
-  if (!odrxSystemServices()->fileExists(path)) return false;
-  clearContent();
-  const ReadOutcome outcome = readFile(path, *makeCatalogFiler(), this, &OdTcFiler::openCatalog);
-  m_unread.note(path, outcome.problem);
-  if (!outcome.isRead) {
-    // What was read up to the failure is no catalog.
-    clearContent();
-    return false;
-  }
-  for (int i = 0; i < m_loaders->count(); ++i) {
-    auto* const loader = static_cast<OdTcPaletteLoader*>(m_loaders->at(i));
-    if (const OdTcToolPalettePtr palette = loader->loadPaletteFromCatalog()) takeIn(palette);
-  }
-  markReferenced(this, referencedIds(m_groups));
-  return true;
-}
-
 bool OdTcCatalogImpl::save(const OdString& path) { return CatalogSave(*this, path).run(); }
 
 void OdTcCatalogImpl::writeFields(OdTcFiler* filer) {
+  complete();
   OdTcCatalogItemImplBase::writeFields(filer);
   filer->writeAttribute(QStringLiteral("FileRevision"), m_fileRevision);
   filer->writeObject(m_loaders);

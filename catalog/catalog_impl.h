@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalog/catalog.h"
+#include "catalog/pending_palettes.h"
 #include "catalog/tool_palette.h"
 #include "catalog/unread_file.h"
 #include "module/catalog_item_impl.h"
@@ -10,7 +11,7 @@
 
 namespace tc {
 
-class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
+class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog>, private OdTcCatalogLoading {
  public:
   OdTcCatalogImpl();
   ~OdTcCatalogImpl() override;
@@ -24,7 +25,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   bool save() override { return !m_path.isEmpty() && save(OdString(m_path)); }
   OdTcEnumPtr<OdTcCatalogItem> groupsEnum() const override { return m_groups->items(); }
   OdTcEnumPtr<OdTcToolPalette> palettesEnum() const override;
-  OdTcEnumPtr<OdTcCatalogItem> loadersEnum() const override { return m_loaders->items(); }
+  OdTcEnumPtr<OdTcCatalogItem> loadersEnum() const override { return loaders()->items(); }
   OdTcToolPalette* findPalette(const OdString& id) const override;
   OdTcToolPalette* findPaletteByName(const OdString& name) const override;
   OdTcPaletteSoftRef* findInGroups(const OdTcCatalogItem* palette) const override;
@@ -34,12 +35,18 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   bool isDefault() const override { return m_isDefault; }
   void setDefault(bool isDefault) override { m_isDefault = isDefault; }
   bool load(const OdString& path) override;
+  bool beginLoad(const OdString& path) override;
+  OdTcCatalogLoading* loading() const override { return const_cast<OdTcCatalogImpl*>(this); }
   OdTcToolPalette* importPaletteFile(const OdString& path) override;
   OdTcToolPalettePtr importPalette(const OdString& path, const OdTcImportOptions& options,
                                    OdTcImportReport& report) override;
   void addPalette(OdTcToolPalette* palette) override;
   OdTcGroupList* groups() const override { return m_groups; }
-  OdTcPaletteLoaderList* loaders() const override { return m_loaders; }
+  OdTcPaletteLoaderList* loaders() const override {
+    // A palette's file may give its loader another id.
+    complete();
+    return m_loaders;
+  }
   OdString fileRevision() const override { return m_fileRevision; }
   bool isUnread() const override { return m_unread.isAt(m_path); }
   OdString readProblem() const override { return m_unread.problemAt(m_path); }
@@ -69,6 +76,18 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   friend class CatalogEntry;
   using Palettes = std::vector<OdTcToolPalettePtr>;
 
+  int pendingCount() const override { return m_pending.count(); }
+  bool loadNext() override { return loadAndTell(m_pending.takeFirst()); }
+  bool loadWaiting(const OdString& id) override { return loadAndTell(m_pending.take(id)); }
+  OdTcEnumPtr<OdTcToolPalette> palettesSoFar() const override;
+  OdTcToolPalette* findSoFar(const OdString& id) const override;
+
+  /// Reads the palettes that wait. Called by whatever looks at palettes or loaders.
+  void complete() const;
+  bool loadAndTell(const std::optional<PendingPalettes::Entry>& entry);
+  /// Reads one palette and puts it in its place; null if it gives none.
+  OdTcToolPalettePtr bring(const PendingPalettes::Entry& entry);
+  void finishLoad();
   void clearContent();
   void takeIn(OdTcToolPalette* palette);
   void removePalette(const OdTcToolPalettePtr& palette);
@@ -87,8 +106,10 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog> {
   // else.
   std::vector<OdTcPersistPtr> m_registered;
   OdSmartPtr<OdTcPaletteLoaderList> m_loaders;
+  /// Complete only behind complete().
   Palettes m_palettes;
   OdTcItemIndex m_paletteIndex;
+  PendingPalettes m_pending;
   OdSmartPtr<OdTcGroupList> m_groups;
   OdString m_fileRevision;
   OdString m_path;

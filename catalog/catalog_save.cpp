@@ -41,6 +41,7 @@ CatalogSave::~CatalogSave() {
 }
 
 bool CatalogSave::run() {
+  m_catalog.complete();
   m_catalog.m_unread.keepBefore(m_path);
   m_catalog.m_path = m_path;
   for (const OdTcToolPalettePtr& palette : m_catalog.m_palettes)

@@ -81,6 +81,17 @@ OdTcPaletteManagerImpl::~OdTcPaletteManagerImpl() {
   if (m_watched && m_watched == host::application())
     m_watched->removePropReactor(watchedSetting(), m_watcher.get());
   m_watcher->disconnect();
+  if (m_idle) m_idle->remove(this);
+}
+
+bool OdTcPaletteManagerImpl::doPiece() {
+  for (const auto& [path, catalog] : m_catalogs) {
+    if (catalog->loading()->pendingCount() == 0) continue;
+    // Whoever hears of the palette may change the map.
+    const OdTcCatalogPtr held = catalog;
+    return held->loading()->loadNext();
+  }
+  return false;
 }
 
 template <class Notify>
@@ -104,7 +115,8 @@ void OdTcPaletteManagerImpl::removeReactor(OdTcPaletteManagerReactor* reactor) {
 bool OdTcPaletteManagerImpl::openCatalog(const OdString& path) {
   const OdString key = catalogKey(path);
   const OdTcCatalogPtr catalog = OdTcCatalog::createObject();
-  if (!catalog->load(key)) {
+  const auto idle = host::service<IHostIdle>();
+  if (!(idle ? catalog->beginLoad(key) : catalog->load(key))) {
     catalog->setId(odrxSystemServices()->createGuid());
     catalog->setName(host::translate(QStringLiteral("Tool Palettes")));
   }
@@ -115,6 +127,10 @@ bool OdTcPaletteManagerImpl::openCatalog(const OdString& path) {
   notify([&](OdTcPaletteManagerReactor& r) { r.catalogAdded(catalog); });
   // A reactor may have removed the catalog again.
   if (catalog->isDefault() && findCatalog(key) == catalog.get()) m_active = catalog;
+  if (catalog->loading()->pendingCount() > 0) {
+    m_idle = idle;
+    m_idle->add(this);
+  }
   return true;
 }
 

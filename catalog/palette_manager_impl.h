@@ -5,6 +5,7 @@
 #include "catalog/palette_manager.h"
 
 #include "host/application.h"
+#include "host/idle.h"
 
 #include <cstdint>
 #include <map>
@@ -17,7 +18,9 @@ namespace tc {
 /// A catalog is kept under the path of its file in one form (see catalogKey), so that a folder that
 /// is configured twice in two ways of writing gives one catalog and not two that save over each
 /// other.
-class OdTcPaletteManagerImpl : public OdTcPaletteManager {
+///
+/// With a host that can do work while it is idle, the palettes of a catalog come then.
+class OdTcPaletteManagerImpl : public OdTcPaletteManager, private IHostIdleWork {
  public:
   using CatalogMap = std::map<OdString, OdTcCatalogPtr>;
 
@@ -61,6 +64,8 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   bool m_openFlag = false;
 
  private:
+  /// Reads one of the palettes that wait.
+  bool doPiece() override;
   OdTcCatalog* findCatalog(const OdString& key) const;
   template <class Notify>
   void notify(Notify call) const;
@@ -75,6 +80,7 @@ class OdTcPaletteManagerImpl : public OdTcPaletteManager {
   QStringList m_drawingExtensions;
   KVPtr<TcCfgChangeReactor> m_watcher;
   IHostApplication* m_watched = nullptr;
+  KVPtr<IHostIdle> m_idle; ///< null until palettes had to wait
 };
 
 } // namespace tc

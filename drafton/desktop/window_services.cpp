@@ -3,6 +3,7 @@
 #include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/exchange.h"
 #include "drafton/desktop/help_window.h"
+#include "drafton/desktop/idle_work.h"
 #include "drafton/desktop/inspector_control.h"
 #include "drafton/desktop/main_window.h"
 #include "drafton/desktop/message_boxes.h"
@@ -144,6 +145,7 @@ void offerWindowServices(HostServices& services, MainWindow& window) {
   services.offer(IHostWindowControls::kId, kvMake<WindowControls>().get());
   services.offer(IHostInspectorService::kId, kvMake<InspectorService>().get());
   services.offer(IHostMessageBoxes::kId, kvMake<MessageBoxes>(&window).get());
+  services.offer(IHostIdle::kId, kvMake<IdleWork>().get());
   services.offer(IHelpService::kId, kvMake<HelpService>(window).get());
   const auto formats = std::make_shared<ExchangeFormats>();
   services.offer(IHostClipboard::kId, kvMake<SystemClipboard>(formats).get());

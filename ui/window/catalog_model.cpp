@@ -29,7 +29,7 @@ TcUiCatalogModel::TcUiCatalogModel(TcUiItemPictures& pictures)
   : m_pictures(pictures)
   , m_manager(OdTcPaletteManager::instance()) {
   m_late.setSingleShot(true);
-  connect(&m_late, &QTimer::timeout, this, [this] { refresh(); });
+  connect(&m_late, &QTimer::timeout, this, [this] { syncAll(m_lateDepth); });
   if (m_manager) m_manager->addReactor(this);
   refresh();
 }
@@ -39,19 +39,42 @@ TcUiCatalogModel::~TcUiCatalogModel() {
   for (auto it = m_watched.keyBegin(); it != m_watched.keyEnd(); ++it) (*it)->removeReactor(this);
 }
 
-void TcUiCatalogModel::refresh() {
+void TcUiCatalogModel::refresh() { syncAll(Depth::kTools); }
+
+void TcUiCatalogModel::syncAll(Depth depth) {
   m_late.stop();
+  m_lateDepth = Depth::kPalettes;
   if (m_isSyncing) return;
   m_isSyncing = true;
-  sync(*m_root);
+  sync(*m_root, depth);
   m_isSyncing = false;
+}
+
+void TcUiCatalogModel::syncLater(Depth depth) {
+  m_lateDepth = std::max(m_lateDepth, depth);
+  m_late.start(0);
+}
+
+int TcUiCatalogModel::pendingCount() const {
+  int count = 0;
+  for (OdTcCatalogItem* const catalog : catalogsOf(m_manager))
+    count += static_cast<OdTcCatalog*>(catalog)->loading()->pendingCount();
+  return count;
+}
+
+bool TcUiCatalogModel::loadWaiting(const OdString& id) {
+  const TcUiItems catalogs = catalogsOf(m_manager);
+  return std::any_of(catalogs.begin(), catalogs.end(), [&](OdTcCatalogItem* catalog) {
+    return static_cast<OdTcCatalog*>(catalog)->loading()->loadWaiting(id);
+  });
 }
 
 std::vector<OdTcCatalogItem*> TcUiCatalogModel::wanted(const Node& node) const {
   return node.item ? treeChildren(*node.item) : catalogsOf(m_manager);
 }
 
-void TcUiCatalogModel::sync(Node& node) {
+void TcUiCatalogModel::sync(Node& node, Depth depth) {
+  if (depth == Depth::kPalettes && odrxCast<OdTcToolPalette>(node.item.get())) return;
   const TcUiItems items = wanted(node);
   const std::unordered_set<const OdTcCatalogItem*> kept(items.begin(), items.end());
   for (std::size_t row = node.children.size(); row-- > 0;)
@@ -74,7 +97,7 @@ void TcUiCatalogModel::sync(Node& node) {
   // A reference that stands twice in its group has one place too many.
   while (node.children.size() > items.size())
     remove(node, static_cast<int>(node.children.size()) - 1);
-  for (const auto& child : node.children) sync(*child);
+  for (const auto& child : node.children) sync(*child, depth);
 }
 
 std::unique_ptr<TcUiCatalogModel::Node> TcUiCatalogModel::make(OdTcCatalogItem* item,
@@ -130,7 +153,9 @@ void TcUiCatalogModel::catalogAdded(OdTcCatalog*) { refresh(); }
 
 void TcUiCatalogModel::catalogRemoved(OdTcCatalog* catalog) { removeItem(*m_root, catalog); }
 
-void TcUiCatalogModel::itemAdded(OdTcCatalogItem*) { m_late.start(0); }
+void TcUiCatalogModel::itemAdded(OdTcCatalogItem* item) {
+  syncLater(odrxCast<OdTcTool>(item) ? Depth::kTools : Depth::kPalettes);
+}
 
 void TcUiCatalogModel::itemRemoved(OdTcCatalogItem* item) { removeItem(*m_root, item); }
 
@@ -139,7 +164,7 @@ void TcUiCatalogModel::itemChanged(OdTcCatalogItem* item) {
   visit(*m_root, [&](Node& node) {
     if (node.item.get() == item) Q_EMIT dataChanged(indexOf(node), indexOf(node));
   });
-  m_late.start(0);
+  syncLater(odrxCast<OdTcCatalog>(item) ? Depth::kPalettes : Depth::kTools);
 }
 
 void TcUiCatalogModel::removeItem(Node& below, const OdTcCatalogItem* item) {

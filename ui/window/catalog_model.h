@@ -14,10 +14,9 @@
 
 namespace tc {
 
-/// Catalogs at the root, groups and palettes below, tools below their palettes. What stands below
-/// an item is looked up when a view first asks; from then on the model follows the item. What is
-/// removed goes at once, what is added or moved comes with the next turn of the event loop, so that
-/// ten thousand additions are one.
+/// Catalogs at the root, groups and palettes below, tools below their palettes. Palettes that are
+/// still to be read come when they are. What is removed goes at once, what is added or moved comes
+/// with the next turn of the event loop, so that ten thousand additions are one.
 class TcUiCatalogModel : public QAbstractItemModel,
                          private OdTcPaletteManagerReactor,
                          private OdTcCatalogItemReactor {
@@ -34,6 +33,10 @@ class TcUiCatalogModel : public QAbstractItemModel,
   /// The first place of an item, depth first.
   QModelIndex indexOf(const OdTcCatalogItem* item) const;
   QModelIndex indexOfId(const OdString& id) const;
+  /// How many palettes are still to be read.
+  int pendingCount() const;
+  /// Has the waiting palette of that id read now; false if none waits under it.
+  bool loadWaiting(const OdString& id);
   /// An item's pictures have changed.
   void pictureChanged(const OdTcCatalogItem& item);
 
@@ -61,8 +64,13 @@ class TcUiCatalogModel : public QAbstractItemModel,
   QModelIndex indexOf(const Node& node) const;
   int rowOf(const Node& node) const;
   std::vector<OdTcCatalogItem*> wanted(const Node& node) const;
+  /// How far down something may be new: palettes, or tools as well.
+  enum class Depth { kPalettes, kTools };
   /// Makes the children of a node, and of those below it, the ones that are wanted.
-  void sync(Node& node);
+  void sync(Node& node, Depth depth);
+  void syncAll(Depth depth);
+  /// Does so with the next turn of the event loop.
+  void syncLater(Depth depth);
   /// A node with all that stands below it.
   std::unique_ptr<Node> make(OdTcCatalogItem* item, Node* parent);
   void insert(Node& node, int row, std::vector<OdTcCatalogItem*> items);
@@ -80,6 +88,7 @@ class TcUiCatalogModel : public QAbstractItemModel,
   std::unique_ptr<Node> m_root = std::make_unique<Node>();
   QHash<OdTcCatalogItem*, int> m_watched; ///< how often each item stands in the tree
   QTimer m_late;
+  Depth m_lateDepth = Depth::kPalettes;
   bool m_isSyncing = false;
 };
 

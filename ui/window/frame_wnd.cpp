@@ -15,10 +15,12 @@ OdString columnKey(std::size_t column) { return QStringLiteral("Col%1").arg(colu
 
 TcUiFrameWnd::TcUiFrameWnd(ITcUiPaletteSet& window)
   : m_tree(new TcUiTreeView(window, m_pictures))
-  , m_list(new TcUiListView(window, m_pictures)) {
+  , m_list(new TcUiListView(window, m_pictures))
+  , m_note(new TcUiLoadingNote(m_tree->catalogs())) {
   m_pictures.setInk(palette().color(QPalette::WindowText));
   m_tree->setParent(this);
   m_list->setParent(this);
+  m_note->setParent(this);
 }
 
 bool TcUiFrameWnd::create(IHostWindowControls& controls) {
@@ -26,7 +28,9 @@ bool TcUiFrameWnd::create(IHostWindowControls& controls) {
   if (!m_splitter) return false;
   auto* const room = new QVBoxLayout(this);
   room->setContentsMargins(0, 0, 0, 0);
-  room->addWidget(m_splitter->widget());
+  room->setSpacing(0);
+  room->addWidget(m_splitter->widget(), 1);
+  room->addWidget(m_note);
   m_splitter->addColumn(m_tree);
   m_splitter->addColumn(m_list);
   std::vector<int> widths{kFirstWidth, kFirstWidth};

@@ -4,6 +4,7 @@
 #include "host/window_controls.h"
 #include "ui/state_saver.h"
 #include "ui/window/list_view.h"
+#include "ui/window/loading_note.h"
 #include "ui/window/tree_view.h"
 
 #include <QWidget>
@@ -56,6 +57,7 @@ class TcUiFrameWnd : public QWidget, public ITcUiFrameWnd {
   TcUiItemPictures m_pictures;
   TcUiTreeView* m_tree;
   TcUiListView* m_list;
+  TcUiLoadingNote* m_note;
   IHostSplitter* m_splitter = nullptr; ///< this widget's
 };
 

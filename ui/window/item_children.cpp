@@ -12,10 +12,12 @@
 namespace tc {
 namespace {
 
-/// The palette that a reference stands for, or the item itself; null for a reference to nothing.
+/// The palette that a reference stands for, or the item itself; null for a reference to nothing, or
+/// to what has not come yet.
 OdTcCatalogItem* shownFor(OdTcCatalogItem* item) {
-  if (const auto* const reference = odrxCast<OdTcPaletteSoftRef>(item)) return reference->resolve();
-  return item;
+  if (!odrxCast<OdTcPaletteSoftRef>(item)) return item;
+  const OdTcCatalog* const catalog = item->catalog();
+  return catalog ? catalog->loading()->findSoFar(item->id()) : nullptr;
 }
 
 template <class T>
@@ -65,7 +67,7 @@ TcUiItems treeChildren(const OdTcCatalogItem& item) {
     append(items, catalog->groupsEnum());
     sortByOrderList(items, item.orderList());
     TcUiItems palettes;
-    append(palettes, catalog->palettesEnum(), false);
+    append(palettes, catalog->loading()->palettesSoFar(), false);
     sortByOrderList(palettes, item.orderList());
     items.insert(items.end(), palettes.begin(), palettes.end());
   } else if (odrxCast<OdTcGroup>(&item)) {

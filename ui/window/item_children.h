@@ -14,7 +14,7 @@ using TcUiItems = std::vector<OdTcCatalogItem*>;
 /// Below a catalog its groups and then the palettes that are in no group, each in the catalog's
 /// order; below a group what it contains, with the palettes themselves in place of the references
 /// to them; below a palette its tools in the palette's order. A reference that leads nowhere is
-/// left out, and a tool has nothing below it.
+/// left out, as are palettes that are still to be read, and a tool has nothing below it.
 TcUiItems treeChildren(const OdTcCatalogItem& item);
 /// The same for the list, which shows the palettes of a catalog before its groups.
 TcUiItems listChildren(const OdTcCatalogItem& item);

@@ -1,5 +1,6 @@
 #include "ui/window/item_list_model.h"
 
+#include "catalog/catalog.h"
 #include "catalog/tool.h"
 #include "host/host_locator.h"
 #include "ui/window/item_children.h"
@@ -28,11 +29,18 @@ TcUiItemListModel::TcUiItemListModel(TcUiItemPictures& pictures)
 void TcUiItemListModel::fill(OdTcCatalogItem* item) {
   m_late.stop();
   beginResetModel();
-  if (m_shown) m_shown->removeReactor(this);
-  m_shown = OdTcCatalogItemPtr(item);
-  if (m_shown) m_shown->addReactor(this);
+  show(item);
   m_rows = item ? held(listChildren(*item)) : std::vector<OdTcCatalogItemPtr>();
   endResetModel();
+}
+
+void TcUiItemListModel::show(OdTcCatalogItem* item) {
+  if (m_shown) m_shown->removeReactor(this);
+  if (m_catalog) m_catalog->removeReactor(this);
+  m_shown = OdTcCatalogItemPtr(item);
+  m_catalog = OdTcCatalogItemPtr(odrxCast<OdTcGroup>(item) ? item->catalog() : nullptr);
+  if (m_shown) m_shown->addReactor(this);
+  if (m_catalog) m_catalog->addReactor(this);
 }
 
 void TcUiItemListModel::append(OdTcCatalogItem* item) {

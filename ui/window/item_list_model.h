@@ -49,11 +49,13 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   void itemAdded(OdTcCatalogItem* item) override;
   void itemRemoved(OdTcCatalogItem* item) override;
   void itemChanged(OdTcCatalogItem* item) override;
+  void show(OdTcCatalogItem* item);
   void takeRows();
   void reorder(std::vector<OdTcCatalogItemPtr> rows);
 
   TcUiItemPictures& m_pictures;
   OdTcCatalogItemPtr m_shown;
+  OdTcCatalogItemPtr m_catalog; ///< of a group that is shown: it tells of palettes that come
   std::vector<OdTcCatalogItemPtr> m_rows;
   std::int32_t m_iconSize = 3;
   qreal m_ratio = 1;

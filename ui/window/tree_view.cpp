@@ -42,17 +42,32 @@ TcUiTreeView::TcUiTreeView(ITcUiPaletteSet& window, TcUiItemPictures& pictures)
   setIconSize(QSize(16, 16));
   setFrameShape(QFrame::NoFrame);
   setAccessibleName(host::translate(QStringLiteral("Catalogs")));
-  // A catalog that comes later is expanded as those of the start are.
-  connect(&m_model, &QAbstractItemModel::rowsInserted, this,
-          [this](const QModelIndex& parent, int first, int last) {
-            if (!parent.isValid())
-              for (int row = first; row <= last; ++row) expand(m_model.index(row, 0));
-          });
+  connect(&m_model, &QAbstractItemModel::rowsInserted, this, &TcUiTreeView::takeInserted);
+  // Once the window stands there.
+  m_bringSelection.setSingleShot(true);
+  connect(&m_bringSelection, &QTimer::timeout, this,
+          [this] { m_model.loadWaiting(m_awaitedSelection); });
 }
 
 void TcUiTreeView::populate() {
   m_model.refresh();
   for (int row = 0; row < m_model.rowCount(); ++row) expand(m_model.index(row, 0));
+}
+
+void TcUiTreeView::takeInserted(const QModelIndex& parent, int first, int last) {
+  for (int row = first; row <= last; ++row) {
+    const QModelIndex index = m_model.index(row, 0, parent);
+    // A catalog that comes later is expanded as those of the start are.
+    if (!parent.isValid()) expand(index);
+    takeAwaited(index);
+  }
+}
+
+void TcUiTreeView::takeAwaited(const QModelIndex& index) {
+  if (m_awaited.isEmpty() && m_awaitedSelection.isEmpty()) return;
+  const OdString id = m_model.itemAt(index)->id();
+  if (m_awaited.removeOne(id)) expand(index);
+  if (id == m_awaitedSelection) select(index);
 }
 
 void TcUiTreeView::refreshName(const OdString& id) {
@@ -75,6 +90,8 @@ void TcUiTreeView::announceSelection() {
 
 void TcUiTreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& former) {
   QTreeView::selectionChanged(selected, former);
+  // Whatever the user chooses meanwhile stays chosen.
+  if (!selected.isEmpty()) m_awaitedSelection.clear();
   announceSelection();
 }
 
@@ -115,12 +132,14 @@ void TcUiTreeView::saveState(ITcUiStateSaver& store) const {
   QStringList expanded;
   visitExpanded(*this, {},
                 [&](const QModelIndex& index) { expanded << m_model.itemAt(index)->id(); });
+  const bool isLoading = m_model.pendingCount() > 0;
+  if (isLoading) expanded << m_awaited;
   OdVariant value(expanded.join(u'|'));
   store.write(expandedKey(), value);
   // A tool is remembered as its palette.
   const OdTcCatalogItem* item = selectedItem();
   if (odrxCast<OdTcTool>(item)) item = m_model.itemAt(selectedIndexes().first().parent());
-  value = OdVariant(item ? item->id() : OdString());
+  value = OdVariant(item ? item->id() : isLoading ? m_awaitedSelection : OdString());
   store.write(selectedKey(), value);
 }
 
@@ -129,9 +148,14 @@ void TcUiTreeView::loadState(const ITcUiStateSaver& store) {
   if (store.read(expandedKey(), value)) {
     const QStringList ids = value.toString().split(u'|', Qt::SkipEmptyParts);
     for (const OdString& id : ids)
-      if (const QModelIndex index = m_model.indexOfId(id); index.isValid()) expand(index);
+      if (const QModelIndex index = m_model.indexOfId(id); index.isValid())
+        expand(index);
+      else
+        m_awaited << id;
   }
-  if (store.read(selectedKey(), value)) selectById(value.toString());
+  if (!store.read(selectedKey(), value) || selectById(value.toString())) return;
+  m_awaitedSelection = value.toString();
+  m_bringSelection.start(0);
 }
 
 } // namespace tc

@@ -32,6 +32,8 @@ class ITcUiTreeView {
   virtual void refreshToolImage(OdTcCatalogItem* tool) = 0;
   /// Fills the tree and expands the catalogs; what is there already stays as it is.
   virtual void populate() = 0;
+  /// What the store names and has not come yet is expanded and selected when it comes, and kept for
+  /// the next start if that is too late.
   virtual void saveState(ITcUiStateSaver& store) const = 0;
   virtual void loadState(const ITcUiStateSaver& store) = 0;
 
@@ -63,9 +65,14 @@ class TcUiTreeView : public QTreeView, public ITcUiTreeView {
 
  private:
   bool select(const QModelIndex& index);
+  void takeInserted(const QModelIndex& parent, int first, int last);
+  void takeAwaited(const QModelIndex& index);
 
   ITcUiPaletteSet& m_window;
   TcUiCatalogModel m_model;
+  QStringList m_awaited; ///< what is to be expanded when it comes
+  OdString m_awaitedSelection;
+  QTimer m_bringSelection;
 };
 
 } // namespace tc

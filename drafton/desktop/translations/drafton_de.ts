@@ -168,6 +168,10 @@
         <translation>Werkzeug&amp;paletten</translation>
     </message>
     <message>
+        <source>Reading palettes, %s to go...</source>
+        <translation>Paletten werden gelesen, noch %s ...</translation>
+    </message>
+    <message>
         <source>Show the tool palettes</source>
         <translation>Die Werkzeugpaletten zeigen</translation>
     </message>
