@@ -235,6 +235,35 @@ TEST_F(CatalogLoadingTest, AnImportInTheMiddleFindsTheNamesThatAreStillToCome) {
   EXPECT_EQ(catalog->loading()->pendingCount(), 0);
 }
 
+TEST_F(CatalogLoadingTest, ASaveToAnotherFolderInTheMiddleTakesAllAlong) {
+  const OdTcCatalogPtr catalog = begun(writeAll(u"c"_s));
+  catalog->loading()->loadNext();
+  QDir().mkpath(platform(u"other"_s));
+  ASSERT_TRUE(catalog->save(stored(u"other\\DrfTcCatalog.dtc"_s)));
+  EXPECT_EQ(namesOf(catalog->palettesEnum()).size(), 6);
+}
+
+TEST_F(CatalogLoadingTest, ManyAreFoundByTheirIdsWhileOthersComeBeforeThem) {
+  constexpr int kCount = 40;
+  QByteArray loaders;
+  const auto id = [](int number) { return QByteArray::number(100 + number); };
+  for (int i = 0; i < kCount; ++i) {
+    writeFile(u"c\\Palettes\\"_s + QLatin1String(id(i)) + u".dtc"_s, paletteXml(id(i), id(i)));
+    loaders += loaderXml(id(i), "Palettes\\" + id(i) + ".dtc");
+  }
+  writeFile(u"c\\DrfTcCatalog.dtc"_s, catalogXml(loaders));
+  const OdTcCatalogPtr catalog = begun(stored(u"c\\DrfTcCatalog.dtc"_s));
+  const auto* const loading = catalog->loading();
+  for (int last = kCount - 1; last >= 0; --last) {
+    catalog->loading()->loadWaiting(QLatin1String(id(last)));
+    for (int i = 0; i < kCount; ++i) {
+      const OdTcToolPalette* const found = loading->findSoFar(QLatin1String(id(i)));
+      ASSERT_EQ(found != nullptr, i >= last) << i << " after " << last;
+      EXPECT_TRUE(!found || found->id() == QLatin1String(id(i)));
+    }
+  }
+}
+
 TEST_F(CatalogLoadingTest, AFileThatIsGoneInTheMiddleIsAsOneThatWasNeverThere) {
   const OdTcCatalogPtr catalog = begun(writeAll(u"c"_s));
   catalog->loading()->loadNext();
