@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QPointingDevice>
 #include <QWheelEvent>
 
@@ -137,7 +138,10 @@ void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
-  if (!m_document) return;
+  // A tool that was clicked just before may be what asks for the point.
+  const QPointer<Canvas> self(this);
+  m_desktop.catchUp();
+  if (!self || !m_document) return;
   m_cursor = pixelAt(event->position());
   if (event->button() == Qt::MiddleButton) {
     m_panFrom = m_cursor;

@@ -19,6 +19,12 @@ bool walksThroughList(const QKeyEvent& key) {
          key.key() == Qt::Key_PageDown;
 }
 
+/// Keys whose meaning depends on what is asked.
+bool endsOrCancels(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space ||
+         key.key() == Qt::Key_Escape;
+}
+
 /// The prompt with its keywords as links, which hold what a click types.
 OdString linked(const OdString& prompt, const KeywordList& keywords) {
   OdString html = prompt.toHtmlEscaped();
@@ -127,6 +133,7 @@ void CommandLine::recall(int step) {
 }
 
 bool CommandLine::handleKey(QKeyEvent* event) {
+  if (endsOrCancels(*event)) m_desktop.catchUp();
   switch (event->key()) {
   case Qt::Key_Return:
   case Qt::Key_Enter:

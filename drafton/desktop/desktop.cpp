@@ -1,5 +1,7 @@
 #include "drafton/desktop/desktop.h"
 
+#include <QCoreApplication>
+
 namespace drafton {
 namespace {
 
@@ -60,13 +62,20 @@ OdDbDatabase* Desktop::database() {
   return current ? current->database() : nullptr;
 }
 
+void Desktop::catchUp() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+  if (m_input.isQueued()) m_input.takeUp();
+}
+
 void Desktop::type(const OdString& text) {
+  catchUp();
   Q_EMIT aboutToTake();
   m_engine->type(text);
   m_input.takeUp();
 }
 
 void Desktop::runMacro(const OdString& macro) {
+  catchUp();
   Q_EMIT aboutToTake();
   OdString text = macro;
   // With nothing to cancel it would take away what is chosen.

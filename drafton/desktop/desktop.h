@@ -29,6 +29,10 @@ class Desktop : public QObject {
   /// True while a command runs in the active document.
   bool isBusy() { return m_engine->currentProcessor().isBusy(); }
 
+  /// Has done what was asked before and still waits in the event loop, as what modules put off.
+  /// Keys and clicks that come behind would overtake it: an Esc what it is to end, an answer its
+  /// question.
+  void catchUp();
   /// Types as a user does: a blank ends a word, a line break is Enter.
   void type(const OdString& text);
   /// Types a menu's macro into the active document; "^C" cancels.

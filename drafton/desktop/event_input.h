@@ -22,6 +22,8 @@ class EventInput : public QObject, public InputSource {
 
   /// Has the engine take up what was typed: at once, or by ending the wait of what is on the stack.
   void takeUp();
+  /// True if something was sent that the engine has not begun to take up.
+  bool isQueued() const { return m_isQueued; }
   /// True while a command waits on the stack: the program cannot end yet.
   bool isWaiting() const { return !m_loops.empty(); }
   /// No more input will come: whatever waits is cancelled.
