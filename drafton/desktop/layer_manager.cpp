@@ -1,13 +1,16 @@
 #include "drafton/desktop/layer_manager.h"
 
 #include "drafton/desktop/color_choice.h"
+#include "drafton/desktop/property_bar.h"
 #include "drafton/desktop/theme.h"
 #include "drafton/engine/commands/shown_values.h"
 #include "drafton/render/style.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace drafton {
@@ -45,6 +48,67 @@ QTableWidgetItem* cell(const OdString& text, bool isEditable) {
   return item;
 }
 
+/// Edits a cell with a list of what it can be.
+class ChoiceDelegate : public QStyledItemDelegate {
+ public:
+  ChoiceDelegate(std::function<QStringList()> choices, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_choices(std::move(choices)) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                        const QModelIndex&) const override {
+    auto* const list = new QComboBox(parent);
+    list->addItems(m_choices());
+    // One choice is all there is to do.
+    connect(list, &QComboBox::activated, this, [this, list] {
+      auto* const self = const_cast<ChoiceDelegate*>(this);
+      Q_EMIT self->commitData(list);
+      // Where the change has brought a new table, the list went with the former one.
+      if (!list->isHidden()) Q_EMIT self->closeEditor(list);
+    });
+    return list;
+  }
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+    auto* const list = static_cast<QComboBox*>(editor);
+    list->setCurrentIndex(list->findText(index.data().toString()));
+    // It has its place in a moment.
+    QMetaObject::invokeMethod(list, &QComboBox::showPopup, Qt::QueuedConnection);
+  }
+  void setModelData(QWidget* editor, QAbstractItemModel* model,
+                    const QModelIndex& index) const override {
+    model->setData(index, static_cast<QComboBox*>(editor)->currentText());
+  }
+
+ private:
+  std::function<QStringList()> m_choices;
+};
+
+QStringList linetypeNames(const OdDbDatabase& database) {
+  QStringList names;
+  const auto linetypes = database.getLinetypeTableId().openAs<OdDbLinetypeTable>();
+  for (auto at = linetypes->newIterator(); !at->done(); at->step()) {
+    const OdString name = at->getRecord()->getName();
+    // A layer has nothing above it to take them from.
+    if (name.compare(QLatin1String("ByLayer"), Qt::CaseInsensitive) != 0 &&
+        name.compare(QLatin1String("ByBlock"), Qt::CaseInsensitive) != 0)
+      names << name;
+  }
+  return names;
+}
+
+std::vector<OdDb::LineWeight> layerWeights() {
+  std::vector<OdDb::LineWeight> weights;
+  for (const OdDb::LineWeight weight : offeredLineWeights())
+    if (weight != OdDb::kLnWtByLayer && weight != OdDb::kLnWtByBlock) weights.push_back(weight);
+  return weights;
+}
+
+QStringList weightNames() {
+  QStringList names;
+  for (const OdDb::LineWeight weight : layerWeights()) names << shownLineWeight(weight);
+  return names;
+}
+
 } // namespace
 
 LayerManager::LayerManager(Desktop& desktop, QWidget* parent)
@@ -74,9 +138,17 @@ LayerManager::LayerManager(Desktop& desktop, QWidget* parent)
   column->addLayout(buttons);
   column->addWidget(m_table, 1);
   connect(m_table, &QTableWidget::itemChanged, this, &LayerManager::changed);
-  connect(m_table, &QTableWidget::cellDoubleClicked, this, [this](int row, int at) {
+  connect(m_table, &QTableWidget::cellActivated, this, [this](int row, int at) {
     if (at == kColor) chooseColor(row);
   });
+  m_table->setItemDelegateForColumn(
+      kLinetype, new ChoiceDelegate(
+                     [this] {
+                       OdDbDatabase* const database = m_desktop.database();
+                       return database ? linetypeNames(*database) : QStringList();
+                     },
+                     this));
+  m_table->setItemDelegateForColumn(kWeight, new ChoiceDelegate(weightNames, this));
   follow();
 }
 
@@ -125,7 +197,7 @@ void LayerManager::follow() {
               Ground(canvasColors(isDark(palette())).ground.rgb()).paint(layer->color().color())));
       m_table->setItem(row, kColor, color);
       m_table->setItem(row, kLinetype, cell(recordName(layer->linetypeObjectId()), true));
-      m_table->setItem(row, kWeight, cell(shownLineWeight(layer->lineWeight()), false));
+      m_table->setItem(row, kWeight, cell(shownLineWeight(layer->lineWeight()), true));
     }
   }
   m_table->setCurrentCell(std::min(selected, m_table->rowCount() - 1), kName);
@@ -159,14 +231,25 @@ void LayerManager::changed(QTableWidgetItem* item) {
     else
       change(row, [&](OdDbLayerTableRecord& layer) { layer.setLinetypeObjectId(linetype); });
     follow();
+  } else if (at == kWeight) {
+    const std::vector<OdDb::LineWeight> weights = layerWeights();
+    const qsizetype found = weightNames().indexOf(text);
+    if (found >= 0)
+      change(row, [&](OdDbLayerTableRecord& layer) {
+        layer.setLineWeight(weights[static_cast<std::size_t>(found)]);
+      });
+    follow();
   }
 }
 
 void LayerManager::chooseColor(int row) {
-  const auto chosen = askColor(
-      m_desktop, m_table->item(row, kColor)->data(Qt::DecorationRole).value<QColor>(), this);
+  const OdDbObjectId id = layerAt(row);
+  if (id.isNull()) return;
+  // A layer has nothing above it whose colour it could take.
+  const auto chosen =
+      askDrawingColor(m_desktop, id.openAs<OdDbLayerTableRecord>()->color(), false, this);
   if (!chosen) return;
-  change(row, [&](OdDbLayerTableRecord& layer) { layer.setColor(trueColor(*chosen)); });
+  change(row, [&](OdDbLayerTableRecord& layer) { layer.setColor(*chosen); });
 }
 
 void LayerManager::addLayer() {

@@ -1,5 +1,6 @@
 #include "drafton/desktop/main_window.h"
 
+#include "drafton/desktop/access_keys.h"
 #include "drafton/desktop/block_list.h"
 #include "drafton/desktop/command_line.h"
 #include "drafton/desktop/help_window.h"
@@ -10,17 +11,14 @@
 #include "drafton/desktop/printing.h"
 #include "drafton/desktop/property_bar.h"
 #include "drafton/desktop/window_services.h"
-#include "drafton/render/picture_file.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPrintDialog>
 #include <QTimer>
 #include <QUrl>
 
@@ -43,6 +41,7 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   : m_desktop(desktop)
   , m_dialogs(dialogs)
   , m_files(new FileActions(desktop, dialogs, this))
+  , m_printing(new Printing(desktop, dialogs, this))
   , m_actions(
         new WindowActions(*this, [this](const OdString& macro) { m_desktop.runMacro(macro); }))
   , m_documents(new DocumentArea(desktop, this))
@@ -130,50 +129,15 @@ void MainWindow::connectPanes() {
     showPane("layers");
     m_layers->follow();
   });
+  m_actions->connectTo(u"color", [this] { m_properties->otherColor(); });
   m_actions->connectTo(u"blocks", [this] { showPane("blocks"); });
   m_actions->connectTo(u"options", [this] { OptionsDialog(m_desktop, this).exec(); });
-  m_actions->connectTo(u"print", [this] { print(); });
-  m_actions->connectTo(u"exportPdf", [this] {
-    if (!m_desktop.document()) return;
-    const OdString path = m_dialogs.chooseToSave(
-        translated(u"Save as PDF"), QStringLiteral("drawing.pdf"), QStringLiteral("PDF (*.pdf)"));
-    if (!path.isEmpty()) exportPdf(path);
-  });
   connect(m_documents, &DocumentArea::choiceChanged, this, &MainWindow::followChoice);
 }
 
 void MainWindow::followChoice() {
   m_properties->follow();
   m_inspector->follow();
-}
-
-bool MainWindow::exportPdf(const OdString& path) {
-  OdDbDatabase* const database = m_desktop.database();
-  if (!database) return false;
-  PictureRequest request;
-  request.file = QFileInfo(path).suffix().isEmpty() ? path + QLatin1String(".pdf") : path;
-  request.layout = shownLayoutName(*database);
-  try {
-    writePicture(*database, request);
-  } catch (const OdFileError& error) {
-    m_dialogs.warn(translated(u"%1 is not written: %2").arg(request.file, error.reason()));
-    return false;
-  } catch (const OdError& error) {
-    m_dialogs.warn(translated(u"%1 is not written: %2").arg(request.file, error.description()));
-    return false;
-  }
-  m_desktop.engine().print(translated(u"Saved to %1.").arg(request.file));
-  return true;
-}
-
-void MainWindow::print() {
-  OdDbDatabase* const database = m_desktop.database();
-  if (!database) return;
-  QPrinter printer(QPrinter::HighResolution);
-  setPaper(printer, *database);
-  if (QPrintDialog(&printer, this).exec() != QDialog::Accepted) return;
-  if (!printSheet(printer, *database))
-    m_dialogs.warn(translated(u"The printer does not take the sheet."));
 }
 
 void MainWindow::connectActions() {
@@ -189,6 +153,9 @@ void MainWindow::connectActions() {
   };
   m_actions->connectTo(u"new", settled([this] { m_files->newDrawing(); }));
   m_actions->connectTo(u"open", settled([this] { m_files->open(); }));
+  m_actions->connectTo(u"pageSetup", settled([this] { m_printing->setUpPage(); }));
+  m_actions->connectTo(u"print", settled([this] { m_printing->print(); }));
+  m_actions->connectTo(u"exportPdf", [this] { m_printing->savePdf(); });
   m_actions->connectTo(u"save", onDocument(&FileActions::save));
   m_actions->connectTo(u"saveAs", onDocument(&FileActions::saveAs));
   m_actions->connectTo(u"close", onDocument(&FileActions::close));
@@ -225,16 +192,24 @@ void MainWindow::connectActions() {
     panes->clear();
     const std::unique_ptr<QMenu> all(createPopupMenu());
     for (QAction* const action : all->actions()) panes->addAction(action);
+    giveAccessKeys(*panes);
   });
 }
 
-QMenu* MainWindow::createPopupMenu() { return QMainWindow::createPopupMenu(); }
+QMenu* MainWindow::createPopupMenu() {
+  QMenu* const menu = QMainWindow::createPopupMenu();
+  if (menu) giveAccessKeys(*menu);
+  return menu;
+}
 
 void MainWindow::fillRecent() {
   QMenu* const menu = m_actions->find(u"recent")->menu();
   menu->clear();
+  int number = 0;
   for (const OdString& file : m_files->recentFiles()) {
-    QAction* const action = menu->addAction(OdString(file).replace(u'&', QStringLiteral("&&")));
+    // The number is what is typed.
+    QAction* const action = menu->addAction(QStringLiteral("&%1 %2").arg(++number).arg(
+        OdString(file).replace(u'&', QStringLiteral("&&"))));
     connect(action, &QAction::triggered, this,
             [this, file] { m_files->whenSettled([this, file] { m_files->openFile(file); }); });
   }
@@ -260,8 +235,8 @@ void MainWindow::follow() {
     m_actions->find(row.name)->setChecked(m_aids.isOn(row.aid));
   }
   m_actions->find(u"lineWeights")->setChecked(m_desktop.variable("LWDISPLAY").toBool());
-  for (const char16_t* name : {u"save", u"saveAs", u"close", u"print", u"exportPdf", u"selectAll",
-                               u"selectNone", u"zoomIn", u"zoomOut", u"lineWeights"})
+  for (const char16_t* name : {u"save", u"saveAs", u"close", u"pageSetup", u"print", u"exportPdf",
+                               u"selectAll", u"selectNone", u"zoomIn", u"zoomOut", u"lineWeights"})
     m_actions->find(name)->setEnabled(hasDocument);
   if (m_desktop.engine().isExiting() && !m_isClosing) QTimer::singleShot(0, this, &QWidget::close);
 }
@@ -281,12 +256,11 @@ void MainWindow::showMenuAt(const QPoint& place) {
   menu.addSeparator();
   const bool hasChoice = m_desktop.document() && !m_desktop.document()->preselection().empty();
   if (hasChoice)
-    for (const char16_t* name :
-         {u"ERASE", u"MOVE", u"COPY", u"ROTATE", u"SCALE", u"MIRROR", u"MATCHPROP", u"selectNone"})
-      menu.addAction(m_actions->find(name));
+    m_actions->addTo(menu, {u"ERASE", u"MOVE", u"COPY", u"ROTATE", u"SCALE", u"MIRROR",
+                            u"MATCHPROP", u"selectNone"});
   menu.addSeparator();
-  for (const char16_t* name : {u"selectAll", u"zoomExtents", u"zoomWindow", u"zoomPrevious"})
-    menu.addAction(m_actions->find(name));
+  m_actions->addTo(menu, {u"selectAll", u"zoomExtents", u"zoomWindow", u"zoomPrevious"});
+  giveAccessKeys(menu);
   menu.exec(place);
 }
 

@@ -12,6 +12,7 @@ class BlockList;
 class CommandLine;
 class Inspector;
 class LayerManager;
+class Printing;
 class PropertyBar;
 
 /// Puts the parts together: drawings in the middle, the command line below, menus, toolbars and
@@ -26,6 +27,7 @@ class MainWindow : public QMainWindow {
 
   Desktop& desktop() { return m_desktop; }
   FileActions& files() { return *m_files; }
+  Printing& printing() { return *m_printing; }
   DocumentArea& documents() { return *m_documents; }
   CommandLine& commandLine() { return *m_commandLine; }
   StatusLine& statusLine() { return *m_statusLine; }
@@ -34,8 +36,6 @@ class MainWindow : public QMainWindow {
   Inspector& inspector() { return *m_inspector; }
   LayerManager& layers() { return *m_layers; }
   BlockList& blocks() { return *m_blocks; }
-  /// Writes the sheet that is shown as PDF. False, and a message, if that fails.
-  bool exportPdf(const OdString& path);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -55,7 +55,6 @@ class MainWindow : public QMainWindow {
   void connectPanes();
   void watchLists(QWidget* former, QWidget* now);
   void followChoice();
-  void print();
   void follow();
   void showTitle();
   void showMenuAt(const QPoint& place);
@@ -67,6 +66,7 @@ class MainWindow : public QMainWindow {
   Desktop& m_desktop;
   UserDialogs& m_dialogs;
   FileActions* m_files;
+  Printing* m_printing;
   WindowActions* m_actions;
   DocumentArea* m_documents;
   CommandLine* m_commandLine;

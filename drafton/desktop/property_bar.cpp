@@ -68,6 +68,12 @@ QVariant idData(OdDbObjectId id) { return QVariant::fromValue(recordName(id)); }
 
 } // namespace
 
+std::vector<OdDb::LineWeight> offeredLineWeights() {
+  std::vector<OdDb::LineWeight> weights;
+  for (const int weight : kWeights) weights.push_back(static_cast<OdDb::LineWeight>(weight));
+  return weights;
+}
+
 PropertyBar::PropertyBar(Desktop& desktop, QWidget* parent)
   : QToolBar(translated(u"Properties"), parent)
   , m_desktop(desktop)
@@ -76,8 +82,8 @@ PropertyBar::PropertyBar(Desktop& desktop, QWidget* parent)
   , m_linetypes(addList(u"Line type", 12))
   , m_weights(addList(u"Line weight", 9)) {
   setObjectName(QStringLiteral("toolbarProperties"));
-  for (const int weight : kWeights)
-    m_weights->addItem(shownLineWeight(static_cast<OdDb::LineWeight>(weight)), weight);
+  for (const OdDb::LineWeight weight : offeredLineWeights())
+    m_weights->addItem(shownLineWeight(weight), static_cast<int>(weight));
   connect(m_layers, &QComboBox::activated, this, &PropertyBar::chooseLayer);
   connect(m_colors, &QComboBox::activated, this, &PropertyBar::chooseColor);
   connect(m_linetypes, &QComboBox::activated, this, &PropertyBar::chooseLinetype);
@@ -184,12 +190,22 @@ void PropertyBar::chooseLayer(int index) {
 }
 
 void PropertyBar::chooseColor(int index) {
-  OdCmColor color = colorOf(m_colors->itemData(index).toUInt());
-  if (m_colors->itemData(index).toUInt() == kOtherColor) {
-    const std::optional<QColor> chosen = askColor(m_desktop, Qt::white, this);
-    if (!chosen) return follow();
-    color = trueColor(*chosen);
-  }
+  const std::uint32_t value = m_colors->itemData(index).toUInt();
+  value == kOtherColor ? otherColor() : applyColor(colorOf(value));
+}
+
+void PropertyBar::otherColor() {
+  OdDbDatabase* const database = m_desktop.database();
+  if (!database) return;
+  OdCmColor now = database->currentColor();
+  if (const std::vector<OdDbEntityPtr> chosen = chosenEntities(m_desktop); !chosen.empty())
+    now = chosen.front()->color();
+  const std::optional<OdCmColor> color = askDrawingColor(m_desktop, now, true, this);
+  if (!color) return follow();
+  applyColor(*color);
+}
+
+void PropertyBar::applyColor(const OdCmColor& color) {
   apply(
       QStringLiteral("COLOR"), [&](OdDbEntity& e) { e.setColor(color); },
       [&](OdDbDatabase& d) { d.setCurrentColor(color); });

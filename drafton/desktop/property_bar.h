@@ -9,6 +9,9 @@ class QComboBox;
 
 namespace drafton {
 
+/// The line weights that lists offer.
+std::vector<OdDb::LineWeight> offeredLineWeights();
+
 /// Four lists. While entities are chosen they show and change theirs, empty where these differ;
 /// else the drawing's current values.
 class PropertyBar : public QToolBar {
@@ -22,6 +25,8 @@ class PropertyBar : public QToolBar {
   QComboBox& linetypes() { return *m_linetypes; }
   QComboBox& lineWeights() { return *m_weights; }
 
+  /// Asks for a colour in a dialog and sets it, as a choice in the list does.
+  void otherColor();
   /// Brings the lists to what is true now.
   void follow();
 
@@ -35,6 +40,7 @@ class PropertyBar : public QToolBar {
              const std::function<void(OdDbDatabase&)>& current);
   void chooseLayer(int index);
   void chooseColor(int index);
+  void applyColor(const OdCmColor& color);
   void chooseLinetype(int index);
   void chooseWeight(int index);
 

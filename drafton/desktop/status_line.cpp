@@ -1,5 +1,6 @@
 #include "drafton/desktop/status_line.h"
 
+#include "drafton/desktop/access_keys.h"
 #include "drafton/desktop/canvas.h"
 
 #include <QActionGroup>
@@ -83,6 +84,7 @@ void StatusLine::chooseSnaps() {
       m_desktop.setVariable("OSMODE", on ? now | bit : now & ~bit);
     });
   }
+  giveAccessKeys(*menu);
 }
 
 void StatusLine::showPlace(const Canvas* canvas) {

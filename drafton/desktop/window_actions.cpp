@@ -1,5 +1,6 @@
 #include "drafton/desktop/window_actions.h"
 
+#include "drafton/desktop/access_keys.h"
 #include "drafton/desktop/theme.h"
 #include "drafton/engine/translator.h"
 
@@ -51,6 +52,7 @@ void WindowActions::addMenus(QMainWindow& window) {
     if (row.startsGroup) menu->addSeparator();
     menu->addAction(find(row.name));
   }
+  for (const auto& [id, menu] : m_menus) giveAccessKeys(*menu);
 }
 
 void WindowActions::addToolbars(QMainWindow& window) {
@@ -59,6 +61,18 @@ void WindowActions::addToolbars(QMainWindow& window) {
     bar->setObjectName(OdString::fromUtf16(title.name));
     for (const ActionRow& row : actionTable())
       if (row.toolbar == title.toolbar) bar->addAction(find(row.name));
+  }
+}
+
+void WindowActions::addTo(QMenu& menu, std::initializer_list<const char16_t*> names) const {
+  for (const char16_t* const name : names) {
+    QAction* const action = find(name);
+    OdString text = action->text().remove(u'&');
+    if (const QKeySequence key = action->shortcut(); !key.isEmpty())
+      text += u'\t' + key.toString(QKeySequence::NativeText);
+    QAction* const entry = menu.addAction(action->icon(), text);
+    entry->setEnabled(action->isEnabled());
+    connect(entry, &QAction::triggered, action, &QAction::trigger);
   }
 }
 

@@ -25,6 +25,9 @@ class WindowActions : public QObject {
   /// Null if the table has no such action.
   QAction* find(QStringView name) const;
   QMenu* menu(MenuId id) const { return m_menus.at(id); }
+  /// Puts entries for some of the actions into a menu that stands for a moment. The menu has access
+  /// keys of its own.
+  void addTo(QMenu& menu, std::initializer_list<const char16_t*> names) const;
   void connectTo(QStringView name, std::function<void()> run);
   /// Draws the icons anew, for a theme.
   void showIcons(bool dark);

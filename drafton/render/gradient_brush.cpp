@@ -71,8 +71,8 @@ QBrush gradientBrush(const OdGiGradient& gradient, const QPolygonF& outline, con
     return gradient.name.compare(QStringView(kind.name), Qt::CaseInsensitive) == 0;
   });
   const Kind kind = found != std::end(kKinds) ? *found : kKinds[0];
-  QColor first = QColor::fromRgb(ground.paint(gradient.first.color()));
-  QColor second = QColor::fromRgb(ground.paint(gradient.second.color()));
+  QColor first = QColor::fromRgb(ground.shade(gradient.first.color()));
+  QColor second = QColor::fromRgb(ground.shade(gradient.second.color()));
   first.setAlpha(alpha);
   second.setAlpha(alpha);
   if (kind.isInverse) std::swap(first, second);

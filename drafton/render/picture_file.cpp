@@ -51,8 +51,9 @@ Scope scopeOf(OdDbDatabase& database, Scene& scene, const PictureRequest& reques
       throw OdError(eInvalidInput,
                     QStringLiteral("there is no layout \"%1\"; there are: %2")
                         .arg(request.layout, layoutNames(database).join(QStringLiteral(", "))));
-    if (layout && !layout->isModelType()) {
-      scope.layout = layout;
+    const OdDbLayoutPtr plot = layout && request.plot ? request.plot : layout;
+    if (layout && (!layout->isModelType() || (request.asPlotted && hasPaper(*plot)))) {
+      scope.layout = plot;
       scope.block = layout->getBlockTableRecordId();
     }
   }
@@ -60,7 +61,7 @@ Scope scopeOf(OdDbDatabase& database, Scene& scene, const PictureRequest& reques
     scope.box.addPoint({request.window->left(), request.window->top(), 0});
     scope.box.addPoint({request.window->right(), request.window->bottom(), 0});
   } else if (scope.layout && !request.extents) {
-    const Sheet sheet = sheetOf(*scope.layout, [&] {
+    const Sheet sheet = plotOf(*scope.layout, [&] {
       scene.update();
       return scene.boxOf(scope.block, deviationFor(1));
     });
@@ -84,6 +85,7 @@ RenderOptions optionsFor(const PictureRequest& request, const OdDbDatabase& data
   // What cannot be seen through is judged by what shines through: paper, most likely.
   if (request.background.isValid() && request.background.alpha() < 128)
     options.ground = Ground(qRgba(255, 255, 255, request.background.alpha()));
+  if (scope.layout) options.ground = options.ground.withTones(tonesOf(*scope.layout));
   options.isPlotting = scope.layout != nullptr;
   options.showsLineWeights = scope.layout != nullptr || database.sysVarInt("LWDISPLAY") != 0;
   options.pixelsPerMillimetre = pixelsPerMillimetre * scope.weightScale;
@@ -151,10 +153,10 @@ void writePng(const Job& job, QIODevice& device) {
     throw OdError(eFileAccess, QStringLiteral("the picture cannot be written"));
 }
 
-/// Draws on pages, whose dots are so small that nothing is left out.
-void drawPage(const Job& job, QPainter& painter, const QSizeF& dots, double dpi) {
+void drawPage(const Job& job, QPainter& painter, const QSizeF& dots, double dpi,
+              bool simplifies = false) {
   RenderOptions options = job.options(dpi / kMillimetresPerInch);
-  options.simplifies = false;
+  options.simplifies = simplifies;
   // A line of one dot can hardly be seen on paper.
   options.showsLineWeights = true;
   if (job.request.background.isValid() && job.request.background.alpha() > 0)
@@ -213,6 +215,14 @@ QStringList layoutNames(const OdDbDatabase& database) {
   QStringList names;
   for (const OdDbLayoutPtr& layout : oddb::layouts(database)) names << layout->getLayoutName();
   return names;
+}
+
+void paintPage(QPainter& painter, OdDbDatabase& database, const PictureRequest& request,
+               const QSizeF& dots, double dpi) {
+  Scene scene(database);
+  const Scope scope = scopeOf(database, scene, request);
+  // The dots of screens can be seen one by one; what is finer need not be drawn.
+  drawPage({scene, request, scope}, painter, dots, dpi, dpi < kSheetDpi);
 }
 
 void writePicture(OdDbDatabase& database, const PictureRequest& request) {

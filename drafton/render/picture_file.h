@@ -2,12 +2,15 @@
 #pragma once
 
 #include "drawing/database.h"
+#include "drawing/objects/layout.h"
 
 #include <QColor>
 #include <QRectF>
 #include <QSize>
 
 #include <optional>
+
+class QPainter;
 
 namespace drafton {
 
@@ -25,6 +28,10 @@ struct PictureRequest {
   bool extents = false;
   /// The name of a layout in any case, or "Model"; empty: the model space.
   OdString layout;
+  /// The model too is shown on the paper for which its plot was set up, if it was.
+  bool asPlotted = false;
+  /// How it is plotted, in place of what the layout says itself; null for that.
+  OdDbLayoutPtr plot;
 };
 
 /// True for the extensions that writePicture knows, in any case.
@@ -33,6 +40,11 @@ bool isPictureFile(const OdString& file);
 /// Draws a space of a drawing into a file, which is written as a whole or not at all. Raises
 /// OdFileError with the file and the reason, OdError(eInvalidInput) for a layout that is not there.
 void writePicture(OdDbDatabase& database, const PictureRequest& request);
+
+/// Draws what is asked for onto a page of `dots` that is open in a painter. Raises OdError
+/// (eInvalidInput) for a layout that is not there.
+void paintPage(QPainter& painter, OdDbDatabase& database, const PictureRequest& request,
+               const QSizeF& dots, double dpi);
 
 /// The names of the layouts, Model first, in the order of their tabs.
 QStringList layoutNames(const OdDbDatabase& database);

@@ -16,8 +16,13 @@ namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kShadow = 5;
-/// The standard scale that is as large as the paper allows.
-constexpr int kToFit = 0;
+
+struct StyleTable {
+  const char16_t* name;
+  Tones tones;
+};
+constexpr StyleTable kStyleTables[] = {{u"monochrome", Tones::kForeground},
+                                       {u"grayscale", Tones::kGrays}};
 
 /// The margins from the left edge counterclockwise, as they lie once the sheet is turned under the
 /// drawing.
@@ -78,9 +83,16 @@ OdGeExtents3d lastDisplay(const OdDbLayout& layout) {
   return {};
 }
 
+/// The model stands on no paper by itself, and where it was last looked at counts for the screen.
+bool plotsArea(const OdDbLayout& layout) {
+  return layout.plotType() != OdDbPlotSettings::kLayout &&
+         layout.plotType() != OdDbPlotSettings::kDisplay;
+}
+
 Plotted plottedOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn) {
   OdGePoint2d low, high;
   Plotted plotted;
+  if (layout.isModelType() && !plotsArea(layout)) return {drawn(), false};
   switch (layout.plotType()) {
   case OdDbPlotSettings::kExtents:
     return {drawn(), false};
@@ -104,7 +116,7 @@ Plotted plottedOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>
   // A window without size, or a view that is not there, hides nothing.
   if (plotted.area.isEmpty() || plotted.area.minPoint().x == plotted.area.maxPoint().x ||
       plotted.area.minPoint().y == plotted.area.maxPoint().y)
-    return {};
+    return layout.isModelType() ? Plotted{drawn(), false} : Plotted();
   return plotted;
 }
 
@@ -117,16 +129,39 @@ OdGePoint2d sheetSize(const OdDbLayout& layout) {
   return isTurned ? OdGePoint2d{size.y, size.x} : size;
 }
 
+bool hasPaper(const OdDbLayout& layout) {
+  const OdGePoint2d size = sheetSize(layout);
+  // New drawings have a paper for the model that nobody has chosen.
+  const bool isSetUp = !layout.isModelType() || plotsArea(layout) ||
+                       layout.getPlotCfgName() != QLatin1String("none_device");
+  return isSetUp && size.x > 0 && size.y > 0;
+}
+
+Tones tonesOf(const OdDbLayout& layout) {
+  if (!layout.plotFlag(OdDbPlotSettings::kPlotPlotStyles)) return Tones::kColors;
+  const OdString name = layout.getCurrentStyleSheet();
+  // Tables by colours and by names differ in what stands behind the dot.
+  const auto at = std::ranges::find_if(kStyleTables, [&](const StyleTable& table) {
+    return name.section(u'.', 0, -2).compare(QStringView(table.name), Qt::CaseInsensitive) == 0;
+  });
+  return at == std::end(kStyleTables) ? Tones::kColors : at->tones;
+}
+
 Sheet sheetOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn) {
+  return layout.isModelType() ? Sheet() : plotOf(layout, drawn);
+}
+
+Sheet plotOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn) {
   Sheet sheet;
   const OdGePoint2d size = sheetSize(layout);
-  if (layout.isModelType() || !(size.x > 0) || !(size.y > 0)) return sheet;
+  if (!hasPaper(layout)) return sheet;
   const std::array<double, 4> free = margins(layout);
   const OdGePoint2d printable{size.x - free[0] - free[2], size.y - free[1] - free[3]};
   const Plotted plotted = plottedOf(layout, drawn);
   // Drawing units of a millimetre of paper.
   double unit = unitsPerMillimetre(layout) / layout.plotScale();
-  const bool fits = layout.useStandardScale() && layout.stdScaleType() == kToFit;
+  const bool fits =
+      layout.useStandardScale() && layout.stdScaleType() == OdDbPlotSettings::kScaleToFit;
   if (fits && plotted.area.isEmpty()) unit = unitsPerMillimetre(layout);
   if (fits && !plotted.area.isEmpty() && printable.x > 0 && printable.y > 0) {
     const OdGeVector3d reach = plotted.area.maxPoint() - plotted.area.minPoint();
@@ -137,7 +172,9 @@ Sheet sheetOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& dr
   OdGePoint3d corner{};
   if (!plotted.area.isEmpty()) corner = plotted.area.minPoint();
   OdGePoint2d offset = layout.getPlotOrigin();
-  if (!plotted.area.isEmpty() && layout.plotFlag(OdDbPlotSettings::kPlotCentered)) {
+  const bool isCentered = layout.plotFlag(OdDbPlotSettings::kPlotCentered) ||
+                          (layout.isModelType() && !plotsArea(layout));
+  if (!plotted.area.isEmpty() && isCentered) {
     const OdGeVector3d reach = plotted.area.maxPoint() - plotted.area.minPoint();
     offset = {(printable.x - reach.x / unit) / 2, (printable.y - reach.y / unit) / 2};
   }

@@ -1,6 +1,7 @@
 // The paper of layouts.
 #pragma once
 
+#include "drafton/render/style.h"
 #include "drawing/geometry/extents.h"
 #include "drawing/objects/layout.h"
 
@@ -27,6 +28,13 @@ struct Sheet {
 /// whether it is fitted to the paper. `drawn` gives the box around all of the block; it is asked
 /// only if that counts.
 Sheet sheetOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn);
+/// The same for what is plotted: the model too has a paper once its plot was set up.
+Sheet plotOf(const OdDbLayout& layout, const std::function<OdGeExtents3d()>& drawn);
+/// True for sheets, and for the model once its plot was set up: before, it has neither a device nor
+/// an area that is plotted.
+bool hasPaper(const OdDbLayout& layout);
+/// What the layout's plot style table makes of colours: "monochrome" and "grayscale" are known.
+Tones tonesOf(const OdDbLayout& layout);
 /// The size of the sheet as it is plotted, in millimetres.
 OdGePoint2d sheetSize(const OdDbLayout& layout);
 /// Paints the sheet as a canvas shows it: paper with an edge and a shadow on `desk`, the printable

@@ -99,8 +99,20 @@ Ground Ground::ofAnyTone() {
   return ground;
 }
 
+Ground Ground::withTones(Tones tones) const {
+  Ground ground = *this;
+  ground.m_tones = tones;
+  return ground;
+}
+
+QRgb Ground::shade(std::uint32_t value) const {
+  return m_tones == Tones::kForeground ? withTones(Tones::kGrays).paint(value) : paint(value);
+}
+
 QRgb Ground::paint(std::uint32_t value) const {
-  const QRgb plain = plainPaint(value);
+  if (m_tones == Tones::kForeground) value = kForeground;
+  QRgb plain = plainPaint(value);
+  if (m_tones == Tones::kGrays) plain = qRgb(qGray(plain), qGray(plain), qGray(plain));
   return m_isAnyTone ? legibleOnAnyTone(plain) : plain;
 }
 

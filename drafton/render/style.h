@@ -53,6 +53,9 @@ Style resolved(const Traits& traits, const StyleTables& tables, const Style* ins
 /// The foreground colour on a ground of any tone.
 inline constexpr QRgb kNeutralTone = qRgb(122, 122, 122);
 
+/// What is made of colours: a plot style table may leave greys of them, or the foreground alone.
+enum class Tones { kColors, kGrays, kForeground };
+
 /// What the picture is drawn on, and the palette colours that depend on it.
 class Ground {
  public:
@@ -65,6 +68,11 @@ class Ground {
   /// The colour to paint with, opaque. `value` is that of an OdCmColor; the foreground colour is
   /// white on dark ground, black on light ground and grey where the ground is not known.
   QRgb paint(std::uint32_t value) const;
+  /// The same for areas that turn from one colour into another: where all else has the foreground's
+  /// tone they have greys, as they would be seen no more.
+  QRgb shade(std::uint32_t value) const;
+  /// The same ground, painted on in such tones.
+  Ground withTones(Tones tones) const;
   bool operator==(const Ground&) const = default;
 
  private:
@@ -73,6 +81,7 @@ class Ground {
   QRgb m_color;
   bool m_isDark;
   bool m_isAnyTone = false;
+  Tones m_tones = Tones::kColors;
 };
 
 } // namespace drafton

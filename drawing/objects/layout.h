@@ -28,6 +28,8 @@ class OdDbPlotSettings : public OdDbObject {
     kPrevPlotInit = 0x4000
   };
 
+  /// Takes over how another sheet is plotted.
+  void copyPlot(const OdDbPlotSettings& other);
   const OdString& plotSettingsName() const { return m_plot.pageSetup; }
   void setPlotSettingsName(const OdString& name);
   const OdString& getPlotCfgName() const { return m_plot.device; }
@@ -58,6 +60,8 @@ class OdDbPlotSettings : public OdDbObject {
   bool plotFlag(Flag flag) const { return m_plot.flags & flag; }
   void setPlotFlag(Flag flag, bool on);
 
+  /// The standard scale that is as large as the paper allows.
+  static constexpr int kScaleToFit = 0;
   bool useStandardScale() const { return plotFlag(kUseStandardScale); }
   void setUseStandardScale(bool use) { setPlotFlag(kUseStandardScale, use); }
   /// The number of the standard scale: 0 to fit, 16 for 1:1 and so on.

@@ -15,7 +15,6 @@ constexpr Scale kScales[] = {
     {1, 40},       {1, 50},         {1, 100},       {2, 1},         {4, 1},         {8, 1},
     {10, 1},       {100, 1},        {1000, 1},
 };
-constexpr int kToFit = 0;
 
 bool isKnown(int type) { return type >= 0 && type < static_cast<int>(std::size(kScales)); }
 
@@ -26,6 +25,14 @@ OdDbPlotSettings::OdDbPlotSettings() = default;
 void OdDbPlotSettings::assignFrom(const OdDbObject& other) {
   OdDbObject::assignFrom(other);
   m_plot = static_cast<const OdDbPlotSettings&>(other).m_plot;
+}
+
+void OdDbPlotSettings::copyPlot(const OdDbPlotSettings& other) {
+  assertWriteEnabled();
+  // Which of the tabs it is, is no matter of plotting.
+  const int own = m_plot.flags & kModelType;
+  m_plot = other.m_plot;
+  m_plot.flags = (m_plot.flags & ~kModelType) | own;
 }
 
 void OdDbPlotSettings::setPlotSettingsName(const OdString& name) {
@@ -128,7 +135,8 @@ void OdDbPlotSettings::setStdScaleType(int type) {
 
 double OdDbPlotSettings::getStdScale() const {
   const int type = m_plot.standardScale;
-  if (isKnown(type) && type != kToFit) return kScales[type].paper / kScales[type].drawing;
+  if (isKnown(type) && type != OdDbPlotSettings::kScaleToFit)
+    return kScales[type].paper / kScales[type].drawing;
   return std::isfinite(m_plot.scaleFactor) && m_plot.scaleFactor > 0 ? m_plot.scaleFactor : 1;
 }
 

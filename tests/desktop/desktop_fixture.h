@@ -16,7 +16,7 @@ class ScriptedDialogs : public drafton::UserDialogs {
  public:
   QStringList said;
   QStringList toOpen;
-  OdString toSave;
+  OdString toSave, suggested;
   bool confirms = true;
   Save save = Save::kDiscard;
   int asked = 0;
@@ -34,7 +34,8 @@ class ScriptedDialogs : public drafton::UserDialogs {
   QStringList chooseToOpen(const OdString&, const OdString&, const OdString&) override {
     return toOpen;
   }
-  OdString chooseToSave(const OdString&, const OdString&, const OdString&) override {
+  OdString chooseToSave(const OdString&, const OdString& suggestion, const OdString&) override {
+    suggested = suggestion;
     return toSave;
   }
 };

@@ -1,5 +1,7 @@
 #include "drafton/desktop/language.h"
 
+#include "desktop/desktop_fixture.h"
+#include "drafton/desktop/access_keys.h"
 #include "drafton/desktop/action_table.h"
 #include "drafton/desktop/drafting_aids.h"
 #include "drafton/desktop/object_snap.h"
@@ -9,7 +11,9 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QMenuBar>
 #include <QRegularExpression>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -133,6 +137,74 @@ TEST_F(LanguageTest, AccessKeysOfAMenuDiffer) {
   Translator::instance().clear();
   expectKeysOfTheirOwn();
 }
+
+TEST(AccessKeys, BeginningsOfWordsComeFirstAndGivenOnesStay) {
+  EXPECT_EQ(withAccessKeys({QStringLiteral("Line"), QStringLiteral("&Copy"),
+                            QStringLiteral("Color"), QStringLiteral("Linear Dimension")}),
+            (QStringList{QStringLiteral("&Line"), QStringLiteral("&Copy"), QStringLiteral("C&olor"),
+                         QStringLiteral("Linear &Dimension")}));
+  EXPECT_EQ(withAccessKeys({QStringLiteral("&Save"), QStringLiteral("&Same")}),
+            (QStringList{QStringLiteral("&Save"), QStringLiteral("S&ame")}))
+      << "one of two that are alike gets another";
+  EXPECT_EQ(withAccessKeys({QStringLiteral("ab"), QStringLiteral("a")}),
+            (QStringList{QStringLiteral("a&b"), QStringLiteral("&a")}))
+      << "who can, makes room";
+  EXPECT_EQ(
+      withAccessKeys({QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("A && &B\tCtrl+Q")}),
+      (QStringList{QStringLiteral("&a"), QStringLiteral("a"), QStringLiteral("A && &B\tCtrl+Q")}))
+      << "where there are no letters left there is no key";
+}
+
+/// The window in a language.
+class MenuKeysTest : public DesktopFixture, public ::testing::WithParamInterface<const char*> {
+ protected:
+  MenuKeysTest() {
+    stop();
+    if (loadLanguage(QStringLiteral(BINARY_DIR), QString::fromLatin1(GetParam())))
+      m_isLoaded = true;
+    start();
+  }
+  ~MenuKeysTest() override {
+    stop();
+    Translator::instance().clear();
+  }
+  /// Looks through a menu and those below it.
+  void check(QMenu& menu) {
+    // Some are filled when they are opened.
+    Q_EMIT menu.aboutToShow();
+    QStringList texts;
+    for (QAction* const action : menu.actions()) {
+      if (action->isSeparator()) continue;
+      ++m_entries;
+      texts << action->text();
+      const QString plain = QString(action->text()).remove(QStringLiteral("&&"));
+      EXPECT_EQ(plain.count(u'&'), 1) << action->text().toStdString();
+      if (action->menu()) check(*action->menu());
+    }
+    const QStringList shared = sharedKeys(texts);
+    EXPECT_EQ(shared, QStringList()) << shared.join(u'\n').toStdString();
+  }
+  bool m_isLoaded = false;
+  int m_entries = 0;
+};
+
+TEST_P(MenuKeysTest, EveryMenuAndEntryHasOneOfItsOwn) {
+  EXPECT_EQ(m_isLoaded, GetParam() == std::string_view("Deutsch"));
+  dialogs.toSave = path("this & that.dxf");
+  window().actions().find(u"saveAs")->trigger();
+  QStringList bar;
+  for (QAction* const title : window().menuBar()->actions()) {
+    bar << title->text();
+    EXPECT_EQ(title->text().count(u'&'), 1) << title->text().toStdString();
+    check(*title->menu());
+  }
+  EXPECT_EQ(sharedKeys(bar), QStringList());
+  check(*window().statusLine().toggle(Aid::kSnap)->menu());
+  EXPECT_GT(m_entries, 100);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MenuKeysTest, ::testing::Values("English", "Deutsch"),
+                         [](const auto& each) { return std::string(each.param); });
 
 TEST_F(LanguageTest, EnglishAndUnknownLanguagesStayAsTheyAre) {
   EXPECT_FALSE(loadLanguage(QStringLiteral(BINARY_DIR), QStringLiteral("English")));

@@ -4,7 +4,6 @@
 #include "drafton/desktop/inspector.h"
 #include "drafton/desktop/layer_manager.h"
 #include "drafton/desktop/options_dialog.h"
-#include "drafton/desktop/printing.h"
 #include "drafton/desktop/property_bar.h"
 #include "drafton/desktop/theme.h"
 #include "drawing/entities/line.h"
@@ -108,6 +107,28 @@ TEST_F(PanesTest, TheLayerManagerMakesRenamesAndSwitchesLayers) {
   EXPECT_TRUE(history().contains(QStringLiteral("There is no line type \"nonsense\".")));
 }
 
+TEST_F(PanesTest, TheLayerManagerOffersLineTypesAndWeightsThatALayerCanHave) {
+  window().actions().find(u"layers")->trigger();
+  QTableWidget& table = window().layers().table();
+  const auto editing = [&](int column) {
+    const QModelIndex cell = table.model()->index(0, column);
+    table.setCurrentIndex(cell);
+    table.edit(cell);
+    return table.findChild<QComboBox*>();
+  };
+  QComboBox* list = editing(7);
+  ASSERT_TRUE(list);
+  EXPECT_EQ(list->findText(QStringLiteral("ByLayer")), -1);
+  list->setCurrentIndex(list->findText(QStringLiteral("0.50mm")));
+  Q_EMIT list->activated(list->currentIndex());
+  const OdDbLayerTableRecordPtr layer = database().currentLayer().safeOpenObject();
+  EXPECT_EQ(layer->lineWeight(), 50);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  list = editing(6);
+  ASSERT_TRUE(list);
+  EXPECT_EQ(list->count(), 1) << "Continuous; by layer is none for a layer";
+}
+
 TEST_F(PanesTest, TheLayersComeUpOverTheWindowWithTheKeys) {
   window().move(300, 40);
   auto* const dock = window().findChild<QDockWidget*>(QStringLiteral("layers"));
@@ -127,28 +148,6 @@ TEST_F(PanesTest, TheBlockListBeginsToInsert) {
   EXPECT_FALSE(list.item(0)->icon().isNull());
   Q_EMIT list.itemActivated(list.item(0));
   EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("INSERT")});
-}
-
-TEST_F(PanesTest, WritesThePdfOfTheSheetOrSaysWhyNot) {
-  type("LINE 0,0 5,5  ");
-  EXPECT_TRUE(window().exportPdf(path("sheet")));
-  QFile file(path("sheet.pdf"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(file.read(5) == "%PDF-");
-  EXPECT_FALSE(window().exportPdf(path("no/such/folder/sheet.pdf")));
-  ASSERT_EQ(dialogs.said.size(), 1);
-  EXPECT_TRUE(dialogs.said[0].contains(QStringLiteral("sheet.pdf is not written: ")));
-}
-
-TEST_F(PanesTest, PrintsTheSheetOnItsPaper) {
-  type("LINE 0,0 5,5  LAYOUT Set Layout1\n");
-  QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(path("printed.pdf"));
-  setPaper(printer, database());
-  EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape) << "420 x 297";
-  EXPECT_TRUE(printSheet(printer, database()));
-  EXPECT_GT(QFileInfo(path("printed.pdf")).size(), 500);
 }
 
 TEST_F(PanesTest, OptionsAreKeptAndTakenOver) {
@@ -228,6 +227,7 @@ TEST_F(PanesTest, EveryActionHasTextTipAndAKeyOfItsOwn) {
     EXPECT_FALSE(action->toolTip().isEmpty()) << name;
     for (const QKeySequence& key : action->shortcuts()) keys << key.toString();
     EXPECT_TRUE(row.toolbar == ToolbarId::kNone || !action->icon().isNull()) << name;
+    EXPECT_TRUE(!row.icon || !action->icon().isNull()) << name << " has the icon of a command";
   }
   EXPECT_EQ(keys.removeDuplicates(), 0);
 }

@@ -72,6 +72,51 @@ class LayoutPictures : public PictureTest {
   OdDbObjectId m_layer;
 };
 
+TEST_F(LayoutPictures, TheModelHasAPaperOnceItsPlotWasSetUp) {
+  auto line = odrxMake<OdDbLine>(OdGePoint3d{100, 100, 0}, OdGePoint3d{1100, 300, 0});
+  add(line);
+  const OdDbLayoutPtr model =
+      oddb::findLayout(database(), QStringLiteral("Model")).safeOpenObject(OdDb::kForWrite);
+  EXPECT_FALSE(hasPaper(*model));
+  EXPECT_TRUE(plotOf(*model, drawnIn(*model)).paper.isEmpty());
+  model->setPlotPaperSize(400, 300);
+  model->setPlotPaperMargins(50, 0, 50, 0);
+  model->setPlotType(OdDbPlotSettings::kExtents);
+  model->setUseStandardScale(false);
+  model->setCustomPrintScale(1, 4);
+  EXPECT_TRUE(hasPaper(*model));
+  const Sheet sheet = plotOf(*model, drawnIn(*model));
+  EXPECT_EQ(sheet.paper.minPoint().x, 100 - 50 * 4);
+  EXPECT_EQ(sheet.paper.maxPoint().x, 100 - 50 * 4 + 400 * 4);
+  EXPECT_EQ(sheet.scale, 0.25);
+  EXPECT_TRUE(sheetOf(*model, drawnIn(*model)).paper.isEmpty()) << "a canvas shows none";
+  // Set up for a printer elsewhere, with whatever the screen showed there.
+  model->setPlotType(OdDbPlotSettings::kDisplay);
+  EXPECT_FALSE(hasPaper(*model));
+  model->setPlotCfgName(QStringLiteral("Plotter in the hall"));
+  const Sheet whole = plotOf(*model, drawnIn(*model));
+  const double middle = (whole.paper.minPoint().x + whole.paper.maxPoint().x) / 2;
+  EXPECT_NEAR(middle, 600, 1e-9) << "all of it in the middle of the paper";
+}
+
+TEST_F(LayoutPictures, PlotStylesLeaveTonesOfColors) {
+  const OdDbLayoutPtr layout = sheet();
+  EXPECT_EQ(tonesOf(*layout), Tones::kColors);
+  layout->setCurrentStyleSheet(QStringLiteral("Monochrome.CTB"));
+  EXPECT_EQ(tonesOf(*layout), Tones::kForeground);
+  layout->setCurrentStyleSheet(QStringLiteral("grayscale.stb"));
+  EXPECT_EQ(tonesOf(*layout), Tones::kGrays);
+  layout->setPlotFlag(OdDbPlotSettings::kPlotPlotStyles, false);
+  EXPECT_EQ(tonesOf(*layout), Tones::kColors) << "they are not plotted with";
+  const Ground paper(qRgb(255, 255, 255)), board(qRgb(0, 0, 0));
+  const std::uint32_t red = OdCmColor::fromColorIndex(1).color();
+  EXPECT_EQ(paper.withTones(Tones::kForeground).paint(red), qRgb(0, 0, 0));
+  EXPECT_EQ(board.withTones(Tones::kForeground).paint(red), qRgb(255, 255, 255));
+  const QRgb gray = paper.withTones(Tones::kGrays).paint(red);
+  EXPECT_EQ(gray, qRgb(qGray(qRgb(255, 0, 0)), qGray(qRgb(255, 0, 0)), qGray(qRgb(255, 0, 0))));
+  EXPECT_EQ(paper.withTones(Tones::kForeground).shade(red), gray) << "what is graded is still seen";
+}
+
 TEST_F(LayoutPictures, WindowsWithScalesTwistFrozenLayersAndOtherShapes) {
   fillModel();
   const OdDbLayoutPtr layout = sheet();

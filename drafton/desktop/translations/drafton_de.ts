@@ -3499,5 +3499,173 @@
         <source>A fence needs two points.</source>
         <translation>Ein Zaun braucht zwei Punkte.</translation>
     </message>
+    <message>
+        <source>Pa&amp;ge Setup...</source>
+        <translation>Seite ein&amp;richten...</translation>
+    </message>
+    <message>
+        <source>Choose paper, scale and plot style of what is shown</source>
+        <translation>Papier, Maßstab und Plotstil dessen wählen, was zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Page Setup: %1</source>
+        <translation>Seite einrichten: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>&amp;Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Other size</source>
+        <translation>Andere Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Breite</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>What is plo&amp;tted</source>
+        <translation>Was &amp;geplottet wird</translation>
+    </message>
+    <message>
+        <source>What is plotted</source>
+        <translation>Was geplottet wird</translation>
+    </message>
+    <message>
+        <source>Pick the w&amp;indow...</source>
+        <translation>&amp;Fenster zeigen...</translation>
+    </message>
+    <message>
+        <source>&amp;Scale</source>
+        <translation>&amp;Maßstab</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>An das Papier angepasst</translation>
+    </message>
+    <message>
+        <source>In the &amp;middle of the paper</source>
+        <translation>In der M&amp;itte des Papiers</translation>
+    </message>
+    <message>
+        <source>Plot st&amp;yle</source>
+        <translation>Plot&amp;stil</translation>
+    </message>
+    <message>
+        <source>P&amp;rint...</source>
+        <translation>D&amp;rucken...</translation>
+    </message>
+    <message>
+        <source>A scale looks like 1:50.</source>
+        <translation>Ein Maßstab sieht aus wie 1:50.</translation>
+    </message>
+    <message>
+        <source>Colors of the drawing</source>
+        <translation>Farben der Zeichnung</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Extents</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limiten</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Enter what is plotted</source>
+        <translation>Was geplottet wird</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Farbe...</translation>
+    </message>
+    <message>
+        <source>Choose the color of what is chosen, or of new objects</source>
+        <translation>Die Farbe des Gewählten oder neuer Objekte wählen</translation>
+    </message>
+    <message>
+        <source>Choose a Color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>&amp;Index</translation>
+    </message>
+    <message>
+        <source>&amp;True Color</source>
+        <translation>&amp;True Color</translation>
+    </message>
+    <message>
+        <source>Color &amp;Books</source>
+        <translation>Farb&amp;bücher</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>By &amp;Layer</source>
+        <translation>Von &amp;Layer</translation>
+    </message>
+    <message>
+        <source>By Bloc&amp;k</source>
+        <translation>Von Bloc&amp;k</translation>
+    </message>
+    <message>
+        <source>Entries of color books in this drawing</source>
+        <translation>Einträge von Farbbüchern in dieser Zeichnung</translation>
+    </message>
+    <message>
+        <source>Boo&amp;k</source>
+        <translation>Bu&amp;ch</translation>
+    </message>
+    <message>
+        <source>&amp;Name in the book</source>
+        <translation>&amp;Name im Buch</translation>
+    </message>
+    <message>
+        <source>Or name the color that is chosen now:</source>
+        <translation>Oder die jetzt gewählte Farbe benennen:</translation>
+    </message>
+    <message>
+        <source>Recent color %1</source>
+        <translation>Zuletzt gewählte Farbe %1</translation>
+    </message>
 </context>
 </TS>

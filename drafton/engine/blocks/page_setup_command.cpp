@@ -2,26 +2,16 @@
 
 #include "drafton/engine/blocks/block_commands.h"
 #include "drafton/engine/commands/shown_values.h"
+#include "drafton/engine/page_paper.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
 #include "drawing/database.h"
-#include "drawing/entities/viewport.h"
 #include "drawing/objects/layout.h"
 
 #include <array>
 
 namespace drafton {
 namespace {
-
-/// A sheet of the A series, upright.
-struct Paper {
-  const char16_t* name;
-  double width, height;
-};
-
-constexpr Paper kPapers[] = {
-    {u"A0", 841, 1189}, {u"A1", 594, 841}, {u"A2", 420, 594}, {u"A3", 297, 420}, {u"A4", 210, 297},
-};
 
 constexpr double kLargestSide = 100000;
 
@@ -37,40 +27,6 @@ std::optional<OdGePoint2d> parseSize(const OdString& typed) {
 
 OdString shownSize(const OdGePoint2d& size) { return shownReal(size.x) + u'x' + shownReal(size.y); }
 
-/// The name by which plotters know a sheet.
-OdString mediaName(const OdString& paper, const OdGePoint2d& size) {
-  const auto side = [](double length) { return OdString::number(length, 'f', 2); };
-  return QStringLiteral("%1_(%2_x_%3_MM)").arg(paper, side(size.x), side(size.y));
-}
-
-/// The window that stands for the sheet keeps its size.
-void resizeSheet(OdDbLayout& layout) {
-  const OdGePoint2d paper = layout.getPlotPaperSize();
-  double left = 0, bottom = 0, right = 0, top = 0;
-  layout.getPlotPaperMargins(left, bottom, right, top);
-  layout.setLimits({-left, -bottom}, {paper.x - left, paper.y - bottom});
-  const OdGePoint2d middle{paper.x / 2 - left, paper.y / 2 - bottom};
-  const auto space = layout.getBlockTableRecordId().openAs<OdDbBlockTableRecord>();
-  for (auto at = space->newIterator(); !at->done(); at->step()) {
-    const OdDbEntityPtr entity = at->entity();
-    auto* const view = odrxCast<OdDbViewport>(entity);
-    if (!view || !view->isOverall()) continue;
-    view->upgradeOpen();
-    view->setCenterPoint({middle.x, middle.y, 0});
-    view->setWidth(paper.x);
-    view->setHeight(paper.y);
-    view->setViewCenter(middle);
-    view->setViewHeight(paper.y);
-  }
-}
-
-void setPaper(OdDbLayout& layout, const OdString& name, const OdGePoint2d& size) {
-  layout.setPlotPaperUnits(OdDbPlotSettings::kMillimeters);
-  layout.setPlotRotation(OdDbPlotSettings::k0degrees);
-  layout.setPlotPaperSize(size.x, size.y);
-  layout.setCanonicalMediaName(mediaName(name, size));
-}
-
 Task<void> askPaper(CommandContext& context, OdDbLayout& layout) {
   CommandInput& input = context.input();
   const OdString now = shownSize(layout.getPlotPaperSize());
@@ -79,17 +35,17 @@ Task<void> askPaper(CommandContext& context, OdDbLayout& layout) {
         {.text = u"Enter paper size (A0 to A4, or width x height in millimetres as 420x297)",
          .defaultValue = QStringView(now)});
     if (const auto size = parseSize(typed.value)) {
-      setPaper(layout, QStringLiteral("CUSTOM"), *size);
+      setPaper(layout, *size);
       co_return;
     }
-    for (const Paper& paper : kPapers) {
+    for (const PagePaper& paper : pagePapers()) {
       if (typed.value.compare(QStringView(paper.name), Qt::CaseInsensitive) != 0) continue;
       const Answer<OdString> way = co_await input.keyword({.text = u"Enter orientation",
                                                            .keywords = u"Portrait Landscape",
                                                            .defaultValue = u"Landscape"});
       const OdGePoint2d size = way.is(u"Portrait") ? OdGePoint2d{paper.width, paper.height}
                                                    : OdGePoint2d{paper.height, paper.width};
-      setPaper(layout, QStringLiteral("ISO_") + OdString::fromUtf16(paper.name), size);
+      setPaper(layout, size);
       co_return;
     }
     context.print(translated(u"There is no paper size \"%1\".").arg(typed.value.left(60)));
@@ -115,8 +71,15 @@ Task<void> askMargins(CommandContext& context, OdDbLayout& layout) {
 
 Task<void> askScale(CommandContext& context, OdDbLayout& layout) {
   CommandInput& input = context.input();
-  const Answer<double> paper = co_await input.real(
-      {.text = u"Enter plotted millimetres", .defaultValue = 1, .range = NumberRange::kPositive});
+  const Answer<double> paper = co_await input.real({.text = u"Enter plotted millimetres",
+                                                    .keywords = u"Fit",
+                                                    .defaultValue = 1,
+                                                    .range = NumberRange::kPositive});
+  if (paper.is(u"Fit")) {
+    layout.setUseStandardScale(true);
+    layout.setStdScaleType(OdDbPlotSettings::kScaleToFit);
+    co_return;
+  }
   const Answer<double> drawing = co_await input.real({.text = u"Enter drawing units for them",
                                                       .defaultValue = 1,
                                                       .range = NumberRange::kPositive});
@@ -133,16 +96,38 @@ Task<void> askStyleTable(CommandContext& context, OdDbLayout& layout) {
   layout.setCurrentStyleSheet(table.value == u"." ? OdString() : table.value);
 }
 
+Task<void> askWindow(CommandContext& context, OdDbLayout& layout) {
+  const Answer<OdGePoint3d> first =
+      co_await context.input().point({.text = u"Specify first corner"});
+  for (;;) {
+    const Answer<OdGePoint3d> second = co_await context.input().point(
+        {.text = u"Specify opposite corner", .base = first.value, .band = RubberBand::kBox});
+    const OdGePoint3d &a = first.value, &b = second.value;
+    if (a.x != b.x && a.y != b.y) {
+      layout.setPlotWindowArea({std::min(a.x, b.x), std::min(a.y, b.y)},
+                               {std::max(a.x, b.x), std::max(a.y, b.y)});
+      layout.setPlotType(OdDbPlotSettings::kWindow);
+      co_return;
+    }
+    context.print(translated(u"The corners must differ."));
+  }
+}
+
+Task<void> askArea(CommandContext& context, OdDbLayout& layout) {
+  const Answer<OdString> area = co_await context.input().keyword(
+      {.text = u"Enter what is plotted", .keywords = u"Layout Extents Window"});
+  if (area.is(u"Window")) co_return co_await askWindow(context, layout);
+  layout.setPlotType(area.is(u"Extents") ? OdDbPlotSettings::kExtents : OdDbPlotSettings::kLayout);
+}
+
 struct PageOption {
   const char16_t* keyword;
   Task<void> (*ask)(CommandContext& context, OdDbLayout& layout);
 };
 
 constexpr PageOption kOptions[] = {
-    {u"Paper", askPaper},
-    {u"Margins", askMargins},
-    {u"Scale", askScale},
-    {u"Table", askStyleTable},
+    {u"Paper", askPaper},      {u"Margins", askMargins}, {u"Scale", askScale},
+    {u"Table", askStyleTable}, {u"Area", askArea},
 };
 
 } // namespace
@@ -156,13 +141,15 @@ Task<void> pageSetup(CommandContext& context) {
     context.print(translated(u"Sheet of \"%1\": %2 mm, margins %3, %4, %5, %6")
                       .arg(layout->getLayoutName(), shownSize(layout->getPlotPaperSize()),
                            shownReal(left), shownReal(bottom), shownReal(right), shownReal(top)));
-    const Answer<OdString> option = co_await context.input().keyword(
-        {.text = u"Enter an option", .keywords = u"Paper Margins Scale Table", .allowEmpty = true});
+    const Answer<OdString> option =
+        co_await context.input().keyword({.text = u"Enter an option",
+                                          .keywords = u"Paper Margins Scale Table Area",
+                                          .allowEmpty = true});
     if (option.isEmpty()) break;
     for (const PageOption& each : kOptions)
       if (option.is(each.keyword)) co_await each.ask(context, *layout);
   }
-  if (!layout->isModelType()) resizeSheet(*layout);
+  fitSheetToPaper(*layout);
 }
 
 } // namespace drafton

@@ -566,6 +566,27 @@ TEST_F(LayoutTest, SheetGetsItsPaperAndMargins) {
   EXPECT_EQ(sheet->getPlotPaperSize(), (OdGePoint2d{500, 300}));
 }
 
+TEST_F(LayoutTest, WhatIsPlottedAndAtWhichScaleIsSet) {
+  words("LAYOUT|s|Layout1|PAGESETUP|a|e|s|f|");
+  EXPECT_FALSE(isBusy()) << output().toStdString();
+  const OdDbLayoutPtr sheet = oddb::activeLayout(database()).openObject();
+  EXPECT_EQ(sheet->plotType(), OdDbPlotSettings::kExtents);
+  EXPECT_TRUE(sheet->useStandardScale());
+  EXPECT_EQ(sheet->stdScaleType(), OdDbPlotSettings::kScaleToFit);
+  words("PAGESETUP|a|w|30,5|30,9|10,20|");
+  EXPECT_TRUE(console().shows(QStringLiteral("The corners must differ.")))
+      << "no height, no window";
+  EXPECT_EQ(sheet->plotType(), OdDbPlotSettings::kWindow);
+  OdGePoint2d low, high;
+  sheet->getPlotWindowArea(low, high);
+  EXPECT_EQ(low, (OdGePoint2d{10, 5}));
+  EXPECT_EQ(high, (OdGePoint2d{30, 20}));
+  words("PAGESETUP|a|l|p|letter|l|");
+  EXPECT_EQ(sheet->plotType(), OdDbPlotSettings::kLayout);
+  EXPECT_EQ(sheet->getPlotPaperSize(), (OdGePoint2d{279.4, 215.9}));
+  EXPECT_EQ(sheet->getCanonicalMediaName(), QStringLiteral("ANSI_Letter_(279.40_x_215.90_MM)"));
+}
+
 TEST_F(LayoutTest, SheetRefusesPaperThatIsNone) {
   words("LAYOUT|n|Sheet|LAYOUT|s|Sheet|PAGESETUP|p|A9");
   EXPECT_TRUE(console().shows(QStringLiteral("There is no paper size \"A9\".")));

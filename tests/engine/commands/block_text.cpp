@@ -36,6 +36,14 @@ OdString describeSheet(const OdDbLayout& layout) {
   double paper = 1, drawing = 1;
   layout.getCustomPrintScale(paper, drawing);
   if (paper != drawing) text += QStringLiteral(" scale %1:%2").arg(paper).arg(drawing);
+  if (layout.useStandardScale() && layout.stdScaleType() == OdDbPlotSettings::kScaleToFit)
+    text += QStringLiteral(" fitted");
+  if (layout.plotType() == OdDbPlotSettings::kExtents) text += QStringLiteral(" extents");
+  if (layout.plotType() == OdDbPlotSettings::kWindow) {
+    OdGePoint2d low, high;
+    layout.getPlotWindowArea(low, high);
+    text += QStringLiteral(" window %1 to %2").arg(shown(low.x, low.y), shown(high.x, high.y));
+  }
   if (!layout.getCurrentStyleSheet().isEmpty()) text += u' ' + layout.getCurrentStyleSheet();
   QStringList views;
   const auto space = layout.getBlockTableRecordId().openAs<OdDbBlockTableRecord>();
