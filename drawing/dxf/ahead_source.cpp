@@ -94,7 +94,11 @@ void OdDbDxfAheadSource::Helper::readObject(Piece& piece) {
 OdDbDxfAheadSource::OdDbDxfAheadSource(OdDbDxfBytes bytes, std::size_t threads)
   : m_stream(std::move(bytes))
   , m_text(OdDbDxfBytes(std::string_view()))
-  , m_threads(threads) {}
+  , m_threads(threads)
+  , m_crew(std::make_unique<OdDbDxfCrew>(threads)) {
+  // It comes while this thread reads what the first entities need.
+  m_crew->call();
+}
 
 OdDbDxfAheadSource::~OdDbDxfAheadSource() { end(); }
 
@@ -115,9 +119,8 @@ OdString OdDbDxfAheadSource::problem() const {
 }
 
 void OdDbDxfAheadSource::begin(OdDbDxfIn& in) {
-  if (!m_crew) {
+  if (!m_shared) {
     m_shared = std::make_unique<OdDbDxfShared>(in.database());
-    m_crew = std::make_unique<OdDbDxfCrew>(m_threads);
     m_helpers.resize(m_threads);
   }
   m_in = &in;

@@ -21,6 +21,11 @@ bool OdDbDxfBytes::hasFallenBehind() const {
 
 bool OdDbDxfBytes::more() {
   if (!m_device) return false;
+  // To find that out by reading would take memory first.
+  if (m_behind > 0 && !m_device->isSequential() && m_device->atEnd()) {
+    m_device = nullptr;
+    return false;
+  }
   const std::size_t kept = left();
   // All of it may be one value.
   const bool isFull = kept == m_size;

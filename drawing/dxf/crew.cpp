@@ -35,6 +35,7 @@ OdDbDxfCrew::~OdDbDxfCrew() {
   stop();
   const Lock lock(m_shared->mutex);
   m_shared->end = true;
+  ++m_shared->changes;
   m_shared->given.notify_all();
 }
 
@@ -65,6 +66,16 @@ void OdDbDxfCrew::Shared::carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock)
   lock.lock();
   job.m_state = OdDbDxfJob::kDone;
   --begun;
+  ++changes;
+}
+
+void OdDbDxfCrew::Shared::await(std::condition_variable& change, Lock& lock) {
+  constexpr int kLooks = 400;
+  const unsigned known = changes;
+  lock.unlock();
+  for (int i = 0; i < kLooks && changes == known; ++i) std::this_thread::yield();
+  lock.lock();
+  if (changes == known) change.wait(lock);
 }
 
 void OdDbDxfCrew::Shared::workAlong(std::size_t who) {
@@ -74,7 +85,7 @@ void OdDbDxfCrew::Shared::workAlong(std::size_t who) {
       carryOut(*job, who, lock);
       done.notify_one();
     } else {
-      given.wait(lock);
+      await(given, lock);
     }
   }
 }
@@ -86,6 +97,7 @@ void OdDbDxfCrew::give(std::unique_ptr<OdDbDxfJob> job) {
     job->m_state = OdDbDxfJob::kWaiting;
     isFirst = m_shared->jobs.empty();
     m_shared->jobs.push_back(std::move(job));
+    ++m_shared->changes;
   }
   // The first job is for whoever takes it; who has only one needs no help.
   if (!isFirst) call();
@@ -99,7 +111,7 @@ std::unique_ptr<OdDbDxfJob> OdDbDxfCrew::take() {
     if (OdDbDxfJob* const job = m_shared->nextWaiting())
       m_shared->carryOut(*job, 0, lock);
     else
-      m_shared->done.wait(lock);
+      m_shared->await(m_shared->done, lock);
   }
   std::unique_ptr<OdDbDxfJob> job = std::move(jobs.front());
   jobs.pop_front();

@@ -1,6 +1,7 @@
 // Work that several threads share.
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
@@ -56,12 +57,15 @@ class OdDbDxfCrew {
     OdDbDxfJob* nextWaiting() const;
     void carryOut(OdDbDxfJob& job, std::size_t who, Lock& lock);
     void workAlong(std::size_t who);
+    /// Looks around for a moment before the thread sleeps: to be woken takes longer than most jobs.
+    void await(std::condition_variable& change, Lock& lock);
 
     std::mutex mutex;
     std::condition_variable given, done;
     std::deque<std::unique_ptr<OdDbDxfJob>> jobs;
     std::size_t begun = 0;
     bool end = false;
+    std::atomic<unsigned> changes = 0; ///< of the jobs and the end, made under the mutex
   };
 
   const std::size_t m_most;

@@ -8,8 +8,12 @@
 
 namespace {
 
-/// The row of a variable by its name in the file; null if there is none.
-const OdDbHeaderVarInfo* rowOf(std::string_view name) {
+/// The row of a variable by its name in the file; null if there is none. `expected` is where it
+/// stands if the file has the order of the table, as most files have.
+const OdDbHeaderVarInfo* rowOf(std::string_view name, std::size_t expected) {
+  const auto vars = oddbHeaderVars();
+  if (name.starts_with('$') && expected < vars.size() && name.substr(1) == vars[expected].name)
+    return &vars[expected];
   // A header asks for some hundred of them, nearly all written as programs write them.
   static const auto byName = [] {
     std::unordered_map<std::string_view, const OdDbHeaderVarInfo*> all;
@@ -26,17 +30,20 @@ const OdDbHeaderVarInfo* rowOf(std::string_view name) {
 void OdDbDxfReader::readHeader() {
   const auto vars = oddbHeaderVars();
   OdDbHeaderEntry* entry = nullptr;
+  std::size_t expected = 0;
   m_data.headerOrder.clear();
   m_data.headerOrder.reserve(vars.size());
   while (m_in.next() && m_in.tag().code != 0) {
     const OdDbDxfTag tag = m_in.tag();
     if (tag.code == 9) {
-      const OdDbHeaderVarInfo* const row = rowOf(tag.text);
+      const OdDbHeaderVarInfo* const row = rowOf(tag.text, expected);
       entry = &m_data.headerOrder.emplace_back();
-      if (row)
+      if (row) {
         entry->known = static_cast<int>(row - vars.data());
-      else
+        expected = static_cast<std::size_t>(entry->known) + 1;
+      } else {
         oddxf::addLines(entry->tags.edit(), 9, tag.text);
+      }
       continue;
     }
     if (!entry) {

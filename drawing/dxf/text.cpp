@@ -92,8 +92,8 @@ std::string_view oddxf::trimmed(std::string_view text) {
 namespace {
 
 /// Numbers of few digits, which nearly all are: digits and the power of ten below them are both
-/// exact, and so is the rounding of their quotient. Nothing for others.
-std::optional<double> shortReal(std::string_view text) {
+/// exact, and so is the rounding of their quotient. False for others.
+bool readShort(std::string_view text, double& value) {
   static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   const char* at = text.data();
@@ -101,7 +101,7 @@ std::optional<double> shortReal(std::string_view text) {
   const bool negative = at != end && *at == '-';
   if (negative) ++at;
   // Up to 15 digits and a point.
-  if (end - at > 16 || at == end) return std::nullopt;
+  if (end - at > 16 || at == end) return false;
   std::uint64_t digits = 0;
   const char* point = nullptr;
   for (; at != end; ++at) {
@@ -111,22 +111,23 @@ std::optional<double> shortReal(std::string_view text) {
     else if (*at == '.' && !point)
       point = at;
     else
-      return std::nullopt;
+      return false;
   }
   const std::size_t count = text.size() - (negative ? 1 : 0) - (point ? 1 : 0);
-  if (count == 0 || count > 15) return std::nullopt;
-  double value = static_cast<double>(static_cast<std::int64_t>(digits));
+  if (count == 0 || count > 15) return false;
+  value = static_cast<double>(static_cast<std::int64_t>(digits));
   if (point) value /= kPowers[end - point - 1];
-  return negative ? -value : value;
+  if (negative) value = -value;
+  return true;
 }
 
 } // namespace
 
 std::optional<double> oddxf::realOf(std::string_view text) {
-  if (const auto value = shortReal(text)) return value;
+  double value = 0;
+  if (readShort(text, value)) return value;
   text = trimmed(text);
   if (text.starts_with('+')) text.remove_prefix(1);
-  double value = 0;
   const auto [at, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || at != text.data() + text.size()) return std::nullopt;
   return value;

@@ -15,6 +15,12 @@ OdString folded(const OdString& name) {
   return key;
 }
 
+/// Of several records of one name the first one counts.
+void noteName(QHash<OdString, OdDbObjectId>& index, const OdString& name, OdDbObjectId id) {
+  OdDbObjectId& noted = index[folded(name)];
+  if (noted.isNull()) noted = id;
+}
+
 } // namespace
 
 OdDbSymbolTableRecord::OdDbSymbolTableRecord() = default;
@@ -71,9 +77,7 @@ OdDbObjectId OdDbSymbolTable::getAt(const OdString& name) const {
     for (const OdDbObjectId id : m_records) {
       const OdDbSymbolTableRecordPtr record = id.openObject();
       if (!record) continue;
-      const OdString key = folded(record->getName());
-      // Of several records of one name the first one counts.
-      if (!m_index.contains(key)) m_index.insert(key, id);
+      noteName(m_index, record->getName(), id);
     }
     m_indexed = true;
   }
@@ -97,8 +101,7 @@ void OdDbSymbolTable::attach(OdDbObjectId id) {
   m_records.push_back(id);
   if (!m_indexed) return;
   const OdDbSymbolTableRecordPtr record = id.openObject();
-  const OdString key = folded(record->getName());
-  if (!m_index.contains(key)) m_index.insert(key, id);
+  noteName(m_index, record->getName(), id);
 }
 
 OdDbSymbolTableIteratorPtr OdDbSymbolTable::newIterator(bool skipErased) const {
