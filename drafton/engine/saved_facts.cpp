@@ -4,6 +4,9 @@
 #include "drawing/variable_recording.h"
 #include "frame/system_services.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <unordered_map>
 
 namespace drafton {
@@ -22,13 +25,21 @@ struct Box {
   OdGePoint3d least, greatest;
 };
 
+double held(double value) {
+  constexpr double kMost = std::numeric_limits<double>::max();
+  return std::isnan(value) ? 0 : std::clamp(value, -kMost, kMost);
+}
+
+OdGePoint3d held(const OdGePoint3d& p) { return {held(p.x), held(p.y), held(p.z)}; }
+
 Box boxOf(OdDbObjectId space) {
   // What an empty space tells, as the format has it: nothing is within.
   constexpr double kNothing = 1e20;
   const OdDbBlockTableRecordPtr block = space.openObject();
   const OdGeExtents3d box = block ? block->extents() : OdGeExtents3d();
   if (box.isEmpty()) return {{kNothing, kNothing, kNothing}, {-kNothing, -kNothing, -kNothing}};
-  return {box.minPoint(), box.maxPoint()};
+  // Where something reaches beyond all numbers, the box ends at the last one.
+  return {held(box.minPoint()), held(box.maxPoint())};
 }
 
 void set(OdDbDatabase& database, const char* name, double value) {

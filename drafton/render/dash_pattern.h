@@ -6,6 +6,9 @@
 
 namespace drafton {
 
+/// Patterns and dashes of fewer pixels are one line to the eye.
+inline constexpr double kFinestPattern = 3;
+
 /// What stands in a line type behind a dash.
 struct DashOrnament {
   OdString text; ///< empty for a shape

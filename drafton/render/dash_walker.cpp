@@ -1,5 +1,7 @@
 #include "drafton/render/dash_walker.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -28,8 +30,9 @@ void DashWalker::draw(std::span<const OdGePoint3d> points, bool closed) {
   for (std::size_t i = 0; i + 1 < points.size(); ++i) total += points[i].distanceTo(points[i + 1]);
   if (closed) total += points.back().distanceTo(points.front());
   const std::optional<double> end = m_pattern.endFor(total / m_scale);
-  if (!end) {
-    if (m_drawDash) return m_drawDash(0, total);
+  // A path may be longer than numbers go.
+  if (!end || !std::isfinite(total)) {
+    if (m_drawDash) return m_drawDash(0, std::min(total, std::numeric_limits<double>::max()));
     std::vector<QPointF> shown;
     for (const OdGePoint3d& p : points) shown.push_back(m_projection(p));
     m_surface.polyline(shown, closed);
@@ -88,6 +91,14 @@ void DashWalker::endDash() {
   m_points.clear();
 }
 
+/// Lines that run away from whoever looks have many dashes in few pixels, and where a line is so
+/// long that arithmetic ends, it seems to have more pixels than there are.
+bool DashWalker::isTooFine(double length, double pixels) const {
+  const double patterns = length / (m_pattern.length() * m_scale);
+  const double visible = std::min(pixels, QLineF(m_seen.topLeft(), m_seen.bottomRight()).length());
+  return (patterns - 1) * kFinestPattern > visible;
+}
+
 void DashWalker::segment(const OdGePoint3d& from, const OdGePoint3d& to) {
   const double length = from.distanceTo(to);
   if (!(length > 0)) return;
@@ -107,6 +118,15 @@ void DashWalker::segment(const OdGePoint3d& from, const OdGePoint3d& to) {
     seek(start + at);
   }
   const double last = leaves * length;
+  if (isTooFine(last - at, QLineF(a, b).length() * (leaves - enters))) {
+    endDash();
+    if (m_drawDash)
+      m_drawDash(start + at, start + last);
+    else
+      m_surface.line(a + (b - a) * (at / length), a + (b - a) * (last / length));
+    m_position = start + length;
+    return seek(m_position);
+  }
   const OdGeVector3d along = (to - from) * (1 / length);
   addPoint(a + (b - a) * (at / length), start + at);
   while (at + m_left <= last) {

@@ -32,6 +32,7 @@ class DashWalker {
 
  private:
   void segment(const OdGePoint3d& from, const OdGePoint3d& to);
+  bool isTooFine(double length, double pixels) const;
   void seek(double position);
   void startDash(std::size_t dash, double position);
   void addPoint(const QPointF& point, double position);

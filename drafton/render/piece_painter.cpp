@@ -21,8 +21,6 @@ constexpr int kManyChords = 400;
 constexpr int kDeepestCut = 40;
 /// A painter's curves end some ten thousand pixels away.
 constexpr double kFarRadius = 20000;
-/// Patterns and dashes of fewer pixels are one line to the eye.
-constexpr double kFinestPattern = 3;
 /// Texts lower than this are shown as strips.
 constexpr double kLowestText = 3;
 /// The part of an area's pixels that a pattern may cover before it is thinned out.

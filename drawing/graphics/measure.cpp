@@ -4,6 +4,13 @@
 
 #include <algorithm>
 
+namespace {
+
+// Nobody draws so deep, but a file may: each level takes of the stack.
+constexpr std::size_t kDeepest = 100;
+
+} // namespace
+
 void OdGiMeasure::polyline(std::span<const OdGePoint3d> points, bool) {
   for (const OdGePoint3d& p : points) add(p);
 }
@@ -62,7 +69,9 @@ void OdGiMeasure::addBoxOf(const OdDbEntity& entity) {
 
 void OdGiMeasure::block(OdDbObjectId blockId, const OdGeMatrix3d& transform, const OdDbEntity&) {
   const auto block = odrxCast<OdDbBlockTableRecord>(blockId.openObject().get());
-  if (!block || std::find(m_open.begin(), m_open.end(), blockId) != m_open.end()) return;
+  if (!block || m_open.size() >= kDeepest ||
+      std::find(m_open.begin(), m_open.end(), blockId) != m_open.end())
+    return;
   const std::optional<OdGeMatrix3d> outer = m_transform;
   m_transform = outer ? *outer * transform : transform;
   m_open.push_back(blockId);

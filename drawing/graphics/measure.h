@@ -3,7 +3,8 @@
 
 #include "drawing/graphics/world_draw.h"
 
-/// Measures what is shown, blocks included; a block within itself counts for nothing.
+/// Measures what is shown, blocks included; a block within itself counts for nothing, and neither do
+/// those that stand in each other more than a hundred times.
 class OdGiMeasure : public OdGiWorldDraw {
  public:
   explicit OdGiMeasure(double deviation = 1e-3)

@@ -114,6 +114,24 @@ TEST_F(BlockPictures, ABlockThatContainsItselfEnds) {
   EXPECT_EQ(scene().boxOf(block, 1).maxPoint().x, 10);
 }
 
+TEST_F(BlockPictures, BlocksNestedDeeperThanAnybodyDrawsAreDrawnAsFarAsTheyGo) {
+  OdDbObjectId block = addBlock(u"Deep");
+  addTo(block, frame(0, 0, 10, 10));
+  for (int level = 0; level < 20000; ++level) {
+    const OdDbObjectId outer =
+        addBlock(OdString(QStringLiteral("D%1").arg(level)).toStdU16String().c_str());
+    addTo(outer, odrxMake<OdDbBlockReference>(block, OdGePoint3d{0, 0, 0}));
+    block = outer;
+  }
+  addTo(block, frame(0, 0, 20, 20));
+  const OdDbBlockReferencePtr reference = insert(block, 0, 0);
+  EXPECT_NE(picture(-5, -5, 40, 40), QImage());
+  EXPECT_EQ(scene().boxOf(block, 1).maxPoint().x, 20);
+  OdGeExtents3d box;
+  ASSERT_TRUE(reference->getGeomExtents(box));
+  EXPECT_EQ(box.maxPoint().x, 20);
+}
+
 TEST_F(BlockPictures, BlocksThatFanOutWithoutEndAreDrawnWithinTheirBounds) {
   OdDbObjectId block = addBlock(u"Fan0");
   addTo(block, frame(0, 0, 10, 10));

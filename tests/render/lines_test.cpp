@@ -84,7 +84,8 @@ TEST(ThinLines, AClippedLineIsTheSameWhereItIsSeen) {
 }
 
 /// The drawn parts of a line along x, as runs of dark pixels.
-std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double length) {
+std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double length,
+                                          double away = 0) {
   QImage image = white(200, 5);
   {
     QPainter painter(&image);
@@ -92,7 +93,7 @@ std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double len
     surface.setPen(qRgb(0, 0, 0), 1);
     const Projection projection({1, 0, 0, 0}, {0, -1, 0, 2.5});
     DashWalker walker(surface, projection, pattern, 1, 10, {});
-    const OdGePoint3d points[] = {{0, 0, 0}, {length / 3, 0, 0}, {length, 0, 0}};
+    const OdGePoint3d points[] = {{0, 0, 0}, {length / 3, 0, away / 3}, {length, 0, away}};
     walker.draw(points, false);
   }
   std::vector<std::pair<int, int>> runs;
@@ -116,6 +117,17 @@ TEST(DashWalker, BothEndsOfALineShowTheFirstDash) {
 TEST(DashWalker, ALineShorterThanThePatternIsContinuous) {
   const DashPattern pattern({{10, -1}, {-5, -1}});
   EXPECT_EQ(dashesOf(pattern, 14), (std::vector<std::pair<int, int>>{{0, 14}}));
+}
+
+TEST(DashWalker, ALineThatRunsAwayFromWhoLooksIsContinuous) {
+  const DashPattern pattern({{10, -1}, {-5, -1}});
+  for (const double away : {1e4, 1e9, 1e17, 1e300})
+    EXPECT_EQ(dashesOf(pattern, 60, away), (std::vector<std::pair<int, int>>{{0, 60}})) << away;
+  EXPECT_EQ(dashesOf(pattern, 60, 20).size(), 5U);
+}
+
+TEST(DashWalker, ALineWithoutAnEndIsDrawn) {
+  EXPECT_FALSE(dashesOf(DashPattern({{10, -1}, {-5, -1}}), 1e308).empty());
 }
 
 TEST(DashPattern, WithoutInkOrLengthIsContinuous) {
