@@ -1,5 +1,7 @@
 #include "frame/error.h"
 
+#include "frame/file_path.h"
+
 namespace {
 
 OdString textOf(OdResult code) {
@@ -48,7 +50,8 @@ OdError_InvalidIndex::OdError_InvalidIndex(qsizetype index, qsizetype size)
   : OdError(eInvalidIndex,
             QStringLiteral("Index %1 is outside an array of %2").arg(index).arg(size)) {}
 
+// People read the description: it has the path as they know it.
 OdFileError::OdFileError(OdResult code, const OdString& path, const OdString& reason)
-  : OdError(code, QStringLiteral("%1: %2").arg(path, reason))
+  : OdError(code, QStringLiteral("%1: %2").arg(odpath::toPlatform(path), reason))
   , m_path(path)
   , m_reason(reason) {}

@@ -69,12 +69,20 @@ void Document::unlock() {
   m_database->deliverChanges();
 }
 
+QStringList Document::lostBySaving() const {
+  QStringList lost = m_database->unknownContent();
+  const OdString file = odpath::toPlatform(m_database->fileName()) + u':';
+  for (OdString& each : lost)
+    if (each.startsWith(file)) each = translated(u"line %1").arg(each.mid(file.size()));
+  return lost;
+}
+
 void Document::save(const OdString& path) {
   if (!lostBySaving().isEmpty() && !this->path().isEmpty() && odpath::samePlace(path, this->path()))
     throw CommandFailure(
         translated(u"%1 holds content that Drafton cannot write (%2): saving over it would lose "
                    u"it. Save the drawing under another name.")
-            .arg(path, lostBySaving().join(QStringLiteral(", "))));
+            .arg(name(), lostBySaving().join(QStringLiteral(", "))));
   keepBackup(path);
   keepPreview(m_engine, *this);
   const OdDb::DwgVersion version = savingVersion(m_engine, *this);

@@ -34,7 +34,7 @@ class Document : public IHostDocument, private OdDbDatabaseReactor {
   /// stays as .bak.
   void save(const OdString& path);
   /// What of the drawing's file a saved file would lack; empty if nothing.
-  QStringList lostBySaving() const { return m_database->unknownContent(); }
+  QStringList lostBySaving() const;
   /// What was mended when the file was read.
   QStringList notes() const { return m_database->readNotes(); }
 

@@ -46,16 +46,17 @@ Document& DocumentManager::open(const OdString& path) {
   }
   OdDbDatabasePtr database = OdDbDatabase::readFile(path);
   Document& opened = add(std::make_unique<Document>(m_engine, std::move(database), OdString()));
-  tellDamage(opened, path);
+  tellDamage(opened);
   return opened;
 }
 
-void DocumentManager::tellDamage(const Document& document, const OdString& path) {
-  for (const OdString& note : document.notes()) m_engine.print(path + QStringLiteral(": ") + note);
+void DocumentManager::tellDamage(const Document& document) {
+  // They name the file themselves.
+  for (const OdString& note : document.notes()) m_engine.print(note);
   const QStringList lost = document.lostBySaving();
   if (lost.isEmpty()) return;
   m_engine.print(translated(u"%1 holds content that Drafton does not understand: %2.")
-                     .arg(path, lost.join(QStringLiteral(", "))));
+                     .arg(document.name(), lost.join(QStringLiteral(", "))));
   m_engine.print(translated(u"It is open for reading; it can be saved under another name only."));
 }
 

@@ -43,7 +43,7 @@ class DocumentManager : public IHostDocumentManager {
  private:
   bool isOpen(const Document* document) const;
   Document& add(std::unique_ptr<Document> document);
-  void tellDamage(const Document& document, const OdString& path);
+  void tellDamage(const Document& document);
 
   Engine& m_engine;
   std::vector<std::unique_ptr<Document>> m_documents; // the one used last stands last

@@ -2,6 +2,7 @@
 #include "drawing/cloning/cloner.h"
 #include "drawing/objects/image_def.h"
 #include "drawing/objects/raw_object.h"
+#include "frame/file_path.h"
 
 namespace {
 
@@ -263,8 +264,9 @@ OdDbObjectId oddb::Cloner::addToDictionary(const OdDbObject& object,
     const auto* const picture = odrxCast<OdDbRasterImageDef>(&object);
     const auto* const otherPicture = odrxCast<OdDbRasterImageDef>(other.get());
     // Two pictures may well have one name.
-    const bool differs =
-        picture && otherPicture && picture->sourceFileName() != otherPicture->sourceFileName();
+    const bool differs = picture && otherPicture &&
+                         odpath::fromPlatform(picture->sourceFileName()) !=
+                             odpath::fromPlatform(otherPicture->sourceFileName());
     if (!differs) {
       m_mapping.assign({object.objectId(), existing, false});
       return existing;

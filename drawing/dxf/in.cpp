@@ -7,6 +7,7 @@
 #include "drawing/dxf/text.h"
 #include "drawing/object_extras.h"
 #include "drawing/objects/raw_object.h"
+#include "frame/file_path.h"
 
 #include <charconv>
 
@@ -62,7 +63,7 @@ OdString shown(std::string_view value) {
 }
 
 QString place(const OdString& name, qint64 line) {
-  return QStringLiteral("%1:%2: ").arg(name).arg(line);
+  return QStringLiteral("%1:%2: ").arg(odpath::toPlatform(name)).arg(line);
 }
 
 // A file can be wrong in every line; nobody reads more than this.

@@ -27,7 +27,7 @@ void OdDbRasterImageDefReactor::setImage(OdDbObjectId image) {
 
 void OdDbRasterImageDef::setSourceFileName(const OdString& path) {
   assertWriteEnabled();
-  m_definition.path = path;
+  m_definition.path = oddb::givenPath(path);
 }
 
 OdString OdDbRasterImageDef::activeFileName() const {

@@ -11,7 +11,7 @@ class OdDbDatabase;
 class OdDbRasterImageDef : public OdDbObject {
   ODDB_CONCRETE(OdDbRasterImageDef, "IMAGEDEF")
 
-  /// The path as the drawing stores it.
+  /// The path as the drawing stores it; set with either separator, stored in the platform's form.
   const OdString& sourceFileName() const { return m_definition.path; }
   void setSourceFileName(const OdString& path);
   /// The file that the path stands for now: the path itself if there is one, else a file of its

@@ -23,13 +23,19 @@ OdString oddb::findStoredFile(const OdString& path, const OdString& drawing) {
     return QFileInfo(odpath::toPlatform(stored)).isFile();
   };
   const OdString named = absolute(path, drawing);
-  if (isFile(named)) return named;
+  if (isFile(named)) return odpath::fromPlatform(named);
   const OdString near = beside(drawing, odpath::fileNameOf(path));
-  return isFile(near) ? near : OdString();
+  return isFile(near) ? odpath::fromPlatform(near) : OdString();
 }
 
 bool oddb::isNoFile(const OdString& path, const OdString& drawing) {
   if (path.isEmpty()) return false;
   const QFileInfo info(odpath::toPlatform(absolute(path, drawing)));
   return info.exists() && !info.isFile();
+}
+
+OdString oddb::givenPath(const OdString& path) {
+  const bool hasDrive = path.size() > 1 && path[1] == u':' && path[0].isLetter();
+  const bool isNetwork = path.startsWith(QLatin1String("\\\\"));
+  return hasDrive || isNetwork ? path : odpath::toPlatform(path);
 }

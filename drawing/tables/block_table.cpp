@@ -4,6 +4,7 @@
 #include "drawing/database.h"
 #include "drawing/entities/block_reference.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/objects/stored_path.h"
 
 namespace {
 const QLatin1String kModelSpace("*Model_Space");
@@ -60,7 +61,7 @@ void OdDbBlockTableRecord::setComments(const OdString& text) {
 
 void OdDbBlockTableRecord::setPathName(const OdString& path) {
   assertWriteEnabled();
-  m_block.xrefPath = path;
+  m_block.xrefPath = oddb::givenPath(path);
 }
 
 void OdDbBlockTableRecord::setBlockFlag(int flag, bool on) {

@@ -31,7 +31,7 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   void setOrigin(const OdGePoint3d& origin);
   const OdString& comments() const { return m_block.comments; }
   void setComments(const OdString& text);
-  /// The file of an external reference as the drawing stores it.
+  /// The file of an external reference as the drawing stores it; to be set with either separator.
   const OdString& pathName() const { return m_block.xrefPath; }
   void setPathName(const OdString& path);
   /// Makes the block stand for another drawing, or a block of its own again.

@@ -56,6 +56,26 @@ TEST_F(DocumentCommandsTest, SavesUnderANameWithBlanksAndOpensAgain) {
   EXPECT_EQ(variable("DWGTITLED").toInt32(), 1);
 }
 
+TEST_F(DocumentCommandsTest, MessagesNameAFileOnceAndAsItsSystemDoes) {
+  openForeign();
+  QFile cut(path("cut.dxf"));
+  ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
+  cut.write("0\nSECTION\n2\nHEADER\n9\n$DWGCODEPAGE\n3\nANSI_0000\n0\nENDSEC\n0\nEOF\n");
+  cut.close();
+  type(QStringLiteral("OpenDocument ") + path("cut.dxf") + u'\n');
+  EXPECT_TRUE(console().shows(path("cut.dxf") + QStringLiteral(":1: the code page ANSI_0000")))
+      << output().toStdString();
+  EXPECT_TRUE(console().shows(QStringLiteral("foreign.dxf holds content that Drafton does not understand: line 21: ")))
+      << output().toStdString();
+  draw();
+  type(QStringLiteral("SaveAs ") + path("foreign.dxf") + u'\n');
+  for (const QString& line : output().split(u'\n')) {
+    const bool isPrompt = line.startsWith(QLatin1String("Enter"));
+    EXPECT_LE(line.count(m_folder.path()), isPrompt ? 2 : 1) << line.toStdString();
+    EXPECT_FALSE(line.contains(u'\\')) << line.toStdString();
+  }
+}
+
 /// Notes which document is the current one when commands are cancelled.
 class CancelWitness : public HostEditorReactor {
  public:

@@ -75,6 +75,17 @@ struct ToolMakerTest : testhost::ModuleFixture {
         .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
         ->appendOdDbEntity(entity);
   }
+  /// An image of a picture with the name "Site".
+  OdDbRasterImagePtr addImage(const OdString& path) const {
+    const auto definition = odrxMake<OdDbRasterImageDef>();
+    definition->setSourceFileName(path);
+    const auto image = odrxMake<OdDbRasterImage>();
+    image->setImageDefId(OdDbRasterImageDef::createImageDictionary(*drawing)
+                             .openAs<OdDbDictionary>(OdDb::kForWrite)
+                             ->setAt(u"Site"_s, definition));
+    add(image);
+    return image;
+  }
   /// The document gets a file, and its drawing is that of the file.
   void save(const QString& name = u"plan.dxf"_s) {
     document.filePath = stored(name);
@@ -277,7 +288,7 @@ TEST_F(ToolMakerTest, ReferenceWhoseFileHasVanishedPrintsTheStoredPath) {
   save();
   EXPECT_FALSE(manager().createToolFromBlock(u"Ref"_s, &document));
   EXPECT_EQ(boxes(), QStringList{u"Drafton: Unable to create the tool. The xref file "
-                                 u"'..\\gone\\ref.dxf' could not be located."_s});
+                                 u"'../gone/ref.dxf' could not be located."_s});
 }
 
 // --- blocks of a drawing file
@@ -399,14 +410,8 @@ TEST_F(ToolMakerTest, InsertOfADrawingThatIsNotShownNeedsItsFile) {
 
 TEST_F(ToolMakerTest, ImageBecomesARasterToolOfItsFileAndDefinition) {
   const OdString path = writePicture(u"photo.png"_s);
-  const auto definition = odrxMake<OdDbRasterImageDef>();
-  definition->setSourceFileName(path);
-  const OdDbObjectId id = OdDbRasterImageDef::createImageDictionary(*drawing)
-                              .openAs<OdDbDictionary>(OdDb::kForWrite)
-                              ->setAt(u"Site"_s, definition);
-  const auto image = odrxMake<OdDbRasterImage>();
-  image->setImageDefId(id);
-  const OdDbObjectId entity = add(image);
+  const OdDbRasterImagePtr image = addImage(path);
+  const OdDbObjectId entity = image->objectId();
   const OdTcToolPtr tool = manager().createToolFromEntity(entity);
   ASSERT_TRUE(tool);
   const auto& agent = agentOf<OdTcToolRasterCommandImpl>(tool);
@@ -421,17 +426,10 @@ TEST_F(ToolMakerTest, ImageBecomesARasterToolOfItsFileAndDefinition) {
 
 TEST_F(ToolMakerTest, ImageIsFoundBesideTheDrawingOrToldToBeMissing) {
   save();
-  const auto definition = odrxMake<OdDbRasterImageDef>();
-  definition->setSourceFileName(u"pictures\\photo.png"_s);
-  const OdDbObjectId id = OdDbRasterImageDef::createImageDictionary(*drawing)
-                              .openAs<OdDbDictionary>(OdDb::kForWrite)
-                              ->setAt(u"Site"_s, definition);
-  const auto image = odrxMake<OdDbRasterImage>();
-  image->setImageDefId(id);
-  const OdDbObjectId entity = add(image);
+  const OdDbObjectId entity = addImage(u"pictures\\photo.png"_s)->objectId();
   EXPECT_FALSE(manager().createToolFromEntity(entity));
   EXPECT_EQ(boxes(), QStringList{u"Drafton: Unable to create the tool. The image file "
-                                 u"'pictures\\photo.png' could not be located."_s});
+                                 u"'pictures/photo.png' could not be located."_s});
   const OdString path = writePicture(u"photo.png"_s);
   const OdTcToolPtr tool = manager().createToolFromEntity(entity);
   ASSERT_TRUE(tool);

@@ -1924,6 +1924,10 @@
         <translation>%1 konnte nicht zerlegt werden.</translation>
     </message>
     <message>
+        <source>%1 of them are tables: the sizes of their letters are those of a table style, which other tables share.</source>
+        <translation>%1 davon sind Tabellen: Die Größe ihrer Buchstaben ist die eines Tabellenstils, den andere Tabellen mitbenutzen.</translation>
+    </message>
+    <message>
         <source>Block "%1" stays whole: its %2 cannot take the shape of the insert.</source>
         <translation>Der Block "%1" bleibt ganz: %2 darin kann die Form der Einfügung nicht annehmen.</translation>
     </message>
@@ -2838,6 +2842,10 @@
     <message>
         <source>%1 holds content that Drafton does not understand: %2.</source>
         <translation>%1 enthält, was Drafton nicht versteht: %2.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>It is open for reading; it can be saved under another name only.</source>

@@ -34,8 +34,8 @@ Picture pictureAt(const CommandContext& context, const OdString& typed) {
   // Some formats tell their size only while they are decoded.
   if (size.isEmpty()) size = reader.read().size();
   if (size.isEmpty())
-    throw CommandFailure(
-        translated(u"%1 cannot be read as a picture: %2").arg(path, reader.errorString()));
+    throw CommandFailure(translated(u"%1 cannot be read as a picture: %2")
+                             .arg(odpath::toPlatform(path), reader.errorString()));
   return {path, size};
 }
 

@@ -36,7 +36,7 @@ void print(CommandContext& context, const std::vector<OdDbXRefMan::Report>& repo
       if (row.result == report.result)
         context.print(translated(row.text)
                           .replace(QLatin1String("%3"), report.message)
-                          .replace(QLatin1String("%2"), report.path)
+                          .replace(QLatin1String("%2"), odpath::toPlatform(report.path))
                           .replace(QLatin1String("%1"), report.blockName));
 }
 
@@ -73,7 +73,7 @@ OdDbObjectId referenceTo(CommandContext& context, const OdString& file, bool ove
       OdDbXRefMan::attach(database, path, odpath::titleOf(path), overlay, &reports);
   print(context, reports);
   if (!reports.empty() && reports.front().result != Result::kLoaded)
-    throw CommandFailure(translated(u"%1 was not attached.").arg(path));
+    throw CommandFailure(translated(u"%1 was not attached.").arg(odpath::toPlatform(path)));
   return made;
 }
 
@@ -134,7 +134,8 @@ Task<void> changePath(CommandContext& context) {
     const OdString now = block->pathName();
     const Answer<OdString> path = co_await context.input().string(
         {.text = u"Enter new path", .allowBlanks = true, .defaultValue = QStringView(now)});
-    block->setPathName(odpath::fromPlatform(path.value));
+    // What the file has stays as it stands there.
+    if (path.value != now) block->setPathName(path.value);
     print(context, OdDbXRefMan::load(block));
   }
 }

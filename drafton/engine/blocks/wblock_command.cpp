@@ -27,9 +27,11 @@ Task<OdString> askFile(CommandContext& context) {
       co_await context.input().string({.text = u"Enter name of output file", .allowBlanks = true});
   const OdString path = absolutePath(context, typed.value);
   if (odpath::samePlace(path, context.document().path()))
-    throw CommandFailure(translated(u"%1 is the drawing's own file.").arg(path));
+    throw CommandFailure(
+        translated(u"%1 is the drawing's own file.").arg(odpath::toPlatform(path)));
   if (!QFileInfo::exists(odpath::toPlatform(path))) co_return path;
-  const OdString question = translated(u"%1 already exists. Replace it?").arg(path);
+  const OdString question =
+      translated(u"%1 already exists. Replace it?").arg(odpath::toPlatform(path));
   const Answer<OdString> answer = co_await context.input().keyword(
       {.text = question, .keywords = u"Yes No", .defaultValue = u"No"});
   co_return answer.is(u"Yes") ? path : OdString();
@@ -74,7 +76,7 @@ Task<void> writeBlock(CommandContext& context) {
   } catch (const OdError& error) {
     throw CommandFailure(error.description());
   }
-  context.print(translated(u"%1 written.").arg(path));
+  context.print(translated(u"%1 written.").arg(odpath::toPlatform(path)));
 }
 
 } // namespace drafton

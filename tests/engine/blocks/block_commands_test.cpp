@@ -174,6 +174,40 @@ TEST_F(ReferenceTest, ByAModuleIsAnOverlayIfTold) {
   EXPECT_EQ(inserts()[0]->scaleFactors().sx, 2);
 }
 
+TEST_F(ReferenceTest, StandsInTheFileAsOtherProgramsHereFindIt) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||1,1|||");
+  const QByteArray written = '\n' + path("wheel.dxf").toUtf8() + '\n';
+  EXPECT_TRUE(database().writeDxf().contains(written)) << output().toStdString();
+  // A module's path and a new one of XREF, too.
+  words("XREF|D|wheel");
+  EXPECT_FALSE(database().writeDxf().contains(written));
+  EXPECT_TRUE(runWith(u"XATTACH", {{u"ToolPaletteCall", odpath::fromPlatform(path("wheel.dxf"))}},
+                      {"3,3", "0"}));
+  EXPECT_TRUE(database().writeDxf().contains(written)) << output().toStdString();
+  writeDrawing("car.dxf", 2);
+  words("XREF|P|wheel|" + path("car.dxf"));
+  EXPECT_TRUE(database().writeDxf().contains('\n' + path("car.dxf").toUtf8() + '\n'))
+      << output().toStdString();
+}
+
+TEST_F(ReferenceTest, KeepsAPathOfAFileThatIsEnteredAgain) {
+  writeDrawing("wheel.dxf", 2);
+  words("XATTACH|" + path("wheel.dxf") + "||1,1|||");
+  QByteArray file = database().writeDxf();
+  file.replace(path("wheel.dxf").toUtf8(), ".\\wheel.dxf");
+  QFile host(path("host.dxf"));
+  ASSERT_TRUE(host.open(QIODevice::WriteOnly));
+  host.write(file);
+  host.close();
+  words("OpenDocument|" + path("host.dxf"));
+  ASSERT_TRUE(database().writeDxf().contains("\n.\\wheel.dxf\n")) << output().toStdString();
+  words("XREF|P|wheel|");
+  EXPECT_TRUE(console().shows(QStringLiteral("\"wheel\" loaded: ") + path("./wheel.dxf")))
+      << output().toStdString();
+  EXPECT_TRUE(database().writeDxf().contains("\n.\\wheel.dxf\n"));
+}
+
 TEST_F(ReferenceTest, TheSameFileIsAttachedOnce) {
   writeDrawing("wheel.dxf", 2);
   words("XATTACH|" + path("wheel.dxf") + "||1,1|||");
@@ -311,8 +345,7 @@ TEST_F(ReferenceTest, OfOneFileIsOneHoweverItIsSpelled) {
   for (const OdDbBlockReferencePtr& insert : inserts())
     EXPECT_EQ(insert->blockName(), QStringLiteral("wheel"));
   const OdDbBlockTableRecordPtr block = inserts()[0]->blockTableRecord().openObject();
-  EXPECT_EQ(block->pathName(),
-            odpath::fromPlatform(QFileInfo(path("wheel.dxf")).canonicalFilePath()));
+  EXPECT_EQ(block->pathName(), QFileInfo(path("wheel.dxf")).canonicalFilePath());
 }
 
 TEST_F(ReferenceTest, DrawingIsNotPutIntoItselfHoweverItIsSpelled) {
@@ -426,6 +459,13 @@ TEST_F(RasterTest, OfOneFileShareTheirDefinition) {
   const auto images = all<OdDbRasterImage>();
   ASSERT_EQ(images.size(), 2u);
   EXPECT_EQ(images[0]->imageDefId(), images[1]->imageDefId());
+}
+
+TEST_F(RasterTest, StandInTheFileAsOtherProgramsHereFindThem) {
+  writePicture("photo.png");
+  words("INSERTRASTER|" + path("photo.png") + "|1,2|4|0");
+  EXPECT_TRUE(database().writeDxf().contains('\n' + path("photo.png").toUtf8() + '\n'))
+      << output().toStdString();
 }
 
 TEST_F(RasterTest, RefusesDevicesAndPipesWithoutReadingThem) {
