@@ -78,8 +78,7 @@ bool OdDbArc::transformBy(const OdGeMatrix3d& transform) {
   moved.endAngle = plane.mirrors ? start : end;
   moved.center = plane.inPlane * m_arc.center;
   moved.radius *= plane.scale();
-  moved.extrusion.setThickness(moved.extrusion.thickness() *
-                               (transform * m_arc.extrusion.normal()).length());
+  moved.extrusion.setThickness(moved.extrusion.thickness() * plane.rise);
   moved.extrusion.setNormal(plane.normal);
   if (!odcheck::areFinite(moved.center, moved.radius, moved.extrusion.thickness(), start, end) ||
       moved.radius <= 0)

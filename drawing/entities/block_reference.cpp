@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/database.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/graphics/world_draw.h"
 #include "drawing/objects/raw_object.h"
 
@@ -34,7 +35,7 @@ std::optional<OdDbBlockReference::Data> dataOf(const Frame& f, OdDbBlockReferenc
   // The normal keeps its side and y its sense: what is mirrored runs against x.
   const double zSign = data.scale.sz < 0 ? -1 : 1;
   const double ySign = data.scale.sy < 0 ? -1 : 1;
-  const OdGeVector3d normal = f.z * (zSign / sz);
+  const OdGeVector3d normal = odgeSettledNormal(f.z * (zSign / sz), data.normal);
   const OdGeVector3d y = f.y * (ySign / sy);
   const OdGeVector3d x = y.crossProduct(normal);
   const double xSign = x.dotProduct(f.x) < 0 ? -1 : 1;
@@ -257,16 +258,21 @@ bool OdDbBlockReference::transformBy(const OdGeMatrix3d& transform) {
   const OdGeMatrix3d frame = transform * frameOf(m_insert);
   const Frame moved{frame * OdGeVector3d{s.sx, 0, 0}, frame * OdGeVector3d{0, s.sy, 0},
                     frame * OdGeVector3d{0, 0, s.sz}, frame * OdGePoint3d()};
-  std::optional<Data> data = dataOf(moved, m_insert);
-  if (!data) return false;
-  // Distances between cells follow the axes that they are measured along.
-  const OdGeMatrix3d newFrame = frameOf(*data);
-  const auto along = [&](const OdGeVector3d& axis) {
-    const OdGeVector3d was = frame * axis;
-    return was.length() * (was.dotProduct(newFrame * axis) < 0 ? -1 : 1);
-  };
-  data->columnSpacing *= along(OdGeVector3d::xAxis());
-  data->rowSpacing *= along(OdGeVector3d::yAxis());
+  std::optional<Data> data = m_insert;
+  if (odgeIsShift(transform)) {
+    data->position = OdGePlaneImage(transform, m_insert.normal).inPlane * m_insert.position;
+  } else {
+    data = dataOf(moved, m_insert);
+    if (!data) return false;
+    // Distances between cells follow the axes that they are measured along.
+    const OdGeMatrix3d newFrame = frameOf(*data);
+    const auto along = [&](const OdGeVector3d& axis) {
+      const OdGeVector3d was = frame * axis;
+      return was.length() * (was.dotProduct(newFrame * axis) < 0 ? -1 : 1);
+    };
+    data->columnSpacing *= along(OdGeVector3d::xAxis());
+    data->rowSpacing *= along(OdGeVector3d::yAxis());
+  }
   if (!odcheck::areFinite(data->columnSpacing, data->rowSpacing, data->rotation, data->position))
     return false;
   assertWriteEnabled();

@@ -54,8 +54,7 @@ bool OdDbCircle::transformBy(const OdGeMatrix3d& transform) {
   Data moved = m_circle;
   moved.center = plane.inPlane * m_circle.center;
   moved.radius *= plane.scale();
-  moved.extrusion.setThickness(moved.extrusion.thickness() *
-                               (transform * m_circle.extrusion.normal()).length());
+  moved.extrusion.setThickness(moved.extrusion.thickness() * plane.rise);
   moved.extrusion.setNormal(plane.normal);
   if (!odcheck::areFinite(moved.center, moved.radius, moved.extrusion.thickness()) ||
       moved.radius <= 0)

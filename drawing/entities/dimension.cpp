@@ -216,9 +216,9 @@ bool OdDbDimension::transformBy(const OdGeMatrix3d& transform) {
   moved.rotation = plane.angle(m_dimension.rotation);
   // The axes of coordinates turn with them.
   if (kind() == kOrdinate)
-    moved.horizontalDirection = -plane.angle(-m_dimension.horizontalDirection);
+    moved.horizontalDirection = 0 - plane.angle(0 - m_dimension.horizontalDirection);
   moved.leaderLength *= plane.scale();
-  if (plane.mirrors) moved.oblique = -moved.oblique;
+  if (plane.mirrors) moved.oblique = 0 - moved.oblique;
   if (moved.measurement > 0 && kind() != kAngular && kind() != k3PointAngular)
     moved.measurement *= plane.scale();
   if (!odcheck::areFinite(moved.definition, moved.first, moved.second, moved.third,

@@ -1,6 +1,7 @@
 #include "drawing/entities/ellipse.h"
 
 #include "drawing/checks.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/entities/smooth_offset.h"
 #include "drawing/geometry/start_angle.h"
 
@@ -168,12 +169,46 @@ bool OdDbEllipse::getSplitCurves(const std::vector<double>& params,
   return true;
 }
 
+namespace {
+
+/// The same ellipse, run through the other way.
+void turnRound(OdDbEllipse::Data& ellipse, bool isClosed) {
+  ellipse.normal = {0 - ellipse.normal.x, 0 - ellipse.normal.y, 0 - ellipse.normal.z};
+  if (isClosed) return;
+  const double start = odgeNormalAngle(0 - ellipse.endParam);
+  ellipse.endParam = odgeNormalAngle(0 - ellipse.startParam);
+  if (ellipse.endParam <= start) ellipse.endParam += 2 * kOdaPi;
+  ellipse.startParam = start;
+}
+
+/// An ellipse that keeps its shape keeps the words that tell of it, too: only a mirror turns the
+/// sense of its parameter. The side from which it is seen stays.
+bool moveAlike(OdDbEllipse::Data& ellipse, const OdGeMatrix3d& transform, bool isClosed) {
+  ellipse.center = transform * ellipse.center;
+  if (odgeIsShift(transform)) return odcheck::isFinite(ellipse.center);
+  const OdGePlaneImage plane(transform, ellipse.normal);
+  ellipse.majorAxis = transform * ellipse.majorAxis;
+  ellipse.normal = plane.mirrors ? -plane.normal : plane.normal;
+  if (plane.mirrors) turnRound(ellipse, isClosed);
+  return plane.valid && odcheck::areFinite(ellipse.center, ellipse.majorAxis);
+}
+
+} // namespace
+
 bool OdDbEllipse::transformBy(const OdGeMatrix3d& transform) {
-  const OdDbEllipsePtr moved =
-      fromConjugates(transform * m_ellipse.center, transform * m_ellipse.majorAxis,
-                     transform * minorAxis(), getStartParam(), getEndParam() - getStartParam());
-  if (!moved) return false;
+  Data data = m_ellipse;
+  if (transform.isUniScaledOrtho()) {
+    if (!moveAlike(data, transform, isClosed())) return false;
+  } else {
+    const OdDbEllipsePtr moved =
+        fromConjugates(transform * m_ellipse.center, transform * m_ellipse.majorAxis,
+                       transform * minorAxis(), getStartParam(), getEndParam() - getStartParam());
+    if (!moved) return false;
+    data = moved->m_ellipse;
+    const OdGePlaneImage plane(transform, m_ellipse.normal);
+    if (data.normal.dotProduct(plane.normal) < 0) turnRound(data, moved->isClosed());
+  }
   assertWriteEnabled();
-  m_ellipse = moved->m_ellipse;
+  m_ellipse = data;
   return true;
 }

@@ -198,7 +198,7 @@ void OdDbHatchLoop::transformBy(const OdGeMatrix3d& m) {
     const bool curved =
         std::any_of(vertices.begin(), vertices.end(), [](const Vertex& v) { return v.bulge != 0; });
     if (!curved || isSimilar(m)) {
-      for (Vertex& v : vertices) v = {moved(m, v.point), mirrors ? -v.bulge : v.bulge};
+      for (Vertex& v : vertices) v = {moved(m, v.point), mirrors ? 0 - v.bulge : v.bulge};
       return;
     }
     OdGeCurveSegments pieces = segments(0);

@@ -2,6 +2,7 @@
 #include "drawing/checks.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/entities/point.h"
 #include "drawing/patterns/pattern_strokes.h"
 
@@ -54,42 +55,17 @@ std::vector<int> depthsOf(const Rings& rings) {
   return depths;
 }
 
-/// The image of a hatch's plane.
-struct PlaneImage {
-  OdGeVector3d normal;
-  OdGeMatrix3d inPlane; ///< from the old plane's coordinates to the new plane's
-  double size = 0;      ///< the factor for lengths, by the area
-  bool valid = false;
-
-  PlaneImage(const OdGeMatrix3d& transform, const OdGeVector3d& oldNormal) {
-    const OdGeMatrix3d toWorld = transform * OdGeMatrix3d::planeToWorld(oldNormal);
-    const OdGeVector3d x = toWorld * OdGeVector3d::xAxis();
-    const OdGeVector3d y = toWorld * OdGeVector3d::yAxis();
-    const OdGeVector3d z = toWorld * OdGeVector3d::zAxis();
-    OdGeVector3d n = x.crossProduct(y);
-    if (!(n.length() > 0) || !std::isfinite(n.length())) return;
-    if (n.dotProduct(z) < 0) n = -n;
-    size = std::sqrt(n.length());
-    normal = n.normal();
-    inPlane = OdGeMatrix3d::planeToWorld(normal).inverse() * toWorld;
-    valid = true;
-  }
-};
-
 OdGePoint2d movedPoint(const OdGeMatrix3d& m, const OdGePoint2d& p) {
   const OdGePoint3d moved = m * OdGePoint3d{p.x, p.y, 0};
   return {moved.x, moved.y};
 }
 
-double movedAngle(const OdGeMatrix3d& m, double angle) {
-  const OdGeVector3d v = m * OdGeVector3d{std::cos(angle), std::sin(angle), 0};
-  return odgeNormalAngle(std::atan2(v.y, v.x));
-}
-
-OdHatchPatternLine movedLine(const OdGeMatrix3d& m, OdHatchPatternLine line) {
+/// `m` takes what lies in the plane to where it comes to lie.
+OdHatchPatternLine movedLine(const OdGePlaneImage& plane, const OdGeMatrix3d& m,
+                             OdHatchPatternLine line) {
   const OdGeVector3d along = m * OdGeVector3d{std::cos(line.angle), std::sin(line.angle), 0};
   const OdGeVector3d offset = m * OdGeVector3d{line.offset.x, line.offset.y, 0};
-  line.angle = odgeNormalAngle(std::atan2(along.y, along.x));
+  line.angle = plane.angle(line.angle);
   line.base = movedPoint(m, line.base);
   line.offset = {offset.x, offset.y};
   for (double& dash : line.dashes) dash *= along.length();
@@ -176,7 +152,7 @@ bool OdDbHatch::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbHatch::transformBy(const OdGeMatrix3d& transform) {
-  const PlaneImage image(transform, m_hatch.normal);
+  const OdGePlaneImage image(transform, m_hatch.normal);
   if (!image.valid) return false;
   const OdGeMatrix3d& m = image.inPlane;
   Data moved = m_hatch;
@@ -186,12 +162,15 @@ bool OdDbHatch::transformBy(const OdGeMatrix3d& transform) {
   moved.elevation.z = foot.z;
   const OdGeMatrix3d flat = m * OdGeMatrix3d::translation({0, 0, m_hatch.elevation.z});
   for (OdDbHatchLoop& loop : moved.loops) loop.transformBy(flat);
-  for (OdHatchPatternLine& line : moved.lines) line = movedLine(flat, line);
+  for (OdHatchPatternLine& line : moved.lines) line = movedLine(image, flat, line);
   for (OdGePoint2d& seed : moved.seeds) seed = movedPoint(flat, seed);
   moved.origin = movedPoint(flat, m_hatch.origin);
-  moved.patternAngle = movedAngle(flat, m_hatch.patternAngle);
-  moved.gradientAngle = movedAngle(flat, m_hatch.gradientAngle);
-  moved.patternScale *= image.size;
+  // A filling shows neither, and its file does not tell them.
+  if (!isSolidFill()) {
+    moved.patternAngle = image.angle(m_hatch.patternAngle);
+    moved.patternScale *= image.size;
+  }
+  moved.gradientAngle = image.angle(m_hatch.gradientAngle);
   if (!odcheck::areFinite(moved.elevation, moved.patternScale, moved.origin)) return false;
   assertWriteEnabled();
   const bool originStays = m_hatch.origin == OdGePoint2d();

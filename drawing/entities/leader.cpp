@@ -3,6 +3,7 @@
 #include "drawing/checks.h"
 #include "drawing/database.h"
 #include "drawing/entities/dimension_text.h"
+#include "drawing/entities/plane_transform.h"
 
 OdDbLeader::OdDbLeader() = default;
 
@@ -106,10 +107,13 @@ bool OdDbLeader::transformBy(const OdGeMatrix3d& transform) {
   moved.blockOffset = transform * m_leader.blockOffset;
   moved.annotationOffset = transform * m_leader.annotationOffset;
   if (!finite || !odcheck::areFinite(x, z, moved.blockOffset, moved.annotationOffset)) return false;
-  if (!x.isZeroLength()) moved.horizontal = x.normal();
-  if (!z.isZeroLength()) moved.normal = z.normal();
-  for (double Data::*member : {&Data::textHeight, &Data::textWidth})
-    if (moved.*member > 0) moved.*member *= x.length();
+  if (!odgeIsShift(transform)) {
+    if (!x.isZeroLength()) moved.horizontal = x.normal();
+    if (!z.isZeroLength()) moved.normal = z.normal();
+    const double before = m_leader.horizontal.length();
+    for (double Data::*member : {&Data::textHeight, &Data::textWidth})
+      if (moved.*member > 0 && before > 0) moved.*member *= x.length() / before;
+  }
   assertWriteEnabled();
   m_leader = std::move(moved);
   return true;

@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/database.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/mtext/parser.h"
 
 namespace {
@@ -173,6 +174,12 @@ bool OdDbMText::transformBy(const OdGeMatrix3d& transform) {
   const OdGeVector3d y = transform * m_mtext.normal.crossProduct(direction());
   Data moved = m_mtext;
   moved.location = transform * m_mtext.location;
+  if (odgeIsShift(transform)) {
+    if (!odcheck::isFinite(moved.location)) return false;
+    assertWriteEnabled();
+    m_mtext.location = moved.location;
+    return true;
+  }
   if (!odcheck::areFinite(moved.location, x, y, z) || x.isZeroLength() || y.isZeroLength())
     return false;
   // Letters stay readable: a mirrored text lies in the mirrored place and runs on as it did.
@@ -182,12 +189,13 @@ bool OdDbMText::transformBy(const OdGeMatrix3d& transform) {
   const OdGeVector3d up = y - x.normal() * x.normal().dotProduct(y);
   const double high = up.length();
   const double wide = x.length();
-  moved.normal = normal.normal();
+  moved.normal = odgeSettledNormal(normal.normal(), m_mtext.normal);
   moved.direction = x.normal();
   if (x.crossProduct(y).dotProduct(z) < 0) {
     // Of the two axes, the one that the mirror turns against the reader is turned back.
     const bool flipsX = transform * direction() != direction() && x.dotProduct(direction()) < 0;
-    if (flipsX) moved.direction = -moved.direction;
+    // Not the negative, which has negative zeros.
+    if (flipsX) moved.direction = OdGeVector3d() - moved.direction;
     moved.attachment = mirrored(moved.attachment, flipsX);
   }
   moved.directionLast = true;

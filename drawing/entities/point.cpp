@@ -1,6 +1,7 @@
 #include "drawing/entities/point.h"
 
 #include "drawing/checks.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/graphics/world_draw.h"
 
 OdDbPoint::OdDbPoint() = default;
@@ -55,7 +56,7 @@ bool OdDbPoint::transformBy(const OdGeMatrix3d& transform) {
   moved.position = transform * m_point.position;
   const OdGeVector3d up = transform * normal();
   if (!odcheck::areFinite(moved.position, up)) return false;
-  if (!up.isZeroLength()) {
+  if (!up.isZeroLength() && !odgeIsShift(transform)) {
     moved.extrusion.setThickness(thickness() * up.length());
     moved.extrusion.setNormal(up.normal());
     // The sign's own x axis is told from that of its plane.

@@ -127,14 +127,13 @@ bool OdDbPolyline::transformBy(const OdGeMatrix3d& transform) {
     v.point = {place.x, place.y};
     v.startWidth *= factor;
     v.endWidth *= factor;
-    if (plane.mirrors) v.bulge = -v.bulge;
+    if (plane.mirrors) v.bulge = 0 - v.bulge; // no negative zeros
     if (!odcheck::areFinite(v.point, v.startWidth, v.endWidth)) return false;
     moved.vertices.set(i, v);
   }
   moved.elevation = (plane.inPlane * OdGePoint3d{0, 0, m_polyline.elevation}).z;
   moved.constantWidth *= factor;
-  moved.extrusion.setThickness(moved.extrusion.thickness() *
-                               (transform * m_polyline.extrusion.normal()).length());
+  moved.extrusion.setThickness(moved.extrusion.thickness() * plane.rise);
   moved.extrusion.setNormal(plane.normal);
   if (!odcheck::areFinite(moved.elevation, moved.constantWidth, moved.extrusion.thickness()))
     return false;

@@ -168,13 +168,13 @@ bool OdDb2dPolyline::transformBy(const OdGeMatrix3d& transform) {
       v.point = plane.inPlane * OdGePoint3d{v.point.x, v.point.y, elevation()};
       v.startWidth *= factor;
       v.endWidth *= factor;
-      if (plane.mirrors) v.bulge = -v.bulge;
+      if (plane.mirrors) v.bulge = 0 - v.bulge; // no negative zeros
       if (v.flags & Vertex::kTangentUsed) v.tangent = plane.angle(v.tangent);
     }
     moved.elevation.z = (plane.inPlane * OdGePoint3d{0, 0, elevation()}).z;
     moved.startWidth *= factor;
     moved.endWidth *= factor;
-    moved.extrusion.setThickness(thickness() * (transform * normal()).length());
+    moved.extrusion.setThickness(thickness() * plane.rise);
     moved.extrusion.setNormal(plane.normal);
   } else {
     for (Vertex& v : moved.vertices)

@@ -2,6 +2,7 @@
 
 #include "drawing/checks.h"
 #include "drawing/entities/line.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/graphics/world_draw.h"
 
 namespace {
@@ -77,19 +78,15 @@ bool OdDbSolid::getGeomExtents(OdGeExtents3d& extents) const {
 }
 
 bool OdDbSolid::transformBy(const OdGeMatrix3d& transform) {
-  const OdGeMatrix3d toWorld = transform * OdGeMatrix3d::planeToWorld(normal());
-  OdGeVector3d n = (toWorld * OdGeVector3d::xAxis()).crossProduct(toWorld * OdGeVector3d::yAxis());
-  if (!(n.lengthSqrd() > 0) || !odcheck::isFinite(n)) return false;
-  if (n.dotProduct(toWorld * OdGeVector3d::zAxis()) < 0) n = -n;
-  n = n.normal();
-  const OdGeMatrix3d inPlane = OdGeMatrix3d::planeToWorld(n).inverse() * toWorld;
+  const OdGePlaneImage plane(transform, normal());
+  if (!plane.valid) return false;
   Data moved = m_solid;
   for (const auto corner : kCorners) {
-    moved.*corner = inPlane * (m_solid.*corner);
+    moved.*corner = plane.inPlane * (m_solid.*corner);
     if (!odgeIsFinite(moved.*corner)) return false;
   }
-  moved.extrusion.setThickness(thickness() * (transform * normal()).length());
-  moved.extrusion.setNormal(n);
+  moved.extrusion.setThickness(thickness() * plane.rise);
+  moved.extrusion.setNormal(plane.normal);
   if (!odcheck::isFinite(moved.extrusion.thickness())) return false;
   assertWriteEnabled();
   m_solid = moved;

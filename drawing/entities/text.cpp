@@ -132,7 +132,10 @@ bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
   if (!plane.valid) return false;
   Data moved = m_text;
   moved.position = plane.inPlane * m_text.position;
-  moved.alignment = plane.inPlane * m_text.alignment;
+  // Texts that begin at their position have no other place, and need none.
+  const bool isAligned = m_text.horizontal != OdDb::kTextLeft || m_text.vertical != OdDb::kTextBase;
+  if (isAligned || m_text.alignment != OdGePoint3d())
+    moved.alignment = plane.inPlane * m_text.alignment;
   moved.height *= plane.scale();
   moved.rotation = plane.angle(m_text.rotation);
   if (plane.mirrors) {
@@ -140,8 +143,7 @@ bool OdDbText::transformBy(const OdGeMatrix3d& transform) {
     moved.rotation = odgeNormalAngle(moved.rotation + kOdaPi);
     moved.generation ^= kBackwards;
   }
-  moved.extrusion.setThickness(moved.extrusion.thickness() *
-                               (transform * m_text.extrusion.normal()).length());
+  moved.extrusion.setThickness(moved.extrusion.thickness() * plane.rise);
   moved.extrusion.setNormal(plane.normal);
   if (!odcheck::areFinite(moved.position, moved.alignment, moved.height, moved.rotation,
                           moved.extrusion.thickness()) ||

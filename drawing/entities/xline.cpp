@@ -1,6 +1,7 @@
 #include "drawing/entities/xline.h"
 
 #include "drawing/checks.h"
+#include "drawing/entities/plane_transform.h"
 #include "drawing/graphics/world_draw.h"
 
 OdDbXline::OdDbXline() = default;
@@ -41,7 +42,7 @@ bool OdDbXline::transformBy(const OdGeMatrix3d& transform) {
   moved.base = transform * m_line.base;
   const OdGeVector3d direction = transform * m_line.direction;
   if (!odcheck::areFinite(moved.base, direction) || !(direction.length() > 0)) return false;
-  moved.direction = direction.normal();
+  moved.direction = odgeIsShift(transform) ? m_line.direction : direction.normal();
   assertWriteEnabled();
   m_line = moved;
   return true;

@@ -72,8 +72,9 @@ OdGeMatrix3d OdGeMatrix3d::operator*(const OdGeMatrix3d& first) const {
 }
 
 OdGeVector3d OdGeMatrix3d::operator*(const OdGeVector3d& v) const {
+  // The zero at the end takes the sign from negative ones.
   const auto row = [&](std::size_t r) {
-    return m_rows[r][0] * v.x + m_rows[r][1] * v.y + m_rows[r][2] * v.z;
+    return m_rows[r][0] * v.x + m_rows[r][1] * v.y + m_rows[r][2] * v.z + 0.0;
   };
   return {row(0), row(1), row(2)};
 }

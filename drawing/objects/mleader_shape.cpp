@@ -38,7 +38,7 @@ struct Shape {
   OdDbObjectId textStyle, block, arrow;
   OdGePoint3d textPlace, blockPlace;
   OdGeVector3d textDirection{1, 0, 0}, textNormal{0, 0, 1}, blockNormal{0, 0, 1},
-      blockScale{1, 1, 1};
+      blockScale{1, 1, 1}, planeX{1, 0, 0}, planeY{0, 1, 0};
   double textWidth = 0, blockRotation = 0;
   int attachment = 1; ///< 1 left, 2 centred, 3 right
   OdCmColor textColor{OdCmColor::kByBlock}, lineColor{OdCmColor::kByBlock};
@@ -131,7 +131,8 @@ class Reader {
     Shape& s = m_shape;
     if (oddb::takePart(tag, 11, s.textNormal) || oddb::takePart(tag, 12, s.textPlace) ||
         oddb::takePart(tag, 13, s.textDirection) || oddb::takePart(tag, 14, s.blockNormal) ||
-        oddb::takePart(tag, 15, s.blockPlace) || oddb::takePart(tag, 16, s.blockScale))
+        oddb::takePart(tag, 15, s.blockPlace) || oddb::takePart(tag, 16, s.blockScale) ||
+        oddb::takePart(tag, 111, s.planeX) || oddb::takePart(tag, 112, s.planeY))
       return;
     switch (tag.code) {
     case 41:
@@ -241,15 +242,14 @@ class Painter {
     // No arrow stands on a line that is hardly longer.
     if (!(size > 0) || way.length() < 2 * size) return;
     const OdGeVector3d along = way.normal();
-    const OdGeVector3d across = m_shape.textNormal.normal().crossProduct(along);
+    const OdGeVector3d up = m_shape.planeX.crossProduct(m_shape.planeY).normal();
+    const OdGeVector3d across = up.crossProduct(along);
     const OdDbObjectPtr record = m_shape.arrow.openObject();
     if (odrxCast<OdDbBlockTableRecord>(record.get())) {
       // Arrow blocks look to the left, where their line ends.
       const OdGeVector3d x = -along * size;
       m_draw.block(m_shape.arrow,
-                   OdGeMatrix3d::coordSystem(points[0], x, -across * size,
-                                             m_shape.textNormal.normal() * size),
-                   m_entity);
+                   OdGeMatrix3d::coordSystem(points[0], x, -across * size, up * size), m_entity);
       points[0] = points[0] + along * size;
       return;
     }

@@ -42,7 +42,6 @@ oddb::TagMover::TagMover(const OdGeMatrix3d& transform)
       std::abs(y.dotProduct(z)) < slack * m_scale && std::abs(z.dotProduct(x)) < slack * m_scale;
   m_mirrors = x.crossProduct(y).dotProduct(z) < 0;
   m_staysInPlane = std::abs(z.x) < slack && std::abs(z.y) < slack && z.z > 0;
-  m_turn = std::atan2(x.y, x.x);
 }
 
 bool oddb::TagMover::move(OdDbKeptTags& tags, std::size_t index, TagMotion::Kind kind) const {
@@ -56,8 +55,8 @@ bool oddb::TagMover::move(OdDbKeptTags& tags, std::size_t index, TagMotion::Kind
   };
   OdDbKeptTags::Tag& first = tags.tags[index];
   const double value = number(&first);
-  if (kind == TagMotion::kLength || kind == TagMotion::kTurn) {
-    const double moved = kind == TagMotion::kLength ? value * m_scale : value + m_turn;
+  if (kind == TagMotion::kLength) {
+    const double moved = value * m_scale;
     if (!areNumbers || !std::isfinite(moved)) return false;
     if (moved != value) first.value = textOf(moved);
     return true;
@@ -72,7 +71,8 @@ bool oddb::TagMover::move(OdDbKeptTags& tags, std::size_t index, TagMotion::Kind
   } else {
     const double length = v.length();
     v = m_transform * v;
-    if (kind == TagMotion::kDirection && v.length() > 0) v = v * (length / v.length());
+    if (kind != TagMotion::kVector && v.length() > 0) v = v * (length / v.length());
+    if (kind == TagMotion::kNormal && m_mirrors) v = OdGeVector3d() - v;
   }
   if (!std::isfinite(v.x) || !std::isfinite(v.y) || !std::isfinite(v.z)) return false;
   if (v.x != before.x) first.value = textOf(v.x);

@@ -15,7 +15,7 @@ struct TagMotion {
     kVector,    ///< turns and grows
     kDirection, ///< turns and keeps its length
     kLength,    ///< grows with a uniform scale
-    kTurn,      ///< an angle around the z axis, in radians
+    kNormal,    ///< of a plane that has a right-handed frame: a mirror turns it to the other side
   };
   int code = 0;
   Kind kind = kPoint;
@@ -32,6 +32,7 @@ class TagMover {
   /// True if all lengths grow alike.
   bool isUniform() const { return m_isUniform; }
   double scale() const { return m_scale; }
+  const OdGeMatrix3d& transform() const { return m_transform; }
   bool mirrors() const { return m_mirrors; }
   /// True if it turns around the z axis at most, so that flat things stay in their plane.
   bool staysInPlane() const { return m_staysInPlane; }
@@ -42,7 +43,7 @@ class TagMover {
 
  private:
   OdGeMatrix3d m_transform;
-  double m_scale = 1, m_turn = 0;
+  double m_scale = 1;
   bool m_isUniform = false, m_mirrors = false, m_staysInPlane = false;
 };
 

@@ -7,28 +7,17 @@
 #include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/objects/tag_values.h"
 #include "drawing/objects/tolerance_shape.h"
 #include "drawing/objects/wipeout_shape.h"
 
 namespace {
 
 // Group codes.
-constexpr int kSubclass = 100;
 constexpr int kBlockName = 2;
 constexpr int kGraphic = 310;
 constexpr int kDataSize = 93;
 constexpr int kDataSizeSinceR2010 = 161;
-
-/// The tags of one subclass.
-OdDbKeptTags tagsOf(const OdDbKeptTags& all, const char* subclass) {
-  OdDbKeptTags found;
-  bool inside = false;
-  for (const OdDbKeptTags::Tag& tag : all.tags) {
-    if (tag.code == kSubclass) inside = tag.value.trimmed() == subclass;
-    if (inside) found.tags.push_back(tag);
-  }
-  return found;
-}
 
 OdGePoint3d pointOf(const OdDbKeptTags& tags, int code, const OdGePoint3d& otherwise = {}) {
   return {tags.real(code, otherwise.x), tags.real(code + 10, otherwise.y),
@@ -55,16 +44,16 @@ Shown shownBy(const OdDbDatabase& database, const OdDbKeptTags& tail) {
     const QByteArray* const name = tags.find(kBlockName);
     return name ? blocks->getAt(OdString::fromUtf8(*name)) : OdDbObjectId();
   };
-  const OdDbKeptTags insert = tagsOf(tail, "AcDbBlockReference");
+  const OdDbKeptTags insert = oddb::tagsOf(tail, "AcDbBlockReference");
   if (const OdDbObjectId block = named(insert); !block.isNull()) {
     // Tables stand so: their block begins at their place and follows their direction.
-    const OdDbKeptTags table = tagsOf(tail, "AcDbTable");
+    const OdDbKeptTags table = oddb::tagsOf(tail, "AcDbTable");
     const OdGePoint3d direction = pointOf(table, 11, {1, 0, 0});
     return {block, OdGeMatrix3d::translation(pointOf(insert, 10).asVector()) *
                        OdGeMatrix3d::rotation(std::atan2(direction.y, direction.x),
                                               OdGeVector3d::zAxis())};
   }
-  return {named(tagsOf(tail, "AcDbDimension")), OdGeMatrix3d()};
+  return {named(oddb::tagsOf(tail, "AcDbDimension")), OdGeMatrix3d()};
 }
 
 } // namespace
@@ -76,11 +65,11 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
     draw.block(shown.block, shown.transform, *this);
     return;
   }
-  if (const OdDbKeptTags mline = tagsOf(tail, "AcDbMline"); !mline.tags.empty()) {
+  if (const OdDbKeptTags mline = oddb::tagsOf(tail, "AcDbMline"); !mline.tags.empty()) {
     oddb::drawMline(mline, *database(), draw);
     return;
   }
-  if (const OdDbKeptTags wipeout = tagsOf(tail, "AcDbWipeout"); !wipeout.tags.empty()) {
+  if (const OdDbKeptTags wipeout = oddb::tagsOf(tail, "AcDbWipeout"); !wipeout.tags.empty()) {
     oddb::drawWipeout(wipeout, *database(), draw);
     return;
   }
@@ -88,7 +77,7 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
   QByteArray graphic = common ? graphicOf(OdDbKeptTags(*common)) : QByteArray();
   if (graphic.isEmpty()) {
     // Behind its own picture a proxy keeps the data that only its program understands.
-    OdDbKeptTags proxy = tagsOf(tail, "AcDbProxyEntity");
+    OdDbKeptTags proxy = oddb::tagsOf(tail, "AcDbProxyEntity");
     const auto end = std::find_if(proxy.tags.begin(), proxy.tags.end(), [](const auto& tag) {
       return tag.code == kDataSize || tag.code == kDataSizeSinceR2010;
     });
@@ -99,9 +88,9 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
     oddb::drawProxyGraphic(graphic, *this, draw);
     return;
   }
-  if (const OdDbKeptTags mleader = tagsOf(tail, "AcDbMLeader"); !mleader.tags.empty())
+  if (const OdDbKeptTags mleader = oddb::tagsOf(tail, "AcDbMLeader"); !mleader.tags.empty())
     oddb::drawMleader(mleader, *this, draw);
-  if (const OdDbKeptTags tolerance = tagsOf(tail, "AcDbFcf"); !tolerance.tags.empty())
+  if (const OdDbKeptTags tolerance = oddb::tagsOf(tail, "AcDbFcf"); !tolerance.tags.empty())
     oddb::drawTolerance(tolerance, *database(), draw);
 }
 

@@ -1,14 +1,20 @@
 // Moving entities that are kept as the file had them, where the meaning of their tags is known.
 #include "drawing/dxf/residue.h"
+#include "drawing/graphics/letter_box.h"
+#include "drawing/objects/mleader_motion.h"
+#include "drawing/objects/mleader_shape.h"
 #include "drawing/objects/moved_tags.h"
 #include "drawing/objects/raw_object.h"
-
-#include <array>
+#include "drawing/objects/tag_values.h"
+#include "drawing/objects/tolerance_shape.h"
 
 namespace {
 
 using oddb::TagMotion;
 using oddb::TagMover;
+
+/// Of a screw: 0 left-handed, 1 right-handed.
+constexpr int kHandedness = 290;
 
 /// What a transformation must be for a class to follow it.
 enum Need : unsigned {
@@ -37,7 +43,7 @@ constexpr TagMotion kHelix[] = {{10, TagMotion::kPoint},
 constexpr TagMotion kInsert[] = {{10, TagMotion::kPoint}};
 constexpr TagMotion kTable[] = {{11, TagMotion::kDirection}};
 constexpr TagMotion kTolerance[] = {
-    {10, TagMotion::kPoint}, {11, TagMotion::kDirection}, {210, TagMotion::kDirection}};
+    {10, TagMotion::kPoint}, {11, TagMotion::kDirection}, {210, TagMotion::kNormal}};
 constexpr TagMotion kMesh[] = {{10, TagMotion::kPoint}};
 // Behind them the reach of the light.
 constexpr TagMotion kLight[] = {{10, TagMotion::kPoint},
@@ -55,12 +61,12 @@ struct Known {
 constexpr Known kKnown[] = {
     {"WIPEOUT", "AcDbWipeout", kWipeout, 0},
     {"MLINE", "AcDbMline", kMline, kUniform},
-    {"HELIX", "AcDbSpline", kSpline, kUniform | kNoMirror},
-    {"HELIX", "AcDbHelix", kHelix, kUniform | kNoMirror},
+    {"HELIX", "AcDbSpline", kSpline, kUniform},
+    {"HELIX", "AcDbHelix", kHelix, kUniform},
     {"ACAD_TABLE", "AcDbBlockReference", kInsert, kUniform | kSameSize | kNoMirror | kInPlane},
     {"ACAD_TABLE", "AcDbTable", kTable, kUniform | kSameSize | kNoMirror | kInPlane},
     // Its size is that of its dimension style, as that of dimensions.
-    {"TOLERANCE", "AcDbFcf", kTolerance, kUniform | kNoMirror},
+    {"TOLERANCE", "AcDbFcf", kTolerance, kUniform},
     {"MESH", "AcDbSubDMesh", kMesh, 0},
     {"LIGHT", "AcDbLight", kLight, kUniform},
 };
@@ -88,111 +94,15 @@ bool moveKnown(std::string_view name, OdDbKeptTags& tags, const TagMover& mover)
       if (known != nullptr && !fits(known->needs, mover)) return false;
     }
     if (known == nullptr) continue;
+    // A mirror makes a right-handed screw a left-handed one.
+    if (tag.code == kHandedness && known->subclass == "AcDbHelix" && mover.mirrors())
+      tags.tags[i].value = oddb::integerOf(tag) == 0 ? "     1" : "     0";
     const TagMotion* const motion = oddb::motionOf(known->motions, tag.code);
     if (motion == nullptr) continue;
     if (!mover.move(tags, i, motion->kind)) return false;
     any = true;
   }
   return any;
-}
-
-// A multileader's tags mean different things in the parts that lie one within another.
-constexpr TagMotion kLeaderStyle[] = {
-    {43, TagMotion::kTurn},   {41, TagMotion::kLength}, // the landing
-    {42, TagMotion::kLength},                           // arrows
-    {45, TagMotion::kLength}, // the scale of all sizes that the style gives
-    {10, TagMotion::kLength}, // the scales of a block
-    {20, TagMotion::kLength}, {30, TagMotion::kLength},
-};
-constexpr TagMotion kLeaderContent[] = {
-    {10, TagMotion::kPoint},      {11, TagMotion::kDirection},
-    {12, TagMotion::kPoint},      {13, TagMotion::kDirection},
-    {42, TagMotion::kTurn},       {14, TagMotion::kDirection},
-    {15, TagMotion::kPoint},      {46, TagMotion::kTurn},
-    {110, TagMotion::kPoint},     {111, TagMotion::kDirection},
-    {112, TagMotion::kDirection}, {40, TagMotion::kLength},  // the scale of all sizes
-    {41, TagMotion::kLength},                                // letters
-    {140, TagMotion::kLength},                               // arrows
-    {145, TagMotion::kLength},                               // the gap before the text
-    {43, TagMotion::kLength},                                // width and height of the text
-    {44, TagMotion::kLength},     {142, TagMotion::kLength}, // its columns
-    {143, TagMotion::kLength},    {144, TagMotion::kLength},
-    {16, TagMotion::kLength}, // the scales of a block
-    {26, TagMotion::kLength},     {36, TagMotion::kLength}};
-constexpr TagMotion kLeaderNode[] = {{10, TagMotion::kPoint},
-                                     {11, TagMotion::kDirection},
-                                     {12, TagMotion::kPoint},
-                                     {13, TagMotion::kPoint},
-                                     {40, TagMotion::kLength}};
-constexpr TagMotion kLeaderLine[] = {{10, TagMotion::kPoint},
-                                     {11, TagMotion::kPoint},
-                                     {12, TagMotion::kPoint},
-                                     {40, TagMotion::kLength}};
-
-struct Part {
-  int opens;
-  std::string_view mark;
-  int closes;
-  std::span<const TagMotion> motions;
-};
-
-constexpr Part kParts[] = {
-    {300, "CONTEXT_DATA{", 301, kLeaderContent},
-    {302, "LEADER{", 303, kLeaderNode},
-    {304, "LEADER_LINE{", 305, kLeaderLine},
-};
-
-/// The sixteen numbers of a block's matrix, row by row.
-bool moveMatrix(OdDbKeptTags& tags, const std::vector<std::size_t>& places,
-                const OdGeMatrix3d& transform) {
-  constexpr std::size_t kSize = 4;
-  if (places.size() != kSize * kSize) return places.empty();
-  std::array<std::array<double, kSize>, kSize> before{};
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    bool ok = false;
-    before[i / kSize][i % kSize] = tags.tags[places[i]].value.trimmed().toDouble(&ok);
-    if (!ok) return false;
-  }
-  for (std::size_t row = 0; row < 3; ++row)
-    for (std::size_t column = 0; column < kSize; ++column) {
-      double sum = 0;
-      for (std::size_t k = 0; k < kSize; ++k)
-        sum += transform(static_cast<int>(row), static_cast<int>(k)) * before[k][column];
-      OdDbKeptTags one;
-      one.setReal(47, sum);
-      tags.tags[places[row * kSize + column]].value = one.tags.front().value;
-    }
-  return true;
-}
-
-bool moveLeader(OdDbKeptTags& tags, const TagMover& mover, const OdGeMatrix3d& transform) {
-  if (!fits(kUniform | kNoMirror | kInPlane, mover)) return false;
-  std::vector<const Part*> open;
-  std::vector<std::size_t> matrix;
-  bool any = false;
-  for (std::size_t i = 0; i < tags.tags.size(); ++i) {
-    const OdDbKeptTags::Tag& tag = tags.tags[i];
-    const QByteArray text = tag.value.trimmed();
-    const auto opened = std::ranges::find_if(kParts, [&](const Part& part) {
-      return part.opens == tag.code &&
-             std::string_view(text.constData(), static_cast<std::size_t>(text.size())) == part.mark;
-    });
-    if (opened != std::end(kParts)) {
-      open.push_back(opened);
-      continue;
-    }
-    if (!open.empty() && tag.code == open.back()->closes) {
-      open.pop_back();
-      continue;
-    }
-    if (open.size() == 1 && tag.code == 47) matrix.push_back(i);
-    const TagMotion* const motion = oddb::motionOf(
-        open.empty() ? std::span<const TagMotion>(kLeaderStyle) : open.back()->motions, tag.code);
-    if (motion == nullptr) continue;
-    if (!mover.move(tags, i, motion->kind)) return false;
-    any = any || motion->kind == TagMotion::kPoint;
-  }
-  return any && open.empty() && moveMatrix(tags, matrix, transform);
 }
 
 /// A picture of the entity where it was: its program makes a new one.
@@ -208,13 +118,114 @@ void dropPicture(OdDbDxfResidue& residue) {
 
 } // namespace
 
+namespace {
+
+/// Tags that files leave out where they are those of every drawing.
+struct Preset {
+  std::string_view name;
+  int code;
+  OdGeVector3d value;
+};
+constexpr Preset kPresets[] = {
+    {"TOLERANCE", 11, {1, 0, 0}},
+    {"TOLERANCE", 210, {0, 0, 1}},
+    {"ACAD_TABLE", 11, {1, 0, 0}},
+};
+
+/// Adds what is left out, at the end of its class, where it is not to stay what it is.
+void tellPresets(std::string_view name, OdDbKeptTags& tags, const TagMover& mover) {
+  for (const Preset& preset : kPresets) {
+    OdGeVector3d moved = mover.transform() * preset.value;
+    if (mover.mirrors() && preset.code == 210) moved = -moved;
+    if (preset.name != name || tags.find(preset.code) != nullptr || moved.normal() == preset.value)
+      continue;
+    const double parts[] = {preset.value.x, preset.value.y, preset.value.z};
+    for (int i = 0; i < 3; ++i) tags.setReal(preset.code + 10 * i, parts[i]);
+  }
+}
+
+OdGePoint3d pointOf(const OdDbKeptTags& tags, int code, const OdGeVector3d& otherwise) {
+  return {tags.real(code, otherwise.x), tags.real(code + 10, otherwise.y),
+          tags.real(code + 20, otherwise.z)};
+}
+
+/// The direction in which the rows of a table follow each other.
+bool growsUpwards(const OdDbKeptTags& table, const OdDbDatabase& database) {
+  constexpr int kFlow = 70;
+  if (const QByteArray* const own = table.find(kFlow)) return own->trimmed().toInt() == 1;
+  const QByteArray* const style = table.find(342);
+  const OdDbObjectPtr object =
+      style ? oddb::objectOf({342, *style}, database).openObject() : OdDbObjectPtr();
+  if (!object || !object->residue()) return false;
+  const QByteArray* const flow = OdDbKeptTags(object->residue()->tail).find(kFlow);
+  return flow && flow->trimmed().toInt() == 1;
+}
+
+/// The sum of the first `count` values of a code: heights of rows, widths of columns.
+double sumOf(const OdDbKeptTags& tags, int code, int count) {
+  double sum = 0;
+  for (const OdDbKeptTags::Tag& tag : tags.tags)
+    if (tag.code == code && count-- > 0) sum += oddb::realOf(tag);
+  return sum;
+}
+
+/// All of a table.
+OdGiLetterFrame tableFrame(const OdDbKeptTags& all, const OdDbDatabase& database) {
+  const OdDbKeptTags insert = oddb::tagsOf(all, "AcDbBlockReference");
+  const OdDbKeptTags table = oddb::tagsOf(all, "AcDbTable");
+  const OdGeVector3d given = pointOf(table, 11, OdGeVector3d::xAxis()).asVector();
+  OdGiLetterFrame frame;
+  frame.along = given.isZeroLength() ? OdGeVector3d::xAxis() : given.normal();
+  frame.up = OdGeVector3d::zAxis().crossProduct(frame.along);
+  const double height = sumOf(table, 141, static_cast<int>(table.real(91, 0)));
+  const double width = sumOf(table, 142, static_cast<int>(table.real(92, 0)));
+  frame.middle = pointOf(insert, 10, {}) + frame.along * (width / 2) +
+                 frame.up * (growsUpwards(table, database) ? height / 2 : -height / 2);
+  return frame;
+}
+
+} // namespace
+
+bool OdDbRawEntity::isTable() const { return m_name == "ACAD_TABLE"; }
+
+std::optional<OdGiLetterFrame> OdDbRawEntity::letterFrame() const {
+  if (!residue() || !database()) return std::nullopt;
+  const OdDbKeptTags tail(residue()->tail);
+  if (isTable()) return tableFrame(tail, *database());
+  const OdDbKeptTags tolerance = oddb::tagsOf(tail, "AcDbFcf");
+  OdGiLetterBox box(tolerance.tags.empty() ? OdGiLetterBox::Of::kLetters
+                                           : OdGiLetterBox::Of::kFrames);
+  if (!tolerance.tags.empty())
+    oddb::drawTolerance(tolerance, *database(), box);
+  else if (const OdDbKeptTags mleader = oddb::tagsOf(tail, "AcDbMLeader"); !mleader.tags.empty())
+    oddb::drawMleader(mleader, *this, box);
+  return box.frame();
+}
+
 bool OdDbRawEntity::transformBy(const OdGeMatrix3d& transform) {
+  // Nothing in a table tells of letters that run backwards.
+  if (isTable() && TagMover(transform).mirrors()) return mirrorReadably(transform);
+  return move(transform, transform);
+}
+
+bool OdDbRawEntity::mirrorReadably(const OdGeMatrix3d& mirror) {
+  const auto letters = letterFrame();
+  return move(mirror, letters ? odgiReadableMirror(*letters, mirror) : mirror);
+}
+
+bool OdDbRawEntity::move(const OdGeMatrix3d& shape, const OdGeMatrix3d& letters) {
   if (!residue() || !m_followers.empty()) return false;
   const std::string_view name(m_name.constData(), static_cast<std::size_t>(m_name.size()));
-  const TagMover mover(transform);
   OdDbKeptTags tail(residue()->tail);
-  const bool isLeader = name == "MULTILEADER" || name == "MLEADER";
-  if (!(isLeader ? moveLeader(tail, mover, transform) : moveKnown(name, tail, mover))) return false;
+  if (name == "MULTILEADER" || name == "MLEADER") {
+    const TagMover lines(shape);
+    if (!lines.isUniform() || !oddb::moveMleader(tail, lines, TagMover(letters))) return false;
+  } else {
+    // These are letters and nothing else.
+    const TagMover mover(name == "TOLERANCE" || isTable() ? letters : shape);
+    tellPresets(name, tail, mover);
+    if (!moveKnown(name, tail, mover)) return false;
+  }
   OdDbDxfResidue& kept = editResidue();
   kept.tail = tail.lines();
   dropPicture(kept);

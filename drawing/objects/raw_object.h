@@ -3,7 +3,10 @@
 
 #include "drawing/entities/entity.h"
 
+#include <optional>
 #include <vector>
+
+struct OdGiLetterFrame;
 
 /// An object that is kept and written back as the file had it.
 class OdDbRawObject : public OdDbObject {
@@ -50,12 +53,21 @@ class OdDbRawEntity : public OdDbEntity {
   OdDbEntityPtr getTransformedCopy(const OdGeMatrix3d& transform) const override;
   /// Moves the points of classes whose tags are understood so far: multilines, multileaders, masks,
   /// spirals, tables and the like. False for all others, and for what their shape cannot follow.
+  /// A table that is mirrored can still be read.
   bool transformBy(const OdGeMatrix3d& transform) override;
+  /// As transformBy() with a mirror, but what is to be read is turned: it comes to stand where the
+  /// mirror shows it.
+  bool mirrorReadably(const OdGeMatrix3d& mirror);
 
  protected:
   OdDbObjectPtr newInstance() const override { return odrxMake<OdDbRawEntity>(m_name); }
 
  private:
+  bool isTable() const;
+  /// What of it is to be read; nothing if nothing is.
+  std::optional<OdGiLetterFrame> letterFrame() const;
+  bool move(const OdGeMatrix3d& shape, const OdGeMatrix3d& letters);
+
   QByteArray m_name;
   std::vector<OdDbObjectId> m_followers;
 };

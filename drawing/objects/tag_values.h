@@ -36,4 +36,16 @@ bool takePart(const OdDbKeptTags::Tag& tag, int base, P& p) {
   return false;
 }
 
+/// The tags of one subclass.
+inline OdDbKeptTags tagsOf(const OdDbKeptTags& all, const char* subclass) {
+  constexpr int kSubclass = 100;
+  OdDbKeptTags found;
+  bool inside = false;
+  for (const OdDbKeptTags::Tag& tag : all.tags) {
+    if (tag.code == kSubclass) inside = tag.value.trimmed() == subclass;
+    if (inside) found.tags.push_back(tag);
+  }
+  return found;
+}
+
 } // namespace oddb

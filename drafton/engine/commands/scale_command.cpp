@@ -56,11 +56,21 @@ Task<void> scale(CommandContext& context) {
     }
   }
   last = *factor;
-  const EntityMover grow = by(OdGeMatrix3d::scaling(*factor, base.value));
+  int tables = 0;
+  const auto grow = [&tables,
+                     scaling = by(OdGeMatrix3d::scaling(*factor, base.value))](OdDbEntity& entity) {
+    const bool grows = scaling(entity);
+    if (!grows && qstrcmp(entity.dxfName(), "ACAD_TABLE") == 0) ++tables;
+    return grows;
+  };
   if (copies)
     copyEntities(context, chosen, grow, u"%1 could not be scaled.");
   else
     moveEntities(context, chosen, grow, u"%1 could not be scaled.");
+  if (tables > 0)
+    context.print(translated(u"%1 of them are tables: the sizes of their letters are those of a "
+                             u"table style, which other tables share.")
+                      .arg(tables));
 }
 
 } // namespace drafton

@@ -53,6 +53,20 @@ class EditCommands : public CommandFixture {
         ->appendOdDbEntity(insert);
     insert->appendAttributesFromBlock();
   }
+  /// Entities in the form of the file, with bars between the lines.
+  void addKept(QByteArray tags) {
+    QByteArray file = OdDbDatabase::createDatabase()->writeDxf();
+    file.replace("\r\n", "\n");
+    file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")),
+                tags.replace('|', '\n'));
+    const OdDbDatabasePtr source = OdDbDatabase::readDxf(file, QStringLiteral("kept.dxf"));
+    std::vector<OdDbObjectId> ids;
+    const auto space = source->getModelSpaceId().openAs<OdDbBlockTableRecord>();
+    for (const auto at = space->newIterator(); !at->done(); at->step())
+      ids.push_back(at->objectId());
+    OdDbIdMapping mapping;
+    database().wblockCloneObjects(ids, database().getModelSpaceId(), mapping, OdDb::kDrcIgnore);
+  }
   /// Two lines in a group, and a third one.
   void makeGroup() {
     runScript(u"LINE|0,0|10,0||LINE|0,5|10,5||LINE|0,10|10,10|");
@@ -66,26 +80,40 @@ class EditCommands : public CommandFixture {
 } // namespace
 
 TEST_F(EditCommands, CopiesWhatIsKeptAsTheFileHadItIfItCanBeMoved) {
-  QByteArray file = OdDbDatabase::createDatabase()->writeDxf();
-  file.replace("\r\n", "\n");
-  QByteArray kept = "0|WIPEOUT|5|F0|100|AcDbEntity|8|0|100|AcDbWipeout|90|0|10|1.0|20|2.0|30|0.0|"
-                    "11|4.0|21|0.0|31|0.0|12|0.0|22|3.0|32|0.0|13|1.0|23|1.0|340|0|70|7|280|1|"
-                    "281|50|282|50|283|0|360|0|71|2|91|4|14|-0.5|24|-0.5|14|0.5|24|-0.5|14|0.5|24|"
-                    "0.5|14|-0.5|24|-0.5|0|MYSTERY|5|F1|100|AcDbEntity|8|0|100|AcDbMystery|";
-  file.insert(file.indexOf("  0\nENDSEC\n", file.indexOf("\nENTITIES\n")), kept.replace('|', '\n'));
-  const OdDbDatabasePtr source = OdDbDatabase::readDxf(file, QStringLiteral("kept.dxf"));
-  std::vector<OdDbObjectId> ids;
-  const auto space = source->getModelSpaceId().openAs<OdDbBlockTableRecord>();
-  for (const auto at = space->newIterator(); !at->done(); at->step()) ids.push_back(at->objectId());
-  ASSERT_EQ(ids.size(), 2U);
-  OdDbIdMapping mapping;
-  database().wblockCloneObjects(ids, database().getModelSpaceId(), mapping, OdDb::kDrcIgnore);
+  addKept("0|WIPEOUT|5|F0|100|AcDbEntity|8|0|100|AcDbWipeout|90|0|10|1.0|20|2.0|30|0.0|"
+          "11|4.0|21|0.0|31|0.0|12|0.0|22|3.0|32|0.0|13|1.0|23|1.0|340|0|70|7|280|1|"
+          "281|50|282|50|283|0|360|0|71|2|91|4|14|-0.5|24|-0.5|14|0.5|24|-0.5|14|0.5|24|"
+          "0.5|14|-0.5|24|-0.5|0|MYSTERY|5|F1|100|AcDbEntity|8|0|100|AcDbMystery|");
   runScript(u"COPY|all||0,0|10,0||");
   EXPECT_FALSE(isRunning());
   QByteArray copied = dxf();
   EXPECT_EQ(copied.count("\nWIPEOUT"), 2);
   EXPECT_EQ(copied.count("\nMYSTERY"), 1);
   EXPECT_TRUE(console().shows(QStringLiteral("1 could not be copied.")));
+}
+
+TEST_F(EditCommands, TolerancesAndTablesCanBeMirroredAndTablesTellWhyTheyStay) {
+  const QByteArray tolerance =
+      "0|TOLERANCE|5|F0|100|AcDbEntity|8|0|100|AcDbFcf|3|Standard|10|2.0|20|3.0|30|0.0|1|AB|11|1.0|"
+      "21|0.0|31|0.0|";
+  const QByteArray table =
+      "0|ACAD_TABLE|5|F1|100|AcDbEntity|8|0|100|AcDbBlockReference|2|*T1|10|3.0|20|4.0|30|0.0|100|"
+      "AcDbTable|11|1.0|21|0.0|31|0.0|91|1|92|1|141|5.0|142|10.0|";
+  addKept(tolerance + table);
+  runScript(u"MIRRTEXT|0|MIRROR|all||0,0|0,1|y");
+  EXPECT_FALSE(console().shows(QStringLiteral("could not"))) << output().toStdString();
+  QByteArray now = dxf();
+  EXPECT_TRUE(now.contains("AcDbBlockReference\n  2\n*T1\n 10\n-13.0\n 20\n4.0\n"))
+      << now.constData();
+  EXPECT_FALSE(now.contains("\n230\n-1.0\n")) << "letters are seen from above";
+  runScript(u"MIRRTEXT|1|MIRROR|all||0,0|0,1|y");
+  now = dxf();
+  EXPECT_TRUE(now.contains("AcDbBlockReference\n  2\n*T1\n 10\n3.0\n 20\n4.0\n"));
+  EXPECT_TRUE(now.contains("\n230\n-1.0\n")) << "letters run backwards";
+  runScript(u"SCALE|all||0,0|2");
+  EXPECT_TRUE(console().shows(QStringLiteral("1 could not be scaled.")));
+  EXPECT_TRUE(console().shows(QStringLiteral("1 of them are tables")));
+  EXPECT_TRUE(dxf().contains("AcDbBlockReference\n  2\n*T1\n 10\n3.0\n 20\n4.0\n"));
 }
 
 TEST_F(EditCommands, WhatIsChosenBeforeACommandIsNotAskedFor) {
