@@ -56,7 +56,7 @@ LOOK = (color(TRUE | 0x123456) + WALLS + DASHED + given("LinetypeScale", "2.5", 
         + given("Transparency", "40", 2) + NOTES + SITE)
 
 
-class ImportedTools(unittest.TestCase):
+class ImportedTools(tool_bench.DrawingCase):
     def setUp(self):
         self.bench = tool_bench.Bench(PROGRAMS)
         self.addCleanup(self.bench.close)
@@ -98,17 +98,6 @@ class ImportedTools(unittest.TestCase):
         report = json.loads(self.tpal("import", self.bench.path("p.xtp"), "--into",
                                       self.bench.path("c"), "--group", "G", "--json"))
         return report[0]["tools"]
-
-    def draw(self, script):
-        run = self.bench.run(script)
-        self.assertEqual(run.returncode, 0, run.stdout[-2000:] + run.stderr)
-        self.output = run.stdout
-        return self.bench.read()
-
-    def only(self, document, kind):
-        found = document.modelspace().query(kind)
-        self.assertEqual(len(found), 1, self.output[-2000:])
-        return found[0]
 
     def block(self, **more):
         return {"BlockType": 1, "BlockName": "Door", "SourceFile": self.bench.stored("source.dxf"),

@@ -5,6 +5,7 @@ import os
 import pathlib
 import subprocess
 import tempfile
+import unittest
 import uuid
 import xml.sax.saxutils
 
@@ -85,3 +86,19 @@ class Bench:
     def stored(self, name):
         """A path as catalogs have it."""
         return str(self.path(name)).replace("/", "\\")
+
+
+class DrawingCase(unittest.TestCase):
+    """A test that looks at what came of runs; it has a `bench`. `output` is what the last run said."""
+
+    def draw(self, script, drawing=None):
+        """The drawing after a script, which must succeed."""
+        run = self.bench.run(script, drawing)
+        self.assertEqual(run.returncode, 0, run.stdout[-2000:] + run.stderr)
+        self.output = run.stdout
+        return self.bench.read()
+
+    def only(self, document, kind):
+        found = document.modelspace().query(kind)
+        self.assertEqual(len(found), 1, self.output[-2000:])
+        return found[0]

@@ -56,7 +56,7 @@ def write_picture(path, width, height):
                      chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
 
 
-class Tools(unittest.TestCase):
+class Tools(tool_bench.DrawingCase):
     def setUp(self):
         self.bench = tool_bench.Bench(PROGRAMS)
         self.addCleanup(self.bench.close)
@@ -64,15 +64,7 @@ class Tools(unittest.TestCase):
     def run_tool(self, agent, fields, answers, before="", drawing=None):
         """The drawing after one run of a tool with these fields."""
         self.bench.write_catalog([("T", agent, fields, "")])
-        run = self.bench.run(f"{before}TOOL:T\n{answers}", drawing)
-        self.assertEqual(run.returncode, 0, run.stdout[-2000:] + run.stderr)
-        self.output = run.stdout
-        return self.bench.read()
-
-    def only(self, document, kind):
-        found = document.modelspace().query(kind)
-        self.assertEqual(len(found), 1, self.output[-2000:])
-        return found[0]
+        return self.draw(f"{before}TOOL:T\n{answers}", drawing)
 
 
 class BlockTools(Tools):
