@@ -77,7 +77,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog>, private OdT
   using Palettes = std::vector<OdTcToolPalettePtr>;
 
   int pendingCount() const override { return m_pending.count(); }
-  bool loadNext() override { return loadAndTell(m_pending.takeFirst()); }
+  bool loadNext() override { return loadAndTell(m_pending.takeNext()); }
   bool loadWaiting(const OdString& id) override { return loadAndTell(m_pending.take(id)); }
   OdTcEnumPtr<OdTcToolPalette> palettesSoFar() const override;
   OdTcToolPalette* findSoFar(const OdString& id) const override;
@@ -85,8 +85,9 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog>, private OdT
   /// Reads the palettes that wait. Called by whatever looks at palettes or loaders.
   void complete() const;
   bool loadAndTell(const std::optional<PendingPalettes::Entry>& entry);
-  /// Reads one palette and puts it in its place; null if it gives none.
-  OdTcToolPalettePtr bring(const PendingPalettes::Entry& entry);
+  /// Reads one palette and puts it in its place: null if there is none, nothing if another reading
+  /// has brought it meanwhile.
+  std::optional<OdTcToolPalettePtr> bring(const PendingPalettes::Entry& entry);
   void finishLoad();
   void clearContent();
   void takeIn(OdTcToolPalette* palette);

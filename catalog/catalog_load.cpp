@@ -28,21 +28,21 @@ bool OdTcCatalogImpl::beginLoad(const OdString& path) {
 
 bool OdTcCatalogImpl::load(const OdString& path) {
   if (!beginLoad(path)) return false;
-  while (const auto entry = m_pending.takeFirst()) bring(*entry);
-  finishLoad();
+  while (const auto entry = m_pending.takeNext()) bring(*entry);
   return true;
 }
 
-OdTcToolPalettePtr OdTcCatalogImpl::bring(const PendingPalettes::Entry& entry) {
-  OdTcToolPalettePtr palette = entry.loader->loadPaletteFromCatalog();
-  if (!palette) {
-    m_pending.cameToNothing();
-    return palette;
+std::optional<OdTcToolPalettePtr> OdTcCatalogImpl::bring(const PendingPalettes::Entry& entry) {
+  const OdTcToolPalettePtr palette = entry.loader->loadPaletteFromCatalog();
+  if (!m_pending.strike(entry)) return std::nullopt;
+  if (palette) {
+    palette->setOwnerQuiet(this);
+    const auto at = m_palettes.begin() + m_pending.enter(entry);
+    if (at != m_palettes.end()) m_paletteIndex.drop();
+    m_palettes.insert(at, palette);
+    palette->setReferenced(m_pending.isReferenced(palette->id()));
   }
-  palette->setOwnerQuiet(this);
-  const auto at = m_palettes.begin() + m_pending.arrived(entry);
-  if (at != m_palettes.end()) m_paletteIndex.drop();
-  m_palettes.insert(at, palette);
+  if (m_pending.count() == 0) finishLoad();
   return palette;
 }
 
@@ -60,11 +60,10 @@ bool OdTcCatalogImpl::loadAndTell(const std::optional<PendingPalettes::Entry>& e
   if (!entry) return false;
   // Whoever hears of the palette may let go of the catalog.
   const OdTcCatalogPtr held(this);
-  const OdTcToolPalettePtr palette = bring(*entry);
-  if (palette) palette->setReferenced(m_pending.isReferenced(palette->id()));
+  const std::optional<OdTcToolPalettePtr> palette = bring(*entry);
+  if (!palette) return true;
   const bool isLast = m_pending.count() == 0;
-  if (isLast) finishLoad();
-  if (palette) notifyAdded(palette);
+  if (*palette) notifyAdded(*palette);
   if (isLast) itemRecord().notify(&OdTcCatalogItemReactor::itemChanged, this);
   return true;
 }
@@ -73,7 +72,7 @@ void OdTcCatalogImpl::complete() const {
   if (m_pending.count() == 0) return;
   auto* const self = const_cast<OdTcCatalogImpl*>(this);
   const OdTcCatalogPtr held(self);
-  while (self->loadNext()) {
+  while (self->loadAndTell(self->m_pending.takeAny())) {
   }
 }
 

@@ -89,7 +89,7 @@ bool OdTcPaletteManagerImpl::doPiece() {
     if (catalog->loading()->pendingCount() == 0) continue;
     // Whoever hears of the palette may change the map.
     const OdTcCatalogPtr held = catalog;
-    return held->loading()->loadNext();
+    if (held->loading()->loadNext()) return true;
   }
   return false;
 }

@@ -2,6 +2,7 @@
 
 #include "catalog/catalog_fixture.h"
 #include "catalog/group_impl.h"
+#include "host/message_box.h"
 #include "support/test_idle.h"
 
 #include <algorithm>
@@ -321,6 +322,46 @@ TEST_F(CatalogLoadingTest, LoadedAnewItForgetsWhatWaited) {
   ASSERT_TRUE(catalog->load(writeTwoPalettes(u"two"_s)));
   EXPECT_EQ(catalog->loading()->pendingCount(), 0);
   EXPECT_EQ(namesOf(catalog->palettesEnum()), QStringList({u"Alpha"_s, u"Beta"_s}));
+}
+
+/// A message box behind which something happens.
+struct BusyBox : CKVUnknownImpl<IHostMessageBoxes> {
+  std::function<void()> meanwhile;
+  int shown = 0;
+  messagebox::Answer show(const OdString&, const OdString&, unsigned) override {
+    ++shown;
+    if (shown == 1) meanwhile();
+    return messagebox::kAnswerOk;
+  }
+};
+
+TEST_F(CatalogLoadingTest, WhoeverAsksWhileABrokenFileIsToldGetsThatPaletteToo) {
+  const OdTcCatalogPtr whole = load(writeAll(u"whole"_s));
+  const OdString root = stored(OdString());
+  const QStringList expected = told(*whole).replaceInStrings(root + u"whole"_s, OdString());
+  const auto box = kvMake<BusyBox>();
+  theHost().offer<IHostMessageBoxes>(box.get());
+  for (const OdString& first : {u"X"_s, u"C"_s}) {
+    const OdTcCatalogPtr catalog = begun(writeAll(u"c"_s));
+    ArrivalLog log;
+    catalog->addReactor(&log);
+    box->shown = 0;
+    QByteArray saved;
+    box->meanwhile = [&] {
+      EXPECT_FALSE(catalog->loading()->loadWaiting(u"X"_s)) << "it is being read";
+      EXPECT_EQ(namesOf(catalog->palettesEnum()).size(), 6);
+      EXPECT_EQ(catalog->loading()->pendingCount(), 0);
+      EXPECT_TRUE(catalog->save());
+      saved = readFile(u"c\\DrfTcCatalog.dtc"_s);
+    };
+    catalog->loading()->loadWaiting(first);
+    while (catalog->loading()->loadNext()) {
+    }
+    EXPECT_EQ(saved.count("<ToolPalette ID"), 3) << "no reference is lost";
+    EXPECT_EQ(told(*catalog).replaceInStrings(root + u"c"_s, OdString()), expected);
+    EXPECT_EQ(log.log.size(), 7) << "each once, and that all are there";
+    catalog->removeReactor(&log);
+  }
 }
 
 /// The manager, which has palettes read while the host is idle.

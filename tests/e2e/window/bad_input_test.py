@@ -57,13 +57,13 @@ class Bench:
     def wait_for_history(self, program, text):
         wait_for(f"{text!r} in the history", lambda: text in self.history(program))
 
-    def dismiss(self, program, text):
+    def dismiss(self, program, text, title="Drafton"):
         """Reads a message that has to say `text`, and closes it."""
         def say():
             return [name for role, name, control in program.controls()
                     if role == "label" and text in name]
         wait_for(f"the message {text!r}", say)
-        wait_for("the message's window", lambda: program.has_window("Drafton"))
+        wait_for("the message's window", lambda: program.has_window(title))
         self.screen.key("Return")
         wait_for("the message to go", lambda: not say())
 
@@ -158,6 +158,53 @@ def a_catalog_that_vanishes_leaves_what_is_shown(bench):
     bench.draw(program)
     bench.leave(program, discard=True)
     assert not bench.catalogs.exists(), "nothing is written where the catalog was"
+
+
+def write_large_catalog(folder):
+    """Palettes that take a while to read, in one group."""
+    (folder / "Palettes").mkdir(parents=True)
+    names = [f"P{number}" for number in range(1500)]
+    tools = "".join(f'<Tool><ItemID idValue="T{number}"/><Properties><ItemName>Tool {number}</ItemName>'
+                    f'</Properties><ToolType>1</ToolType><Data><Command Macro="_LINE"/></Data></Tool>'
+                    for number in range(80))
+    for name in names:
+        (folder / "Palettes" / f"{name}.dtc").write_text(
+            f'<Palette><ItemID idValue="{name}"/><Properties><ItemName>{name}</ItemName></Properties>'
+            f'<Tools>{tools}</Tools></Palette>')
+    loaders = "".join(f'<Palette><ItemID idValue="{name}"/><Url href="Palettes\\{name}.dtc"/></Palette>'
+                      for name in names)
+    inside = "".join(f'<ToolPalette ID="{name}"/>' for name in names)
+    (folder / "DrfTcCatalog.dtc").write_text(
+        f'<Catalog><Properties><ItemName>Large</ItemName></Properties><Palettes>{loaders}</Palettes>'
+        f'<Groups><ToolPaletteGroup><ItemID idValue="G"/><Properties><ItemName>All of them</ItemName>'
+        f'</Properties><Contents>{inside}</Contents></ToolPaletteGroup></Groups></Catalog>')
+
+
+def palettes_that_are_still_read_hold_nobody_up(bench):
+    bench.catalogs = bench.folder / "large"
+    write_large_catalog(bench.catalogs)
+    # The program may end before they are all there.
+    program = bench.start(bench.drawing)
+    bench.title(program, "plan.dxf - Drafton")
+    program.find("table cell", "All of them")
+    bench.leave(program)
+
+    # One that cannot be read holds the others up until that was seen.
+    broken = bench.catalogs / "Palettes" / "P1000.dtc"
+    broken.write_text(broken.read_text()[:-30])
+    program = bench.start(bench.drawing)
+    bench.title(program, "plan.dxf - Drafton")
+    program.find("table cell", "All of them")
+    program.find("label", "Error while reading tool palette file.")
+    program.find("label", lambda name: name.startswith("Reading palettes, "))
+    bench.dismiss(program, "Error while reading tool palette file.", "Tool Palettes")
+    wait_for("the last palette",
+             lambda: not program.has("label", lambda name: name.startswith("Reading palettes, ")))
+    bench.wait_for_history(program, "P1000.dtc")
+    program.click("table cell", "All of them")
+    program.find("page tab", "All of them")
+    bench.draw(program)
+    bench.leave(program, discard=True)
 
 
 def a_thousand_hasty_clicks_do_no_harm(bench):
@@ -270,7 +317,8 @@ def two_programs_share_their_settings(bench):
 
 TESTS = [closing_the_drawing_ends_its_tool, closing_the_window_ends_its_tool,
          ending_the_program_ends_its_command, closing_the_palettes_leaves_the_tool,
-         a_catalog_that_vanishes_leaves_what_is_shown, a_thousand_hasty_clicks_do_no_harm,
+         a_catalog_that_vanishes_leaves_what_is_shown,
+         palettes_that_are_still_read_hold_nobody_up, a_thousand_hasty_clicks_do_no_harm,
          what_is_no_drawing_is_named, settings_that_cannot_be_used_are_told_and_left,
          without_a_working_module_drafton_goes_on, two_programs_share_their_settings]
 
