@@ -110,4 +110,26 @@ void Autosave::forget() {
   for (const OdString& folder : std::exchange(m_lostFolders, {})) QDir(folder).removeRecursively();
 }
 
+void recover(Autosave& autosave, UserDialogs& dialogs) {
+  const std::vector<LostDrawing> lost = autosave.findLost();
+  if (lost.empty()) return;
+  QStringList names;
+  for (const LostDrawing& drawing : lost) names << drawing.name;
+  switch (dialogs.askLost(names)) {
+  case UserDialogs::Lost::kLater:
+    return;
+  case UserDialogs::Lost::kOpen: {
+    bool isOpen = true;
+    for (const LostDrawing& drawing : lost) isOpen = autosave.open(drawing) && isOpen;
+    // What cannot be read now may be read by somebody later.
+    if (!isOpen) return;
+    autosave.saveNow();
+    break;
+  }
+  case UserDialogs::Lost::kDelete:
+    break;
+  }
+  autosave.forget();
+}
+
 } // namespace drafton

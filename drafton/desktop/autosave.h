@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drafton/desktop/desktop.h"
+#include "drafton/desktop/user_dialogs.h"
 
 #include <QLockFile>
 #include <QTimer>
@@ -46,5 +47,9 @@ class Autosave : public QObject {
   QTimer m_timer;
   QStringList m_lostFolders;
 };
+
+/// Offers what a crashed run has left behind: to open it, to delete it, or to ask again at the next
+/// start.
+void recover(Autosave& autosave, UserDialogs& dialogs);
 
 } // namespace drafton

@@ -44,25 +44,6 @@ void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
-/// Offers what a crashed run has left behind.
-void recover(Autosave& autosave, UserDialogs& dialogs) {
-  const std::vector<LostDrawing> lost = autosave.findLost();
-  if (lost.empty()) return;
-  QStringList names;
-  for (const LostDrawing& drawing : lost) names << drawing.name;
-  if (dialogs.confirm(translated(u"Drafton did not end as it should. Copies of changed drawings "
-                                 u"were kept: %1. Open them?")
-                          .arg(names.join(QStringLiteral(", "))),
-                      translated(u"&Open"))) {
-    bool isOpen = true;
-    for (const LostDrawing& drawing : lost) isOpen = autosave.open(drawing) && isOpen;
-    // What cannot be read now may be read by somebody later.
-    if (!isOpen) return;
-    autosave.saveNow();
-  }
-  autosave.forget();
-}
-
 } // namespace
 
 int runDesktop(int& argc, char** argv) {

@@ -118,8 +118,9 @@ void MainWindow::showPane(const char* name) {
   dock->show();
   dock->raise();
   // Where it floats for the first time it would stand in a corner of the screen.
-  if (dock->isFloating() && !dock->geometry().intersects(geometry()))
-    dock->move(geometry().center() - dock->rect().center());
+  const bool isPlaced =
+      dock->testAttribute(Qt::WA_Moved) && dock->geometry().intersects(geometry());
+  if (dock->isFloating() && !isPlaced) dock->move(geometry().center() - dock->rect().center());
   dock->activateWindow();
   dock->widget()->setFocus();
 }

@@ -1,5 +1,7 @@
 #include "drafton/desktop/options_dialog.h"
 
+#include "drafton/desktop/theme.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -8,7 +10,6 @@
 #include <QLabel>
 #include <QSpinBox>
 #include <QStyle>
-#include <QStyleFactory>
 
 namespace drafton {
 namespace {
@@ -124,11 +125,10 @@ void OptionsDialog::accept() {
 
 void applyTheme(const OdString& name) {
   // What was there first is the system's.
-  static const OdString systemStyle = QApplication::style()->name();
+  static const OdString systemStyle = styleName();
   const bool isSystem = name == QLatin1String("System");
   const OdString style = isSystem ? systemStyle : QStringLiteral("Fusion");
-  if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0)
-    QApplication::setStyle(QStyleFactory::create(style));
+  setStyle(style);
   if (isSystem)
     QApplication::setPalette(QPalette());
   else if (name == QLatin1String("Dark"))

@@ -2,16 +2,53 @@
 
 #include "drafton/icons/command_icon.h"
 
+#include <QApplication>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
+
 // Beside the icons of commands stand those of actions that only windows have. Qt wants this outside
 // of namespaces.
 static void bringResources() { Q_INIT_RESOURCE(desktop); }
 
 namespace drafton {
+namespace {
+
+OdString g_styleName;
+
+/// The edges that styles draw are darker than the window, which is not seen where all is dark.
+class EdgedBoxes : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_IndicatorCheckBox || !isDark(option->palette)) return;
+    QColor edge = option->palette.color(QPalette::WindowText);
+    edge.setAlpha(option->state & State_Enabled ? 130 : 60);
+    painter->save();
+    painter->setPen(edge);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+  }
+};
+
+} // namespace
 
 bool isDark(const QPalette& palette) {
   return palette.color(QPalette::WindowText).lightness() >
          palette.color(QPalette::Window).lightness();
 }
+
+void setStyle(const OdString& name) {
+  if (name.compare(g_styleName, Qt::CaseInsensitive) == 0) return;
+  g_styleName = name;
+  QApplication::setStyle(new EdgedBoxes(name));
+}
+
+OdString styleName() { return g_styleName.isEmpty() ? QApplication::style()->name() : g_styleName; }
 
 QIcon themeIcon(const OdString& command, bool dark) {
   bringResources();

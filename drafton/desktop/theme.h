@@ -12,6 +12,12 @@ namespace drafton {
 /// True where texts are lighter than what they stand on, as the system's palette has it.
 bool isDark(const QPalette& palette);
 
+/// Has the program drawn in a style by its name ("Fusion"). In dark colours it gives check boxes an
+/// edge that is seen also where they are not ticked.
+void setStyle(const OdString& name);
+/// The name of the style in force.
+OdString styleName();
+
 /// The icon of a command, in the sizes that toolbars and menus have on screens of any density; null
 /// if it has none.
 QIcon themeIcon(const OdString& command, bool dark);

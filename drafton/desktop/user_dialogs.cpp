@@ -38,6 +38,22 @@ UserDialogs::Save UserDialogs::askSave(const OdString& documentName) {
   return box.clickedButton() == discard ? Save::kDiscard : Save::kCancel;
 }
 
+UserDialogs::Lost UserDialogs::askLost(const QStringList& names) {
+  QMessageBox box(QMessageBox::Question, kProgram,
+                  translated(u"Drafton did not end as it should. Copies of changed drawings "
+                             u"were kept: %1. Open them?")
+                      .arg(names.join(QStringLiteral(", "))),
+                  QMessageBox::NoButton, m_window);
+  const QPushButton* const open = box.addButton(translated(u"&Open"), QMessageBox::AcceptRole);
+  const QPushButton* const remove =
+      box.addButton(translated(u"&Delete the Copies"), QMessageBox::DestructiveRole);
+  QPushButton* const later = box.addButton(translated(u"Ask &Later"), QMessageBox::RejectRole);
+  box.setEscapeButton(later);
+  box.exec();
+  if (box.clickedButton() == open) return Lost::kOpen;
+  return box.clickedButton() == remove ? Lost::kDelete : Lost::kLater;
+}
+
 QStringList UserDialogs::chooseToOpen(const OdString& title, const OdString& folder,
                                       const OdString& kinds) {
   return QFileDialog::getOpenFileNames(m_window, title, folder, kinds);

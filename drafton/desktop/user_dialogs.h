@@ -14,6 +14,7 @@ namespace drafton {
 class UserDialogs {
  public:
   enum class Save { kSave, kDiscard, kCancel };
+  enum class Lost { kOpen, kDelete, kLater };
 
   virtual ~UserDialogs() = default;
   void setWindow(QWidget* window) { m_window = window; }
@@ -24,6 +25,8 @@ class UserDialogs {
   /// True for the affirmative button, which shows `yes`.
   virtual bool confirm(const OdString& text, const OdString& yes);
   virtual Save askSave(const OdString& documentName);
+  /// What becomes of the copies of drawings that a crash has left. Esc deletes nothing.
+  virtual Lost askLost(const QStringList& names);
   /// Paths are the platform's; empty if the user gave up. `kinds` is a filter of Qt.
   virtual QStringList chooseToOpen(const OdString& title, const OdString& folder,
                                    const OdString& kinds);

@@ -19,6 +19,7 @@ class ScriptedDialogs : public drafton::UserDialogs {
   OdString toSave, suggested;
   bool confirms = true;
   Save save = Save::kDiscard;
+  Lost lost = Lost::kLater;
   int asked = 0;
 
   void tell(const OdString& text) override { said << text; }
@@ -30,6 +31,10 @@ class ScriptedDialogs : public drafton::UserDialogs {
   Save askSave(const OdString&) override {
     ++asked;
     return save;
+  }
+  Lost askLost(const QStringList& names) override {
+    said << names;
+    return lost;
   }
   QStringList chooseToOpen(const OdString&, const OdString&, const OdString&) override {
     return toOpen;

@@ -9,6 +9,7 @@
 #include "drawing/entities/line.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
@@ -132,6 +133,13 @@ TEST_F(PanesTest, TheLayerManagerOffersLineTypesAndWeightsThatALayerCanHave) {
 TEST_F(PanesTest, TheLayersComeUpOverTheWindowWithTheKeys) {
   window().move(300, 40);
   auto* const dock = window().findChild<QDockWidget*>(QStringLiteral("layers"));
+  window().actions().find(u"layers")->trigger();
+  const QPoint off = dock->geometry().center() - window().geometry().center();
+  EXPECT_LT(off.manhattanLength(), 20) << "in the middle at first";
+  dock->move(310, 60);
+  window().actions().find(u"layers")->trigger();
+  EXPECT_EQ(dock->pos(), QPoint(310, 60)) << "then where the user wants it";
+  dock->hide();
   dock->move(-2000, -2000);
   window().actions().find(u"layers")->trigger();
   EXPECT_TRUE(window().geometry().contains(dock->geometry().center()));
@@ -205,6 +213,19 @@ TEST_F(ThemeTest, IsInForceAtOnceThereAndBack) {
   EXPECT_EQ(layerSwatch(), QColor(Qt::black));
 }
 
+TEST_F(ThemeTest, BoxesThatAreNotTickedAreSeenInTheDark) {
+  choose("Dark");
+  QCheckBox box;
+  box.resize(40, 24);
+  const QImage image = box.grab().toImage();
+  const int ground = image.pixelColor(image.width() - 2, 1).lightness();
+  int brightest = 0;
+  for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y)
+      brightest = std::max(brightest, image.pixelColor(x, y).lightness());
+  EXPECT_GT(brightest, ground + 60);
+}
+
 TEST_F(PanesTest, EveryControlHasAName) {
   QStringList nameless;
   for (QWidget* const widget : window().findChildren<QWidget*>()) {
@@ -270,6 +291,34 @@ TEST_F(AutosaveTest, CopiesOfChangedDrawingsComeBackAsChanged) {
   EXPECT_EQ(entities().size(), 2u);
   autosave.forget();
   EXPECT_TRUE(Autosave(desktop(), folder(), nullptr).findLost().empty());
+}
+
+TEST_F(AutosaveTest, CopiesStayUntilTheyAreOpenedOrDeleted) {
+  type("LINE 0,0 5,5  ");
+  leaveCopies();
+  const OdString name = document().name();
+  desktop().engine().documents().close(document());
+  {
+    Autosave autosave(desktop(), folder(), nullptr);
+    dialogs.lost = UserDialogs::Lost::kLater;
+    recover(autosave, dialogs);
+    EXPECT_EQ(dialogs.said, QStringList{name});
+    EXPECT_EQ(desktop().document(), nullptr);
+  }
+  Autosave again(desktop(), folder(), nullptr);
+  ASSERT_EQ(again.findLost().size(), 1u) << "Esc, or another time";
+  dialogs.lost = UserDialogs::Lost::kOpen;
+  recover(again, dialogs);
+  ASSERT_NE(desktop().document(), nullptr);
+  EXPECT_EQ(entities().size(), 1u);
+  EXPECT_EQ(again.findLost().size(), 0u) << "it is open, and copied as every changed drawing";
+  leaveCopies();
+  dialogs.lost = UserDialogs::Lost::kDelete;
+  recover(again, dialogs);
+  EXPECT_TRUE(again.findLost().empty());
+  dialogs.said.clear();
+  recover(again, dialogs);
+  EXPECT_TRUE(dialogs.said.isEmpty()) << "nothing is asked where nothing was lost";
 }
 
 TEST_F(AutosaveTest, WhatRunsOrEndedAsItShouldLeavesNothing) {

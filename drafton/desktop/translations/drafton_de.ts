@@ -3675,5 +3675,13 @@
         <source>Recent color %1</source>
         <translation>Zuletzt gewählte Farbe %1</translation>
     </message>
+    <message>
+        <source>&amp;Delete the Copies</source>
+        <translation>Kopien &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Ask &amp;Later</source>
+        <translation>&amp;Später fragen</translation>
+    </message>
 </context>
 </TS>
