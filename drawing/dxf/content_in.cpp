@@ -3,6 +3,8 @@
 #include "drawing/dxf/document_in.h"
 #include "drawing/dxf/makers.h"
 #include "drawing/dxf/residue.h"
+#include "drawing/entities/block_reference.h"
+#include "drawing/entities/polyline2d.h"
 #include "drawing/objects/raw_object.h"
 
 namespace {
@@ -85,9 +87,25 @@ void OdDbDxfReader::readBlock() {
   block->setBounds(block->blockBeginId(), end->objectId());
 }
 
+void OdDbDxfReader::endParent() {
+  OdDbEntity* const parent = std::exchange(m_parent, nullptr);
+  const auto* const insert = odrxCast<OdDbBlockReference>(parent);
+  const bool needsEnd =
+      insert ? !insert->attributes().empty() : odrxCast<OdDb2dPolyline>(parent) != nullptr;
+  if (!needsEnd) return;
+  const auto end = odrxMake<OdDbRawEntity>("SEQEND");
+  end->setPropertiesFrom(*parent);
+  m_database.addObject(end, parent->objectId());
+  parent->addFollower(*end);
+}
+
 void OdDbDxfReader::readEntities(OdDbObjectId block) {
-  m_parent = nullptr;
   m_parentLeftOut = false;
+  readEntitiesOf(block);
+  endParent();
+}
+
+void OdDbDxfReader::readEntitiesOf(OdDbObjectId block) {
   while (!m_in.isDamaged()) {
     const std::string_view name = m_in.tag().text;
     if (name == "ENDSEC" || name == "ENDBLK" || name == "EOF" || name == "SECTION") return;
@@ -142,6 +160,7 @@ void OdDbDxfReader::enterEntity(std::string_view name, OdDbEntityPtr entity, OdD
     if (name == "SEQEND") m_parent = nullptr;
     return;
   }
+  endParent();
   OdDbEntity* const entered = entity.get();
   m_in.enterEntity(std::move(entity), spaceFor(block));
   m_parent =

@@ -34,9 +34,12 @@ class OdDbDxfReader {
   void readBlock();
   OdDbObjectId blockNamed(const OdString& name);
   void readEntities(OdDbObjectId block);
+  void readEntitiesOf(OdDbObjectId block);
   void readEntity(OdDbObjectId block);
   bool takeEntities(OdDbObjectId block);
   void enterEntity(std::string_view name, OdDbEntityPtr entity, OdDbObjectId block);
+  /// Corners or attributes end here; a file may lack the mark that says so, which then is added.
+  void endParent();
   OdDbBlockTableRecord& spaceOf(OdDbObjectId id);
   OdDbBlockTableRecord& spaceFor(OdDbObjectId block);
   void readObjects();

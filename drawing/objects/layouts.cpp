@@ -103,9 +103,10 @@ void oddb::deleteLayout(OdDbDatabase& database, OdDbObjectId layoutId) {
     if (!each->isModelType() && each->objectId() != layoutId && other.isNull())
       other = each->objectId();
   if (layout->isModelType() || other.isNull())
-    throw OdError(
-        eNotApplicable,
-        QStringLiteral("The layout \"%1\" cannot be deleted").arg(layout->getLayoutName()));
+    throw OdError(eNotApplicable, QStringLiteral("The layout \"%1\" cannot be deleted: it is %2")
+                                      .arg(layout->getLayoutName(),
+                                           layout->isModelType() ? QStringLiteral("the model")
+                                                                 : QStringLiteral("the last one")));
   const OdDbObjectId blockId = layout->getBlockTableRecordId();
   if (blockId == database.getPaperSpaceId())
     bringToFront(database, other.openAs<OdDbLayout>()->getBlockTableRecordId());
