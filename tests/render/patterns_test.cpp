@@ -37,11 +37,11 @@ class PatternPictures : public PictureTest {
 };
 
 TEST_F(PatternPictures, FirstHalfOfThePatterns) {
-  EXPECT_TRUE(looksLike(contactSheet(0, 44), "patterns1"));
+  EXPECT_TRUE(looksLike(contactSheet(0, 44), "patterns1", {120, 120}));
 }
 
 TEST_F(PatternPictures, SecondHalfOfThePatterns) {
-  EXPECT_TRUE(looksLike(contactSheet(44, 100), "patterns2"));
+  EXPECT_TRUE(looksLike(contactSheet(44, 100), "patterns2", {120, 120}));
 }
 
 TEST_F(PatternPictures, EveryLineType) {
@@ -55,8 +55,9 @@ TEST_F(PatternPictures, EveryLineType) {
     addText(linetype.name, 2, y - 2, 4);
     y -= 10;
   }
-  EXPECT_TRUE(
-      looksLike(picture(0, y, 285, 10, {855, static_cast<int>(3 * (10 - y))}), "linetypes"));
+  // The names are in the left part, each line is a cell of its own.
+  EXPECT_TRUE(looksLike(picture(0, y - 5, 285, 5, {855, static_cast<int>(3 * (10 - y))}),
+                        "linetypes", {235, 30}));
 }
 
 TEST_F(PatternPictures, LineTypesFollowCurvesAndCorners) {
