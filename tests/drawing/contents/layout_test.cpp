@@ -61,8 +61,18 @@ TEST(Layouts, AreMadeShownRenamedAndDeleted) {
                OdDbError);
   oddb::deleteLayout(*db, second);
   EXPECT_EQ(namesOf(*db), QStringList({QStringLiteral("Model"), QStringLiteral("Layout1")}));
-  EXPECT_THROW(oddb::deleteLayout(*db, oddb::findLayout(*db, QStringLiteral("Layout1"))), OdError);
-  EXPECT_THROW(oddb::deleteLayout(*db, oddb::findLayout(*db, QStringLiteral("Model"))), OdError);
+  const auto whyNot = [&](const char* name) {
+    try {
+      oddb::deleteLayout(*db, oddb::findLayout(*db, QLatin1String(name)));
+    } catch (const OdError& error) {
+      return error.description();
+    }
+    return OdString();
+  };
+  EXPECT_EQ(whyNot("Layout1"),
+            QStringLiteral("The layout \"Layout1\" cannot be deleted: it is the last one"));
+  EXPECT_EQ(whyNot("Model"),
+            QStringLiteral("The layout \"Model\" cannot be deleted: it is the model"));
   EXPECT_EQ(auditOf(*db), "");
 }
 
