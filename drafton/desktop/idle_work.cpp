@@ -6,7 +6,8 @@ namespace drafton {
 
 /// How long one turn may take, in nanoseconds.
 static constexpr qint64 kTurn = 5'000'000;
-/// How long new work waits, in milliseconds. It often comes with a window, which is painted first.
+/// How long new work waits once events are handled, in milliseconds. It often comes with a window,
+/// which is painted first.
 static constexpr int kFirstRest = 50;
 
 IdleWork::IdleWork() {
@@ -16,7 +17,9 @@ IdleWork::IdleWork() {
 void IdleWork::add(IHostIdleWork* work) {
   if (!work || std::find(m_works.begin(), m_works.end(), work) != m_works.end()) return;
   m_works.push_back(work);
-  if (!m_timer.isActive()) m_timer.start(kFirstRest);
+  if (m_timer.isActive()) return;
+  m_isRested = false;
+  m_timer.start(0);
 }
 
 void IdleWork::remove(IHostIdleWork* work) {
@@ -27,6 +30,11 @@ void IdleWork::remove(IHostIdleWork* work) {
 void IdleWork::doSome() {
   // A piece that waits in an event loop of its own is not done twice at a time.
   if (m_isWorking) return;
+  if (!m_isRested) {
+    m_isRested = true;
+    m_timer.setInterval(kFirstRest);
+    return;
+  }
   const KVPtr<IHostIdle> held(this);
   m_isWorking = true;
   // A timer without an interval fires when all other events have had their turn.

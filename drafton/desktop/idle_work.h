@@ -25,6 +25,7 @@ class IdleWork : public CKVUnknownImpl<IHostIdle> {
 
   std::deque<IHostIdleWork*> m_works; // the next first
   QTimer m_timer;
+  bool m_isRested = false;
   bool m_isWorking = false;
 };
 
