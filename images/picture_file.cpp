@@ -1,5 +1,6 @@
 #include "images/picture_file.h"
 
+#include "drawing/pictures/picture_reader.h"
 #include "frame/error.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
@@ -7,7 +8,7 @@
 #include "persistence/path_operations.h"
 
 #include <QBuffer>
-#include <QImageReader>
+#include <QFile>
 
 #include <array>
 #include <limits>
@@ -45,15 +46,6 @@ constexpr int kReduced = 256;
 constexpr int kUnlimited = std::numeric_limits<int>::max();
 constexpr int kBitsOfPixel = 32;
 
-/// True if a decoded picture takes no more memory than Qt allows. Qt itself would refuse it as
-/// well, but prints a warning.
-bool isAllowed(const QSize& size, QImage::Format format) {
-  const int bits = format == QImage::Format_Invalid ? kBitsOfPixel
-                                                    : QImage::toPixelFormat(format).bitsPerPixel();
-  const qint64 limit = qint64{QImageReader::allocationLimit()} << 20;
-  return limit == 0 || qint64{size.width()} * size.height() <= limit * 8 / bits;
-}
-
 /// True for sizes that cameras have. A photograph that comes into sight step by step takes memory
 /// for all of its pixels, however small it is shown.
 bool isPhotograph(const QSize& size) {
@@ -61,27 +53,19 @@ bool isPhotograph(const QSize& size) {
   return qint64{size.width()} * size.height() <= kMostPixels;
 }
 
-/// The size of a picture that takes too much memory to be decoded at that size; not valid for one
-/// that can be.
-QSize sizeOfTooLarge(QImageReader& reader) {
-  const QSize size = reader.size();
-  return size.isValid() && !isAllowed(size, reader.imageFormat()) ? size : QSize();
-}
-
 /// Photographs can be decoded at a part of their size. Other formats would be decoded whole first.
-bool canBeReduced(QImageReader& reader) {
-  return reader.format() == "jpeg" && isPhotograph(reader.size());
+bool canBeReduced(const OdPictureReader& reader) {
+  return reader.format() == "jpeg" && isPhotograph(reader.toldSize());
 }
 
 QImage decoded(QIODevice* device, int atMost) {
-  QImageReader reader(device);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  const QSize size = reader.size();
+  OdPictureReader reader(device);
+  if (reader.isCut()) return {};
+  const QSize size = reader.toldSize();
   const QSize reduced = size.boundedTo({atMost, atMost});
   if (reduced != size && canBeReduced(reader))
     reader.setScaledSize(reduced);
-  else if (sizeOfTooLarge(reader).isValid())
+  else if (reader.isTooLarge())
     return {};
   QImage picture = reader.read();
   if (picture.isNull()) return {};
@@ -137,12 +121,20 @@ OdString whyNoPicture(const OdString& path) {
   OdRxSystemServices* const system = odrxSystemServices();
   if (system->folderExists(path)) return translated(u"%1 is a folder").arg(path);
   if (!system->fileExists(path)) return translated(u"there is no file %1").arg(path);
-  QImageReader reader(odpath::toPlatform(path));
-  reader.setDecideFormatFromContent(true);
-  if (const QSize size = sizeOfTooLarge(reader); size.isValid() && !canBeReduced(reader))
+  QFile file(odpath::toPlatform(path));
+  if (!file.open(QIODevice::ReadOnly))
+    return QStringLiteral("%1: %2").arg(path, file.errorString());
+  const OdPictureReader reader(&file);
+  if (const QSize size = reader.toldSize(); reader.isTooLarge() && !canBeReduced(reader))
     return translated(u"%1 is too large to be shown: %2 by %3 pixels")
         .arg(path, OdString::number(size.width()), OdString::number(size.height()));
-  return translated(u"%1 is no picture that can be shown").arg(path);
+  if (const QByteArray kind = reader.missingDecoder(); !kind.isEmpty())
+    return translated(u"%1 cannot be shown: the image format plugin of Qt for pictures of the kind "
+                      u"\"%2\" is not installed")
+        .arg(path, OdString::fromLatin1(kind));
+  return translated(reader.isCut() ? u"%1 is no picture that can be shown: its end is missing"
+                                   : u"%1 is no picture that can be shown")
+      .arg(path);
 }
 
 bool savePicture(const QImage& picture, const OdString& path, const OdString& extension,

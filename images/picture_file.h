@@ -21,9 +21,9 @@ inline constexpr std::int32_t kPngFormat = 6;
 /// The extension of a format's code; that of PNG for any other code.
 OdString formatExtension(std::int32_t format);
 
-/// The picture of a file, the first one of several, turned as its camera says; a null image if it
-/// cannot be read or is too large to be decoded. What the file is, its contents tell, not its name.
-/// The path is a stored path.
+/// The picture of a file, the first one of several, with its pixels as they lie in the file and as
+/// a drawing shows it; a null image if it cannot be read, is cut off or is too large to be decoded.
+/// What the file is, its contents tell, not its name. The path is a stored path.
 QImage loadPicture(const OdString& path);
 /// The same with no side longer than a few times that of the largest size kind; a smaller one as it
 /// is. The proportions go where it is reduced. A photograph is not even decoded at its full size.

@@ -4,6 +4,7 @@
 #include "drafton/batch/batch_message_boxes.h"
 #include "drafton/batch/script_source.h"
 #include "drafton/program/program_setup.h"
+#include "drafton/render/image_cache.h"
 #include "frame/file_path.h"
 
 #include <QFile>
@@ -117,6 +118,11 @@ bool BatchRun::drawPicture(Engine& engine) {
   } catch (const OdError& error) {
     return fail(error.description());
   }
+  // The drawing is there all the same.
+  for (const OdString& file : ImageCache::instance().takeUnshown())
+    failWith(
+        kExitOk,
+        translated(u"%1 is no picture that can be shown; its name stands in its place").arg(file));
   return true;
 }
 

@@ -5,6 +5,7 @@
 #include "drafton/desktop/language.h"
 #include "drafton/desktop/main_window.h"
 #include "drafton/desktop/options_dialog.h"
+#include "drafton/previews/quiet_decoders.h"
 #include "drafton/program/program_setup.h"
 #include "drafton/render/text_shapes.h"
 #include "frame/file_path.h"
@@ -51,6 +52,7 @@ int runDesktop(int& argc, char** argv) {
   const QtMessageHandler usual = qInstallMessageHandler(handleStartMessage);
   QApplication application(argc, argv);
   qInstallMessageHandler(usual);
+  quietDecoders();
   TextShapes::install();
   QApplication::setApplicationName(QStringLiteral("Drafton"));
   QApplication::setApplicationVersion(QStringLiteral(DRAFTON_VERSION));

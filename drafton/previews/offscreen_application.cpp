@@ -1,5 +1,6 @@
 #include "drafton/previews/offscreen_application.h"
 
+#include "drafton/previews/quiet_decoders.h"
 #include "drafton/render/text_shapes.h"
 
 namespace drafton {
@@ -22,6 +23,7 @@ OffscreenApplication::Environment::Environment() {
 
 OffscreenApplication::OffscreenApplication(int& argc, char** argv)
   : m_application(argc, argv) {
+  quietDecoders();
   prepareThread();
 }
 

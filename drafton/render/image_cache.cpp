@@ -1,9 +1,10 @@
 #include "drafton/render/image_cache.h"
 
+#include "drawing/pictures/picture_reader.h"
 #include "frame/file_path.h"
 
+#include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 #include <array>
@@ -41,6 +42,21 @@ QImage toned(const QImage& image, const ImageTones& tones, QRgb ground) {
   return result.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
+/// Null for a picture that cannot be decoded, is cut off or would take too much memory.
+QImage decoded(const QString& file) {
+  QFile device(file);
+  if (!device.open(QIODevice::ReadOnly)) return {};
+  OdPictureReader reader(&device);
+  return reader.isCut() || reader.isTooLarge() ? QImage() : reader.read();
+}
+
+/// How often a width may be halved without becoming smaller than another.
+int halvingsOf(int width, double wanted) {
+  int halvings = 0;
+  for (double half = width / 2.0; half >= wanted && half >= 1; half /= 2) ++halvings;
+  return halvings;
+}
+
 } // namespace
 
 ImageCache& ImageCache::instance() {
@@ -57,32 +73,31 @@ QImage ImageCache::find(const OdString& path, double width, const ImageTones& to
   const OdString platform = odpath::toPlatform(path);
   const QFileInfo info(platform);
   if (!info.isFile()) return {};
-  QImageReader reader(platform);
-  reader.setAutoTransform(true);
-  const QSize size = reader.size();
-  int halvings = 0;
-  for (double half = size.width() / 2.0; half >= width && half >= 1; half /= 2) ++halvings;
   const QDateTime modified = info.lastModified();
   for (auto it = m_entries.begin(); it != m_entries.end(); ++it) {
-    if (it->path != path || it->modified != modified || it->halvings != halvings ||
-        it->tones != tones || (tones.fade != 0 && it->ground != ground))
-      continue;
+    if (it->path != path || it->modified != modified) continue;
+    const bool isSame = it->halvings == halvingsOf(it->width, width) && it->tones == tones &&
+                        (tones.fade == 0 || it->ground == ground);
+    // What cannot be shown is kept as well: it is not tried again at each frame.
+    if (!isSame && !it->image.isNull()) continue;
     m_entries.splice(m_entries.begin(), m_entries, it);
     return it->image;
   }
-  QImage image = reader.read();
-  if (image.isNull()) return {};
+  QImage image = decoded(platform);
+  if (image.isNull() && !m_unshown.contains(path)) m_unshown << path;
+  const int whole = image.width(), halvings = halvingsOf(whole, width);
   if (halvings > 0)
     image = image.scaled(std::max(1, image.width() >> halvings),
                          std::max(1, image.height() >> halvings), Qt::IgnoreAspectRatio,
                          Qt::SmoothTransformation);
-  image = toned(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), tones, ground);
-  return keep({path, modified, halvings, tones, ground, image});
+  if (!image.isNull())
+    image = toned(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), tones, ground);
+  return keep({path, modified, whole, halvings, tones, ground, image});
 }
 
 QImage ImageCache::keep(Entry entry) {
   const QImage image = entry.image;
-  m_size += image.sizeInBytes();
+  m_size += bytesOf(entry);
   m_entries.push_front(std::move(entry));
   shrink();
   return image;
@@ -90,7 +105,7 @@ QImage ImageCache::keep(Entry entry) {
 
 void ImageCache::shrink() {
   while (m_size > m_limit && !m_entries.empty()) {
-    m_size -= m_entries.back().image.sizeInBytes();
+    m_size -= bytesOf(m_entries.back());
     m_entries.pop_back();
   }
 }

@@ -5,8 +5,10 @@
 
 #include <QDateTime>
 #include <QImage>
+#include <QStringList>
 
 #include <list>
+#include <utility>
 
 namespace drafton {
 
@@ -17,7 +19,7 @@ struct ImageTones {
 };
 
 /// The pictures that were shown last, also in smaller sizes, up to a bound of memory. A file that
-/// was changed is read again.
+/// was changed is read again, one that could not be read is not.
 class ImageCache {
  public:
   /// The program's own.
@@ -28,6 +30,10 @@ class ImageCache {
   /// to.
   QImage find(const OdString& path, double width, const ImageTones& tones, QRgb ground);
 
+  /// The stored paths of files that were asked for and turned out to be none that can be shown,
+  /// each once, since the last call.
+  QStringList takeUnshown() { return std::exchange(m_unshown, {}); }
+
   void setLimit(qsizetype bytes);
   qsizetype size() const { return m_size; }
 
@@ -35,15 +41,21 @@ class ImageCache {
   struct Entry {
     OdString path;
     QDateTime modified;
+    int width = 0; ///< of the whole picture, in pixels
     int halvings = 0;
     ImageTones tones;
     QRgb ground = 0;
-    QImage image;
+    QImage image; ///< null for a file that cannot be shown
   };
+  /// What an entry counts for; one without a picture takes some room as well.
+  static qsizetype bytesOf(const Entry& entry) {
+    return entry.image.isNull() ? qsizetype{sizeof(Entry)} : entry.image.sizeInBytes();
+  }
   QImage keep(Entry entry);
   void shrink();
 
   std::list<Entry> m_entries; // the last used one in front
+  QStringList m_unshown;
   qsizetype m_size = 0, m_limit = qsizetype{256} << 20;
 };
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 
 namespace render_test {
@@ -177,6 +178,48 @@ TEST(ImageCache, KeepsWithinItsBoundAndSeesChangedFiles) {
   touched.setFileTime(QDateTime::currentDateTime().addSecs(10), QFileDevice::FileModificationTime);
   touched.close();
   EXPECT_EQ(cache.find(odpath::fromPlatform(file(0)), 100, {}, 0).pixel(5, 5), qRgb(0, 0, 0));
+}
+
+TEST(ImageCache, ShowsPixelsAsTheyLieInTheFile) {
+  // A camera has marked the picture as turned; drawings count the file's own pixels.
+  ImageCache cache;
+  const QImage picture = cache.find(
+      odpath::fromPlatform(QStringLiteral(TEST_DATA_DIR "/pictures/turned.jpg")), 16, {}, 0);
+  ASSERT_EQ(picture.size(), QSize(16, 8));
+  EXPECT_GT(qRed(picture.pixel(2, 4)), 150);
+  EXPECT_GT(qBlue(picture.pixel(13, 4)), 150);
+}
+
+TEST(ImageCache, TriesAFileThatCannotBeShownOnlyOnce) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("a.png"));
+  QImage picture(100, 100, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(file));
+  const QDateTime start = QDateTime::currentDateTime().addSecs(-100);
+  const auto change = [&](const std::function<void(QFile&)>& write, int seconds) {
+    QFile changed(file);
+    ASSERT_TRUE(changed.open(QIODevice::ReadWrite));
+    write(changed);
+    changed.flush();
+    changed.setFileTime(start.addSecs(seconds), QFileDevice::FileModificationTime);
+  };
+  QFile whole(file);
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+  const QByteArray bytes = whole.readAll();
+  ImageCache cache;
+  const auto isShown = [&] { return !cache.find(odpath::fromPlatform(file), 100, {}, 0).isNull(); };
+  change([&](QFile& changed) { changed.resize(bytes.size() / 2); }, 0);
+  EXPECT_FALSE(isShown());
+  const qsizetype size = cache.size();
+  EXPECT_GT(size, 0);
+  change([&](QFile& changed) { changed.write(bytes); }, 0);
+  EXPECT_EQ(cache.takeUnshown(), QStringList(odpath::fromPlatform(file)));
+  EXPECT_FALSE(isShown()) << "by its time it is the same file";
+  EXPECT_EQ(cache.takeUnshown(), QStringList()) << "told once";
+  EXPECT_EQ(cache.size(), size);
+  change([](QFile&) {}, 1);
+  EXPECT_TRUE(isShown());
 }
 
 } // namespace

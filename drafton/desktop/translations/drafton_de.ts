@@ -1428,6 +1428,18 @@
         <translation>%1 kann nicht als Bild gelesen werden: %2</translation>
     </message>
     <message>
+        <source>%1 is no picture that can be shown; its name stands in its place</source>
+        <translation>%1 ist kein Bild, das gezeigt werden kann; dort steht sein Name</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>das Ende fehlt</translation>
+    </message>
+    <message>
+        <source>Qt's image format plugin for pictures of the kind "%1" is not installed</source>
+        <translation>Qts Plugin für Bilder der Art „%1“ ist nicht installiert</translation>
+    </message>
+    <message>
         <source>A picture cannot be inserted at the scale %1.</source>
         <translation>Ein Bild kann nicht im Maßstab %1 eingefügt werden.</translation>
     </message>
@@ -1448,8 +1460,8 @@
         <translation>"%1" ist bereits angehängt.</translation>
     </message>
     <message>
-        <source>%1 was not attached.</source>
-        <translation>%1 wurde nicht angehängt.</translation>
+        <source>%1 was not attached: %2</source>
+        <translation>%1 wurde nicht angehängt: %2</translation>
     </message>
     <message>
         <source>A reference cannot be attached at the scale %1.</source>

@@ -10,9 +10,10 @@
 #include "drafton/engine/translator.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/objects/dictionary.h"
+#include "drawing/pictures/picture_reader.h"
 #include "frame/file_path.h"
 
-#include <QImageReader>
+#include <QFile>
 
 namespace drafton {
 namespace {
@@ -23,19 +24,29 @@ struct Picture {
   QSize size;
 };
 
+OdString unreadable(const OdString& path, const OdString& reason) {
+  return translated(u"%1 cannot be read as a picture: %2").arg(odpath::toPlatform(path), reason);
+}
+
 Picture pictureAt(const CommandContext& context, const OdString& typed) {
   const OdString path =
       findSupportFile(context.engine(), &context.document(), typed, QStringLiteral("png"));
   if (path.isEmpty())
     throw CommandFailure(
         whyNoSupportFile(context.engine(), &context.document(), typed, QStringLiteral("png")));
-  QImageReader reader(odpath::toPlatform(path));
-  QSize size = reader.size();
+  QFile file(odpath::toPlatform(path));
+  if (!file.open(QIODevice::ReadOnly)) throw CommandFailure(unreadable(path, file.errorString()));
+  OdPictureReader reader(&file);
+  if (const QByteArray kind = reader.missingDecoder(); !kind.isEmpty())
+    throw CommandFailure(unreadable(
+        path,
+        translated(u"Qt's image format plugin for pictures of the kind \"%1\" is not installed")
+            .arg(OdString::fromLatin1(kind))));
+  if (reader.isCut()) throw CommandFailure(unreadable(path, translated(u"its end is missing")));
+  QSize size = reader.toldSize();
   // Some formats tell their size only while they are decoded.
   if (size.isEmpty()) size = reader.read().size();
-  if (size.isEmpty())
-    throw CommandFailure(translated(u"%1 cannot be read as a picture: %2")
-                             .arg(odpath::toPlatform(path), reader.errorString()));
+  if (size.isEmpty()) throw CommandFailure(unreadable(path, reader.errorString()));
   return {path, size};
 }
 
