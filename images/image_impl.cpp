@@ -106,10 +106,9 @@ QImage OdTcImageImpl::getBitmap() {
     if (!m_isMade) PictureCache::instance().use(*m_decoded);
     return picture;
   }
-  QImage picture;
-  if (isResource())
-    picture = resourcePicture();
-  else if (const OdString path = fullPath(); !path.isEmpty())
+  QImage picture = isResource() ? resourcePicture() : QImage();
+  // A button that the program does not have may have come from a file.
+  if (const OdString path = picture.isNull() ? fullPath() : OdString(); !path.isEmpty())
     picture = loadPicture(path);
   if (!picture.isNull()) keepDecoded(picture);
   return picture;
@@ -153,13 +152,12 @@ void OdTcImageImpl::noteLabel(QStringView label) { decoded().label = label; }
 
 OdString OdTcImageImpl::uniqueName(const OdString& label) const {
   const OdString name = uniquePictureName(label);
-  return freeName(name, label);
+  return isTaken(name) ? uniquePictureName(label) : name;
 }
 
-OdString OdTcImageImpl::freeName(const OdString& name, const OdString& label) const {
+bool OdTcImageImpl::isTaken(const OdString& name) const {
   const OdString path = imageFilePath(database(), name);
-  return !path.isEmpty() && odrxSystemServices()->fileExists(path) ? uniquePictureName(label)
-                                                                   : name;
+  return !path.isEmpty() && odrxSystemServices()->fileExists(path);
 }
 
 bool OdTcImageImpl::saveTo(const OdString& path, std::int32_t format) {

@@ -69,8 +69,8 @@ class OdTcImageImpl final : public OdTcPersistImpl<OdTcImage> {
   void noteLabel(QStringView label);
   /// A name with a fresh id. Should its file exist all the same, another is taken untested.
   OdString uniqueName(const OdString& label) const;
-  /// `src`, or a fresh name if the palette's folder has a file of that one.
-  OdString freeName(const OdString& src, const OdString& label) const;
+  /// True if the palette's folder has a file of that name.
+  bool isTaken(const OdString& src) const;
 
   CompactText m_src;
   CompactText m_resource;

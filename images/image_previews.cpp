@@ -60,9 +60,9 @@ OdString titleOf(const OdDbObject& object) {
 
 bool OdTcImageImpl::takePreview(const QImage& picture, const OdString& name, QStringView label) {
   if (picture.isNull()) return false;
-  const OdString title = pictureTitle(name), fresh = label.toString();
-  setBitmap(picture, title.isEmpty() ? uniqueName(fresh)
-                                     : freeName(titledPictureName(title, m_sizeKind), fresh));
+  const OdString title = pictureTitle(name);
+  const OdString titled = title.isEmpty() ? OdString() : titledPictureName(title, m_sizeKind);
+  setBitmap(picture, title.isEmpty() || isTaken(titled) ? uniqueName(label.toString()) : titled);
   noteLabel(label);
   return true;
 }

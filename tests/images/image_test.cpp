@@ -95,6 +95,27 @@ TEST_F(ImageTest, ForeignResourceNameGivesItsLastPartInLowerCase) {
   EXPECT_TRUE(image->getBitmap().isNull());
 }
 
+TEST_F(ImageTest, ButtonThatTheProgramLacksIsShownFromItsFile) {
+  makePicture(QStringLiteral("line.png"), 8, qRgb(1, 2, 3));
+  const auto image = newImage(3);
+  image->setResource(text(u"acadbtn.xmx"), text(u"RCDATA_16_NONE"));
+  ASSERT_TRUE(image->loadFromFile(stored(QStringLiteral("line.png"))));
+  image->releaseBitmap();
+  EXPECT_EQ(image->getBitmap().size(), QSize(8, 8));
+  image->releaseBitmap();
+  host().icons.images[text(u"none")] = QImage(16, 16, QImage::Format_ARGB32);
+  EXPECT_EQ(image->getBitmap().size(), QSize(32, 32)) << "the icon comes first";
+}
+
+TEST_F(ImageTest, WithoutAPaletteHasNoFile) {
+  const auto image = odrxMake<OdTcImageImpl>();
+  image->setSizeKind(3);
+  image->setResource(text(u"\\Images\\a.png"), OdString());
+  EXPECT_EQ(image->fullPath(), OdString());
+  EXPECT_EQ(imageFilePath(nullptr, image->src()), OdString());
+  EXPECT_TRUE(image->getBitmap().isNull());
+}
+
 TEST_F(ImageTest, ButtonOfAFileThatAsksForAGiantIsShownAsItIs) {
   host().icons.images[text(u"line")] = QImage(64, 64, QImage::Format_ARGB32);
   const auto image =
@@ -197,14 +218,14 @@ TEST_P(ImageFormatTest, PicksTheFormatByItsCode) {
   EXPECT_EQ(image->fullPath(), stored(QLatin1String(GetParam().result)));
 }
 
-INSTANTIATE_TEST_SUITE_P(Codes, ImageFormatTest,
-                         testing::Values(FormatRow{1, "x", "x.bmp"}, FormatRow{6, "x", "x.png"},
-                                         FormatRow{5, "x", "x.jpeg"}, FormatRow{77, "x", "x.png"},
-                                         FormatRow{0, "x", "x.png"}, FormatRow{3, "x", "x.ico"},
-                                         FormatRow{6, "x.bmp", "x.bmp"},
-                                         FormatRow{-1, "x.jpg", "x.jpg"},
-                                         FormatRow{-1, "x.bmp", "x.bmp"},
-                                         FormatRow{-1, "x", "x.png"}));
+INSTANTIATE_TEST_SUITE_P(
+    Codes, ImageFormatTest,
+    testing::Values(FormatRow{1, "x", "x.bmp"}, FormatRow{6, "x", "x.png"},
+                    FormatRow{5, "x", "x.jpeg"}, FormatRow{77, "x", "x.png"},
+                    FormatRow{0, "x", "x.png"}, FormatRow{3, "x", "x.ico"},
+                    FormatRow{8, "x", "x.tiff"}, FormatRow{-1, "x.tif", "x.tif"},
+                    FormatRow{6, "x.bmp", "x.bmp"}, FormatRow{-1, "x.jpg", "x.jpg"},
+                    FormatRow{-1, "x.bmp", "x.bmp"}, FormatRow{-1, "x", "x.png"}));
 
 TEST_F(ImageTest, NamesAFormatThatCannotBeWrittenAndWritesNothing) {
   EXPECT_EQ(formatExtension(2), text(u"wmf"));
@@ -214,7 +235,8 @@ TEST_F(ImageTest, NamesAFormatThatCannotBeWrittenAndWritesNothing) {
   makePicture(QStringLiteral("a.png"), 10, qRgb(255, 0, 0));
   const auto image = newImage(3);
   ASSERT_TRUE(image->loadFromFile(stored(QStringLiteral("a.png"))));
-  for (const std::int32_t code : {2, 4}) {
+  // Metafiles are drawings, and of GIF there is only a reader.
+  for (const std::int32_t code : {2, 4, 7}) {
     EXPECT_FALSE(image->saveTo(stored(QStringLiteral("x")), code));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.png")));
   }

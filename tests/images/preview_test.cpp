@@ -4,8 +4,11 @@
 #include "images/image_fixture.h"
 #include "properties/gradient_names.h"
 #include "render/golden_picture.h"
+#include "support/failing_services.h"
 
 #include <QPainter>
+
+#include <functional>
 
 namespace {
 
@@ -148,6 +151,57 @@ TEST_F(PreviewTest, OfADrawingFileIsTheOneItKeepsOrElseTheIconOfItsKind) {
                                                 text(u"icon C:\\plans\\Barn.dxf 32")}));
 }
 
+TEST_F(PreviewTest, OfADrawingFileTakesAFreshNameWhereTheFileOfItsOwnExists) {
+  makePicture(QStringLiteral("Images/House32.png"), 32, qRgb(0, 0, 0));
+  const auto image = newImage(3);
+  ASSERT_TRUE(image->makeFromDrawing(text(u"C:\\plans\\House.dxf")));
+  EXPECT_TRUE(image->src().startsWith(text(u"\\Images\\Block tool instrument_{")))
+      << image->src().toStdString();
+}
+
+TEST_F(PreviewTest, FreshNameThatIsTakenIsReplacedOnceAndNotTestedAgain) {
+  const auto name = [](const char16_t* label, const char16_t* id) {
+    return text(u"\\Images\\") + text(label) + u'_' + text(id) + text(u".png");
+  };
+  const auto take = [&](const OdString& src) {
+    makePicture(odpath::toPlatform(src).mid(1), 8, qRgb(0, 0, 0));
+  };
+  for (const char16_t* const label :
+       {u"Block tool instrument", u"Hatch tool instrument", u"Raster tool instrument"})
+    for (const char16_t* const id : {u"{1}", u"{2}"}) take(name(label, id));
+  makePicture(QStringLiteral("Images/door32.png"), 8, qRgb(0, 0, 0));
+  makePicture(QStringLiteral("Images/Door32.png"), 8, qRgb(0, 0, 0));
+  makePicture(QStringLiteral("door.png"), 8, qRgb(255, 0, 0));
+  const OdDbObjectId block = addBlock(u"Door");
+  const auto made = [&](const QStringList& ids, const std::function<bool(OdTcImageImpl&)>& make) {
+    testhost::FailingServices services;
+    services.ids = ids;
+    const auto image = newImage(3);
+    EXPECT_TRUE(make(*image));
+    return image->src();
+  };
+  const OdCmColor red = OdCmColor::fromRgb(255, 0, 0);
+  struct Row {
+    const char16_t* label;
+    std::function<bool(OdTcImageImpl&)> make;
+  };
+  const Row rows[] = {
+      {u"Hatch tool instrument",
+       [&](OdTcImageImpl& image) { return image.makeFromGradient(text(u"LINEAR"), red, red); }},
+      // A title that is taken leads to the same names.
+      {u"Block tool instrument", [&](OdTcImageImpl& image) { return image.makeFromBlock(block); }},
+      {u"Raster tool instrument",
+       [&](OdTcImageImpl& image) {
+         return image.setSrcFromFile(stored(QStringLiteral("door.png")));
+       }},
+  };
+  const QStringList free{text(u"{1}"), text(u"{9}")}, taken{text(u"{1}"), text(u"{2}")};
+  for (const Row& row : rows) {
+    EXPECT_EQ(made(free, row.make), name(row.label, u"{9}"));
+    EXPECT_EQ(made(taken, row.make), name(row.label, u"{2}")) << "as it stands";
+  }
+}
+
 TEST_F(PreviewTest, TwoToolsOfOnePictureFileInOnePaletteHaveDifferentNames) {
   makePicture(QStringLiteral("door.png"), 10, qRgb(255, 0, 0));
   const auto first = newImage(3), second = newImage(3);
@@ -197,6 +251,55 @@ TEST_F(PreviewTest, OfGradientsLookAsTheGoldenOnes) {
     }
   painter.end();
   EXPECT_TRUE(render_test::looksLike(sheet, "preview_gradients"));
+}
+
+/// Writes a picture with a sun over a meadow, so that directions show.
+void writeScene(const QString& file, QSize size, int alpha) {
+  QImage picture(size, QImage::Format_ARGB32);
+  picture.fill(QColor(90, 160, 230, alpha));
+  QPainter painter(&picture);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double width = size.width(), height = size.height();
+  painter.fillRect(QRectF(0, 0.7 * height, width, 0.3 * height), QColor(60, 140, 40, alpha));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(250, 200, 30, alpha));
+  painter.drawEllipse(QPointF(0.2 * width, 0.3 * height), 0.15 * height, 0.15 * height);
+  painter.end();
+  ASSERT_TRUE(picture.save(file));
+}
+
+TEST_F(PreviewTest, OfPictureFilesLookAsTheGoldenOnes) {
+  // Rows of files in three sizes, on a light and on a dark ground.
+  writeScene(folder.filePath(QStringLiteral("wide.png")), {40, 20}, 255);
+  writeScene(folder.filePath(QStringLiteral("half.png")), {80, 80}, 128);
+  writeScene(folder.filePath(QStringLiteral("photo.png")), {1200, 900}, 255);
+  makePicture(QStringLiteral("one.png"), 1, qRgb(200, 60, 20));
+  QStringList files;
+  for (const char* const own : {"wide.png", "half.png", "photo.png", "one.png"})
+    files << stored(QLatin1String(own));
+  for (const char* const given : {"grey16.png", "cmyk.jpg", "turned.jpg", "animated.gif"})
+    files << odpath::fromPlatform(QStringLiteral(TEST_DATA_DIR "/pictures/") +
+                                  QLatin1String(given));
+  constexpr int kGap = 4, kHeight = 64 + kGap, kHalf = 16 + 32 + 64 + 4 * kGap;
+  QImage sheet(2 * kHalf, static_cast<int>(files.size()) * kHeight, QImage::Format_RGB32);
+  QPainter painter(&sheet);
+  painter.fillRect(0, 0, kHalf, sheet.height(), Qt::white);
+  painter.fillRect(kHalf, 0, kHalf, sheet.height(), qRgb(30, 30, 30));
+  for (int row = 0; row < files.size(); ++row) {
+    const QImage picture = loadReducedPicture(files[row]);
+    ASSERT_FALSE(picture.isNull()) << files[row].toStdString();
+    int x = kGap;
+    for (const int kind : {1, 3, 4}) {
+      const auto image = newImage(kind);
+      ASSERT_TRUE(image->setSrcFromPicture(picture, files[row]));
+      for (const int left : {0, kHalf})
+        painter.drawImage(left + x, row * kHeight + kGap / 2, image->getBitmap());
+      x += pixelsOfKind(kind) + kGap;
+    }
+  }
+  painter.end();
+  EXPECT_TRUE(render_test::looksLike(sheet, "preview_rasters"));
 }
 
 TEST_F(PreviewTest, OfALinearGradientGoesFromTheFirstColourToTheSecond) {
