@@ -64,7 +64,7 @@ OdDbDatabase* OdTcToolMaker::open(const OdString& file) {
   OdDbDatabase* const drawing = m_sources.drawing(file);
   if (!drawing) {
     showMessage(kUnreadable, true);
-    fail(m_sources.problemOf(file));
+    fail(m_sources.problem());
   }
   return drawing;
 }

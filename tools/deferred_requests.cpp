@@ -35,13 +35,17 @@ OdDbObjectId definitionIn(const OdDbDatabase& drawing, const OdString& block) {
   return table->getAt(block);
 }
 
-/// External references of a drawing bring their contents along.
-void loadReferences(OdDbDatabase& drawing) {
+/// External references of a drawing bring their contents along. Those that cannot are told.
+void loadReferences(OdDbDatabase& drawing, const OdString& path) {
   const OdDbBlockTablePtr table = drawing.getBlockTableId().openObject();
   for (auto at = table->newIterator(); !at->done(); at->step()) {
     const OdDbBlockTableRecordPtr block = at->getRecord();
-    if (block->isFromExternalReference() || block->isFromOverlayReference())
-      OdDbXRefMan::load(block->objectId());
+    if (!block->isFromExternalReference() && !block->isFromOverlayReference()) continue;
+    for (const OdDbXRefMan::Report& report : OdDbXRefMan::load(block->objectId()))
+      if (report.result != OdDbXRefMan::Result::kLoaded)
+        host::print(formatText(
+            host::translate(QStringLiteral("\nThe reference \"%s\" of \"%s\" stays empty: %s\n")),
+            report.blockName, path, report.message));
   }
 }
 
@@ -90,7 +94,7 @@ OdDbObjectId wantedBlock(const OdDbDatabase& source, const OdTcBlockRequest& req
 OdDbDatabasePtr contentsOf(OdDbDatabase& source, const OdTcBlockRequest& request,
                            OdDbObjectId block) {
   if (request.wholeDrawing) {
-    loadReferences(source);
+    loadReferences(source, request.sourceFile);
     return OdDbDatabasePtr(&source);
   }
   const OdDbDatabasePtr contents = source.wblock(block);
@@ -111,7 +115,13 @@ void tellDamage(const OdDbDatabase& source, const OdString& path) {
 bool ensureDefinition(IHostDocument& document, OdDbDatabase& drawing,
                       const OdTcBlockRequest& request) {
   // The definition in the drawing wins: the source file is not even read.
-  if (!definitionIn(drawing, request.name).isNull()) return true;
+  if (const OdDbObjectId own = definitionIn(drawing, request.name); !own.isNull()) {
+    if (!hasBlockLoop(own)) return true;
+    host::print(formatText(
+        host::translate(QStringLiteral("\nBlock \"%s\" of the drawing contains itself\n")),
+        request.name));
+    return false;
+  }
   const HostDocumentLock lock(&document);
   const OdDbDatabasePtr source = OdDbDatabase::readFile(request.sourceFile);
   oddbRebaseFileReferences(*source, drawing.fileName());

@@ -4,6 +4,7 @@
 #include "properties/gradient_names.h"
 #include "tools/conveyor_impl.h"
 #include "tools/hatch_tool.h"
+#include "tools/source_files.h"
 
 namespace tc {
 namespace {
@@ -46,8 +47,14 @@ bool OdTcToolHatchCommandImpl::renderImage(OdTcImage& image) const {
   return renderPattern(image, m_fields.patternName, m_previewColor);
 }
 
-bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles&) const {
-  return renderPattern(image, m_fields.patternName, generalColor());
+bool OdTcToolHatchCommandImpl::makePicture(OdTcImage& image, OdTcSourceFiles& files) const {
+  if (renderPattern(image, m_fields.patternName, generalColor())) return true;
+  const OdString pattern = soughtPattern();
+  files.setProblem(
+      pattern.isEmpty()
+          ? host::translate(QStringLiteral("there is nothing to make a picture of"))
+          : host::translate(QStringLiteral("there is no hatch pattern \"%1\"")).arg(pattern));
+  return false;
 }
 
 void OdTcToolHatchCommandImpl::updateImages(const OdString& pattern) {

@@ -13,23 +13,25 @@ constexpr std::size_t kMost = 2;
 
 } // namespace
 
-/// The entry of a path; one that is not known is filled by `read`.
+/// The entry of a path that is read as that; one that is not known is filled by `read`.
 template <class Read>
-OdTcSourceFiles::Entry& OdTcSourceFiles::entry(const OdString& path, Read read) {
-  const auto known = std::find_if(m_entries.begin(), m_entries.end(),
-                                  [&](const Entry& each) { return each.path == path; });
+OdTcSourceFiles::Entry& OdTcSourceFiles::entry(Kind kind, const OdString& path, Read read) {
+  const auto known = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& each) {
+    return each.kind == kind && each.path == path;
+  });
   if (known != m_entries.end()) {
     std::rotate(known, known + 1, m_entries.end());
   } else {
     if (m_entries.size() == kMost) m_entries.erase(m_entries.begin());
-    m_entries.push_back({path, {}, {}, {}});
+    m_entries.push_back({kind, path, {}, {}, {}});
     read(m_entries.back());
   }
+  m_problem = m_entries.back().problem;
   return m_entries.back();
 }
 
 OdDbDatabase* OdTcSourceFiles::drawing(const OdString& path) {
-  return entry(path,
+  return entry(Kind::kDrawing, path,
                [&](Entry& fresh) {
                  try {
                    fresh.drawing = OdDbDatabase::readFile(path);
@@ -41,18 +43,12 @@ OdDbDatabase* OdTcSourceFiles::drawing(const OdString& path) {
 }
 
 QImage OdTcSourceFiles::picture(const OdString& path) {
-  return entry(path,
+  return entry(Kind::kPicture, path,
                [&](Entry& fresh) {
                  fresh.picture = loadReducedPicture(path);
                  if (fresh.picture.isNull()) fresh.problem = whyNoPicture(path);
                })
       .picture;
-}
-
-OdString OdTcSourceFiles::problemOf(const OdString& path) const {
-  for (const Entry& each : m_entries)
-    if (each.path == path) return each.problem;
-  return {};
 }
 
 } // namespace tc

@@ -18,20 +18,27 @@ class OdTcSourceFiles {
   /// The picture of a stored path, reduced to what pictures of tools need; null if it cannot be
   /// read.
   QImage picture(const OdString& path);
-  /// Why the file that was asked for not long ago cannot be read; empty otherwise.
-  OdString problemOf(const OdString& path) const;
+  /// Why what was asked for last gave nothing; empty if it gave something.
+  const OdString& problem() const { return m_problem; }
+  /// Who looks for something in a source tells here why that is not to be had; empty before a
+  /// search.
+  void setProblem(const OdString& problem) { m_problem = problem; }
 
  private:
+  /// What a file is read as: one that is no drawing may be a picture.
+  enum class Kind { kDrawing, kPicture };
   struct Entry {
+    Kind kind = Kind::kDrawing;
     OdString path;
     OdDbDatabasePtr drawing;
     QImage picture;
     OdString problem;
   };
   template <class Read>
-  Entry& entry(const OdString& path, Read read);
+  Entry& entry(Kind kind, const OdString& path, Read read);
 
   std::vector<Entry> m_entries; ///< the last one used is the last
+  OdString m_problem;
 };
 
 } // namespace tc

@@ -65,6 +65,9 @@ bool OdTcToolMaker::fromFile(OdTcTool& tool, const OdString& path) {
     if (OdTcValueStorageImpl::drawingExtensions().contains(extension))
       return fromDrawing(tool, path);
     if (OdTcValueStorageImpl::imageExtensions().contains(extension)) return fromRaster(tool, path);
+    // A command may be called like a file that lies here.
+    return fromCommand(tool, path) ||
+           fail(host::translate(QStringLiteral("files of this kind give no tool")));
   }
   return fromCommand(tool, path);
 }

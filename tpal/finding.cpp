@@ -3,6 +3,7 @@
 #include "catalog/database.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
+#include "images/image_home.h"
 #include "images/image_list.h"
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
@@ -56,6 +57,7 @@ class Examination {
 
   std::vector<Finding> run() {
     noteId(m_catalog, m_catalogFile);
+    notePictures(m_catalog, m_catalogFile);
     checkLoaders();
     forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) { checkGroup(*group); });
     for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog)) checkPalette(*palette);
@@ -95,8 +97,10 @@ class Examination {
 
   void checkGroup(const tc::OdTcCatalogItem& group) {
     noteId(group, m_catalogFile);
+    notePictures(group, m_catalogFile);
     forEach(group.children(), [&](tc::OdTcCatalogItem* child) {
       const auto* reference = odrxCast<tc::OdTcPaletteSoftRef>(child);
+      if (reference) notePictures(*child, m_catalogFile);
       if (!reference)
         checkGroup(*child);
       else if (!reference->resolve())
@@ -134,7 +138,8 @@ class Examination {
   void notePictures(const tc::OdTcCatalogItem& item, const OdString& file) {
     if (const tc::OdTcImageList* const images = item.images())
       forEach(images->enumImages(), [&](tc::OdTcImage* image) {
-        m_usedPictures << tc::combinePath(image->src(), file).toCaseFolded();
+        m_usedPictures << tc::pictureFileKey(tc::imagePathBeside(file, image->src()))
+                       << tc::pictureFileKey(image->fullPath());
       });
   }
 
@@ -145,8 +150,9 @@ class Examination {
     const OdString folder = odpath::folderOf(m_catalogFile) + QLatin1String("\\Palettes\\Images");
     for (const OdString& name : odrxSystemServices()->filesIn(folder)) {
       const OdString path = folder + u'\\' + name;
-      if (!m_usedPictures.contains(path.toCaseFolded()))
-        add(FindingKind::kUnusedPicture, path, QStringLiteral("no tool shows this picture"));
+      if (!m_usedPictures.contains(tc::pictureFileKey(path)))
+        add(FindingKind::kUnusedPicture, path,
+            QStringLiteral("no tool, palette or group shows this picture"));
     }
   }
 
@@ -211,7 +217,7 @@ class Examination {
   const tc::OdTcCatalog& m_catalog;
   OdString m_catalogFile;
   QHash<OdString, OdString> m_ids;
-  QSet<OdString> m_usedPictures; ///< folded paths
+  QSet<OdString> m_usedPictures; ///< keys of files
   bool m_isUnread = false;
   std::vector<Finding> m_findings;
 };

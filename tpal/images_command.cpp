@@ -44,10 +44,9 @@ struct Row {
   OdString reason;                ///< why pictures are still missing
 };
 
-/// True if the picture can be shown. One of the program's buttons is the program's to have.
+/// True if the picture can be shown. One of the program's buttons is there if the program has it.
 bool isThere(tc::OdTcImage* image) {
   if (!image) return false;
-  if (image->isResource()) return true;
   const bool isShown = !image->getBitmap().isNull();
   // A picture that was just made is nowhere else yet.
   if (!image->fullPath().isEmpty()) image->releaseBitmap();
@@ -120,6 +119,7 @@ class PictureMaker {
     tc::OdTcImagePtr image = tc::OdTcImage::createObject();
     image->setOwner(&list);
     image->setSizeKind(codeOf(size));
+    m_sources.setProblem({});
     if (agent && agent->makePicture(*image, m_sources)) return image;
     // A command shows itself by the program's icon of it, where there is one and nobody has given
     // it another picture.
@@ -133,7 +133,7 @@ class PictureMaker {
   }
   OdString whyNot(const tc::OdTcToolActionAgent* agent) const {
     const OdString source = agent ? tc::sourceFromPalette(*agent, agent->sourcePath()) : OdString();
-    if (const OdString problem = m_sources.problemOf(source); !problem.isEmpty()) return problem;
+    if (!m_sources.problem().isEmpty()) return m_sources.problem();
     return source.isEmpty() ? QStringLiteral("there is nothing to make a picture of")
                             : QStringLiteral("no picture comes of %1").arg(source);
   }

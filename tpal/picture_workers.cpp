@@ -30,11 +30,12 @@ MadePictures picturesOf(const tc::OdTcTool& tool, tc::OdTcSourceFiles& files) {
     const tc::OdTcImagePtr image = tc::OdTcImage::createObject();
     image->setSizeKind(static_cast<std::int32_t>(size));
     QByteArray png;
+    files.setProblem({});
     if (agent.makePicture(*image, files))
       png = tc::pictureBytes(image->getBitmap(), tc::formatExtension(tc::kPngFormat));
     if (png.isEmpty()) {
       made.pictures.clear();
-      made.problem = files.problemOf(agent.sourcePath());
+      made.problem = files.problem();
       if (made.problem.isEmpty()) made.problem = QStringLiteral("there is nothing to see");
       return made;
     }

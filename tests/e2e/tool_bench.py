@@ -3,11 +3,13 @@ the drawings that come of them."""
 
 import os
 import pathlib
+import struct
 import subprocess
 import tempfile
 import unittest
 import uuid
 import xml.sax.saxutils
+import zlib
 
 import ezdxf
 
@@ -30,6 +32,43 @@ def elements(fields):
     return "".join(
         f"<{name}>{value if isinstance(value, Xml) else xml.sax.saxutils.escape(str(value))}</{name}>"
         for name, value in fields.items())
+
+
+def pixels(path):
+    """Rows of red, green and blue of a PNG as the programs write it: eight bits, not interlaced."""
+    data = path.read_bytes()
+    width, height, bits, kind, _, _, interlaced = struct.unpack(">IIBBBBB", data[16:29])
+    if bits != 8 or kind not in (2, 6) or interlaced:
+        raise AssertionError(f"{path} is no plain PNG")
+    packed, at = b"", 8
+    while at < len(data):
+        length, name = struct.unpack(">I4s", data[at:at + 8])
+        if name == b"IDAT":
+            packed += data[at + 8:at + 8 + length]
+        at += length + 12
+    raw, size = zlib.decompress(packed), 3 if kind == 2 else 4
+    rows, above = [], bytes(width * size)
+    for y in range(height):
+        start = y * (width * size + 1)
+        row = bytearray(raw[start + 1:start + 1 + width * size])
+        unfilter(raw[start], row, above, size)
+        rows.append([tuple(row[x:x + 3]) for x in range(0, len(row), size)])
+        above = row
+    return rows
+
+
+def unfilter(kind, row, above, size):
+    """Adds to each byte what its row's filter has taken away."""
+    for i, byte in enumerate(row):
+        left = row[i - size] if i >= size else 0
+        corner = above[i - size] if i >= size else 0
+        guess = left + above[i] - corner
+        nearest = min((left, above[i], corner), key=lambda value: abs(guess - value))
+        row[i] = (byte + (0, left, above[i], (left + above[i]) // 2, nearest)[kind]) & 255
+
+
+def grey_pixels(path):
+    return [sum(pixel) // 3 for row in pixels(path) for pixel in row]
 
 
 class Bench:
@@ -62,11 +101,11 @@ class Bench:
         (self.folder / "c" / "DrfTcCatalog.dtc").write_text(
             CATALOG % (fresh_id(), palette, fresh_id(), palette), encoding="utf-8")
 
-    def run(self, script, drawing=None, out="out.dxf", keep_going=False):
-        """Runs a script over the catalog; the finished process, its output as text. The clock stands
-        still, so that the same drawing gives the same bytes."""
+    def run(self, script, drawing=None, out="out.dxf", keep_going=False, more=()):
+        """Runs a script over the catalog, with `more` options; the finished process, its output as
+        text. The clock stands still, so that the same drawing gives the same bytes."""
         words = [self.programs / "drafton", "batch", "--profile", self.path("profile.ini"),
-                 "--catalogs", self.path("c"), "--out", self.path(out)]
+                 "--catalogs", self.path("c"), "--out", self.path(out), *more]
         if keep_going:
             words.append("--keep-going")
         if drawing:

@@ -6,6 +6,8 @@ Usage: tool_fields_test.py PROGRAMS [unittest's arguments]
 """
 
 import math
+import pathlib
+import shutil
 import struct
 import sys
 import unittest
@@ -16,6 +18,7 @@ import ezdxf
 import tool_bench
 
 PROGRAMS = "."
+PICTURES = pathlib.Path(__file__).parent.parent / "data" / "pictures"
 
 
 def write_source(path, units=4):
@@ -186,6 +189,12 @@ class BlockTools(Tools):
         self.assertEqual(insert.dxf.xscale, 2)
         self.assertAlmostEqual(insert.dxf.rotation, 90)
 
+    def test_whole_drawing_has_the_units_of_the_source(self):
+        write_source(self.bench.path("source.dxf"), units=6)  # metres into millimetres
+        insert = self.insert(BlockType=2, BlockName="Plan", InsertAs=1)
+        self.assertEqual(insert.dxf.xscale, 1000)
+        self.assertEqual(insert.block().block_record.dxf.units, 6)
+
     def test_reference_whose_rotation_is_asked_for(self):
         document = self.run_tool(
             "Block", self.fields(BlockType=2, InsertAs=2, XrefType=1, PromptRotation="TRUE"),
@@ -233,6 +242,41 @@ class BlockTools(Tools):
 
     def test_block_brings_the_paths_of_its_files(self):
         self.assert_refers_to_the_library(self.nested({"BlockType": 1, "BlockName": "Door"}))
+
+    def dark_pixels(self, bolt, **kind):
+        """How much is seen of a whole drawing in which nothing is but a reference to a bolt."""
+        folder = self.bench.path("lib")
+        folder.mkdir(exist_ok=True)
+        if bolt:
+            part = ezdxf.new("R2010")
+            part.header["$INSUNITS"] = 4
+            part.modelspace().add_circle((0, 0), 3)
+            part.saveas(folder / "bolt.dxf")
+        source = ezdxf.new("R2010")
+        source.header["$INSUNITS"] = 4
+        source.add_xref_def("bolt.dxf", "bolt", **kind)
+        source.modelspace().add_blockref("bolt", (7, 8))
+        source.saveas(folder / "plan.dxf")
+        self.bench.write_catalog([("T", "Block", {
+            "BlockType": 2, "BlockName": "Plan", "InsertAs": 1, "Scale": 1,
+            "SourceFile": self.bench.stored("lib/plan.dxf")}, "")])
+        run = self.bench.run("TOOL:T\n0,0\n", more=["--png", self.bench.path("o.png"), "--size",
+                                                   "100x100", "--window", "0,0,20,20"])
+        self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+        self.output = run.stdout + run.stderr
+        return sum(1 for pixel in tool_bench.grey_pixels(self.bench.path("o.png")) if pixel < 128)
+
+    def test_whole_drawing_loads_its_references(self):
+        for kind in ({}, {"flags": 4 | 8}):  # attached, laid over
+            with self.subTest(**kind):
+                self.assertGreater(self.dark_pixels(True, **kind), 60)
+                self.assertNotIn("stays empty", self.output)
+
+    def test_whole_drawing_tells_of_a_reference_whose_file_is_missing(self):
+        self.assertEqual(self.dark_pixels(False), 0)
+        self.assertIn('The reference "bolt" of "' + self.bench.stored("lib/plan.dxf") +
+                      '" stays empty: The file "', self.output)
+        self.assertIn('bolt.dxf" cannot be found', self.output)
 
     def test_paths_stay_relative_in_a_drawing_of_the_same_folder(self):
         host = ezdxf.new("R2010")
@@ -426,6 +470,40 @@ class RasterTools(Tools):
         _, image = self.image(Rotation=math.pi / 2)
         self.assertAlmostEqual(image.dxf.u_pixel.x, 0)
         self.assertGreater(image.dxf.u_pixel.y, 0)
+
+    def test_picture_that_its_camera_held_upright(self):
+        """Its pixels are counted and shown as they lie in the file: red at the left, blue at the
+        right."""
+        shutil.copy(PICTURES / "turned.jpg", self.bench.path("turned.jpg"))
+        _, image = self.image("0,0\n", SourceFile=self.bench.stored("turned.jpg"), Scale=16)
+        self.assertEqual(tuple(image.image_def.dxf.image_size)[:2], (16, 8))
+        self.assertAlmostEqual(image.dxf.v_pixel.magnitude * 8, 8)
+        run = self.bench.run("", drawing="out.dxf", out="again.dxf", more=[
+            "--png", self.bench.path("o.png"), "--size", "160x80", "--window", "0,0,16,8"])
+        self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+        pixels = tool_bench.pixels(self.bench.path("o.png"))
+        for y in (20, 60):
+            red, _, blue = pixels[y][40]
+            self.assertGreater(red, 150)
+            self.assertLess(blue, 100)
+            red, _, blue = pixels[y][120]
+            self.assertLess(red, 100)
+            self.assertGreater(blue, 150)
+
+    def test_pictures_of_all_kinds(self):
+        """The size is that of the file's own pixels, whatever it is called."""
+        for name, source, size in (("one.png", None, (1, 1)), ("cmyk.jpg", "cmyk.jpg", (8, 8)),
+                                   ("grey16.png", "grey16.png", (8, 8)),
+                                   ("moving.gif", "animated.gif", (8, 8)),
+                                   ("lying.jpg", "animated.gif", (8, 8))):
+            with self.subTest(name):
+                if source:
+                    shutil.copy(PICTURES / source, self.bench.path(name))
+                else:
+                    write_picture(self.bench.path(name), *size)
+                _, image = self.image(SourceFile=self.bench.stored(name), Scale=3)
+                self.assertEqual(tuple(image.image_def.dxf.image_size)[:2], size)
+                self.assertAlmostEqual(image.dxf.u_pixel.magnitude * size[0], 3)
 
     def test_scale_of_zero_is_handed_on_and_refused_by_the_host(self):
         self.bench.write_catalog([("T", "Raster", {

@@ -6,6 +6,7 @@ its file and the reason, and the palette stays whole.
 Usage: tool_pictures_test.py PROGRAMS [unittest's arguments]
 """
 
+import os
 import pathlib
 import resource
 import shutil
@@ -41,6 +42,36 @@ def copy_of(name):
     return lambda path: shutil.copy(DATA / name, path)
 
 
+def cut(write, part):
+    """A file that ends behind a part of its bytes."""
+    def write_cut(path):
+        write(path)
+        whole = path.read_bytes()
+        path.write_bytes(whole[:int(len(whole) * part)])
+    return write_cut
+
+
+def write_bitmap(width, height, rows):
+    """A BMP file with so many of its rows."""
+    def write(path):
+        header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, 0, 0, 0, 0, 0)
+        path.write_bytes(b"BM" + struct.pack("<IHHI", 54 + rows * width * 3, 0, 0, 54) + header +
+                         b"\x40\x80\x20" * (rows * width))
+    return write
+
+
+def write_tiff(path):
+    """A grey TIFF file of 8 by 8 pixels."""
+    entries = [(256, 3, 1, 8), (257, 3, 1, 8), (258, 3, 1, 8), (259, 3, 1, 1), (262, 3, 1, 1),
+               (273, 4, 1, 8 + 2 + 12 * 9 + 4), (277, 3, 1, 1), (278, 3, 1, 8), (279, 4, 1, 64)]
+    path.write_bytes(b"II*\0" + struct.pack("<IH", 8, len(entries)) +
+                     b"".join(struct.pack("<HHII", *entry) for entry in entries) +
+                     struct.pack("<I", 0) + b"\x80" * 64)
+
+
+NO_PICTURE = "is no picture that can be shown"
+CUT = NO_PICTURE + ": its end is missing"
+
 # The file's name, how it is made, and why it gives no picture; None for one that does.
 FILES = [
     ("plain.png", lambda path: write_picture(path, 40, 20), None),
@@ -51,11 +82,16 @@ FILES = [
     ("turned.jpg", copy_of("turned.jpg"), None),
     ("lying.jpg", lambda path: write_picture(path, 40, 20), None),
     ("huge.png", write_huge, "is too large to be shown: 60000 by 60000 pixels"),
-    ("text.png", lambda path: path.write_text("Dear reader"), "is no picture that can be shown"),
-    ("empty.png", lambda path: path.write_bytes(b""), "is no picture that can be shown"),
-    ("cut.png", lambda path: (write_picture(path, 400, 200),
-                              path.write_bytes(path.read_bytes()[:60])),
-     "is no picture that can be shown"),
+    ("wide.bmp", write_bitmap(40, 20, 20), None),
+    ("grey.tiff", write_tiff, None),
+    ("hugebmp.bmp", write_bitmap(60000, 60000, 0), "is too large to be shown: 60000 by 60000 pixels"),
+    ("text.png", lambda path: path.write_text("Dear reader"), NO_PICTURE),
+    ("empty.png", lambda path: path.write_bytes(b""), NO_PICTURE),
+    ("cut.png", cut(lambda path: write_picture(path, 400, 200), 0.3), CUT),
+    ("cutphoto.jpg", cut(copy_of("turned.jpg"), 0.9), CUT),
+    ("cutmoving.png", cut(copy_of("animated.gif"), 0.6), CUT),
+    ("cutbitmap.bmp", write_bitmap(40, 20, 10), CUT),
+    ("cuttiff.tiff", cut(write_tiff, 0.9), CUT),
 ]
 
 
@@ -71,11 +107,13 @@ class ToolPictures(unittest.TestCase):
         run = subprocess.run([pathlib.Path(PROGRAMS) / "tpal", *map(str, words)], text=True,
                              capture_output=True, timeout=120)
         self.assertEqual(run.returncode, code, run.stdout + run.stderr)
+        self.assertEqual(run.stderr, "")
         return run.stdout
 
     def script(self, script, code=0):
         run = self.bench.run(script)
         self.assertEqual(run.returncode, code, run.stdout[-2000:] + run.stderr)
+        self.errors = run.stderr
         return run.stdout + run.stderr
 
     def pictures_of(self, tool):
@@ -122,12 +160,13 @@ class ToolPictures(unittest.TestCase):
                 title = name.split(".")[0]
                 said = self.script(f"ToolPalettesMake\nP\nFile\n{file}\n")
                 self.assertIn(f'is now the tool "{title}"', said)
+                self.assertEqual(self.errors, "", "decoders do not speak for themselves")
                 made = self.pictures_of(title)
                 if reason:
                     self.assertEqual(made, [])
-                    self.assertIn(f"{self.bench.stored(name)} {reason}", said)
+                    self.assertIn(f"{self.bench.stored(name)} {reason}\n", said)
                     said = self.tpal("images", self.bench.path("c"), "--missing", code=1)
-                    self.assertIn(f"{self.bench.stored(name)} {reason}", said)
+                    self.assertIn(f"{self.bench.stored(name)} {reason}\n", said)
                     continue
                 self.assertEqual([p["src"] for p in made],
                                  [f"\\Images\\{title}{size}.png" for size in (16, 32, 64)])
@@ -136,6 +175,71 @@ class ToolPictures(unittest.TestCase):
                     self.assertEqual(struct.unpack(">II", header), (size, size))
         most = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
         self.assertLess(most, MOST_MEMORY, "no picture is decoded that is not shown")
+
+    def test_files_of_other_kinds(self):
+        """A picture that no tool is made of is not told as missing."""
+        for name, write in (("moving.gif", copy_of("animated.gif")), ("scan.tif", write_tiff),
+                            ("notes.txt", lambda path: path.write_text("Dear reader"))):
+            with self.subTest(name):
+                write(self.bench.path(name))
+                said = self.script(f"ToolPalettesMake\nP\nFile\n{self.bench.path(name)}\n", code=1)
+                self.assertIn("files of this kind give no tool", said)
+        said = self.script(f"ToolPalettesMake\nP\nFile\n{self.bench.path('gone.gif')}\n", code=1)
+        self.assertIn("there is no such file or command", said)
+
+    def test_pictures_in_drawings_that_cannot_be_shown(self):
+        """They are drawn as their names and told, and no decoder speaks for itself."""
+        write_huge(self.bench.path("huge.png"))
+        write_picture(self.bench.path("cut.png"), 400, 200)
+        copy_of("turned.jpg")(self.bench.path("cut.jpg"))
+        names = ("huge.png", "cut.png", "cut.jpg")
+        self.bench.write_catalog([(name, "Raster", {
+            "RasterName": name, "Scale": 1, "SourceFile": self.bench.stored(name)}, "")
+            for name in names])
+        self.script("".join(f"TOOL:{name}\n{i},0\n" for i, name in enumerate(names)))
+        for name in ("cut.png", "cut.jpg"):
+            file = self.bench.path(name)
+            file.write_bytes(file.read_bytes()[:-30])
+        run = self.bench.run("", drawing="out.dxf", out="again.dxf",
+                             more=["--png", self.bench.path("o.png"), "--size", "300x100",
+                                   "--window", "0,0,3,1"])
+        self.assertEqual(run.returncode, 0, run.stderr)
+        self.assertEqual(sorted(run.stderr.splitlines()), sorted(
+            f"drafton: {self.bench.stored(name)} is no picture that can be shown; its name stands in "
+            "its place" for name in names))
+        self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, MOST_MEMORY)
+        pixels = tool_bench.pixels(self.bench.path("o.png"))
+        # Of the photograph, which was red and blue, nothing is left but its name.
+        colors = {pixel for row in pixels for pixel in row[205:295]}
+        self.assertFalse([c for c in colors if abs(c[0] - c[2]) > 100], colors)
+
+    def test_missing_decoder_is_named(self):
+        """Without its plugin the kind of the picture is told, not that the file is broken."""
+        programs = self.bench.path("programs")
+        shutil.copytree(PROGRAMS, programs, ignore=lambda folder, names: [
+            name for name in names if name.startswith(("test_", "bench_"))])
+        plugins = pathlib.Path(subprocess.run(
+            ["qtpaths6", "--query", "QT_INSTALL_PLUGINS"], text=True, capture_output=True,
+            check=True).stdout.strip())
+        (programs / "plugins" / "imageformats").mkdir(parents=True)
+        (programs / "plugins" / "platforms").symlink_to(plugins / "platforms")
+        for plugin in (plugins / "imageformats").iterdir():
+            if "tiff" not in plugin.name:
+                (programs / "plugins" / "imageformats" / plugin.name).symlink_to(plugin)
+        (programs / "qt.conf").write_text("[Paths]\nPlugins=plugins\n")
+        write_tiff(self.bench.path("grey.tiff"))
+        self.bench.write_catalog([("T", "Raster", {
+            "RasterName": "P", "Scale": 1, "SourceFile": self.bench.stored("grey.tiff")}, "")])
+        run = subprocess.run([programs / "tpal", "images", self.bench.path("c"), "--missing"],
+                             text=True, capture_output=True, timeout=120)
+        self.assertEqual((run.returncode, run.stderr), (1, ""))
+        self.assertIn(f"{self.bench.stored('grey.tiff')} cannot be shown: the image format plugin of "
+                      'Qt for pictures of the kind "tiff" is not installed', run.stdout)
+        self.bench.programs = programs
+        run = self.bench.run("TOOL:T\n", keep_going=True)
+        self.assertEqual(run.returncode, 1)
+        self.assertIn("grey.tiff cannot be read as a picture: Qt's image format plugin for pictures "
+                      'of the kind "tiff" is not installed', run.stderr)
 
     def test_folder_that_is_a_file(self):
         write_picture(self.bench.path("photo.png"), 40, 20)
@@ -177,12 +281,18 @@ class ToolPictures(unittest.TestCase):
         self.assertEqual(self.bench.path("escaped.png").read_bytes(), before)
 
     def test_huge_picture_is_inserted_without_being_decoded(self):
-        write_huge(self.bench.path("huge.png"))
-        self.bench.write_catalog([("T", "Raster", {
-            "RasterName": "P", "Scale": 1, "SourceFile": self.bench.stored("huge.png")}, "")])
-        self.script("TOOL:T\n5,6\n")
-        image, = self.bench.read().modelspace().query("IMAGE")
-        self.assertEqual(tuple(image.image_def.dxf.image_size)[:2], (60000, 60000))
+        def write_huge_bitmap(path):
+            write_bitmap(60000, 60000, 0)(path)
+            os.truncate(path, 54 + 60000 * 60000 * 3)  # takes no room on the disk
+
+        for name, write in (("huge.png", write_huge), ("huge.bmp", write_huge_bitmap)):
+            with self.subTest(name):
+                write(self.bench.path(name))
+                self.bench.write_catalog([("T", "Raster", {
+                    "RasterName": "P", "Scale": 1, "SourceFile": self.bench.stored(name)}, "")])
+                self.script("TOOL:T\n5,6\n")
+                image, = self.bench.read().modelspace().query("IMAGE")
+                self.assertEqual(tuple(image.image_def.dxf.image_size)[:2], (60000, 60000))
         self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, MOST_MEMORY)
 
     def test_previews_of_custom_and_user_defined_patterns(self):

@@ -6,6 +6,7 @@ Usage: tool_sources_test.py PROGRAMS [unittest's arguments]
 """
 
 import os
+import pathlib
 import resource
 import sys
 import unittest
@@ -16,6 +17,7 @@ import tool_bench
 from tool_fields_test import write_picture, write_source
 
 PROGRAMS = "."
+DATA = pathlib.Path(__file__).parent.parent / "data" / "pictures"
 
 LARGE = 500 << 20
 MOST_MEMORY = 300 << 10  # kilobytes
@@ -57,6 +59,16 @@ def write_looping(path):
     document.saveas(path)
 
 
+def write_cut_png(path):
+    write_picture(path, 40, 40)
+    path.write_bytes(path.read_bytes()[:-20])
+
+
+def write_cut_picture(name, length):
+    """A picture that ends behind so many bytes."""
+    return lambda path: path.write_bytes((DATA / name).read_bytes()[:length])
+
+
 def write_large(start):
     """A file of 500 MB that takes no room on the disk."""
     def write(path):
@@ -84,6 +96,8 @@ DRAWINGS = [
     ("500 MB that begin well", write_large(b"  0\nSECTION\n  2\nHEADER\n"), "{file}:5: ", True),
 ]
 
+CUT = "photo.png cannot be read as a picture: its end is missing"
+
 PICTURES = [
     ("missing", write_nothing, "Could not find the image file {file}", False),
     ("a folder", write_folder, "Could not find the image file {file}", False),
@@ -91,6 +105,10 @@ PICTURES = [
     ("a text", write_text, "{shown}", True),
     ("a drawing", write_source, "{shown}", True),
     ("500 MB of nothing", write_large(b""), "{shown}", True),
+    ("cut PNG", write_cut_png, CUT, True),
+    ("cut photograph", write_cut_picture("turned.jpg", 500), CUT, True),
+    ("photograph without its end", write_cut_picture("turned.jpg", 691), CUT, True),
+    ("cut animation", write_cut_picture("animated.gif", 76), CUT, True),
 ]
 
 # Paths that lead to no file, before and after macros are resolved.
@@ -176,7 +194,8 @@ class ToolSources(unittest.TestCase):
 
     def expect(self, run, message, fails, before=HOST):
         self.assertEqual(run.returncode, 1 if fails else 0, run.stdout + run.stderr)
-        self.assertIn(message, run.stdout + run.stderr)
+        # A failure is told where failures are, with its reason.
+        self.assertIn(message, run.stderr if fails else run.stdout)
         # Byte for byte the drawing of a run without the tool.
         self.bench.read()
         untouched = self.bench.run(before, out="untouched.dxf")
@@ -199,6 +218,43 @@ class ToolSources(unittest.TestCase):
                     self.look("Block", "source.dxf", write, message, fails, BlockType=kind)
         most = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
         self.assertLess(most, MOST_MEMORY, "what is no drawing is not read whole")
+
+    # What is said of drawings that are to be attached; without a reason they are attached.
+    REFERENCES = {
+        "missing": "There is no file ",
+        "a folder": "{file} is not a file.",
+        "of no bytes": "{file} was not attached: ",
+        "a text": NO_DRAWING,
+        "a picture": NO_DRAWING,
+        "cut early": "the file ends too early",
+        "cut in a record": "{file} was not attached: ",
+        "with a block in itself": None,
+        "500 MB of nothing": NO_DRAWING,
+        "500 MB that begin well": "{file} was not attached: ",
+    }
+
+    def test_references(self):
+        self.assertEqual(list(self.REFERENCES), [row[0] for row in DRAWINGS])
+        for name, write, _, _ in DRAWINGS:
+            for kind in (1, 2):
+                message = self.REFERENCES[name]
+                if not message:
+                    continue  # test_reference_whose_source_is_in_itself
+                with self.subTest(source=name, kind=kind):
+                    self.look("Block", "source.dxf", write, message, True, BlockType=2, InsertAs=2,
+                              XrefType=kind)
+
+    def test_block_of_the_drawing_that_contains_itself(self):
+        write_source(self.bench.path("source.dxf"))
+        write_looping(self.bench.path("host.dxf"))
+        self.bench.write_catalog([("T", "Block", self.fields("Block", self.bench.stored(
+            "source.dxf")), "")])
+        run = self.bench.run("TOOL:T\n", drawing="host.dxf", keep_going=True)
+        self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+        self.assertIn('Block "Door" of the drawing contains itself', run.stdout)
+        # The drawing is not sound, before and after.
+        drawing = ezdxf.readfile(self.bench.path("out.dxf"))
+        self.assertEqual([i.dxf.name for i in drawing.modelspace().query("INSERT")], ["Inner"])
 
     def test_drawing_without_the_block(self):
         self.look("Block", "source.dxf", lambda path: ezdxf.new("R2010").saveas(path),

@@ -63,6 +63,7 @@ class ToolVariables(unittest.TestCase):
         self.addCleanup(self.bench.close)
         write_source(self.bench.path("source.dxf"))
         write_picture(self.bench.path("photo.png"), 40, 20)
+        self.bench.path("mine.pat").write_text("*MINE, lines\n0, 0,0, 0,9\n")
         source, photo = self.bench.stored("source.dxf"), self.bench.stored("photo.png")
         block = {"BlockType": 1, "BlockName": "Tag", "SourceFile": source, "Scale": 2,
                  "PromptRotation": "TRUE", "PromptAttributes": "TRUE"}
@@ -85,6 +86,10 @@ class ToolVariables(unittest.TestCase):
             ("BrokenBlock", "Block", {**block, "SourceFile": photo, "PromptAttributes": "FALSE"},
              GENERAL),
             ("NamelessDrawing", "Block", {"BlockType": 2, "InsertAs": 1, "SourceFile": source},
+             GENERAL),
+            ("Mine", "Hatch", {"hatchObjectType": 0, "HatchType": 2, "PatternName": "MINE",
+                               "SourceFile": self.bench.stored("mine.pat"), "Scale": 1}, GENERAL),
+            ("Own", "Hatch", {"hatchObjectType": 0, "HatchType": 0, "Spacing": 6, "Scale": 1},
              GENERAL),
             ("LostXref", "Block", {"BlockType": 2, "InsertAs": 2, "SourceFile": "C:\\no.dxf"},
              GENERAL),
@@ -190,7 +195,7 @@ class ToolVariables(unittest.TestCase):
     def test_replaced_by_another_tool_at_each_prompt(self):
         for tool, answers in self.ANSWERS.items():
             for count in range(len(answers)):
-                for other in ("Hatch", "Block", "Gradient", "Line"):
+                for other in ("Hatch", "Block", "Gradient", "Line", "Xref", "Raster"):
                     with self.subTest(tool=tool, prompt=count + 1, other=other):
                         self.assert_nothing_is_left(
                             f"TOOL:{tool}\n" + "".join(a + "\n" for a in answers[:count]) +
@@ -199,9 +204,42 @@ class ToolVariables(unittest.TestCase):
 
     def test_replaced_and_then_cancelled(self):
         for tool in ("Block", "Hatch", "Gradient", "Line"):
-            for other in ("Hatch", "Block", "Gradient", "Line"):
+            for other in ("Hatch", "Block", "Gradient", "Line", "Xref", "Raster"):
                 with self.subTest(tool=tool, other=other):
                     self.assert_nothing_is_left(f"TOOL:{tool}\nTOOL:{other}\n^C\n")
+
+    # How a run ends, whether it fails, and the hatches that it leaves.
+    ENDS = {
+        "to its end": ("50,40\n\n", False, 1),
+        "cancelled": ("^C\n", False, 0),
+        "cancelled at the last prompt": ("50,40\n^C\n", False, 0),
+        "replaced": ("TOOL:Line\n1,1\n2,2\n", False, 0),
+        "replaced by a hatch": ("TOOL:Hatch\n50,40\n\n", False, 1),
+        "replaced by one that fails": ("TOOL:NoPattern\n", True, 0),
+    }
+
+    def test_settings_of_hatches(self):
+        """The kind of pattern and its file are no variables. A pattern of the tool's own file must
+        not be found afterwards, and lines of its own must not be drawn by the next hatch."""
+        for tool in ("Mine", "Own", "LostFile"):
+            for end, (answers, fails, count) in self.ENDS.items():
+                if tool == "LostFile":
+                    if end != "to its end":
+                        continue
+                    answers, fails, count = "", True, 0
+                with self.subTest(tool=tool, end=end):
+                    run = self.bench.run(f"RECTANG 0,0 100,80\nTOOL:{tool}\n{answers}"
+                                         "FASTHATCHCMD 50,40\n\n", keep_going=True)
+                    self.assertEqual(run.returncode, int(fails), run.stdout[-1500:] + run.stderr)
+                    hatches = self.bench.read().modelspace().query("HATCH")
+                    self.assertEqual(len(hatches), count + 1, run.stdout[-1500:])
+                    self.assertEqual((hatches[-1].dxf.pattern_name, hatches[-1].dxf.pattern_type),
+                                     ("ANSI31", 1))
+                    run = self.bench.run(f"RECTANG 0,0 100,80\nTOOL:{tool}\n{answers}"
+                                         "SETVAR HPNAME MINE\nFASTHATCHCMD\n", keep_going=True)
+                    self.assertEqual(run.returncode, 1, run.stdout[-1500:])
+                    self.assertIn('There is no hatch pattern "MINE"', run.stderr)
+                    self.assertEqual(len(self.bench.read().modelspace().query("HATCH")), count)
 
     def test_undone(self):
         for tool, answers in self.ANSWERS.items():

@@ -63,6 +63,11 @@ bool TestVariables::set(const OdString& name, const OdVariant& value) {
   return true;
 }
 
+void TestHatchSettings::set(const OdString& key, const OdVariant& value) {
+  values[key] = value;
+  note(QStringLiteral("set hatch %1=%2").arg(key, value.toString()));
+}
+
 void TestDocument::sendText(const OdString& text) {
   sent << text;
   note(QStringLiteral("send %1 %2").arg(m_name, text));

@@ -311,7 +311,7 @@ class TestHatchSettings : public CKVUnknownImpl<IHostHatchSettings> {
   QMap<OdString, OdVariant> values;
 
   bool get(const OdString& key, OdVariant& out) override;
-  void set(const OdString& key, const OdVariant& value) override { values[key] = value; }
+  void set(const OdString& key, const OdVariant& value) override;
 };
 
 } // namespace testhost

@@ -285,13 +285,47 @@ TEST_F(AgentTables, KindsOfPatternEnableWhatTheyCanUse) {
 }
 
 TEST_F(AgentTables, TheThreeKindsHideThreeGeneralPropertiesInOrder) {
+  constexpr std::array<QStringView, 3> kHidden = {u"General.Dimstyle", u"General.Text style",
+                                                  u"General.Linetype scale"};
+  EXPECT_EQ(kHiddenByInsertion, kHidden);
   const OdTcToolActionAgentPtr agents[] = {odrxMake<OdTcToolBlockCommandImpl>(),
                                            odrxMake<OdTcToolHatchCommandImpl>(),
                                            odrxMake<OdTcToolRasterCommandImpl>()};
-  for (const OdTcToolActionAgentPtr& agent : agents)
-    for (const char16_t* const name :
-         {u"General.Dimstyle", u"General.Text style", u"General.Linetype scale"})
-      EXPECT_TRUE(agent->propertyFilter()->contains(text(name)));
+  for (const OdTcToolActionAgentPtr& agent : agents) {
+    for (const QStringView name : kHidden)
+      EXPECT_TRUE(agent->propertyFilter()->contains(name.toString()));
+    EXPECT_FALSE(agent->propertyFilter()->contains(text(u"General.Color")));
+  }
+}
+
+/// The entries of a list, its texts as the user's language has them.
+QStringList entriesOf(const OdTcToolActionAgentPtr& agent, const char16_t* caption) {
+  const auto* const property =
+      dynamic_cast<OdTcObjectProperty*>(agent->properties()->findByName(text(caption)));
+  EXPECT_TRUE(property);
+  QStringList entries;
+  if (property)
+    for (const OdTcChoice& choice : property->choices()) entries << choice.text;
+  return entries;
+}
+
+TEST_F(AgentTables, ListsAreInTheUsersLanguage) {
+  auto& words = testhost::host().translations;
+  for (const char16_t* const word :
+       {u"Block", u"External reference", u"Attachment", u"Overlay", u"Hatch", u"Gradient",
+        u"User defined", u"Standard", u"Custom", u"Dimscale", u"Plot scale", u"None", u"Linear"})
+    words[text(word)] = text(u"~") + text(word);
+  const OdTcToolActionAgentPtr block(odrxMake<OdTcToolBlockCommandImpl>());
+  const OdTcToolActionAgentPtr hatch(odrxMake<OdTcToolHatchCommandImpl>());
+  EXPECT_EQ(entriesOf(block, u"Insert.Insert as").join(u'|'), text(u"~Block|~External reference"));
+  EXPECT_EQ(entriesOf(block, u"Insert.Xref type").join(u'|'), text(u"~Attachment|~Overlay|"));
+  EXPECT_EQ(entriesOf(block, u"Insert.Auxiliary scale").join(u'|'),
+            text(u"~Dimscale|~Plot scale|~None"));
+  EXPECT_EQ(entriesOf(hatch, u"Sample.Instrument type").join(u'|'), text(u"~Hatch|~Gradient"));
+  EXPECT_EQ(entriesOf(hatch, u"Sample.Type").join(u'|'), text(u"~User defined|~Standard|~Custom"));
+  EXPECT_EQ(entriesOf(hatch, u"Sample.Auxiliary scale").join(u'|'),
+            text(u"~Dimscale|~Plot scale|~None"));
+  EXPECT_EQ(entriesOf(hatch, u"Sample.Gradient name").front(), text(u"~Linear"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tools/block_tool.h"
 
 #include "drawing/database.h"
+#include "drawing/objects/layout.h"
 #include "frame/system_services.h"
 #include "support/golden.h"
 #include "support/module_fixture.h"
@@ -78,6 +79,15 @@ TEST_F(BlockToolTest, MultipliesItsScaleAsTheAuxiliaryScaleSays) {
   EXPECT_EQ(agent->getScale(), 2) << "the tool's own scale stays";
   agent->setAux(text(u"Plot scale"));
   EXPECT_EQ(run().scale, 2) << "the model layout has no plot settings";
+}
+
+TEST_F(BlockToolTest, PlotScaleWithoutALayoutKeepsItsScale) {
+  const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
+  document.databaseOfDocument = drawing;
+  oddb::activeLayout(*drawing).openObject(OdDb::kForWrite)->erase();
+  agent->setScale(2);
+  agent->setAux(text(u"Plot scale"));
+  EXPECT_EQ(run().scale, 2);
 }
 
 TEST_F(BlockToolTest, KeepsTheAttributeVariableAroundARun) {

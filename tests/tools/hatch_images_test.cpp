@@ -126,6 +126,40 @@ TEST_F(HatchImagesTest, OfAForeignLibraryAreReplacedInThreeSizes) {
   EXPECT_EQ(tool->images()->count(), 3);
 }
 
+TEST_F(HatchImagesTest, OfASolidOfAForeignLibraryHaveTheGeneralColour) {
+  agent->setPatternName(text(u"Solid"));
+  giveForeignPictures();
+  tool->getData()
+      ->generalProperties()
+      ->findByName(text(u"General.Color"))
+      ->setValue(OdVariant(OdCmColor::fromRgb(0, 255, 0).color()));
+  host().previews.asked.clear();
+  ASSERT_TRUE(agent->refreshImages(nullptr));
+  EXPECT_EQ(host().previews.asked, QStringList());
+  for (const int kind : {1, 3, 4}) {
+    OdTcImage* const image = tool->images()->findBySize(kind);
+    ASSERT_TRUE(image) << kind;
+    EXPECT_EQ(image->getBitmap().pixelColor(5, 5), QColor(0, 255, 0));
+  }
+  EXPECT_EQ(agent->previewColor().color(), OdCmColor::fromRgb(0, 255, 0).color());
+}
+
+TEST_F(HatchImagesTest, ThatCannotBeMadeSayWhy) {
+  OdTcSourceFiles files;
+  const auto problem = [&] {
+    const OdTcImagePtr image = OdTcImage::createObject();
+    image->setSizeKind(1);
+    files.setProblem({});
+    EXPECT_FALSE(agent->makePicture(*image, files));
+    return files.problem();
+  };
+  host().previews.canRender = false;
+  agent->setPatternName(text(u"NOPE"));
+  EXPECT_EQ(problem(), text(u"there is no hatch pattern \"NOPE\""));
+  agent->setHatchPatternSource(7);
+  EXPECT_EQ(problem(), text(u"there is nothing to make a picture of"));
+}
+
 TEST_F(HatchImagesTest, OfOurOwnStayAsTheyAre) {
   EXPECT_FALSE(agent->refreshImages(nullptr));
   giveForeignPictures();

@@ -103,6 +103,14 @@ TEST_F(RasterToolTest, OffersItsValuesInOrder) {
   EXPECT_TRUE(agent->propertyFilter()->contains(text(u"General.Text style")));
 }
 
+TEST_F(RasterToolTest, OffersFilesOfPictures) {
+  host().translations[text(u"Images")] = text(u"Bilder");
+  const auto* const file = dynamic_cast<OdTcObjectProperty*>(
+      agent->properties()->findByName(text(u"Insert.Source file")));
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->fileFilter(), text(u"Bilder (*.bmp *.jpg *.jpeg *.png *.tiff *.tif *.gif)"));
+}
+
 TEST_F(RasterToolTest, StandsInAFileAsTheGoldenOne) {
   const auto full = odrxMake<OdTcToolRasterCommandImpl>();
   full->setRasterName(text(u"plan"));

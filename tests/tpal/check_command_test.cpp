@@ -123,6 +123,53 @@ TEST_F(CheckCommand, NamesPicturesThatNoToolShows) {
   EXPECT_FALSE(codes().contains(QStringLiteral("C110"))) << "whose they are nobody can tell";
 }
 
+QByteArray withPicture(const QByteArray& name, const QByteArray& src) {
+  return "<Properties><ItemName>" + name +
+         "</ItemName><Images option=\"0\"><Image cx=\"32\" "
+         "cy=\"32\" src=\"" +
+         src + "\"/></Images></Properties>";
+}
+
+TEST_F(CheckCommand, KnowsThePicturesOfEveryItem) {
+  // A picture that is not needed any more "can be deleted": none that anything shows may be named.
+  struct Row {
+    const char* shownBy;
+    QByteArray catalog, group, inner, palette, tool;
+  };
+  const QByteArray src = "\\Images\\x.png", fromCatalog = "\\Palettes\\Images\\x.png";
+  const Row rows[] = {
+      {"the catalog", withPicture("C", fromCatalog), {}, {}, {}, {}},
+      {"a group", {}, withPicture("G", fromCatalog), {}, {}, {}},
+      {"a group within a group", {}, {}, withPicture("I", fromCatalog), {}, {}},
+      {"a palette", {}, {}, {}, withPicture("P", src), {}},
+      {"a tool", {}, {}, {}, {}, withPicture("T", src)},
+      {"a tool, with other separators", {}, {}, {}, {}, withPicture("T", "Images/x.png")},
+      {"a tool, with steps", {}, {}, {}, {}, withPicture("T", "\\Images\\.\\x.png")},
+      {"a tool, with steps back", {}, {}, {}, {}, withPicture("T", "\\Images\\..\\Images\\x.png")},
+      {"a tool, in large letters", {}, {}, {}, {}, withPicture("T", "\\IMAGES\\X.png")},
+      {"nobody", {}, {}, {}, {}, {}},
+  };
+  write(QStringLiteral("c/Palettes/Images/x.png"), "x");
+  for (const Row& row : rows) {
+    write(
+        QStringLiteral("c/DrfTcCatalog.dtc"),
+        "<Catalog>" + row.catalog +
+            "<Palettes><Palette><ItemID idValue=\"{P}\"/><Url href=\"Palettes\\p.dtc\"/></Palette>"
+            "</Palettes><Groups><ToolPaletteGroup><ItemID idValue=\"{G}\"/>" +
+            row.group +
+            "<Contents><ToolPalette ID=\"{P}\"/><ToolPaletteGroup><ItemID idValue=\"{I}\"/>" +
+            row.inner + "</ToolPaletteGroup></Contents></ToolPaletteGroup></Groups></Catalog>");
+    write(QStringLiteral("c/Palettes/p.dtc"),
+          "<Palette><ItemID idValue=\"{P}\"/>" + row.palette +
+              "<Tools><Tool><ItemID idValue=\"{T}\"/>" + row.tool +
+              "<ToolType>1</ToolType><Data><Command "
+              "Macro=\"_LINE\"/></Data></Tool></Tools></Palette>");
+    const bool isShown = QByteArray(row.shownBy) != "nobody";
+    EXPECT_EQ(codes().contains(QStringLiteral("C110")), !isShown)
+        << row.shownBy << ": " << qPrintable(out());
+  }
+}
+
 TEST_F(CheckCommand, NamesAPatternThatTheProgramDoesNotHave) {
   const auto hatch = [](const QByteArray& pattern) {
     return tool("{1}", "H",

@@ -151,6 +151,47 @@ TEST_F(Images, ThatCannotBeMadeAreNamedWithTheReason) {
   EXPECT_EQ(rows[0].toObject()[QStringLiteral("missing")].toArray().size(), 3);
 }
 
+TEST_F(Images, ThatCannotBeMadeNameTheBlockOrThePattern) {
+  previews->unknownPattern = QStringLiteral("NOPE");
+  const QByteArray source = writeSource();
+  writeCatalog(blockTool("{1}", "Nope", source) +
+               tool("{2}", "Pattern",
+                    "<Hatch><HatchType>1</HatchType><PatternName>NOPE</PatternName></Hatch>") +
+               tool("{3}", "Neither", "<Hatch><hatchObjectType>7</hatchObjectType></Hatch>") +
+               tool("{4}", "Plan",
+                    "<Block><BlockType>2</BlockType><SourceFile>C:\\no\\plan.dxf</SourceFile>"
+                    "</Block>"));
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_EQ(out(),
+            QStringLiteral("P: Nope (block): lacks 16, 32, 64: there is no block \"Nope\" in "
+                           "%1\n"
+                           "P: Pattern (hatch): lacks 16, 32, 64: there is no hatch pattern "
+                           "\"NOPE\"\n"
+                           "P: Neither (hatch): lacks 16, 32, 64: there is nothing to make a "
+                           "picture of\n"
+                           "P: Plan (block): lacks 16, 32, 64: there is no file "
+                           "C:\\no\\plan.dxf\n")
+                .arg(QString::fromUtf8(source)));
+}
+
+TEST_F(Images, OfOneFileAsADrawingAndAsAPictureDoNotMix) {
+  const QByteArray source = writeSource();
+  const QByteArray raster =
+      tool("{1}", "Wrong", "<Raster><SourceFile>" + source + "</SourceFile></Raster>");
+  const QByteArray block = blockTool("{2}", "Door", source);
+  const QString wrong =
+      QStringLiteral("P: Wrong (raster): lacks 16, 32, 64: %1 is no picture that can be shown\n")
+          .arg(QString::fromUtf8(source));
+  const QString made = QStringLiteral("P: Door (block): made 16, 32, 64\n");
+  writeCatalog(raster + block);
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_EQ(out(), wrong + made);
+  QDir(path(QStringLiteral("c/Palettes/Images"))).removeRecursively();
+  writeCatalog(block + raster);
+  EXPECT_EQ(images({kMissing}), tpal::kFindings);
+  EXPECT_EQ(out(), made + wrong);
+}
+
 TEST_F(Images, OfToolsFromOneSourceReadItOnce) {
   const QByteArray source = writeSource();
   QByteArray tools;
@@ -198,6 +239,25 @@ TEST_F(Images, OfCommandsAreTheIconsOfTheProgram) {
   const QByteArray palette = read(QStringLiteral("c/Palettes/p.dtc"));
   EXPECT_EQ(palette.count("resource=\"LINE\""), 3) << palette.constData();
   EXPECT_EQ(palette.count("<Image "), 3);
+  tpal::ConsoleHost::instance().setIcons(nullptr);
+}
+
+TEST_F(Images, ThatAreButtonsAreThereIfTheProgramHasThem) {
+  tpal::ConsoleHost::instance().setIcons(kvMake<LineIcon>().get());
+  const auto button = [&](const QByteArray& resource) {
+    QByteArray all;
+    for (const QByteArray size : {"16", "32", "64"})
+      all += "<Image cx=\"" + size + "\" cy=\"" + size + "\" src=\"%ProgramBtnRes%\" resource=\"" +
+             resource + "\"/>";
+    writeCatalog(
+        tool("{1}", "T", "<Command Macro=\"^C^C_OTHER \"/>")
+            .replace("</ItemName>", "</ItemName><Images option=\"0\">" + all + "</Images>"));
+  };
+  button("LINE");
+  EXPECT_EQ(images(), tpal::kOk) << qPrintable(out());
+  button("NOSUCH");
+  EXPECT_EQ(images(), tpal::kFindings);
+  EXPECT_EQ(out(), QStringLiteral("P: T (command): lacks 16, 32, 64\n"));
   tpal::ConsoleHost::instance().setIcons(nullptr);
 }
 

@@ -30,14 +30,18 @@ constexpr ResultText kResultTexts[] = {
     {Result::kUnreadable, u"The file of \"%1\" cannot be read: %3"},
 };
 
+OdString wordsOf(const OdDbXRefMan::Report& report) {
+  for (const ResultText& row : kResultTexts)
+    if (row.result == report.result)
+      return translated(row.text)
+          .replace(QLatin1String("%3"), report.message)
+          .replace(QLatin1String("%2"), odpath::toPlatform(report.path))
+          .replace(QLatin1String("%1"), report.blockName);
+  return report.message;
+}
+
 void print(CommandContext& context, const std::vector<OdDbXRefMan::Report>& reports) {
-  for (const OdDbXRefMan::Report& report : reports)
-    for (const ResultText& row : kResultTexts)
-      if (row.result == report.result)
-        context.print(translated(row.text)
-                          .replace(QLatin1String("%3"), report.message)
-                          .replace(QLatin1String("%2"), odpath::toPlatform(report.path))
-                          .replace(QLatin1String("%1"), report.blockName));
+  for (const OdDbXRefMan::Report& report : reports) context.print(wordsOf(report));
 }
 
 /// The references of the drawing whose names fit the patterns. Those within others follow them.
@@ -71,9 +75,11 @@ OdDbObjectId referenceTo(CommandContext& context, const OdString& file, bool ove
   std::vector<OdDbXRefMan::Report> reports;
   const OdDbObjectId made =
       OdDbXRefMan::attach(database, path, odpath::titleOf(path), overlay, &reports);
-  print(context, reports);
+  // Who asked for the file learns the reason with the refusal.
   if (!reports.empty() && reports.front().result != Result::kLoaded)
-    throw CommandFailure(translated(u"%1 was not attached.").arg(odpath::toPlatform(path)));
+    throw CommandFailure(translated(u"%1 was not attached: %2")
+                             .arg(odpath::toPlatform(path), wordsOf(reports.front())));
+  print(context, reports);
   return made;
 }
 

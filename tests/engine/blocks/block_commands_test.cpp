@@ -242,7 +242,15 @@ TEST_F(ReferenceTest, FileThatIsMissingOrBrokenAttachesNothing) {
   file.write("no drawing");
   file.close();
   words("XATTACH|" + path("broken.dxf") + "|");
-  EXPECT_TRUE(console().shows(QStringLiteral("was not attached"))) << output().toStdString();
+  // The refusal brings its reason along.
+  EXPECT_TRUE(
+      console().shows(path("broken.dxf") +
+                      QStringLiteral(" was not attached: The file of \"broken\" cannot be read: ")))
+      << output().toStdString();
+  QDir().mkpath(path("folder.dxf"));
+  words("XATTACH|" + path("folder.dxf") + "|");
+  EXPECT_TRUE(console().shows(path("folder.dxf") + QStringLiteral(" is not a file.")))
+      << output().toStdString();
   EXPECT_EQ(database().writeDxf(), before);
 }
 
@@ -487,6 +495,12 @@ TEST_F(RasterTest, RefusesWhatIsNoPictureAndAScaleOfNothing) {
   writePicture("photo.png");
   words("INSERTRASTER|" + path("plan.dxf"));
   EXPECT_TRUE(console().shows(QStringLiteral("cannot be read as a picture")))
+      << output().toStdString();
+  ASSERT_TRUE(QFile::copy(path("photo.png"), path("cut.png")));
+  QFile cut(path("cut.png"));
+  ASSERT_TRUE(cut.resize(cut.size() - 4));
+  words("INSERTRASTER|" + path("cut.png"));
+  EXPECT_TRUE(console().shows(QStringLiteral("cannot be read as a picture: its end is missing")))
       << output().toStdString();
   EXPECT_FALSE(runWith(u"INSERTRASTER",
                        {{u"Path", odpath::fromPlatform(path("photo.png"))}, {u"Scale", 0.0}}, {}));
