@@ -1,5 +1,6 @@
 #include "drafton/previews/stored_preview.h"
 
+#include "drafton/previews/dwg_preview.h"
 #include "drawing/dxf/binary_source.h"
 #include "frame/file_path.h"
 
@@ -114,6 +115,8 @@ QImage pictureOfPreview(const QByteArray& bytes) {
 QImage readStoredPreview(const OdString& path) {
   QFile file(odpath::toPlatform(path));
   if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) return {};
+  if (const std::optional<QByteArray> bytes = dwgPreview(file)) return pictureOfPreview(*bytes);
+  file.seek(0);
   constexpr std::string_view kMark = OdDbDxfBinarySource::kMark;
   const bool isBinary =
       file.read(qint64{kMark.size()}) == QByteArrayView(kMark.data(), kMark.size());

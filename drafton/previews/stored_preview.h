@@ -7,8 +7,8 @@
 
 namespace drafton {
 
-/// The preview picture in a DXF file, text or binary; null if there is none or it cannot be read.
-/// Only that part of the file is read. `path` is a stored path.
+/// The preview picture in a DXF file, text or binary, or in a DWG file; null if there is none or it
+/// cannot be read. Only that part of the file is read. `path` is a stored path.
 QImage readStoredPreview(const OdString& path);
 
 /// The picture in the bytes of a preview: a device-independent bitmap without a file header, or a

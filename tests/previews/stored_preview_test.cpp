@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
@@ -173,4 +174,94 @@ TEST_F(StoredPreviews, KeepTheirProportionsInASquare) {
   ASSERT_EQ(square.size(), QSize(32, 32));
   EXPECT_EQ(qAlpha(square.pixel(16, 2)), 0);
   EXPECT_EQ(qAlpha(square.pixel(16, 16)), 255);
+}
+
+namespace {
+
+template <class T>
+QByteArray littleEndian(T value) {
+  value = qToLittleEndian(value);
+  return QByteArray(reinterpret_cast<const char*>(&value), sizeof(T));
+}
+
+struct DwgPicture {
+  char kind;
+  QByteArray bytes;
+};
+
+/// The beginning of a DWG file, with pictures in the section that its header names.
+QByteArray dwgWith(const std::vector<DwgPicture>& pictures) {
+  const QByteArray mark = QByteArray::fromHex("1F256D07D43628289D57CA3F9D44102B");
+  constexpr std::uint32_t kSection = 0x100;
+  QByteArray file("AC1032");
+  file.resize(0x0D);
+  file += littleEndian(kSection);
+  file.resize(kSection);
+  QByteArray rows, contents;
+  const auto first = static_cast<std::uint32_t>(kSection + 16 + 4 + 1 + 9 * pictures.size());
+  for (const DwgPicture& picture : pictures) {
+    rows += picture.kind + littleEndian(first + static_cast<std::uint32_t>(contents.size())) +
+            littleEndian(static_cast<std::uint32_t>(picture.bytes.size()));
+    contents += picture.bytes;
+  }
+  return file + mark + littleEndian(static_cast<std::uint32_t>(contents.size())) +
+         static_cast<char>(pictures.size()) + rows + contents + QByteArray(200, '\x55');
+}
+
+QByteArray pngOf(const QImage& image) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  return bytes;
+}
+
+const DwgPicture kHeader{1, QByteArray(80, 0)};
+
+} // namespace
+
+TEST_F(StoredPreviews, AreReadFromDwgFiles) {
+  for (const DwgPicture& kept :
+       {DwgPicture{2, bitmapOf(picture())}, DwgPicture{6, pngOf(picture())}}) {
+    write(dwgWith({kHeader, kept}));
+    const QImage found = readStoredPreview(path());
+    ASSERT_EQ(found.size(), QSize(40, 20)) << int{kept.kind};
+    EXPECT_EQ(found.pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(found.pixel(39, 19), qRgb(10, 120, 200));
+  }
+  QImage other(8, 8, QImage::Format_RGB32);
+  other.fill(Qt::green);
+  write(dwgWith({kHeader, {2, bitmapOf(other)}, {6, pngOf(picture())}}));
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20)) << "the better one";
+  write(dwgWith({kHeader, {2, bitmapOf(other)}, {6, QByteArray()}}));
+  EXPECT_EQ(readStoredPreview(path()).size(), QSize(8, 8));
+}
+
+TEST_F(StoredPreviews, OfDwgFilesWithoutAPictureAreNone) {
+  for (const std::vector<DwgPicture>& pictures : {std::vector<DwgPicture>{},
+                                                  {kHeader},
+                                                  {kHeader, {3, QByteArray("a metafile")}},
+                                                  {{6, QByteArray("no PNG")}}}) {
+    write(dwgWith(pictures));
+    EXPECT_TRUE(readStoredPreview(path()).isNull());
+  }
+}
+
+TEST_F(StoredPreviews, OfHostileDwgFilesAreNone) {
+  const QByteArray sound = dwgWith({kHeader, {2, bitmapOf(picture())}});
+  for (qsizetype length = 0; length < 0x100 + 40; ++length) {
+    write(sound.left(length));
+    EXPECT_TRUE(readStoredPreview(path()).isNull()) << length;
+  }
+  constexpr qsizetype kSeeker = 0x0D, kRow = 0x100 + 16 + 4 + 1 + 9;
+  for (const qsizetype at : {kSeeker, kRow + 1, kRow + 5})
+    for (const std::uint32_t value : {0u, 1u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu, 0xFFFFFFF0u}) {
+      QByteArray hostile = sound;
+      write(hostile.replace(at, 4, littleEndian(value)));
+      EXPECT_TRUE(readStoredPreview(path()).isNull()) << at << ' ' << value;
+    }
+  QByteArray marked = sound;
+  marked[0x100] = 0;
+  write(marked);
+  EXPECT_TRUE(readStoredPreview(path()).isNull());
 }
