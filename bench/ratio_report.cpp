@@ -52,13 +52,13 @@ int run(int argc, char** argv, const std::vector<Ratio>& ratios,
   benchmark::RunSpecifiedBenchmarks(&reporter);
 
   std::printf("\n");
-  for (const Ratio& r : ratios)
+  for (const Ratio& r : ratios) {
+    const bool isTime = r.divisor.empty();
     // A filter may have left out what others are compared with.
-    if (reporter.has(r.numerator) && reporter.has(r.divisor))
-      printRow(r.what,
-               r.factor * growth(reporter, r.numerator, r.numeratorBase) /
-                   growth(reporter, r.divisor, r.divisorBase),
-               r.target);
+    if (!reporter.has(r.numerator) || (!isTime && !reporter.has(r.divisor))) continue;
+    const double divisor = isTime ? 1.0 : growth(reporter, r.divisor, r.divisorBase);
+    printRow(r.what, r.factor * growth(reporter, r.numerator, r.numeratorBase) / divisor, r.target);
+  }
   for (const Figure& f : figures) printRow(f.what, f.value, f.target);
   return 0;
 }

@@ -23,6 +23,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
 };
 
 /// `what` takes `numerator` / `divisor` times as long as the baseline; `target` is what we aim at.
+/// Without a divisor it is a time, in seconds times `factor`.
 struct Ratio {
   std::string what;
   std::string numerator;

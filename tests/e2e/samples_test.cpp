@@ -60,6 +60,14 @@ TEST(Samples, AreMadeAlikeEachTimeAndAreSound) {
             QString());
 }
 
+TEST(Samples, GiveEachToolItsPictures) {
+  const RunResult run =
+      runProgram(QStringLiteral("tpal"),
+                 {QStringLiteral("images"), QStringLiteral(SOURCE_DIR "/samples/catalog")});
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_EQ(run.out + run.err, QString()) << "make them with tpal images samples/catalog --missing";
+}
+
 TEST(Samples, OpenWithoutNotes) {
   for (const char* folder : {"blocks", "drawings"}) {
     const QDir place(QStringLiteral(SOURCE_DIR "/samples/") + QLatin1String(folder));
