@@ -1,5 +1,6 @@
 #include "images/image_fixture.h"
 
+#include <QImageReader>
 #include <QPainter>
 
 namespace {
@@ -205,6 +206,7 @@ struct FormatRow {
   std::int32_t code;
   const char* name;
   const char* result;
+  const char* kind; ///< what the file is, whatever its name says
 };
 class ImageFormatTest : public ImageTest, public testing::WithParamInterface<FormatRow> {};
 
@@ -213,19 +215,24 @@ TEST_P(ImageFormatTest, PicksTheFormatByItsCode) {
   const auto image = newImage(3);
   ASSERT_TRUE(image->loadFromFile(stored(QStringLiteral("a.png"))));
   const QString name = QLatin1String(GetParam().name);
+  const QString result = QLatin1String(GetParam().result);
   EXPECT_TRUE(image->saveTo(stored(name), GetParam().code));
-  EXPECT_TRUE(exists(QLatin1String(GetParam().result)));
-  EXPECT_EQ(image->fullPath(), stored(QLatin1String(GetParam().result)));
+  ASSERT_TRUE(exists(result));
+  EXPECT_EQ(image->fullPath(), stored(result));
+  QImageReader reader(folder.filePath(result));
+  reader.setDecideFormatFromContent(true);
+  EXPECT_EQ(reader.format(), GetParam().kind);
+  EXPECT_EQ(reader.read().size(), QSize(10, 10));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Codes, ImageFormatTest,
-    testing::Values(FormatRow{1, "x", "x.bmp"}, FormatRow{6, "x", "x.png"},
-                    FormatRow{5, "x", "x.jpeg"}, FormatRow{77, "x", "x.png"},
-                    FormatRow{0, "x", "x.png"}, FormatRow{3, "x", "x.ico"},
-                    FormatRow{8, "x", "x.tiff"}, FormatRow{-1, "x.tif", "x.tif"},
-                    FormatRow{6, "x.bmp", "x.bmp"}, FormatRow{-1, "x.jpg", "x.jpg"},
-                    FormatRow{-1, "x.bmp", "x.bmp"}, FormatRow{-1, "x", "x.png"}));
+    testing::Values(FormatRow{1, "x", "x.bmp", "bmp"}, FormatRow{3, "x", "x.ico", "ico"},
+                    FormatRow{5, "x", "x.jpeg", "jpeg"}, FormatRow{6, "x", "x.png", "png"},
+                    FormatRow{8, "x", "x.tiff", "tiff"}, FormatRow{77, "x", "x.png", "png"},
+                    FormatRow{0, "x", "x.png", "png"}, FormatRow{6, "x.bmp", "x.bmp", "png"},
+                    FormatRow{-1, "x.jpg", "x.jpg", "jpeg"}, FormatRow{-1, "x.bmp", "x.bmp", "bmp"},
+                    FormatRow{-1, "x.tif", "x.tif", "tiff"}, FormatRow{-1, "x", "x.png", "png"}));
 
 TEST_F(ImageTest, NamesAFormatThatCannotBeWrittenAndWritesNothing) {
   EXPECT_EQ(formatExtension(2), text(u"wmf"));
