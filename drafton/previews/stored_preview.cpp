@@ -2,8 +2,10 @@
 
 #include "drafton/previews/dwg_preview.h"
 #include "drawing/dxf/binary_source.h"
+#include "drawing/pictures/picture_reader.h"
 #include "frame/file_path.h"
 
+#include <QBuffer>
 #include <QByteArrayMatcher>
 #include <QFile>
 #include <QFileInfo>
@@ -97,10 +99,20 @@ QByteArray bytesBehindName(QFile& file, bool isBinary) {
   return {};
 }
 
+/// Null for what is cut off or damaged, or would take too much memory. Of bitmaps what is there is
+/// shown: some programs leave a few bytes out.
+QImage decoded(QByteArray file) {
+  QBuffer buffer(&file);
+  if (!buffer.open(QIODevice::ReadOnly)) return {};
+  OdPictureReader reader(&buffer);
+  const bool isDamaged = reader.isCut() && !file.startsWith("BM");
+  return isDamaged || reader.isTooLarge() ? QImage() : reader.read();
+}
+
 } // namespace
 
 QImage pictureOfPreview(const QByteArray& bytes) {
-  if (bytes.startsWith("\x89PNG")) return QImage::fromData(bytes, "PNG");
+  if (bytes.startsWith("\x89PNG")) return decoded(bytes);
   if (bytes.size() < qsizetype{kInfoHeader} || numberAt<std::uint32_t>(bytes, 0) < kInfoHeader)
     return {};
   QByteArray file(kFileHeader, 0);
@@ -109,7 +121,7 @@ QImage pictureOfPreview(const QByteArray& bytes) {
   qToLittleEndian(static_cast<std::uint32_t>(kFileHeader + bytes.size()), file.data() + 2);
   qToLittleEndian(kFileHeader + numberAt<std::uint32_t>(bytes, 0) + paletteBytes(bytes),
                   file.data() + 10);
-  return QImage::fromData(file + bytes, "BMP");
+  return decoded(file + bytes);
 }
 
 QImage readStoredPreview(const OdString& path) {

@@ -247,6 +247,18 @@ TEST_F(StoredPreviews, OfDwgFilesWithoutAPictureAreNone) {
   }
 }
 
+TEST_F(StoredPreviews, ThatAreDamagedAreNoneWithoutAWordOfTheDecoder) {
+  const QByteArray whole = pngOf(picture());
+  QByteArray damaged = whole;
+  damaged[damaged.indexOf("IDAT") + 10] =
+      static_cast<char>(damaged[damaged.indexOf("IDAT") + 10] ^ 1);
+  testing::internal::CaptureStderr();
+  for (const QByteArray& bytes : {whole.left(60), whole.chopped(4), damaged})
+    EXPECT_TRUE(pictureOfPreview(bytes).isNull());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_EQ(pictureOfPreview(whole).size(), QSize(40, 20));
+}
+
 TEST_F(StoredPreviews, OfHostileDwgFilesAreNone) {
   const QByteArray sound = dwgWith({kHeader, {2, bitmapOf(picture())}});
   for (qsizetype length = 0; length < 0x100 + 40; ++length) {
