@@ -120,9 +120,9 @@ bool BatchRun::drawPicture(Engine& engine) {
   }
   // The drawing is there all the same.
   for (const OdString& file : ImageCache::instance().takeUnshown())
-    failWith(
-        kExitOk,
-        translated(u"%1 is no picture that can be shown; its name stands in its place").arg(file));
+    failWith(kExitOk,
+             translated(u"%1 is no picture that can be shown; its name stands in its place")
+                 .arg(odpath::toPlatform(file)));
   return true;
 }
 

@@ -205,7 +205,7 @@ class ToolPictures(unittest.TestCase):
                                    "--window", "0,0,3,1"])
         self.assertEqual(run.returncode, 0, run.stderr)
         self.assertEqual(sorted(run.stderr.splitlines()), sorted(
-            f"drafton: {self.bench.stored(name)} is no picture that can be shown; its name stands in "
+            f"drafton: {self.bench.path(name)} is no picture that can be shown; its name stands in "
             "its place" for name in names))
         self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, MOST_MEMORY)
         pixels = tool_bench.pixels(self.bench.path("o.png"))

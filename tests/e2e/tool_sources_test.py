@@ -80,20 +80,20 @@ def write_large(start):
 MISSING = 'Could not find the original file "{file}" for block "Door"'
 NO_DRAWING = "this is not a DXF drawing"
 
-# What the file is, how it is made, what is said of it ({file} is its stored path), and whether the
+# What the file is, how it is made, what is said of it ({file} is its path as catalogs have it, {path} as the system has it), and whether the
 # command fails: after the messages of tools themselves the script goes on.
 DRAWINGS = [
     ("missing", write_nothing, MISSING, False),
     ("a folder", write_folder, MISSING, False),
-    ("of no bytes", write_empty, "{file}:1: the file is empty", True),
+    ("of no bytes", write_empty, "{path}:1: the file is empty", True),
     ("a text", write_text, NO_DRAWING, True),
     ("a picture", lambda path: write_picture(path, 4, 4), NO_DRAWING, True),
     ("cut early", write_cut(1 / 3), "the file ends too early", True),
-    ("cut in a record", write_cut(1 / 2), "{file}:", True),
+    ("cut in a record", write_cut(1 / 2), "{path}:", True),
     ("with a block in itself", write_looping,
      'Block "Door" of the source file "{file}" contains itself', False),
     ("500 MB of nothing", write_large(b""), NO_DRAWING, True),
-    ("500 MB that begin well", write_large(b"  0\nSECTION\n  2\nHEADER\n"), "{file}:5: ", True),
+    ("500 MB that begin well", write_large(b"  0\nSECTION\n  2\nHEADER\n"), "{path}:5: ", True),
 ]
 
 CUT = "photo.png cannot be read as a picture: its end is missing"
@@ -208,7 +208,7 @@ class ToolSources(unittest.TestCase):
         path = self.bench.path(name)
         write(path)
         run = self.run_tool(agent, {**self.fields(agent, self.bench.stored(name)), **more})
-        said = message.format(file=self.bench.stored(name), shown=path.name)
+        said = message.format(file=self.bench.stored(name), path=path, shown=path.name)
         self.expect(run, said, fails)
 
     def test_drawings(self):
@@ -222,15 +222,15 @@ class ToolSources(unittest.TestCase):
     # What is said of drawings that are to be attached; without a reason they are attached.
     REFERENCES = {
         "missing": "There is no file ",
-        "a folder": "{file} is not a file.",
-        "of no bytes": "{file} was not attached: ",
+        "a folder": "{path} is not a file.",
+        "of no bytes": "{path} was not attached: ",
         "a text": NO_DRAWING,
         "a picture": NO_DRAWING,
         "cut early": "the file ends too early",
-        "cut in a record": "{file} was not attached: ",
+        "cut in a record": "{path} was not attached: ",
         "with a block in itself": None,
         "500 MB of nothing": NO_DRAWING,
-        "500 MB that begin well": "{file} was not attached: ",
+        "500 MB that begin well": "{path} was not attached: ",
     }
 
     def test_references(self):
