@@ -80,8 +80,9 @@ def write_large(start):
 MISSING = 'Could not find the original file "{file}" for block "Door"'
 NO_DRAWING = "this is not a DXF drawing"
 
-# What the file is, how it is made, what is said of it ({file} is its path as catalogs have it, {path} as the system has it), and whether the
-# command fails: after the messages of tools themselves the script goes on.
+# What the file is, how it is made, what is said of it ({file} is its path as catalogs have it, {path} as
+# the system has it), and whether the command fails: after the messages of tools themselves the script
+# goes on.
 DRAWINGS = [
     ("missing", write_nothing, MISSING, False),
     ("a folder", write_folder, MISSING, False),
