@@ -103,6 +103,24 @@ Rest loadRest(WindowSession& session, int tools) {
   return rest;
 }
 
+int loadRestAndLeave(const QString& folder, const QString& catalogs, int tools) {
+  WindowSession session(catalogs, folder + QStringLiteral("/rest.ini"));
+  const Rest rest = loadRest(session, tools);
+  std::printf("%f %f\n", rest.longestTurn, rest.all);
+  std::fflush(stdout);
+  std::_Exit(session.tools() >= tools ? 0 : 1);
+}
+
+/// The same in a process of its own.
+Rest restOfStart(const QString& folder, const QString& catalogs, const QString& amount) {
+  QProcess process;
+  process.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--rest"), folder, catalogs, amount});
+  if (!process.waitForFinished(120000) || process.exitCode() != 0) qFatal("the tools do not come");
+  const QList<QByteArray> figures = process.readAllStandardOutput().trimmed().split(' ');
+  return {figures.value(0).toDouble(), figures.value(1).toDouble()};
+}
+
 /// Times one thing that a user does, with all that follows from it.
 template <class Act>
 void timed(benchmark::State& state, Act act) {
@@ -251,6 +269,9 @@ int main(int argc, char** argv) {
     return writeCatalogs(arguments.value(2), amount);
   if (arguments.value(1) == QLatin1String("--start"))
     return startAndLeave(arguments.value(2), arguments.value(3));
+  if (arguments.value(1) == QLatin1String("--rest"))
+    return loadRestAndLeave(arguments.value(2), arguments.value(3),
+                            amount.palettes * amount.toolsEach);
 
   const QTemporaryDir folder;
   for (const char* const name : {"many", "large", "none"})
@@ -264,9 +285,11 @@ int main(int argc, char** argv) {
   const QString none = folder.filePath(QStringLiteral("none"));
   WindowSession session(many + u';' + folder.filePath(QStringLiteral("large")),
                         folder.filePath(QStringLiteral("settings.ini")));
-  const Rest rest = loadRest(session, amount.palettes * amount.toolsEach + amount.tools);
+  loadRest(session, amount.palettes * amount.toolsEach + amount.tools);
   if (!session.tree() || !session.list() || !session.selectPalette(kLarge))
     qFatal("the palettes do not open");
+  const Rest rest =
+      restOfStart(folder.path(), many, isQuick ? QStringLiteral("--quick") : QString());
   const double idleCost = idle(isQuick ? 100 : 5000);
 
   const auto add = [](const char* name, auto&& run, auto... arguments_) {
