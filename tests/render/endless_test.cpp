@@ -116,16 +116,8 @@ TEST(MultipleLines, LookAsTheirStylesSay) {
   const OdDbDatabasePtr db =
       OdDbDatabase::readFile(QStringLiteral(SOURCE_DIR "/tests/data/multiple_lines.dxf"));
   Scene scene(*db);
-  QImage image(480, 360, QImage::Format_RGB32);
-  const RenderOptions options;
-  image.fill(QColor::fromRgba(options.ground.color()));
-  OdGeExtents3d box;
-  box.addPoint({-30, -30, 0});
-  box.addPoint({90, 60, 0});
-  View view;
-  view.size = image.size();
-  render(image, scene, db->getModelSpaceId(), view.fitted(box), options);
-  EXPECT_TRUE(looksLike(image, "multiple_lines"));
+  EXPECT_TRUE(
+      looksLike(modelPicture(*db, scene, boxOf(-30, -30, 90, 60), {480, 360}), "multiple_lines"));
 }
 
 TEST(EndlessLine, SeenFromItsEndOrBesideThePictureIsNotSeen) {

@@ -56,14 +56,5 @@ TEST(KeptEntities, AreShownAndStayReadableInMirrors) {
   mirror(1, OdGeMatrix3d::mirroring({-2, 0, 0}, OdGeVector3d::xAxis()));
   mirror(4, OdGeMatrix3d::mirroring({0, -17, 0}, OdGeVector3d::yAxis()));
   Scene scene(*db);
-  QImage image(640, 400, QImage::Format_RGB32);
-  const RenderOptions options;
-  image.fill(QColor::fromRgba(options.ground.color()));
-  OdGeExtents3d box;
-  box.addPoint({-38, -31, 0});
-  box.addPoint({38, 15, 0});
-  View view;
-  view.size = image.size();
-  render(image, scene, db->getModelSpaceId(), view.fitted(box), options);
-  EXPECT_TRUE(looksLike(image, "kept"));
+  EXPECT_TRUE(looksLike(modelPicture(*db, scene, boxOf(-38, -31, 38, 15), {640, 400}), "kept"));
 }

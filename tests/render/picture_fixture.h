@@ -11,6 +11,25 @@ namespace render_test {
 
 using namespace drafton;
 
+/// The model space of a drawing from corner to corner.
+inline QImage modelPicture(const OdDbDatabase& database, Scene& scene, const OdGeExtents3d& box,
+                           QSize size, const RenderOptions& options = {}) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(QColor::fromRgba(options.ground.color()));
+  View view;
+  view.size = size;
+  render(image, scene, database.getModelSpaceId(), view.fitted(box), options);
+  return image;
+}
+
+/// The box between two corners.
+inline OdGeExtents3d boxOf(double x0, double y0, double x1, double y1) {
+  OdGeExtents3d box;
+  box.addPoint({x0, y0, 0});
+  box.addPoint({x1, y1, 0});
+  return box;
+}
+
 /// A new drawing with a scene, and short ways to fill it.
 class PictureTest : public testing::Test {
  protected:
@@ -60,15 +79,7 @@ class PictureTest : public testing::Test {
   /// The model space from corner to corner.
   QImage picture(double x0, double y0, double x1, double y1, QSize size = {320, 240},
                  RenderOptions options = {}) {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(QColor::fromRgba(options.ground.color()));
-    OdGeExtents3d box;
-    box.addPoint({x0, y0, 0});
-    box.addPoint({x1, y1, 0});
-    View view;
-    view.size = size;
-    render(image, m_scene, m_database->getModelSpaceId(), view.fitted(box), options);
-    return image;
+    return modelPicture(*m_database, m_scene, boxOf(x0, y0, x1, y1), size, options);
   }
 
  private:
