@@ -7,6 +7,8 @@
 #include "tools/object_property_families.h"
 #include "tools/tool_source.h"
 
+#include <algorithm>
+
 namespace tc {
 namespace {
 
@@ -87,6 +89,9 @@ constexpr std::array kProperties = {
                               &Hatch::getGradientNamesEnum, OdString, Always, GradientOnly>},
 };
 
+constexpr QStringView kNoAuxScale = u"None";
+constexpr std::array<QStringView, 3> kAuxScales = {u"Dimscale", u"Plot scale", kNoAuxScale};
+
 OdString translated(QStringView text) { return host::translate(text.toString()); }
 
 /// Entries whose values are their positions.
@@ -134,11 +139,20 @@ OdTcChoices OdTcToolHatchCommandImpl::getHatchTypeEnum() const {
 }
 
 OdString OdTcToolHatchCommandImpl::getAuxScale() const {
-  return m_fields.auxScale.isNull() ? translated(u"None") : m_fields.auxScale;
+  return translated(m_fields.auxScale.isNull() ? kNoAuxScale : QStringView(m_fields.auxScale));
+}
+
+/// Files hold the English word, so that a palette means the same in every language.
+void OdTcToolHatchCommandImpl::setAuxScale(const OdString& text) {
+  const auto word = std::find_if(kAuxScales.begin(), kAuxScales.end(),
+                                 [&](QStringView row) { return translated(row) == text; });
+  m_fields.auxScale = word == kAuxScales.end() ? text : word->toString();
 }
 
 OdTcChoices OdTcToolHatchCommandImpl::getAuxScaleEnum() const {
-  return {named(u"Dimscale"), named(u"Plot scale"), named(u"None")};
+  OdTcChoices choices;
+  for (const QStringView word : kAuxScales) choices.push_back(named(word));
+  return choices;
 }
 
 OdString OdTcToolHatchCommandImpl::getGradientName() const {
@@ -182,7 +196,7 @@ bool OdTcToolHatchCommandImpl::readElements(OdTcFiler* filer) {
 
 void OdTcToolHatchCommandImpl::writeProperties(OdTcFiler* filer) {
   Fields fields = m_fields;
-  fields.auxScale = getAuxScale();
+  if (fields.auxScale.isNull()) fields.auxScale = kNoAuxScale.toString();
   writeAgentFields<Fields>(filer, fields, kFields);
   filer->writeObject(m_colors ? m_colors : odrxMake<OdTcGradientColorsImpl>());
 }

@@ -20,7 +20,7 @@ struct OdTcHatchFields {
   OdString patternName;
   OdString sourceFile = QStringLiteral("draftoniso.pat");
   OdString gradientName = QStringLiteral("LINEAR"); ///< the stored key
-  OdString auxScale;                                ///< null: "None" in the user's language
+  OdString auxScale;                                ///< in English; null: "None"
   double angle = 0.0;
   double scale = 0.0;
   double spacing = 0.0;
@@ -95,7 +95,7 @@ class OdTcToolHatchCommandImpl final : public OdTcToolActionAgentImplBase<OdTcTo
   double getScale() const { return m_fields.scale; }
   void setScale(double scale) { m_fields.scale = scale; }
   OdString getAuxScale() const;
-  void setAuxScale(const OdString& text) { m_fields.auxScale = text; }
+  void setAuxScale(const OdString& text);
   OdTcChoices getAuxScaleEnum() const;
   double getSpacing() const { return m_fields.spacing; }
   void setSpacing(double spacing) { m_fields.spacing = spacing; }

@@ -147,6 +147,19 @@ TEST_F(HatchToolTest, ScaleGrowsWithEachRunUnderDimscale) {
   EXPECT_EQ(agent->getScale(), 32);
 }
 
+TEST_F(HatchToolTest, FilesHoldTheScaleOfDrawingsInEnglish) {
+  host().translations[text(u"Dimscale")] = text(u"Bemaßung");
+  host().translations[text(u"None")] = text(u"Ohne");
+  EXPECT_EQ(agent->getAuxScale(), text(u"Ohne"));
+  agent->setAuxScale(text(u"Bemaßung"));
+  EXPECT_EQ(agent->getAuxScale(), text(u"Bemaßung"));
+  host().translations.clear();
+  EXPECT_EQ(agent->getAuxScale(), text(u"Dimscale"));
+  read(u"AuxiliaryScale", u"Plot scale");
+  host().translations[text(u"Plot scale")] = text(u"Plotmaßstab");
+  EXPECT_EQ(agent->getAuxScale(), text(u"Plotmaßstab"));
+}
+
 TEST_F(HatchToolTest, PlotScaleTakesThePlaceOfTheStoredScale) {
   const OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
   document.databaseOfDocument = drawing;

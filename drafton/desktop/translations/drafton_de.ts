@@ -2997,7 +2997,7 @@
     </message>
     <message>
         <source>_USER</source>
-        <translation>_BENUTZER</translation>
+        <translation>_USER</translation>
     </message>
     <message>
         <source>The script ends while %1 waits for input.</source>
@@ -3694,6 +3694,1180 @@
     <message>
         <source>Ask &amp;Later</source>
         <translation>&amp;Später fragen</translation>
+    </message>
+    <message>
+        <source>it holds no catalog</source>
+        <translation>sie enthält keinen Katalog</translation>
+    </message>
+    <message>
+        <source>a NUL byte</source>
+        <translation>ein NUL-Byte</translation>
+    </message>
+    <message>
+        <source>bytes that are no UTF-8 (%1 in all)</source>
+        <translation>Bytes, die kein UTF-8 sind (insgesamt %1)</translation>
+    </message>
+    <message>
+        <source>its text is in %1, and only UTF-8 is read</source>
+        <translation>ihr Text ist in %1, gelesen wird nur UTF-8</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>"%1" is closed but was not opened</source>
+        <translation>"%1" wird geschlossen, war aber nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>an attribute of the element "%1" is broken</source>
+        <translation>ein Attribut des Elements "%1" ist beschädigt</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 deep</source>
+        <translation>Elemente sind mehr als %1-fach geschachtelt</translation>
+    </message>
+    <message>
+        <source>the XML declaration does not end</source>
+        <translation>die XML-Deklaration endet nicht</translation>
+    </message>
+    <message>
+        <source>the element "%1" has more than %2 attributes</source>
+        <translation>das Element "%1" hat mehr als %2 Attribute</translation>
+    </message>
+    <message>
+        <source>the element "%1" is closed as "%2"</source>
+        <translation>das Element "%1" wird als "%2" geschlossen</translation>
+    </message>
+    <message>
+        <source>the element "%1" is not closed</source>
+        <translation>das Element "%1" wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>the end of the element "%1" is broken</source>
+        <translation>das Ende des Elements "%1" ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the entity "%1" is not known and stands as it is</source>
+        <translation>die Entität "%1" ist nicht bekannt und bleibt, wie sie steht</translation>
+    </message>
+    <message>
+        <source>the tag of the element "%1" does not end</source>
+        <translation>das Tag des Elements "%1" endet nicht</translation>
+    </message>
+    <message>
+        <source>the text that follows the last element is left out</source>
+        <translation>der Text hinter dem letzten Element wird weggelassen</translation>
+    </message>
+    <message>
+        <source>there is no character "%1"</source>
+        <translation>es gibt kein Zeichen "%1"</translation>
+    </message>
+    <message>
+        <source>this is no XML: there is no element</source>
+        <translation>das ist kein XML: es gibt kein Element</translation>
+    </message>
+    <message>
+        <source>the CDATA section does not end</source>
+        <translation>der CDATA-Abschnitt endet nicht</translation>
+    </message>
+    <message>
+        <source>the comment does not end</source>
+        <translation>der Kommentar endet nicht</translation>
+    </message>
+    <message>
+        <source>the tag does not end</source>
+        <translation>das Tag endet nicht</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MB</source>
+        <translation>die Datei ist größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>it is an absolute path</source>
+        <translation>es ist ein absoluter Pfad</translation>
+    </message>
+    <message>
+        <source>it leads out of its folder</source>
+        <translation>er führt aus seinem Ordner hinaus</translation>
+    </message>
+    <message>
+        <source>it lies on a network share</source>
+        <translation>es liegt auf einer Netzfreigabe</translation>
+    </message>
+    <message>
+        <source>it names a device</source>
+        <translation>er nennt ein Gerät</translation>
+    </message>
+    <message>
+        <source>Error while reading tool palette file.</source>
+        <translation>Fehler beim Lesen der Datei einer Werkzeugpalette.</translation>
+    </message>
+    <message>
+        <source>Tool Palettes</source>
+        <translation>Werkzeugpaletten</translation>
+    </message>
+    <message>
+        <source>it holds no palette</source>
+        <translation>sie enthält keine Palette</translation>
+    </message>
+    <message>
+        <source>its palette is empty</source>
+        <translation>ihre Palette ist leer</translation>
+    </message>
+    <message>
+        <source>Error: cannot read file %1: %2</source>
+        <translation>Fehler: Die Datei %1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>The file %1, which could not be read, is kept as %2</source>
+        <translation>Die Datei %1, die nicht lesbar war, ist als %2 aufgehoben</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>there is no folder to keep it in</source>
+        <translation>es gibt keinen Ordner, in dem sie aufgehoben werden könnte</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to open file</source>
+        <translation>die Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Error parsing Element.</source>
+        <translation>ein Element ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>Failed to read Element name</source>
+        <translation>der Name eines Elements ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Error reading Element value.</source>
+        <translation>der Wert eines Elements ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Error reading Attributes.</source>
+        <translation>Attribute sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Error: empty tag.</source>
+        <translation>ein Tag ist leer.</translation>
+    </message>
+    <message>
+        <source>Error reading end tag.</source>
+        <translation>ein schließendes Tag ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Error parsing Unknown.</source>
+        <translation>ein unbekannter Abschnitt ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>Error parsing Comment.</source>
+        <translation>ein Kommentar ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>Error parsing Declaration.</source>
+        <translation>die Deklaration ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>Error document empty.</source>
+        <translation>das Dokument ist leer.</translation>
+    </message>
+    <message>
+        <source>Error null (0) or unexpected EOF found in input stream.</source>
+        <translation>ein NUL-Zeichen oder ein zu frühes Ende.</translation>
+    </message>
+    <message>
+        <source>Error parsing CDATA.</source>
+        <translation>ein CDATA-Abschnitt ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>the catalog has no file yet</source>
+        <translation>der Katalog hat noch keine Datei</translation>
+    </message>
+    <message>
+        <source>
+Cannot save the palette: %s</source>
+        <translation>
+Die Palette kann nicht gespeichert werden: %s</translation>
+    </message>
+    <message>
+        <source>
+Cannot save the picture: %s</source>
+        <translation>
+Das Bild kann nicht gespeichert werden: %s</translation>
+    </message>
+    <message>
+        <source>
+Pictures not saved in all: %s</source>
+        <translation>
+Insgesamt nicht gespeicherte Bilder: %s</translation>
+    </message>
+    <message>
+        <source>it leads out of the store's folder</source>
+        <translation>es führt aus dem Ordner der Ablage hinaus</translation>
+    </message>
+    <message>
+        <source>it names no file</source>
+        <translation>es nennt keine Datei</translation>
+    </message>
+    <message>
+        <source>it points to no palettes</source>
+        <translation>sie verweist auf keine Paletten</translation>
+    </message>
+    <message>
+        <source>the catalog is only read as far as this: %1</source>
+        <translation>der Katalog ist nur bis hierher gelesen: %1</translation>
+    </message>
+    <message>
+        <source>the entry %1 is not followed: %2</source>
+        <translation>dem Eintrag %1 wird nicht gefolgt: %2</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>the palette "%1" stands in the catalog itself, and is not taken</source>
+        <translation>die Palette "%1" steht im Katalog selbst und wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>there are no palettes in the folder</source>
+        <translation>im Ordner sind keine Paletten</translation>
+    </message>
+    <message>
+        <source>
+Groups cannot be nested any deeper.</source>
+        <translation>
+Gruppen lassen sich nicht tiefer schachteln.</translation>
+    </message>
+    <message>
+        <source>Pictures for dark windows that were left out: %1</source>
+        <translation>Weggelassene Bilder für dunkle Fenster: %1</translation>
+    </message>
+    <message>
+        <source>The folder of the pictures, "%1", is not looked into: %2.</source>
+        <translation>In den Ordner der Bilder, "%1", wird nicht gesehen: %2.</translation>
+    </message>
+    <message>
+        <source>The palette's own picture "%1" is missing.</source>
+        <translation>Das eigene Bild der Palette, "%1", fehlt.</translation>
+    </message>
+    <message>
+        <source>it is the root folder</source>
+        <translation>es ist der Wurzelordner</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; holds no value and ends the reading of %2: not read are %3</source>
+        <translation>&lt;%1&gt; enthält keinen Wert und beendet das Lesen von %2: nicht gelesen sind %3</translation>
+    </message>
+    <message>
+        <source>a tool of several commands, and none of them draws a "%1" here</source>
+        <translation>ein Werkzeug aus mehreren Befehlen, und keiner davon zeichnet hier "%1"</translation>
+    </message>
+    <message>
+        <source>entries of the kind "%1" have no place here</source>
+        <translation>Einträge der Art "%1" haben hier keinen Platz</translation>
+    </message>
+    <message>
+        <source>it is of type %1, which cannot run here</source>
+        <translation>es ist vom Typ %1, der hier nicht läuft</translation>
+    </message>
+    <message>
+        <source>its record "%1" belongs to another product; the tool does nothing</source>
+        <translation>sein Eintrag "%1" gehört zu einem anderen Produkt; das Werkzeug tut nichts</translation>
+    </message>
+    <message>
+        <source>its source is a link that leads to %1</source>
+        <translation>seine Quelle ist eine Verknüpfung, die zu %1 führt</translation>
+    </message>
+    <message>
+        <source>its source is not looked for: %1</source>
+        <translation>seine Quelle wird nicht gesucht: %1</translation>
+    </message>
+    <message>
+        <source>one command in the place of several</source>
+        <translation>ein Befehl statt mehrerer</translation>
+    </message>
+    <message>
+        <source>the command "%1" is not available here</source>
+        <translation>den Befehl "%1" gibt es hier nicht</translation>
+    </message>
+    <message>
+        <source>the file does not say what it does</source>
+        <translation>die Datei sagt nicht, was es tut</translation>
+    </message>
+    <message>
+        <source>the macro in its record "%1" is now a command</source>
+        <translation>das Makro in seinem Eintrag "%1" ist jetzt ein Befehl</translation>
+    </message>
+    <message>
+        <source>tools of the kind "%1" cannot run here</source>
+        <translation>Werkzeuge der Art "%1" laufen hier nicht</translation>
+    </message>
+    <message>
+        <source>the file cannot be replaced</source>
+        <translation>die Datei kann nicht ersetzt werden</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written</source>
+        <translation>das Bild kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the palette could not be read</source>
+        <translation>die Palette war nicht lesbar</translation>
+    </message>
+    <message>
+        <source>A picture is not saved: %1</source>
+        <translation>Ein Bild ist nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Further palettes in the file, which are not taken: %1</source>
+        <translation>Weitere Paletten in der Datei, die nicht übernommen werden: %1</translation>
+    </message>
+    <message>
+        <source>Kinds of tool that cannot run here: %1</source>
+        <translation>Arten von Werkzeugen, die hier nicht laufen: %1</translation>
+    </message>
+    <message>
+        <source>The palette has another list of tools behind these, which are not taken: %1</source>
+        <translation>Hinter diesen hat die Palette noch eine Liste von Werkzeugen, die nicht übernommen werden: %1</translation>
+    </message>
+    <message>
+        <source>
+Skipped unsupported tool: %s</source>
+        <translation>
+Nicht unterstütztes Werkzeug übergangen: %s</translation>
+    </message>
+    <message>
+        <source>another import is under way</source>
+        <translation>ein anderer Import läuft noch</translation>
+    </message>
+    <message>
+        <source>it is a catalog, which only points to palettes</source>
+        <translation>es ist ein Katalog, der nur auf Paletten verweist</translation>
+    </message>
+    <message>
+        <source>it stands behind an empty element, which ends the list</source>
+        <translation>es steht hinter einem leeren Element, das die Liste beendet</translation>
+    </message>
+    <message>
+        <source>the catalog %1 cannot be read: %2</source>
+        <translation>der Katalog %1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>the import was cancelled</source>
+        <translation>der Import wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>there is no hatch pattern "%1" here</source>
+        <translation>das Schraffurmuster "%1" gibt es hier nicht</translation>
+    </message>
+    <message>
+        <source>
+Cannot import %s: %s</source>
+        <translation>
+%s kann nicht importiert werden: %s</translation>
+    </message>
+    <message>
+        <source>
+Cannot save the catalog: %s</source>
+        <translation>
+Der Katalog kann nicht gespeichert werden: %s</translation>
+    </message>
+    <message>
+        <source>
+Error: cannot find catalog file: %s</source>
+        <translation>
+Fehler: Die Katalogdatei ist nicht zu finden: %s</translation>
+    </message>
+    <message>
+        <source>
+The palette file %s could not be read, and is left as it is until you save it.</source>
+        <translation>
+Die Palettendatei %s war nicht lesbar und bleibt, wie sie ist, bis Sie sie speichern.</translation>
+    </message>
+    <message>
+        <source>
+Cannot delete the palette file %s.</source>
+        <translation>
+Die Palettendatei %s kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>
+The file %s does not belong to the catalog alone, and is not deleted.</source>
+        <translation>
+Die Datei %s gehört nicht allein zum Katalog und wird nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>
+The file %s is that of another palette too, and is not deleted.</source>
+        <translation>
+Die Datei %s ist auch die einer anderen Palette und wird nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>
+Tool "%s" cannot be run.</source>
+        <translation>
+Das Werkzeug "%s" kann nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>
+Tool "%s" cannot be run: the drawing is locked.</source>
+        <translation>
+Das Werkzeug "%s" kann nicht ausgeführt werden: die Zeichnung ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>%1 is no picture that can be shown</source>
+        <translation>%1 ist kein Bild, das gezeigt werden kann</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be shown: %2 by %3 pixels</source>
+        <translation>%1 ist zu groß, um gezeigt zu werden: %2 mal %3 Pixel</translation>
+    </message>
+    <message>
+        <source>%1: pictures of this kind cannot be written</source>
+        <translation>%1: Bilder dieser Art können nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1: the file cannot be replaced</source>
+        <translation>%1: die Datei kann nicht ersetzt werden</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>es gibt keine Datei %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 is a file and no folder</source>
+        <translation>%1: %2 ist eine Datei und kein Ordner</translation>
+    </message>
+    <message>
+        <source>%1: the folder %2 cannot be made</source>
+        <translation>%1: der Ordner %2 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Block tool instrument</source>
+        <translation>Blockwerkzeug</translation>
+    </message>
+    <message>
+        <source>Hatch tool instrument</source>
+        <translation>Schraffurwerkzeug</translation>
+    </message>
+    <message>
+        <source>Raster tool instrument</source>
+        <translation>Bildwerkzeug</translation>
+    </message>
+    <message>
+        <source>%1 is not imported: %2.</source>
+        <translation>%1 ist nicht importiert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not written: %2.</source>
+        <translation>%1 ist nicht geschrieben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is now the palette "%2".</source>
+        <translation>%1 ist jetzt die Palette "%2".</translation>
+    </message>
+    <message>
+        <source>%1 is written.</source>
+        <translation>%1 ist geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1: its picture is missing.</source>
+        <translation>%1: sein Bild fehlt.</translation>
+    </message>
+    <message>
+        <source>%1: the file "%2" is missing.</source>
+        <translation>%1: die Datei "%2" fehlt.</translation>
+    </message>
+    <message>
+        <source>%1: the picture "%2" cannot be read.</source>
+        <translation>%1: das Bild "%2" ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>%1: the picture "%2" is missing.</source>
+        <translation>%1: das Bild "%2" fehlt.</translation>
+    </message>
+    <message>
+        <source>%1: the picture "%2" is refused: it leads out of its folder.</source>
+        <translation>%1: das Bild "%2" wird abgelehnt: es führt aus seinem Ordner hinaus.</translation>
+    </message>
+    <message>
+        <source>There is no catalog to take the palette.</source>
+        <translation>Es gibt keinen Katalog, der die Palette aufnimmt.</translation>
+    </message>
+    <message>
+        <source>There is no palette "%1".</source>
+        <translation>Es gibt keine Palette "%1".</translation>
+    </message>
+    <message>
+        <source>File to write: </source>
+        <translation>Zu schreibende Datei: </translation>
+    </message>
+    <message>
+        <source>Folder of the catalog &lt;the default&gt;: </source>
+        <translation>Ordner des Katalogs &lt;der übliche&gt;: </translation>
+    </message>
+    <message>
+        <source>Group &lt;none&gt;: </source>
+        <translation>Gruppe &lt;keine&gt;: </translation>
+    </message>
+    <message>
+        <source>Palette file: </source>
+        <translation>Palettendatei: </translation>
+    </message>
+    <message>
+        <source>Palette: </source>
+        <translation>Palette: </translation>
+    </message>
+    <message>
+        <source>%1 gives no tool: %2</source>
+        <translation>%1 ergibt kein Werkzeug: %2</translation>
+    </message>
+    <message>
+        <source>%1 is now the tool "%2".</source>
+        <translation>%1 ist jetzt das Werkzeug "%2".</translation>
+    </message>
+    <message>
+        <source>The block "%1"</source>
+        <translation>Der Block "%1"</translation>
+    </message>
+    <message>
+        <source>The clipboard</source>
+        <translation>Die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>The object %1</source>
+        <translation>Das Objekt %1</translation>
+    </message>
+    <message>
+        <source>The palette "%1" cannot be saved: %2</source>
+        <translation>Die Palette "%1" kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>The tool "%1" has no picture: %2</source>
+        <translation>Das Werkzeug "%1" hat kein Bild: %2</translation>
+    </message>
+    <message>
+        <source>Tools cannot be made from "%1".</source>
+        <translation>Aus "%1" lassen sich keine Werkzeuge erzeugen.</translation>
+    </message>
+    <message>
+        <source>Block: </source>
+        <translation>Block: </translation>
+    </message>
+    <message>
+        <source>Block &lt;all&gt;: </source>
+        <translation>Block &lt;alle&gt;: </translation>
+    </message>
+    <message>
+        <source>Drawing file: </source>
+        <translation>Zeichnungsdatei: </translation>
+    </message>
+    <message>
+        <source>File: </source>
+        <translation>Datei: </translation>
+    </message>
+    <message>
+        <source>Group of the new palette &lt;none&gt;: </source>
+        <translation>Gruppe der neuen Palette &lt;keine&gt;: </translation>
+    </message>
+    <message>
+        <source>Make tools from [Object/Block/Drawing/File/Command/Paste] &lt;Object&gt;: </source>
+        <translation>Werkzeuge erzeugen aus [Object/Block/Drawing/File/Command/Paste] &lt;Object&gt;: </translation>
+    </message>
+    <message>
+        <source>Value must be an digit.</source>
+        <translation>Der Wert muss eine Ziffer sein.</translation>
+    </message>
+    <message>
+        <source>The drawing has no block definitions.</source>
+        <translation>Die Zeichnung hat keine Blockdefinitionen.</translation>
+    </message>
+    <message>
+        <source>Error reading file.</source>
+        <translation>Fehler beim Lesen der Datei.</translation>
+    </message>
+    <message>
+        <source>Cannot find catalog in the specified folder.
+</source>
+        <translation>Im angegebenen Ordner ist kein Katalog zu finden.
+</translation>
+    </message>
+    <message>
+        <source>Cannot find catalog in the specified folder.</source>
+        <translation>Im angegebenen Ordner ist kein Katalog zu finden.</translation>
+    </message>
+    <message>
+        <source>Before you create the tool you need to save the drawing.
+</source>
+        <translation>Bevor Sie das Werkzeug erzeugen, müssen Sie die Zeichnung speichern.
+</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>General.Color</source>
+        <translation>Allgemein.Farbe</translation>
+    </message>
+    <message>
+        <source>General.Layer</source>
+        <translation>Allgemein.Layer</translation>
+    </message>
+    <message>
+        <source>General.Line type</source>
+        <translation>Allgemein.Linientyp</translation>
+    </message>
+    <message>
+        <source>General.Linetype scale</source>
+        <translation>Allgemein.Linientypfaktor</translation>
+    </message>
+    <message>
+        <source>General.Dimstyle</source>
+        <translation>Allgemein.Dimstil</translation>
+    </message>
+    <message>
+        <source>General.Plot style</source>
+        <translation>Allgemein.Plotstil</translation>
+    </message>
+    <message>
+        <source>General.Line weight</source>
+        <translation>Allgemein.Linienstärke</translation>
+    </message>
+    <message>
+        <source>General.Transparency</source>
+        <translation>Allgemein.Transparenz</translation>
+    </message>
+    <message>
+        <source>General.Text style</source>
+        <translation>Allgemein.Textstil</translation>
+    </message>
+    <message>
+        <source>General.Dimension style</source>
+        <translation>Allgemein.Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>Do you want to remove the palette "%s"? This action cannot be undone.</source>
+        <translation>Möchten Sie die Palette "%s" entfernen? Das kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Do you want to remove the tool "%s"? This action cannot be undone.</source>
+        <translation>Möchten Sie das Werkzeug "%s" entfernen? Das kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Change icon size</source>
+        <translation>Größe der Symbole ändern</translation>
+    </message>
+    <message>
+        <source>Change view style</source>
+        <translation>Darstellung ändern</translation>
+    </message>
+    <message>
+        <source>Are you sure want to remove selected items? This action cannot be undone.</source>
+        <translation>Möchten Sie die gewählten Einträge wirklich entfernen? Das kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Tool palettes</source>
+        <translation>Werkzeugpaletten</translation>
+    </message>
+    <message>
+        <source>The tool palette you're loading contains multitools with pop-up menu
+which includes drafting and dimensioning commands.
+This version doesn't support multitools,&#xd;
+ so they will be converted to regular with current tool.</source>
+        <translation>Die Werkzeugpalette, die Sie laden, enthält Mehrfachwerkzeuge mit einem Menü
+aus Zeichen- und Bemaßungsbefehlen.
+Diese Version unterstützt keine Mehrfachwerkzeuge,&#xd;
+ sie werden deshalb zu gewöhnlichen mit ihrem aktuellen Werkzeug.</translation>
+    </message>
+    <message>
+        <source>
+Multitool "%s" has been converted to regular.</source>
+        <translation>
+Das Mehrfachwerkzeug "%s" ist jetzt ein gewöhnliches.</translation>
+    </message>
+    <message>
+        <source>The tool palette you're loading contains unsupported tools.
+This version of program doesn't support "Visual Style, Light, MLeader,Camera,Table,Text, Separator" tools,
+so they will be excluded from tool palette.</source>
+        <translation>Die Werkzeugpalette, die Sie laden, enthält nicht unterstützte Werkzeuge.
+Diese Version des Programms unterstützt die Werkzeuge "Visueller Stil, Licht, Multi-Führungslinie, Kamera, Tabelle, Text, Trennlinie" nicht,
+sie werden deshalb aus der Werkzeugpalette weggelassen.</translation>
+    </message>
+    <message>
+        <source>Tool Palette Import</source>
+        <translation>Import von Werkzeugpaletten</translation>
+    </message>
+    <message>
+        <source>Small|Normal|Large</source>
+        <translation>Klein|Normal|Groß</translation>
+    </message>
+    <message>
+        <source>
+Execution canceled. Tool "%s" is already running in document "%s"</source>
+        <translation>
+Ausführung abgebrochen. Das Werkzeug "%s" läuft schon im Dokument "%s"</translation>
+    </message>
+    <message>
+        <source>
+Definition of block "%s" is not found in the source file "%s"</source>
+        <translation>
+Die Definition des Blocks "%s" ist in der Quelldatei "%s" nicht zu finden</translation>
+    </message>
+    <message>
+        <source>
+Could not find the original file "%s" for block "%s"</source>
+        <translation>
+Die Originaldatei "%s" des Blocks "%s" ist nicht zu finden</translation>
+    </message>
+    <message>
+        <source>Change active view</source>
+        <translation>Zwischen Baum und Liste wechseln</translation>
+    </message>
+    <message>
+        <source>-- use current</source>
+        <translation>-- aktuellen verwenden</translation>
+    </message>
+    <message>
+        <source>ByLayer</source>
+        <translation>ByLayer</translation>
+    </message>
+    <message>
+        <source>ByBlock</source>
+        <translation>ByBlock</translation>
+    </message>
+    <message>
+        <source>ByDefault</source>
+        <translation>ByDefault</translation>
+    </message>
+    <message>
+        <source>Continuous</source>
+        <translation>Continuous</translation>
+    </message>
+    <message>
+        <source>
+Layer "%s" is frozen and cannot be made current.</source>
+        <translation>
+Der Layer "%s" ist gefroren und kann nicht aktuell werden.</translation>
+    </message>
+    <message>
+        <source>
+%s: "%s" cannot be set, the drawing's own value stays.</source>
+        <translation>
+%s: "%s" kann nicht gesetzt werden, der Wert der Zeichnung bleibt.</translation>
+    </message>
+    <message>
+        <source>
+%s: "%s" is no value for it, the usual one is taken.</source>
+        <translation>
+%s: "%s" ist dafür kein Wert, genommen wird der übliche.</translation>
+    </message>
+    <message>
+        <source>
+Cannot make the %s "%s": %s.</source>
+        <translation>
+Nicht anzulegen: %s "%s", denn %s.</translation>
+    </message>
+    <message>
+        <source>
+"%s" belongs to an external reference and cannot be used.</source>
+        <translation>
+"%s" gehört zu einer externen Referenz und ist nicht zu gebrauchen.</translation>
+    </message>
+    <message>
+        <source>names must not begin or end with a blank</source>
+        <translation>Namen dürfen nicht mit einem Leerzeichen beginnen oder enden</translation>
+    </message>
+    <message>
+        <source>names must not have control characters</source>
+        <translation>Namen dürfen keine Steuerzeichen haben</translation>
+    </message>
+    <message>
+        <source>names must not have the character %s</source>
+        <translation>Namen dürfen das Zeichen %s nicht haben</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>
+Cannot put back the drawing's %s: %s</source>
+        <translation>
+In der Zeichnung lässt sich "%s" nicht zurücksetzen: %s</translation>
+    </message>
+    <message>
+        <source>
+Cannot set the drawing's %s: %s</source>
+        <translation>
+In der Zeichnung lässt sich "%s" nicht setzen: %s</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>dimension style</source>
+        <translation>Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>line type</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>text style</source>
+        <translation>Textstil</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>Zylinder</translation>
+    </message>
+    <message>
+        <source>Inversed-cylinder</source>
+        <translation>Zylinder, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Spherical</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>Inversed-spherical</source>
+        <translation>Kugel, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Hemispherical</source>
+        <translation>Halbkugel</translation>
+    </message>
+    <message>
+        <source>Inversed-hemispherical</source>
+        <translation>Halbkugel, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Curved</source>
+        <translation>Gebogen</translation>
+    </message>
+    <message>
+        <source>Inversed-curved</source>
+        <translation>Gebogen, umgekehrt</translation>
+    </message>
+    <message>
+        <source>
+Could not find the image file %s
+</source>
+        <translation>
+Die Bilddatei %s ist nicht zu finden
+</translation>
+    </message>
+    <message>
+        <source>Unable to create the tool. The xref file '%s' could not be located.</source>
+        <translation>Das Werkzeug lässt sich nicht erzeugen. Die Referenzdatei '%s' ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>there is no drawing</source>
+        <translation>es gibt keine Zeichnung</translation>
+    </message>
+    <message>
+        <source>there is no such block</source>
+        <translation>diesen Block gibt es nicht</translation>
+    </message>
+    <message>
+        <source>
+Block "%s" of the source file "%s" cannot be inserted: </source>
+        <translation>
+Der Block "%s" der Quelldatei "%s" kann nicht eingefügt werden: </translation>
+    </message>
+    <message>
+        <source>
+Block "%s" of the source file "%s" contains itself</source>
+        <translation>
+Der Block "%s" der Quelldatei "%s" enthält sich selbst</translation>
+    </message>
+    <message>
+        <source>
+Not all of "%s" could be read: %s
+</source>
+        <translation>
+Nicht alles von "%s" war lesbar: %s
+</translation>
+    </message>
+    <message>
+        <source>a block's name cannot begin or end with a blank</source>
+        <translation>der Name eines Blocks kann nicht mit einem Leerzeichen beginnen oder enden</translation>
+    </message>
+    <message>
+        <source>a block's name cannot have control characters</source>
+        <translation>der Name eines Blocks kann keine Steuerzeichen haben</translation>
+    </message>
+    <message>
+        <source>a block's name has at most 255 characters</source>
+        <translation>der Name eines Blocks hat höchstens 255 Zeichen</translation>
+    </message>
+    <message>
+        <source>a block's name cannot have any of &lt; &gt; / \ " : ; ? * | , = `</source>
+        <translation>der Name eines Blocks kann keines der Zeichen &lt; &gt; / \ " : ; ? * | , = ` haben</translation>
+    </message>
+    <message>
+        <source>the tool names no block</source>
+        <translation>das Werkzeug nennt keinen Block</translation>
+    </message>
+    <message>
+        <source>Unable to create the tool. The image file '%s' could not be located.</source>
+        <translation>Das Werkzeug lässt sich nicht erzeugen. Die Bilddatei '%s' ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>
+The hatch pattern "%s" is in no file of patterns: its tool cannot hatch here.</source>
+        <translation>
+Das Schraffurmuster "%s" steht in keiner Musterdatei: sein Werkzeug kann hier nicht schraffieren.</translation>
+    </message>
+    <message>
+        <source>no command draws objects of this kind</source>
+        <translation>kein Befehl zeichnet Objekte dieser Art</translation>
+    </message>
+    <message>
+        <source>the block is not defined</source>
+        <translation>der Block ist nicht definiert</translation>
+    </message>
+    <message>
+        <source>the image has no file</source>
+        <translation>das Bild hat keine Datei</translation>
+    </message>
+    <message>
+        <source>there is no such object</source>
+        <translation>dieses Objekt gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>there is no drawing on the clipboard</source>
+        <translation>in der Zwischenablage ist keine Zeichnung</translation>
+    </message>
+    <message>
+        <source>there is no such file or command</source>
+        <translation>es gibt keine solche Datei und keinen solchen Befehl</translation>
+    </message>
+    <message>
+        <source>From lines</source>
+        <translation>Aus Linien</translation>
+    </message>
+    <message>
+        <source>Dimscale</source>
+        <translation>Bemaßungsfaktor</translation>
+    </message>
+    <message>
+        <source>Plot scale</source>
+        <translation>Plotmaßstab</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>External reference</source>
+        <translation>Externe Referenz</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <translation>Zuordnung</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Überlagerung</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigenes</translation>
+    </message>
+    <message>
+        <source>Command.Command string</source>
+        <translation>Befehl.Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Insert.Name</source>
+        <translation>Einfügen.Name</translation>
+    </message>
+    <message>
+        <source>Insert.Source file</source>
+        <translation>Einfügen.Quelldatei</translation>
+    </message>
+    <message>
+        <source>Insert.Insert as</source>
+        <translation>Einfügen.Einfügen als</translation>
+    </message>
+    <message>
+        <source>Insert.Xref type</source>
+        <translation>Einfügen.Art der Referenz</translation>
+    </message>
+    <message>
+        <source>Insert.Scale</source>
+        <translation>Einfügen.Faktor</translation>
+    </message>
+    <message>
+        <source>Insert.Auxiliary scale</source>
+        <translation>Einfügen.Zusatzfaktor</translation>
+    </message>
+    <message>
+        <source>Insert.Rotation</source>
+        <translation>Einfügen.Drehung</translation>
+    </message>
+    <message>
+        <source>Insert.Prompt rotation angle</source>
+        <translation>Einfügen.Drehwinkel erfragen</translation>
+    </message>
+    <message>
+        <source>Insert.Prompt attributes</source>
+        <translation>Einfügen.Attribute erfragen</translation>
+    </message>
+    <message>
+        <source>Insert.Explode</source>
+        <translation>Einfügen.Zerlegen</translation>
+    </message>
+    <message>
+        <source>Sample.Instrument type</source>
+        <translation>Muster.Art des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>Sample.Type</source>
+        <translation>Muster.Typ</translation>
+    </message>
+    <message>
+        <source>Sample.Pattern name</source>
+        <translation>Muster.Mustername</translation>
+    </message>
+    <message>
+        <source>Sample.Angle</source>
+        <translation>Muster.Winkel</translation>
+    </message>
+    <message>
+        <source>Sample.Scale</source>
+        <translation>Muster.Faktor</translation>
+    </message>
+    <message>
+        <source>Sample.Auxiliary scale</source>
+        <translation>Muster.Zusatzfaktor</translation>
+    </message>
+    <message>
+        <source>Sample.Spacing</source>
+        <translation>Muster.Abstand</translation>
+    </message>
+    <message>
+        <source>Sample.Crosswise</source>
+        <translation>Muster.Kreuzweise</translation>
+    </message>
+    <message>
+        <source>Sample.Color 1</source>
+        <translation>Muster.Farbe 1</translation>
+    </message>
+    <message>
+        <source>Sample.Color 2</source>
+        <translation>Muster.Farbe 2</translation>
+    </message>
+    <message>
+        <source>Sample.Gradient angle</source>
+        <translation>Muster.Winkel des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Sample.Centered</source>
+        <translation>Muster.Zentriert</translation>
+    </message>
+    <message>
+        <source>Sample.Gradient name</source>
+        <translation>Muster.Art des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Select Tool Palette folder</source>
+        <translation>Ordner mit Werkzeugpaletten wählen</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Catalogs</source>
+        <translation>Kataloge</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>De&amp;tails</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>The samples cannot be copied to %1.</source>
+        <translation>Die Beispiele lassen sich nicht nach %1 kopieren.</translation>
     </message>
 </context>
 </TS>
