@@ -46,7 +46,7 @@ bool TcUiMenuBuilder::queryInterface(std::string_view id, void** out) {
 void TcUiMenuBuilder::showItemMenu(OdTcCatalogItem* item) {
   m_item = item;
   const TcUiMenuEntries* const entries = item ? entriesOf(item->isA()) : nullptr;
-  if (entries && m_owner) m_owner->showPopup(*entries);
+  if (entries && m_owner) popUp(*entries);
 }
 
 } // namespace tc

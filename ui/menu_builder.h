@@ -18,8 +18,8 @@ using TcUiMenuEntries = std::vector<TcUiMenuEntry>;
 /// A window that has menus shown for it.
 class ITcUiMenuOwner {
  public:
-  /// Shows a popup at the cursor; the command that is chosen goes to this window.
-  virtual void showPopup(const TcUiMenuEntries& entries) = 0;
+  /// Takes the command of the entry that was chosen.
+  virtual void menuCommand(int command) = 0;
 
  protected:
   ~ITcUiMenuOwner() = default;
@@ -32,10 +32,11 @@ class ITcUiMenuBuilder {
 
   /// Gives the builder as the interface `id`; false, and null in `out`, if it does not have it.
   virtual bool queryInterface(std::string_view id, void** out) = 0;
-  /// Remembers the item and shows the menu of its class in the owner window. An item of a class
-  /// without a menu, or a missing owner, shows nothing.
+  /// Remembers the item and shows the menu of its class at the cursor; the command that is chosen
+  /// goes to the owner window. An item of a class without a menu, or a missing owner, shows
+  /// nothing.
   virtual void showItemMenu(OdTcCatalogItem* item) = 0;
-  /// Not owned; may be null.
+  /// Not owned; may be null. A window that goes takes itself away here.
   virtual void setOwnerWindow(ITcUiMenuOwner* window) = 0;
   /// One value that the builder keeps for its caller and does not look at.
   virtual void setExtra(const OdVariant& value) = 0;
@@ -46,6 +47,7 @@ class ITcUiMenuBuilder {
   ~ITcUiMenuBuilder() = default;
 };
 
+/// The menus without a window to show them in; ui/window shows them.
 class TcUiMenuBuilder : public ITcUiMenuBuilder {
  public:
   /// The classes must be registered: the table goes by their descriptions.
@@ -61,6 +63,11 @@ class TcUiMenuBuilder : public ITcUiMenuBuilder {
   void setExtra(const OdVariant& value) override { m_extra = value; }
   OdTcCatalogItem* currentItem() const override { return m_item; }
   OdVariant extra() const override { return m_extra; }
+
+ protected:
+  /// Shows a popup at the cursor, whose choice goes to the owner.
+  virtual void popUp(const TcUiMenuEntries& /*entries*/) {}
+  ITcUiMenuOwner* owner() const { return m_owner; }
 
  private:
   ITcUiMenuOwner* m_owner = nullptr;

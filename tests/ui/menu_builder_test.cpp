@@ -11,8 +11,13 @@ using testhost::host;
 using namespace tc;
 
 struct MenuOwner : ITcUiMenuOwner {
+  void menuCommand(int) override {}
+};
+
+/// Writes down what it would show.
+struct WritingBuilder : TcUiMenuBuilder {
   QStringList shown;
-  void showPopup(const TcUiMenuEntries& entries) override {
+  void popUp(const TcUiMenuEntries& entries) override {
     QStringList words;
     for (const auto& [command, text] : entries)
       words << QStringLiteral("%1 %2").arg(command).arg(text);
@@ -21,13 +26,13 @@ struct MenuOwner : ITcUiMenuOwner {
 };
 
 struct MenuBuilderTest : testhost::ModuleFixture {
-  TcUiMenuBuilder builder;
+  WritingBuilder builder;
   MenuOwner owner;
 
   OdString menuOf(OdTcCatalogItem* item) {
-    owner.shown.clear();
+    builder.shown.clear();
     builder.showItemMenu(item);
-    return owner.shown.isEmpty() ? QStringLiteral("(none)") : owner.shown.first();
+    return builder.shown.isEmpty() ? QStringLiteral("(none)") : builder.shown.first();
   }
 };
 
@@ -42,6 +47,8 @@ TEST_F(MenuBuilderTest, ShowsTheMenuOfEachClass) {
   EXPECT_EQ(menuOf(OdTcTool::createObject()), QString()) << "an entry with an empty list";
   EXPECT_EQ(menuOf(OdTcPaletteSoftRef::createObject()), QStringLiteral("(none)"));
   EXPECT_EQ(menuOf(nullptr), QStringLiteral("(none)"));
+  builder.setOwnerWindow(nullptr);
+  EXPECT_EQ(menuOf(OdTcGroup::createObject()), QStringLiteral("(none)"));
 }
 
 TEST_F(MenuBuilderTest, AnswersForItsOwnInterfaceOnly) {

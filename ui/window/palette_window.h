@@ -2,9 +2,9 @@
 #pragma once
 
 #include "host/window_services.h"
-#include "ui/menu_builder.h"
 #include "ui/palette_set.h"
 #include "ui/window/frame_wnd.h"
+#include "ui/window/popup_menu_builder.h"
 #include "ui/window/toolbar.h"
 
 #include <QPointer>
@@ -63,7 +63,7 @@ class TcUiPaletteSet : public ITcUiPaletteSet,
   void showHelp(std::int32_t);
 
   KVPtr<IHostWindowServices> m_windows;
-  TcUiMenuBuilder m_menus;
+  TcUiPopupMenuBuilder m_menus;
   QPointer<Content> m_content; ///< the pane's
   TcUiToolbar m_toolbar;
   IHostTabs* m_tabs = nullptr;
