@@ -10,6 +10,8 @@
 namespace tc {
 namespace {
 
+constexpr std::int32_t kSmall = 1;
+
 /// The manager's catalogs, the default one first.
 TcUiItems catalogsOf(const OdTcPaletteManager* manager) {
   TcUiItems catalogs;
@@ -247,7 +249,7 @@ QVariant TcUiCatalogModel::data(const QModelIndex& index, int role) const {
   case Qt::AccessibleDescriptionRole:
     return item->description();
   case Qt::DecorationRole:
-    return m_pictures.picture(*item, 1, 1);
+    return m_pictures.picture(*item, kSmall);
   case Qt::ToolTipRole:
     return itemTip(*item, m_pictures);
   default:

@@ -43,6 +43,15 @@ bool TcUiFrameWnd::create(IHostWindowControls& controls) {
   return true;
 }
 
+/// Pictures are made for the screen on which they are shown.
+bool TcUiFrameWnd::event(QEvent* event) {
+  if (event->type() == QEvent::Show || event->type() == QEvent::ScreenChangeInternal) {
+    m_pictures.setRatio(devicePixelRatioF());
+    update();
+  }
+  return QWidget::event(event);
+}
+
 void TcUiFrameWnd::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::PaletteChange) return;

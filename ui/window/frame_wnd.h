@@ -50,6 +50,7 @@ class TcUiFrameWnd : public QWidget, public ITcUiFrameWnd {
   const TcUiItemPictures& pictures() const { return m_pictures; }
 
  protected:
+  bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:

@@ -119,10 +119,9 @@ void TcUiItemListModel::itemChanged(OdTcCatalogItem* item) {
   m_late.start(0);
 }
 
-void TcUiItemListModel::setIconSize(std::int32_t size, qreal ratio) {
-  if (size == m_iconSize && ratio == m_ratio) return;
+void TcUiItemListModel::setIconSize(std::int32_t size) {
+  if (size == m_iconSize) return;
   m_iconSize = size;
-  m_ratio = ratio;
   if (!m_rows.empty())
     Q_EMIT dataChanged(index(0, kName), index(rowCount() - 1, kName), {Qt::DecorationRole});
 }
@@ -142,7 +141,7 @@ QVariant TcUiItemListModel::data(const QModelIndex& index, int role) const {
   case Qt::AccessibleDescriptionRole:
     return item->description();
   case Qt::DecorationRole:
-    return isName ? QVariant(m_pictures.picture(*item, m_iconSize, m_ratio)) : QVariant();
+    return isName ? QVariant(m_pictures.picture(*item, m_iconSize)) : QVariant();
   case Qt::ToolTipRole:
     return itemTip(*item, m_pictures);
   default:

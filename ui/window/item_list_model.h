@@ -37,8 +37,8 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   /// Name, description or picture of the item are different now.
   void changed(const OdTcCatalogItem& item);
 
-  /// 1, 3 or 4, and the screen's ratio of device to logical pixels.
-  void setIconSize(std::int32_t size, qreal ratio);
+  /// 1, 3 or 4.
+  void setIconSize(std::int32_t size);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& = {}) const override { return kColumnCount; }
@@ -58,7 +58,6 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   OdTcCatalogItemPtr m_catalog; ///< of a group that is shown: it tells of palettes that come
   std::vector<OdTcCatalogItemPtr> m_rows;
   std::int32_t m_iconSize = 3;
-  qreal m_ratio = 1;
   QTimer m_late;
 };
 

@@ -41,12 +41,15 @@ QImage ownPicture(const OdTcCatalogItem& item, int pixels) {
   return best;
 }
 
-/// `picture` in the middle of a square, never made larger than it is.
-QPixmap squared(const QImage& picture, int pixels) {
-  const bool fits = picture.width() <= pixels && picture.height() <= pixels;
-  const QImage shown =
-      fits ? picture
-           : picture.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+/// `picture` in the middle of a square. One that is smaller is made as much larger as the screen's
+/// pixels are finer, but no more: on every screen it is as large as on a plain one.
+QPixmap squared(const QImage& picture, int pixels, qreal ratio) {
+  QSize room = (QSizeF(picture.size()) * ratio).toSize();
+  if (room.width() > pixels || room.height() > pixels) room = QSize(pixels, pixels);
+  const QSize size = picture.size().scaled(room, Qt::KeepAspectRatio);
+  const QImage shown = size == picture.size()
+                           ? picture
+                           : picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   QPixmap pixmap(pixels, pixels);
   pixmap.fill(Qt::transparent);
   QPainter(&pixmap).drawImage(QPoint((pixels - shown.width()) / 2, (pixels - shown.height()) / 2),
@@ -61,14 +64,14 @@ TcUiItemPictures::TcUiItemPictures()
 
 int TcUiItemPictures::pixelsOf(std::int32_t size) { return size == 4 ? 64 : size == 3 ? 32 : 16; }
 
-QPixmap TcUiItemPictures::picture(const OdTcCatalogItem& item, std::int32_t size, qreal ratio) {
-  const int pixels = qRound(pixelsOf(size) * ratio);
+QPixmap TcUiItemPictures::picture(const OdTcCatalogItem& item, std::int32_t size) {
+  const int pixels = qRound(pixelsOf(size) * m_ratio);
   const OdString key = keyOf(item, pixels);
   if (const QPixmap* const known = m_pixmaps.object(key)) return *known;
   const QImage own = odrxCast<OdTcTool>(&item) ? ownPicture(item, pixels) : QImage();
   QPixmap pixmap =
-      own.isNull() ? glyphPixmap(glyphOf(item), pixels, 1, m_ink) : squared(own, pixels);
-  pixmap.setDevicePixelRatio(ratio);
+      own.isNull() ? glyphPixmap(glyphOf(item), pixels, 1, m_ink) : squared(own, pixels, m_ratio);
+  pixmap.setDevicePixelRatio(m_ratio);
   m_pixmaps.insert(key, new QPixmap(pixmap), qsizetype{4} * pixels * pixels);
   return pixmap;
 }

@@ -21,13 +21,16 @@ class TcUiItemPictures {
   static int pixelsOf(std::int32_t size);
 
   /// Catalogs, groups and palettes have pictures of their kind; a tool shows its own, and one for
-  /// unknown kinds if it has none. `ratio` is the screen's ratio of device to logical pixels.
-  QPixmap picture(const OdTcCatalogItem& item, std::int32_t size, qreal ratio);
+  /// unknown kinds if it has none. It is made for the pixels of the screen, at its ratio.
+  QPixmap picture(const OdTcCatalogItem& item, std::int32_t size);
   /// Has the item's pictures looked up anew the next time.
   void forget(const OdTcCatalogItem& item);
   /// How many are kept.
   qsizetype count() const { return m_pixmaps.size(); }
   void forgetAll() { m_pixmaps.clear(); }
+  /// The screen's ratio of device to logical pixels, 1 unless it is told.
+  void setRatio(qreal ratio) { m_ratio = ratio; }
+  qreal ratio() const { return m_ratio; }
   /// The colour of lines in the pictures of kinds.
   void setInk(const QColor& ink);
   const QColor& ink() const { return m_ink; }
@@ -35,6 +38,7 @@ class TcUiItemPictures {
  private:
   QCache<OdString, QPixmap> m_pixmaps;
   QColor m_ink{Qt::black};
+  qreal m_ratio = 1;
 };
 
 } // namespace tc

@@ -27,9 +27,10 @@ OdString itemTip(const OdTcCatalogItem& item, TcUiItemPictures& pictures) {
   OdString words = QLatin1String("<b>") + lines(item.name()) + QLatin1String("</b>");
   if (!item.description().isEmpty()) words += QLatin1String("<br>") + lines(item.description());
   if (!odrxCast<OdTcTool>(&item)) return words;
-  return QStringLiteral("<table><tr><td><img src=\"%1\"></td>"
-                        "<td style=\"padding-left:8px\">%2</td></tr></table>")
-      .arg(asData(pictures.picture(item, kLarge, 1)), words);
+  const int pixels = TcUiItemPictures::pixelsOf(kLarge);
+  return QStringLiteral("<table><tr><td><img width=\"%2\" height=\"%2\" src=\"%1\"></td>"
+                        "<td style=\"padding-left:8px\">%3</td></tr></table>")
+      .arg(asData(pictures.picture(item, kLarge)), OdString::number(pixels), words);
 }
 
 } // namespace tc

@@ -93,7 +93,7 @@ void TcUiListView::fill(OdTcCatalogItem* item) {
 
 void TcUiListView::applyIconSize(std::int32_t size) {
   const int pixels = TcUiItemPictures::pixelsOf(size);
-  m_model.setIconSize(size, devicePixelRatioF());
+  m_model.setIconSize(size);
   m_icons->setIconSize(QSize(pixels, pixels));
   m_details->setIconSize(QSize(pixels, pixels));
   const int lines = 2 * fontMetrics().lineSpacing();

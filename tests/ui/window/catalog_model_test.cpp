@@ -1,5 +1,7 @@
 #include "ui/window/catalog_model.h"
 
+#include "frame/file_path.h"
+#include "images/image_list.h"
 #include "palette_window_fixture.h"
 
 #include <QAbstractItemModelTester>
@@ -16,6 +18,19 @@ struct CatalogModel : testhost::PaletteWindowFixture {
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 
   QModelIndex at(const OdTcCatalogItem& item) { return model.indexOf(&item); }
+  /// A red square is the tool's large picture.
+  void givePicture(OdTcTool& tool, int pixels) {
+    QImage square(pixels, pixels, QImage::Format_ARGB32);
+    square.fill(Qt::red);
+    const QString file = folder.filePath(QStringLiteral("square.png"));
+    ASSERT_TRUE(square.save(file));
+    const OdTcImagePtr image = OdTcImage::createObject();
+    image->setSizeKind(4);
+    ASSERT_TRUE(image->loadFromFile(odpath::fromPlatform(file)));
+    const OdTcImageListPtr images = OdTcImageList::createObject();
+    images->add(image);
+    tool.setImages(images);
+  }
 };
 
 TEST_F(CatalogModel, ShowsGroupsBeforeThePalettesThatAreInNone) {
@@ -112,13 +127,55 @@ TEST_F(CatalogModel, KindsHavePicturesOfTheirOwn) {
                                           palette->enumTools()->next()};
   for (const OdTcCatalogItem* const item : items)
     for (const int size : {1, 3, 4}) {
-      const QPixmap picture = pictures.picture(*item, size, 1);
+      const QPixmap picture = pictures.picture(*item, size);
       EXPECT_EQ(picture.width(), TcUiItemPictures::pixelsOf(size));
       if (size == 1) seen << picture.toImage();
     }
   for (int i = 0; i < seen.size(); ++i)
     for (int j = 0; j < i; ++j) EXPECT_NE(seen[i], seen[j]) << i << j;
-  EXPECT_EQ(pictures.picture(*catalog, 3, 2).size(), QSize(64, 64)) << "for a screen of ratio 2";
+}
+
+TEST_F(CatalogModel, PicturesAreMadeForThePixelsOfTheScreen) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("A")});
+  OdTcTool* const tool = palette->enumTools()->next();
+  givePicture(*tool, 64);
+  model.refresh();
+  for (const qreal ratio : {1.0, 2.0, 1.5}) {
+    pictures.setRatio(ratio);
+    pictures.forgetAll();
+    for (const OdTcCatalogItem* const item : {static_cast<const OdTcCatalogItem*>(catalog.get()),
+                                              static_cast<const OdTcCatalogItem*>(tool)})
+      for (const int size : {1, 3, 4}) {
+        const QPixmap picture = pictures.picture(*item, size);
+        EXPECT_EQ(picture.devicePixelRatio(), ratio);
+        EXPECT_EQ(picture.width(), TcUiItemPictures::pixelsOf(size) * ratio);
+      }
+    // A picture of 64 fills the largest size on every screen.
+    const QImage large = pictures.picture(*tool, 4).toImage();
+    EXPECT_EQ(large.pixelColor(1, large.height() / 2), QColor(Qt::red)) << ratio;
+    EXPECT_EQ(model.indexOf(tool).data(Qt::DecorationRole).value<QPixmap>().devicePixelRatio(),
+              ratio);
+    const QString tip = model.indexOf(tool).data(Qt::ToolTipRole).toString();
+    EXPECT_TRUE(tip.contains(QStringLiteral("width=\"64\"")));
+    const QByteArray bytes =
+        QByteArray::fromBase64(tip.section(u',', 1).section(u'"', 0, 0).toLatin1());
+    EXPECT_EQ(QImage::fromData(bytes).width(), 64 * ratio);
+  }
+}
+
+TEST_F(CatalogModel, ASmallPictureStaysAsSmallAsItIs) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("A")});
+  OdTcTool* const tool = palette->enumTools()->next();
+  givePicture(*tool, 16);
+  const auto redPixels = [](const QImage& image) {
+    int count = 0;
+    for (int x = 0; x < image.width(); ++x)
+      count += image.pixelColor(x, image.height() / 2) == QColor(Qt::red);
+    return count;
+  };
+  const int plain = redPixels(pictures.picture(*tool, 4).toImage());
+  pictures.setRatio(2);
+  EXPECT_NEAR(redPixels(pictures.picture(*tool, 4).toImage()), 2 * plain, 4);
 }
 
 } // namespace
