@@ -24,13 +24,21 @@ class EdgedBoxes : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_IndicatorCheckBox || !isDark(option->palette)) return;
+    const bool isCircle = element == PE_IndicatorRadioButton;
+    const bool isBox = element == PE_IndicatorCheckBox || element == PE_FrameMenu;
+    if ((!isBox && !isCircle) || !isDark(option->palette)) return;
     QColor edge = option->palette.color(QPalette::WindowText);
     edge.setAlpha(option->state & State_Enabled ? 130 : 60);
     painter->save();
     painter->setPen(edge);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    if (isBox) {
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    } else {
+      const QRectF box = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+      painter->setRenderHint(QPainter::Antialiasing);
+      painter->drawEllipse(box.center(), box.height() / 2, box.height() / 2);
+    }
     painter->restore();
   }
 };
