@@ -1,21 +1,18 @@
 #include "drafton/desktop/help_window.h"
 
+#include "drafton/desktop/manual_browser.h"
 #include "drafton/engine/translator.h"
 
+#include <QAction>
 #include <QDialog>
-#include <QFile>
 #include <QMessageBox>
-#include <QTextBrowser>
+#include <QStyle>
+#include <QToolBar>
 #include <QVBoxLayout>
-
-// The pages lie in the library's resources, which nothing else brings along. Qt wants this outside
-// of namespaces.
-static void bringResources() { Q_INIT_RESOURCE(desktop); }
 
 namespace drafton {
 namespace {
 
-const OdString kManual = QStringLiteral("qrc:/drafton/manual/");
 const OdString kWindowName = QStringLiteral("manual");
 
 /// The pages of topics that modules ask for.
@@ -28,19 +25,52 @@ constexpr Topic kTopics[] = {
     {u"IDH_Commands", u"commands.md"},
 };
 
-QTextBrowser* browserIn(QWidget& parent) {
+struct Way {
+  const char16_t* text;
+  QStyle::StandardPixmap icon;
+  QKeySequence::StandardKey key;
+  void (QTextBrowser::*go)();
+  void (QTextBrowser::*possible)(bool);
+};
+constexpr Way kWays[] = {
+    {u"Back", QStyle::SP_ArrowBack, QKeySequence::Back, &QTextBrowser::backward,
+     &QTextBrowser::backwardAvailable},
+    {u"Forward", QStyle::SP_ArrowForward, QKeySequence::Forward, &QTextBrowser::forward,
+     &QTextBrowser::forwardAvailable},
+};
+
+/// Buttons that go back and forth between pages, and to the first one.
+QToolBar* barFor(ManualBrowser& browser, QWidget* window) {
+  auto* const bar = new QToolBar(window);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  for (const Way& way : kWays) {
+    QAction* const action = bar->addAction(bar->style()->standardIcon(way.icon),
+                                           translated(way.text), &browser, way.go);
+    action->setShortcuts(way.key);
+    action->setEnabled(false);
+    QObject::connect(&browser, way.possible, action, &QAction::setEnabled);
+  }
+  QAction* const start =
+      bar->addAction(bar->style()->standardIcon(QStyle::SP_DirHomeIcon), translated(u"Contents"),
+                     [&browser] { browser.showPage(OdString::fromUtf16(kManualStart)); });
+  start->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Home));
+  return bar;
+}
+
+ManualBrowser* browserIn(QWidget& parent) {
   if (auto* const open = parent.findChild<QDialog*>(kWindowName))
-    return open->findChild<QTextBrowser*>();
+    return static_cast<ManualBrowser*>(open->findChild<QTextBrowser*>());
   auto* const dialog = new QDialog(&parent);
   dialog->setObjectName(kWindowName);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowTitle(translated(u"Drafton's Manual"));
-  dialog->resize(760, 680);
-  auto* const browser = new QTextBrowser(dialog);
+  dialog->resize(800, 680);
+  auto* const browser = new ManualBrowser(dialog);
   browser->setAccessibleName(dialog->windowTitle());
-  browser->setOpenExternalLinks(true);
   auto* const column = new QVBoxLayout(dialog);
   column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(barFor(*browser, dialog));
   column->addWidget(browser);
   return browser;
 }
@@ -48,11 +78,13 @@ QTextBrowser* browserIn(QWidget& parent) {
 } // namespace
 
 bool showManual(QWidget& parent, const OdString& page) {
-  bringResources();
-  if (!QFile::exists(QStringLiteral(":/drafton/manual/") + page)) return false;
-  QTextBrowser* const browser = browserIn(parent);
-  browser->setSource(QUrl(kManual + page), QTextDocument::MarkdownResource);
+  ManualBrowser* const browser = browserIn(parent);
+  // Pictures take the width that the window is going to have.
   browser->window()->show();
+  if (!browser->showPage(page)) {
+    if (browser->source().isEmpty()) browser->window()->close();
+    return false;
+  }
   browser->window()->raise();
   browser->setFocus();
   return true;
