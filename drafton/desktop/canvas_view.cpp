@@ -18,7 +18,8 @@ CanvasView::CanvasView(Document& document, Scene& scene)
   : m_document(document)
   , m_scene(scene) {
   followTab();
-  m_told = activeView(*m_document.database());
+  m_told = m_left = activeView(*m_document.database());
+  m_leftAspect = activeViewAspect(*m_document.database());
 }
 
 OdDbLayoutPtr CanvasView::layout() const {
@@ -70,18 +71,29 @@ void CanvasView::showFirst() {
   m_isShown = true;
   const OdGeExtents3d box = everything();
   const double height = box.isEmpty() ? 0 : box.maxPoint().y - box.minPoint().y;
-  const bool isSane = !m_isSheet && m_told.height > height / 50 && m_told.height < height * 20;
-  const View told = viewFrom(m_told);
-  const bool sees = isSane && told.projection().boxOf(box).intersects(told.rect());
+  const bool isSane = !m_isSheet && m_left.height > height / 50 && m_left.height < height * 20;
+  View left = viewFrom(m_left);
+  // What was seen to the left and to the right is seen in a narrower window too.
+  if (const double width = m_left.height * m_leftAspect; isSane && width > 0)
+    left.scale = std::min(left.scale, m_view.size.width() / width);
+  const bool sees = isSane && left.projection().boxOf(box).intersects(left.rect());
   if (sees)
-    m_view = told;
+    m_view = left;
   else
     showAll();
+  m_first = m_view;
+  m_firstTab = m_tab;
+}
+
+bool CanvasView::isAsFirstShown() const {
+  return m_tab == m_firstTab && m_view.center == m_first.center && m_view.scale == m_first.scale;
 }
 
 void CanvasView::resize(const QSize& pixels) {
+  const bool isFirst = !m_hasSize || isAsFirstShown();
   m_view.size = QSizeF(pixels).expandedTo({1, 1});
-  if (!std::exchange(m_hasSize, true)) showFirst();
+  m_hasSize = true;
+  if (isFirst) showFirst();
   m_document.setPixelSize(pixelSize());
 }
 

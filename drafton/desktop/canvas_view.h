@@ -35,7 +35,8 @@ class CanvasView {
   /// The side of a pixel in drawing units.
   double pixelSize() const { return 1 / m_view.scale; }
 
-  /// A new size in pixels; the middle stays.
+  /// A new size in pixels. The middle stays; as long as nobody has looked elsewhere, so does all
+  /// that the drawing was opened with.
   void resize(const QSize& pixels);
   void pan(const QPointF& pixels);
   /// What is at a pixel stays there.
@@ -55,6 +56,7 @@ class CanvasView {
   DrawingView drawingView() const;
   OdGeExtents3d everything();
   void showFirst();
+  bool isAsFirstShown() const;
 
   Document& m_document;
   Scene& m_scene;
@@ -64,6 +66,10 @@ class CanvasView {
   bool m_isSheet = false;
   std::map<OdDbObjectId, View> m_others; ///< of tabs that are not shown
   DrawingView m_told;                    ///< what the drawing's record says
+  DrawingView m_left;                    ///< what it said when it was opened
+  double m_leftAspect = 0;
+  View m_first;
+  OdDbObjectId m_firstTab;
   bool m_hasSize = false, m_isShown = false;
 };
 

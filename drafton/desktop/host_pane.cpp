@@ -9,6 +9,39 @@ namespace {
 constexpr int kFirstWidth = 320;
 constexpr int kLeastHeight = 100;
 
+/// The panes that stand below or above a docked one.
+QList<QDockWidget*> neighboursOf(QMainWindow& window, QDockWidget& pane) {
+  QList<QDockWidget*> neighbours;
+  for (auto* const other : window.findChildren<QDockWidget*>())
+    if (other != &pane && !other->isFloating() && !other->isHidden() &&
+        window.dockWidgetArea(other) == window.dockWidgetArea(&pane))
+      neighbours << other;
+  return neighbours;
+}
+
+/// Puts a new pane above those of its side. Tabs of these stay together.
+void standOnTop(QMainWindow& window, QDockWidget& pane) {
+  const QList<QDockWidget*> others = neighboursOf(window, pane);
+  if (others.isEmpty()) return;
+  QDockWidget* const first = others.first();
+  const QList<QDockWidget*> tabs = window.tabifiedDockWidgets(first);
+  window.splitDockWidget(&pane, first, Qt::Vertical);
+  for (auto* const tab : tabs) window.tabifyDockWidget(first, tab);
+  first->raise();
+}
+
+/// Two thirds of the side for the pane. Beside other panes, content that asks for nothing would get
+/// nothing.
+void makeRoom(QMainWindow& window, QDockWidget& pane) {
+  QList<QDockWidget*> docks = neighboursOf(window, pane);
+  int height = pane.height();
+  for (const QDockWidget* const other : docks) height += other->height();
+  QList<int> heights(docks.size(), height / 3 / qMax(1, static_cast<int>(docks.size())));
+  docks.prepend(&pane);
+  heights.prepend(height * 2 / 3);
+  window.resizeDocks(docks, heights, Qt::Vertical);
+}
+
 } // namespace
 
 PaneDock::PaneDock(const OdString& name, const OdString& title, QWidget* content,
@@ -52,6 +85,8 @@ HostPane::HostPane(QMainWindow& window, const OdString& name, const OdString& ti
   , m_dock(new PaneDock(name, title, content, events, window)) {
   if (!window.restoreDockWidget(m_dock)) {
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
+    standOnTop(window, *m_dock);
+    m_isNew = true;
     window.resizeDocks({m_dock}, {kFirstWidth}, Qt::Horizontal);
   }
   m_dock->hide();
@@ -73,13 +108,13 @@ void HostPane::show(bool activate) {
   if (!m_dock) return;
   m_dock->show();
   m_dock->raise();
-  // Beside other panes, content that asks for nothing would get nothing. The layout is made later.
+  // The layout is made later.
   QMetaObject::invokeMethod(
       m_dock,
-      [dock = m_dock.data(), &window = m_window] {
+      [dock = m_dock.data(), &window = m_window, isNew = std::exchange(m_isNew, false)] {
         if (!dock->isFloating() && dock->isVisible() && dock->widget() &&
-            dock->widget()->height() < kLeastHeight)
-          window.resizeDocks({dock}, {window.height() / 2}, Qt::Vertical);
+            (isNew || dock->widget()->height() < kLeastHeight))
+          makeRoom(window, *dock);
       },
       Qt::QueuedConnection);
   if (activate) {

@@ -51,6 +51,7 @@ class HostPane : public CKVUnknownImpl<IHostPane> {
 
  private:
   QMainWindow& m_window;
+  bool m_isNew = false; ///< no place was kept for it
   QPointer<PaneDock> m_dock;
 };
 

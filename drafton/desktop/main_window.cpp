@@ -19,6 +19,7 @@
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 
@@ -79,7 +80,8 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   connect(qApp, &QApplication::focusChanged, this, &MainWindow::watchLists);
   m_actions->showIcons(isDark(palette()));
   offerWindowServices(desktop.engine().services(), *this);
-  resize(1280, 820);
+  // With room for its frame on a small screen.
+  resize(QSize(1280, 820).boundedTo(screen()->availableSize() - QSize(16, 48)));
   restorePlaces();
   follow();
 }
@@ -105,6 +107,9 @@ void MainWindow::addPanes() {
   addPane("inspector", u"Inspector", m_inspector, Qt::RightDockWidgetArea);
   QDockWidget* const layers = addPane("layers", u"Layers", m_layers, Qt::BottomDockWidgetArea);
   QDockWidget* const blocks = addPane("blocks", u"Blocks", m_blocks, Qt::RightDockWidgetArea);
+  // The right side, where palettes stand, is as high as the window.
+  setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+  tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("inspector")), blocks);
   layers->setFloating(true);
   layers->resize(640, 360);
   layers->hide();

@@ -1,8 +1,11 @@
 #include "desktop/desktop_fixture.h"
 #include "drafton/desktop/options_dialog.h"
 #include "drafton/program/program_setup.h"
+#include "host/window_services.h"
 
+#include <QDockWidget>
 #include <QFile>
+#include <QPointer>
 
 using namespace drafton;
 
@@ -19,6 +22,23 @@ class SampleTest : public DesktopFixture {
     window().resize(1400, 900);
     QApplication::processEvents();
   }
+  /// Nothing of the drawing is cut by the canvas' edge.
+  bool seesAll() {
+    const QImage image = canvas().grab().toImage();
+    const QRgb ground = canvasColors(isDark(canvas().palette())).ground.rgb();
+    const int right = image.width() - 1, bottom = image.height() - 1;
+    const auto isGround = [&](int x, int y) { return (image.pixel(x, y) | 0xFF000000u) == ground; };
+    for (int x = 0; x <= right; ++x)
+      if (!isGround(x, 0) || !isGround(x, bottom)) return false;
+    for (int y = 0; y <= bottom; ++y)
+      if (!isGround(0, y) || !isGround(right, y)) return false;
+    return true;
+  }
+  struct PaneEvents : IHostPaneEvents {
+    QPointer<QWidget> content = new QWidget;
+    void paneClosed() override {}
+    void paneDestroyed() override {}
+  };
   /// The share of the canvas' pixels that are not the ground.
   double inked() {
     const QImage image = canvas().grab().toImage();
@@ -33,12 +53,35 @@ class SampleTest : public DesktopFixture {
 TEST_F(SampleTest, TheFloorPlanIsSeenAsAWholeAtTheFirstGlance) {
   open("floor-plan.dxf");
   EXPECT_GT(inked(), 0.02);
+  EXPECT_TRUE(seesAll());
+  // The first layout of a small screen, which comes after the drawing.
+  const auto services = kvQuery<IHostWindowServices>(&desktop().engine().services());
+  PaneEvents events;
+  const KVPtr<IHostPane> palettes = services->createPane(
+      QStringLiteral("Palettes"), QStringLiteral("Palettes"), events.content, &events);
+  palettes->show(true);
+  window().resize(1280, 800);
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  EXPECT_TRUE(seesAll());
+  EXPECT_GT(events.content->height(), 400) << "several rows of pictures";
+  EXPECT_LT(events.content->mapTo(&window(), QPoint()).y(),
+            window().findChild<QDockWidget*>(QStringLiteral("inspector"))->y());
   EXPECT_FALSE(document().isModified());
   EXPECT_TRUE(dialogs.said.isEmpty());
   picture("floor-plan");
   type("INSERT ");
   picture("floor-plan-insert");
   press(Qt::Key_Escape);
+}
+
+TEST_F(SampleTest, WhoLookedElsewhereKeepsThePlaceWhateverTheSize) {
+  open("floor-plan.dxf");
+  canvas().view().zoom(3, QPointF(100, 100));
+  const View before = canvas().view().view();
+  window().resize(1280, 800);
+  QApplication::processEvents();
+  EXPECT_DOUBLE_EQ(canvas().view().view().scale, before.scale);
+  EXPECT_FALSE(seesAll());
 }
 
 TEST_F(SampleTest, LooksRightInTheDark) {
