@@ -2,6 +2,7 @@
 
 #include "drafton/desktop/autosave.h"
 #include "drafton/desktop/desktop_options.h"
+#include "drafton/desktop/first_run.h"
 #include "drafton/desktop/language.h"
 #include "drafton/desktop/main_window.h"
 #include "drafton/desktop/options_dialog.h"
@@ -63,8 +64,11 @@ int runDesktop(int& argc, char** argv) {
   engineOptions.programFolder = odpath::fromPlatform(QApplication::applicationDirPath());
   Desktop desktop(std::move(engineOptions));
   Engine& engine = desktop.engine();
+  OdString firstDrawing;
   if (options.catalogs)
     engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *options.catalogs);
+  else
+    firstDrawing = bringSamples(desktop, QApplication::applicationDirPath());
   offerPictures(engine);
   // What people save by hand carries a picture, for palettes and lists of files.
   engine.sessionValues()[QStringLiteral("RASTERPREVIEW")] = std::int32_t{1};
@@ -86,6 +90,8 @@ int runDesktop(int& argc, char** argv) {
   QTimer::singleShot(0, &window, [&] {
     recover(autosave, dialogs);
     for (const OdString& drawing : options.drawings) window.files().openFile(drawing);
+    if (options.drawings.isEmpty() && !firstDrawing.isEmpty())
+      window.files().openFile(firstDrawing);
     if (!desktop.document()) window.files().newDrawing();
     engine.runStartupCommands();
     desktop.input().takeUp();
