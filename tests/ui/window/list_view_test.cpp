@@ -111,6 +111,31 @@ TEST_F(ListView, SortingKnowsTwoModes) {
   EXPECT_EQ(list().sort(1), 0);
 }
 
+TEST_F(ListView, SortingByTypePutsToolsOfAKindTogether) {
+  const OdTcToolPalettePtr palette =
+      addPalette(QStringLiteral("P"), {QStringLiteral("b"), QStringLiteral("A")});
+  for (const char* const name : {"z", "y"})
+    addTool(*palette, QLatin1String(name))->setActionAgent(OdTcToolBlockCommand::createObject());
+  palette->setToolOrder({});
+  open();
+  select(*palette);
+  EXPECT_EQ(list().sort(1), 0);
+  EXPECT_EQ(listed(), QStringList({"y", "z", "A", "b"})) << "blocks come before commands";
+  EXPECT_EQ(list().sort(0), 0);
+  EXPECT_EQ(listed(), QStringList({"A", "b", "y", "z"}));
+}
+
+TEST_F(ListView, ADoubleClickRunsTheToolOnce) {
+  openDrawing();
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("Line")});
+  open();
+  select(*palette);
+  click(QStringLiteral("Line"));
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, placeOf(QStringLiteral("Line")));
+  settle();
+  EXPECT_EQ(document->sent.join(QString()).count(QStringLiteral("_LINE")), 1);
+}
+
 TEST_F(ListView, APlainClickRunsTheTool) {
   openDrawing();
   const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("Line")});

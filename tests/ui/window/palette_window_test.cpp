@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTreeView>
 
 namespace {
 
@@ -77,7 +78,9 @@ TEST_F(PaletteWindow, TheMenusHaveTheirWordsAndCommands) {
 
 TEST_F(PaletteWindow, EveryWordIsTranslated) {
   for (const char16_t* word :
-       {u"Icons", u"List", u"De&tails", u"Tools", u"Tool Palettes", u"Change icon size"})
+       {u"Icons", u"List", u"De&tails", u"Tools", u"Tool Palettes", u"Change icon size",
+        u"Change view style", u"Change active view", u"Help", u"Catalogs", u"Name", u"Description",
+        u"Select Tool Palette folder", u"Cannot find catalog in the specified folder."})
     host().translations[QString::fromUtf16(word)] = QString::fromUtf16(word) + u'!';
   host().translations[QStringLiteral("Small|Normal|Large")] = QStringLiteral("S|M|L");
   TcUiPaletteSet& window = open();
@@ -85,7 +88,21 @@ TEST_F(PaletteWindow, EveryWordIsTranslated) {
   EXPECT_EQ(words(window.viewMenu()).first(), QStringLiteral("Icons! 6100"));
   EXPECT_EQ(controls->tabs->tabText(0), QStringLiteral("Tools!"));
   EXPECT_EQ(windows->pane->frame->windowTitle(), QStringLiteral("Tool Palettes!"));
+  EXPECT_EQ(button(0).toolTip(), QStringLiteral("Change active view!"));
   EXPECT_EQ(button(1).toolTip(), QStringLiteral("Change icon size!"));
+  EXPECT_EQ(button(2).toolTip(), QStringLiteral("Change view style!"));
+  EXPECT_EQ(button(3).accessibleName(), QStringLiteral("Help!"));
+  EXPECT_EQ(tree().accessibleName(), QStringLiteral("Catalogs!"));
+  EXPECT_EQ(list().shownView().accessibleName(), QStringLiteral("Tools!"));
+  for (const auto& [column, word] : {std::pair(0, "Name!"), std::pair(1, "Description!")})
+    EXPECT_EQ(list().rows().headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+              QLatin1String(word));
+  windows->chosenFolder = folder.filePath(QStringLiteral("nowhere"));
+  window.dispatchCommand(kCommandOpenCatalog);
+  EXPECT_EQ(windows->folderTitle, QStringLiteral("Select Tool Palette folder!"));
+  ASSERT_EQ(host().messages.boxes.size(), 1u);
+  EXPECT_EQ(host().messages.boxes.front().text,
+            QStringLiteral("Cannot find catalog in the specified folder.!"));
 }
 
 struct SizeCase {
@@ -131,7 +148,9 @@ TEST_F(PaletteWindow, AViewStyleGoesToThePaletteAndTheListAndNotToTheManager) {
   const QStringList marks[] = {
       {QStringLiteral("List")}, {QStringLiteral("De&tails")}, {QStringLiteral("Icons")}, {}};
   for (std::size_t i = 0; i < std::size(cases); ++i) {
+    list().clear();
     EXPECT_TRUE(window.dispatchCommand(cases[i].first));
+    EXPECT_EQ(listed(), QStringList(QStringLiteral("Door"))) << "the list is filled anew";
     EXPECT_EQ(palette->getPreviewStyle(), cases[i].second);
     EXPECT_EQ(list().viewStyle(), cases[i].second);
     EXPECT_EQ(checked(window.viewMenu()), marks[i]) << cases[i].first;
@@ -181,6 +200,7 @@ TEST_F(PaletteWindow, AFirstStartShowsIconsInColumnsOf200) {
   store().values[QStringLiteral("ActiveView")] = OdVariant(2);
   open();
   EXPECT_EQ(list().viewStyle(), kIconStyle);
+  EXPECT_EQ(controls->splitter->asked.first(), std::vector<int>({200, 200}));
   EXPECT_NEAR(frame().widths()[0], frame().widths()[1], 1);
   EXPECT_TRUE(checked(ITcUiPaletteSet::instance()->sizeMenu()).isEmpty()) << "no size is stored";
 }
@@ -256,8 +276,22 @@ TEST_F(PaletteWindow, ACollapsedWindowIsBroughtBack) {
   settle();
   EXPECT_EQ(windows->pane->corner, QPoint(10, 10));
   EXPECT_EQ(windows->pane->frame->size(), QSize(300, 400));
-  content->resize(4, 300);
-  EXPECT_EQ(content->width(), 4) << "one small side is the user's own wish";
+  windows->pane->corner = {};
+  for (const QSize size : {QSize(4, 300), QSize(300, 4), QSize(5, 5), QSize(5, 4), QSize(4, 5)}) {
+    content->resize(size);
+    EXPECT_EQ(content->size(), size) << "one small side is the user's own wish";
+    EXPECT_TRUE(windows->pane->corner.isNull()) << size.width() << " by " << size.height();
+  }
+}
+
+TEST_F(PaletteWindow, AColumnIsVisibleFromAWidthOfTwo) {
+  open();
+  for (const auto& [widths, isVisible] :
+       {std::pair(std::vector<int>{2, 2}, true), std::pair(std::vector<int>{1, 300}, false),
+        std::pair(std::vector<int>{300, 1}, false), std::pair(std::vector<int>{2, 300}, true)}) {
+    controls->splitter->pretended = widths;
+    EXPECT_EQ(frame().bothPanesVisible(), isVisible) << widths[0] << " and " << widths[1];
+  }
 }
 
 TEST_F(PaletteWindow, TheTabsStandBelowTheStripWith23Less) {
@@ -287,8 +321,14 @@ TEST_F(PaletteWindow, ClosingForgetsItForTheNextStartAndTellsEverybody) {
 TEST_F(PaletteWindow, TheMessageToCustomizeIsAnswered) {
   open();
   QWidget* const content = button(0).parentWidget()->parentWidget();
+  windows->main.show();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
   HostMessage event(windows->messages[QStringLiteral("WM_TC_CUSTOMIZE")]);
   EXPECT_TRUE(QCoreApplication::sendEvent(content, &event));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&windows->main)) << "the owner comes forward";
 }
 
 TEST_F(PaletteWindow, PartsAreFoundByTheirIdentity) {
@@ -315,7 +355,13 @@ TEST_F(PaletteWindow, ItsStateComesBackAtTheNextStart) {
   window.dispatchCommand(kCommandToggleView);
   window.dispatchCommand(kCommandDetailsStyle);
   window.dispatchCommand(kCommandLargeIcons);
-  restart();
+  ITcUiPaletteSet::setInstance(nullptr);
+  EXPECT_EQ(store().values[QStringLiteral("IconSize")], OdVariant(std::int32_t{4}));
+  EXPECT_EQ(store().values[QStringLiteral("ViewStyle")],
+            OdVariant(static_cast<std::uint32_t>(kDetailsStyle)));
+  // The manager of the next start knows of nothing.
+  manager().setViewSetting(1);
+  open();
   EXPECT_EQ(store().values[QStringLiteral("ExpandedItems")].toString(),
             catalog->id() + u'|' + group->id());
   EXPECT_EQ(tree().selectedItem(), palette.get());
@@ -330,9 +376,68 @@ TEST_F(PaletteWindow, StoredColumnWidthsAreTaken) {
   store().values[QStringLiteral("Col0")] = OdVariant(100);
   store().values[QStringLiteral("Col1")] = OdVariant(300);
   open();
+  EXPECT_EQ(controls->splitter->asked.first(), std::vector<int>({100, 300}));
   EXPECT_LT(frame().widths()[0] * 2, frame().widths()[1]);
+  const std::vector<int> shown = frame().widths();
+  ITcUiPaletteSet::setInstance(nullptr);
+  EXPECT_EQ(store().values[QStringLiteral("Col0")], OdVariant(std::int32_t{shown[0]}));
+  EXPECT_EQ(store().values[QStringLiteral("Col1")], OdVariant(std::int32_t{shown[1]}));
+}
+
+TEST_F(PaletteWindow, OneStoredColumnLeavesTheOtherAt200) {
+  store().values[QStringLiteral("Col1")] = OdVariant(90);
+  open();
+  EXPECT_EQ(controls->splitter->asked.first(), std::vector<int>({200, 90}));
+}
+
+TEST_F(PaletteWindow, TheViewIsStoredWhenTheWindowGoesToo) {
+  open().setActiveView(0);
+  EXPECT_FALSE(store().values.contains(QStringLiteral("ActiveView"))) << "nobody toggled";
+  ITcUiPaletteSet::setInstance(nullptr);
+  EXPECT_EQ(store().values[QStringLiteral("ActiveView")], OdVariant(std::int32_t{0}));
+}
+
+TEST_F(PaletteWindow, BothColumnsOfTheDetailsAreStored) {
+  TcUiPaletteSet& window = open();
+  window.dispatchCommand(kCommandDetailsStyle);
+  auto& details = static_cast<QTreeView&>(list().shownView());
+  details.setColumnWidth(0, 110);
+  details.setColumnWidth(1, 70);
   restart();
-  EXPECT_TRUE(store().values.contains(QStringLiteral("Col0")));
+  EXPECT_EQ(store().values[QStringLiteral("NameClmn")], OdVariant(std::int32_t{110}));
+  EXPECT_EQ(store().values[QStringLiteral("DescClmn")], OdVariant(std::int32_t{70}));
+  auto& again = static_cast<QTreeView&>(list().shownView());
+  EXPECT_EQ(again.columnWidth(0), 110);
+  EXPECT_EQ(again.columnWidth(1), 70);
+}
+
+TEST_F(PaletteWindow, ASelectedToolIsRememberedAsItsPalette) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")});
+  open();
+  ASSERT_TRUE(tree().selectById(palette->enumTools()->next()->id()));
+  restart();
+  EXPECT_EQ(store().values[QStringLiteral("LastSelected")].toString(), palette->id());
+  EXPECT_EQ(tree().selectedItem(), palette.get());
+}
+
+TEST_F(PaletteWindow, TheDefaultCatalogStandsFirst) {
+  const OdTcCatalogPtr second = openCatalog(QStringLiteral("two"), QStringLiteral("Second"));
+  const OdTcCatalogPtr third = openCatalog(QStringLiteral("three"), QStringLiteral("Third"));
+  third->setDefault(true);
+  open();
+  EXPECT_EQ(
+      names(tree().catalogs()),
+      QStringList({QStringLiteral("Third"), QStringLiteral("Office"), QStringLiteral("Second")}));
+}
+
+/// Pictures fit the screen's pixels, whatever its ratio: see the second run of this test.
+TEST_F(PaletteWindow, ItsPicturesFitTheScreen) {
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")});
+  open();
+  select(*palette);
+  for (const QModelIndex& index : {tree().catalogs().indexOf(catalog), list().rows().index(0, 0)})
+    EXPECT_EQ(index.data(Qt::DecorationRole).value<QPixmap>().devicePixelRatio(),
+              tree().devicePixelRatioF());
 }
 
 TEST_F(PaletteWindow, ARemovedCatalogLeavesBothViews) {

@@ -10,6 +10,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include <optional>
+
 namespace testhost {
 
 class TestToolbar : public QWidget, public IHostToolbar {
@@ -68,6 +70,8 @@ class TestTabs : public QTabWidget, public IHostTabs {
 class TestSplitter : public QSplitter, public IHostSplitter {
  public:
   using QSplitter::QSplitter;
+  QList<std::vector<int>> asked;             ///< the widths that were asked for, one by one
+  std::optional<std::vector<int>> pretended; ///< what it says instead of its widths
 
   QWidget* widget() override { return this; }
   void addColumn(QWidget* content) override {
@@ -76,9 +80,10 @@ class TestSplitter : public QSplitter, public IHostSplitter {
   }
   std::vector<int> widths() const override {
     const QList<int> all = sizes();
-    return {all.begin(), all.end()};
+    return pretended.value_or(std::vector<int>(all.begin(), all.end()));
   }
   void setWidths(const std::vector<int>& widths) override {
+    asked << widths;
     setSizes(QList<int>(widths.begin(), widths.end()));
   }
   void setBarColor(const QColor&) override {}
@@ -89,6 +94,7 @@ class TestControls : public CKVUnknownImpl<IHostWindowControls> {
   bool hasToolbars = true, hasTabs = true, hasSplitters = true;
   TestToolbar* toolbar = nullptr; ///< the last that was made; its parent's
   TestTabs* tabs = nullptr;
+  TestSplitter* splitter = nullptr;
 
   IHostToolbar* createToolbar(QWidget& parent, IHostToolbarEvents& events) override {
     return hasToolbars ? toolbar = new TestToolbar(parent, events) : nullptr;
@@ -97,7 +103,7 @@ class TestControls : public CKVUnknownImpl<IHostWindowControls> {
     return hasTabs ? tabs = new TestTabs(&parent) : nullptr;
   }
   IHostSplitter* createSplitter(QWidget& parent) override {
-    return hasSplitters ? new TestSplitter(&parent) : nullptr;
+    return hasSplitters ? splitter = new TestSplitter(&parent) : nullptr;
   }
 };
 
