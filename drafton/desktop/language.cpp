@@ -27,10 +27,11 @@ OdString codeOf(const OdString& name) {
 } // namespace
 
 bool loadLanguage(const OdString& programFolder, const OdString& name) {
+  static QTranslator dialogs;
+  QCoreApplication::removeTranslator(&dialogs);
   Translator::instance().clear();
   const OdString code = codeOf(name);
   if (code.isEmpty()) return false;
-  static QTranslator dialogs;
   if (dialogs.load(QStringLiteral("qtbase_") + code,
                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QCoreApplication::installTranslator(&dialogs);

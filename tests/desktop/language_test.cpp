@@ -11,6 +11,7 @@
 #include "module/string_table.h"
 #include "properties/gradient_names.h"
 
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QMenuBar>
@@ -28,7 +29,7 @@ class LanguageTest : public ::testing::Test {
   LanguageTest() {
     EXPECT_TRUE(loadLanguage(QStringLiteral(BINARY_DIR), QStringLiteral("Deutsch")));
   }
-  ~LanguageTest() override { Translator::instance().clear(); }
+  ~LanguageTest() override { loadLanguage(QStringLiteral(BINARY_DIR), QStringLiteral("English")); }
 
   void check(const OdString& text) {
     OdString out;
@@ -211,6 +212,12 @@ TEST_F(LanguageTest, SingleWordsOfTheModulesTablesAreTranslated) {
   for (const char* const key : {"DIMSCALE", "PLOTSCALE", "NONE"})
     m_missing.removeAll(QLatin1String(key));
   EXPECT_EQ(m_missing, QStringList()) << m_missing.join(u'\n').toStdString();
+}
+
+TEST_F(LanguageTest, QtsOwnButtonsAreTranslatedToo) {
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Abbrechen"));
+  EXPECT_FALSE(loadLanguage(QStringLiteral(BINARY_DIR), QStringLiteral("English")));
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
 }
 
 /// What goes into files or to the command line stays the same in every language.
