@@ -28,7 +28,8 @@ class EdgedBoxes : public QProxyStyle {
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_FrameMenu;
     if ((!isBox && !isCircle) || !isDark(option->palette)) return;
     QColor edge = option->palette.color(QPalette::WindowText);
-    edge.setAlpha(option->state & State_Enabled ? 130 : 60);
+    // Menus do not say that they are enabled.
+    edge.setAlpha(option->state & State_Enabled || element == PE_FrameMenu ? 130 : 60);
     painter->save();
     painter->setPen(edge);
     painter->setBrush(Qt::NoBrush);

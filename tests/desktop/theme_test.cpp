@@ -41,6 +41,7 @@ class ThemeTest : public ::testing::TestWithParam<const char*> {
     option.palette = QApplication::palette();
     option.rect = QRect(0, 0, 16, 16);
     option.state = QStyle::State_Enabled | QStyle::State_Off;
+    if (element == QStyle::PE_FrameMenu) option.state = QStyle::State_None; // as menus have it
     QImage image(16, 16, QImage::Format_RGB32);
     const QColor behind = option.palette.color(ground);
     image.fill(behind);
