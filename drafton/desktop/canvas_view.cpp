@@ -9,6 +9,8 @@ namespace drafton {
 namespace {
 
 constexpr double kMargin = 0.03;
+/// How near to a view of everything another one counts as that.
+constexpr double kAsAll = 0.1;
 // Beyond these numbers lose the digits that a picture needs.
 constexpr double kSmallestScale = 1e-9, kLargestScale = 1e9;
 
@@ -77,10 +79,13 @@ void CanvasView::showFirst() {
   if (const double width = m_left.height * m_leftAspect; isSane && width > 0)
     left.scale = std::min(left.scale, m_view.size.width() / width);
   const bool sees = isSane && left.projection().boxOf(box).intersects(left.rect());
-  if (sees)
-    m_view = left;
-  else
-    showAll();
+  showAll();
+  // Who left it with all in view finds it so, with room around it.
+  const QPointF apart =
+      left.projection()(m_view.unproject(m_view.rect().center())) - left.rect().center();
+  const bool sawAll = std::abs(left.scale / m_view.scale - 1) < kAsAll &&
+                      apart.manhattanLength() < kAsAll * m_view.size.height();
+  if (sees && !sawAll) m_view = left;
   m_first = m_view;
   m_firstTab = m_tab;
 }

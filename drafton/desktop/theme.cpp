@@ -25,11 +25,12 @@ class EdgedBoxes : public QProxyStyle {
                      const QWidget* widget) const override {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isCircle = element == PE_IndicatorRadioButton;
-    const bool isBox = element == PE_IndicatorCheckBox || element == PE_FrameMenu;
+    const bool isMenu = element == PE_PanelMenu || element == PE_FrameMenu;
+    const bool isBox = element == PE_IndicatorCheckBox || isMenu;
     if ((!isBox && !isCircle) || !isDark(option->palette)) return;
     QColor edge = option->palette.color(QPalette::WindowText);
     // Menus do not say that they are enabled.
-    edge.setAlpha(option->state & State_Enabled || element == PE_FrameMenu ? 130 : 60);
+    edge.setAlpha(option->state & State_Enabled || isMenu ? 130 : 60);
     painter->save();
     painter->setPen(edge);
     painter->setBrush(Qt::NoBrush);

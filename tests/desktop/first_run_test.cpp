@@ -13,14 +13,14 @@ namespace {
 class FirstRunTest : public DesktopFixture {
  protected:
   FirstRunTest() {
-    write(QStringLiteral("program/samples/drawings/floor-plan.dxf"), "plan");
-    write(QStringLiteral("program/samples/catalog/DrfTcCatalog.dtc"), "catalog");
-    write(QStringLiteral("program/samples/catalog/Palettes/Images/a.png"), "picture");
+    write("program/samples/drawings/floor-plan.dxf", "plan");
+    write("program/samples/catalog/DrfTcCatalog.dtc", "catalog");
+    write("program/samples/catalog/Palettes/Images/a.png", "picture");
     // What is installed belongs to the system.
     QFile::setPermissions(path("program/samples/drawings/floor-plan.dxf"), QFile::ReadOwner);
   }
-  void write(const QString& name, const QByteArray& bytes) {
-    const QString file = path("") + name;
+  void write(const char* name, const QByteArray& bytes) {
+    const QString file = path(name);
     QDir().mkpath(QFileInfo(file).path());
     QFile out(file);
     ASSERT_TRUE(out.open(QIODevice::WriteOnly));
@@ -59,7 +59,7 @@ TEST_F(FirstRunTest, HappensOnce) {
 }
 
 TEST_F(FirstRunTest, WhatWasDrawnInTheCopiesStays) {
-  write(QStringLiteral("data/Samples/drawings/floor-plan.dxf"), "mine");
+  write("data/Samples/drawings/floor-plan.dxf", "mine");
   EXPECT_FALSE(bring().isEmpty());
   EXPECT_EQ(read("data/Samples/drawings/floor-plan.dxf"), "mine");
 }
@@ -78,7 +78,7 @@ TEST_F(FirstRunTest, WithoutSamplesNothingHappens) {
 }
 
 TEST_F(FirstRunTest, AFolderThatCannotBeWrittenIsToldAndTriedAgain) {
-  write(QStringLiteral("data"), "a file in the way");
+  write("data", "a file in the way");
   EXPECT_EQ(bring(), OdString());
   EXPECT_TRUE(history().contains(path("data/Samples"))) << history().toStdString();
   QFile::remove(path("data"));

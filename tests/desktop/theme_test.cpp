@@ -41,7 +41,6 @@ class ThemeTest : public ::testing::TestWithParam<const char*> {
     option.palette = QApplication::palette();
     option.rect = QRect(0, 0, 16, 16);
     option.state = QStyle::State_Enabled | QStyle::State_Off;
-    if (element == QStyle::PE_FrameMenu) option.state = QStyle::State_None; // as menus have it
     QImage image(16, 16, QImage::Format_RGB32);
     const QColor behind = option.palette.color(ground);
     image.fill(behind);
@@ -61,8 +60,14 @@ TEST_P(ThemeTest, EmptyBoxesAndMenusHaveEdgesThatAreSeen) {
     EXPECT_GT(edgeContrast(QStyle::PE_IndicatorCheckBox, ground), least) << ground;
     EXPECT_GT(edgeContrast(QStyle::PE_IndicatorItemViewItemCheck, ground), least) << ground;
     EXPECT_GT(edgeContrast(QStyle::PE_IndicatorRadioButton, ground), least) << ground;
-    EXPECT_GT(edgeContrast(QStyle::PE_FrameMenu, ground), least) << ground;
   }
+  QMenu menu;
+  menu.addAction(QStringLiteral("One"));
+  menu.addAction(QStringLiteral("Two"));
+  const QImage image = menu.grab().toImage();
+  const int middle = image.height() / 2;
+  EXPECT_GT(contrast(image.pixelColor(0, middle), QApplication::palette().color(QPalette::Window)),
+            least);
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, ThemeTest, ::testing::Values("System", "Light", "Dark"));
