@@ -4869,5 +4869,45 @@ Das Schraffurmuster "%s" steht in keiner Musterdatei: sein Werkzeug kann hier ni
         <source>The samples cannot be copied to %1.</source>
         <translation>Die Beispiele lassen sich nicht nach %1 kopieren.</translation>
     </message>
+    <message>
+        <source>%1 cannot be shown: the image format plugin of Qt for pictures of the kind "%2" is not installed</source>
+        <translation>%1 kann nicht gezeigt werden: das Qt-Modul für Bilder der Art "%2" ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1 is no picture that can be shown: its end is missing</source>
+        <translation>%1 ist kein Bild, das gezeigt werden kann: sein Ende fehlt</translation>
+    </message>
+    <message>
+        <source>
+The reference "%s" of "%s" stays empty: %s
+</source>
+        <translation>
+Die Referenz "%s" von "%s" bleibt leer: %s
+</translation>
+    </message>
+    <message>
+        <source>
+Block "%s" of the drawing contains itself
+</source>
+        <translation>
+Der Block "%s" der Zeichnung enthält sich selbst
+</translation>
+    </message>
+    <message>
+        <source>there is nothing to make a picture of</source>
+        <translation>es gibt nichts, wovon ein Bild zu machen wäre</translation>
+    </message>
+    <message>
+        <source>there is no hatch pattern "%1"</source>
+        <translation>es gibt kein Schraffurmuster "%1"</translation>
+    </message>
+    <message>
+        <source>files of this kind give no tool</source>
+        <translation>Dateien dieser Art ergeben kein Werkzeug</translation>
+    </message>
+    <message>
+        <source>there is no block "%1" in %2</source>
+        <translation>es gibt keinen Block "%1" in %2</translation>
+    </message>
 </context>
 </TS>
