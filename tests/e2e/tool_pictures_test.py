@@ -69,6 +69,14 @@ def write_tiff(path):
                      struct.pack("<I", 0) + b"\x80" * 64)
 
 
+def write_damaged_extra(path):
+    """A PNG whose resolution, which is no part of the picture, has a wrong checksum."""
+    write_picture(path, 40, 20)
+    whole, extra = path.read_bytes(), png_chunk(b"pHYs", struct.pack(">IIB", 1000, 1000, 1))
+    start = whole.index(b"IDAT") - 4
+    path.write_bytes(whole[:start] + extra[:-4] + b"\0\0\0\0" + whole[start:])
+
+
 NO_PICTURE = "is no picture that can be shown"
 CUT = NO_PICTURE + ": its end is missing"
 
@@ -82,6 +90,7 @@ FILES = [
     ("turned.jpg", copy_of("turned.jpg"), None),
     ("lying.jpg", lambda path: write_picture(path, 40, 20), None),
     ("huge.png", write_huge, "is too large to be shown: 60000 by 60000 pixels"),
+    ("extra.png", write_damaged_extra, None),
     ("wide.bmp", write_bitmap(40, 20, 20), None),
     ("grey.tiff", write_tiff, None),
     ("hugebmp.bmp", write_bitmap(60000, 60000, 0), "is too large to be shown: 60000 by 60000 pixels"),

@@ -37,6 +37,24 @@ TEST_F(ItemImageTest, IsTakenInThreeSizesAndMarksTheItem) {
   EXPECT_EQ(kinds, (QList<int>{1, 3, 4}));
 }
 
+struct Changes : OdTcCatalogItemReactor {
+  int count = 0;
+  void itemChanged(OdTcCatalogItem*) override { ++count; }
+};
+
+TEST_F(ItemImageTest, TellsOfEachChange) {
+  makePicture(QStringLiteral("door.png"), 100, qRgb(255, 0, 0));
+  Changes changes;
+  ASSERT_TRUE(tool->addReactor(&changes));
+  for (const int before : {0, 1}) {
+    EXPECT_FALSE(setImage(*tool, stored(QStringLiteral("gone.png"))));
+    EXPECT_EQ(changes.count, before);
+    EXPECT_TRUE(setImage(*tool, stored(QStringLiteral("door.png"))));
+    EXPECT_EQ(changes.count, before + 1);
+  }
+  tool->removeReactor(&changes);
+}
+
 TEST_F(ItemImageTest, TakesThePlaceOfTheFormerAndItsFiles) {
   makePicture(QStringLiteral("door.png"), 100, qRgb(255, 0, 0));
   makePicture(QStringLiteral("window.png"), 100, qRgb(0, 0, 255));
