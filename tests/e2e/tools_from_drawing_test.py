@@ -406,7 +406,7 @@ class FilesAndCommands(Roads):
         self.bench.path("notes.txt").write_text("nothing")
         for name in ("notes.txt", "missing.dxf"):
             output = self.script(f"ToolPalettesMake\nP\nFile\n{self.bench.path(name)}\n", code=1)
-            self.assertIn("there is no such file or command", output)
+            self.assertIn("files of this kind give no tool", output)
 
     def test_image_in_the_drawing(self):
         write_picture(self.bench.path("photo.png"), 40, 20)
