@@ -404,9 +404,10 @@ class FilesAndCommands(Roads):
 
     def test_file_of_no_kind(self):
         self.bench.path("notes.txt").write_text("nothing")
-        for name in ("notes.txt", "missing.dxf"):
+        for name, reason in (("notes.txt", "files of this kind give no tool"),
+                             ("missing.dxf", "there is no such file or command")):
             output = self.script(f"ToolPalettesMake\nP\nFile\n{self.bench.path(name)}\n", code=1)
-            self.assertIn("files of this kind give no tool", output)
+            self.assertIn(reason, output)
 
     def test_image_in_the_drawing(self):
         write_picture(self.bench.path("photo.png"), 40, 20)
