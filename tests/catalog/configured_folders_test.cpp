@@ -3,6 +3,7 @@
 #include "catalog/configured_folders.h"
 
 #include "catalog/catalog_fixture.h"
+#include "frame/file_path.h"
 
 #include <sys/stat.h>
 
@@ -122,7 +123,7 @@ TEST_F(ConfiguredFoldersTest, ACatalogThatMayNotBeReadIsToldWithTheReasonAndNeve
   EXPECT_TRUE(catalogIn(u"secret"_s)->isUnread());
   EXPECT_TRUE(catalogIn(u"open"_s)->findPalette(u"B"_s));
   manager->saveAll();
-  EXPECT_TRUE(wasTold({u"Cannot save the catalog"_s, path}));
+  EXPECT_TRUE(wasTold({u"Cannot save the catalog"_s, odpath::toPlatform(path)}));
   EXPECT_EQ(readFile(u"secret\\DrfTcCatalog.dtc"_s), bytes);
 }
 
@@ -141,11 +142,13 @@ TEST_F(ConfiguredFoldersTest, AReadOnlyFolderIsReadAndEveryChangeSaysWhyItIsNotK
   ASSERT_TRUE(palette);
 
   EXPECT_TRUE(palette->addItem(tool(u"T"_s)));
-  EXPECT_TRUE(wasTold({stored(u"c\\Palettes\\a.dtc"_s), u"Read-only file system"_s}));
+  EXPECT_TRUE(
+      wasTold({odpath::toPlatform(stored(u"c\\Palettes\\a.dtc"_s)), u"Read-only file system"_s}));
   EXPECT_EQ(palette->getDatabase()->tools()->count(), 1) << "the change stays in memory";
   EXPECT_FALSE(palette->save());
   manager->saveAll();
-  EXPECT_TRUE(wasTold({u"Cannot save the catalog"_s, path, u"Read-only file system"_s}));
+  EXPECT_TRUE(wasTold(
+      {u"Cannot save the catalog"_s, odpath::toPlatform(path), u"Read-only file system"_s}));
   EXPECT_EQ(readFile(u"c\\DrfTcCatalog.dtc"_s), bytes);
   EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), paletteBytes);
   EXPECT_EQ(namesOf(catalog->palettesEnum()).size(), 2);

@@ -1,6 +1,7 @@
 // Catalogs and palettes that break every measure, as files: the reason is told on the command line
 // with the file's name, and the file stays as it was.
 #include "catalog/catalog_fixture.h"
+#include "frame/file_path.h"
 
 namespace {
 
@@ -180,10 +181,11 @@ TEST_F(LenientReadingTest, ANewPaletteOfTenThousandLettersSaysWhyItCannotBeSaved
   const OdTcToolPalettePtr added = palette(OdString(10000, u'n'));
   EXPECT_TRUE(catalog->addItem(added)) << "its file is named after it";
   EXPECT_FALSE(added->save()) << "no file has so long a name";
-  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, added->getPath(), u"too long"_s}));
+  EXPECT_TRUE(
+      wasTold({u"Cannot save the palette"_s, odpath::toPlatform(added->getPath()), u"too long"_s}));
   theHost().log.clear();
   EXPECT_TRUE(added->addItem(tool(u"T"_s)));
-  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, added->getPath()}));
+  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, odpath::toPlatform(added->getPath())}));
   EXPECT_EQ(added->name().size(), 10000);
   EXPECT_TRUE(catalog->save()) << "the catalog names it all the same";
   EXPECT_EQ(load(stored(u"c\\DrfTcCatalog.dtc"_s))->loaders()->at(0)->name().size(), 10000);

@@ -1,6 +1,7 @@
 #include "catalog/palette_manager_impl.h"
 
 #include "catalog/catalog_fixture.h"
+#include "frame/file_path.h"
 
 namespace {
 
@@ -273,8 +274,9 @@ TEST_F(PaletteManagerTest, SavesEveryCatalogWhateverHappensToOne) {
               QStringList({stored(u"a\\DrfTcCatalog.dtc"_s), stored(u"bad\\DrfTcCatalog.dtc"_s),
                            stored(u"c\\DrfTcCatalog.dtc"_s)}));
   }
-  EXPECT_TRUE(wasTold(
-      {u"Cannot save the catalog"_s, stored(u"b\\DrfTcCatalog.dtc"_s), u"Permission denied"_s}));
+  EXPECT_TRUE(
+      wasTold({u"Cannot save the catalog"_s, odpath::toPlatform(stored(u"b\\DrfTcCatalog.dtc"_s)),
+               u"Permission denied"_s}));
   EXPECT_TRUE(wasTold({stored(u"bad\\DrfTcCatalog.dtc"_s), u"is kept"_s}));
   EXPECT_EQ(readFile(u"user\\ToolPalette\\Unread\\DrfTcCatalog.dtc"_s),
             QByteArray("<Catalog><cut"));

@@ -1,6 +1,7 @@
 // How files are opened, and what a save that fails leaves behind.
 #include "catalog/catalog_fixture.h"
 #include "catalog/palette_loader_impl.h"
+#include "frame/file_path.h"
 #include "module/properties.h"
 
 namespace {
@@ -63,8 +64,9 @@ TEST_F(SavingTest, APaletteThatCannotBeSavedSaysSoAndRemembersWhy) {
     services.bytesLeft = 10;
     EXPECT_FALSE(palette->save());
   }
-  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, path, u"No space left on device"_s}));
-  EXPECT_TRUE(palette->getDatabase()->saveProblem().contains(path));
+  EXPECT_TRUE(wasTold(
+      {u"Cannot save the palette"_s, odpath::toPlatform(path), u"No space left on device"_s}));
+  EXPECT_TRUE(palette->getDatabase()->saveProblem().contains(odpath::toPlatform(path)));
   EXPECT_TRUE(palette->getDatabase()->saveProblem().contains(u"No space left on device"_s));
   EXPECT_EQ(palette->getPath(), path);
   EXPECT_TRUE(palette->save());

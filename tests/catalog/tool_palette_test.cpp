@@ -2,6 +2,7 @@
 
 #include "catalog/catalog_fixture.h"
 #include "catalog/palette_ui.h"
+#include "frame/file_path.h"
 #include "module/properties.h"
 #include "support/recording_agent.h"
 
@@ -111,7 +112,7 @@ TEST_F(ToolPaletteTest, AnAutoSaveThatFailsKeepsTheToolAndTellsPathAndReason) {
   added(u"T"_s);
   EXPECT_EQ(palette->getDatabase()->tools()->count(), 1);
   EXPECT_EQ(palette->getPath(), file);
-  EXPECT_TRUE(wasTold({file, u"No space left on device"_s}));
+  EXPECT_TRUE(wasTold({odpath::toPlatform(file), u"No space left on device"_s}));
   EXPECT_EQ(log.log, QStringList(u"added T"_s));
 }
 
@@ -187,7 +188,8 @@ TEST_F(ToolPaletteTest, AFailedSaveLeavesThePathAsItWas) {
   ASSERT_TRUE(palette->saveAs(file));
   const OdString target = stored(u"gone\\p.dtc"_s);
   EXPECT_FALSE(palette->saveAs(target)) << "the folder does not exist";
-  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, target, u"No such file"_s}))
+  EXPECT_TRUE(
+      wasTold({u"Cannot save the palette"_s, odpath::toPlatform(target), u"No such file"_s}))
       << text(theHost().log.join(u'\n'));
   EXPECT_EQ(palette->getPath(), file);
 }
@@ -203,7 +205,7 @@ TEST_F(ToolPaletteTest, ACopyGoesBackToItsPathUnlessTheWriteFails) {
   EXPECT_EQ(readFile(u"copy.xtp"_s), saved());
   const OdString bad = stored(u"gone\\copy.xtp"_s);
   EXPECT_FALSE(palette->saveCopy(bad));
-  EXPECT_TRUE(wasTold({bad}));
+  EXPECT_TRUE(wasTold({odpath::toPlatform(bad)}));
   EXPECT_EQ(palette->getPath(), bad);
 }
 
