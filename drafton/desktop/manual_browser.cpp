@@ -21,6 +21,8 @@ ManualBrowser::ManualBrowser(QWidget* parent)
   : QTextBrowser(parent) {
   bringResources();
   setOpenExternalLinks(true);
+  // It would take its room only when the pictures have been fitted.
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
 bool ManualBrowser::showPage(const OdString& page) {

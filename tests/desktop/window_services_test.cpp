@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
@@ -403,6 +404,8 @@ TEST_F(WindowServicesTest, PicturesOfTheManualAreSeen) {
   const auto pixmap = picture.value<QPixmap>();
   EXPECT_GT(pixmap.width(), 300);
   EXPECT_LE(pixmap.deviceIndependentSize().width(), page->viewport()->width());
+  QApplication::processEvents();
+  EXPECT_EQ(page->horizontalScrollBar()->maximum(), 0) << "nothing is wider than the page";
   int pictures = 0;
   for (QTextBlock block = page->document()->begin(); block.isValid(); block = block.next())
     for (auto it = block.begin(); !it.atEnd(); ++it)
