@@ -1,5 +1,6 @@
 #include "drafton/engine/document_manager.h"
 
+#include "drafton/engine/blocks/reference_reports.h"
 #include "drafton/engine/engine.h"
 #include "frame/file_path.h"
 
@@ -45,8 +46,11 @@ Document& DocumentManager::open(const OdString& path) {
     return *known;
   }
   OdDbDatabasePtr database = OdDbDatabase::readFile(path);
+  const std::vector<OdDbXRefMan::Report> references = OdDbXRefMan::loadAll(*database);
   Document& opened = add(std::make_unique<Document>(m_engine, std::move(database), OdString()));
   tellDamage(opened);
+  for (const OdDbXRefMan::Report& reference : references)
+    if (reference.result != OdDbXRefMan::Result::kLoaded) m_engine.print(reportLine(reference));
   return opened;
 }
 

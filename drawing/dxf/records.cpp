@@ -2,6 +2,7 @@
 #include "drawing/database_data.h"
 #include "drawing/dxf/in.h"
 #include "drawing/dxf/out.h"
+#include "drawing/tables/reference_flags.h"
 
 namespace {
 constexpr std::string_view kFontApplication = "ACAD";
@@ -297,7 +298,7 @@ bool OdDbBlockTableRecord::dxfInBegin(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   case 3:
     return true;
   case 70:
-    m_block.blockFlags = in.integer(tag, 0);
+    m_block.blockFlags = oddb::flagsFromFile(in.integer(tag, 0));
     return true;
   case 10:
     m_block.origin.x = in.real(tag, 0);
@@ -321,7 +322,7 @@ bool OdDbBlockTableRecord::dxfInBegin(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbBlockTableRecord::dxfOutBegin(OdDbDxfOut& out) const {
   out.text(2, getName());
-  out.integer(70, m_block.blockFlags);
+  out.integer(70, oddb::flagsForFile(m_block.blockFlags));
   out.point(10, m_block.origin);
   out.text(3, getName());
   out.text(1, m_block.xrefPath);

@@ -44,6 +44,73 @@ bool isOverlayInsert(const OdDbEntity& entity) {
   return block && block->isFromOverlayReference();
 }
 
+/// A block with what its file has, or an empty one.
+bool isEmpty(const OdDbBlockTableRecord& block) { return block.newIterator()->done(); }
+
+void eraseLoaded(OdDbBlockTableRecord& block) {
+  if (isEmpty(block)) return;
+  eraseContents(block);
+  eraseDependents(block.database()->getBlockTableId(), block.getName());
+}
+
+/// What can be told of a reference without reading its file.
+Report lookAt(const OdDbBlockTableRecord& block) {
+  Report report{Result::kLoaded, block.getName(), block.pathName(), {}};
+  const auto tell = [&](Result result, const OdString& message) {
+    report.result = result;
+    report.message = message;
+  };
+  const OdString drawing = block.database()->fileName();
+  const OdString path = OdDbXRefMan::resolvedPath(block);
+  if (!block.isFromExternalReference())
+    tell(Result::kNotAnXRef,
+         QStringLiteral("The block \"%1\" is no external reference").arg(block.getName()));
+  else if (!path.isEmpty())
+    report.path = path;
+  else if (oddb::isNoFile(block.pathName(), drawing))
+    tell(Result::kUnreadable, QStringLiteral("%1: it is not a file").arg(block.pathName()));
+  else
+    tell(Result::kFileMissing,
+         QStringLiteral("The file \"%1\" cannot be found").arg(block.pathName()));
+  return report;
+}
+
+void tellCircle(Report& report, const OdDbBlockTableRecord& block) {
+  report.result = Result::kCircular;
+  report.message = QStringLiteral("The file \"%1\" refers back to itself").arg(block.pathName());
+}
+
+void tellUnreadable(Report& report, const OdError& error) {
+  report.result = Result::kUnreadable;
+  report.message = error.description();
+}
+
+/// Those to load when a drawing is opened. Those within others come with them.
+std::vector<OdDbObjectId> referencesOf(const OdDbDatabase& database) {
+  std::vector<OdDbObjectId> references;
+  const auto blocks = database.getBlockTableId().openAs<OdDbBlockTable>();
+  for (const auto it = blocks->newIterator(); !it->done(); it->step()) {
+    const OdDbBlockTableRecordPtr block = it->getRecord();
+    if (block->isFromExternalReference() && !block->isUnloaded() && !OdDbXRefMan::owns(*block))
+      references.push_back(block->objectId());
+  }
+  return references;
+}
+
+/// True for a block whose file is the drawing itself or that of a reference around it.
+bool isWithinItself(const OdDbBlockTableRecord& block, const OdString& path) {
+  if (odpath::samePlace(block.database()->fileName(), path)) return true;
+  // Those around it have the names that its own begins with.
+  const auto blocks = block.database()->getBlockTableId().openAs<OdDbBlockTable>();
+  OdString name = block.getName();
+  for (qsizetype at = name.lastIndexOf(u'|'); at > 0; at = name.lastIndexOf(u'|')) {
+    name.truncate(at);
+    const OdDbBlockTableRecordPtr around = blocks->getAt(name).openObject();
+    if (around && odpath::samePlace(OdDbXRefMan::resolvedPath(*around), path)) return true;
+  }
+  return false;
+}
+
 /// Loads with the files in mind that are being loaded around it.
 class Loader {
  public:
@@ -53,62 +120,47 @@ class Loader {
   void load(OdDbObjectId blockId, int depth = 0) {
     const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
     const std::size_t own = m_reports.size();
-    m_reports.push_back({Result::kLoaded, block->getName(), block->pathName(), {}});
-    const auto tell = [&](Result result, const OdString& message) {
-      m_reports[own].result = result;
-      m_reports[own].message = message;
-      if (result != Result::kNotAnXRef) block->setIsUnloaded(true);
-    };
-    if (!block->isFromExternalReference()) {
-      tell(Result::kNotAnXRef,
-           QStringLiteral("The block \"%1\" is no external reference").arg(block->getName()));
-      return;
-    }
-    OdDbDatabase& host = *block->database();
-    if (m_open.empty()) m_open.push_back(host.fileName());
-    const OdString path = OdDbXRefMan::resolvedPath(*block);
-    if (path.isEmpty() && oddb::isNoFile(block->pathName(), host.fileName())) {
-      tell(Result::kUnreadable, QStringLiteral("%1: it is not a file").arg(block->pathName()));
-      return;
-    }
-    if (path.isEmpty()) {
-      tell(Result::kFileMissing,
-           QStringLiteral("The file \"%1\" cannot be found").arg(block->pathName()));
-      return;
-    }
-    m_reports[own].path = path;
-    constexpr int kDeepest = 32;
-    const bool isOpen = std::any_of(m_open.begin(), m_open.end(), [&](const OdString& open) {
-      return !open.isEmpty() && odpath::samePlace(open, path);
-    });
-    if (isOpen || depth > kDeepest) {
-      tell(Result::kCircular,
-           QStringLiteral("The file \"%1\" refers back to itself").arg(block->pathName()));
-      return;
-    }
-    OdDbDatabasePtr other;
-    try {
-      other = OdDbDatabase::readFile(path);
-    } catch (const OdError& error) {
-      tell(Result::kUnreadable, error.description());
-      return;
-    }
-    m_open.push_back(path);
-    loadNested(*other, depth);
-    m_open.pop_back();
-    take(*block, *other);
+    m_reports.push_back(lookAt(*block));
+    if (block->isUnloaded() && block->isFromExternalReference()) block->setIsUnloaded(false);
+    if (m_reports[own].result == Result::kLoaded) check(m_reports[own], *block, depth);
+    if (m_reports[own].result == Result::kLoaded) read(own, *block, depth);
+    const Result result = m_reports[own].result;
+    if (result != Result::kLoaded && result != Result::kNotAnXRef) eraseLoaded(*block);
   }
 
  private:
-  void loadNested(OdDbDatabase& database, int depth) {
-    const auto blocks = database.getBlockTableId().openAs<OdDbBlockTable>();
-    std::vector<OdDbObjectId> nested;
-    for (const auto it = blocks->newIterator(); !it->done(); it->step()) {
-      const OdDbBlockTableRecordPtr record = it->getRecord();
-      if (record->isFromExternalReference() && !record->isFromOverlayReference())
-        nested.push_back(record->objectId());
+  /// Looks for circles, and for heaps of files that refer to others twice and more.
+  void check(Report& report, const OdDbBlockTableRecord& block, int depth) {
+    constexpr int kDeepest = 32, kMost = 1000;
+    if (m_open.empty()) m_open.push_back(block.database()->fileName());
+    const bool isOpen = std::any_of(m_open.begin(), m_open.end(), [&](const OdString& open) {
+      return !open.isEmpty() && odpath::samePlace(open, report.path);
+    });
+    if (isOpen) return tellCircle(report, block);
+    if (depth < kDeepest && ++m_count <= kMost) return;
+    report.result = Result::kTooMany;
+    report.message =
+        depth < kDeepest
+            ? QStringLiteral("More than %1 references are not loaded").arg(kMost)
+            : QStringLiteral("References deeper than %1 drawings are not loaded").arg(kDeepest);
+  }
+
+  void read(std::size_t own, OdDbBlockTableRecord& block, int depth) {
+    const OdString path = m_reports[own].path;
+    m_open.push_back(path);
+    try {
+      const OdDbDatabasePtr other = OdDbDatabase::readFile(path);
+      loadNested(*other, depth);
+      take(block, *other);
+    } catch (const OdError& error) {
+      tellUnreadable(m_reports[own], error);
     }
-    for (const OdDbObjectId id : nested) load(id, depth + 1);
+    m_open.pop_back();
+  }
+
+  void loadNested(OdDbDatabase& database, int depth) {
+    for (const OdDbObjectId id : referencesOf(database))
+      if (!id.openAs<OdDbBlockTableRecord>()->isFromOverlayReference()) load(id, depth + 1);
   }
 
   static void take(OdDbBlockTableRecord& block, OdDbDatabase& other) {
@@ -124,11 +176,11 @@ class Loader {
     block.upgradeOpen();
     block.setOrigin(other.sysVarPoint("INSBASE"));
     block.setBlockInsertUnits(static_cast<int>(other.sysVarInt("INSUNITS")));
-    block.setIsUnloaded(false);
   }
 
   std::vector<Report>& m_reports;
   std::vector<OdString> m_open;
+  int m_count = 0;
 };
 
 /// Takes away all that was loaded of a reference.
@@ -167,22 +219,37 @@ std::vector<Report> OdDbXRefMan::load(OdDbObjectId block) {
 
 std::vector<Report> OdDbXRefMan::loadAll(OdDbDatabase& database) {
   std::vector<Report> reports;
-  std::vector<OdDbObjectId> references;
-  const auto blocks = database.getBlockTableId().openAs<OdDbBlockTable>();
-  for (const auto it = blocks->newIterator(); !it->done(); it->step()) {
-    const OdDbBlockTableRecordPtr block = it->getRecord();
-    // Those within others come with them.
-    if (block->isFromExternalReference() && !owns(*block)) references.push_back(block->objectId());
-  }
-  for (const OdDbObjectId id : references) Loader(reports).load(id);
+  const bool wasModified = database.isModified();
+  Loader loader(reports);
+  for (const OdDbObjectId id : referencesOf(database)) loader.load(id);
+  if (!wasModified && !reports.empty()) database.setSaved();
   return reports;
+}
+
+Report OdDbXRefMan::state(const OdDbBlockTableRecord& block) {
+  Report report = lookAt(block);
+  if (report.result == Result::kNotAnXRef) return report;
+  if (!isEmpty(block)) {
+    report.result = Result::kLoaded;
+  } else if (block.isUnloaded()) {
+    report.result = Result::kUnloaded;
+  } else if (report.result == Result::kLoaded && isWithinItself(block, report.path)) {
+    tellCircle(report, block);
+  } else if (report.result == Result::kLoaded) {
+    // A drawing without entities and a file that is no drawing look alike from here.
+    try {
+      OdDbDatabase::readFile(report.path);
+    } catch (const OdError& error) {
+      tellUnreadable(report, error);
+    }
+  }
+  return report;
 }
 
 void OdDbXRefMan::unload(OdDbObjectId blockId) {
   const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   if (!block->isFromExternalReference()) return;
-  eraseContents(*block);
-  eraseDependents(block->database()->getBlockTableId(), block->getName());
+  eraseLoaded(*block);
   block->setIsUnloaded(true);
 }
 
@@ -213,7 +280,6 @@ bool OdDbXRefMan::bind(OdDbObjectId blockId, const OdDbDatabasePtr& source) {
   const auto block = blockId.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   if (!block->isFromExternalReference()) return false;
   forget(*block);
-  block->setIsUnloaded(true);
   block->setIsFromExternalReference(false);
   block->setPathName(OdString());
   block->database()->insert(block->getName(), source, true);

@@ -12,7 +12,9 @@ class OdDbXRefMan {
     kNotAnXRef,   ///< the block is no external reference
     kFileMissing, ///< no file where the path points to
     kCircular,    ///< the file is one of those that are being loaded around it
-    kUnreadable,  ///< message() tells why
+    kUnreadable,  ///< the message tells why
+    kTooMany,     ///< nested deeper, or more of them, than anybody can have meant
+    kUnloaded,    ///< somebody unloaded it
   };
   /// What became of one reference.
   struct Report {
@@ -21,13 +23,16 @@ class OdDbXRefMan {
   };
 
   /// Reads the file of a block and fills the block with it, nested references included; an overlay
-  /// within the file is left out. What was loaded before goes. Tells of the block itself first,
-  /// then of those nested in it.
+  /// within the file, or a reference that was unloaded there, is left out. What was loaded before
+  /// goes. Tells of the block itself first, then of those nested in it.
   static std::vector<Report> load(OdDbBlockTableRecord* block);
   static std::vector<Report> load(OdDbObjectId block);
-  /// All external references of a drawing.
+  /// All external references of a drawing, but those that somebody has unloaded. The drawing is as
+  /// little modified as before.
   static std::vector<Report> loadAll(OdDbDatabase& database);
-  /// Empties the block; it stays a reference.
+  /// How a block stands now: loaded, unloaded, or why its file is not shown.
+  static Report state(const OdDbBlockTableRecord& block);
+  /// Empties the block; it stays a reference, and is unloaded when its drawing is opened again.
   static void unload(OdDbObjectId block);
   /// Makes a block for a file, and loads it. `name` is made another one if it is taken.
   static OdDbObjectId attach(OdDbDatabase& database, const OdString& path, const OdString& name,

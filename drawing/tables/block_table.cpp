@@ -5,6 +5,7 @@
 #include "drawing/entities/block_reference.h"
 #include "drawing/objects/raw_object.h"
 #include "drawing/objects/stored_path.h"
+#include "drawing/tables/reference_flags.h"
 
 namespace {
 const QLatin1String kModelSpace("*Model_Space");
@@ -70,11 +71,17 @@ void OdDbBlockTableRecord::setBlockFlag(int flag, bool on) {
 }
 
 void OdDbBlockTableRecord::setIsFromExternalReference(bool xref, bool overlay) {
+  if (!xref)
+    setBlockFlag(oddb::kResolvedReference | oddb::kUsedReference | oddb::kUntoldReference, false);
   setBlockFlag(kXref, xref);
   setBlockFlag(kXrefOverlay, xref && overlay);
 }
 
-void OdDbBlockTableRecord::setIsUnloaded(bool unloaded) { setBlockFlag(kResolved, !unloaded); }
+void OdDbBlockTableRecord::setIsUnloaded(bool unloaded) {
+  assertWriteEnabled();
+  m_block.blockFlags = oddb::withUnloaded(m_block.blockFlags, unloaded);
+}
+
 void OdDbBlockTableRecord::setIsAnonymous(bool on) { setBlockFlag(kAnonymousBlock, on); }
 
 bool OdDbBlockTableRecord::hasAttributeDefinitions() const {

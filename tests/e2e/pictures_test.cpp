@@ -73,6 +73,38 @@ TEST(Pictures, InAFolderThatIsNotThereAreAnError) {
   EXPECT_TRUE(run.err.contains(QStringLiteral("is not drawn"))) << qPrintable(run.err);
 }
 
+TEST(Pictures, ShowWhatExternalReferencesHave) {
+  const Workbench bench;
+  const QString part = bench.path(QStringLiteral("part.dxf"));
+  const QString sheet = bench.path(QStringLiteral("sheet.dxf"));
+  const QString picture = bench.path(QStringLiteral("a.png"));
+  const auto run = [&](const QByteArray& script, const QStringList& more) {
+    const RunResult result = runProgram(
+        QStringLiteral("drafton"),
+        QStringList{QStringLiteral("batch"), QStringLiteral("--profile"), bench.profile()} + more,
+        script);
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.out + result.err);
+    return result.out;
+  };
+  run("CIRCLE 50,50 40\n", {QStringLiteral("--out"), part});
+  run("XATTACH \"" + part.toLocal8Bit() + "\"\n\n0,0\n\n\n\n", {QStringLiteral("--out"), sheet});
+  const auto inkOf = [&] {
+    QFile::remove(picture);
+    const QString told = run({}, {QStringLiteral("--png"), picture, QStringLiteral("--size"),
+                                  QStringLiteral("200x200"), QStringLiteral("--window"),
+                                  QStringLiteral("0,0,100,100"), sheet});
+    return std::pair(darkPixels(QImage(picture)), told);
+  };
+  const auto [shown, quiet] = inkOf();
+  EXPECT_GT(shown, 300);
+  EXPECT_FALSE(quiet.contains(QStringLiteral("part"))) << qPrintable(quiet);
+  ASSERT_TRUE(QFile::rename(part, part + QStringLiteral(".away")));
+  const auto [missing, told] = inkOf();
+  EXPECT_EQ(missing, 0);
+  EXPECT_TRUE(told.contains(QStringLiteral("The file of \"part\" was not found")))
+      << qPrintable(told);
+}
+
 constexpr const char* kPreview = "SETVAR RASTERPREVIEW 1\n";
 
 QImage previewOf(const QString& file) {

@@ -1480,8 +1480,28 @@
         <translation>nicht gefunden</translation>
     </message>
     <message>
-        <source>found</source>
-        <translation>gefunden</translation>
+        <source>loaded</source>
+        <translation>geladen</translation>
+    </message>
+    <message>
+        <source>unloaded</source>
+        <translation>entladen</translation>
+    </message>
+    <message>
+        <source>circular</source>
+        <translation>im Kreis</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>weggelassen</translation>
+    </message>
+    <message>
+        <source>"%1" is left out: %2. %3.</source>
+        <translation>"%1" wird weggelassen: %2. %3.</translation>
     </message>
     <message>
         <source>%1 external reference(s).</source>

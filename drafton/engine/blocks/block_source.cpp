@@ -1,5 +1,6 @@
 #include "drafton/engine/blocks/block_source.h"
 
+#include "drafton/engine/blocks/reference_reports.h"
 #include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/commands/wildcard.h"
 #include "drafton/engine/document.h"
@@ -31,6 +32,8 @@ OdDbObjectId insertFile(CommandContext& context, const OdString& path, const OdS
   if (odpath::samePlace(path, context.document().path()))
     throw CommandFailure(translated(u"A drawing cannot be inserted into itself."));
   const OdDbDatabasePtr source = readDrawing(path);
+  for (const OdDbXRefMan::Report& reference : OdDbXRefMan::loadAll(*source))
+    if (reference.result != OdDbXRefMan::Result::kLoaded) context.print(reportLine(reference));
   oddbRebaseFileReferences(*source, context.document().path());
   const OdDbObjectId id = database.insert(name, source, true);
   const auto block = id.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);

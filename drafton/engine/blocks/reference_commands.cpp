@@ -4,6 +4,7 @@
 #include "drafton/engine/blocks/block_source.h"
 #include "drafton/engine/blocks/parameter_set.h"
 #include "drafton/engine/blocks/place_prompts.h"
+#include "drafton/engine/blocks/reference_reports.h"
 #include "drafton/engine/commands/record_names.h"
 #include "drafton/engine/document.h"
 #include "drafton/engine/support_files.h"
@@ -18,30 +19,8 @@ constexpr int kOverlay = 2;
 
 using Result = OdDbXRefMan::Result;
 
-struct ResultText {
-  Result result;
-  const char16_t* text; ///< %1 the block, %2 the path, %3 the reason
-};
-constexpr ResultText kResultTexts[] = {
-    {Result::kLoaded, u"\"%1\" loaded: %2"},
-    {Result::kNotAnXRef, u"\"%1\" is no external reference."},
-    {Result::kFileMissing, u"The file of \"%1\" was not found: %2"},
-    {Result::kCircular, u"\"%1\" is left out: %2 refers back to itself."},
-    {Result::kUnreadable, u"The file of \"%1\" cannot be read: %3"},
-};
-
-OdString wordsOf(const OdDbXRefMan::Report& report) {
-  for (const ResultText& row : kResultTexts)
-    if (row.result == report.result)
-      return translated(row.text)
-          .replace(QLatin1String("%3"), report.message)
-          .replace(QLatin1String("%2"), odpath::toPlatform(report.path))
-          .replace(QLatin1String("%1"), report.blockName);
-  return report.message;
-}
-
 void print(CommandContext& context, const std::vector<OdDbXRefMan::Report>& reports) {
-  for (const OdDbXRefMan::Report& report : reports) context.print(wordsOf(report));
+  for (const OdDbXRefMan::Report& report : reports) context.print(reportLine(report));
 }
 
 /// The references of the drawing whose names fit the patterns. Those within others follow them.
@@ -78,7 +57,7 @@ OdDbObjectId referenceTo(CommandContext& context, const OdString& file, bool ove
   // Who asked for the file learns the reason with the refusal.
   if (!reports.empty() && reports.front().result != Result::kLoaded)
     throw CommandFailure(translated(u"%1 was not attached: %2")
-                             .arg(odpath::toPlatform(path), wordsOf(reports.front())));
+                             .arg(odpath::toPlatform(path), reportLine(reports.front())));
   print(context, reports);
   return made;
 }
@@ -116,10 +95,9 @@ void listReferences(CommandContext& context, const std::vector<OdDbBlockTableRec
   for (const OdDbBlockTableRecordPtr& block : blocks) {
     const OdString type =
         block->isFromOverlayReference() ? translated(u"overlay") : translated(u"attached");
-    const OdString state = OdDbXRefMan::resolvedPath(*block).isEmpty() ? translated(u"not found")
-                                                                       : translated(u"found");
-    context.print(
-        QStringLiteral("\"%1\"  %2  %3  %4").arg(block->getName(), type, block->pathName(), state));
+    const OdString state = stateName(OdDbXRefMan::state(*block).result);
+    context.print(QStringLiteral("\"%1\"  %2  %3  %4")
+                      .arg(block->getName(), type, odpath::toPlatform(block->pathName()), state));
   }
   context.print(translated(u"%1 external reference(s).").arg(blocks.size()));
 }

@@ -445,7 +445,8 @@ TEST_F(XRefs, TellOfAMissingFile) {
   ASSERT_EQ(reports.size(), 1u);
   EXPECT_EQ(reports[0].result, OdDbXRefMan::Result::kFileMissing);
   EXPECT_TRUE(reports[0].message.contains(QLatin1String("none.dxf")));
-  EXPECT_TRUE(block.openAs<OdDbBlockTableRecord>()->isUnloaded());
+  EXPECT_EQ(OdDbXRefMan::state(*block.openAs<OdDbBlockTableRecord>()).result,
+            OdDbXRefMan::Result::kFileMissing);
   EXPECT_EQ(auditOf(*db), "");
 }
 
