@@ -202,10 +202,9 @@ void OdDbDxfIn::setCodePage(std::string_view name) {
   OdDbDatabaseData& d = data();
   if (d.version >= OdDb::kR2007) return;
   m_decodeEscapes = true;
-  const QByteArray encoding = oddxf::encodingOf(name);
-  m_decoder = QStringDecoder(encoding.constData());
-  d.encoding = encoding;
-  if (m_decoder.isValid() || encoding == oddxf::kJohab) return;
+  d.encoding = oddxf::encodingOf(name);
+  m_decoder = QStringDecoder(d.encoding.constData());
+  if (m_decoder.isValid() || d.encoding == oddxf::kJohab) return;
   note(QStringLiteral("the code page %1 is not known; texts are read as ANSI_1252")
            .arg(shown(name)));
   d.encoding = oddxf::encodingOf("ANSI_1252");

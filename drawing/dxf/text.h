@@ -10,7 +10,8 @@
 
 namespace oddxf {
 
-/// The name under which the platform knows a code page of $DWGCODEPAGE ("ANSI_1252").
+/// The name under which the platform knows a code page of $DWGCODEPAGE ("ANSI_1252"); empty for one
+/// that drawings do not have.
 QByteArray encodingOf(std::string_view codePage);
 /// Turns \U+XXXX, by which older files tell characters outside of their code page, into these.
 OdString withoutEscapes(const OdString& text);

@@ -42,6 +42,7 @@ constexpr Row kRows[] = {
     {"DOS861", "\x8D", u"Þ"},
     {"DOS862", "\x80", u"א"},
     {"DOS863", "\x84", u"Â"},
+    {"DOS864", "\xC8", u"ﺑ"},
     {"DOS865", "\x9B", u"ø"},
     {"DOS866", "\x86", u"Ж"},
     {"DOS869", "\xA4", u"Α"},
@@ -94,6 +95,20 @@ TEST(CodePages, AreAllReadAndWritten) {
     EXPECT_TRUE(db->writeDxf(OdDb::kR2018)
                     .contains("  2\n" + OdString::fromUtf16(row.text).toUtf8() + "\n"))
         << row.name;
+  }
+}
+
+TEST(CodePages, ThatDrawingsDoNotHaveAreToldAndTheBytesKept) {
+  for (const char* name :
+       {"UTF-16", "utf-16le", "unicode", "UTF-32", "ANSI_1200", "ANSI_65000", "IBM037", "DOS037",
+        "BOCU-1", "HZ", "UTF-7", "SCSU", "ISO-2022-JP", "ISO8859-99", "ANSI_", "latin1"}) {
+    const QByteArray text = drawingIn(name, "W\xE4nde \x81\xFF~{");
+    const OdDbDatabasePtr db = OdDbDatabase::readDxf(text, QStringLiteral("page.dxf"));
+    ASSERT_EQ(db->readNotes().size(), 1) << name;
+    EXPECT_TRUE(db->readNotes()[0].contains(QLatin1String(name))) << name;
+    EXPECT_EQ(db->unknownContent(), QStringList()) << name;
+    EXPECT_TRUE(db->writeDxf() == text) << name;
+    EXPECT_TRUE(db->writeDxf(OdDb::kR2018).contains("  2\nW\xC3\xA4nde ")) << name;
   }
 }
 
