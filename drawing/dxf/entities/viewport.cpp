@@ -1,5 +1,6 @@
 // How VIEWPORT stands in files.
 #include "drawing/entities/viewport.h"
+#include "drawing/dxf/entities/old_view.h"
 #include "drawing/dxf/fields.h"
 
 namespace {
@@ -67,6 +68,7 @@ bool OdDbViewport::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
 
 void OdDbViewport::dxfInEnd(OdDbDxfIn& in) {
   OdDbEntity::dxfInEnd(in);
+  oddxf::takeOldView(*this, m_viewport, in);
   oddxf::mendNormal(m_viewport.direction, in);
   for (double* const size : {&m_viewport.width, &m_viewport.height, &m_viewport.viewHeight})
     if (!(*size > 0)) *size = 1;
