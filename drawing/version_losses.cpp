@@ -1,10 +1,15 @@
 #include "drawing/version_losses.h"
 
+#include "drawing/dxf/kept_tags.h"
+#include "drawing/dxf/out.h"
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/tables/block_table.h"
+#include "drawing/tables/dim_style_table.h"
 #include "drawing/tables/layer_table.h"
 #include "drawing/tables/layer_transparency.h"
+
+#include <set>
 
 namespace {
 
@@ -43,6 +48,39 @@ std::uint32_t kindsOf(const OdDbEntity& entity, OdDb::DwgVersion version) {
   return found;
 }
 
+/// The codes of an object as a file of the version has it.
+std::multiset<int> codesOf(const OdDbObject& object, OdDb::DwgVersion version) {
+  OdDbDxfOut out(*object.database(), version, {});
+  object.dxfOut(out);
+  const std::string_view lines = out.collected();
+  std::multiset<int> codes;
+  const OdDbKeptTags kept(QByteArray(lines.data(), static_cast<qsizetype>(lines.size())));
+  for (const OdDbKeptTags::Tag& tag : kept.tags) codes.insert(tag.code);
+  return codes;
+}
+
+/// The variables that some dimension style has and the file would not, by their names.
+QStringList lostDimVariables(const OdDbDatabase& database, OdDb::DwgVersion version) {
+  static const OdDbDimVarValues kPreset;
+  constexpr int kFlags = 70; // which is a variable as well
+  std::set<const OdDbDimVarInfo*> lost;
+  const auto styles = database.getDimStyleTableId().openAs<OdDbDimStyleTable>();
+  for (const auto at = styles->newIterator(); !at->done(); at->step()) {
+    const OdDbDimStyleTableRecordPtr style = at->getRecord();
+    const std::multiset<int> codes = codesOf(*style, version);
+    for (const OdDbDimVarInfo& row : oddbDimVars()) {
+      const bool isSet = std::visit(
+          [&](auto member) { return style->values().*member != kPreset.*member; }, row.member);
+      if (isSet && row.code != 0 && codes.count(row.code) < (row.code == kFlags ? 2U : 1U))
+        lost.insert(&row);
+    }
+  }
+  QStringList names;
+  for (const OdDbDimVarInfo& row : oddbDimVars())
+    if (lost.contains(&row)) names << QLatin1String(row.name);
+  return names;
+}
+
 } // namespace
 
 QStringList oddb::lossesInVersion(const OdDbDatabase& database, OdDb::DwgVersion version) {
@@ -64,5 +102,5 @@ QStringList oddb::lossesInVersion(const OdDbDatabase& database, OdDb::DwgVersion
   QStringList kinds;
   for (std::size_t i = 0; i < std::size(kRows); ++i)
     if (found & 1U << i) kinds << OdString::fromUtf16(kRows[i].kind);
-  return kinds;
+  return kinds + lostDimVariables(database, version);
 }
