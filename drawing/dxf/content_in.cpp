@@ -68,6 +68,7 @@ void OdDbDxfReader::readBlock() {
       blockNamed(begin->name.isEmpty() ? QStringLiteral("*Unnamed") : begin->name);
   const auto block = id.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
   block->takeBegin(*begin->fields);
+  if (m_in.isPlain()) m_readBlocks.insert(id);
   const bool isNew = block->blockBeginId().isNull();
   if (isNew) {
     const auto kept = odrxMake<OdDbRawEntity>("BLOCK");
@@ -193,7 +194,11 @@ bool OdDbDxfReader::takeObjects() {
 }
 
 void OdDbDxfReader::enterObject(OdDbObject& object) {
-  m_in.enter(object, {});
-  if (m_data.rootDictionary.isNull() && odrxCast<OdDbDictionary>(&object))
-    m_data.rootDictionary = object.objectId();
+  const bool isUnowned = m_in.namedOwner().isNull() && !m_in.isPlain();
+  const auto* const dictionary = odrxCast<OdDbDictionary>(&object);
+  const bool isRoot = m_data.rootDictionary.isNull() && dictionary;
+  const OdDbHandle handle = m_in.head().handle;
+  m_in.enter(object, isUnowned && !isRoot ? m_owners.of(object, handle) : OdDbObjectId());
+  if (isUnowned && dictionary) m_owners.note(*dictionary);
+  if (isRoot) m_data.rootDictionary = object.objectId();
 }

@@ -237,6 +237,8 @@ void OdDbDxfReader::finish() {
             QStringLiteral("the block \"%1\" has no beginning and got one").arg(block->getName()));
       block->ensureBounds();
     }
+    if (m_in.isPlain() && !block->isLayout() && !m_readBlocks.contains(id))
+      m_in.note(QStringLiteral("the block \"%1\" is missing and was added").arg(block->getName()));
   }
   if (m_in.isPlain()) oddb::useStandardArrows(m_database);
   finishHeader();

@@ -3,6 +3,7 @@
 
 #include "drawing/dxf/bytes.h"
 #include "drawing/dxf/in.h"
+#include "drawing/dxf/missing_owners.h"
 #include "drawing/dxf/start.h"
 
 #include <array>
@@ -57,7 +58,9 @@ class OdDbDxfReader {
   OdDbDxfIn m_in;
   OdDbDxfAheadSource* m_ahead = nullptr; ///< if entities are read ahead
   std::array<OdDbSymbolTablePtr, OdDbDatabaseData::kTableCount> m_tables;
-  OdDbBlockTableRecordPtr m_space; ///< of the last entity
+  OdDbDxfMissingOwners m_owners{m_data};
+  std::unordered_set<OdDbObjectId> m_readBlocks; ///< of a file without a table of blocks
+  OdDbBlockTableRecordPtr m_space;               ///< of the last entity
   std::string m_name;
   std::uint64_t m_firstFree = 0; ///< what has a higher handle was made while reading
   bool m_tablesReady = false, m_trustworthy = false;

@@ -273,8 +273,10 @@ OdDbObjectId OdDbDxfIn::record(OdDbDatabaseData::Table table, std::string_view n
     const OdDbSymbolTableRecordPtr made = records->newRecord();
     made->setName(wanted);
     id = records->add(made);
-    note(QStringLiteral("%1 \"%2\" is not in its table and was added")
-             .arg(QLatin1String(records->dxfRecordName()), wanted));
+    // In old files the BLOCKS section is the only table of blocks, and it may come later.
+    if (!m_plain || table != OdDbDatabaseData::kBlocks)
+      note(QStringLiteral("%1 \"%2\" is not in its table and was added")
+               .arg(QLatin1String(records->dxfRecordName()), wanted));
   }
   recent.name = name;
   recent.id = id;
