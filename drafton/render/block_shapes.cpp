@@ -130,7 +130,14 @@ OdGeExtents3d BlockShapes::boxOf(const ShapeItem& item) const {
     const Piece& piece = m_list.pieces[item.firstPiece + i];
     if (piece.kind != PieceKind::kBlock) continue;
     const BlockPiece& block = m_list.blocks[piece.first];
-    addMoved(box, m_scene.boxOf(block.block, m_deviation), block.transform);
+    const OdGeExtents3d first = m_scene.boxOf(block.block, m_deviation);
+    addMoved(box, first, block.transform);
+    if (block.array == 0) continue;
+    const ArrayPiece& array = m_list.arrays[block.array - 1];
+    for (const int column : {0, array.columns - 1})
+      for (const int row : {0, array.rows - 1})
+        addMoved(box, first,
+                 OdGeMatrix3d::translation(array.toCell(column, row)) * block.transform);
   }
   return box;
 }

@@ -46,6 +46,8 @@ class Test {
   void rings(const ShapeList& list, const AreaPiece& area, const Projection& projection);
   void text(const OdGiTextRun& run, const Projection& projection);
   void block(const BlockPiece& block, const Projection& projection, const Style& style);
+  void cells(const BlockPiece& first, const ArrayPiece& array, const Projection& projection,
+             const Style& style);
 
   Scene& m_scene;
   QRectF m_rect;
@@ -115,9 +117,33 @@ void Test::block(const BlockPiece& block, const Projection& projection, const St
   m_open.pop_back();
 }
 
+void Test::cells(const BlockPiece& first, const ArrayPiece& array, const Projection& projection,
+                 const Style& style) {
+  const Projection inner = projection.after(first.transform);
+  const OdGeExtents3d extents = m_scene.boxOf(first.block, deviationFor(inner.scale()));
+  if (extents.isEmpty()) return;
+  const QPointF right = projection(array.right), up = projection(array.up);
+  CellRange cells =
+      cellsWithin(m_rect.adjusted(-1, -1, 1, 1), inner.boxOf(extents), array, right, up);
+  const auto all = static_cast<std::size_t>(array.columns) * static_cast<std::size_t>(array.rows);
+  m_leaves = m_leaves || cells.count() < all;
+  // Those that are nearer to each other than anybody can point are alike.
+  constexpr double kClosest = 0.5;
+  constexpr std::size_t kMost = 250'000;
+  thinOut(cells, right, up, kClosest, kMost);
+  for (int row = cells.firstRow; row <= cells.lastRow; row += cells.rowStep)
+    for (int column = cells.firstColumn; column <= cells.lastColumn; column += cells.columnStep)
+      block({first.block, OdGeMatrix3d::translation(array.toCell(column, row)) * first.transform},
+            projection, style);
+}
+
 void Test::piece(const ShapeList& list, const Piece& piece, const Projection& projection,
                  const Style& style, bool isShown) {
-  if (piece.kind == PieceKind::kBlock) return block(list.blocks[piece.first], projection, style);
+  if (piece.kind == PieceKind::kBlock) {
+    const BlockPiece& first = list.blocks[piece.first];
+    return first.array == 0 ? block(first, projection, style)
+                            : cells(first, list.arrays[first.array - 1], projection, style);
+  }
   if (!isShown) return;
   switch (piece.kind) {
   case PieceKind::kPolyline:

@@ -25,6 +25,8 @@ struct RenderOptions {
   /// So many references within blocks are drawn for one entity of a space; a few that stand for
   /// four others each, thirty levels deep, would never end.
   std::size_t mostNestedBlocks = 1'000'000;
+  /// So many cells of an insert in rows and columns are drawn in full; of more, some all over.
+  std::size_t mostCells = 250'000;
   /// Entities of the block that is drawn which stand out; null for none.
   const std::unordered_set<OdDbObjectId>* highlighted = nullptr;
   QRgb highlightColor = qRgb(0, 120, 215);

@@ -15,6 +15,8 @@ constexpr double kSeenDeviation = 0.25;
 constexpr std::size_t kDeepest = 100;
 /// Inserts with more entities than this are asked through their index.
 constexpr std::size_t kManyItems = 400;
+/// Farther than anything on a picture.
+constexpr double kNoEnd = 1e9;
 /// Thick lines and points reach so many pixels beyond their geometry.
 constexpr double kReach = 40;
 constexpr double kHaloWidth = 4;
@@ -135,7 +137,10 @@ void ScenePainter::drawPiece(const Projection& projection, double scale, const S
                              const QRectF& box) {
   switch (piece.kind) {
   case PieceKind::kBlock:
-    drawBlock(projection, list.blocks[piece.first], style);
+    if (const BlockPiece& block = list.blocks[piece.first]; block.array == 0)
+      drawBlock(projection, block, style);
+    else
+      drawCells(projection, block, list.arrays[block.array - 1], style, showsLines);
     m_pieces.setProjection(projection, scale);
     m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
     break;
@@ -205,6 +210,37 @@ void ScenePainter::drawViewport(const Projection& projection, const OdDbViewport
   m_pieces.setProjection(projection, projection.scale());
   m_pieces.setStyle(style, m_scene.styles().linetype(style.linetype));
   m_pieces.drawFrame(edge);
+}
+
+void ScenePainter::drawCells(const Projection& outer, const BlockPiece& first,
+                             const ArrayPiece& array, const Style& style, bool showsLines) {
+  const double deviation = deviationFor(outer.after(first.transform).scale());
+  const OdGeExtents3d extents = m_scene.boxOf(first.block, deviation);
+  if (extents.isEmpty()) return;
+  const QRectF cell = outer.after(first.transform).boxOf(extents);
+  const QPointF right = outer(array.right), up = outer(array.up);
+  const BlockShapes* const shapes = m_scene.shapes(first.block, deviation);
+  const QRectF part = shapes != nullptr && shapes->isEndless()
+                          ? QRectF(-kNoEnd, -kNoEnd, 2 * kNoEnd, 2 * kNoEnd)
+                          : m_surface.clipRect().adjusted(-kReach, -kReach, kReach, kReach);
+  CellRange cells = cellsWithin(part, cell, array, right, up);
+  const bool areSpecks = isTooSmall(cell);
+  thinOut(cells, right, up, m_options.simplifies ? 1 : 0,
+          areSpecks ? m_options.mostNestedBlocks * 64 : m_options.mostCells);
+  const bool isNested = m_open.size() > 1;
+  for (int row = cells.firstRow; row <= cells.lastRow; row += cells.rowStep)
+    for (int column = cells.firstColumn; column <= cells.lastColumn; column += cells.columnStep) {
+      const OdGeVector3d way = array.toCell(column, row);
+      if (isNested) {
+        if (m_nestedLeft == 0) return;
+        --m_nestedLeft;
+      }
+      if (areSpecks) {
+        if (showsLines) m_pieces.drawSpeck(cell.center() + outer(way));
+        continue;
+      }
+      drawBlock(outer, {first.block, OdGeMatrix3d::translation(way) * first.transform}, style);
+    }
 }
 
 void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, const Style& style) {

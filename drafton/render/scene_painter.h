@@ -30,6 +30,8 @@ class ScenePainter {
   void drawItem(const Level& level, const ShapeItem& item);
   void drawPiece(const Projection& projection, double scale, const ShapeList& list,
                  const Piece& piece, const Style& style, bool showsLines, const QRectF& box);
+  void drawCells(const Projection& outer, const BlockPiece& first, const ArrayPiece& array,
+                 const Style& style, bool showsLines);
   void drawBlock(const Projection& outer, const BlockPiece& block, const Style& style);
   void drawSpace(OdDbObjectId block, const Projection& projection);
   void drawViewport(const Projection& projection, const OdDbViewport& viewport, const Style& style,

@@ -1,6 +1,7 @@
 // What entities show, recorded for drawing again and again.
 #pragma once
 
+#include "drafton/render/block_array.h"
 #include "drawing/entities/entity.h"
 #include "drawing/graphics/world_draw.h"
 #include "drawing/patterns/hatch_pattern.h"
@@ -69,7 +70,8 @@ struct PointPiece {
 
 struct BlockPiece {
   OdDbObjectId block;
-  OdGeMatrix3d transform;
+  OdGeMatrix3d transform;  ///< of the first cell of an array
+  std::uint32_t array = 0; ///< counted from 1; 0 for a single one
 };
 
 /// An image or a viewport; `own` only if it is in no drawing.
@@ -96,6 +98,7 @@ class ShapeList {
   std::vector<OdGiTextRun> texts;
   std::vector<PointPiece> marks;
   std::vector<BlockPiece> blocks;
+  std::vector<ArrayPiece> arrays;
   std::vector<ObjectPiece> objects;
   std::vector<OdDbObjectId> linetypes; ///< of pieces that differ from their entities
 

@@ -1,6 +1,7 @@
 #include "drafton/render/shape_recorder.h"
 
 #include "drafton/render/text_shapes.h"
+#include "drawing/entities/block_reference.h"
 #include "drawing/entities/hatch.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/entities/viewport.h"
@@ -39,6 +40,7 @@ double inkOf(const std::vector<OdHatchPatternLine>& lines) {
 } // namespace
 
 void ShapeRecorder::record(const OdDbEntity& entity) {
+  m_arrayOf = nullptr;
   const auto* const hatch = odrxCast<OdDbHatch>(&entity);
   if (hatch != nullptr && !hatch->isSolidFill() && !hatch->isGradient())
     pattern(*hatch);
@@ -219,12 +221,23 @@ void ShapeRecorder::point(const OdGePoint3d& position, const OdGeVector3d& norma
   m_box.addPoint(position);
 }
 
-void ShapeRecorder::block(OdDbObjectId block, const OdGeMatrix3d& transform, const OdDbEntity&) {
+void ShapeRecorder::block(OdDbObjectId block, const OdGeMatrix3d& transform,
+                          const OdDbEntity& entity) {
+  const auto* const insert = odrxCast<OdDbBlockReference>(&entity);
+  const bool isArray = insert && insert->isMInsert();
+  if (isArray && std::exchange(m_arrayOf, &entity) == &entity) return;
   for (int row = 0; row < 3; ++row)
     for (int column = 0; column < 4; ++column)
       if (!std::isfinite(transform(row, column))) return;
   add(PieceKind::kBlock, m_list.blocks.size(), 1);
   m_list.blocks.push_back({block, transform});
+  if (!isArray) return;
+  const OdGeMatrix3d frame = OdGeMatrix3d::planeToWorld(insert->normal()) *
+                             OdGeMatrix3d::rotation(insert->rotation(), OdGeVector3d::zAxis());
+  m_list.arrays.push_back({insert->numColumns(), insert->numRows(),
+                           frame * OdGeVector3d{insert->columnSpacing(), 0, 0},
+                           frame * OdGeVector3d{0, insert->rowSpacing(), 0}});
+  m_list.blocks.back().array = static_cast<std::uint32_t>(m_list.arrays.size());
 }
 
 void ShapeRecorder::addObject(PieceKind kind, const OdDbEntity& entity,

@@ -56,6 +56,7 @@ class ShapeRecorder : public OdGiWorldDraw {
   OdGeExtents3d m_box;
   bool m_isCoarse = false, m_isEndless = false;
   std::optional<OdCmColor> m_color;
+  const OdDbEntity* m_arrayOf = nullptr; ///< whose cells are recorded: all of them as one piece
   std::uint16_t m_linetype = 0;
 };
 

@@ -156,18 +156,27 @@ OdGeMatrix3d OdDbBlockReference::blockTransform() const {
          OdGeMatrix3d::translation(-base);
 }
 
-std::vector<OdGeMatrix3d> OdDbBlockReference::cellTransforms() const {
-  const OdGeMatrix3d first = blockTransform();
-  if (!isMInsert()) return {first};
-  const OdGeMatrix3d frame = frameOf(m_insert);
-  const OdGeVector3d right = frame * OdGeVector3d{m_insert.columnSpacing, 0, 0};
-  const OdGeVector3d up = frame * OdGeVector3d{0, m_insert.rowSpacing, 0};
+namespace {
+
+/// Calls `act` with the transformation of every cell, row by row.
+template <class Act>
+void forEachCell(const OdDbBlockReference::Data& d, const OdGeMatrix3d& first, Act act) {
+  const OdGeMatrix3d frame = frameOf(d);
+  const OdGeVector3d right = frame * OdGeVector3d{d.columnSpacing, 0, 0};
+  const OdGeVector3d up = frame * OdGeVector3d{0, d.rowSpacing, 0};
   // Files can ask for more cells than anybody can show.
   constexpr std::size_t kShown = 1'000'000;
+  std::size_t count = 0;
+  for (int row = 0; row < d.rows; ++row)
+    for (int column = 0; column < d.columns && count < kShown; ++column, ++count)
+      act(OdGeMatrix3d::translation(right * column + up * row) * first);
+}
+
+} // namespace
+
+std::vector<OdGeMatrix3d> OdDbBlockReference::cellTransforms() const {
   std::vector<OdGeMatrix3d> all;
-  for (int row = 0; row < m_insert.rows; ++row)
-    for (int column = 0; column < m_insert.columns && all.size() < kShown; ++column)
-      all.push_back(OdGeMatrix3d::translation(right * column + up * row) * first);
+  forEachCell(m_insert, blockTransform(), [&](const OdGeMatrix3d& cell) { all.push_back(cell); });
   return all;
 }
 
@@ -241,8 +250,8 @@ void OdDbBlockReference::addFollower(OdDbEntity& follower) {
 
 void OdDbBlockReference::worldDraw(OdGiWorldDraw& draw) const {
   if (!m_insert.block.isNull())
-    for (const OdGeMatrix3d& transform : cellTransforms())
-      draw.block(m_insert.block, transform, *this);
+    forEachCell(m_insert, blockTransform(),
+                [&](const OdGeMatrix3d& cell) { draw.block(m_insert.block, cell, *this); });
   for (const OdDbAttributePtr& attribute : attributes()) {
     const OdDbObjectPtr record = attribute->layerId().openObject();
     const auto* const layer = odrxCast<OdDbLayerTableRecord>(record.get());

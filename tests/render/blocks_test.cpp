@@ -55,6 +55,60 @@ TEST_F(BlockPictures, InsertsScaledMirroredTurnedAndInRows) {
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "insert"));
 }
 
+TEST_F(BlockPictures, RowsAndColumnsAreOnePieceHoweverMany) {
+  const OdDbObjectId dot = addBlock(u"Dot");
+  addTo(dot, odrxMake<OdDbCircle>(OdGePoint3d{}, OdGeVector3d::zAxis(), 0.3));
+  insert(dot, 0, 0)->setArray(3000, 3000, 1, 1);
+  const BlockShapes* const shapes = scene().shapes(database().getModelSpaceId(), 1);
+  ASSERT_NE(shapes, nullptr);
+  EXPECT_EQ(shapes->list().blocks.size(), 1u);
+  // Far away all of it is there, and nearby each of them.
+  const QImage all = picture(0, 0, 2999, 2999, {200, 200});
+  for (const QPoint p : {QPoint(5, 5), QPoint(195, 5), QPoint(5, 195), QPoint(195, 195)})
+    EXPECT_LT(qGray(all.pixel(p)), 255) << p.x() << ' ' << p.y();
+  int inked = 0;
+  for (int y = 10; y < 190; ++y)
+    for (int x = 10; x < 190; ++x) inked += qGray(all.pixel(x, y)) < 255;
+  EXPECT_EQ(inked, 180 * 180);
+  const QImage corner = picture(2990.5, 2990.5, 3000.5, 3000.5, {200, 200});
+  // The last one stands at 2999, and nothing behind it.
+  const auto inkAround = [&](double x, double y) {
+    int ink = 0;
+    const int cx = static_cast<int>((x - 2990.5) * 20), cy = static_cast<int>((3000.5 - y) * 20);
+    for (int j = -8; j <= 8; ++j)
+      for (int i = -8; i <= 8; ++i) ink += qGray(corner.pixel(cx + i, cy + j)) < 200;
+    return ink;
+  };
+  EXPECT_GT(inkAround(2999, 2999), 10);
+  EXPECT_GT(inkAround(2991, 2995), 10);
+  EXPECT_EQ(inkAround(3000, 2999), 0);
+}
+
+TEST(BlockArray, CellsOfAPartAreFoundAndThinnedOut) {
+  const ArrayPiece array{1000, 500, OdGeVector3d{2, 0, 0}, OdGeVector3d{0, 3, 0}};
+  const QRectF cell(0, -1, 1, 1);
+  const QPointF right(2, 0), up(0, -3);
+  const CellRange some = cellsWithin(QRectF(100, -100, 10, 10), cell, array, right, up);
+  EXPECT_LE(some.firstColumn, 50);
+  EXPECT_GE(some.lastColumn, 55);
+  EXPECT_LE(some.count(), 60u);
+  EXPECT_TRUE(cellsWithin(QRectF(-500, -100, 10, 10), cell, array, right, up).isEmpty());
+  EXPECT_EQ(cellsWithin(QRectF(0, 0, 1, 1), cell, array, {}, {}).count(), 500'000u)
+      << "all on one place";
+  CellRange all = cellsWithin(QRectF(-1e6, -1e6, 2e6, 2e6), cell, array, right, up);
+  EXPECT_EQ(all.count(), 500'000u);
+  thinOut(all, right, up, 1, 1'000'000);
+  EXPECT_EQ(all.count(), 500'000u);
+  thinOut(all, right, up, 6, 1'000'000);
+  EXPECT_EQ(all.columnStep, 3);
+  EXPECT_EQ(all.rowStep, 2);
+  thinOut(all, right, up, 0, 1000);
+  EXPECT_LE(all.count(), 1000u);
+  EXPECT_GT(all.count(), 100u);
+  thinOut(all, {}, {}, 1, 1000);
+  EXPECT_EQ(all.count(), 1u);
+}
+
 TEST_F(BlockPictures, LayerZeroAndByBlockComeFromTheOutermostInsertThatSaysThem) {
   const OdDbObjectId green = addLayer(u"Green", 3), blue = addLayer(u"Blue", 5);
   const OdDbObjectId inner = addBlock(u"Inner");
