@@ -1,5 +1,6 @@
 #include "drafton/render/image_cache.h"
 
+#include "drawing/objects/picture_limits.h"
 #include "drawing/pictures/picture_reader.h"
 #include "frame/file_path.h"
 
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <mutex>
 
 namespace drafton {
 namespace {
@@ -42,19 +44,74 @@ QImage toned(const QImage& image, const ImageTones& tones, QRgb ground) {
   return result.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// Null for a picture that cannot be decoded, is cut off or would take too much memory.
-QImage decoded(const QString& file) {
+/// Lets large pictures be decoded while it lives. Everybody else keeps the usual bound, which is of
+/// the whole program: therefore one at a time.
+class RoomForLarge {
+ public:
+  RoomForLarge()
+    : m_former(QImageReader::allocationLimit()) {
+    constexpr int kMegabytes = 1024;
+    QImageReader::setAllocationLimit(std::max(m_former, kMegabytes));
+  }
+  ~RoomForLarge() { QImageReader::setAllocationLimit(m_former); }
+  RoomForLarge(const RoomForLarge&) = delete;
+  RoomForLarge& operator=(const RoomForLarge&) = delete;
+
+ private:
+  static std::mutex& mutex() {
+    static std::mutex one;
+    return one;
+  }
+  std::lock_guard<std::mutex> m_lock{mutex()};
+  int m_former;
+};
+
+QSize halved(const QSize& size, int halvings) {
+  return {std::max(1, size.width() >> halvings), std::max(1, size.height() >> halvings)};
+}
+
+/// How often a picture may be halved without becoming smaller than a width. One that would take
+/// more memory than all of the cache has is halved further.
+int halvingsOf(const QSize& whole, double wanted) {
+  constexpr qint64 kMostPixels = 100'000'000;
+  int halvings = 0;
+  for (double half = whole.width() / 2.0; half >= wanted && half >= 1; half /= 2) ++halvings;
+  const auto pixels = [&] {
+    const QSize now = halved(whole, halvings);
+    return qint64{now.width()} * now.height();
+  };
+  while (pixels() > kMostPixels) ++halvings;
+  return halvings;
+}
+
+/// True from where on the time and the memory count that decoders save by leaving pixels out.
+bool isLarge(const QSize& size) {
+  constexpr qint64 kLarge = 16'000'000;
+  return size.isValid() && qint64{size.width()} * size.height() > kLarge;
+}
+
+/// Of a picture of the size `whole`, which is set for those that do not tell theirs. Null for one
+/// that cannot be decoded, is cut off or would take too much memory.
+QImage decoded(const QString& file, double width, QSize& whole) {
   QFile device(file);
   if (!device.open(QIODevice::ReadOnly)) return {};
   OdPictureReader reader(&device);
-  return reader.isCut() || reader.isTooLarge() ? QImage() : reader.read();
-}
-
-/// How often a width may be halved without becoming smaller than another.
-int halvingsOf(int width, double wanted) {
-  int halvings = 0;
-  for (double half = width / 2.0; half >= wanted && half >= 1; half /= 2) ++halvings;
-  return halvings;
+  whole = reader.toldSize();
+  if (reader.isCut() || oddb::isTooLargePicture(whole.width(), whole.height())) return {};
+  if (isLarge(whole)) {
+    const RoomForLarge room;
+    if (const int halvings = halvingsOf(whole, width); halvings > 0)
+      reader.setScaledSize(halved(whole, halvings));
+    return reader.read();
+  }
+  if (reader.isTooLarge()) return {};
+  const QImage image = reader.read();
+  whole = image.size();
+  const int halvings = halvingsOf(whole, width);
+  return image.isNull() || halvings == 0
+             ? image
+             : image.scaled(halved(whole, halvings), Qt::IgnoreAspectRatio,
+                            Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -76,23 +133,19 @@ QImage ImageCache::find(const OdString& path, double width, const ImageTones& to
   const QDateTime modified = info.lastModified();
   for (auto it = m_entries.begin(); it != m_entries.end(); ++it) {
     if (it->path != path || it->modified != modified) continue;
-    const bool isSame = it->halvings == halvingsOf(it->width, width) && it->tones == tones &&
+    const bool isSame = it->halvings == halvingsOf(it->whole, width) && it->tones == tones &&
                         (tones.fade == 0 || it->ground == ground);
     // What cannot be shown is kept as well: it is not tried again at each frame.
     if (!isSame && !it->image.isNull()) continue;
     m_entries.splice(m_entries.begin(), m_entries, it);
     return it->image;
   }
-  QImage image = decoded(platform);
+  QSize whole;
+  QImage image = decoded(platform, width, whole);
   if (image.isNull() && !m_unshown.contains(path)) m_unshown << path;
-  const int whole = image.width(), halvings = halvingsOf(whole, width);
-  if (halvings > 0)
-    image = image.scaled(std::max(1, image.width() >> halvings),
-                         std::max(1, image.height() >> halvings), Qt::IgnoreAspectRatio,
-                         Qt::SmoothTransformation);
   if (!image.isNull())
     image = toned(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), tones, ground);
-  return keep({path, modified, whole, halvings, tones, ground, image});
+  return keep({path, modified, whole, halvingsOf(whole, width), tones, ground, image});
 }
 
 QImage ImageCache::keep(Entry entry) {

@@ -26,8 +26,8 @@ class ImageCache {
   static ImageCache& instance();
 
   /// The picture of a file (a stored path), halved as often as its width may be without becoming
-  /// smaller than `width`. Null if the file is none that can be read. `ground` is what fading leads
-  /// to.
+  /// smaller than `width`, and further if it would fill the cache alone. Null if the file is none
+  /// that can be read, or is too large. `ground` is what fading leads to.
   QImage find(const OdString& path, double width, const ImageTones& tones, QRgb ground);
 
   /// The stored paths of files that were asked for and turned out to be none that can be shown,
@@ -41,7 +41,7 @@ class ImageCache {
   struct Entry {
     OdString path;
     QDateTime modified;
-    int width = 0; ///< of the whole picture, in pixels
+    QSize whole; ///< of the whole picture, in pixels
     int halvings = 0;
     ImageTones tones;
     QRgb ground = 0;
@@ -56,7 +56,7 @@ class ImageCache {
 
   std::list<Entry> m_entries; // the last used one in front
   QStringList m_unshown;
-  qsizetype m_size = 0, m_limit = qsizetype{256} << 20;
+  qsizetype m_size = 0, m_limit = qsizetype{384} << 20;
 };
 
 } // namespace drafton

@@ -5,7 +5,9 @@
 
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
@@ -220,6 +222,59 @@ TEST(ImageCache, TriesAFileThatCannotBeShownOnlyOnce) {
   EXPECT_EQ(cache.size(), size);
   change([](QFile&) {}, 1);
   EXPECT_TRUE(isShown());
+}
+
+/// As PNG has it.
+quint32 crcOf(const QByteArray& bytes) {
+  quint32 crc = 0xFFFFFFFF;
+  for (const char c : bytes) {
+    crc ^= static_cast<uchar>(c);
+    for (int bit = 0; bit < 8; ++bit) crc = crc & 1 ? 0xEDB88320 ^ (crc >> 1) : crc >> 1;
+  }
+  return ~crc;
+}
+
+TEST(ImageCache, ShowsScansLargerThanQtDecodesByItself) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("scan.png"));
+  QImage picture(6000, 6000, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(file));
+  const OdString scan = odpath::fromPlatform(file);
+  const int limit = QImageReader::allocationLimit();
+  ASSERT_LT(limit, 6000 * 6000 * 4 / 1'048'576);
+  ImageCache cache;
+  EXPECT_EQ(cache.find(scan, 6000, {}, 0).size(), QSize(6000, 6000));
+  const QImage small = cache.find(scan, 300, {}, 0);
+  EXPECT_EQ(small.size(), QSize(375, 375));
+  EXPECT_EQ(small.pixel(200, 200), qRgb(255, 0, 0));
+  EXPECT_EQ(QImageReader::allocationLimit(), limit) << "for everybody else";
+  EXPECT_EQ(cache.takeUnshown(), QStringList());
+}
+
+TEST(ImageCache, RefusesWhatNobodyHasTheMemoryFor) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("bomb.png")));
+  QImage one(1, 1, QImage::Format_RGB32);
+  one.fill(Qt::white);
+  ASSERT_TRUE(one.save(file.fileName(), "png"));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  // The size is told before a single pixel.
+  QByteArray bytes = file.readAll();
+  const qsizetype header = bytes.indexOf("IHDR");
+  const auto setNumber = [&](qsizetype at, quint32 value) {
+    qToBigEndian(value, bytes.data() + at);
+  };
+  setNumber(header + 4, 40'000);
+  setNumber(header + 8, 30'000);
+  setNumber(header + 17, crcOf(bytes.mid(header, 17)));
+  file.seek(0);
+  file.write(bytes);
+  file.close();
+  const OdString path = odpath::fromPlatform(file.fileName());
+  ImageCache cache;
+  EXPECT_TRUE(cache.find(path, 100, {}, 0).isNull());
+  EXPECT_EQ(cache.takeUnshown(), QStringList(path));
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "drafton/engine/translator.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/objects/dictionary.h"
+#include "drawing/objects/picture_limits.h"
 #include "drawing/pictures/picture_reader.h"
 #include "frame/file_path.h"
 
@@ -84,6 +85,11 @@ void addImage(CommandContext& context, const Picture& picture, const OdString& n
   image->setOrientation(point, OdGeVector3d{std::cos(rotation), std::sin(rotation), 0} * width,
                         OdGeVector3d{-std::sin(rotation), std::cos(rotation), 0} * height);
   addNewEntity(database, *image);
+  if (oddb::isTooLargePicture(picture.size.width(), picture.size.height()))
+    context.print(translated(u"%1 is too large to be shown: %2 by %3 pixels")
+                      .arg(odpath::toPlatform(picture.path))
+                      .arg(picture.size.width())
+                      .arg(picture.size.height()));
   context.setLastPoint(point);
 }
 
