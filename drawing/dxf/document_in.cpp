@@ -229,6 +229,7 @@ void OdDbDxfReader::finish() {
     m_data.rootDictionary = m_database.addObject(odrxMake<OdDbDictionary>(), {});
     m_in.note(QStringLiteral("the dictionary of named objects is missing and was added"));
   }
+  std::vector<OdDbObjectId> missing;
   for (const OdDbObjectId id : m_tables[OdDbDatabaseData::kBlocks]->recordIds()) {
     const auto block = id.openAs<OdDbBlockTableRecord>(OdDb::kForWrite);
     if (block->blockBeginId().isNull() || block->blockEndId().isNull()) {
@@ -237,10 +238,13 @@ void OdDbDxfReader::finish() {
             QStringLiteral("the block \"%1\" has no beginning and got one").arg(block->getName()));
       block->ensureBounds();
     }
-    if (m_in.isPlain() && !block->isLayout() && !m_readBlocks.contains(id))
-      m_in.note(QStringLiteral("the block \"%1\" is missing and was added").arg(block->getName()));
+    if (m_in.isPlain() && !block->isLayout() && !m_readBlocks.contains(id)) missing.push_back(id);
   }
   if (m_in.isPlain()) oddb::useStandardArrows(m_database);
+  for (const OdDbObjectId id : missing)
+    if (const OdDbBlockTableRecordPtr block = id.openObject();
+        block && block->newIterator()->done())
+      m_in.note(QStringLiteral("the block \"%1\" is missing and was added").arg(block->getName()));
   finishHeader();
   m_data.modified = false;
 }

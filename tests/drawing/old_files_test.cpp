@@ -64,3 +64,10 @@ TEST(OldFiles, BlocksOfR12AreNamedBeforeTheyCome) {
   ASSERT_EQ(told.size(), 1);
   EXPECT_TRUE(told[0].endsWith(QStringLiteral("the block \"INNER\" is missing and was added")));
 }
+
+TEST(OldFiles, ArrowsThatR12DrawsByItselfAreNotMissing) {
+  const OdDbDatabasePtr db =
+      read("AC1009", section("TABLES", "  0\nTABLE\n  2\nDIMSTYLE\n 70\n1\n  0\nDIMSTYLE\n  2\n"
+                                       "TICKS\n 70\n0\n  5\nARCHTICK\n  0\nENDTAB\n"));
+  EXPECT_EQ(db->readNotes().filter(QStringLiteral("ARCHTICK")), QStringList());
+}

@@ -1480,10 +1480,6 @@
         <translation>nicht gefunden</translation>
     </message>
     <message>
-        <source>%1 is too large to be shown: %2 by %3 pixels</source>
-        <translation>%1 ist zu groß, um gezeigt zu werden: %2 mal %3 Pixel</translation>
-    </message>
-    <message>
         <source>loaded</source>
         <translation>geladen</translation>
     </message>
