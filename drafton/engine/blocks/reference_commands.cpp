@@ -114,8 +114,8 @@ Task<std::vector<OdDbBlockTableRecordPtr>> askReferences(CommandContext& context
 Task<void> changePath(CommandContext& context) {
   const auto blocks = co_await askReferences(context, u"Enter reference(s) whose path changes");
   for (const OdDbBlockTableRecordPtr& block : blocks) {
-    context.print(translated(u"\"%1\": %2").arg(block->getName(), block->pathName()));
-    const OdString now = block->pathName();
+    const OdString now = odpath::toPlatform(block->pathName());
+    context.print(translated(u"\"%1\": %2").arg(block->getName(), now));
     const Answer<OdString> path = co_await context.input().string(
         {.text = u"Enter new path", .allowBlanks = true, .defaultValue = QStringView(now)});
     // What the file has stays as it stands there.

@@ -230,3 +230,19 @@ TEST_F(OpenedReferences, OfInsertedDrawingsAreShown) {
   // They are saved as paths here as well.
   EXPECT_FALSE(database().writeDxf().contains("AcDbCircle"));
 }
+
+TEST_F(OpenedReferences, PathsOfOtherSystemsAreShownAsHereAndStayAsTheyStand) {
+  writeDrawing("wheel.dxf", 2);
+  writeShowing("car.dxf", {QStringLiteral("old/wheel.dxf")});
+  const QByteArray bytes = bytesOf("car.dxf").replace("old/wheel.dxf", "old\\wheel.dxf");
+  QFile file(path("car.dxf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes);
+  file.close();
+  open("car.dxf");
+  type(QStringLiteral("XREF\np\nwheel\n\n"));
+  EXPECT_TRUE(console().shows(QStringLiteral("\"wheel\": old/wheel.dxf")))
+      << output().toStdString();
+  EXPECT_FALSE(output().contains(u'\\')) << output().toStdString();
+  EXPECT_TRUE(database().writeDxf().contains("old\\wheel.dxf"));
+}
