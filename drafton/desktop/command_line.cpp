@@ -1,6 +1,7 @@
 #include "drafton/desktop/command_line.h"
 
 #include "drafton/desktop/command_offers.h"
+#include "drafton/desktop/give_keys.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -115,13 +116,12 @@ bool CommandLine::blankBelongsToText() const {
 }
 
 void CommandLine::submit() {
-  OdString text = m_edit->text();
+  const OdString text = m_edit->text();
   m_edit->clear();
   if (!text.isEmpty() && (m_typed.isEmpty() || m_typed.last() != text)) m_typed << text;
   if (m_typed.size() > kMostTyped) m_typed.removeFirst();
   m_recalled = m_typed.size();
-  if (text.isEmpty() && !m_desktop.isBusy()) text = m_desktop.lastCommand();
-  if (text.isEmpty() && !m_desktop.isBusy()) return;
+  if (text.isEmpty() && !m_desktop.isBusy()) return m_desktop.repeat();
   m_desktop.type(text + u'\n');
 }
 
@@ -183,7 +183,7 @@ bool CommandLine::takeKey(QKeyEvent* event) {
   const bool isText =
       !text.isEmpty() && text[0].isPrint() && !(event->modifiers() & Qt::ControlModifier);
   if (!isText && event->key() != Qt::Key_Backspace) return false;
-  m_edit->setFocus(Qt::OtherFocusReason);
+  giveKeys(*m_edit);
   if (isText)
     m_edit->insert(text);
   else

@@ -1,14 +1,15 @@
 #include "drafton/desktop/desktop.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace drafton {
 namespace {
 
 const QStringList kSection{QStringLiteral("Desktop")};
 
-/// Commands that nobody wants again by pressing Enter.
-constexpr const char16_t* kNotRepeated[] = {u"Exit", u"CloseDocument"};
+/// Commands that nobody wants again by pressing Enter: they would close what was just opened.
+constexpr const char16_t* kNotRepeated[] = {u"Exit", u"CloseDocument", u"ToolPalettes"};
 
 bool isRepeated(const OdString& name) {
   return !name.startsWith(QLatin1String("__")) &&
@@ -25,7 +26,9 @@ class Desktop::Events : public HostEditorReactor {
   void setDesktop(Desktop* desktop) { m_desktop = desktop; }
 
   void commandWillStart(const OdString& name) override {
-    if (isRepeated(name)) m_desktop->m_lastCommand = name;
+    if (!m_desktop->m_engine->currentProcessor().runsUsersCommand() || !isRepeated(name)) return;
+    m_desktop->m_lastCommand = name;
+    m_desktop->m_lastAction.reset();
   }
   void sysVarChanged(OdDbDatabase*, const OdString& name) override {
     Q_EMIT m_desktop->variableChanged(name);
@@ -41,17 +44,32 @@ class Desktop::Events : public HostEditorReactor {
   Desktop* m_desktop = nullptr;
 };
 
+class Desktop::Repetition : public CKVUnknownImpl<IHostRepetition> {
+ public:
+  explicit Repetition(Desktop& desktop)
+    : m_desktop(&desktop) {}
+  void userRan(IHostRepeatable* action) override {
+    if (m_desktop) m_desktop->m_lastAction = action;
+  }
+
+ private:
+  QPointer<Desktop> m_desktop;
+};
+
 Desktop::Desktop(EngineOptions options)
   : m_engine(std::make_unique<Engine>(std::move(options), m_console, &m_input))
   , m_events(odrxMake<Events>()) {
   m_events->setDesktop(this);
   m_engine->events().addReactor(m_events.get());
+  m_engine->services().offer(IHostRepetition::kId, kvMake<Repetition>(*this).get());
   m_input.setEngine(m_engine.get());
   connect(&m_input, &EventInput::settled, this, &Desktop::settled);
 }
 
 Desktop::~Desktop() {
   m_input.stop();
+  // Its code goes with its module.
+  m_lastAction.reset();
   m_engine->events().removeReactor(m_events.get());
   m_input.setEngine(nullptr);
   m_engine.reset();
@@ -67,10 +85,10 @@ void Desktop::catchUp() {
   if (m_input.isQueued()) m_input.takeUp();
 }
 
-void Desktop::type(const OdString& text) {
+void Desktop::type(const OdString& text, KeyQueue::Giver giver) {
   catchUp();
   Q_EMIT aboutToTake();
-  m_engine->type(text);
+  m_engine->type(text, giver);
   m_input.takeUp();
 }
 
@@ -80,8 +98,16 @@ void Desktop::runMacro(const OdString& macro) {
   OdString text = macro;
   // With nothing to cancel it would take away what is chosen.
   while (!isBusy() && text.startsWith(QLatin1String("^C"))) text.remove(0, 2);
-  m_engine->currentProcessor().sendText(text);
+  m_engine->currentProcessor().typeMacro(text);
   m_input.takeUp();
+}
+
+void Desktop::repeat() {
+  // It may be replaced while it runs.
+  if (const KVPtr<IHostRepeatable> action = m_lastAction)
+    action->repeat();
+  else if (!m_lastCommand.isEmpty())
+    type(m_lastCommand + u'\n');
 }
 
 void Desktop::cancel() { type(QStringLiteral("^C")); }

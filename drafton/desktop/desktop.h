@@ -4,6 +4,7 @@
 #include "drafton/desktop/desktop_console.h"
 #include "drafton/desktop/event_input.h"
 #include "drafton/engine/engine.h"
+#include "host/repetition.h"
 
 namespace drafton {
 
@@ -33,8 +34,9 @@ class Desktop : public QObject {
   /// Keys and clicks that come behind would overtake it: an Esc what it is to end, an answer its
   /// question.
   void catchUp();
-  /// Types as a user does: a blank ends a word, a line break is Enter.
-  void type(const OdString& text);
+  /// Types as a user does: a blank ends a word, a line break is Enter. What is typed for the
+  /// program is not repeated.
+  void type(const OdString& text, KeyQueue::Giver giver = KeyQueue::Giver::kUser);
   /// Types a menu's macro into the active document; "^C" cancels.
   void runMacro(const OdString& macro);
   /// Ends what waits, as the user's Esc does.
@@ -52,8 +54,10 @@ class Desktop : public QObject {
   OdVariant setting(const char* key, const OdVariant& preset = {});
   void setSetting(const char* key, const OdVariant& value);
 
-  /// The macro that repeats the last command; empty before the first.
-  const OdString& lastCommand() const { return m_lastCommand; }
+  /// What repeat() runs, as a menu shows it; empty if there is nothing.
+  OdString lastRun() const { return m_lastAction ? m_lastAction->name() : m_lastCommand; }
+  /// Runs once more what the user ran last: a command, or what a module offered instead.
+  void repeat();
 
  Q_SIGNALS:
   /// Something is about to be typed or clicked.
@@ -67,12 +71,14 @@ class Desktop : public QObject {
 
  private:
   class Events;
+  class Repetition;
 
   DesktopConsole m_console;
   EventInput m_input;
   std::unique_ptr<Engine> m_engine;
   OdSmartPtr<Events> m_events;
   OdString m_lastCommand;
+  KVPtr<IHostRepeatable> m_lastAction; ///< newer than the command
 };
 
 } // namespace drafton

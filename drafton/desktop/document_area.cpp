@@ -148,7 +148,7 @@ void DocumentArea::chooseLayout(int tab) {
   if (m_desktop.isBusy())
     m_desktop.engine().print(translated(u"A command is running: end it first."));
   else if (tab != m_layouts->currentIndex())
-    m_desktop.type(QStringLiteral("_LAYOUT\n_Set\n%1\n").arg(name));
+    m_desktop.type(QStringLiteral("_LAYOUT\n_Set\n%1\n").arg(name), KeyQueue::Giver::kProgram);
   // The tab follows the drawing, whatever became of it.
   QMetaObject::invokeMethod(this, &DocumentArea::followLayouts, Qt::QueuedConnection);
 }

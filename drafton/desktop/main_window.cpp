@@ -77,7 +77,7 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   });
   connect(&desktop, &Desktop::settled, this, &MainWindow::follow);
   connect(&desktop, &Desktop::variableChanged, this, &MainWindow::follow);
-  connect(qApp, &QApplication::focusChanged, this, &MainWindow::watchLists);
+  connect(qApp, &QApplication::focusChanged, this, &MainWindow::watchKeys);
   m_actions->showIcons(isDark(palette()));
   offerWindowServices(desktop.engine().services(), *this);
   // With room for its frame on a small screen.
@@ -120,12 +120,16 @@ void MainWindow::addPanes() {
 /// Shows a pane, and gives it the keys.
 void MainWindow::showPane(const char* name) {
   auto* const dock = findChild<QDockWidget*>(OdString::fromLatin1(name));
+  // Where it floats for the first time it would stand in a corner of the screen, or of none that is
+  // left. Elsewhere the user has put it.
+  const QByteArray key = QByteArray("Placed.") + name;
+  const bool isPlaced = m_desktop.setting(key.constData()).toBool();
+  if (dock->isFloating() && (!isPlaced || !QGuiApplication::screenAt(dock->geometry().center()))) {
+    dock->move(geometry().center() - dock->rect().center());
+    m_desktop.setSetting(key.constData(), true);
+  }
   dock->show();
   dock->raise();
-  // Where it floats for the first time it would stand in a corner of the screen.
-  const bool isPlaced =
-      dock->testAttribute(Qt::WA_Moved) && dock->geometry().intersects(geometry());
-  if (dock->isFloating() && !isPlaced) dock->move(geometry().center() - dock->rect().center());
   dock->activateWindow();
   dock->widget()->setFocus();
 }
@@ -256,9 +260,9 @@ void MainWindow::showTitle() {
 
 void MainWindow::showMenuAt(const QPoint& place) {
   QMenu menu(this);
-  if (const OdString last = m_desktop.lastCommand(); !last.isEmpty())
-    connect(menu.addAction(translated(u"Repeat %1").arg(last)), &QAction::triggered, this,
-            [this, last] { m_desktop.type(last + u'\n'); });
+  if (const OdString last = m_desktop.lastRun(); !last.isEmpty())
+    connect(menu.addAction(translated(u"Repeat %1").arg(last)), &QAction::triggered, &m_desktop,
+            &Desktop::repeat);
   menu.addSeparator();
   const bool hasChoice = m_desktop.document() && !m_desktop.document()->preselection().empty();
   if (hasChoice)
@@ -275,11 +279,13 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 /// Lists and trees would search for what is typed; commands are typed more often. Those whose entry
-/// can be edited keep their keys, and so do all of them with Enter, blank and the arrows.
+/// can be edited keep their keys, and so do all of them with Enter, blank and the arrows. Of the
+/// windows of panes comes what nothing in them takes, Esc with it.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     auto* const key = static_cast<QKeyEvent*>(event);
     const auto* const list = qobject_cast<QAbstractItemView*>(watched);
+    if (!list && m_commandLine->takeKey(key)) return true;
     const bool edits = list && (list->currentIndex().flags() & Qt::ItemIsEditable) &&
                        list->editTriggers() != QAbstractItemView::NoEditTriggers;
     const OdString text = key->text();
@@ -289,13 +295,23 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-void MainWindow::watchLists(QWidget* former, QWidget* now) {
-  if (former) former->removeEventFilter(this);
-  if (!qobject_cast<QAbstractItemView*>(now)) return;
-  const QWidget* const window = now->window();
-  const bool isPane = window == this ||
-                      (qobject_cast<const QDockWidget*>(window) && window->parentWidget() == this);
-  if (isPane) now->installEventFilter(this);
+/// True for panes that float and for pages that were pulled out of one: parts of this window that
+/// the system takes for windows of their own.
+bool MainWindow::isPaneWindow(const QWidget& window) const {
+  if (window.windowType() != Qt::Tool) return false;
+  const QWidget* owner = window.parentWidget();
+  while (owner && owner != this) owner = owner->parentWidget();
+  return owner != nullptr;
+}
+
+void MainWindow::watchKeys(QWidget* former, QWidget* now) {
+  if (qobject_cast<QAbstractItemView*>(former)) former->removeEventFilter(this);
+  QWidget* const window = now ? now->window() : nullptr;
+  const bool isPane = window && isPaneWindow(*window);
+  // Windows stay watched: they have the keys, too, when nothing in them has.
+  if (isPane) window->installEventFilter(this);
+  if (qobject_cast<QAbstractItemView*>(now) && (isPane || window == this))
+    now->installEventFilter(this);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

@@ -53,7 +53,8 @@ class MainWindow : public QMainWindow {
   void addPanes();
   void showPane(const char* name);
   void connectPanes();
-  void watchLists(QWidget* former, QWidget* now);
+  void watchKeys(QWidget* former, QWidget* now);
+  bool isPaneWindow(const QWidget& window) const;
   void followChoice();
   void follow();
   void showTitle();

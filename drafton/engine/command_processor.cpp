@@ -34,6 +34,7 @@ struct CommandProcessor::Frame {
   KVPtr<IMemParam> parameters;
   CommandInput input;
   std::optional<CommandContext> context;
+  bool isUsers = false;
   bool isRunning = false; ///< its code is on the stack, so it cannot be destroyed
   bool isCancelled = false;
   bool hasUndoStep = false;
@@ -52,13 +53,15 @@ CommandProcessor::~CommandProcessor() {
   while (!m_frames.empty()) m_frames.pop_back();
 }
 
-void CommandProcessor::sendText(const OdString& text) {
+void CommandProcessor::sendText(const OdString& text) { send(text, KeyQueue::Giver::kProgram); }
+
+void CommandProcessor::send(const OdString& text, KeyQueue::Giver giver) {
   // The rest of a macro that waits for the user would otherwise stand before the cancel for ever.
   if (m_paused && text.startsWith(QLatin1String("^C"), Qt::CaseInsensitive)) {
     m_sent.clear();
     m_paused = false;
   }
-  m_sent.append(text, KeyQueue::Meaning::kMacro);
+  m_sent.append(text, KeyQueue::Meaning::kMacro, giver);
   m_engine.textQueued();
 }
 
@@ -68,6 +71,10 @@ QStringList CommandProcessor::runningCommands() const {
   QStringList names;
   for (const auto& frame : m_frames) names << frame->command->name;
   return names;
+}
+
+bool CommandProcessor::runsUsersCommand() const {
+  return m_frames.size() == 1 && m_frames.front()->isUsers;
 }
 
 const InputRequest* CommandProcessor::request() const {
@@ -110,10 +117,10 @@ void CommandProcessor::handle(const Key& key) {
     if (blankBelongsToWord())
       addToWord(u' ');
     else
-      endWord();
+      endWord(key.isUsers);
     break;
   case Key::Kind::kEnter:
-    endWord();
+    endWord(key.isUsers);
     break;
   case Key::Kind::kCancel:
     cancelCommands();
@@ -143,7 +150,7 @@ bool CommandProcessor::blankBelongsToWord() const {
          (m_word.size() == 1 || !m_word.endsWith(u'"'));
 }
 
-void CommandProcessor::endWord() {
+void CommandProcessor::endWord(bool isUsers) {
   const OdString word = std::exchange(m_word, {});
   if (std::exchange(m_wordTooLong, false)) {
     const OdString text =
@@ -153,12 +160,12 @@ void CommandProcessor::endWord() {
     return showPrompt(*m_frames.back());
   }
   if (m_frames.empty())
-    takeCommandWord(word);
+    takeCommandWord(word, isUsers);
   else if (isWaiting())
     takeAnswer(word);
 }
 
-void CommandProcessor::takeCommandWord(const OdString& word) {
+void CommandProcessor::takeCommandWord(const OdString& word, bool isUsers) {
   // Enter alone types nothing; a window gives it the meaning of repeating the last command.
   if (word.isEmpty()) return;
   if (!isHidden(word)) {
@@ -178,7 +185,7 @@ void CommandProcessor::takeCommandWord(const OdString& word) {
     if (m_frames.empty()) tell([&](HostEditorReactor& r) { r.commandFailed(word); });
     return;
   }
-  start(command, parameters.get(), nullptr);
+  start(command, parameters.get(), nullptr, isUsers);
 }
 
 // --- answers
@@ -264,14 +271,15 @@ bool CommandProcessor::run(const OdString& name, IMemParam* parameters) {
   const OdString outerWord = std::exchange(m_word, {});
   const std::size_t depth = m_frames.size();
   bool succeeded = false;
-  if (start(command, parameters, &succeeded)) waitWhile([&] { return m_frames.size() > depth; });
+  if (start(command, parameters, &succeeded, false))
+    waitWhile([&] { return m_frames.size() > depth; });
   m_word = outerWord;
   deliverChanges();
   return succeeded;
 }
 
 bool CommandProcessor::start(const RegisteredCommandPtr& command, IMemParam* parameters,
-                             bool* succeeded) {
+                             bool* succeeded, bool isUsers) {
   if (!m_document && command->body && !command->has(kNoDocument)) {
     trouble(translated(u"No drawing is open."));
     return false;
@@ -285,6 +293,7 @@ bool CommandProcessor::start(const RegisteredCommandPtr& command, IMemParam* par
   frame.command = command;
   frame.parameters = parameters;
   frame.succeeded = succeeded;
+  frame.isUsers = isUsers;
   openUndoStep(frame);
   frame.isRunning = true;
   tell([&](HostEditorReactor& r) { r.commandWillStart(command->name); });

@@ -30,6 +30,8 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   ~CommandProcessor();
 
   void sendText(const OdString& text) override;
+  /// Types the macro of a menu, as sendText() does, for the user.
+  void typeMacro(const OdString& macro) { send(macro, KeyQueue::Giver::kUser); }
   Result getString(unsigned flags, const OdString& prompt, OdString& out) override;
 
   /// Takes up one key: from sent text, then from the keyboard. False if there is none.
@@ -51,6 +53,9 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   bool isWaiting() const { return request() != nullptr; }
   /// The names of the running commands, outermost first.
   QStringList runningCommands() const;
+  /// True while nothing but a command runs that the user gave, typed or by a menu. What a module
+  /// types, what a command runs and what the program's start runs are none.
+  bool runsUsersCommand() const;
   /// What is asked now; null if nothing is.
   const InputRequest* request() const;
   /// Takes over the sent text that `other` has not taken up yet.
@@ -60,19 +65,21 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   struct Frame;
   enum class Outcome { kEnded, kCancelled, kFailed };
 
+  void send(const OdString& text, KeyQueue::Giver giver);
   std::optional<Key> nextKey(bool& fromKeyboard);
   void handle(const Key& key);
   void addToWord(QChar c);
   bool blankBelongsToWord() const;
-  void endWord();
-  void takeCommandWord(const OdString& word);
+  void endWord(bool isUsers);
+  void takeCommandWord(const OdString& word, bool isUsers);
   void takeAnswer(const OdString& word);
   void settleAnswer(InputRequest::Outcome outcome);
   void showPrompt(Frame& frame);
   void cancelCommands();
   void dropText();
 
-  bool start(const RegisteredCommandPtr& command, IMemParam* parameters, bool* succeeded);
+  bool start(const RegisteredCommandPtr& command, IMemParam* parameters, bool* succeeded,
+             bool isUsers);
   void runBody(Frame& frame);
   int runModuleCommand(Frame& frame);
   void resume(Frame& frame, const std::function<void()>& step);

@@ -40,8 +40,10 @@ class Engine {
 
   /// Takes up typed text until there is no more. Does nothing while it is under way already.
   void run();
-  /// Types a line as the user does.
-  void type(const OdString& text) { m_keyboard.append(text, KeyQueue::Meaning::kTyped); }
+  /// Types a line as the user does, or for the program.
+  void type(const OdString& text, KeyQueue::Giver giver = KeyQueue::Giver::kUser) {
+    m_keyboard.append(text, KeyQueue::Meaning::kTyped, giver);
+  }
   /// Ends what waits, in every document.
   void cancelAll();
 

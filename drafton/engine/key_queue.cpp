@@ -23,8 +23,8 @@ constexpr SpecialKey kCaretKeys[] = {
 
 } // namespace
 
-void KeyQueue::append(const OdString& text, Meaning meaning) {
-  if (!text.isEmpty()) m_parts.push_back({text, 0, meaning});
+void KeyQueue::append(const OdString& text, Meaning meaning, Giver giver) {
+  if (!text.isEmpty()) m_parts.push_back({text, 0, meaning, giver});
 }
 
 bool KeyQueue::startsWithCancel() const {
@@ -53,6 +53,7 @@ std::optional<Key> KeyQueue::take() {
     // The two characters of a line break are one Enter.
     if (c == u'\r' && part.position < text.size() && text[part.position] == u'\n') ++part.position;
   }
+  key.isUsers = part.giver == Giver::kUser;
   if (part.position >= text.size()) m_parts.pop_front();
   return key;
 }

@@ -19,6 +19,7 @@ struct Key {
   };
   Kind kind = Kind::kChar;
   QChar character;
+  bool isUsers = false; ///< given by the user, not by a module
 };
 
 /// Text waiting to be taken up, in the order in which it was sent.
@@ -28,8 +29,10 @@ class KeyQueue {
   /// a blank. A macro knows `;` as Enter and `\` as a pause as well; typed text holds them as they
   /// are, since paths and lists of folders are typed.
   enum class Meaning { kMacro, kTyped };
+  /// Who gave the text. Macros of menus are the user's.
+  enum class Giver { kUser, kProgram };
 
-  void append(const OdString& text, Meaning meaning);
+  void append(const OdString& text, Meaning meaning, Giver giver = Giver::kUser);
   bool isEmpty() const { return m_parts.empty(); }
   void clear() { m_parts.clear(); }
   /// True if the next key is a cancel.
@@ -44,6 +47,7 @@ class KeyQueue {
     OdString text;
     qsizetype position;
     Meaning meaning;
+    Giver giver;
   };
   std::deque<Part> m_parts;
 };

@@ -2,6 +2,7 @@
 
 #include "catalog/catalog.h"
 #include "catalog/palette_manager.h"
+#include "catalog/repeated_tool.h"
 #include "catalog/tool_palette.h"
 #include "host/host_locator.h"
 #include "images/image_list.h"
@@ -57,7 +58,10 @@ class ToolWalk {
     entry->displayText = QLatin1String("TOOL:") + entry->text;
     entry->pictogram = std::make_shared<ToolImage>(tool);
     entry->action = std::make_shared<HostEdCompletion::CallFunction>([held = OdTcToolPtr(tool)] {
-      if (IHostDocument* const document = host::curDocument()) held->execute(document);
+      IHostDocument* const document = host::curDocument();
+      if (!document) return;
+      held->execute(document);
+      tellUserRan(*held);
     });
     m_callback(std::move(entry));
   }

@@ -1,6 +1,7 @@
 #include "ui/window/list_view.h"
 
 #include "catalog/palette_manager.h"
+#include "catalog/repeated_tool.h"
 #include "catalog/tool.h"
 #include "host/host_locator.h"
 #include "host/window_services.h"
@@ -183,6 +184,7 @@ void TcUiListView::runTool(const QModelIndex& index) {
   IHostDocument* const document = host::curDocument();
   if (!tool || !document || !document->database()) return;
   tool->execute(document);
+  tellUserRan(*tool);
   if (const auto windows = host::service<IHostWindowServices>()) windows->focusDrawing();
 }
 

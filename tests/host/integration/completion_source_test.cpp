@@ -5,6 +5,7 @@
 #include "catalog/tool_palette.h"
 #include "support/module_fixture.h"
 #include "support/recording_agent.h"
+#include "support/test_repetition.h"
 
 #include <QTemporaryDir>
 
@@ -131,6 +132,22 @@ TEST_F(CompletionSourceTest, AChoiceRunsTheToolInTheCurrentDocument) {
   offers[0]->action->run();
   EXPECT_EQ(document.sent, QStringList(QStringLiteral("Door")));
   EXPECT_TRUE(TcEditorReactor::instance()->isRunning());
+}
+
+TEST_F(CompletionSourceTest, AChoiceIsWhatTheHostRepeats) {
+  const auto repetition = kvMake<testhost::TestRepetition>();
+  host().offer<IHostRepetition>(repetition.get());
+  refer(addGroup(catalog->groups(), QStringLiteral("G")),
+        addPalette(QStringLiteral("P"), {QStringLiteral("Door"), QStringLiteral("Window")}));
+  const auto offers = host().completion.offers(QStringLiteral("tools"));
+  ASSERT_EQ(offers.size(), 2u);
+  offers[1]->action->run();
+  EXPECT_FALSE(repetition->last) << "there is no document";
+  host().documents.open(QStringLiteral("A.dxf"));
+  offers[1]->action->run();
+  ASSERT_TRUE(repetition->last);
+  EXPECT_EQ(repetition->last->name(), offers[1]->text);
+  repetition->last.reset();
 }
 
 TEST_F(CompletionSourceTest, AChoicePassesTheGuard) {

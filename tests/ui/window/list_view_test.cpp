@@ -2,6 +2,7 @@
 
 #include "drawing/database.h"
 #include "palette_window_fixture.h"
+#include "support/test_repetition.h"
 
 #include <QHeaderView>
 #include <QListView>
@@ -147,6 +148,28 @@ TEST_F(ListView, APlainClickRunsTheTool) {
   EXPECT_EQ(windows->focusedDrawing, 1) << "the prompts that follow are answered at once";
 }
 
+TEST_F(ListView, TheHostRepeatsAToolAsLongAsItIsThere) {
+  const auto repetition = kvMake<testhost::TestRepetition>();
+  host().offer<IHostRepetition>(repetition.get());
+  openDrawing();
+  const OdTcToolPalettePtr palette = addPalette(QStringLiteral("P"), {QStringLiteral("Line")});
+  open();
+  select(*palette);
+  click(QStringLiteral("Line"));
+  ASSERT_TRUE(repetition->last);
+  EXPECT_EQ(repetition->last->name(), QStringLiteral("Line"));
+  const QStringList first = document->sent;
+  const KVPtr<IHostRepeatable> tool = repetition->last;
+  document->sent.clear();
+  tool->repeat();
+  EXPECT_TRUE(document->sent.join(QString()).contains(first.join(QString())));
+  document->sent.clear();
+  palette->removeItem(palette->enumTools()->next()->id());
+  tool->repeat();
+  EXPECT_TRUE(document->sent.isEmpty());
+  repetition->last.reset();
+}
+
 TEST_F(ListView, AClickWithShiftOrControlOnlySelects) {
   openDrawing();
   const OdTcToolPalettePtr palette =
@@ -261,7 +284,7 @@ TEST_F(ListView, AStoredStyleOfTwoSetsNone) {
 TEST_F(ListView, StoredSizesArePutInForceAndOthersAreNot) {
   manager().setViewSetting(3);
   store().values[QStringLiteral("IconSize")] = OdVariant(2);
-  EXPECT_TRUE(checked(open().sizeMenu()).isEmpty());
+  EXPECT_EQ(checked(open().sizeMenu()), QStringList(QStringLiteral("Normal"))) << "as before";
   EXPECT_EQ(manager().viewSetting(), 3u);
   store().values[QStringLiteral("IconSize")] = OdVariant(4);
   ITcUiPaletteSet::setInstance(nullptr);
