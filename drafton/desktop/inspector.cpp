@@ -71,7 +71,7 @@ Rows commonRows(const OdDbEntity& entity) {
   return {
       {translated(u"Layer"), entity.layer()},
       {translated(u"Color"), shownColor(entity.color())},
-      {translated(u"Line type"), recordName(entity.linetypeId())},
+      {translated(u"Line type"), recordName(shownLinetype(entity))},
       {translated(u"Line type scale"), shownReal(entity.linetypeScale())},
       {translated(u"Line weight"), shownLineWeight(entity.lineWeight())},
       {translated(u"Transparency"), shownTransparency(entity.transparency())},

@@ -150,7 +150,7 @@ void PropertyBar::follow() {
     };
     layer = shown(common<OdString>(chosen, [](const OdDbEntity& e) { return e.layer(); }));
     linetype = shown(
-        common<OdString>(chosen, [](const OdDbEntity& e) { return recordName(e.linetypeId()); }));
+        common<OdString>(chosen, [](const OdDbEntity& e) { return recordName(shownLinetype(e)); }));
     color =
         shown(common<std::uint32_t>(chosen, [](const OdDbEntity& e) { return e.color().color(); }));
     weight = shown(

@@ -102,9 +102,10 @@ Task<void> placeBlock(CommandContext& context, OdDbObjectId block, BlockPlace pl
   if (place.explode && !isReference) {
     addPieces(context, *insert);
   } else {
-    const std::vector<Wanted> values = co_await askAttributes(context, block);
+    // It is seen where it stands while its values are asked for.
     addToCurrentSpace(database, *insert);
     insert->appendAttributesFromBlock();
+    const std::vector<Wanted> values = co_await askAttributes(context, block);
     fillAttributes(*insert, values);
   }
   context.setLastPoint(place.point);

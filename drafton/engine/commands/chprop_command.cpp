@@ -63,7 +63,7 @@ Task<void> changeLayer(CommandContext& context, const Selection& entities) {
 
 Task<void> changeLinetype(CommandContext& context, const Selection& entities) {
   const auto now =
-      commonValue(entities, [](const OdDbEntity& e) { return std::optional(e.linetypeId()); });
+      commonValue(entities, [](const OdDbEntity& e) { return std::optional(shownLinetype(e)); });
   const OdDbObjectId linetype =
       co_await askLinetype(context, u"Enter new linetype name", now, true);
   if (!linetype.isNull()) changeAll(entities, [&](OdDbEntity& e) { e.setLinetype(linetype); });

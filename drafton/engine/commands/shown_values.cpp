@@ -12,8 +12,8 @@ constexpr const char16_t* kColorNames[] = {u"red",  u"yellow",  u"green", u"cyan
 } // namespace
 
 OdString shownColor(const OdCmColor& color) {
-  if (color.isByLayer()) return QStringLiteral("BYLAYER");
-  if (color.isByBlock()) return QStringLiteral("BYBLOCK");
+  if (color.isByLayer()) return QStringLiteral("ByLayer");
+  if (color.isByBlock()) return QStringLiteral("ByBlock");
   if (color.hasNames())
     return color.bookName().isEmpty() ? color.colorName()
                                       : color.bookName() + u'$' + color.colorName();
@@ -51,6 +51,12 @@ OdString recordName(OdDbObjectId id) {
   const OdDbObjectPtr object = id.openObject();
   const auto* const record = odrxCast<OdDbSymbolTableRecord>(object.get());
   return record ? record->getName() : OdString();
+}
+
+OdDbObjectId shownLinetype(const OdDbEntity& entity) {
+  const OdDbObjectId own = entity.linetypeId();
+  const OdDbDatabase* const database = entity.database();
+  return own.isNull() && database ? database->getLinetypeByLayerId() : own;
 }
 
 } // namespace drafton

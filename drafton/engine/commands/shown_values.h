@@ -7,9 +7,11 @@
 #include "drawing/transparency.h"
 #include "frame/string.h"
 
+class OdDbEntity;
+
 namespace drafton {
 
-/// "BYLAYER", "BYBLOCK", "1 (red)", "30", "255,128,0" or "Book$Color".
+/// "ByLayer", "ByBlock", "1 (red)", "30", "255,128,0" or "Book$Color".
 OdString shownColor(const OdCmColor& color);
 /// "ByLayer", "ByBlock", "Default" or "0.25mm".
 OdString shownLineWeight(OdDb::LineWeight weight);
@@ -19,5 +21,7 @@ OdString shownTransparency(OdCmTransparency transparency);
 OdString shownPlotStyle(OdDb::PlotStyleNameType type, OdDbObjectId id);
 /// The name of a record of a table; empty for a null id.
 OdString recordName(OdDbObjectId id);
+/// The line type of an entity; that by layer for one that was never given any, as in most files.
+OdDbObjectId shownLinetype(const OdDbEntity& entity);
 
 } // namespace drafton

@@ -99,6 +99,16 @@ TEST_F(InsertTest, AsksForAttributesInTheOrderOfTheBlock) {
   EXPECT_TRUE(console().shows(QStringLiteral("Enter number <1>:"))) << output().toStdString();
 }
 
+TEST_F(InsertTest, StandsInTheDrawingWhileItsValuesAreAskedForAndACancelTakesItAway) {
+  addDefinition(addLineBlock(u"Tag"), u"NO", u"Number", u"1");
+  words("INSERT|Tag|3,4|||");
+  ASSERT_TRUE(isBusy());
+  ASSERT_EQ(inserts().size(), 1u);
+  EXPECT_EQ(inserts()[0]->attributes().at(0)->textString(), QStringLiteral("1"));
+  type(QStringLiteral("^C"));
+  EXPECT_TRUE(inserts().empty());
+}
+
 TEST_F(InsertTest, AttributesOfOneTagHaveTheirOwnValues) {
   const OdDbObjectId block = addLineBlock(u"Tag");
   addDefinition(block, u"NO", u"First", u"1");
