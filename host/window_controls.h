@@ -71,7 +71,8 @@ class IHostSplitter {
   virtual void addColumn(QWidget* content) = 0;
   /// In logical pixels, from the left; a column of width 0 does not show.
   virtual std::vector<int> widths() const = 0;
-  /// Sets the widths of all columns and lays them out. The host makes them fit.
+  /// Sets the widths of all columns and lays them out. The host makes them fit. Beside a column of
+  /// width 0 no bar shows.
   virtual void setWidths(const std::vector<int>& widths) = 0;
   /// The colour of the bars, in place of the host's.
   virtual void setBarColor(const QColor& color) = 0;

@@ -24,10 +24,14 @@ class IHostPaneEvents {
   virtual bool paneCreated() { return true; }
   /// The room for the content has changed.
   virtual void paneResized(const QSize& /*size*/) {}
-  /// The user closed the pane by its own button; it is hidden already.
+  /// The user closed the pane by its own button; it is hidden already. Not told when the pane goes
+  /// because the host ends.
   virtual void paneClosed() = 0;
   /// The pane is about to go, with its content still alive: the place to remember things.
   virtual void paneDestroyed() = 0;
+  /// The user brought the pane back by means of the host's own, such as a menu of panes; it shows
+  /// already. A host without such means never tells.
+  virtual void paneShown() {}
 
  protected:
   ~IHostPaneEvents() = default;

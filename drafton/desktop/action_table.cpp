@@ -67,6 +67,7 @@ constexpr ActionRow kActions[] = {
      .shortcut = u"Ctrl+Z",
      .macro = u"^C^C_U "},
     {.name = u"REDO", .menu = M::kEdit, .toolbar = T::kFile, .shortcut = u"Ctrl+Y; Ctrl+Shift+Z"},
+    {.name = u"COPYCLIP", .menu = M::kEdit, .shortcut = u"Ctrl+C", .startsGroup = true},
     {.name = u"selectAll",
      .menu = M::kEdit,
      .shortcut = u"Ctrl+A",

@@ -1,7 +1,6 @@
 #include "drafton/desktop/host_pane.h"
 
 #include <QCloseEvent>
-#include <QResizeEvent>
 
 namespace drafton {
 namespace {
@@ -51,11 +50,21 @@ PaneDock::PaneDock(const OdString& name, const OdString& title, QWidget* content
   setObjectName(QStringLiteral("pane.") + name);
   setWidget(content);
   content->installEventFilter(this);
+  connect(toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
+    if (isShown && m_events) m_events->paneShown();
+  });
+}
+
+void PaneDock::tellRoom() {
+  if (!m_events || !widget()) return;
+  // A dock has a least width of its own, so that content has some where nothing of it is seen.
+  const QSize least = minimumSizeHint();
+  const bool isCollapsed = isFloating() && width() <= least.width() && height() <= least.height();
+  m_events->paneResized(isCollapsed ? QSize(0, 0) : widget()->size());
 }
 
 bool PaneDock::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize && watched == widget() && m_events)
-    m_events->paneResized(static_cast<QResizeEvent*>(event)->size());
+  if (event->type() == QEvent::Resize && watched == widget()) tellRoom();
   return QDockWidget::eventFilter(watched, event);
 }
 
@@ -69,7 +78,8 @@ void PaneDock::closeEvent(QCloseEvent* event) {
   QDockWidget::closeEvent(event);
   // Whoever hears of it finds the pane hidden.
   hide();
-  if (m_events) m_events->paneClosed();
+  // Panes that float are closed with the window; the user did not mean them.
+  if (m_events && parentWidget()->isVisible()) m_events->paneClosed();
 }
 
 void PaneDock::end() {
@@ -112,9 +122,12 @@ void HostPane::show(bool activate) {
   QMetaObject::invokeMethod(
       m_dock,
       [dock = m_dock.data(), &window = m_window, isNew = std::exchange(m_isNew, false)] {
-        if (!dock->isFloating() && dock->isVisible() && dock->widget() &&
+        if (!dock->isVisible()) return;
+        if (!dock->isFloating() && dock->widget() &&
             (isNew || dock->widget()->height() < kLeastHeight))
           makeRoom(window, *dock);
+        // It may have been left with no room at all.
+        if (dock->isFloating()) dock->tellRoom();
       },
       Qt::QueuedConnection);
   if (activate) {

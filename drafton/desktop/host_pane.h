@@ -9,7 +9,8 @@
 
 namespace drafton {
 
-/// A dock that tells whoever owns its content when it is closed, and when it goes.
+/// A dock that tells whoever owns its content when the user closes it or brings it back, and when
+/// it goes.
 class PaneDock : public QDockWidget {
   Q_OBJECT
 
@@ -21,6 +22,8 @@ class PaneDock : public QDockWidget {
   bool begin();
   /// Tells that the pane goes, and destroys it.
   void end();
+  /// Tells the room of the content.
+  void tellRoom();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

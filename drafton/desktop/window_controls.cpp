@@ -81,6 +81,13 @@ void HostToolbar::setEnabled(int index, bool enabled) {
 
 // --- tabs
 
+/// Shortcuts of the main window work in windows that are its own, but not in theirs.
+static QWidget* mainWindowOf(const QWidget& widget) {
+  QWidget* window = widget.window();
+  while (window->parentWidget()) window = window->parentWidget()->window();
+  return window;
+}
+
 /// What stands behind a label: the page, while it is not in a window of its own.
 class HostTabs::Place : public QWidget {
  public:
@@ -119,7 +126,7 @@ class HostTabs::Place : public QWidget {
   class Window : public QWidget {
    public:
     explicit Window(Place& place)
-      : QWidget(place.window(), Qt::Tool)
+      : QWidget(mainWindowOf(place), Qt::Tool)
       , m_place(&place) {
       auto* const column = new QVBoxLayout(this);
       column->setContentsMargins(0, 0, 0, 0);
@@ -221,6 +228,9 @@ std::vector<int> HostSplitter::widths() const {
 }
 
 void HostSplitter::setWidths(const std::vector<int>& widths) {
+  // A column of no width takes its bar along, which would bring it back unasked.
+  for (std::size_t i = 0; i < widths.size() && static_cast<int>(i) < count(); ++i)
+    QSplitter::widget(static_cast<int>(i))->setVisible(widths[i] > 0);
   setSizes(QList<int>(widths.begin(), widths.end()));
 }
 

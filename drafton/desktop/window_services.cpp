@@ -2,6 +2,7 @@
 
 #include "drafton/desktop/color_choice.h"
 #include "drafton/desktop/exchange.h"
+#include "drafton/desktop/give_keys.h"
 #include "drafton/desktop/help_window.h"
 #include "drafton/desktop/idle_work.h"
 #include "drafton/desktop/inspector_control.h"
@@ -39,7 +40,7 @@ QWidget* WindowServices::mainWindow() { return m_window; }
 
 void WindowServices::focusDrawing() {
   if (!m_window) return;
-  if (Canvas* const canvas = m_window->documents().canvas()) canvas->setFocus();
+  if (Canvas* const canvas = m_window->documents().canvas()) giveKeys(*canvas);
 }
 
 KVPtr<IHostPane> WindowServices::createPane(const OdString& name, const OdString& title,

@@ -54,6 +54,25 @@ TEST_F(PanesTest, TheInspectorShowsOneEntityAndCountsSeveral) {
   EXPECT_EQ(window().inspector().topLevelItem(0)->text(0), QStringLiteral("Nothing is chosen"));
 }
 
+TEST_F(PanesTest, TheLineTypeOfAnObjectThatWasNeverGivenOneIsThatByLayer) {
+  const OdDbLinePtr line = OdDbLine::createObject();
+  line->setStartPoint({-3, 0, 0});
+  line->setEndPoint({3, 0, 0});
+  database()
+      .getCurrentSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(line);
+  ASSERT_TRUE(line->linetypeId().isNull());
+  type("CIRCLE 0,5 2 ");
+  click(0, 0);
+  EXPECT_EQ(inspected("Line type"), QStringLiteral("ByLayer"));
+  EXPECT_EQ(window().properties().linetypes().currentText(), QStringLiteral("ByLayer"));
+  click(2, 5);
+  EXPECT_EQ(document().preselection().size(), 2u);
+  EXPECT_EQ(inspected("Line type"), QStringLiteral("ByLayer")) << "both mean the same";
+  EXPECT_EQ(window().properties().linetypes().currentText(), QStringLiteral("ByLayer"));
+}
+
 TEST_F(PanesTest, TheListsShowAndSetTheCurrentValues) {
   type("-LAYER New Walls\n ");
   PropertyBar& bar = window().properties();
@@ -145,6 +164,27 @@ TEST_F(PanesTest, TheLayersComeUpOverTheWindowWithTheKeys) {
   EXPECT_TRUE(window().geometry().contains(dock->geometry().center()));
   QApplication::processEvents();
   EXPECT_TRUE(window().layers().table().hasFocus());
+}
+
+TEST_F(PanesTest, TheLayersComeUpInTheMiddleAtFirstAndThenWhereTheyWerePut) {
+  // Small enough for the test's screen.
+  window().setGeometry(20, 40, 700, 600);
+  const auto layers = [&] { return window().findChild<QDockWidget*>(QStringLiteral("layers")); };
+  // A corner of it would be seen.
+  layers()->move(window().geometry().bottomLeft() - QPoint(600, 30));
+  window().actions().find(u"layers")->trigger();
+  const QPoint away = layers()->geometry().center() - window().geometry().center();
+  EXPECT_LE(away.manhattanLength(), 4);
+  const QPoint corner(60, 400);
+  layers()->move(corner);
+  layers()->close();
+  window().actions().find(u"layers")->trigger();
+  EXPECT_EQ(layers()->pos(), corner);
+  ASSERT_TRUE(window().close());
+  stop();
+  start();
+  window().actions().find(u"layers")->trigger();
+  EXPECT_EQ(layers()->pos(), corner);
 }
 
 TEST_F(PanesTest, TheBlockListBeginsToInsert) {

@@ -159,6 +159,24 @@ TEST_F(WindowControlsTest, ColumnsTakeTheirWidthsAndMayBeNothing) {
   EXPECT_GT(splitter->widths()[1], 390);
 }
 
+TEST_F(WindowControlsTest, BesideAColumnOfNoWidthStandsNoBar) {
+  auto* const splitter = static_cast<HostSplitter*>(controls->createSplitter(parent));
+  splitter->addColumn(new QWidget);
+  splitter->addColumn(new QWidget);
+  parent.show();
+  splitter->resize(400, 100);
+  for (const std::vector<int>& widths : {std::vector<int>{0, 400}, {400, 0}}) {
+    splitter->setWidths(widths);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(splitter->handle(1)->isVisible());
+    EXPECT_EQ(splitter->widths(), widths);
+  }
+  splitter->setWidths({100, 300});
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(splitter->handle(1)->isVisible());
+  EXPECT_NEAR(splitter->widths()[0], 100, 3);
+}
+
 TEST_F(WindowControlsTest, TheBarHasItsColour) {
   auto* const splitter = static_cast<HostSplitter*>(controls->createSplitter(parent));
   splitter->addColumn(new QWidget);

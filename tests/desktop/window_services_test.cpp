@@ -2,6 +2,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "drafton/desktop/help_window.h"
+#include "drafton/desktop/window_controls.h"
 #include "drafton/program/program_setup.h"
 #include "frame/file_path.h"
 #include "host/icon_service.h"
@@ -13,14 +14,17 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 using namespace drafton;
 
@@ -43,6 +47,7 @@ struct PaneLog : IHostPaneEvents {
     heard << (pane && pane->isVisible() ? QStringLiteral("closed while shown")
                                         : QStringLiteral("closed"));
   }
+  void paneShown() override { heard << QStringLiteral("shown"); }
   void paneDestroyed() override {
     heard << (content ? QStringLiteral("destroyed") : QStringLiteral("destroyed without content"));
   }
@@ -62,6 +67,13 @@ class WindowServicesTest : public DesktopFixture {
     log.heard.clear();
   }
   PaneDock* dock() { return window().findChild<PaneDock*>(); }
+  /// A pane of its own window, as a drafter has it after pulling its title.
+  void makeFloating(PaneLog& log) {
+    make(log);
+    log.pane->show(false);
+    dock()->setFloating(true);
+    QApplication::processEvents();
+  }
 };
 
 TEST_F(WindowServicesTest, APaneComesHiddenAtTheRightSide) {
@@ -115,6 +127,51 @@ TEST_F(WindowServicesTest, APaneTellsTheRoomOfItsContent) {
   log.pane.reset();
 }
 
+TEST_F(WindowServicesTest, TheEndOfTheWindowIsNoClosingOfAFloatingPane) {
+  PaneLog log;
+  makeFloating(log);
+  ASSERT_TRUE(window().close());
+  // The program's end closes whatever windows are left.
+  dock()->close();
+  EXPECT_TRUE(log.heard.isEmpty()) << log.heard.join(u' ').toStdString();
+  log.pane.reset();
+}
+
+TEST_F(WindowServicesTest, APaneThatTheUserBringsBackTellsSo) {
+  PaneLog log;
+  make(log);
+  log.pane->show(false);
+  EXPECT_TRUE(log.heard.isEmpty()) << "its owner knows";
+  QAction* const entry = dock()->toggleViewAction();
+  entry->trigger();
+  entry->trigger();
+  EXPECT_TRUE(log.pane->isVisible());
+  EXPECT_EQ(log.heard, QStringList({QStringLiteral("closed"), QStringLiteral("shown")}));
+  log.pane.reset();
+}
+
+TEST_F(WindowServicesTest, AFloatingPaneOfItsLeastSizeHasNoRoomAlsoAtTheNextStart) {
+  PaneLog log;
+  makeFloating(log);
+  log.pane->place({50, 50}, {300, 1});
+  QApplication::processEvents();
+  EXPECT_EQ(log.room.width(), 300) << "one small side is the user's own wish";
+  log.pane->place({50, 50}, {1, 1});
+  QApplication::processEvents();
+  EXPECT_EQ(log.room, QSize(0, 0));
+  ASSERT_TRUE(window().close());
+  stop();
+  log.pane.reset();
+  start();
+  make(log);
+  log.room = QSize(7, 7);
+  log.pane->show(false);
+  QApplication::processEvents();
+  ASSERT_TRUE(dock()->isFloating());
+  EXPECT_EQ(log.room, QSize(0, 0));
+  log.pane.reset();
+}
+
 TEST_F(WindowServicesTest, APaneThatItsOwnerGivesUpIsNone) {
   PaneLog log;
   log.isWanted = false;
@@ -152,6 +209,7 @@ TEST_F(WindowServicesTest, AFloatingPaneIsPutWhereItIsWanted) {
   dock()->setFloating(true);
   log.pane->place({120, 90}, {300, 400});
   EXPECT_EQ(dock()->size(), QSize(300, 400));
+  EXPECT_EQ(dock()->pos(), QPoint(120, 90));
   EXPECT_EQ(log.pane->window(), dock());
   log.pane.reset();
 }
@@ -353,6 +411,88 @@ TEST_F(WindowServicesTest, FocusGoesBackToTheDrawing) {
   window().commandLine().edit().setFocus();
   windows()->focusDrawing();
   EXPECT_EQ(window().focusWidget(), &canvas());
+}
+
+/// A list in a pane that floats, or in a page that was pulled out of one.
+class FloatingKeysTest : public WindowServicesTest {
+ protected:
+  FloatingKeysTest() {
+    m_tabs = static_cast<HostTabs*>(kvMake<WindowControls>()->createTabs(*m_content));
+    list = new QListWidget;
+    list->addItems({QStringLiteral("one"), QStringLiteral("two")});
+    m_tabs->addPage(list, QStringLiteral("Tools"), true);
+    auto* const room = new QVBoxLayout(m_content);
+    room->addWidget(m_tabs);
+    pane = windows()->createPane(QStringLiteral("Test"), QStringLiteral("T"), m_content, nullptr);
+    pane->show(false);
+    dock()->setFloating(true);
+    take();
+  }
+  ~FloatingKeysTest() override { pane.reset(); }
+
+  /// The system gives the keys to the list, as it does at a click.
+  void take() {
+    list->window()->activateWindow();
+    // Tool windows call themselves active with the main window.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == list->window(); }));
+    ASSERT_TRUE(list->isVisible());
+    list->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), list);
+  }
+  void pullOut() {
+    Q_EMIT m_tabs->tabBar()->tabBarDoubleClicked(0);
+    ASSERT_NE(list->window(), dock());
+    take();
+  }
+  /// To whatever has the keys now.
+  void pressAnywhere(Qt::Key key) {
+    QWidget* const focused = QApplication::focusWidget();
+    QTest::keyClick(focused ? focused : QApplication::activeWindow(), key);
+  }
+  void expectKeysForTheCommandLine() {
+    type("CIRCLE ");
+    take();
+    pressAnywhere(Qt::Key_Escape);
+    EXPECT_FALSE(desktop().isBusy());
+    take();
+    pressAnywhere(Qt::Key_L);
+    pressAnywhere(Qt::Key_Return);
+    EXPECT_EQ(document().processor().runningCommands(), QStringList{QStringLiteral("LINE")})
+        << "Enter ends the word that was begun";
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+    press(Qt::Key_Escape);
+    take();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(list->currentRow(), 1) << "the arrows are the list's";
+  }
+
+  QListWidget* list;
+  KVPtr<IHostPane> pane;
+
+ private:
+  QWidget* m_content = new QWidget;
+  HostTabs* m_tabs;
+};
+
+TEST_F(FloatingKeysTest, TheDrawingGetsTheKeysThatAPaneOfItsOwnWindowHad) {
+  windows()->focusDrawing();
+  EXPECT_FALSE(list->hasFocus()) << "at once: what is typed next is the drawing's";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == &canvas(); }));
+  EXPECT_EQ(QApplication::activeWindow(), &window());
+}
+
+TEST_F(FloatingKeysTest, WhatIsTypedOnAFloatingPaneLandsOnTheCommandLine) {
+  expectKeysForTheCommandLine();
+}
+
+TEST_F(FloatingKeysTest, WhatIsTypedOnAPageThatWasPulledOutLandsOnTheCommandLine) {
+  pullOut();
+  expectKeysForTheCommandLine();
+}
+
+TEST_F(FloatingKeysTest, ShortcutsOfTheWindowWorkInAPageThatWasPulledOut) {
+  pullOut();
+  EXPECT_EQ(list->window()->parentWidget(), &window());
 }
 
 TEST_F(WindowServicesTest, TheManualHasThePagesThatAreAskedFor) {

@@ -84,11 +84,16 @@ bool TcUiFrameWnd::bothPanesVisible() const {
 }
 
 void TcUiFrameWnd::applyActiveView(int value) {
+  const QWidget* const focused = window()->focusWidget();
+  const bool treeHasKeys = m_tree == focused || m_tree->isAncestorOf(focused);
+  const bool listHasKeys = m_list->isAncestorOf(focused);
   if (value == 0) m_splitter->setWidths({0, width()});
   if (value == 1) m_splitter->setWidths({width(), 0});
   // What has no width takes no keys.
   m_tree->setFocusPolicy(value == 0 ? Qt::NoFocus : Qt::StrongFocus);
   m_list->takeKeys(value != 1);
+  if (value == 0 && treeHasKeys) m_list->setFocus();
+  if (value == 1 && listHasKeys) m_tree->setFocus();
 }
 
 } // namespace tc

@@ -121,6 +121,8 @@ bool TcUiPaletteSet::paneCreated() {
     addWord(*m_sizeMenu, kCommandSmallIcons + i, sizes[i], this);
   m_viewMenu = new QMenu(&content);
   for (const MenuWord& word : kViewWords) addWord(*m_viewMenu, word.command, tr(word.text), this);
+  if (const OdTcPaletteManager* const manager = OdTcPaletteManager::instance())
+    markSize(static_cast<std::int32_t>(manager->viewSetting()));
   m_toolbar.setMenu(kCommandViewStyle, m_viewMenu);
   m_toolbar.setMenu(kCommandIconSize, m_sizeMenu);
 
@@ -253,10 +255,14 @@ void TcUiPaletteSet::paneDestroyed() {
   m_frame->saveState();
 }
 
+void TcUiPaletteSet::markSize(std::int32_t size) {
+  checkOnly(m_sizeMenu, commandOf(kIconSizeCommands, size, kCommandLargeIcons));
+}
+
 void TcUiPaletteSet::setIconSize(std::int32_t size) {
   if (auto* const palette = odrxCast<OdTcToolPalette>(selectedItem()))
     palette->setPreviewSize(size);
-  checkOnly(m_sizeMenu, commandOf(kIconSizeCommands, size, kCommandLargeIcons));
+  markSize(size);
   if (OdTcPaletteManager* const manager = OdTcPaletteManager::instance())
     manager->setViewSetting(static_cast<std::uint32_t>(size));
   m_frame->list().applyIconSize(size);

@@ -52,11 +52,13 @@ class TcUiPaletteSet : public ITcUiPaletteSet,
   void writeActiveView();
   bool comeForward();
   void paneClosed() override;
+  void paneShown() override { setPaletteSetShown(true); }
   void paneDestroyed() override;
   void itemChanged(OdTcCatalogItem* item) override;
 
   void nothing(std::int32_t) {}
   void setIconSize(std::int32_t size);
+  void markSize(std::int32_t size);
   void applyViewStyle(std::int32_t style);
   void chooseCatalogFolder(std::int32_t);
   void toggleView(std::int32_t);

@@ -122,10 +122,12 @@ void TcUiTreeView::refreshToolImage(OdTcCatalogItem* tool) {
 }
 
 void TcUiTreeView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Backspace)
-    selectParent();
-  else
-    QTreeView::keyPressEvent(event);
+  if (event->key() == Qt::Key_Backspace) return selectParent();
+  QTreeView::keyPressEvent(event);
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return;
+  // As a double click does. The host has another use for an Enter that nobody takes.
+  if (m_model.hasChildren(currentIndex())) setExpanded(currentIndex(), !isExpanded(currentIndex()));
+  event->accept();
 }
 
 void TcUiTreeView::saveState(ITcUiStateSaver& store) const {

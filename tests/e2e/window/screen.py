@@ -97,6 +97,9 @@ class Screen:
         return [subprocess.run(["xdotool", "getwindowname", window], capture_output=True,
                                text=True).stdout.strip() for window in found]
 
+    def move_window(self, title, place):
+        self._do("search", "--onlyvisible", "--name", f"^{title}$", "windowmove", *place)
+
     def pixels(self, place, size):
         """What the screen shows there, as bytes."""
         area = "%dx%d+%d+%d" % (*map(round, size), *map(round, place))

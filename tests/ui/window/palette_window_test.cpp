@@ -202,7 +202,8 @@ TEST_F(PaletteWindow, AFirstStartShowsIconsInColumnsOf200) {
   EXPECT_EQ(list().viewStyle(), kIconStyle);
   EXPECT_EQ(controls->splitter->asked.first(), std::vector<int>({200, 200}));
   EXPECT_NEAR(frame().widths()[0], frame().widths()[1], 1);
-  EXPECT_TRUE(checked(ITcUiPaletteSet::instance()->sizeMenu()).isEmpty()) << "no size is stored";
+  EXPECT_EQ(checked(ITcUiPaletteSet::instance()->sizeMenu()), QStringList(QStringLiteral("Normal")))
+      << "the size in force, though none is stored";
 }
 
 TEST_F(PaletteWindow, OtherCommandsAreNotItsOwn) {
@@ -316,6 +317,48 @@ TEST_F(PaletteWindow, ClosingForgetsItForTheNextStartAndTellsEverybody) {
   EXPECT_EQ(windows->broadcasts[0].first, &windows->main);
   EXPECT_EQ(windows->broadcasts[0].second,
             windows->messages[QStringLiteral("WM_TC_PALETTE_CLOSED")]);
+}
+
+TEST_F(PaletteWindow, BroughtBackByTheHostItIsShownForTheCommandAndTheNextStart) {
+  TcUiPaletteSet& window = open();
+  setPaletteSetShown(true);
+  window.close();
+  windows->pane->bringBack();
+  EXPECT_TRUE(isPaletteSetShown());
+  EXPECT_TRUE(host()
+                  .application.store->made(QStringLiteral("Startup"))
+                  .values.contains(QStringLiteral("ToolPalettes")));
+}
+
+TEST_F(PaletteWindow, TheColumnThatComesTakesTheKeysOfTheOneThatGoes) {
+  TcUiPaletteSet& window = open();
+  QWidget& top = *windows->pane->frame;
+  tree().setFocus();
+  ASSERT_EQ(top.focusWidget(), &tree());
+  window.dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(top.focusWidget(), &list().shownView());
+  window.dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(top.focusWidget(), &tree());
+  button(0).setFocusPolicy(Qt::TabFocus);
+  button(0).setFocus();
+  window.dispatchCommand(kCommandToggleView);
+  EXPECT_EQ(top.focusWidget(), &button(0)) << "the button keeps them";
+}
+
+TEST_F(PaletteWindow, EnterUnfoldsWhatIsSelectedInTheTreeAndIsNobodyElses) {
+  const OdTcGroupPtr group = addGroup(QStringLiteral("Plans"));
+  addPalette(QStringLiteral("Doors"), {QStringLiteral("Door")}, group);
+  open();
+  select(*group);
+  const QModelIndex index = tree().currentIndex();
+  ASSERT_FALSE(tree().isExpanded(index));
+  for (const bool isExpanded : {true, false}) {
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&tree(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_EQ(tree().isExpanded(index), isExpanded);
+  }
 }
 
 TEST_F(PaletteWindow, TheMessageToCustomizeIsAnswered) {

@@ -57,6 +57,11 @@ class TestPane : public CKVUnknownImpl<IHostPane> {
     frame->hide();
     m_events->paneClosed();
   }
+  /// The user brings the pane back by a menu of the host's.
+  void bringBack() {
+    frame->show();
+    m_events->paneShown();
+  }
   void setTitle(const OdString& title) override { frame->setWindowTitle(title); }
   void place(const QPoint& at, const QSize& size) override {
     corner = at;
