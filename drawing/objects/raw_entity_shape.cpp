@@ -7,6 +7,7 @@
 #include "drawing/objects/mline_shape.h"
 #include "drawing/objects/proxy_graphic.h"
 #include "drawing/objects/raw_object.h"
+#include "drawing/objects/spline_shape.h"
 #include "drawing/objects/tag_values.h"
 #include "drawing/objects/tolerance_shape.h"
 #include "drawing/objects/wipeout_shape.h"
@@ -92,6 +93,8 @@ void OdDbRawEntity::worldDraw(OdGiWorldDraw& draw) const {
     oddb::drawMleader(mleader, *this, draw);
   if (const OdDbKeptTags tolerance = oddb::tagsOf(tail, "AcDbFcf"); !tolerance.tags.empty())
     oddb::drawTolerance(tolerance, *database(), draw);
+  if (const OdDbKeptTags spline = oddb::tagsOf(tail, "AcDbSpline"); !spline.tags.empty())
+    oddb::drawSpline(spline, draw);
 }
 
 OdDbEntityPtr OdDbRawEntity::getTransformedCopy(const OdGeMatrix3d&) const { return nullptr; }
