@@ -79,7 +79,6 @@ CommandLine::CommandLine(Desktop& desktop, QWidget* parent)
   connect(&desktop.console(), &DesktopConsole::historyChanged, this, &CommandLine::showHistory);
   connect(&desktop, &Desktop::settled, this, &CommandLine::showPrompt);
   connect(&desktop, &Desktop::documentActivated, this, &CommandLine::showPrompt);
-  m_offers->update();
   showHistory();
   showPrompt();
 }

@@ -9,7 +9,18 @@ namespace {
 
 /// In which source an offer stands; empty for a command.
 constexpr int kSourceRole = Qt::UserRole + 1;
+/// What typed text is compared with, which need not be what the list shows.
+constexpr int kTypedRole = kSourceRole + 1;
+constexpr auto kAnyCase = Qt::CaseInsensitive;
 constexpr int kPictogramSize = 16;
+/// Nobody looks at more, and each may have to be read from a file.
+constexpr int kMostPictograms = 200;
+
+QStandardItem* itemOf(const OdString& shown, const OdString& typed) {
+  auto* const item = new QStandardItem(shown);
+  item->setData(typed, kTypedRole);
+  return item;
+}
 
 } // namespace
 
@@ -19,7 +30,8 @@ CommandOffers::CommandOffers(Desktop& desktop, QLineEdit& edit)
   , m_edit(edit)
   , m_model(new QStandardItemModel(this))
   , m_completer(new QCompleter(m_model, this)) {
-  m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+  m_completer->setCaseSensitivity(kAnyCase);
+  m_completer->setCompletionRole(kTypedRole);
   m_completer->setFilterMode(Qt::MatchStartsWith);
   m_completer->setWidget(&edit);
   m_completer->setMaxVisibleItems(12);
@@ -28,16 +40,20 @@ CommandOffers::CommandOffers(Desktop& desktop, QLineEdit& edit)
           &CommandOffers::take);
 }
 
-void CommandOffers::update() {
+void CommandOffers::update(QChar first) {
+  const auto isMeant = [first](const OdString& text) { return text.startsWith(first, kAnyCase); };
+  m_first = first;
   m_model->clear();
   for (const OdString& name : m_desktop.engine().commands().names())
-    m_model->appendRow(new QStandardItem(name));
+    if (isMeant(name)) m_model->appendRow(itemOf(name, name));
   CompletionRegistry& registry = m_desktop.engine().completion();
+  int pictograms = 0;
   for (const OdString& source : registry.sourceNames())
     for (const auto& offer : registry.offers(source)) {
-      auto* const item = new QStandardItem(offer->displayText);
+      if (!isMeant(offer->text)) continue;
+      auto* const item = itemOf(offer->displayText, offer->text);
       item->setData(source, kSourceRole);
-      if (offer->pictogram)
+      if (offer->pictogram && ++pictograms <= kMostPictograms)
         item->setIcon(QPixmap::fromImage(offer->pictogram->image(kPictogramSize)));
       m_model->appendRow(item);
     }
@@ -46,6 +62,8 @@ void CommandOffers::update() {
 void CommandOffers::show() {
   const OdString text = m_edit.text();
   if (m_desktop.isBusy() || text.isEmpty() || text.contains(u' ')) return hide();
+  // Tools come and go, but not while a word is typed.
+  if (text.size() == 1 || text.front() != m_first) update(text.front());
   m_completer->setCompletionPrefix(text);
   if (m_completer->completionCount() == 0) return hide();
   m_completer->complete(m_edit.rect());

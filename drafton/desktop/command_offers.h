@@ -18,8 +18,6 @@ class CommandOffers : public QObject {
  public:
   CommandOffers(Desktop& desktop, QLineEdit& edit);
 
-  /// Takes the names anew: modules come and go.
-  void update();
   /// Shows the list for the text of the line, or hides it.
   void show();
   bool isShown() const;
@@ -30,12 +28,15 @@ class CommandOffers : public QObject {
   void hide();
 
  private:
+  /// Takes what begins with a letter anew.
+  void update(QChar first);
   void take(const QModelIndex& index);
 
   Desktop& m_desktop;
   QLineEdit& m_edit;
   QStandardItemModel* m_model;
   QCompleter* m_completer;
+  QChar m_first; ///< of the words in the model
 };
 
 } // namespace drafton
