@@ -87,6 +87,8 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
 }
 
 MainWindow::~MainWindow() {
+  // The window loses the keys while it goes, and is no main window any more then.
+  disconnect(qApp, nullptr, this, nullptr);
   for (PaneDock* const pane : findChildren<PaneDock*>()) pane->end();
 }
 
