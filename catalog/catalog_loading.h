@@ -11,8 +11,9 @@ class OdTcToolPalette;
 
 /// Reads what OdTcCatalog::beginLoad has left out, and shows what is there already.
 ///
-/// For a window, which shows palettes as they come. Whatever else asks a catalog for its palettes
-/// has the rest of them read first, and so sees all or nothing.
+/// For a window, which shows palettes as they come, and for what is offered to whoever types.
+/// Whatever else asks a catalog for its palettes has the rest of them read first, and so sees all
+/// or nothing.
 class OdTcCatalogLoading {
  public:
   /// How many palette files are still to be read; 0 once the catalog is complete.

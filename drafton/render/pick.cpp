@@ -6,13 +6,12 @@
 #include "drafton/render/thin_lines.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/entities/viewport.h"
+#include "drawing/graphics/measure.h"
 
 #include <algorithm>
 
 namespace drafton {
 namespace {
-
-constexpr std::size_t kDeepest = 100;
 
 /// The corners of an image or a viewport.
 std::vector<OdGePoint3d> frameOf(const ObjectPiece& piece) {
@@ -108,7 +107,9 @@ void Test::text(const OdGiTextRun& run, const Projection& projection) {
 }
 
 void Test::block(const BlockPiece& block, const Projection& projection, const Style& style) {
-  if (m_open.size() >= kDeepest || std::ranges::find(m_open, block.block) != m_open.end()) return;
+  if (m_open.size() >= odgi::kDeepestBlock ||
+      std::ranges::find(m_open, block.block) != m_open.end())
+    return;
   const Projection inner = projection.after(block.transform);
   BlockShapes* const shapes = m_scene.shapes(block.block, deviationFor(inner.scale()));
   if (shapes == nullptr) return;

@@ -1,5 +1,7 @@
 #include "drafton/render/scene.h"
 
+#include "drawing/graphics/measure.h"
+
 #include <algorithm>
 
 namespace drafton {
@@ -7,9 +9,6 @@ namespace {
 
 /// Boxes of blocks nested deeper than this may be too small after a change in the innermost.
 constexpr int kDeepest = 32;
-/// Blocks nested deeper are not recorded with those around them: nobody draws so deep, but a file
-/// may, and each level takes of the stack.
-constexpr std::size_t kDeepestRecorded = 100;
 
 bool isInserted(OdDbObjectId block) {
   const OdDbObjectPtr object = block.openObject();
@@ -49,7 +48,7 @@ Scene::~Scene() {
 BlockShapes* Scene::shapes(OdDbObjectId block, double deviation) {
   if (m_database == nullptr || m_building.contains(block)) return nullptr;
   if (const auto found = m_blocks.find(block); found != m_blocks.end()) return found->second.get();
-  if (m_building.size() >= kDeepestRecorded) return nullptr;
+  if (m_building.size() >= odgi::kDeepestBlock) return nullptr;
   const OdDbObjectPtr object = block.openObject();
   if (odrxCast<OdDbBlockTableRecord>(object) == nullptr) return nullptr;
   const Building building(m_building, block);

@@ -3,6 +3,7 @@
 #include "drafton/render/shape_recorder.h"
 #include "drawing/entities/raster_image.h"
 #include "drawing/entities/viewport.h"
+#include "drawing/graphics/measure.h"
 
 #include <cmath>
 
@@ -11,8 +12,6 @@ namespace {
 
 /// A quarter of a pixel is not seen.
 constexpr double kSeenDeviation = 0.25;
-/// Blocks nested deeper than this are not drawn.
-constexpr std::size_t kDeepest = 100;
 /// Inserts with more entities than this are asked through their index.
 constexpr std::size_t kManyItems = 400;
 /// Farther than anything on a picture.
@@ -244,7 +243,7 @@ void ScenePainter::drawCells(const Projection& outer, const BlockPiece& first,
 }
 
 void ScenePainter::drawBlock(const Projection& outer, const BlockPiece& block, const Style& style) {
-  if (m_open.contains(block.block) || m_open.size() >= kDeepest) return;
+  if (m_open.contains(block.block) || m_open.size() >= odgi::kDeepestBlock) return;
   const Projection projection = outer.after(block.transform);
   const double deviation = deviationFor(projection.scale());
   BlockShapes* const shapes = m_scene.shapes(block.block, deviation);

@@ -4,13 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Nobody draws so deep, but a file may: each level takes of the stack.
-constexpr std::size_t kDeepest = 100;
-
-} // namespace
-
 void OdGiMeasure::polyline(std::span<const OdGePoint3d> points, bool) {
   for (const OdGePoint3d& p : points) add(p);
 }
@@ -69,7 +62,7 @@ void OdGiMeasure::addBoxOf(const OdDbEntity& entity) {
 
 void OdGiMeasure::block(OdDbObjectId blockId, const OdGeMatrix3d& transform, const OdDbEntity&) {
   const auto block = odrxCast<OdDbBlockTableRecord>(blockId.openObject().get());
-  if (!block || m_open.size() >= kDeepest ||
+  if (!block || m_open.size() >= odgi::kDeepestBlock ||
       std::find(m_open.begin(), m_open.end(), blockId) != m_open.end())
     return;
   const std::optional<OdGeMatrix3d> outer = m_transform;

@@ -3,8 +3,16 @@
 
 #include "drawing/graphics/world_draw.h"
 
-/// Measures what is shown, blocks included; a block within itself counts for nothing, and neither do
-/// those that stand in each other more than a hundred times.
+namespace odgi {
+
+/// How deep blocks are looked into that stand in each other: nobody draws so deep, but a file may,
+/// and each level takes of the stack.
+inline constexpr std::size_t kDeepestBlock = 100;
+
+} // namespace odgi
+
+/// Measures what is shown, blocks included; a block within itself counts for nothing, and neither
+/// do those that are nested deeper than odgi::kDeepestBlock.
 class OdGiMeasure : public OdGiWorldDraw {
  public:
   explicit OdGiMeasure(double deviation = 1e-3)

@@ -36,7 +36,7 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   void setPathName(const OdString& path);
   /// Makes the block stand for another drawing, or a block of its own again.
   void setIsFromExternalReference(bool xref, bool overlay = false);
-  /// True while the other drawing's contents are there.
+  /// True once somebody has unloaded the other drawing.
   bool isUnloaded() const { return isFromExternalReference() && !(m_block.blockFlags & kResolved); }
   void setIsUnloaded(bool unloaded);
   /// A block that programs name by themselves ("*D12").

@@ -32,7 +32,10 @@ class ToolWalk {
     const OdSmartPtr<OdTcPaletteManager::CatalogEnum> catalogs = all.catalogsEnum();
     OdString path;
     OdTcCatalog* catalog = nullptr;
-    while (catalogs->next(path, catalog)) items(catalog->groupsEnum());
+    while (catalogs->next(path, catalog)) {
+      m_loading = catalog->loading();
+      items(catalog->groupsEnum());
+    }
   }
 
  private:
@@ -41,7 +44,8 @@ class ToolWalk {
       if (const OdTcGroup* group = odrxCast<OdTcGroup>(item))
         items(group->children());
       else if (const OdTcPaletteSoftRef* reference = odrxCast<OdTcPaletteSoftRef>(item))
-        palette(reference->resolve());
+        // Nobody who types waits for palettes that are still to be read.
+        palette(m_loading->findSoFar(reference->id()));
     }
   }
 
@@ -67,6 +71,7 @@ class ToolWalk {
   }
 
   const HostEdCompletion::Callback& m_callback;
+  const OdTcCatalogLoading* m_loading = nullptr; ///< of the catalog that is walked
   QSet<const OdTcToolPalette*> m_seen;
 };
 

@@ -93,6 +93,24 @@ TEST_F(CompletionSourceTest, OffersAPaletteOfTwoGroupsOnce) {
   EXPECT_EQ(texts(), QStringList(QStringLiteral("Door")));
 }
 
+TEST_F(CompletionSourceTest, OffersWhatIsThereAndReadsNoPalettesThatWait) {
+  const OdTcGroupPtr group = addGroup(catalog->groups(), QStringLiteral("G"));
+  for (const char16_t* name : {u"Door", u"Window"}) {
+    const OdString text = OdString::fromUtf16(name);
+    const OdTcToolPalettePtr palette = addPalette(text, {text});
+    refer(group, palette);
+    ASSERT_TRUE(palette->save());
+  }
+  ASSERT_TRUE(catalog->save());
+  ASSERT_TRUE(catalog->beginLoad(OdString(catalog->path())));
+  EXPECT_EQ(texts(), QStringList());
+  ASSERT_TRUE(catalog->loading()->loadNext());
+  EXPECT_EQ(texts(), QStringList(QStringLiteral("Door")));
+  EXPECT_EQ(catalog->loading()->pendingCount(), 1);
+  ASSERT_TRUE(catalog->loading()->loadNext());
+  EXPECT_EQ(texts(), QStringList({QStringLiteral("Door"), QStringLiteral("Window")}));
+}
+
 TEST_F(CompletionSourceTest, PassesOverAReferenceThatLeadsNowhere) {
   const OdTcGroupPtr group = addGroup(catalog->groups(), QStringLiteral("G"));
   OdTcPaletteSoftRefPtr reference = OdTcPaletteSoftRef::createObject();
