@@ -31,6 +31,9 @@ class OdTcDatabase : public OdTcCatalogItem {
   virtual bool saveAs(const OdString& path) = 0;
   /// Saves at the own path; false, without a message, if there is none.
   virtual bool save() = 0;
+  /// The same in one step: whoever reads the file meanwhile, on a shared folder for instance, finds
+  /// all of the old content or all of the new, and a save that fails leaves the file as it was.
+  virtual bool saveAtOnce() = 0;
   /// Writes a new file at `path` and goes back to the own path, unless the write fails. The rest as
   /// with saveAs.
   virtual bool saveCopy(const OdString& path) = 0;

@@ -129,6 +129,18 @@ bool OdTcDatabaseImpl::saveAs(const OdString& path) {
 
 bool OdTcDatabaseImpl::save() { return !m_path.isEmpty() && saveAs(OdString(m_path)); }
 
+bool OdTcDatabaseImpl::saveAtOnce() {
+  if (m_path.isEmpty()) return false;
+  const bool isWritten = writeBy([&] {
+    return writeBeside(m_path, [&](const OdString& fresh) {
+      return writeFile(fresh, Oda::kCreateAlways, *makePaletteFiler(), this,
+                       &OdTcFiler::openPalette);
+    });
+  });
+  if (isWritten) m_attached = {};
+  return isWritten;
+}
+
 bool OdTcDatabaseImpl::saveCopy(const OdString& path) {
   return writeCopy(path, [&] {
     return writeFile(path, Oda::kCreateAlways, *makePaletteFiler(), this, &OdTcFiler::openPalette);

@@ -36,6 +36,7 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   /// A save that fails leaves the path as it was.
   bool saveAs(const OdString& path) override;
   bool save() override;
+  bool saveAtOnce() override;
   bool saveCopy(const OdString& path) override;
   void attachObject(OdTcPersist* object) override;
   int attachedCount() const override { return static_cast<int>(m_attached.size()); }

@@ -97,6 +97,12 @@ class Exporter {
   }
 
   OdTcExportReport run() {
+    // What is in memory of a file that could not be read is not the palette.
+    if (m_palette.getDatabase()->isUnread()) {
+      m_report.problem = translated(u"the palette could not be read") + QLatin1String(": ") +
+                         m_palette.getDatabase()->readProblem();
+      return std::move(m_report);
+    }
     try {
       gather(m_palette);
       const OdTcEnumPtr<OdTcTool> tools = m_palette.enumTools();

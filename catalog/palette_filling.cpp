@@ -57,10 +57,11 @@ bool OdTcPaletteFilling::save() {
     return false;
   }
   if (m_palette->getDatabase()->isUnread()) {
-    m_problem = host::translate(QStringLiteral("the palette could not be read"));
+    m_problem = host::translate(QStringLiteral("the palette could not be read")) +
+                QLatin1String(": ") + m_palette->getDatabase()->readProblem();
     return false;
   }
-  if (m_palette->save()) return true;
+  if (m_palette->getDatabase()->saveAtOnce()) return true;
   m_problem = m_palette->getDatabase()->saveProblem();
   return false;
 }

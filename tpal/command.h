@@ -32,6 +32,8 @@ struct Arguments {
   bool missing = false;         ///< --missing
   bool rebuild = false;         ///< --rebuild
   bool blocks = false;          ///< --blocks
+  bool dropMissing = false;     ///< --drop-missing
+  int wait = 10;                ///< --wait, seconds
 };
 
 /// Where a command writes.
@@ -46,7 +48,7 @@ struct Command {
   const char* name;
   const char* synopsis;
   const char* description;
-  /// The options that it takes besides --json, each followed by a blank.
+  /// The options that it takes, each followed by a blank.
   const char* options;
   int leastWords;
   int mostWords;

@@ -13,12 +13,6 @@
 namespace tpal {
 namespace {
 
-/// The palette of that id or, failing that, of that name.
-tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word) {
-  tc::OdTcToolPalette* const byId = catalog.findPalette(word);
-  return byId ? byId : catalog.findPaletteByName(word);
-}
-
 void print(const tc::OdTcExportReport& report, bool json, Console& console) {
   if (json) {
     const QJsonObject row{
@@ -53,9 +47,10 @@ ExitCode exportCommand(const Arguments& arguments, Console& console) {
   const LoadedCatalog loaded = loadCatalog(arguments.words[0]);
   for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
   if (!loaded.isRead) return kFailed;
-  tc::OdTcToolPalette* const palette = findPalette(*loaded.catalog, word);
+  OdString problem;
+  tc::OdTcToolPalette* const palette = findPalette(*loaded.catalog, word, problem);
   if (!palette) {
-    console.err << "tpal: " << loaded.file << " has no palette \"" << word << "\"\n";
+    console.err << "tpal: " << problem << "\n";
     return kFailed;
   }
   const tc::OdTcExportReport report =

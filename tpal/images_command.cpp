@@ -11,7 +11,7 @@
 #include "tools/tool_source.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
-#include "tpal/loaded_catalog.h"
+#include "tpal/writable_catalog.h"
 
 #include <QDir>
 #include <QHash>
@@ -197,11 +197,13 @@ class ImagesRun {
 
   ExitCode run() {
     const ModuleClasses classes;
-    const LoadedCatalog loaded = loadCatalog(m_arguments.words.first());
-    for (const OdString& message : loaded.messages) m_console.err << "tpal: " << message << "\n";
-    if (!loaded.isRead) return kFailed;
-    for (const tc::OdTcToolPalette* palette : palettesOf(*loaded.catalog)) m_use.add(*palette);
-    for (tc::OdTcToolPalette* palette : palettesOf(*loaded.catalog)) look(*palette);
+    // Without an option nothing is written.
+    const auto writes =
+        makes() ? WritableCatalog::Writes::kPalettes : WritableCatalog::Writes::kNothing;
+    WritableCatalog catalog(m_arguments.words.first(), writes, m_arguments, m_console);
+    if (!catalog.isOpen()) return kFailed;
+    for (const tc::OdTcToolPalette* palette : palettesOf(*catalog)) m_use.add(*palette);
+    for (tc::OdTcToolPalette* palette : palettesOf(*catalog)) look(catalog, *palette);
     report();
     const bool isComplete = std::all_of(m_rows.begin(), m_rows.end(),
                                         [](const Row& row) { return row.missing.empty(); });
@@ -209,15 +211,26 @@ class ImagesRun {
   }
 
  private:
-  void look(tc::OdTcToolPalette& palette) {
+  bool makes() const { return m_arguments.missing || m_arguments.rebuild; }
+
+  void look(WritableCatalog& catalog, tc::OdTcToolPalette& palette) {
     if (palette.getDatabase()->isUnread()) return;
     bool hasChanged = false;
+    const std::size_t first = m_rows.size();
     for (tc::OdTcTool* tool : toolsOf(palette))
       if (tool->isRegular()) hasChanged |= look(palette, *tool);
-    if (!hasChanged || palette.save()) return;
-    m_console.err << "tpal: " << palette.getPath()
-                  << ": not written: " << palette.getDatabase()->saveProblem() << "\n";
+    const OdString problem = hasChanged ? catalog.save(palette) : OdString();
+    if (problem.isEmpty()) return;
+    m_console.err << "tpal: " << palette.getPath() << ": not written: " << problem << "\n";
     m_hasFailed = true;
+    // No tool on the disk shows what was made.
+    for (std::size_t i = first; i < m_rows.size(); ++i) takeBack(m_rows[i]);
+  }
+  static void takeBack(Row& row) {
+    row.missing.insert(row.missing.end(), row.made.begin(), row.made.end());
+    std::sort(row.missing.begin(), row.missing.end());
+    row.made.clear();
+    if (row.reason.isEmpty()) row.reason = QStringLiteral("the palette is not written");
   }
 
   /// True if the tool was changed.
@@ -228,9 +241,8 @@ class ImagesRun {
     if (wanted.empty()) return false;
     Row row{palette.name(),       palette.getPath(), tool.name(), tool.id(),
             summarize(tool).kind, pixelsOf(missing), {},          {}};
-    const bool makes = m_arguments.missing || m_arguments.rebuild;
-    const bool hasChanged = makes && m_maker.make(tool, wanted, palette.getPath(), m_use);
-    if (makes) {
+    const bool hasChanged = makes() && m_maker.make(tool, wanted, palette.getPath(), m_use);
+    if (makes()) {
       row.missing = pixelsOf(missingSizes(tool));
       if (hasChanged) row.made = without(pixelsOf(wanted), row.missing);
       row.reason = m_maker.problem();

@@ -1,14 +1,12 @@
 // tpal import: palettes of other programs into a catalog.
 #include "catalog/database.h"
 #include "catalog/foreign_store.h"
-#include "catalog/made_folders.h"
 #include "frame/file_path.h"
-#include "frame/system_services.h"
 #include "persistence/path_operations.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
 #include "tpal/import_text.h"
-#include "tpal/loaded_catalog.h"
+#include "tpal/writable_catalog.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -59,28 +57,26 @@ ExitCode importCommand(const Arguments& arguments, Console& console) {
     return kUsage;
   }
   const ModuleClasses classes;
-  const LoadedCatalog target = openOrNewCatalog(arguments.into);
-  if (!target.isRead) {
-    for (const OdString& message : target.messages) console.err << "tpal: " << message << "\n";
-    return kFailed;
-  }
-  const OdString folder = odpath::folderOf(target.file);
-  tc::MadeFolders made(folder);
-  if (!arguments.dryRun && !odrxSystemServices()->createFolder(folder)) {
-    console.err << "tpal: the folder " << folder << " cannot be made\n";
-    return kFailed;
-  }
+  WritableCatalog target(arguments.into, WritableCatalog::Writes::kCatalogThatMayBeNew, arguments,
+                         console);
+  if (!target.isOpen()) return kFailed;
   const tc::OdTcForeignPalettes found = palettesIn(arguments.words);
   ExitCode code = found.problems.empty() ? kOk : kFindings;
   QJsonArray rows;
   tc::OdTcImportOptions options = optionsOf(arguments);
   for (const OdString& file : found.files) {
+    const OdString problem = target.whyNotWritable(target.file());
+    if (!problem.isEmpty()) {
+      console.err << "tpal: " << problem << "\n";
+      code = kFailed;
+      break;
+    }
     tc::OdTcImportReport report;
-    const tc::OdTcToolPalettePtr palette = target.catalog->importPalette(file, options, report);
+    const tc::OdTcToolPalettePtr palette = target->importPalette(file, options, report);
     if (arguments.dryRun)
       options.takenNames << report.palette;
-    else if (palette)
-      made.keep();
+    else
+      target.noteWritten(target.file());
     ConsoleHost::instance().takeMessages();
     if (arguments.json)
       rows.append(jsonOf(report, arguments.dryRun));

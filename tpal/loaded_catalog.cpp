@@ -17,11 +17,15 @@ namespace tpal {
 ModuleClasses::ModuleClasses() { tc::registerModuleClasses(); }
 ModuleClasses::~ModuleClasses() { tc::unregisterModuleClasses(); }
 
+OdString catalogFileIn(const OdString& folder) {
+  const OdString stored = odpath::fromPlatform(folder);
+  return (stored.endsWith(u'\\') ? stored.chopped(1) : stored) + u'\\' +
+         OdString::fromUtf16(tc::kCatalogFileName);
+}
+
 LoadedCatalog loadCatalog(const OdString& folder) {
   LoadedCatalog result;
-  const OdString stored = odpath::fromPlatform(folder);
-  result.file = (stored.endsWith(u'\\') ? stored.chopped(1) : stored) + u'\\' +
-                OdString::fromUtf16(tc::kCatalogFileName);
+  result.file = catalogFileIn(folder);
   ConsoleHost::instance().setToolPaletteFolders(
       {odpath::fromPlatform(QFileInfo(folder).absoluteFilePath())});
   result.catalog = tc::OdTcCatalog::createObject();
@@ -101,6 +105,21 @@ std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog) {
   std::vector<tc::OdTcToolPalette*> palettes;
   forEach(catalog.palettesEnum(), [&](tc::OdTcToolPalette* p) { palettes.push_back(p); });
   return palettes;
+}
+
+tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word,
+                                 OdString& problem) {
+  if (tc::OdTcToolPalette* const byId = catalog.findPalette(word)) return byId;
+  std::vector<tc::OdTcToolPalette*> named = palettesOf(catalog);
+  std::erase_if(named, [&](const tc::OdTcToolPalette* p) { return p->name() != word; });
+  if (named.size() == 1) return named.front();
+  QStringList ids;
+  for (const tc::OdTcToolPalette* palette : named) ids << palette->id();
+  problem = named.empty() ? QStringLiteral("%1 has no palette \"%2\"").arg(catalog.path(), word)
+                          : QStringLiteral("%1 has %2 palettes \"%3\"; say which by its id: %4")
+                                .arg(catalog.path(), OdString::number(named.size()), word,
+                                     ids.join(QLatin1String(", ")));
+  return nullptr;
 }
 
 std::vector<tc::OdTcTool*> toolsOf(const tc::OdTcToolPalette& palette) {

@@ -27,6 +27,8 @@ struct LoadedCatalog {
   bool isRead = false; ///< false if the file is missing or could not be read
 };
 
+/// The stored path of the catalog file in a folder.
+OdString catalogFileIn(const OdString& folder);
 /// Reads the catalog of a folder.
 LoadedCatalog loadCatalog(const OdString& folder);
 /// The same for a catalog that takes something; a new one, on no disk yet, if the folder has none.
@@ -42,6 +44,11 @@ ToolSummary summarize(const tc::OdTcTool& tool);
 /// The palettes and tools of a catalog, in storage order.
 std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog);
 std::vector<tc::OdTcTool*> toolsOf(const tc::OdTcToolPalette& palette);
+
+/// The palette of that id or, failing that, of that name. Null with the reason in `problem` if
+/// there is none, or, of a name, more than one.
+tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word,
+                                 OdString& problem);
 
 /// Walks an enumerator to its end.
 template <class T, class F>

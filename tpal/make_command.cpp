@@ -9,10 +9,10 @@
 #include "tools/tool_maker.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
-#include "tpal/loaded_catalog.h"
 #include "tpal/make_sources.h"
 #include "tpal/picture_workers.h"
 #include "tpal/progress.h"
+#include "tpal/writable_catalog.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -42,14 +42,12 @@ class MakeRun {
 
   ExitCode run() {
     const ModuleClasses classes;
-    LoadedCatalog target = openOrNewCatalog(m_arguments.words[0]);
-    if (!target.isRead) {
-      for (const OdString& message : target.messages) m_console.err << "tpal: " << message << "\n";
-      return kFailed;
-    }
+    WritableCatalog target(m_arguments.words[0], WritableCatalog::Writes::kCatalogThatMayBeNew,
+                           m_arguments, m_console);
+    if (!target.isOpen() || !choosePalette(*target)) return kFailed;
     makeTools();
     ConsoleHost::instance().takeMessages();
-    if (toolCount() > 0) enter(*target.catalog, target.file);
+    if (toolCount() > 0) enter(target);
     report();
     if (!m_failure.isEmpty()) {
       m_console.err << "tpal: " << m_failure << "\n";
@@ -65,6 +63,19 @@ class MakeRun {
   std::ptrdiff_t toolCount() const {
     return std::count_if(m_rows.begin(), m_rows.end(),
                          [](const Row& r) { return r.tool != nullptr; });
+  }
+
+  /// False if the name is that of several palettes, or the one that has it cannot take tools.
+  bool choosePalette(const tc::OdTcCatalog& catalog) {
+    OdString problem;
+    const tc::OdTcToolPalette* const palette = findPalette(catalog, m_arguments.words[1], problem);
+    const bool isNew = !palette && !catalog.findPaletteByName(m_arguments.words[1]);
+    if (palette && palette->getDatabase()->isUnread())
+      problem = QStringLiteral("%1 cannot be read: %2")
+                    .arg(palette->getPath(), palette->getDatabase()->readProblem());
+    if (isNew || problem.isEmpty()) return true;
+    m_console.err << "tpal: " << problem << "\n";
+    return false;
   }
 
   void makeTools() {
@@ -108,20 +119,15 @@ class MakeRun {
 
   /// Brings the tools with their pictures into the palette, all or none. A dry run goes the same
   /// way up to the disk, so that it promises nothing that fails.
-  void enter(tc::OdTcCatalog& catalog, const OdString& file) {
-    if (!m_arguments.dryRun && !odrxSystemServices()->createFolder(odpath::folderOf(file))) {
-      m_failure = QStringLiteral("the folder %1 cannot be made").arg(odpath::folderOf(file));
-      return;
-    }
-    tc::OdTcPaletteFilling filling(catalog, m_arguments.words[1], m_arguments.group);
-    if (filling.palette().getDatabase()->isUnread()) {
-      m_failure = QStringLiteral("%1 cannot be read").arg(filling.palette().getPath());
-      return;
-    }
+  void enter(WritableCatalog& target) {
+    tc::OdTcPaletteFilling filling(*target, m_arguments.words[1], m_arguments.group);
     for (const Row& row : m_rows)
       if (row.tool) filling.add(row.tool);
     makeAllPictures(filling);
-    if (!m_arguments.dryRun && !filling.commit())
+    if (m_arguments.dryRun) return;
+    m_failure =
+        target.whyNotWritable(filling.isNew() ? target.file() : filling.palette().getPath());
+    if (m_failure.isEmpty() && !filling.commit())
       m_failure =
           QStringLiteral("%1: not written: %2").arg(filling.palette().getPath(), filling.problem());
     ConsoleHost::instance().takeMessages();
@@ -186,6 +192,8 @@ class MakeRun {
       return;
     }
     for (const Row& row : m_rows) {
+      // Tools that came to nothing with their palette are nobody's.
+      if (!m_failure.isEmpty() && row.problem.isEmpty()) continue;
       m_console.out << row.source.word;
       if (!row.source.block.isEmpty()) m_console.out << ", block " << row.source.block;
       if (row.tool)
@@ -194,6 +202,7 @@ class MakeRun {
       if (!row.problem.isEmpty()) m_console.out << ": " << row.problem;
       m_console.out << "\n";
     }
+    if (!m_failure.isEmpty()) return;
     const bool isOne = toolCount() == 1;
     m_console.out << toolCount() << (isOne ? " tool " : " tools ")
                   << (m_arguments.dryRun ? "would be"

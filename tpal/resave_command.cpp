@@ -1,16 +1,20 @@
 // tpal resave: a catalog read and written anew.
+#include "catalog/catalog_save.h"
 #include "catalog/database.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
 #include "tpal/command.h"
 #include "tpal/loaded_catalog.h"
+#include "tpal/writable_catalog.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
+#include <optional>
 
 namespace tpal {
 namespace {
@@ -29,22 +33,43 @@ struct Outcome {
 class Resaver {
  public:
   /// With an empty `target` the catalog is written in place.
-  Resaver(const LoadedCatalog& loaded, const OdString& target)
-    : m_catalog(*loaded.catalog)
-    , m_sourceFolder(odpath::folderOf(loaded.file))
+  Resaver(WritableCatalog& catalog, const OdString& target)
+    : m_catalog(catalog)
+    , m_sourceFolder(odpath::folderOf(catalog.file()))
     , m_targetFolder(target.isEmpty() ? m_sourceFolder : odpath::fromPlatform(target))
-    , m_inPlace(target.isEmpty() || odpath::samePlace(m_sourceFolder, m_targetFolder)) {}
+    , m_inPlace(target.isEmpty()) {}
 
   std::vector<Outcome> run() {
-    for (tc::OdTcToolPalette* palette : palettesOf(m_catalog)) resave(*palette);
-    const OdString file = m_targetFolder + u'\\' + OdString::fromUtf16(tc::kCatalogFileName);
-    odrxSystemServices()->createFolder(m_targetFolder);
-    const bool isWritten = m_catalog.save(file);
-    noteSave(file, isWritten, OdString());
+    dropMissing();
+    for (tc::OdTcToolPalette* palette : palettesOf(*m_catalog)) resave(*palette);
+    saveCatalog(m_targetFolder + u'\\' + OdString::fromUtf16(tc::kCatalogFileName));
     return std::move(m_outcomes);
   }
 
  private:
+  /// Takes the palettes whose files are not there out of the catalog; their places in groups go
+  /// when it is written. The catalog was not opened unless that is wanted.
+  void dropMissing() {
+    const auto missing = missingPalettes(*m_catalog);
+    for (auto it = missing.begin(); it != missing.end(); ++it)
+      if (m_catalog->loaders()->remove(it.key()))
+        m_outcomes.push_back({m_catalog.file(), Fate::kWritten,
+                              QStringLiteral("without the palette \"%1\", whose file is not there")
+                                  .arg(it.value())});
+  }
+
+  void saveCatalog(const OdString& file) {
+    const OdString problem = m_inPlace ? m_catalog.whyNotWritable(file) : OdString();
+    try {
+      auto& catalog = static_cast<tc::OdTcCatalogImpl&>(*m_catalog);
+      const bool isWritten =
+          problem.isEmpty() && tc::CatalogSave(catalog, file, tc::CatalogSave::Way::kAtOnce).run();
+      noteSave(file, isWritten, problem);
+    } catch (const OdFileError& error) {
+      noteSave(file, false, error.description());
+    }
+  }
+
   void resave(tc::OdTcToolPalette& palette) {
     const OdString file = palette.getPath();
     if (palette.getDatabase()->isUnread()) {
@@ -54,8 +79,8 @@ class Resaver {
       return;
     }
     if (m_inPlace) {
-      const bool isWritten = palette.save();
-      noteSave(file, isWritten, palette.getDatabase()->saveProblem());
+      const OdString problem = m_catalog.save(palette);
+      noteSave(file, problem.isEmpty(), problem);
       notePictures(palette, file);
       return;
     }
@@ -100,7 +125,7 @@ class Resaver {
         odrxSystemServices()->copyFile(source + u'\\' + name, target + u'\\' + name);
   }
 
-  tc::OdTcCatalog& m_catalog;
+  WritableCatalog& m_catalog;
   OdString m_sourceFolder;
   OdString m_targetFolder;
   bool m_inPlace;
@@ -120,15 +145,29 @@ void report(const std::vector<Outcome>& outcomes, bool json, QTextStream& out) {
   if (json) out << OdString::fromUtf8(QJsonDocument(rows).toJson());
 }
 
+bool isSameFolder(const OdString& a, const OdString& b) {
+  const OdString place = QFileInfo(odpath::toPlatform(a)).canonicalFilePath();
+  return !place.isEmpty() && place == QFileInfo(odpath::toPlatform(b)).canonicalFilePath();
+}
+
 } // namespace
 
 ExitCode resaveCommand(const Arguments& arguments, Console& console) {
   const ModuleClasses classes;
-  const LoadedCatalog loaded = loadCatalog(arguments.words.first());
-  for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
-  if (!loaded.isRead) return kFailed;
+  const OdString& source = arguments.words.first();
+  const bool inPlace = arguments.to.isEmpty() || isSameFolder(source, arguments.to);
+  std::optional<CatalogLock> targetLock;
+  if (!inPlace) {
+    targetLock.emplace(arguments.to, arguments, console);
+    if (!targetLock->isHeld()) return kFailed;
+  }
+  WritableCatalog catalog(
+      source, inPlace ? WritableCatalog::Writes::kCatalog : WritableCatalog::Writes::kElsewhere,
+      arguments, console);
+  if (!catalog.isOpen()) return kFailed;
   try {
-    const std::vector<Outcome> outcomes = Resaver(loaded, arguments.to).run();
+    const std::vector<Outcome> outcomes =
+        Resaver(catalog, inPlace ? OdString() : arguments.to).run();
     report(outcomes, arguments.json, console.out);
     Fate worst = Fate::kWritten;
     for (const Outcome& o : outcomes) worst = std::max(worst, o.fate);

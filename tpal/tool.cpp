@@ -9,68 +9,48 @@ namespace {
 constexpr int kAnyNumber = 1 << 20;
 
 constexpr Command kCommands[] = {
-    {"list", "list DIR... [--json]",
-     "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.", "", 1,
-     kAnyNumber, false, listCommand},
-    {"check", "check DIR... [--json]",
+    {"list", "list DIR...",
+     "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.",
+     "--json ", 1, kAnyNumber, false, listCommand},
+    {"check", "check DIR...",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
-     "      references, ids that stand twice, tools that do nothing, paths that lead nowhere, "
-     "unknown\n"
-     "      patterns and pictures that no tool shows.",
-     "", 1, kAnyNumber, true, checkCommand},
-    {"resave", "resave DIR [--to DIR] [--json]",
+     "references, ids that stand twice, tools that do nothing, paths that lead nowhere, unknown\n"
+     "patterns, and files of palettes and pictures that belong to nothing.",
+     "--json ", 1, kAnyNumber, true, checkCommand},
+    {"resave", "resave DIR",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
-     "--to ", 1, 1, false, resaveCommand},
-    {"import",
-     "import FILE... --into DIR [--group NAME] [--dry-run] [--map OLD=NEW]...\n"
-     "       [--convert-commands] [--json]",
+     "--to --drop-missing --wait --json ", 1, 1, false, resaveCommand},
+    {"import", "import FILE...",
      "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
      "its\n"
-     "      stores (.atc), and all of these in a folder. Says of each tool what became of it.",
-     "--into --group --dry-run --map --convert-commands ", 1, kAnyNumber, true, importCommand},
-    {"export", "export DIR PALETTE FILE.xtp [--json]",
+     "stores (.atc), and all of these in a folder. Says of each tool what became of it.",
+     "--into --group --dry-run --map --convert-commands --wait --json ", 1, kAnyNumber, true,
+     importCommand},
+    {"export", "export DIR PALETTE FILE.xtp",
      "Writes a palette, given by its name or id, for other programs, with its pictures beside it.",
-     "", 3, 3, false, exportCommand},
-    {"make", "make DIR PALETTE FILE... [--blocks] [--group NAME] [--dry-run] [--json]",
-     "Makes tools with pictures: of drawings, or of each block in them; of pictures; of all of "
-     "these\n      in a folder; of commands, by their names. The catalog and the palette are made "
-     "if they\n      are not there.",
-     "--blocks --group --dry-run ", 3, kAnyNumber, true, makeCommand},
-    {"images", "images DIR [--missing | --rebuild] [--json]",
+     "--json ", 3, 3, false, exportCommand},
+    {"make", "make DIR PALETTE FILE...",
+     "Makes tools with pictures: of drawings, or of each block in them; of pictures; of all of\n"
+     "these in a folder; of commands, by their names. The catalog and the palette are made if "
+     "they\n"
+     "are not there.",
+     "--blocks --group --dry-run --wait --json ", 3, kAnyNumber, true, makeCommand},
+    {"images", "images DIR",
      "Says which tools lack a picture at which size; makes those that are missing, or all anew.",
-     "--missing --rebuild ", 1, 1, true, imagesCommand},
+     "--missing --rebuild --wait --json ", 1, 1, true, imagesCommand},
 };
-
-void printHelp(QTextStream& out) {
-  out << "usage: tpal COMMAND ...\n\n"
-         "Looks after tool catalogs without any window. DIR is a folder with a catalog file,\n"
-         "DrfTcCatalog.dtc.\n\n";
-  for (const Command& c : kCommands)
-    out << "  tpal " << c.synopsis << "\n      " << c.description << "\n\n";
-  out << "  --json       the result as JSON on standard output\n"
-         "  --to DIR     where to write instead\n"
-         "  --into DIR   the folder of the catalog that takes the palettes; a new one is made if\n"
-         "               there is none\n"
-         "  --group NAME the group that is to hold them; made if it is not there\n"
-         "  --dry-run    only looks and reports\n"
-         "  --map OLD=NEW  drawings below the folder OLD are looked for below NEW from now on\n"
-         "  --convert-commands  makes command tools of other products' tools that are but a macro\n"
-         "  --blocks     a tool for each block of a drawing, not one for all of it\n"
-         "  --missing    makes the pictures that are missing\n"
-         "  --rebuild    makes all pictures anew\n"
-         "  --help       this text\n"
-         "  --version    the version\n\n"
-         "Exit codes: 0 all is well; 1 something was found or left out; 2 wrong usage;\n"
-         "3 a catalog cannot be read or written.\n";
-}
 
 /// Takes an option's value into the arguments; says what is wrong with it, if anything is.
 using TakeValue = OdString (*)(Arguments& arguments, const OdString& value);
 
 struct Option {
   const char* name;
-  const char* value; ///< what it needs behind it, in words; null for a switch
+  const char* value; ///< what stands behind it; null for a switch
+  const char* need;  ///< what that is, in words
+  const char* help;
   TakeValue take;
+  bool isNeeded = false; ///< commands that take it do not work without
+  bool isRepeated = false;
 };
 
 template <OdString Arguments::*Member>
@@ -92,27 +72,107 @@ OdString takeMap(Arguments& arguments, const OdString& value) {
   return {};
 }
 
+OdString takeSeconds(Arguments& arguments, const OdString& value) {
+  constexpr int kMostSeconds = 24 * 60 * 60;
+  bool isNumber = false;
+  arguments.wait = value.toInt(&isNumber);
+  if (isNumber && arguments.wait >= 0 && arguments.wait <= kMostSeconds) return {};
+  return QStringLiteral("--wait needs seconds, 0 to %1, not \"%2\"").arg(kMostSeconds).arg(value);
+}
+
 constexpr Option kOptions[] = {
-    {"--json", nullptr, takeSwitch<&Arguments::json>},
-    {"--to", "a folder", takeText<&Arguments::to>},
-    {"--into", "a folder", takeText<&Arguments::into>},
-    {"--group", "a name", takeText<&Arguments::group>},
-    {"--dry-run", nullptr, takeSwitch<&Arguments::dryRun>},
-    {"--map", "OLD=NEW", takeMap},
-    {"--convert-commands", nullptr, takeSwitch<&Arguments::convertCommands>},
-    {"--missing", nullptr, takeSwitch<&Arguments::missing>},
-    {"--rebuild", nullptr, takeSwitch<&Arguments::rebuild>},
-    {"--blocks", nullptr, takeSwitch<&Arguments::blocks>},
+    {"--to", "DIR", "a folder", "where to write instead", takeText<&Arguments::to>},
+    {"--into", "DIR", "a folder",
+     "the folder of the catalog that takes the palettes; a new one is made if there is none",
+     takeText<&Arguments::into>, true},
+    {"--group", "NAME", "a name", "the group that is to hold them; made if it is not there",
+     takeText<&Arguments::group>},
+    {"--dry-run", nullptr, nullptr, "only looks and reports", takeSwitch<&Arguments::dryRun>},
+    {"--map", "OLD=NEW", "OLD=NEW",
+     "source files below the folder OLD are looked for below NEW from now on", takeMap, false,
+     true},
+    {"--convert-commands", nullptr, nullptr,
+     "makes command tools of other products' tools that are but a macro",
+     takeSwitch<&Arguments::convertCommands>},
+    {"--blocks", nullptr, nullptr, "a tool for each block of a drawing, not one for all of it",
+     takeSwitch<&Arguments::blocks>},
+    {"--missing", nullptr, nullptr, "makes the pictures that are missing",
+     takeSwitch<&Arguments::missing>},
+    {"--rebuild", nullptr, nullptr, "makes all pictures anew", takeSwitch<&Arguments::rebuild>},
+    {"--drop-missing", nullptr, nullptr,
+     "takes palettes whose files are not there out of the catalog and its groups",
+     takeSwitch<&Arguments::dropMissing>},
+    {"--wait", "SECONDS", "seconds",
+     "how long to wait for another tpal that writes the catalog; 10 without it", takeSeconds},
+    {"--json", nullptr, nullptr, "the result as JSON on standard output",
+     takeSwitch<&Arguments::json>},
 };
 
+bool isOffered(const Command& command, const Option& option) {
+  return QLatin1String(command.options).contains(QLatin1String(option.name) + QLatin1Char(' '));
+}
+
 const Option* findOption(const Command& command, const OdString& word) {
-  for (const Option& option : kOptions) {
-    const QLatin1String name(option.name);
-    const bool isOffered = name == QLatin1String("--json") ||
-                           QLatin1String(command.options).contains(name + QLatin1Char(' '));
-    if (word == name && isOffered) return &option;
-  }
+  for (const Option& option : kOptions)
+    if (word == QLatin1String(option.name) && isOffered(command, option)) return &option;
   return nullptr;
+}
+
+OdString withValue(const Option& option) {
+  const OdString name = QLatin1String(option.name);
+  return option.value ? name + u' ' + QLatin1String(option.value) : name;
+}
+
+/// What is to be typed, in lines that fit a terminal.
+OdString usageOf(const Command& command) {
+  constexpr qsizetype kWidth = 96;
+  const OdString indent = QStringLiteral("\n           ");
+  OdString usage = QStringLiteral("tpal ") + QLatin1String(command.synopsis);
+  qsizetype length = usage.size();
+  for (const Option& option : kOptions) {
+    if (!isOffered(command, option)) continue;
+    OdString word = withValue(option);
+    if (!option.isNeeded) word = u'[' + word + u']';
+    if (option.isRepeated) word += QLatin1String("...");
+    if (length + 1 + word.size() > kWidth) {
+      usage += indent;
+      length = indent.size();
+    }
+    usage += u' ' + word;
+    length += 1 + word.size();
+  }
+  return usage;
+}
+
+void printOption(QTextStream& out, const OdString& name, const char* help) {
+  out << "  " << name.leftJustified(20) << "  " << help << "\n";
+}
+
+void printExitCodes(QTextStream& out) {
+  out << "\nExit codes: 0 all is well; 1 something was found or left out; 2 wrong usage;\n"
+         "3 a catalog cannot be read or written.\n";
+}
+
+void printHelp(const Command& command, QTextStream& out) {
+  out << "usage: " << usageOf(command) << "\n\n" << command.description << "\n\n";
+  for (const Option& option : kOptions)
+    if (isOffered(command, option)) printOption(out, withValue(option), option.help);
+  printExitCodes(out);
+}
+
+void printHelp(QTextStream& out) {
+  out << "usage: tpal COMMAND ...\n\n"
+         "Looks after tool catalogs without any window. DIR is a folder with a catalog file,\n"
+         "DrfTcCatalog.dtc.\n\n";
+  for (const Command& c : kCommands) {
+    OdString description = QLatin1String(c.description);
+    description.replace(u'\n', QLatin1String("\n      "));
+    out << "  " << usageOf(c) << "\n      " << description << "\n\n";
+  }
+  for (const Option& option : kOptions) printOption(out, withValue(option), option.help);
+  printOption(out, QStringLiteral("--help"), "this text; behind a command, what is told of that");
+  printOption(out, QStringLiteral("--version"), "the version");
+  printExitCodes(out);
 }
 
 /// Says what is wrong with the command line, if anything is.
@@ -127,7 +187,7 @@ std::optional<OdString> parse(const Command& command, const QStringList& words,
     const Option* const option = findOption(command, word);
     if (!option) return QStringLiteral("unknown option %1").arg(word);
     if (option->value && ++i == words.size())
-      return QStringLiteral("%1 needs %2").arg(word, QLatin1String(option->value));
+      return QStringLiteral("%1 needs %2").arg(word, QLatin1String(option->need));
     const OdString wrong = option->take(arguments, option->value ? words[i] : OdString());
     if (!wrong.isEmpty()) return wrong;
   }
@@ -147,6 +207,11 @@ const Command* findCommand(const OdString& name) {
   return found == std::end(kCommands) ? nullptr : found;
 }
 
+bool asksForHelp(const QStringList& words) {
+  return words.contains(QLatin1String("--help")) || words.contains(QLatin1String("-h")) ||
+         words.value(0) == QLatin1String("help");
+}
+
 } // namespace
 
 bool makesPictures(const QStringList& arguments) {
@@ -156,15 +221,20 @@ bool makesPictures(const QStringList& arguments) {
 
 ExitCode runTool(const QStringList& words, Console& console) {
   const OdString first = words.isEmpty() ? OdString() : words.first();
-  if (words.contains(QLatin1String("--help")) || first == QLatin1String("-h")) {
-    printHelp(console.out);
+  const bool isHelp = asksForHelp(words);
+  const Command* const command =
+      findCommand(first == QLatin1String("help") ? words.value(1) : first);
+  if (isHelp) {
+    if (command)
+      printHelp(*command, console.out);
+    else
+      printHelp(console.out);
     return kOk;
   }
   if (first == QLatin1String("--version")) {
     console.out << "tpal " TPAL_VERSION "\n";
     return kOk;
   }
-  const Command* const command = findCommand(first);
   if (!command) {
     console.err << (first.isEmpty() ? QStringLiteral("tpal: a command is missing")
                                     : QStringLiteral("tpal: unknown command %1").arg(first))
@@ -173,7 +243,7 @@ ExitCode runTool(const QStringList& words, Console& console) {
   }
   Arguments arguments;
   if (const auto wrong = parse(*command, words.mid(1), arguments)) {
-    console.err << "tpal: " << *wrong << "; usage: tpal " << command->synopsis << "\n";
+    console.err << "tpal: " << *wrong << "; usage: " << usageOf(*command) << "\n";
     return kUsage;
   }
   return command->run(arguments, console);

@@ -73,6 +73,24 @@ TEST_F(SavingTest, APaletteThatCannotBeSavedSaysSoAndRemembersWhy) {
   EXPECT_EQ(palette->getDatabase()->saveProblem(), OdString());
 }
 
+TEST_F(SavingTest, APaletteThatIsSavedAtOnceIsThereAsItWasOrWhole) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  OdTcToolPalette* const palette = catalog->findPalette(u"A"_s);
+  palette->setName(u"Renamed"_s);
+  const QByteArray before = readFile(u"c\\Palettes\\a.dtc"_s);
+  {
+    FailingServices services;
+    services.bytesLeft = 10;
+    EXPECT_FALSE(palette->getDatabase()->saveAtOnce());
+  }
+  EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), before);
+  EXPECT_FALSE(exists(u"c\\Palettes\\a.dtc.new"_s));
+  EXPECT_TRUE(palette->getDatabase()->saveProblem().contains(u"No space left on device"_s));
+  EXPECT_TRUE(palette->getDatabase()->saveAtOnce());
+  EXPECT_TRUE(readFile(u"c\\Palettes\\a.dtc"_s).contains("Renamed"));
+  EXPECT_EQ(palette->getDatabase()->attachedCount(), 0);
+}
+
 TEST_F(SavingTest, AFailedSaveKeepsTheAttachedObjects) {
   const OdTcToolPalettePtr read = loadedPalette("<Tools><Tool/></Tools>");
   const int before = read->getDatabase()->attachedCount();

@@ -77,6 +77,18 @@ TEST_F(Images, ThatCannotBeWrittenAreNamedWithTheReasonAndThePaletteStays) {
   EXPECT_EQ(read(QStringLiteral("c/Palettes/Images")), QByteArray("mine"));
 }
 
+TEST_F(Images, AreNotMadeForAPaletteThatIsNotWritten) {
+  writeCatalog(blockTool("{1}", "Door", writeSource()));
+  // A folder stands where the new file is made ready.
+  QDir().mkpath(path(QStringLiteral("c/Palettes/p.dtc.new")));
+  EXPECT_EQ(images({kMissing}), tpal::kFailed);
+  EXPECT_FALSE(out().contains(QStringLiteral("made"))) << qPrintable(out());
+  EXPECT_TRUE(
+      out().contains(QStringLiteral("Door (block): lacks 16, 32, 64: the palette is not written")))
+      << qPrintable(out());
+  EXPECT_TRUE(err().contains(QStringLiteral("p.dtc: not written: "))) << qPrintable(err());
+}
+
 TEST_F(Images, ThatAreThereStayWhenOthersAreMade) {
   writeCatalog(blockTool("{1}", "Door", writeSource()));
   images({kMissing});
