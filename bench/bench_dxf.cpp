@@ -140,7 +140,7 @@ double memoryPerByte(const Drawing& drawing) {
   return static_cast<double>(after - before) / static_cast<double>(drawing.size);
 }
 
-std::string named(const char* what, int count) { return what + (" " + std::to_string(count)); }
+std::string named(const std::string& what, int count) { return what + ' ' + std::to_string(count); }
 
 } // namespace
 

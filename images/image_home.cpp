@@ -9,11 +9,14 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace tc {
 namespace {
 
 OdTcImageHome g_home;
+/// The paths of the palette files that images were read from; number 0 stands for none.
+std::vector<OdString> g_numbered(1);
 
 OdString joined(const OdString& folder, const OdString& src) {
   const bool isSeparated = src.startsWith(u'\\') || src.startsWith(u'/');
@@ -45,6 +48,19 @@ void setImageHome(const OdTcImageHome& home) { g_home = home; }
 OdString imageHomePath(const OdTcDatabase* database) {
   return database && g_home.pathOf ? g_home.pathOf(database) : OdString();
 }
+
+std::uint32_t imageHomeNumber(const OdString& palettePath) {
+  // Images come in runs from one file, so the last path is nearly always the one.
+  std::size_t number = g_numbered.size() - 1;
+  while (number > 0 && g_numbered[number] != palettePath) --number;
+  if (number == 0 && !palettePath.isEmpty()) {
+    number = g_numbered.size();
+    g_numbered.push_back(palettePath);
+  }
+  return static_cast<std::uint32_t>(number);
+}
+
+OdString numberedImageHome(std::uint32_t number) { return g_numbered[number]; }
 
 bool isBeingExported(const OdTcDatabase* database) {
   return g_home.isExporting && g_home.isExporting(database);

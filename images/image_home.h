@@ -5,6 +5,8 @@
 
 #include <QSet>
 
+#include <cstdint>
+
 namespace tc {
 
 class OdTcDatabase;
@@ -39,6 +41,11 @@ OdString imagePathBeside(const OdString& palettePath, const OdString& src);
 /// True if the picture lies in the folder of the palette file or below, and is no device. A `src`
 /// from a file can lead anywhere; nothing is written or deleted outside.
 bool isBelowPalette(const OdString& palettePath, const OdString& imagePath);
+
+/// A number for the path of a palette file that images are read from, kept for good; 0 for none.
+std::uint32_t imageHomeNumber(const OdString& palettePath);
+/// The path of that number.
+OdString numberedImageHome(std::uint32_t number);
 
 /// Tells the palette of a picture that could not be written with it.
 void noteUnsavedPicture(OdTcDatabase* database, const OdString& problem);

@@ -5,6 +5,7 @@
 #include "host/host_locator.h"
 #include "host/icon_service.h"
 #include "images/image_home.h"
+#include "images/image_list_impl.h"
 #include "images/picture_cache.h"
 #include "images/picture_file.h"
 #include "persistence/filer.h"
@@ -13,7 +14,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <vector>
 
 namespace tc {
 namespace {
@@ -23,26 +23,6 @@ constexpr QStringView kForeignButtons = u"acadbtn.xmx";
 constexpr QStringView kExchangeExtension = u".xtp";
 /// Buttons are never drawn larger, whatever a file asks for.
 constexpr int kMostButtonPixels = 1024;
-
-/// The paths of the palette files that images were read from; number 0 stands for none.
-class Homes {
- public:
-  std::uint32_t numberOf(const OdString& path) {
-    if (path.isEmpty()) return 0;
-    // Images come in runs from one file, so the last path is nearly always the one.
-    for (std::size_t i = m_paths.size(); i-- > 0;)
-      if (m_paths[i] == path) return static_cast<std::uint32_t>(i + 1);
-    m_paths.push_back(path);
-    return static_cast<std::uint32_t>(m_paths.size());
-  }
-  OdString path(std::uint32_t number) const {
-    return number == 0 ? OdString() : m_paths[number - 1];
-  }
-
- private:
-  std::vector<OdString> m_paths;
-};
-Homes g_homes;
 
 QImage scaledTo(const QImage& picture, int width, int height) {
   return picture.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -133,7 +113,7 @@ OdString OdTcImageImpl::fullPath() const {
     return m_decoded->fullPath;
   if (m_src.isEmpty() || isResource()) return {};
   for (const OdString& path :
-       {imagePathBeside(g_homes.path(m_home), src()), imageFilePath(database(), src())})
+       {imagePathBeside(numberedImageHome(m_home), src()), imageFilePath(database(), src())})
     if (!path.isEmpty() && system->fileExists(path)) return path;
   return {};
 }
@@ -217,12 +197,12 @@ bool OdTcImageImpl::readElements(OdTcFiler* filer) {
 
 void OdTcImageImpl::resolveAfterReading() {
   if (m_src.isEmpty() || !owner()) return;
-  const OdString palette = imageHomePath(database());
+  const auto* const list = dynamic_cast<const OdTcImageListImpl*>(owner());
+  m_home = list ? list->home() : imageHomeNumber(imageHomePath(database()));
+  const OdString palette = numberedImageHome(m_home);
   const qsizetype at = palette.indexOf(kExchangeExtension);
-  if (at < 0) {
-    m_home = g_homes.numberOf(palette);
-    return;
-  }
+  if (at < 0) return;
+  m_home = 0;
   // Pictures of an exchange file lie in the folder that is named like it.
   const OdString path = combinePath(src(), palette.left(at) + u'\\');
   if (isResource() || !odrxSystemServices()->fileExists(path)) return;
@@ -235,7 +215,7 @@ void OdTcImageImpl::saveBesidePalette() {
   const OdString palette = imageHomePath(database());
   const OdString path = imageFilePath(database(), src());
   // A picture that is not decoded and stays where it was read from needs no look at the disk.
-  if (!m_decoded && path == imagePathBeside(g_homes.path(m_home), src())) return;
+  if (!m_decoded && path == imagePathBeside(numberedImageHome(m_home), src())) return;
   if (path.isEmpty() || !isBelowPalette(palette, path)) return;
   OdRxSystemServices* const system = odrxSystemServices();
   if (isBeingExported(database())) {

@@ -7,21 +7,44 @@
 #include "persistence/filer.h"
 #include "properties/owned_part.h"
 
+#include <utility>
+
 namespace tc {
 
+// --- reading when asked for
+
+bool OdTcImageListImpl::readElements(OdTcFiler* filer) {
+  // Pictures that are asked for later still come from where the list was read from.
+  if (m_home == 0) m_home = imageHomeNumber(imageHomePath(database()));
+  m_deferred = filer->takeDeferred();
+  return !m_deferred.isEmpty() || OdTcPersistImpl::readElements(filer);
+}
+
+auto OdTcImageListImpl::images() -> Images& {
+  if (!m_deferred.isEmpty()) readDeferred(std::exchange(m_deferred, {}), this);
+  return m_images;
+}
+
+auto OdTcImageListImpl::images() const -> const Images& {
+  return const_cast<OdTcImageListImpl*>(this)->images();
+}
+
+// --- the pictures
+
 void OdTcImageListImpl::add(OdTcImage* image) {
-  if (image) m_images.push_back(adoptPart(OdTcImagePtr(image), this));
+  if (image) images().push_back(adoptPart(OdTcImagePtr(image), this));
 }
 
 void OdTcImageListImpl::removeAll(bool deleteFiles) {
   const QStringList files = deleteFiles ? pictureFiles() : QStringList();
+  m_deferred.clear();
   m_images.clear();
   if (!files.isEmpty()) removePictureFiles(database(), files);
 }
 
 QStringList OdTcImageListImpl::pictureFiles() const {
   QStringList files;
-  for (const OdTcImagePtr& image : m_images)
+  for (const OdTcImagePtr& image : images())
     if (const OdString path = image->isResource() ? OdString() : image->fullPath(); !path.isEmpty())
       files << path;
   return files;
@@ -29,11 +52,16 @@ QStringList OdTcImageListImpl::pictureFiles() const {
 
 OdTcEnumPtr<OdTcImage> OdTcImageListImpl::enumImages() const {
   using Enum = OdTcEnumImpl<OdTcImage, std::vector<OdTcImagePtr>>;
-  return odrxMake<Enum>(this, m_images);
+  return odrxMake<Enum>(this, images());
+}
+
+std::uint32_t OdTcImageListImpl::options() const {
+  images(); // among which it may stand as an element
+  return m_options;
 }
 
 OdTcImage* OdTcImageListImpl::findBySize(std::int32_t sizeKind) const {
-  for (const OdTcImagePtr& image : m_images)
+  for (const OdTcImagePtr& image : images())
     if (image->sizeKind() == sizeKind) return image;
   return nullptr;
 }
@@ -62,8 +90,8 @@ bool OdTcImageListImpl::setFrom(const std::function<bool(OdTcImage& image)>& mak
 }
 
 void OdTcImageListImpl::writeFields(OdTcFiler* filer) {
-  filer->writeAttribute(QStringLiteral("option"), OdString::number(m_options));
-  for (const OdTcImagePtr& image : m_images) filer->writeObject(image);
+  filer->writeAttribute(QStringLiteral("option"), OdString::number(options()));
+  for (const OdTcImagePtr& image : images()) filer->writeObject(image);
 }
 
 bool OdTcImageListImpl::readField(const OdString& name, const OdVariant& value) {
@@ -78,9 +106,9 @@ bool OdTcImageListImpl::readField(const OdString& name, const OdVariant& value) 
 
 OdRxObjectPtr OdTcImageListImpl::clone() const {
   auto copy = odrxMake<OdTcImageListImpl>();
-  copy->m_options = m_options;
+  copy->m_options = options();
   copy->m_images.reserve(m_images.size());
-  for (const OdTcImagePtr& image : m_images) copy->m_images.push_back(clonePart(image, copy));
+  for (const OdTcImagePtr& image : images()) copy->m_images.push_back(clonePart(image, copy));
   return copy;
 }
 

@@ -9,6 +9,7 @@
 
 namespace tc {
 
+/// Of a palette's pictures few are ever shown, so those of a file are read when they are asked for.
 class OdTcImageListImpl final : public OdTcPersistImpl<OdTcImageList> {
  public:
   OdString elementName() const override { return QStringLiteral("Images"); }
@@ -17,19 +18,31 @@ class OdTcImageListImpl final : public OdTcPersistImpl<OdTcImageList> {
   void removeAll(bool deleteFiles) override;
   OdTcEnumPtr<OdTcImage> enumImages() const override;
   OdTcImage* findBySize(std::int32_t sizeKind) const override;
-  int count() const override { return static_cast<int>(m_images.size()); }
-  std::uint32_t options() const override { return m_options; }
+  int count() const override { return static_cast<int>(images().size()); }
+  std::uint32_t options() const override;
   bool setFromFile(const OdString& path) override;
   bool setFrom(const std::function<bool(OdTcImage& image)>& make) override;
   QStringList pictureFiles() const override;
 
+  /// The number of the palette file that the list was read from; see imageHomeNumber().
+  std::uint32_t home() const { return m_home; }
+
+  bool readElements(OdTcFiler* filer) override;
   void writeFields(OdTcFiler* filer) override;
   bool readField(const OdString& name, const OdVariant& value) override;
   OdRxObjectPtr clone() const override;
 
  private:
-  std::vector<OdTcImagePtr> m_images;
+  using Images = std::vector<OdTcImagePtr>;
+
+  /// The pictures, read by now if they were not yet.
+  const Images& images() const;
+  Images& images();
+
+  Images m_images;
+  QByteArray m_deferred; ///< the markup of pictures that nobody has asked for yet
   std::uint32_t m_options = 0;
+  std::uint32_t m_home = 0;
 };
 
 } // namespace tc

@@ -52,9 +52,25 @@ void addRemark(OdString& remarks, const OdString& remark) {
   remarks += remark;
 }
 
+void scanInto(OdTcCheckedDocument& result, const QByteArray& text, const OdTcPassedOver* passedOver,
+              const OdTcDeferral& deferral) {
+  OdTcDocumentScanner scanner(text, passedOver, deferral);
+  const bool isWellFormed = scanner.scan();
+  if (!scanner.canDefer()) return scanInto(result, text, passedOver, {});
+  if (!isWellFormed) {
+    result.refusal = placed(text, scanner.failedAt(), scanner.failure());
+    return;
+  }
+  for (const OdTcDocumentScanner::Remark& remark : scanner.remarks())
+    addRemark(result.remark, placed(text, remark.offset, remark.text));
+  result.text = scanner.takeText();
+  result.deferred = scanner.takeDeferred();
+}
+
 } // namespace
 
-OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver) {
+OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver,
+                                  const OdTcDeferral& deferral) {
   OdTcCheckedDocument result;
   if (bytes.isEmpty()) {
     result.refusal = host::translate(QStringLiteral("the file is empty"));
@@ -76,15 +92,7 @@ OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passed
                      host::translate(QStringLiteral("bytes that are no UTF-8 (%1 in all)"))
                          .arg(repaired.badBytes)));
   bytes.clear();
-
-  OdTcDocumentScanner scanner(repaired.text, passedOver);
-  if (!scanner.scan()) {
-    result.refusal = placed(repaired.text, scanner.failedAt(), scanner.failure());
-    return result;
-  }
-  for (const OdTcDocumentScanner::Remark& remark : scanner.remarks())
-    addRemark(result.remark, placed(repaired.text, remark.offset, remark.text));
-  result.text = scanner.takeText();
+  scanInto(result, repaired.text, passedOver, deferral);
   return result;
 }
 

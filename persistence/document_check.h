@@ -4,7 +4,9 @@
 #include "frame/string.h"
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tc {
 
@@ -17,6 +19,13 @@ struct OdTcPassedOver {
   std::span<const std::string_view> unlessTheyHold;
 };
 
+/// Elements whose content is not parsed with the document, since of many it is never asked for.
+struct OdTcDeferral {
+  std::span<const std::string> elements;
+  /// In a document that has an element of this name, all is parsed at once.
+  std::string_view unlessThereIs;
+};
+
 /// What may be given to the parser.
 struct OdTcCheckedDocument {
   /// Valid UTF-8 without NUL, well-formed as far as nesting, tags, quotes and character references
@@ -26,6 +35,9 @@ struct OdTcCheckedDocument {
   OdString refusal;
   /// What was not taken as it stands, in words for the user; empty if all of it was.
   OdString remark;
+  /// The markup that was deferred, piece by piece. In the text, the number of the piece stands in
+  /// its place.
+  std::vector<QByteArray> deferred;
 };
 
 /// Elements nested deeper than this are refused: the parser, the reader, the printer and all that
@@ -47,6 +59,9 @@ inline constexpr qsizetype kMaxDocumentBytes = qsizetype{1} << 30;
 /// - What follows the last element is left out, with a remark.
 /// - What stands in an element that is passed over is checked like all else and then left out, from
 ///   its first child element on: the parser would make many small objects of it for nobody.
-OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver = nullptr);
+/// - What stands in an element that is deferred is checked as well. It is simple: elements with
+///   attributes and nothing else. If the content of one of them is not, nothing is deferred.
+OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver = nullptr,
+                                  const OdTcDeferral& deferral = {});
 
 } // namespace tc

@@ -1,10 +1,10 @@
 #include "persistence/document_scanner.h"
 
 #include "host/host_locator.h"
-#include "persistence/document_check.h"
 
 #include <algorithm>
 #include <cstring>
+#include <string>
 #include <utility>
 
 namespace tc {
@@ -53,13 +53,15 @@ OdString tr(const QString& text) { return host::translate(text); }
 
 } // namespace
 
-OdTcDocumentScanner::OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver)
+OdTcDocumentScanner::OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver,
+                                         const OdTcDeferral& deferral)
   : m_text(text)
   , m_begin(text.constData())
   , m_end(m_begin + text.size())
   , m_at(m_begin)
   , m_copied(m_begin)
-  , m_passedOver(passedOver) {}
+  , m_passedOver(passedOver)
+  , m_deferral(deferral) {}
 
 bool OdTcDocumentScanner::fail(const char* at, const OdString& why) {
   m_failure = why;
@@ -114,6 +116,7 @@ QByteArray OdTcDocumentScanner::takeText() {
 bool OdTcDocumentScanner::scanContent() {
   const char* const tag = findChar(m_at, m_end, '<');
   if (tag == m_end) return failUnclosed();
+  if (m_deferring && !std::all_of(m_at, tag, isBlank)) m_canDefer = false;
   checkReferences(m_at, tag);
   m_at = tag;
   return scanMarkup();
@@ -126,10 +129,12 @@ bool OdTcDocumentScanner::failUnclosed() {
 
 bool OdTcDocumentScanner::scanMarkup() {
   if (startsWith("</")) return scanEndTag();
+  const bool isElement = m_end - m_at > 1 && isNameStart(m_at[1]);
+  if (m_deferring && !isElement) m_canDefer = false;
   if (m_end - m_at >= 5 && qstrnicmp(m_at, "<?xml", 5) == 0) return cutDeclaration();
   if (startsWith("<!--")) return scanPast("-->", 4, u"the comment does not end");
   if (startsWith("<![CDATA[")) return scanPast("]]>", 9, u"the CDATA section does not end");
-  if (m_end - m_at > 1 && isNameStart(m_at[1])) {
+  if (isElement) {
     if (m_passedOver && !m_passage && isPassedOver()) beginPassingOver();
     return scanElement();
   }
@@ -184,6 +189,7 @@ bool OdTcDocumentScanner::scanEndTag() {
                 tr(QStringLiteral("the end of the element \"%1\" is broken")).arg(shortName(name)));
   ++m_at;
   if (m_passage && m_passage->depth == m_open.size()) endPassingOver(start);
+  if (m_deferring && m_deferring->depth == m_open.size()) endDeferring(start);
   m_open.pop_back();
   return true;
 }
@@ -194,7 +200,9 @@ bool OdTcDocumentScanner::scanElement() {
                 tr(QStringLiteral("elements are nested more than %1 deep")).arg(kMaxElementDepth));
   m_deepest = std::max(m_deepest, static_cast<int>(m_open.size()) + 1);
   ++m_at;
-  return scanAttributes(scanName());
+  const std::string_view name = scanName();
+  if (!m_deferral.elements.empty() && name == m_deferral.unlessThereIs) m_canDefer = false;
+  return scanAttributes(name);
 }
 
 bool OdTcDocumentScanner::scanAttributes(std::string_view name) {
@@ -204,6 +212,7 @@ bool OdTcDocumentScanner::scanAttributes(std::string_view name) {
     if (*m_at == '>') {
       ++m_at;
       m_open.push_back(name);
+      beginDeferring(name);
       return true;
     }
     if (*m_at == '/') {
@@ -302,18 +311,37 @@ bool OdTcDocumentScanner::isPassedOver() const {
          holds(m_open, m_passedOver->inside);
 }
 
-void OdTcDocumentScanner::beginPassingOver() {
-  m_passage = Passage{m_at, m_open.size(), m_mended.size(), m_copied};
-}
+void OdTcDocumentScanner::beginPassingOver() { m_passage = passageFromHere(); }
 
 void OdTcDocumentScanner::endPassingOver(const char* at) {
   const Passage passage = *std::exchange(m_passage, std::nullopt);
   const std::string_view inside = between(passage.from, at);
   for (const std::string_view text : m_passedOver->unlessTheyHold)
     if (inside.find(text) != std::string_view::npos) return;
+  replacePassage(passage, at, {});
+}
+
+void OdTcDocumentScanner::beginDeferring(std::string_view name) {
+  if (m_deferring) {
+    m_canDefer = false;
+    return;
+  }
+  const auto& names = m_deferral.elements;
+  if (std::find(names.begin(), names.end(), name) != names.end()) m_deferring = passageFromHere();
+}
+
+void OdTcDocumentScanner::endDeferring(const char* at) {
+  const Passage passage = *std::exchange(m_deferring, std::nullopt);
+  if (std::all_of(passage.from, at, isBlank)) return;
+  replacePassage(passage, at, std::to_string(m_deferred.size()));
+  m_deferred.emplace_back(passage.from, at - passage.from);
+}
+
+void OdTcDocumentScanner::replacePassage(const Passage& passage, const char* at,
+                                         std::string_view by) {
   m_mended.truncate(passage.mended);
   m_copied = passage.copied;
-  replace(passage.from, at, {});
+  replace(passage.from, at, by);
 }
 
 void OdTcDocumentScanner::replace(const char* at, const char* end, std::string_view by) {

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "frame/string.h"
+#include "persistence/document_check.h"
 
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tc {
-
-struct OdTcPassedOver;
 
 /// Reads tags, comments, CDATA sections and declarations as the parser does, and stops at the first
 /// thing that the parser would stumble over. What it has passed can be parsed in bounded depth.
@@ -20,8 +20,9 @@ class OdTcDocumentScanner {
     OdString text;
   };
 
-  /// `text` is valid UTF-8 without NUL. Both arguments must live as long.
-  explicit OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver = nullptr);
+  /// `text` is valid UTF-8 without NUL. It must live as long, as must what the others refer to.
+  explicit OdTcDocumentScanner(const QByteArray& text, const OdTcPassedOver* passedOver = nullptr,
+                               const OdTcDeferral& deferral = {});
 
   /// False if the document is not well-formed: see failure() and failedAt().
   bool scan();
@@ -34,6 +35,10 @@ class OdTcDocumentScanner {
   /// The text with its references put right and without what is passed over or follows
   /// the last element.
   QByteArray takeText();
+  /// False if the document turned out to be one of which nothing is to be deferred. The text is of
+  /// no use then.
+  bool canDefer() const { return m_canDefer; }
+  std::vector<QByteArray> takeDeferred() { return std::move(m_deferred); }
 
  private:
   bool fail(const char* at, const OdString& why);
@@ -60,6 +65,8 @@ class OdTcDocumentScanner {
   bool isPassedOver() const;
   void beginPassingOver();
   void endPassingOver(const char* at);
+  void beginDeferring(std::string_view name);
+  void endDeferring(const char* at);
   void replace(const char* at, const char* end, std::string_view by);
 
   const QByteArray& m_text;
@@ -73,15 +80,24 @@ class OdTcDocumentScanner {
   QByteArray m_mended;
   const char* m_copied;
 
-  /// Where something is passed over: how deep it stands, and what was mended before it.
+  /// What may come out of the text: where it begins, how deep it stands, and what was mended before
+  /// it.
   struct Passage {
     const char* from;
     std::size_t depth;
     qsizetype mended;
     const char* copied;
   };
+  Passage passageFromHere() const { return {m_at, m_open.size(), m_mended.size(), m_copied}; }
+  /// Puts `by` in the place of the text from the passage's beginning to `at`.
+  void replacePassage(const Passage& passage, const char* at, std::string_view by);
   const OdTcPassedOver* const m_passedOver;
   std::optional<Passage> m_passage;
+
+  const OdTcDeferral m_deferral;
+  std::optional<Passage> m_deferring;
+  bool m_canDefer = true;
+  std::vector<QByteArray> m_deferred;
 
   OdString m_failure;
   qsizetype m_failedAt = 0;

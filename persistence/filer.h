@@ -37,6 +37,10 @@ class OdTcFiler : public OdRxObject {
   virtual bool readAttributes(OdTcFieldMap& map) = 0;
   /// Makes and reads the object of the current element; null if no class has that element.
   virtual OdTcPersistPtr readObject(OdTcPersist* owner) = 0;
+  /// The markup that stands in the element of the object that is being read, if the element table
+  /// has it read when asked for: the object keeps it for readDeferred(). Empty if its content is to
+  /// be read here and now.
+  virtual QByteArray takeDeferred() = 0;
 
   /// Writes the object as a child of `parent`; null is passed over.
   virtual void writeObject(OdTcPersist* object) = 0;
@@ -79,6 +83,10 @@ OdTcFilerPtr makeForeignPaletteFiler(OdTcForeignContent& content);
 /// A filer that writes palettes in the form in which other programs exchange them. `imageFolder` is
 /// the name of the folder beside the file that holds the pictures. It reads like the former two.
 OdTcFilerPtr makeExchangeFiler(const OdString& imageFolder);
+
+/// Lets the object read its elements from markup that takeDeferred() gave. Nothing is told to the
+/// user: what there is to say of it was said when the document was read.
+void readDeferred(const QByteArray& markup, OdTcPersist* object);
 
 /// "TRUE" or "FALSE", "true" or "false", "1" or "0".
 enum class BoolStyle { kCapitals, kLower, kDigit };

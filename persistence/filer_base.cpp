@@ -1,7 +1,6 @@
 #include "persistence/filer_base.h"
 
 #include "host/host_locator.h"
-#include "persistence/document_check.h"
 #include "persistence/unread_original.h"
 
 #include <algorithm>
@@ -106,12 +105,16 @@ template <class T>
 bool OdTcFilerImplBase<T>::parse(OdStreamBuf* stream) {
   m_stream = stream;
   m_saving = false;
-  OdTcCheckedDocument checked;
   try {
-    checked = checkDocument(readAll(stream), passedOver());
+    return parseBytes(readAll(stream), deferral());
   } catch (const OdFileError& error) {
     return failed(error.reason());
   }
+}
+
+template <class T>
+bool OdTcFilerImplBase<T>::parseBytes(QByteArray bytes, const OdTcDeferral& deferral) {
+  OdTcCheckedDocument checked = checkDocument(std::move(bytes), passedOver(), deferral);
   if (!checked.refusal.isEmpty()) return failed(checked.refusal);
   const KeptWhiteSpace keptWhiteSpace;
   m_document.SetTabSize(0);
@@ -122,6 +125,7 @@ bool OdTcFilerImplBase<T>::parse(OdStreamBuf* stream) {
     return failed(complaint(checked.text));
   }
   m_problem = checked.remark;
+  m_deferred = std::move(checked.deferred);
   return true;
 }
 
@@ -237,6 +241,14 @@ OdTcPersistPtr OdTcFilerImplBase<T>::readObject(OdTcPersist* owner) {
   m_parent = outer;
   m_current = element->NextSiblingElement();
   return object;
+}
+
+template <class T>
+QByteArray OdTcFilerImplBase<T>::takeDeferred() {
+  // Where anything is deferred, the only text in such an element is the number of its piece.
+  if (m_deferred.empty() || !m_parent || m_current) return {};
+  const char* const number = m_parent->GetText();
+  return number ? std::exchange(m_deferred[std::stoul(number)], {}) : QByteArray();
 }
 
 template <class T>

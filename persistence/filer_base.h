@@ -1,6 +1,7 @@
 // What the filers of catalogs and palettes have in common.
 #pragma once
 
+#include "persistence/document_check.h"
 #include "persistence/element_table.h"
 #include "persistence/filer.h"
 #include "persistence/xml_text.h"
@@ -13,8 +14,6 @@
 #include <vector>
 
 namespace tc {
-
-struct OdTcPassedOver;
 
 /// Owns the document and the cursor in it. The filers differ in what they look for in a document,
 /// how they link objects to their owners and how they write numbers.
@@ -29,6 +28,7 @@ class OdTcFilerImplBase : public T {
   bool readElement(OdTcFieldMap& map) override;
   bool readAttributes(OdTcFieldMap& map) override;
   OdTcPersistPtr readObject(OdTcPersist* owner) override;
+  QByteArray takeDeferred() override;
 
   void writeObject(OdTcPersist* object) override;
   void writeAttributes(const OdTcFieldMap&) override {}
@@ -60,11 +60,15 @@ class OdTcFilerImplBase : public T {
   virtual OdTcNumberForm numberForm(const OdString& name) const = 0;
   /// Elements whose content is for nobody; null if there are none.
   virtual const OdTcPassedOver* passedOver() const { return nullptr; }
+  /// Elements whose content is left for later.
+  virtual OdTcDeferral deferral() const { return {}; }
   /// Called with an empty element that has ended the reading of the one around it.
   virtual void noteEmpty(const TiXmlElement& /*element*/) {}
 
   /// Reads and parses the stream; false, with the problem kept, if there is no document.
   bool parse(OdStreamBuf* stream);
+  /// The same with the bytes of a document.
+  bool parseBytes(QByteArray bytes, const OdTcDeferral& deferral);
   const TiXmlElement* rootElement() const { return m_document.RootElement(); }
   /// The first element of that name, the document's own included, or null.
   const TiXmlElement* findElement(const char* name) const;
@@ -104,6 +108,7 @@ class OdTcFilerImplBase : public T {
   std::unordered_map<std::string_view, Name> m_names;
   Name m_rareName;
   OdString m_problem;
+  std::vector<QByteArray> m_deferred;
 };
 
 extern template class OdTcFilerImplBase<OdTcFiler>;

@@ -16,6 +16,9 @@ constexpr CreateInfoName kCreateInfoNames[] = {
     {"Dimstyle", u"DimStyleCreateInfo"},
 };
 
+/// Begins what a palette that was exported elsewhere has beside its own element.
+constexpr const char* kContentFromElsewhere = "PaletteContent";
+
 void showUnreadable() {
   host::showMessage(host::translate(QStringLiteral("Error while reading tool palette file.")),
                     host::translate(QStringLiteral("Tool Palettes")), messagebox::kWarning);
@@ -53,6 +56,20 @@ bool OdTcPalettePropertiesFilerImpl::findPalette() {
   return m_current || failed(host::translate(QStringLiteral("its palette is empty")));
 }
 
+OdTcDeferral OdTcPalettePropertiesFilerImpl::deferral() const {
+  // Palettes from elsewhere are looked at from end to end while they are read.
+  if (m_foreign) return {};
+  return {OdTcElementTable::instance().deferredNames(), kContentFromElsewhere};
+}
+
+void OdTcPalettePropertiesFilerImpl::readPiece(const QByteArray& markup, OdTcPersist* object) {
+  if (!parseBytes("<Piece>" + markup + "</Piece>", {})) return;
+  m_parent = rootElement();
+  m_current = m_parent->FirstChildElement();
+  m_skipNames << QStringLiteral("Palette");
+  readRoot(object);
+}
+
 bool OdTcPalettePropertiesFilerImpl::read() {
   m_skipNames << QStringLiteral("Palette");
   const bool done = readRoot(m_root) && readBesideContent();
@@ -61,7 +78,7 @@ bool OdTcPalettePropertiesFilerImpl::read() {
 }
 
 bool OdTcPalettePropertiesFilerImpl::readBesideContent() {
-  const TiXmlElement* const content = findElement("PaletteContent");
+  const TiXmlElement* const content = findElement(kContentFromElsewhere);
   if (!content) return true;
   m_converted = true;
   m_parent = content->NextSiblingElement();
@@ -85,6 +102,10 @@ OdTcNumberForm OdTcPalettePropertiesFilerImpl::numberForm(const OdString& name) 
 
 void OdTcPalettePropertiesFilerImpl::writeAttributes(const OdTcFieldMap& map) {
   for (const auto& [name, value] : map) writeAttribute(name, value);
+}
+
+void readDeferred(const QByteArray& markup, OdTcPersist* object) {
+  odrxMake<OdTcPalettePropertiesFilerImpl>()->readPiece(markup, object);
 }
 
 OdTcFilerPtr makePaletteFiler() { return odrxMake<OdTcPalettePropertiesFilerImpl>(); }

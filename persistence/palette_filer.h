@@ -18,6 +18,8 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
 
   bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool saving) override;
   void writeAttributes(const OdTcFieldMap& map) override;
+  /// Reads the object's elements from a piece of a palette's document.
+  void readPiece(const QByteArray& markup, OdTcPersist* object);
 
  protected:
   OdString tableName(const TiXmlElement& element, const OdString& name) const override;
@@ -29,6 +31,7 @@ class OdTcPalettePropertiesFilerImpl : public OdTcFilerImplBase<OdTcFiler> {
   const OdTcPassedOver* passedOver() const override {
     return m_foreign ? &treesOfOthers() : nullptr;
   }
+  OdTcDeferral deferral() const override;
   void noteEmpty(const TiXmlElement& element) override {
     if (m_losses) m_losses->note(element);
   }

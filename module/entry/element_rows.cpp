@@ -40,6 +40,7 @@ namespace {
 struct Row {
   QStringView element;
   OdTcElementTable::Creator creator;
+  OdTcElementTable::Reading reading = OdTcElementTable::Reading::kAtOnce;
 };
 
 template <class Impl>
@@ -51,7 +52,7 @@ OdTcPersist* make() {
 // `ToolPalette` are what a catalog says of a palette; the palette itself is never made from here.
 constexpr Row kRows[] = {
     {u"Properties", make<OdTcPropertiesImpl>},
-    {u"Images", make<OdTcImageListImpl>},
+    {u"Images", make<OdTcImageListImpl>, OdTcElementTable::Reading::kWhenAskedFor},
     {u"Image", make<OdTcImageImpl>},
     {u"Tools", make<OdTcToolListImpl>},
     {u"Tool", make<OdTcToolImpl>},
@@ -122,7 +123,7 @@ constexpr Row kRows[] = {
 } // namespace
 
 void enterElementRows(OdTcElementTable& table) {
-  for (const Row& row : kRows) table.add(row.element.toString(), row.creator);
+  for (const Row& row : kRows) table.add(row.element.toString(), row.creator, row.reading);
 }
 
 } // namespace tc

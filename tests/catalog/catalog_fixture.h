@@ -10,6 +10,7 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "support/failing_services.h"
+#include "support/held_clock.h"
 #include "support/module_fixture.h"
 
 #include <QDir>
@@ -45,6 +46,9 @@ QStringList namesOf(const OdTcEnumPtr<T>& items) {
 
 class CatalogFixture : public ModuleFixture {
  protected:
+  /// What is saved twice is the same twice.
+  HeldClock clock{1700000000};
+
   CatalogFixture() { host().application.userFolder = stored(u"user"_s); }
 
   /// The stored path of a file below the test's folder.

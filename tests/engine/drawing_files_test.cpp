@@ -6,6 +6,7 @@
 #include "engine/support/engine_fixture.h"
 #include "engine/support/test_commands.h"
 #include "frame/file_path.h"
+#include "support/held_clock.h"
 
 #include <QDir>
 #include <QFile>
@@ -292,14 +293,6 @@ TEST_F(DrawingFilesTest, AFolderIsNoDrawing) {
 
 namespace {
 
-/// The clock stands still while this is there; hands may be moved.
-class HeldClock {
- public:
-  explicit HeldClock(qint64 seconds) { moveTo(seconds); }
-  ~HeldClock() { qunsetenv("SOURCE_DATE_EPOCH"); }
-  void moveTo(qint64 seconds) { qputenv("SOURCE_DATE_EPOCH", QByteArray::number(seconds)); }
-};
-
 constexpr double kDay = 24 * 60 * 60;
 /// The last evening of 1999, 21:58:35.
 constexpr qint64 kEvening = 946677515;
@@ -308,7 +301,7 @@ constexpr double kEveningInDays = 2451544.91568287;
 } // namespace
 
 TEST_F(DrawingFilesTest, TimesOfADrawingAreToldWhenItIsSaved) {
-  HeldClock clock(kEvening);
+  testhost::HeldClock clock(kEvening);
   type(QStringLiteral("NewDocument\n"));
   draw();
   clock.moveTo(kEvening + 3600);
@@ -340,7 +333,7 @@ TEST_F(DrawingFilesTest, TimesOfADrawingAreToldWhenItIsSaved) {
 }
 
 TEST_F(DrawingFilesTest, TimesAreNoChangeThatIsUndone) {
-  HeldClock clock(kEvening);
+  testhost::HeldClock clock(kEvening);
   draw();
   EXPECT_FALSE(database().writeDxf().contains("$TD")) << "only files tell times";
   const std::size_t steps = database().undoDepth();

@@ -259,6 +259,80 @@ TEST(DocumentCheck, RefusesWhatIsBrokenWhereItIsPassedOver) {
   EXPECT_EQ(remarked.text.toStdString(), "<P><D></D></P>");
 }
 
+struct Deferred {
+  QByteArray bytes;
+  QByteArray left;
+  std::vector<QByteArray> pieces;
+};
+
+TEST(DocumentCheck, HandsOutWhatStandsInElementsThatAreDeferred) {
+  const Deferred cases[] = {
+      {"<P><I a=\"1\"><x b=\"2\"/></I><c/></P>", "<P><I a=\"1\">0</I><c/></P>", {"<x b=\"2\"/>"}},
+      {"<P><I><x/>\n<y/></I><a><J><x/></J></a></P>",
+       "<P><I>0</I><a><J>1</J></a></P>",
+       {"<x/>\n<y/>", "<x/>"}},
+      {"<I>\t<x/>\n</I>", "<I>0</I>", {"\t<x/>\n"}},
+      // References are put right outside of them, and stay as they are inside.
+      {"<P>a & b<I><x c=\"&uuml; &amp; d & e\"/></I>f & g</P>",
+       "<P>a &amp; b<I>0</I>f &amp; g</P>",
+       {"<x c=\"&uuml; &amp; d & e\"/>"}},
+      // Nothing to read, and other names.
+      {"<P><I/><I a=\"1\"></I><I> \n </I></P>", "<P><I/><I a=\"1\"></I><I> \n </I></P>", {}},
+      {"<P><i><x/></i><II><x/></II></P>", "<P><i><x/></i><II><x/></II></P>", {}},
+  };
+  const std::string elements[] = {"J", "I"};
+  for (const Deferred& c : cases) {
+    const OdTcCheckedDocument checked = checkDocument(c.bytes, nullptr, {elements, "E"});
+    EXPECT_EQ(checked.refusal.toStdString(), "") << c.bytes.toStdString();
+    EXPECT_EQ(checked.text.toStdString(), c.left.toStdString());
+    EXPECT_EQ(checked.deferred, c.pieces) << c.bytes.toStdString();
+  }
+}
+
+TEST(DocumentCheck, DefersNothingIfOnePieceIsMoreThanElementsWithAttributes) {
+  const std::string elements[] = {"I"};
+  const QByteArray odd[] = {
+      "<I>1</I>",
+      "<I><x/>1</I>",
+      "<I>0<x/></I>",
+      "<I><x></x></I>",
+      "<I><x>1</x></I>",
+      "<I><x><y/></x></I>",
+      "<I><I><x/></I></I>",
+      "<I><!-- --><x/></I>",
+      "<I><![CDATA[1]]></I>",
+      "<I><?xml?><x/></I>",
+      "<I><?x?></I>",
+      "<I>\xC2\xA0<x/></I>",
+      "<E/>",
+      "<a><E b=\"1\">c</E></a>",
+  };
+  for (const QByteArray& content : odd)
+    for (const QByteArray& document :
+         {"<P><I><z/></I>" + content + "</P>", "<P>" + content + "<I><z/></I></P>"}) {
+      const OdTcCheckedDocument checked = checkDocument(document, nullptr, {elements, "E"});
+      EXPECT_TRUE(checked.deferred.empty()) << document.toStdString();
+      EXPECT_EQ(checked.text, checkDocument(document).text);
+      EXPECT_EQ(checked.refusal.toStdString(), "") << document.toStdString();
+      EXPECT_EQ(checked.remark, checkDocument(document).remark);
+    }
+}
+
+TEST(DocumentCheck, RefusesWhatIsBrokenWhereItIsDeferred) {
+  const std::string elements[] = {"I"};
+  for (const char* const document :
+       {"<P><I><x></I></P>", "<P><I><x/>", "<P><I><x y/></I></P>", "<P><I><x/></P></I>",
+        "<P><I>1</I><I><x></I></P>", "<P><I><x/></I"}) {
+    const OdTcCheckedDocument checked = checkDocument(document, nullptr, {elements, "E"});
+    EXPECT_NE(checked.refusal.toStdString(), "") << document;
+    EXPECT_EQ(checked.refusal, checkDocument(document).refusal) << document;
+    EXPECT_TRUE(checked.deferred.empty()) << document;
+  }
+  const OdTcCheckedDocument remarked =
+      checkDocument("<P>\n<I><x y=\"&uuml;\"/></I></P>", nullptr, {elements, "E"});
+  EXPECT_TRUE(remarked.remark.contains(QStringLiteral("line 2"))) << remarked.remark.toStdString();
+}
+
 TEST(DocumentCheck, OfDynamicBlocksTheParserSeesNothingButTheirTools) {
   const QByteArray tree = "<Dictionary handle=\"1\"><Xrecord><Resbuf code=\"70\">12</Resbuf>"
                           "</Xrecord></Dictionary>";

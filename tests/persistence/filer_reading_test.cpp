@@ -1,3 +1,4 @@
+#include "persistence/foreign_content.h"
 #include "persistence/stored_record.h"
 #include "support/test_host.h"
 
@@ -145,6 +146,59 @@ TEST_F(FilerReading, ReadsAPlainPaletteInOnePass) {
 
 TEST_F(FilerReading, NeverMakesALoaderInAPalette) {
   EXPECT_EQ(paletteLog("<Palette ID=\"p\"/><Box/>"), "ID=p Box{}");
+}
+
+LateRecord& lateIn(const Record& record) {
+  return dynamic_cast<LateRecord&>(*record.child(QStringLiteral("Late")));
+}
+
+TEST_F(FilerReading, LeavesWhatIsReadWhenAskedForUntilThen) {
+  const Reading reading =
+      readPalette("<Palette><Late a=\"1\"><Node b=\"2\"/><c d=\"&lt;3\"/></Late>"
+                  "<Box><Late><Node e=\"4\"/></Late></Box><Late/><T>5</T></Palette>");
+  EXPECT_EQ(reading.root->log(), QStringLiteral("Late{a=1} Box{Late{}} Late{} T=5"));
+  LateRecord& first = lateIn(*reading.root);
+  LateRecord& second = lateIn(*reading.root->child(QStringLiteral("Box")));
+  second.read();
+  first.read();
+  EXPECT_EQ(reading.root->log(),
+            QStringLiteral("Late{a=1 Node{b=2} d=<3} Box{Late{Node{e=4}}} Late{} T=5"));
+  EXPECT_EQ(first.child(QStringLiteral("Node"))->owner(), &first);
+}
+
+TEST_F(FilerReading, NeverMakesALoaderOfWhatIsReadLater) {
+  const Reading reading = readPalette("<Palette><Late><Palette ID=\"p\"/></Late></Palette>");
+  lateIn(*reading.root).read();
+  EXPECT_EQ(reading.root->log(), QStringLiteral("Late{ID=p}"));
+}
+
+TEST_F(FilerReading, ReadsAllAtOnceWhereAPieceIsNotSimple) {
+  EXPECT_EQ(paletteLog("<Late><Node/></Late><Late>0</Late><Late><Node>1</Node></Late>"),
+            "Late{Node{}} Late{} Late{Node{}}");
+  EXPECT_EQ(paletteLog("<Late><Node a=\"1\"><Box/></Node></Late>"), "Late{Node{a=1 Box{}}}");
+}
+
+TEST_F(FilerReading, ReadsAllOfACatalogAndOfAForeignPaletteAtOnce) {
+  const char* const content = "<Late><Node a=\"1\"/></Late>";
+  EXPECT_EQ(catalogLog(content), "Late{Node{a=1}}");
+  EXPECT_EQ(paletteLog((std::string(content) + "<PaletteContent/>").c_str()), "Late{Node{a=1}}");
+  useRecords();
+  OdTcForeignContent foreign;
+  const auto root = odrxMake<RootRecord>();
+  const QByteArray document = QByteArray("<Palette>") + content + "</Palette>";
+  ASSERT_TRUE(makeForeignPaletteFiler(foreign)->openPalette(odrxMake<OdMemoryStream>(document),
+                                                            root, false));
+  EXPECT_EQ(root->log(), QStringLiteral("Late{Node{a=1}}"));
+}
+
+TEST_F(FilerReading, TellsOfWhatIsReadLaterOnceAndWhenItIsRead) {
+  const Reading reading =
+      readPalette("<Palette><Late><Node a=\"&uuml;\"/></Late><T>1</T></Palette>");
+  EXPECT_TRUE(reading.problem.contains(QStringLiteral("&uuml;"))) << reading.problem.toStdString();
+  testhost::host().log.clear();
+  lateIn(*reading.root).read();
+  EXPECT_TRUE(testhost::host().log.isEmpty());
+  EXPECT_EQ(reading.root->log(), QStringLiteral("Late{Node{a=&uuml;}} T=1"));
 }
 
 TEST_F(FilerReading, ReadsWhatStandsBesideThePaletteContent) {

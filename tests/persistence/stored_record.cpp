@@ -31,8 +31,11 @@ RECORD_ELEMENT(LineTypeCreateInfo);
 RECORD_ELEMENT(DimStyleCreateInfo);
 #undef RECORD_ELEMENT
 
+OdTcPersist* makeLate() { return new LateRecord(QStringLiteral("Late")); }
+
 template <const char16_t*... Elements>
 void buildTable(OdTcElementTable& table) {
+  table.add(QStringLiteral("Late"), &makeLate, OdTcElementTable::Reading::kWhenAskedFor);
   (table.add(OdString::fromUtf16(Elements), &makeRecord<Elements>), ...);
 }
 

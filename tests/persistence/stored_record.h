@@ -42,6 +42,20 @@ class Record : public OdTcPersistImpl<OdTcPersist> {
   Writer m_writer;
 };
 
+/// A record that is read when read() is called.
+class LateRecord : public Record {
+ public:
+  using Record::Record;
+
+  bool readElements(OdTcFiler* filer) override {
+    deferred = filer->takeDeferred();
+    return !deferred.isEmpty() || Record::readElements(filer);
+  }
+  void read() { readDeferred(deferred, this); }
+
+  QByteArray deferred;
+};
+
 /// A record that is registered as the root of palette documents.
 class RootRecord : public Record {
   ODRX_DECLARE_MEMBERS(RootRecord);
@@ -65,7 +79,7 @@ QByteArray writeCatalog(const Record::Writer& writer);
 QByteArray writePalette(const Record::Writer& writer);
 
 /// Registers the classes, and the elements Box, Node, Image, Tool, Palette and Data with the create
-/// infos; in force for the life of the program.
+/// infos, and Late as one that is read when asked for; in force for the life of the program.
 void useRecords();
 
 } // namespace tc::test
