@@ -1,18 +1,15 @@
 // What an import is asked to do, and what became of everything in the file.
 #pragma once
 
-#include "frame/string.h"
+#include "catalog/folder_map.h"
 
-#include <utility>
 #include <vector>
 
 namespace tc {
 
 /// How a palette is to come in.
 struct OdTcImportOptions {
-  /// Folders at the start of source paths and what takes their place, in order; the first that fits
-  /// counts. Compared without regard to case and to the kind of separator.
-  std::vector<std::pair<OdString, OdString>> folderMap;
+  OdTcFolderMap folderMap; ///< where the sources of tools lie now
   /// The top-level group that is to hold the palette; made if it is not there. Empty: none.
   OdString group;
   /// Makes command tools of tools whose record holds nothing but a macro.

@@ -1,5 +1,6 @@
 #include "catalog/import_review.h"
 
+#include "catalog/folder_map.h"
 #include "catalog/inside_folder.h"
 #include "catalog/tool_palette_impl.h"
 #include "frame/file_path.h"
@@ -88,27 +89,6 @@ void reviewMissingAgent(OdTcToolImpl& tool, const OdTcForeignTool& foreign, bool
   row.reason = translated(u"the macro in its record \"%1\" is now a command").arg(foreign.record);
 }
 
-/// The rest of the path behind the folder; nothing if the path does not lie in it.
-bool liesIn(const OdString& path, const OdString& folder, OdString& rest) {
-  OdString beginning = odpath::fromPlatform(folder);
-  while (beginning.endsWith(u'\\')) beginning.chop(1);
-  const OdString stored = odpath::fromPlatform(path);
-  if (beginning.isEmpty() || !stored.startsWith(beginning, Qt::CaseInsensitive)) return false;
-  rest = stored.mid(beginning.size());
-  return rest.isEmpty() || rest.startsWith(u'\\');
-}
-
-OdString mapped(const OdString& path, const OdTcImportOptions& options) {
-  OdString rest;
-  for (const auto& [from, to] : options.folderMap) {
-    if (!liesIn(path, from, rest)) continue;
-    OdString target = odpath::fromPlatform(to);
-    while (target.endsWith(u'\\')) target.chop(1);
-    return target + rest;
-  }
-  return path;
-}
-
 /// Where a file lies indeed, if links on its way lead out of the folder; empty if they do not.
 OdString placeBehindLinks(const OdString& file, const OdString& folder) {
   const OdString real = QFileInfo(odpath::toPlatform(file)).canonicalFilePath();
@@ -139,7 +119,7 @@ void reviewSource(OdTcTool& tool, const OdTcImportOptions& options, const OdStri
   if (path.isEmpty()) return;
   // A pattern file without a folder is one of the host's own.
   if (odpath::fileNameOf(path) == path && agent->isKindOf(OdTcToolHatchCommand::desc())) return;
-  row.sourceFile = mapped(path, options);
+  row.sourceFile = movedPath(path, options.folderMap).value_or(path);
   if (row.sourceFile != path) agent->setSourcePath(row.sourceFile);
   if (const OdString why = whyNotLookedFor(row.sourceFile); !why.isEmpty()) {
     row.source = OdTcSourceFate::kRefused;

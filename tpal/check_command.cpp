@@ -6,13 +6,37 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <map>
+
 namespace tpal {
+namespace {
+
+bool isAmong(const QStringList& words, FindingKind kind) {
+  return std::ranges::any_of(words, [&](const OdString& word) { return findKind(word) == kind; });
+}
+
+bool isWanted(const Arguments& arguments, FindingKind kind) {
+  return (arguments.only.isEmpty() || isAmong(arguments.only, kind)) &&
+         !isAmong(arguments.ignored, kind);
+}
+
+/// How many of each kind, beside the result: a long list hides the rare ones.
+void printCounts(const std::vector<Finding>& findings, QTextStream& err) {
+  std::map<FindingKind, int> counts;
+  for (const Finding& f : findings) ++counts[f.kind];
+  for (const auto& [kind, count] : counts)
+    err << "tpal: " << codeOf(kind) << " " << wordOf(kind) << ": " << count << "\n";
+}
+
+} // namespace
 
 ExitCode checkCommand(const Arguments& arguments, Console& console) {
   const ModuleClasses classes;
   std::vector<Finding> findings;
   for (const OdString& folder : arguments.words)
-    for (Finding& finding : examine(loadCatalog(folder))) findings.push_back(std::move(finding));
+    for (Finding& finding : examine(loadCatalog(folder)))
+      if (isWanted(arguments, finding.kind)) findings.push_back(std::move(finding));
 
   if (arguments.json) {
     QJsonArray rows;
@@ -27,6 +51,8 @@ ExitCode checkCommand(const Arguments& arguments, Console& console) {
       console.out << f.file << ": " << codeOf(f.kind) << " " << wordOf(f.kind) << ": " << f.text
                   << "\n";
   }
+  console.out.flush();
+  printCounts(findings, console.err);
   return findings.empty() ? kOk : kFindings;
 }
 

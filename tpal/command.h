@@ -1,12 +1,9 @@
 // What a command of the catalog tool is.
 #pragma once
 
-#include "frame/string.h"
+#include "catalog/folder_map.h"
 
 #include <QTextStream>
-
-#include <utility>
-#include <vector>
 
 namespace tpal {
 
@@ -20,12 +17,14 @@ enum ExitCode {
 
 /// A parsed command line.
 struct Arguments {
-  QStringList words; ///< what is no option: folders and files
-  OdString to;       ///< --to
-  OdString into;     ///< --into
-  OdString group;    ///< --group
+  QStringList words;   ///< what is no option: folders and files
+  OdString to;         ///< --to
+  OdString into;       ///< --into
+  OdString group;      ///< --group
+  QStringList only;    ///< --only, codes or words of findings
+  QStringList ignored; ///< --ignore, the same
   /// --map, in the order of the command line
-  std::vector<std::pair<OdString, OdString>> map;
+  tc::OdTcFolderMap map;
   bool json = false;            ///< --json
   bool dryRun = false;          ///< --dry-run
   bool convertCommands = false; ///< --convert-commands
@@ -59,6 +58,7 @@ struct Command {
 ExitCode listCommand(const Arguments& arguments, Console& console);
 ExitCode checkCommand(const Arguments& arguments, Console& console);
 ExitCode resaveCommand(const Arguments& arguments, Console& console);
+ExitCode relocateCommand(const Arguments& arguments, Console& console);
 ExitCode importCommand(const Arguments& arguments, Console& console);
 ExitCode imagesCommand(const Arguments& arguments, Console& console);
 ExitCode exportCommand(const Arguments& arguments, Console& console);

@@ -11,6 +11,7 @@
 #include "tools/hatch_tool.h"
 #include "tools/host_patterns.h"
 #include "tools/tool_source.h"
+#include "tpal/other_spelling.h"
 
 #include <QHash>
 #include <QSet>
@@ -37,6 +38,7 @@ constexpr KindText kKindTexts[] = {
     {FindingKind::kSourceElsewhere, "C108", "source-elsewhere"},
     {FindingKind::kUnknownPattern, "C109", "unknown-pattern"},
     {FindingKind::kUnusedPicture, "C110", "unused-picture"},
+    {FindingKind::kUnlistedPalette, "C111", "unlisted-palette"},
 };
 
 /// The type of hatch tools whose pattern stands in a file of its own.
@@ -61,6 +63,7 @@ class Examination {
     checkLoaders();
     forEach(m_catalog.groupsEnum(), [&](tc::OdTcCatalogItem* group) { checkGroup(*group); });
     for (const tc::OdTcToolPalette* palette : palettesOf(m_catalog)) checkPalette(*palette);
+    checkUnlistedPalettes();
     checkUnusedPictures();
     return std::move(m_findings);
   }
@@ -91,8 +94,23 @@ class Examination {
       // A folder in the file's place stands among the palettes, as one that cannot be read.
       if (!odrxSystemServices()->fileExists(file) && !odrxSystemServices()->folderExists(file))
         add(FindingKind::kMissingPalette, m_catalogFile,
-            QStringLiteral("palette \"%1\": there is no file %2").arg(loader->name(), file));
+            QStringLiteral("palette \"%1\": there is no file %2").arg(loader->name(), file) +
+                m_spelling.hint(file));
+      m_listed << tc::pictureFileKey(file);
     });
+  }
+
+  /// Palettes of which the catalog does not know, left by a run that was ended from outside, by two
+  /// programs that wrote the catalog at once, or by hand.
+  void checkUnlistedPalettes() {
+    const OdString folder = odpath::folderOf(m_catalogFile) + QLatin1String("\\Palettes");
+    for (const OdString& name : odrxSystemServices()->filesIn(folder)) {
+      const OdString path = folder + u'\\' + name;
+      if (odpath::extensionOf(name) == QLatin1String("dtc") &&
+          !m_listed.contains(tc::pictureFileKey(path)))
+        add(FindingKind::kUnlistedPalette, path,
+            QStringLiteral("the catalog does not name this palette, nobody sees its tools"));
+    }
   }
 
   void checkGroup(const tc::OdTcCatalogItem& group) {
@@ -106,8 +124,13 @@ class Examination {
       else if (!reference->resolve())
         add(FindingKind::kDanglingReference, m_catalogFile,
             QStringLiteral("group \"%1\" refers to the palette %2, which is not here")
-                .arg(group.name(), reference->id()));
+                .arg(group.name(), inWords(*reference)));
     });
+  }
+
+  OdString inWords(const tc::OdTcPaletteSoftRef& reference) const {
+    const OdString name = paletteName(m_catalog, reference.id());
+    return name.isEmpty() ? reference.id() : QStringLiteral("\"%1\" %2").arg(name, reference.id());
   }
 
   void checkPalette(const tc::OdTcToolPalette& palette) {
@@ -166,7 +189,8 @@ class Examination {
     if (!odpath::isRelative(source)) {
       if (!odrxSystemServices()->fileExists(source))
         add(FindingKind::kUnresolvedPath, file,
-            QStringLiteral("tool \"%1\": there is no file %2").arg(tool.name(), source));
+            QStringLiteral("tool \"%1\": there is no file %2").arg(tool.name(), source) +
+                m_spelling.hint(source));
     } else if (odrxCast<tc::OdTcToolRasterCommand>(&agent)) {
       add(FindingKind::kSourceElsewhere, file,
           QStringLiteral("tool \"%1\": %2 is not beside the palette: the tool works in drawings "
@@ -210,7 +234,8 @@ class Examination {
       const OdString path = tc::combinePath(image->src(), file);
       if (!odrxSystemServices()->fileExists(path))
         add(FindingKind::kMissingPicture, file,
-            QStringLiteral("tool \"%1\": there is no picture %2").arg(tool.name(), path));
+            QStringLiteral("tool \"%1\": there is no picture %2").arg(tool.name(), path) +
+                m_spelling.hint(path));
     });
   }
 
@@ -218,11 +243,20 @@ class Examination {
   OdString m_catalogFile;
   QHash<OdString, OdString> m_ids;
   QSet<OdString> m_usedPictures; ///< keys of files
+  OtherSpelling m_spelling;
+  QSet<OdString> m_listed; ///< of palettes
   bool m_isUnread = false;
   std::vector<Finding> m_findings;
 };
 
 } // namespace
+
+std::optional<FindingKind> findKind(const OdString& codeOrWord) {
+  for (const KindText& row : kKindTexts)
+    if (codeOrWord == QLatin1String(row.code) || codeOrWord == QLatin1String(row.word))
+      return row.kind;
+  return std::nullopt;
+}
 
 OdString codeOf(FindingKind kind) { return QLatin1String(textOf(kind).code); }
 OdString wordOf(FindingKind kind) { return QLatin1String(textOf(kind).word); }

@@ -3,6 +3,7 @@
 
 #include "tpal/loaded_catalog.h"
 
+#include <optional>
 #include <vector>
 
 namespace tpal {
@@ -21,10 +22,13 @@ enum class FindingKind {
   kSourceElsewhere,
   kUnknownPattern,
   kUnusedPicture,
+  kUnlistedPalette,
 };
 
 /// The code of a kind, such as "C101".
 OdString codeOf(FindingKind kind);
+/// The kind of a code or of a word; nothing if it is neither.
+std::optional<FindingKind> findKind(const OdString& codeOrWord);
 /// The kind in a few words that do not change, such as "missing-palette".
 OdString wordOf(FindingKind kind);
 

@@ -26,12 +26,6 @@ tc::OdTcForeignPalettes palettesIn(const QStringList& words) {
   return found;
 }
 
-/// A folder of the user's shell, where it is: the palettes go elsewhere.
-OdString placeOf(const OdString& folder) {
-  if (!odpath::isRelative(folder) || folder.startsWith(u'%')) return folder;
-  return odpath::fromPlatform(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
-}
-
 bool hasSomethingLeftOut(const tc::OdTcImportReport& report) {
   return std::any_of(report.tools.begin(), report.tools.end(), [](const tc::OdTcImportedTool& t) {
     return t.fate == tc::OdTcToolFate::kSkipped || t.picture >= tc::OdTcPictureFate::kRefused ||
@@ -42,7 +36,7 @@ bool hasSomethingLeftOut(const tc::OdTcImportReport& report) {
 
 tc::OdTcImportOptions optionsOf(const Arguments& arguments) {
   tc::OdTcImportOptions options;
-  for (const auto& [from, to] : arguments.map) options.folderMap.emplace_back(from, placeOf(to));
+  options.folderMap = arguments.map;
   options.group = arguments.group;
   options.convertCommands = arguments.convertCommands;
   options.dryRun = arguments.dryRun;

@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
+
 namespace tpal {
 namespace {
 
@@ -60,7 +62,9 @@ class TreeBuilder {
         m_grouped.insert(palette->id());
         children.append(paletteNode(*palette));
       } else {
-        children.append(nodeOf("missing palette", *reference));
+        QJsonObject missing = nodeOf("missing palette", *reference);
+        missing.insert(QStringLiteral("name"), paletteName(m_catalog, reference->id()));
+        children.append(missing);
       }
     });
     QJsonObject node = nodeOf("group", group);
@@ -104,6 +108,8 @@ ExitCode listCommand(const Arguments& arguments, Console& console) {
       result = kFailed;
       continue;
     }
+    // Something of this catalog is not shown.
+    if (!loaded.messages.isEmpty()) result = std::max(result, kFindings);
     trees.append(TreeBuilder(*loaded.catalog).build(loaded.file));
   }
   if (arguments.json)

@@ -107,6 +107,11 @@ std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog) {
   return palettes;
 }
 
+OdString paletteName(const tc::OdTcCatalog& catalog, const OdString& id) {
+  const tc::OdTcCatalogItem* const loader = catalog.loaders()->find(id);
+  return loader ? loader->name() : OdString();
+}
+
 tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word,
                                  OdString& problem) {
   if (tc::OdTcToolPalette* const byId = catalog.findPalette(word)) return byId;

@@ -45,6 +45,9 @@ ToolSummary summarize(const tc::OdTcTool& tool);
 std::vector<tc::OdTcToolPalette*> palettesOf(const tc::OdTcCatalog& catalog);
 std::vector<tc::OdTcTool*> toolsOf(const tc::OdTcToolPalette& palette);
 
+/// The name of a palette of which the catalog may know no more than its entry; empty if it has
+/// none.
+OdString paletteName(const tc::OdTcCatalog& catalog, const OdString& id);
 /// The palette of that id or, failing that, of that name. Null with the reason in `problem` if
 /// there is none, or, of a name, more than one.
 tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString& word,

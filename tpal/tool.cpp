@@ -1,4 +1,8 @@
+#include "frame/file_path.h"
 #include "tpal/command.h"
+#include "tpal/finding.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <optional>
@@ -16,10 +20,15 @@ constexpr Command kCommands[] = {
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
      "references, ids that stand twice, tools that do nothing, paths that lead nowhere, unknown\n"
      "patterns, and files of palettes and pictures that belong to nothing.",
-     "--json ", 1, kAnyNumber, true, checkCommand},
+     "--only --ignore --json ", 1, kAnyNumber, true, checkCommand},
     {"resave", "resave DIR",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
      "--to --drop-missing --wait --json ", 1, 1, false, resaveCommand},
+    {"relocate", "relocate DIR",
+     "Lets the tools of a catalog find their source files in folders that have moved. Says of "
+     "each\n"
+     "tool where it looks from now on, and whether the file is there.",
+     "--map --dry-run --wait --json ", 1, 1, false, relocateCommand},
     {"import", "import FILE...",
      "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
      "its\n"
@@ -65,10 +74,16 @@ OdString takeSwitch(Arguments& arguments, const OdString&) {
   return {};
 }
 
+/// A folder of the user's shell, where it is: what it goes into lies elsewhere.
+OdString placeOf(const OdString& folder) {
+  if (!odpath::isRelative(folder) || folder.startsWith(u'%')) return folder;
+  return odpath::fromPlatform(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
+}
+
 OdString takeMap(Arguments& arguments, const OdString& value) {
   const qsizetype at = value.indexOf(u'=');
   if (at <= 0) return QStringLiteral("--map needs OLD=NEW, not \"%1\"").arg(value);
-  arguments.map.emplace_back(value.left(at), value.mid(at + 1));
+  arguments.map.emplace_back(value.left(at), placeOf(value.mid(at + 1)));
   return {};
 }
 
@@ -78,6 +93,16 @@ OdString takeSeconds(Arguments& arguments, const OdString& value) {
   arguments.wait = value.toInt(&isNumber);
   if (isNumber && arguments.wait >= 0 && arguments.wait <= kMostSeconds) return {};
   return QStringLiteral("--wait needs seconds, 0 to %1, not \"%2\"").arg(kMostSeconds).arg(value);
+}
+
+/// Codes and words of findings, separated by commas.
+template <QStringList Arguments::*Member>
+OdString takeKinds(Arguments& arguments, const OdString& value) {
+  for (const OdString& word : value.split(u',', Qt::SkipEmptyParts)) {
+    if (!findKind(word)) return QStringLiteral("there is no finding \"%1\"").arg(word);
+    arguments.*Member << word;
+  }
+  return {};
 }
 
 constexpr Option kOptions[] = {
@@ -104,6 +129,10 @@ constexpr Option kOptions[] = {
      takeSwitch<&Arguments::dropMissing>},
     {"--wait", "SECONDS", "seconds",
      "how long to wait for another tpal that writes the catalog; 10 without it", takeSeconds},
+    {"--only", "CODE,...", "codes of findings", "looks for these alone, such as C101,C102",
+     takeKinds<&Arguments::only>},
+    {"--ignore", "CODE,...", "codes of findings", "says nothing of these",
+     takeKinds<&Arguments::ignored>},
     {"--json", nullptr, nullptr, "the result as JSON on standard output",
      takeSwitch<&Arguments::json>},
 };

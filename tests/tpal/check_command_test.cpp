@@ -43,6 +43,52 @@ TEST_F(CheckCommand, NamesAMissingPaletteFileAndTheReferenceToIt) {
   EXPECT_EQ(codes(), (QStringList{QStringLiteral("C101"), QStringLiteral("C103")}));
 }
 
+TEST_F(CheckCommand, NamesTheFileThatDiffersInUpperAndLowerCaseAlone) {
+  writeCatalog({});
+  ASSERT_TRUE(
+      QDir().rename(path(QStringLiteral("c/Palettes")), path(QStringLiteral("c/PALETTES"))));
+  if (QFile::exists(path(QStringLiteral("c/Palettes")))) return; // here case is the same
+  EXPECT_EQ(codes(), (QStringList{QStringLiteral("C101"), QStringLiteral("C103")}));
+  EXPECT_TRUE(out().contains(QStringLiteral("it is spelled otherwise: "))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("PALETTES\\\\p.dtc"))) << qPrintable(out());
+}
+
+TEST_F(CheckCommand, CallsAMissingPaletteByItsName) {
+  writeCatalog({});
+  write(QStringLiteral("c/DrfTcCatalog.dtc"),
+        read(QStringLiteral("c/DrfTcCatalog.dtc"))
+            .replace("<Url", "<Properties><ItemName>Doors</ItemName></Properties><Url"));
+  QFile::remove(path(QStringLiteral("c/Palettes/p.dtc")));
+  EXPECT_EQ(run({QStringLiteral("check"), path(QStringLiteral("c"))}), tpal::kFindings);
+  EXPECT_TRUE(out().contains(QStringLiteral("refers to the palette \"Doors\" {P}, which")))
+      << qPrintable(out());
+}
+
+TEST_F(CheckCommand, NamesAPaletteFileOfWhichTheCatalogDoesNotKnow) {
+  writeCatalog({});
+  write(QStringLiteral("c/Palettes/lost.dtc"), read(QStringLiteral("c/Palettes/p.dtc")));
+  write(QStringLiteral("c/Palettes/notes.txt"), "no palette");
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C111")});
+  EXPECT_TRUE(out().contains(QStringLiteral("lost.dtc"))) << qPrintable(out());
+}
+
+TEST_F(CheckCommand, LooksForWhatIsWantedAlone) {
+  writeCatalog(tool("{1}", "One", "<Command Macro=\"_LINE\"/>") + tool("{1}", "Two", {}));
+  const QStringList check{QStringLiteral("check"), path(QStringLiteral("c"))};
+  EXPECT_EQ(run(check), tpal::kFindings);
+  EXPECT_EQ(out().count(u'\n'), 2) << qPrintable(out());
+  EXPECT_EQ(err(),
+            QStringLiteral("tpal: C104 duplicate-id: 1\ntpal: C105 tool-without-agent: 1\n"));
+  EXPECT_EQ(run(check + QStringList{QStringLiteral("--only"), QStringLiteral("C104,C102")}),
+            tpal::kFindings);
+  EXPECT_EQ(out().count(u'\n'), 1) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("C104"))) << qPrintable(out());
+  EXPECT_EQ(run(check + QStringList{QStringLiteral("--ignore"), QStringLiteral("duplicate-id"),
+                                    QStringLiteral("--ignore"), QStringLiteral("C105")}),
+            tpal::kOk);
+  EXPECT_TRUE(out().isEmpty()) << qPrintable(out());
+}
+
 TEST_F(CheckCommand, NamesAPaletteFileThatCannotBeRead) {
   writeCatalog({});
   write(QStringLiteral("c/Palettes/p.dtc"), "not XML at all");

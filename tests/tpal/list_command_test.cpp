@@ -47,6 +47,23 @@ TEST_F(ListCommand, NamesACatalogThatIsNotThereAndGoesOnWithTheNext) {
   EXPECT_TRUE(out().contains(QStringLiteral("catalog  Cat")));
 }
 
+TEST_F(ListCommand, TellsOfPalettesThatCannotBeRead) {
+  writeCatalog({});
+  write(QStringLiteral("c/Palettes/p.dtc"), "<Palette><Tools>");
+  EXPECT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kFindings);
+  EXPECT_TRUE(err().contains(QStringLiteral("p.dtc"))) << qPrintable(err());
+}
+
+TEST_F(ListCommand, CallsAMissingPaletteByItsName) {
+  writeCatalog({});
+  write(QStringLiteral("c/DrfTcCatalog.dtc"),
+        read(QStringLiteral("c/DrfTcCatalog.dtc"))
+            .replace("<Url", "<Properties><ItemName>Doors</ItemName></Properties><Url"));
+  QFile::remove(path(QStringLiteral("c/Palettes/p.dtc")));
+  run({QStringLiteral("list"), path(QStringLiteral("c"))});
+  EXPECT_TRUE(out().contains(QStringLiteral("missing palette  Doors"))) << qPrintable(out());
+}
+
 TEST_F(ListCommand, EndsOnAGroupThatNamesItself) {
   writeCatalog({}, "<ToolPalette ID=\"{G}\"/>");
   EXPECT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kOk);

@@ -11,6 +11,17 @@ TEST_F(Tool, ExplainsItself) {
     EXPECT_TRUE(out().contains(QLatin1String(word))) << word;
 }
 
+TEST_F(Tool, ExplainsOneCommand) {
+  for (const QStringList& words : {QStringList{QStringLiteral("check"), QStringLiteral("--help")},
+                                   QStringList{QStringLiteral("help"), QStringLiteral("check")}}) {
+    EXPECT_EQ(run(words), tpal::kOk);
+    EXPECT_TRUE(out().startsWith(QStringLiteral("usage: tpal check DIR... [--only CODE,...]")))
+        << qPrintable(out());
+    EXPECT_TRUE(out().contains(QStringLiteral("--ignore")));
+    EXPECT_FALSE(out().contains(QStringLiteral("--rebuild")));
+  }
+}
+
 TEST_F(Tool, TellsItsVersion) {
   EXPECT_EQ(run({QStringLiteral("--version")}), tpal::kOk);
   EXPECT_TRUE(out().startsWith(QStringLiteral("tpal ")));
@@ -48,6 +59,12 @@ INSTANTIATE_TEST_SUITE_P(
                    "--map needs OLD=NEW"},
         WrongUsage{{QStringLiteral("import"), QStringLiteral("x"), QStringLiteral("--map")},
                    "--map needs OLD=NEW"},
+        WrongUsage{{QStringLiteral("check"), QStringLiteral("x"), QStringLiteral("--only"),
+                    QStringLiteral("C101,C999")},
+                   "there is no finding \"C999\""},
+        WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("--wait"),
+                    QStringLiteral("-1")},
+                   "--wait needs seconds"},
         WrongUsage{{QStringLiteral("export"), QStringLiteral("x"), QStringLiteral("y")},
                    "something is missing"},
         WrongUsage{{QStringLiteral("export"), QStringLiteral("x"), QStringLiteral("y"),
