@@ -57,6 +57,7 @@ struct Command {
 
 ExitCode listCommand(const Arguments& arguments, Console& console);
 ExitCode checkCommand(const Arguments& arguments, Console& console);
+ExitCode diffCommand(const Arguments& arguments, Console& console);
 ExitCode resaveCommand(const Arguments& arguments, Console& console);
 ExitCode relocateCommand(const Arguments& arguments, Console& console);
 ExitCode importCommand(const Arguments& arguments, Console& console);

@@ -21,6 +21,10 @@ constexpr Command kCommands[] = {
      "references, ids that stand twice, tools that do nothing, paths that lead nowhere, unknown\n"
      "patterns, and files of palettes and pictures that belong to nothing.",
      "--only --ignore --json ", 1, kAnyNumber, true, checkCommand},
+    {"diff", "diff DIR DIR",
+     "Says what the second catalog has that the first has not, what it lacks, and what differs,\n"
+     "value by value. Palettes and tools are told by their ids.",
+     "--json ", 2, 2, false, diffCommand},
     {"resave", "resave DIR",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
      "--to --drop-missing --wait --json ", 1, 1, false, resaveCommand},
