@@ -151,7 +151,10 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
     m_pressed = *m_cursor;
     press(event->modifiers());
   } else if (event->button() == Qt::RightButton) {
-    if (isIdle())
+    const InputRequest* const asked = request();
+    const bool wantsSnap = (event->modifiers() & Qt::ShiftModifier) && asked &&
+                           asked->takesPoints() && !asked->picks();
+    if (isIdle() || wantsSnap)
       Q_EMIT menuWanted(event->globalPosition().toPoint());
     else
       m_desktop.type(QStringLiteral("\n"));
@@ -163,6 +166,8 @@ void Canvas::press(Qt::KeyboardModifiers modifiers) {
   m_bandAtPress = asked && asked->band() == RubberBand::kSelection;
   if (isIdle())
     pressIdle(modifiers);
+  else if (asked && asked->snapKinds().value_or(0) != 0 && m_place && !m_place->snap)
+    m_desktop.engine().print(translated(u"There is no such place here."));
   else if (asked && asked->takesPoints() && m_place)
     m_desktop.click(m_place->point);
 }
@@ -229,6 +234,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
 void Canvas::leaveEvent(QEvent*) {
   m_cursor.reset();
   m_place.reset();
+  if (m_document) m_document->processor().setCursor({});
   m_hovered.clear();
   update();
   Q_EMIT cursorMoved();
@@ -244,11 +250,13 @@ void Canvas::moveCursor() {
   if (isPoint || m_grips.isDragging()) {
     const double aperture = m_desktop.variable("APERTURE").toDouble() * devicePixelRatioF();
     std::vector<OdDbEntityPtr> near;
-    if (m_aids.isOn(Aid::kSnap)) near = m_chooser.near(*m_cursor, aperture);
+    if (m_aids.isOn(Aid::kSnap) || (isPoint && asked->snapKinds()))
+      near = m_chooser.near(*m_cursor, aperture);
     const double reach = aperture * m_view.pixelSize();
     m_place = isPoint ? m_aids.lead(raw, *asked, near, reach)
                       : m_aids.lead(raw, m_grips.dragged().grip.at, near, reach);
   }
+  m_document->processor().setCursor(m_place->point);
   updateMarks();
   Q_EMIT cursorMoved();
 }

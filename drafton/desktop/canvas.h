@@ -39,7 +39,8 @@ class Canvas : public QWidget {
   void cursorMoved();
   /// What is chosen may be another now.
   void choiceChanged();
-  /// The user asked for the menu of what is under the cursor.
+  /// The user asked for the menu of what is under the cursor; while a command asks for a point, for
+  /// that of the snaps.
   void menuWanted(const QPoint& globalPosition);
 
  public Q_SLOTS:

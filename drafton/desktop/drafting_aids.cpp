@@ -54,28 +54,32 @@ std::optional<OdGePoint3d> DraftingAids::tracked(const OdGePoint3d& point, const
   return OdGePoint3d{base.x + along * c, base.y + along * s, point.z};
 }
 
-CursorPlace DraftingAids::lead(const OdGePoint3d& point, std::optional<OdGePoint3d> base,
-                               std::span<const OdDbEntityPtr> near, double reach) {
-  CursorPlace place{point, {}, {}};
-  place.snap = findSnap(near, {.at = point, .reach = reach, .kinds = snapKinds(), .base = base});
+CursorPlace DraftingAids::lead(const SnapQuestion& question, std::span<const OdDbEntityPtr> near) {
+  CursorPlace place{question.at, {}, {}};
+  place.snap = findSnap(near, question);
   if (place.snap) {
     place.point = place.snap->point;
-  } else if (const auto held = base ? tracked(point, *base, reach) : std::nullopt) {
+  } else if (const auto held = question.base ? tracked(question.at, *question.base, question.reach)
+                                             : std::nullopt) {
     place.point = *held;
-    place.trackedFrom = base;
+    place.trackedFrom = question.base;
   }
   return place;
+}
+
+CursorPlace DraftingAids::lead(const OdGePoint3d& point, std::optional<OdGePoint3d> base,
+                               std::span<const OdDbEntityPtr> near, double reach) {
+  return lead({.at = point, .reach = reach, .kinds = snapKinds(), .base = base}, near);
 }
 
 CursorPlace DraftingAids::lead(const OdGePoint3d& point, const InputRequest& request,
                                std::span<const OdDbEntityPtr> near, double reach) {
   if (!request.takesPoints() || request.picks()) return {point, {}, {}};
+  SnapQuestion question{
+      .at = point, .reach = reach, .kinds = request.snapKinds().value_or(snapKinds()), .base = {}};
   // Opposite corners lie askew: no line holds them.
-  if (request.band() != RubberBand::kLine) {
-    CursorPlace place = lead(point, std::nullopt, near, reach);
-    return place;
-  }
-  return lead(point, request.base(), near, reach);
+  if (request.band() == RubberBand::kLine) question.base = request.base();
+  return lead(question, near);
 }
 
 } // namespace drafton

@@ -51,6 +51,7 @@ class DraftingAids {
                    std::span<const OdDbEntityPtr> near, double reach);
 
  private:
+  CursorPlace lead(const SnapQuestion& question, std::span<const OdDbEntityPtr> near);
   std::optional<OdGePoint3d> tracked(const OdGePoint3d& point, const OdGePoint3d& base,
                                      double reach);
 

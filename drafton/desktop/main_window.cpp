@@ -262,16 +262,26 @@ void MainWindow::showTitle() {
 
 void MainWindow::showMenuAt(const QPoint& place) {
   QMenu menu(this);
+  if (m_desktop.isBusy()) {
+    for (const SnapRow& row : snapKinds()) {
+      const OdString word = QStringLiteral("_%1\n").arg(snapWord(row.kind));
+      menu.addAction(snapName(row.kind), &m_desktop, [this, word] { m_desktop.type(word); });
+    }
+    giveAccessKeys(menu);
+    menu.exec(place);
+    return;
+  }
   if (const OdString last = m_desktop.lastRun(); !last.isEmpty())
     connect(menu.addAction(translated(u"Repeat %1").arg(last)), &QAction::triggered, &m_desktop,
             &Desktop::repeat);
   menu.addSeparator();
   const bool hasChoice = m_desktop.document() && !m_desktop.document()->preselection().empty();
   if (hasChoice)
-    m_actions->addTo(menu, {u"ERASE", u"MOVE", u"COPY", u"ROTATE", u"SCALE", u"MIRROR",
-                            u"MATCHPROP", u"selectNone"});
+    m_actions->addTo(menu, {u"CUTCLIP", u"COPYCLIP", u"ERASE", u"MOVE", u"COPY", u"ROTATE",
+                            u"SCALE", u"MIRROR", u"MATCHPROP", u"selectNone"});
   menu.addSeparator();
-  m_actions->addTo(menu, {u"selectAll", u"zoomExtents", u"zoomWindow", u"zoomPrevious"});
+  m_actions->addTo(menu,
+                   {u"PASTECLIP", u"selectAll", u"zoomExtents", u"zoomWindow", u"zoomPrevious"});
   giveAccessKeys(menu);
   menu.exec(place);
 }

@@ -2,20 +2,11 @@
 
 #include "drafton/desktop/snap_places.h"
 #include "drafton/engine/boundary/curve_meetings.h"
-#include "drafton/engine/translator.h"
 
 #include <algorithm>
 
 namespace drafton {
 namespace {
-
-constexpr SnapRow kKinds[] = {
-    {SnapKind::kEnd, u"End point"},       {SnapKind::kMiddle, u"Midpoint"},
-    {SnapKind::kCenter, u"Center"},       {SnapKind::kNode, u"Node"},
-    {SnapKind::kQuadrant, u"Quadrant"},   {SnapKind::kIntersection, u"Intersection"},
-    {SnapKind::kInsertion, u"Insertion"}, {SnapKind::kPerpendicular, u"Perpendicular"},
-    {SnapKind::kTangent, u"Tangent"},     {SnapKind::kNearest, u"Nearest"},
-};
 
 /// Crossings are looked for among so many pieces at the cursor.
 constexpr std::size_t kMostCrossed = 40;
@@ -53,13 +44,6 @@ int rankOf(const Snap& snap, bool isNear) {
 }
 
 } // namespace
-
-std::span<const SnapRow> snapKinds() { return kKinds; }
-
-OdString snapName(SnapKind kind) {
-  const auto row = std::ranges::find(kKinds, kind, &SnapRow::kind);
-  return translated(row->name);
-}
 
 std::optional<Snap> findSnap(std::span<const OdDbEntityPtr> entities,
                              const SnapQuestion& question) {

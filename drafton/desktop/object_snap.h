@@ -1,39 +1,13 @@
 // Object snaps: the places of entities that a cursor is drawn to.
 #pragma once
 
+#include "drafton/engine/snap_kinds.h"
 #include "drawing/entities/entity.h"
 
 #include <optional>
 #include <span>
 
 namespace drafton {
-
-/// The bits of the variable OSMODE.
-enum class SnapKind : int {
-  kEnd = 1,
-  kMiddle = 2,
-  kCenter = 4,
-  kNode = 8,
-  kQuadrant = 16,
-  kIntersection = 32,
-  kInsertion = 64,
-  kPerpendicular = 128,
-  kTangent = 256,
-  kNearest = 512,
-};
-
-/// One kind with its name in English, for lists and tips.
-struct SnapRow {
-  SnapKind kind;
-  const char16_t* name;
-};
-/// All kinds, in the order of their bits.
-std::span<const SnapRow> snapKinds();
-/// The name in the user's language.
-OdString snapName(SnapKind kind);
-
-/// With this bit in OSMODE no kind counts.
-inline constexpr int kSnapsOff = 16384;
 
 struct Snap {
   SnapKind kind = SnapKind::kEnd;

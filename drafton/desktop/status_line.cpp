@@ -2,6 +2,7 @@
 
 #include "drafton/desktop/access_keys.h"
 #include "drafton/desktop/canvas.h"
+#include "drafton/engine/value_parser.h"
 
 #include <QActionGroup>
 #include <QKeySequence>
@@ -94,6 +95,14 @@ void StatusLine::showPlace(const Canvas* canvas) {
     const int digits = digitsFor(canvas->document()->pixelSize());
     text = QStringLiteral("%1, %2").arg(QString::number(place->point.x, 'f', digits),
                                         QString::number(place->point.y, 'f', digits));
+    const InputRequest* const asked = m_desktop.request();
+    if (const auto base = asked && asked->takesPoints() ? asked->base() : std::nullopt) {
+      const OdGeVector3d way = place->point - *base;
+      const double angle = odgeNormalAngle(std::atan2(way.y, way.x));
+      text += QStringLiteral("   @%1<%2")
+                  .arg(QString::number(std::hypot(way.x, way.y), 'f', digits),
+                       shownReal(angle * 180 / kOdaPi, 1));
+    }
   }
   m_place->setText(text);
   // A name stands in for the text, so it has to hold it.

@@ -56,6 +56,8 @@ constexpr MenuRow kMenu[] = {
     {u"BLOCK", u"Block", u"Make a &block of objects", u"^C^C_BLOCK "},
     {u"WBLOCK", u"Write Block", u"&Write a block to a file", u"^C^C_WBLOCK "},
     {u"COPYCLIP", u"Copy to Clipboard", u"Put objects on the clip&board", u"^C^C_COPYCLIP "},
+    {u"CUTCLIP", u"Cut", u"Move obj&ects to the clipboard", u"^C^C_CUTCLIP "},
+    {u"PASTECLIP", u"Paste", u"Put down objects of the clip&board", u"^C^C_PASTECLIP "},
     {u"ATTDEF", u"Attribute", u"Define an &attribute of a block", u"^C^C_ATTDEF "},
     {u"XATTACH", u"Attach Reference", u"Attach a drawing as a refe&rence", u"^C^C_XATTACH "},
     {u"XREF", u"References", u"&Manage attached drawings", u"^C^C_XREF "},

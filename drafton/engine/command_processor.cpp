@@ -194,7 +194,7 @@ void CommandProcessor::takeAnswer(const OdString& word) {
   InputRequest& asked = *m_frames.back()->input.m_request;
   if (!asked.shown().isEmpty()) m_engine.console().echo(word);
   const PointOrigins origins =
-      m_document ? PointOrigins{m_document->lastPoint(), {}, m_document->elevation()}
+      m_document ? PointOrigins{m_document->lastPoint(), {}, m_document->elevation(), m_cursor}
                  : PointOrigins();
   settleAnswer(asked.accept(word, origins));
 }

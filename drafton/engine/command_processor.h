@@ -47,6 +47,9 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   /// A click into the drawing: answers a prompt for a point, distance or angle. False if none
   /// waits.
   bool givePoint(const OdGePoint3d& point);
+  /// Where a click would go now; none while the cursor is elsewhere. A number that is typed at a
+  /// prompt for a point is a distance towards it.
+  void setCursor(const std::optional<OdGePoint3d>& cursor) { m_cursor = cursor; }
 
   bool isBusy() const { return !m_frames.empty(); }
   /// True if the innermost command waits for input.
@@ -97,6 +100,7 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   Engine& m_engine;
   Document* m_document;
   KeyQueue m_sent;
+  std::optional<OdGePoint3d> m_cursor;
   bool m_paused = false;
   OdString m_word;
   bool m_wordTooLong = false;

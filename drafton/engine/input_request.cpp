@@ -1,5 +1,6 @@
 #include "drafton/engine/input_request.h"
 
+#include "drafton/engine/snap_kinds.h"
 #include "drafton/engine/translator.h"
 
 #include <cmath>
@@ -125,6 +126,8 @@ InputRequest::InputRequest(const OdString& prompt, bool allowBlanks)
 
 OdString InputRequest::shown() const {
   if (m_kind == Kind::kPlainText) return m_text;
+  if (m_snapKinds.value_or(0) != 0)
+    return translated(u"%1 of").arg(snapName(SnapKind(*m_snapKinds))) + QStringLiteral(": ");
   if (m_firstPoint) return translated(u"Specify second point") + QStringLiteral(": ");
   OdString text = translated(m_text);
   if (!m_keywords.isEmpty())
@@ -208,6 +211,13 @@ InputRequest::Outcome InputRequest::accept(const OdString& word, PointOrigins or
     return acceptPoint(*point);
   }
   if (m_allowText) return acceptValue(word);
+  if (takesPoints() && !m_picks) {
+    if (const auto point = parseDistanceToCursor(word, origins)) return acceptPoint(*point);
+    if (const std::optional<int> kinds = snapKindsOf(word)) {
+      m_snapKinds = kinds;
+      return Outcome::kMore;
+    }
+  }
   return refuse(translated(textsOf(m_kind).invalid));
 }
 
@@ -218,6 +228,7 @@ InputRequest::Outcome InputRequest::acceptPoint(const OdGePoint3d& point) {
   const std::optional<OdGePoint3d> from = base();
   if (!from) {
     m_firstPoint = point;
+    m_snapKinds.reset();
     return Outcome::kMore;
   }
   const OdGeVector3d offset = point - *from;

@@ -39,6 +39,9 @@ class InputRequest {
   std::optional<OdGePoint3d> base() const { return m_firstPoint ? m_firstPoint : m_base; }
 
   RubberBand band() const { return m_band; }
+  /// The bits of SnapKind that the user has asked for at this point; none if those count that are
+  /// on.
+  std::optional<int> snapKinds() const { return m_snapKinds; }
   /// True if the point chooses entities.
   bool picks() const { return m_picks; }
   /// True if a point answers it.
@@ -49,7 +52,7 @@ class InputRequest {
   enum class Outcome {
     kAnswered,
     kAgain, ///< not accepted: message() tells why
-    kMore,  ///< a first point was taken, the second is wanted
+    kMore,  ///< taken, but the point is still to come: behind a word for a snap, or a first point
   };
   /// Takes one typed word; `word` is empty for Enter alone. The base of `origins` is the prompt's.
   Outcome accept(const OdString& word, PointOrigins origins);
@@ -101,6 +104,7 @@ class InputRequest {
   bool m_allowText = false;
   RubberBand m_band = RubberBand::kLine;
   bool m_picks = false;
+  std::optional<int> m_snapKinds;
   Preview<OdGePoint3d> m_pointPreview;
   Preview<double> m_numberPreview;
   OdString m_enterKeyword;

@@ -78,6 +78,15 @@ std::optional<OdGePoint3d> parsePoint(QStringView text, const PointOrigins& orig
   return finite((relative ? origins.last : OdGePoint3d()) + *typed);
 }
 
+std::optional<OdGePoint3d> parseDistanceToCursor(QStringView text, const PointOrigins& origins) {
+  const std::optional<double> distance = parseReal(text);
+  if (!distance || !origins.base || !origins.cursor) return std::nullopt;
+  const double dx = origins.cursor->x - origins.base->x, dy = origins.cursor->y - origins.base->y;
+  const double way = std::hypot(dx, dy);
+  if (!(way > 0)) return std::nullopt;
+  return finite(*origins.base + OdGeVector3d{*distance * (dx / way), *distance * (dy / way), 0});
+}
+
 OdString shownReal(double value, int decimals) {
   OdString text = OdString::number(value, 'f', decimals);
   if (text.contains(u'.')) {

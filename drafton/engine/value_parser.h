@@ -22,12 +22,16 @@ std::optional<double> parseAngle(QStringView text);
 struct PointOrigins {
   OdGePoint3d last; ///< for `@`
   std::optional<OdGePoint3d> base;
-  double elevation = 0; ///< of absolute points without z
+  double elevation = 0;              ///< of absolute points without z
+  std::optional<OdGePoint3d> cursor; ///< where a window's cursor is
 };
 /// `x,y` and `x,y,z`; `@dx,dy[,dz]` and `@d<a` from the last point, `@` alone for that point
 /// itself; `d<a` from the prompt's base point, or from the origin without one. Angles are in
 /// degrees. A z that is not given is that of the point measured from, or the elevation.
 std::optional<OdGePoint3d> parsePoint(QStringView text, const PointOrigins& origins);
+/// A number alone: so far from the base towards the cursor, as seen from above. None without a base
+/// or a cursor, or with the cursor on the base.
+std::optional<OdGePoint3d> parseDistanceToCursor(QStringView text, const PointOrigins& origins);
 
 /// A number in the shortest form that reads back as the same, but at most `decimals` behind the
 /// point.

@@ -5,6 +5,8 @@
 #include "drawing/entities/line.h"
 #include "drawing/entities/polyline.h"
 
+#include <QMenu>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace drafton;
@@ -223,6 +225,78 @@ TEST_F(CanvasTest, OrthoHoldsToXAndY) {
   click(5, 1);
   type(" ");
   EXPECT_EQ(only<OdDbLine>()->endPoint().y, 0);
+}
+
+TEST_F(CanvasTest, ATypedNumberIsADistanceTowardsTheCursor) {
+  set(Aid::kOrtho, true);
+  type("LINE 0,0 ");
+  moveTo(6, 1);
+  EXPECT_TRUE(window().statusLine().placeText().endsWith(QStringLiteral("<0")))
+      << window().statusLine().placeText().toStdString();
+  type("3 ");
+  moveTo(4, 9);
+  type("7.5  ");
+  ASSERT_EQ(entities().size(), 2u) << history().toStdString();
+  EXPECT_EQ(odrxCast<OdDbLine>(entities()[0].get())->endPoint(), OdGePoint3d(3, 0, 0));
+  EXPECT_EQ(odrxCast<OdDbLine>(entities()[1].get())->endPoint(), OdGePoint3d(3, 7.5, 0));
+}
+
+TEST_F(CanvasTest, WithTheCursorElsewhereANumberIsNoPoint) {
+  type("LINE 0,0 ");
+  moveTo(5, 1);
+  QEvent left(QEvent::Leave);
+  QApplication::sendEvent(&canvas(), &left);
+  type("3 ");
+  EXPECT_TRUE(history().contains(QStringLiteral("Invalid point.")));
+  type(" ");
+  EXPECT_EQ(entities().size(), 0u);
+}
+
+TEST_F(CanvasTest, AWordSnapsOnePointToAKindAndNothingElse) {
+  type("LINE 0,0 6,0  LINE ");
+  type("mid ");
+  moveTo(5.9, 0.1);
+  EXPECT_FALSE(canvas().cursorPlace()->snap) << "snaps are off, and this is an end";
+  click(5.9, 0.1);
+  EXPECT_TRUE(history().contains(QStringLiteral("There is no such place here.")));
+  click(3.2, 0.2);
+  click(3, 8);
+  type(" ");
+  const OdDbLinePtr line = odrxCast<OdDbLine>(entities().back().get());
+  EXPECT_EQ(line->startPoint(), OdGePoint3d(3, 0, 0));
+  EXPECT_NEAR(line->endPoint().y, 8, 0.06) << "the next point is free again";
+}
+
+TEST_F(CanvasTest, NoneLeavesTheSnapsOutOfOnePoint) {
+  type("LINE 0,0 6,0  ");
+  set(Aid::kSnap, true);
+  type("LINE ");
+  type("none ");
+  click(5.8, 0.2);
+  type("9,9  ");
+  EXPECT_NEAR(odrxCast<OdDbLine>(entities().back().get())->startPoint().x, 5.8, 0.06);
+}
+
+TEST_F(CanvasTest, ShiftAndTheRightButtonOfferTheSnaps) {
+  type("LINE ");
+  QStringList shown;
+  QTimer waiting;
+  QObject::connect(&waiting, &QTimer::timeout, &waiting, [&] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return;
+    waiting.stop();
+    for (const QAction* const action : menu->actions()) shown << action->text().remove(u'&');
+    menu->actions()[1]->trigger();
+    menu->close();
+  });
+  const QPoint place = at(3, 3);
+  waiting.start(1);
+  QTest::mouseClick(&canvas(), Qt::RightButton, Qt::ShiftModifier, place);
+  EXPECT_EQ(shown.size(), 10);
+  EXPECT_TRUE(shown.contains(QStringLiteral("Midpoint")));
+  ASSERT_TRUE(desktop().isBusy());
+  EXPECT_EQ(document().processor().request()->snapKinds(), static_cast<int>(SnapKind::kMiddle));
+  EXPECT_EQ(document().processor().request()->shown(), QStringLiteral("Midpoint of: "));
 }
 
 TEST_F(CanvasTest, PolarHoldsToRoundAnglesWhereTheCursorIsNear) {

@@ -48,7 +48,7 @@ const PointRow kPoints[] = {
 
 TEST_P(PointText, IsRead) {
   const PointRow& row = GetParam();
-  const PointOrigins origins{{10, 20, 5}, OdGePoint3d{100, 0, 0}};
+  const PointOrigins origins{{10, 20, 5}, OdGePoint3d{100, 0, 0}, 0, {}};
   const std::optional<OdGePoint3d> point = parsePoint(OdString::fromLatin1(row.text), origins);
   ASSERT_EQ(point.has_value(), row.valid) << row.text;
   if (!point) return;
@@ -62,16 +62,30 @@ INSTANTIATE_TEST_SUITE_P(All, PointText, ::testing::ValuesIn(kPoints));
 } // namespace
 
 TEST(PointText, PolarWithoutABaseStartsAtTheOrigin) {
-  EXPECT_EQ(parsePoint(u"7<0", {{1, 1, 1}, {}}), (OdGePoint3d{7, 0, 0}));
+  EXPECT_EQ(parsePoint(u"7<0", {{1, 1, 1}, {}, 0, {}}), (OdGePoint3d{7, 0, 0}));
 }
 
 TEST(PointText, AbsolutePointsWithoutZTakeTheElevation) {
-  const PointOrigins raised{{1, 1, 5}, {}, 7};
+  const PointOrigins raised{{1, 1, 5}, {}, 7, {}};
   EXPECT_EQ(parsePoint(u"1,2", raised), (OdGePoint3d{1, 2, 7}));
   EXPECT_EQ(parsePoint(u"1,2,0", raised), (OdGePoint3d{1, 2, 0}));
   EXPECT_EQ(parsePoint(u"3<0", raised), (OdGePoint3d{3, 0, 7}));
   EXPECT_EQ(parsePoint(u"@1,2", raised), (OdGePoint3d{2, 3, 5}));
   EXPECT_EQ(parsePoint(u"@3<0", raised), (OdGePoint3d{4, 1, 5}));
+}
+
+TEST(PointText, ANumberGoesSoFarFromTheBaseTowardsTheCursor) {
+  const PointOrigins origins{{}, OdGePoint3d{1, 2, 5}, 0, OdGePoint3d{4, 6, 0}};
+  EXPECT_EQ(parseDistanceToCursor(u"10", origins), (OdGePoint3d{7, 10, 5}));
+  EXPECT_EQ(parseDistanceToCursor(u"-5", origins), (OdGePoint3d{-2, -2, 5})) << "the other way";
+  EXPECT_FALSE(parseDistanceToCursor(u"10x", origins));
+  EXPECT_FALSE(parseDistanceToCursor(u"10", {{}, OdGePoint3d{1, 2, 5}, 0, {}})) << "no cursor";
+  EXPECT_FALSE(parseDistanceToCursor(u"10", {{}, {}, 0, OdGePoint3d{4, 6, 0}})) << "no base";
+  EXPECT_FALSE(parseDistanceToCursor(u"10", {{}, OdGePoint3d{1, 2, 5}, 0, OdGePoint3d{1, 2, 0}}))
+      << "no direction";
+  EXPECT_FALSE(parseDistanceToCursor(u"1e308",
+                                     {{}, OdGePoint3d{1e308, 0, 0}, 0, OdGePoint3d{1.5e308, 0, 0}}))
+      << "too far";
 }
 
 TEST(NumberText, TakesTheWholeTextOrNothing) {

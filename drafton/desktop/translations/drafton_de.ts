@@ -4929,5 +4929,89 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>there is no block "%1" in %2</source>
         <translation>es gibt keinen Block "%1" in %2</translation>
     </message>
+    <message>
+        <source>ENDpoint</source>
+        <translation>ENDpunkt</translation>
+    </message>
+    <message>
+        <source>MIDpoint</source>
+        <translation>MITte</translation>
+    </message>
+    <message>
+        <source>CENter</source>
+        <translation>ZENtrum</translation>
+    </message>
+    <message>
+        <source>NODe</source>
+        <translation>PUNkt</translation>
+    </message>
+    <message>
+        <source>QUAdrant</source>
+        <translation>QUAdrant</translation>
+    </message>
+    <message>
+        <source>INTersection</source>
+        <translation>SCHnittpunkt</translation>
+    </message>
+    <message>
+        <source>INSertion</source>
+        <translation>EINfügepunkt</translation>
+    </message>
+    <message>
+        <source>PERpendicular</source>
+        <translation>LOT</translation>
+    </message>
+    <message>
+        <source>TANgent</source>
+        <translation>TANgente</translation>
+    </message>
+    <message>
+        <source>NEArest</source>
+        <translation>NÄChster</translation>
+    </message>
+    <message>
+        <source>NONe</source>
+        <translation>KEIner</translation>
+    </message>
+    <message>
+        <source>%1 of</source>
+        <translation>%1 von</translation>
+    </message>
+    <message>
+        <source>There is no such place here.</source>
+        <translation>Hier ist keine solche Stelle.</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Move obj&amp;ects to the clipboard</source>
+        <translation>Obj&amp;ekte in die Zwischenablage verschieben</translation>
+    </message>
+    <message>
+        <source>Put down objects of the clip&amp;board</source>
+        <translation>O&amp;bjekte der Zwischenablage absetzen</translation>
+    </message>
+    <message>
+        <source>There are no objects on the clipboard.</source>
+        <translation>In der Zwischenablage sind keine Objekte.</translation>
+    </message>
+    <message>
+        <source>%1 cut</source>
+        <translation>%1 ausgeschnitten</translation>
+    </message>
+    <message>
+        <source>%1 could not be pasted.</source>
+        <translation>%1 konnten nicht eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
 </context>
 </TS>

@@ -12,6 +12,8 @@ constexpr NativeCommand kCommands[] = {
     {u"WBLOCK", kOrdinary, writeBlock},
     {u"-WBLOCK", kOrdinary, writeBlock},
     {u"COPYCLIP", kOrdinary, copyToClipboard},
+    {u"CUTCLIP", kOrdinary, cutToClipboard},
+    {u"PASTECLIP", kOrdinary, pasteFromClipboard},
     {u"XATTACH", kOrdinary, attachReference},
     {u"XREF", kOrdinary, references},
     {u"-XREF", kOrdinary, references},

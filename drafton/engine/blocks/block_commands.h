@@ -15,6 +15,10 @@ Task<void> makeBlock(CommandContext& context);
 Task<void> writeBlock(CommandContext& context);
 /// COPYCLIP: puts entities on the clipboard, with a temporary drawing that holds them.
 Task<void> copyToClipboard(CommandContext& context);
+/// CUTCLIP: as COPYCLIP, and takes them out of the drawing.
+Task<void> cutToClipboard(CommandContext& context);
+/// PASTECLIP: puts the entities of the clipboard into the current space, scaled to its units.
+Task<void> pasteFromClipboard(CommandContext& context);
 /// XATTACH. A parameter set gives the file as `ToolPaletteCall`, `XATT_REFTYPE` (2 overlays),
 /// `XATT_SCALE`, `XATT_ROTATION` (radians), `XATT_PROMPT_ROTATION` (0 or 1).
 Task<void> attachReference(CommandContext& context);

@@ -1,4 +1,4 @@
-// COPYCLIP.
+// COPYCLIP and CUTCLIP.
 
 #include "drafton/engine/blocks/block_commands.h"
 #include "drafton/engine/document.h"
@@ -38,11 +38,7 @@ OdString temporaryDrawing(CommandContext& context) {
   return odpath::fromPlatform(info.dir().filePath(name));
 }
 
-} // namespace
-
-Task<void> copyToClipboard(CommandContext& context) {
-  const Selection chosen = co_await selectObjects(context);
-  if (chosen.empty()) co_return;
+void putOnClipboard(CommandContext& context, const Selection& chosen) {
   KVPtr<IHostClipboard> clipboard = kvQuery<IHostClipboard>(&context.engine().services());
   if (!clipboard) throw CommandFailure(translated(u"There is no clipboard."));
   HostClipboardPayload payload{temporaryDrawing(context), context.document().path(), {}};
@@ -58,7 +54,23 @@ Task<void> copyToClipboard(CommandContext& context) {
   if (!bytes)
     throw CommandFailure(translated(u"%1 is too long a name to be copied.").arg(payload.source));
   clipboard->setData(clipboard->registerFormat(kHostClipboardFormat.toString()), *bytes);
+}
+
+} // namespace
+
+Task<void> copyToClipboard(CommandContext& context) {
+  const Selection chosen = co_await selectObjects(context);
+  if (chosen.empty()) co_return;
+  putOnClipboard(context, chosen);
   context.print(translated(u"%1 copied").arg(chosen.size()));
+}
+
+Task<void> cutToClipboard(CommandContext& context) {
+  const Selection chosen = co_await selectObjects(context);
+  if (chosen.empty()) co_return;
+  putOnClipboard(context, chosen);
+  for (const OdDbObjectId& id : chosen) id.safeOpenObject(OdDb::kForWrite)->erase();
+  context.print(translated(u"%1 cut").arg(chosen.size()));
 }
 
 } // namespace drafton

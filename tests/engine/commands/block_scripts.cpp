@@ -51,6 +51,14 @@ constexpr Script kBlocks[] = {
     {"NotReplaced", u"WBLOCK|%FOLDER%/wheel.dxf|n", u"CIRCLE 0,0,0 r2", kDoorAndCircle},
 
     {"Copied", u"COPYCLIP|all|", u"CIRCLE 0,0,0 r2", kDoorAndCircle},
+    {"Cut", u"CUTCLIP|l|", u"LINE 0,0,0 10,0,0", u"LINE|0,0|10,0||CIRCLE|0,0|2"},
+    {"ByTheLowerLeft", u"PASTECLIP|20,30",
+     u"LINE 1,1,0 11,1,0;CIRCLE 4,4,0 r2;LINE 20,30,0 30,30,0;CIRCLE 23,33,0 r2",
+     u"LINE|1,1|11,1||CIRCLE|4,4|2|COPYCLIP|all|"},
+    {"Original", u"PASTECLIP|o", u"LINE 1,1,0 11,1,0", u"LINE|1,1|11,1||CUTCLIP|all|"},
+    {"KeepsHeights", u"PASTECLIP|5,5", u"LINE 5,5,7 6,5,8", u"LINE|0,0,7|1,0,8||CUTCLIP|l|"},
+    {"Blocks", u"PASTECLIP|50,0", u"INSERT Door at 3,4,0;INSERT Door at 50,0,0",
+     u"LINE|0,0|10,0||BLOCK|Door|0,0|l||INSERT|Door|3,4||||COPYCLIP|l|"},
 
     {"Placed", u"INSERTRASTER|%FOLDER%/photo.png|5,6|10|0",
      u"IMAGE at 5,6,0 along 10,0,0 up 0,5,0"},
