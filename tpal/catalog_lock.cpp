@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 namespace tpal {
 namespace {
@@ -13,6 +14,14 @@ namespace {
 OdString lockFileIn(const OdString& folder) {
   return QDir(odpath::toPlatform(folder))
       .filePath(OdString::fromUtf16(tc::kCatalogFileName) + QLatin1String(".lock"));
+}
+
+/// The system's reason why a file cannot be made. The lock itself does not tell.
+OdString whyNotWritable(const OdString& file) {
+  QTemporaryFile probe(file + QLatin1String(".XXXXXX"));
+  if (probe.open() && probe.write("1") == 1 && probe.flush())
+    return QStringLiteral("another program uses %1").arg(file);
+  return probe.errorString();
 }
 
 } // namespace
@@ -42,8 +51,8 @@ void CatalogLock::acquire(int seconds, Console& console) {
     console.err << "tpal: " << holder() << " writes this catalog; nothing was changed. If that has "
                 << "ended, delete " << m_file << "\n";
   else
-    console.err << "tpal: there is no right to write in the folder " << QFileInfo(m_file).path()
-                << "; nothing was changed\n";
+    console.err << "tpal: the folder " << QFileInfo(m_file).path()
+                << " cannot be written to: " << whyNotWritable(m_file) << "; nothing was changed\n";
 }
 
 OdString CatalogLock::holder() const {

@@ -1,4 +1,5 @@
 // tpal check: what is wrong with a catalog.
+#include "frame/file_path.h"
 #include "tpal/command.h"
 #include "tpal/finding.h"
 
@@ -43,13 +44,13 @@ ExitCode checkCommand(const Arguments& arguments, Console& console) {
     for (const Finding& f : findings)
       rows.append(QJsonObject{{QStringLiteral("code"), codeOf(f.kind)},
                               {QStringLiteral("kind"), wordOf(f.kind)},
-                              {QStringLiteral("file"), f.file},
+                              {QStringLiteral("file"), odpath::toPlatform(f.file)},
                               {QStringLiteral("text"), f.text}});
     console.out << OdString::fromUtf8(QJsonDocument(rows).toJson());
   } else {
     for (const Finding& f : findings)
-      console.out << f.file << ": " << codeOf(f.kind) << " " << wordOf(f.kind) << ": " << f.text
-                  << "\n";
+      console.out << odpath::toPlatform(f.file) << ": " << codeOf(f.kind) << " " << wordOf(f.kind)
+                  << ": " << f.text << "\n";
   }
   console.out.flush();
   printCounts(findings, console.err);

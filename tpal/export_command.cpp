@@ -16,8 +16,8 @@ namespace {
 void print(const tc::OdTcExportReport& report, bool json, Console& console) {
   if (json) {
     const QJsonObject row{
-        {QStringLiteral("file"), report.file},
-        {QStringLiteral("imageFolder"), report.imageFolder},
+        {QStringLiteral("file"), odpath::toPlatform(report.file)},
+        {QStringLiteral("imageFolder"), odpath::toPlatform(report.imageFolder)},
         {QStringLiteral("pictures"), report.pictures},
         {QStringLiteral("withoutPicture"), QJsonArray::fromStringList(report.withoutPicture)},
         {QStringLiteral("written"), report.problem.isEmpty()},
@@ -26,10 +26,10 @@ void print(const tc::OdTcExportReport& report, bool json, Console& console) {
     return;
   }
   if (report.problem.isEmpty())
-    console.out << report.file << ": written, " << report.pictures << " pictures in "
-                << report.imageFolder << "\n";
+    console.out << odpath::toPlatform(report.file) << ": written, " << report.pictures
+                << " pictures in " << odpath::toPlatform(report.imageFolder) << "\n";
   else
-    console.out << report.file << ": not written: " << report.problem << "\n";
+    console.out << odpath::toPlatform(report.file) << ": not written: " << report.problem << "\n";
   for (const OdString& name : report.withoutPicture)
     console.out << "  without its picture: " << name << "\n";
 }

@@ -221,7 +221,8 @@ class ImagesRun {
       if (tool->isRegular()) hasChanged |= look(palette, *tool);
     const OdString problem = hasChanged ? catalog.save(palette) : OdString();
     if (problem.isEmpty()) return;
-    m_console.err << "tpal: " << palette.getPath() << ": not written: " << problem << "\n";
+    m_console.err << "tpal: " << odpath::toPlatform(palette.getPath())
+                  << ": not written: " << problem << "\n";
     m_hasFailed = true;
     // No tool on the disk shows what was made.
     for (std::size_t i = first; i < m_rows.size(); ++i) takeBack(m_rows[i]);
@@ -282,7 +283,7 @@ class ImagesRun {
     QJsonArray rows;
     for (const Row& row : m_rows)
       rows.append(QJsonObject{{QStringLiteral("palette"), row.palette},
-                              {QStringLiteral("file"), row.file},
+                              {QStringLiteral("file"), odpath::toPlatform(row.file)},
                               {QStringLiteral("tool"), row.tool},
                               {QStringLiteral("id"), row.id},
                               {QStringLiteral("kind"), row.kind},

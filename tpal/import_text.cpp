@@ -1,5 +1,7 @@
 #include "tpal/import_text.h"
 
+#include "frame/file_path.h"
+
 #include <QJsonArray>
 
 namespace tpal {
@@ -50,7 +52,7 @@ OdString wordOf(tc::OdTcSourceFate fate) { return word(kSourceWords, fate); }
 QJsonObject jsonOf(const tc::OdTcImportReport& report, bool isDry) {
   QJsonArray tools;
   for (const tc::OdTcImportedTool& tool : report.tools) tools.append(jsonOf(tool));
-  return {{QStringLiteral("file"), report.file},
+  return {{QStringLiteral("file"), odpath::toPlatform(report.file)},
           {QStringLiteral("palette"), report.palette},
           {QStringLiteral("id"), report.id},
           {QStringLiteral("imported"), report.problem.isEmpty() && !isDry},
@@ -74,7 +76,7 @@ QJsonObject jsonOf(const tc::OdTcForeignPalettes::Problem& problem) {
 }
 
 void printReport(const tc::OdTcImportReport& report, bool isDry, QTextStream& out) {
-  out << report.file << ": ";
+  out << odpath::toPlatform(report.file) << ": ";
   if (!report.problem.isEmpty())
     out << "not imported: " << report.problem << "\n";
   else

@@ -1,4 +1,5 @@
 // tpal list: the tree of catalogs, groups, palettes and tools.
+#include "frame/file_path.h"
 #include "tpal/command.h"
 #include "tpal/loaded_catalog.h"
 
@@ -29,7 +30,7 @@ QJsonObject paletteNode(const tc::OdTcToolPalette& palette) {
     tools.append(node);
   }
   QJsonObject node = nodeOf("palette", palette);
-  node.insert(QStringLiteral("file"), palette.getPath());
+  node.insert(QStringLiteral("file"), odpath::toPlatform(palette.getPath()));
   node.insert(QStringLiteral("children"), tools);
   return node;
 }
@@ -110,7 +111,7 @@ ExitCode listCommand(const Arguments& arguments, Console& console) {
     }
     // Something of this catalog is not shown.
     if (!loaded.messages.isEmpty()) result = std::max(result, kFindings);
-    trees.append(TreeBuilder(*loaded.catalog).build(loaded.file));
+    trees.append(TreeBuilder(*loaded.catalog).build(odpath::toPlatform(loaded.file)));
   }
   if (arguments.json)
     console.out << OdString::fromUtf8(QJsonDocument(trees).toJson());

@@ -31,7 +31,8 @@ LoadedCatalog loadCatalog(const OdString& folder) {
   result.catalog = tc::OdTcCatalog::createObject();
   ConsoleHost::instance().takeMessages();
   if (!odrxSystemServices()->fileExists(result.file)) {
-    result.messages << QStringLiteral("%1: there is no such file").arg(result.file);
+    result.messages
+        << QStringLiteral("%1: there is no such file").arg(odpath::toPlatform(result.file));
     return result;
   }
   result.isRead = result.catalog->load(result.file) && !result.catalog->isUnread();
@@ -120,10 +121,12 @@ tc::OdTcToolPalette* findPalette(const tc::OdTcCatalog& catalog, const OdString&
   if (named.size() == 1) return named.front();
   QStringList ids;
   for (const tc::OdTcToolPalette* palette : named) ids << palette->id();
-  problem = named.empty() ? QStringLiteral("%1 has no palette \"%2\"").arg(catalog.path(), word)
-                          : QStringLiteral("%1 has %2 palettes \"%3\"; say which by its id: %4")
-                                .arg(catalog.path(), OdString::number(named.size()), word,
-                                     ids.join(QLatin1String(", ")));
+  problem =
+      named.empty()
+          ? QStringLiteral("%1 has no palette \"%2\"").arg(odpath::toPlatform(catalog.path()), word)
+          : QStringLiteral("%1 has %2 palettes \"%3\"; say which by its id: %4")
+                .arg(odpath::toPlatform(catalog.path()), OdString::number(named.size()), word,
+                     ids.join(QLatin1String(", ")));
   return nullptr;
 }
 

@@ -71,8 +71,9 @@ class MakeRun {
     const tc::OdTcToolPalette* const palette = findPalette(catalog, m_arguments.words[1], problem);
     const bool isNew = !palette && !catalog.findPaletteByName(m_arguments.words[1]);
     if (palette && palette->getDatabase()->isUnread())
-      problem = QStringLiteral("%1 cannot be read: %2")
-                    .arg(palette->getPath(), palette->getDatabase()->readProblem());
+      problem =
+          QStringLiteral("%1 cannot be read: %2")
+              .arg(odpath::toPlatform(palette->getPath()), palette->getDatabase()->readProblem());
     if (isNew || problem.isEmpty()) return true;
     m_console.err << "tpal: " << problem << "\n";
     return false;
@@ -128,8 +129,8 @@ class MakeRun {
     m_failure =
         target.whyNotWritable(filling.isNew() ? target.file() : filling.palette().getPath());
     if (m_failure.isEmpty() && !filling.commit())
-      m_failure =
-          QStringLiteral("%1: not written: %2").arg(filling.palette().getPath(), filling.problem());
+      m_failure = QStringLiteral("%1: not written: %2")
+                      .arg(odpath::toPlatform(filling.palette().getPath()), filling.problem());
     ConsoleHost::instance().takeMessages();
   }
 
@@ -202,7 +203,7 @@ class MakeRun {
       if (!row.problem.isEmpty()) m_console.out << ": " << row.problem;
       m_console.out << "\n";
     }
-    if (!m_failure.isEmpty()) return;
+    if (!m_failure.isEmpty() || toolCount() == 0) return;
     const bool isOne = toolCount() == 1;
     m_console.out << toolCount() << (isOne ? " tool " : " tools ")
                   << (m_arguments.dryRun ? "would be"

@@ -11,8 +11,7 @@ OdString OtherSpelling::hint(const OdString& path) {
   const bool isOfOtherSystem = path.startsWith(QLatin1String("\\\\")) || path.mid(1, 1) == u":";
   if (isOfOtherSystem) return {};
   const auto found = onDisk(QFileInfo(odpath::toPlatform(path)).absoluteFilePath());
-  return found ? QStringLiteral("; it is spelled otherwise: %1").arg(odpath::fromPlatform(*found))
-               : OdString();
+  return found ? QStringLiteral("; it is spelled otherwise: %1").arg(*found) : OdString();
 }
 
 std::optional<OdString> OtherSpelling::onDisk(const OdString& path) {

@@ -58,7 +58,8 @@ class Relocation {
     if (m_rows.size() == first || m_arguments.dryRun) return;
     const OdString problem = catalog.save(palette);
     if (problem.isEmpty()) return;
-    m_console.err << "tpal: " << palette.getPath() << ": not written: " << problem << "\n";
+    m_console.err << "tpal: " << odpath::toPlatform(palette.getPath())
+                  << ": not written: " << problem << "\n";
     m_hasFailed = true;
     m_rows.resize(first);
   }
@@ -102,7 +103,7 @@ class Relocation {
     QJsonArray rows;
     for (const Row& row : m_rows)
       rows.append(QJsonObject{{QStringLiteral("palette"), row.palette},
-                              {QStringLiteral("file"), row.file},
+                              {QStringLiteral("file"), odpath::toPlatform(row.file)},
                               {QStringLiteral("tool"), row.tool},
                               {QStringLiteral("id"), row.id},
                               {QStringLiteral("from"), row.from},

@@ -136,11 +136,11 @@ void report(const std::vector<Outcome>& outcomes, bool json, QTextStream& out) {
   QJsonArray rows;
   for (const Outcome& o : outcomes) {
     if (json)
-      rows.append(QJsonObject{{QStringLiteral("file"), o.file},
+      rows.append(QJsonObject{{QStringLiteral("file"), odpath::toPlatform(o.file)},
                               {QStringLiteral("written"), o.fate == Fate::kWritten},
                               {QStringLiteral("text"), o.text}});
     else
-      out << o.file << ": " << o.text << "\n";
+      out << odpath::toPlatform(o.file) << ": " << o.text << "\n";
   }
   if (json) out << OdString::fromUtf8(QJsonDocument(rows).toJson());
 }

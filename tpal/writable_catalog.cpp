@@ -26,7 +26,7 @@ OdString whyPalettesAreMissed(const OdString& file, const QHash<OdString, OdStri
   return QStringLiteral("%1 is not written: the files of these palettes are not there, and writing "
                         "it would take them out of their groups: \"%2\". Bring the files back, or "
                         "give the palettes up with tpal resave DIR --drop-missing")
-      .arg(file, names.join(QLatin1String("\", \"")));
+      .arg(odpath::toPlatform(file), names.join(QLatin1String("\", \"")));
 }
 
 } // namespace
@@ -84,7 +84,8 @@ WritableCatalog::Stamp WritableCatalog::stampOf(const OdString& file) {
 OdString WritableCatalog::whyNotWritable(const OdString& file) const {
   const auto known = m_stamps.constFind(file);
   if (known == m_stamps.constEnd() || *known == stampOf(file)) return {};
-  return QStringLiteral("another program has written %1 since it was read; start again").arg(file);
+  return QStringLiteral("another program has written %1 since it was read; start again")
+      .arg(odpath::toPlatform(file));
 }
 
 void WritableCatalog::noteWritten(const OdString& file) { m_stamps.insert(file, stampOf(file)); }

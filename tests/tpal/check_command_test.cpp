@@ -50,7 +50,14 @@ TEST_F(CheckCommand, NamesTheFileThatDiffersInUpperAndLowerCaseAlone) {
   if (QFile::exists(path(QStringLiteral("c/Palettes")))) return; // here case is the same
   EXPECT_EQ(codes(), (QStringList{QStringLiteral("C101"), QStringLiteral("C103")}));
   EXPECT_TRUE(out().contains(QStringLiteral("it is spelled otherwise: "))) << qPrintable(out());
-  EXPECT_TRUE(out().contains(QStringLiteral("PALETTES\\\\p.dtc"))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("PALETTES/p.dtc"))) << qPrintable(out());
+}
+
+TEST_F(CheckCommand, NamesFilesAsTheSystemDoes) {
+  writeCatalog(tool("{1}", "Idle", {}));
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C105")});
+  const QJsonArray rows = QJsonDocument::fromJson(out().toUtf8()).array();
+  EXPECT_EQ(rows[0][QStringLiteral("file")].toString(), path(QStringLiteral("c/Palettes/p.dtc")));
 }
 
 TEST_F(CheckCommand, CallsAMissingPaletteByItsName) {

@@ -69,6 +69,15 @@ TEST_F(WritableCatalogTest, IsFreeAgainAfterwards) {
   EXPECT_FALSE(QFile::exists(path(u"c/DrfTcCatalog.dtc.lock"_s)));
 }
 
+TEST_F(WritableCatalogTest, NeedsAFolderThatCanBeWrittenTo) {
+  // A folder stands in the place of the file that holds the catalog.
+  ASSERT_TRUE(QDir().mkpath(path(u"c/DrfTcCatalog.dtc.lock/x"_s)));
+  const QByteArray catalog = read(u"c/DrfTcCatalog.dtc"_s);
+  EXPECT_EQ(runOnCatalog({u"resave"_s, u"--wait"_s, u"0"_s}), tpal::kFailed);
+  EXPECT_TRUE(err().contains(u"nothing was changed"_s)) << qPrintable(err());
+  EXPECT_EQ(read(u"c/DrfTcCatalog.dtc"_s), catalog);
+}
+
 TEST_F(WritableCatalogTest, LeavesNoFolderOfACatalogThatDoesNotComeAbout) {
   EXPECT_EQ(run({u"make"_s, path(u"new/one"_s), u"P"_s, path(u"gone.dxf"_s)}), tpal::kFailed);
   EXPECT_FALSE(QFile::exists(path(u"new"_s)));
