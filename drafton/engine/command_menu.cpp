@@ -23,6 +23,8 @@ constexpr MenuRow kMenu[] = {
     {u"OFFSET", u"Offset", u"Draw parallels to &objects", u"^C^C_OFFSET "},
     {u"TRIM", u"Trim", u"&Trim objects at others", u"^C^C_TRIM "},
     {u"EXTEND", u"Extend", u"Exten&d objects to others", u"^C^C_EXTEND "},
+    {u"FILLET", u"Fillet", u"Round &corners", u"^C^C_FILLET "},
+    {u"CHAMFER", u"Chamfer", u"Cut corn&ers off", u"^C^C_CHAMFER "},
     {u"EXPLODE", u"Explode", u"Break objects into their &pieces", u"^C^C_EXPLODE "},
     {u"CHPROP", u"Properties", u"Change the properties of ob&jects", u"^C^C_CHPROP "},
     {u"MATCHPROP", u"Match Properties", u"&Give the properties of one object to others",
@@ -76,6 +78,7 @@ constexpr MenuRow kMenu[] = {
     {u"STYLE", u"Text Styles", u"Make and change text st&yles", u"^C^C_STYLE "},
     {u"DIMSTYLE", u"Dimension Styles", u"Make and change &dimension styles", u"^C^C_DIMSTYLE "},
     {u"ZOOM", u"Zoom", u"&Zoom the view", u"^C^C_ZOOM "},
+    {u"DIST", u"Distance", u"Measure the distance of t&wo points", u"^C^C_DIST "},
     {u"SETVAR", u"Variables", u"Show and set &variables", u"^C^C_SETVAR "},
     {u"SETTING", u"Settings", u"Change a setti&ng", u"^C^C_SETTING "},
 };

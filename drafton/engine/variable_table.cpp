@@ -120,6 +120,7 @@ constexpr VariableRow kVariables[] = {
     {u"RASTERPREVIEW", Type::kInteger, Scope::kSession, u"0", 0, 1},
     {u"RefreshProperties", Type::kInteger, Scope::kSession, u"0"},
     {u"SNAPMODE", Type::kInteger, Scope::kDocument, u"0", 0, 1},
+    {u"TRIMMODE", Type::kInteger, Scope::kProfile, u"1", 0, 1},
 };
 
 struct ColorWord {

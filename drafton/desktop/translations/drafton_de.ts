@@ -5013,5 +5013,121 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Original</source>
         <translation>Original</translation>
     </message>
+    <message>
+        <source>Fillet</source>
+        <translation>Abrunden</translation>
+    </message>
+    <message>
+        <source>Chamfer</source>
+        <translation>Abschrägen</translation>
+    </message>
+    <message>
+        <source>Round &amp;corners</source>
+        <translation>E&amp;cken abrunden</translation>
+    </message>
+    <message>
+        <source>Cut corn&amp;ers off</source>
+        <translation>Ecken absc&amp;hrägen</translation>
+    </message>
+    <message>
+        <source>Radius = %1</source>
+        <translation>Radius = %1</translation>
+    </message>
+    <message>
+        <source>Distances = %1, %2</source>
+        <translation>Abstände = %1, %2</translation>
+    </message>
+    <message>
+        <source>Specify fillet radius</source>
+        <translation>Abrundungsradius angeben</translation>
+    </message>
+    <message>
+        <source>Specify first chamfer distance</source>
+        <translation>Ersten Abstand der Schräge angeben</translation>
+    </message>
+    <message>
+        <source>Specify second chamfer distance</source>
+        <translation>Zweiten Abstand der Schräge angeben</translation>
+    </message>
+    <message>
+        <source>No trim</source>
+        <translation>Nicht stutzen</translation>
+    </message>
+    <message>
+        <source>Notrim</source>
+        <translation>Nichtstutzen</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Mehrfach</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Current settings: Mode = %1, %2</source>
+        <translation>Aktuelle Einstellungen: Modus = %1, %2</translation>
+    </message>
+    <message>
+        <source>Enter trim mode</source>
+        <translation>Stutzmodus eingeben</translation>
+    </message>
+    <message>
+        <source>Select polyline</source>
+        <translation>Polylinie wählen</translation>
+    </message>
+    <message>
+        <source>Select first object</source>
+        <translation>Erstes Objekt wählen</translation>
+    </message>
+    <message>
+        <source>Select second object</source>
+        <translation>Zweites Objekt wählen</translation>
+    </message>
+    <message>
+        <source>%1 corner(s) done, %2 left as they are.</source>
+        <translation>%1 Ecke(n) bearbeitet, %2 unverändert.</translation>
+    </message>
+    <message>
+        <source>That is no polyline.</source>
+        <translation>Das ist keine Polylinie.</translation>
+    </message>
+    <message>
+        <source>Only lines, arcs, circles and sides of one polyline have such corners.</source>
+        <translation>Solche Ecken haben nur Linien, Bögen, Kreise und Seiten einer Polylinie.</translation>
+    </message>
+    <message>
+        <source>The objects lie at different heights.</source>
+        <translation>Die Objekte liegen in verschiedenen Höhen.</translation>
+    </message>
+    <message>
+        <source>The objects have no such corner.</source>
+        <translation>Die Objekte haben keine solche Ecke.</translation>
+    </message>
+    <message>
+        <source>The objects are too short for that corner.</source>
+        <translation>Die Objekte sind für diese Ecke zu kurz.</translation>
+    </message>
+    <message>
+        <source>Select two objects, or two sides of one polyline.</source>
+        <translation>Wählen Sie zwei Objekte oder zwei Seiten einer Polylinie.</translation>
+    </message>
+    <message>
+        <source>The sides do not meet at a corner.</source>
+        <translation>Die Seiten treffen sich an keiner Ecke.</translation>
+    </message>
+    <message>
+        <source>Measure the distance of t&amp;wo points</source>
+        <translation>Abstand &amp;zweier Punkte messen</translation>
+    </message>
+    <message>
+        <source>Distance = %1, angle = %2</source>
+        <translation>Abstand = %1, Winkel = %2</translation>
+    </message>
+    <message>
+        <source>Delta X = %1, Y = %2, Z = %3</source>
+        <translation>Delta X = %1, Y = %2, Z = %3</translation>
+    </message>
 </context>
 </TS>

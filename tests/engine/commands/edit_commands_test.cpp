@@ -580,3 +580,42 @@ TEST_F(EditCommands, ExtendedDataGoesWithItsEntity) {
   EXPECT_EQ(kept(0), (std::vector<double>{22, 4, 0, 6}));
   EXPECT_EQ(kept(1), (std::vector<double>{-22, 4, 0, 6}));
 }
+
+TEST_F(EditCommands, DistanceTellsLengthAngleAndDifferences) {
+  runScript(u"DIST|1,1|4,5,2");
+  EXPECT_TRUE(console().shows(QStringLiteral("Distance = 5.3852, angle = 53.1301")));
+  EXPECT_TRUE(console().shows(QStringLiteral("Delta X = 3, Y = 4, Z = 2")));
+  runScript(u"DIST|1,1|1,1,3");
+  EXPECT_TRUE(console().shows(QStringLiteral("Distance = 3, angle = 0")));
+  EXPECT_FALSE(database().isModified()) << "nothing was changed";
+}
+
+TEST_F(EditCommands, ACornerThatCannotBeIsToldWithItsReason) {
+  struct Row {
+    const char16_t* setup;
+    const char16_t* words;
+    const char* told;
+  };
+  constexpr Row kRows[] = {
+      {u"LINE|0,0|10,0||LINE|0,3|10,3|", u"FILLET|5,0|5,3|", "The objects have no such corner."},
+      {u"LINE|0,0|10,0||LINE|0,0|0,8|", u"FILLET|r|20|8,0|0,6|",
+       "The objects are too short for that corner."},
+      {u"LINE|0,0,5|10,0,5||LINE|0,0|0,8|", u"FILLET|8,0|0,6|",
+       "The objects lie at different heights."},
+      {u"LINE|0,0|10,0||ELLIPSE|c|0,20|5,20|3", u"FILLET|8,0|5,20|",
+       "Only lines, arcs, circles and sides of one polyline have such corners."},
+      {u"LINE|0,0|10,0|", u"FILLET|8,0|2,0|", "Select two objects, or two sides of one polyline."},
+      {u"RECTANG|0,0|10,8", u"FILLET|5,0|5,8|", "The sides do not meet at a corner."},
+      {u"RECTANG|0,0|10,8", u"CHAMFER|d|9||5,0|10,4|",
+       "The objects are too short for that corner."},
+      {u"LINE|0,0|10,0|", u"CHAMFER|p|5,0||", "That is no polyline."},
+  };
+  for (const Row& row : kRows) {
+    restart(withProgramFolder());
+    runScript(row.setup);
+    const OdString before = describeEntities(database());
+    runScript(row.words);
+    EXPECT_TRUE(console().shows(QLatin1String(row.told))) << row.told << output().toStdString();
+    EXPECT_EQ(describeEntities(database()), before) << row.told;
+  }
+}

@@ -1,4 +1,4 @@
-// ROTATE, SCALE, MIRROR, OFFSET and EXPLODE.
+// ROTATE, SCALE, MIRROR, OFFSET, TRIM, EXTEND, FILLET, CHAMFER and EXPLODE.
 
 #include "engine/commands/scripts.h"
 
@@ -16,6 +16,10 @@ constexpr char16_t kTwo[] = u"LINE|0,0|10,0||CIRCLE|20,0|2";
 
 constexpr char16_t kLadder[] = u"LINE|3,-5|3,5||LINE|7,-5|7,5||LINE|0,0|10,0|";
 constexpr char16_t kWall[] = u"LINE|20,-5|20,5||LINE|0,0|10,0|";
+
+constexpr char16_t kAngle[] = u"LINE|0,0|10,0||LINE|0,0|0,8|";
+constexpr char16_t kCross[] = u"LINE|-10,0|10,0||LINE|0,-8|0,8|";
+constexpr char16_t kBox[] = u"RECTANG|0,0|10,8";
 
 constexpr Script kEdits[] = {
     {"RotateByAngle", u"ROTATE|l||0,0|90", u"LINE 0,0,0 0,10,0", kLine},
@@ -109,6 +113,70 @@ constexpr Script kEdits[] = {
     {"TrimNothingThere", u"TRIM||20,4|",
      u"LINE 3,-5,0 3,5,0;LINE 7,-5,0 7,5,0;LINE 0,0,0 10,0,0;LINE 20,0,0 20,9,0",
      u"LINE|3,-5|3,5||LINE|7,-5|7,5||LINE|0,0|10,0||LINE|20,0|20,9|"},
+    {"CornerOfLines", u"FILLET|r|2|8,0|0,6",
+     u"LINE 2,0,0 10,0,0;LINE 0,2,0 0,8,0;ARC 2,2,0 r2 180..270", kAngle},
+    {"CornerWithTheLast", u"FILLET|r|2|l|8,0",
+     u"LINE 2,0,0 10,0,0;LINE 0,2,0 0,8,0;ARC 2,2,0 r2 180..270", kAngle},
+    {"CornerWithoutRadius", u"FILLET|r|0|8,0|0,6", u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,8,0",
+     u"LINE|3,0|10,0||LINE|0,-2|0,8|"},
+    {"CornerOnTheOtherSide", u"FILLET|r|2|8,0|0,-6",
+     u"LINE 2,0,0 10,0,0;LINE 0,-8,0 0,-2,0;ARC 2,-2,0 r2 90..180", kCross},
+    {"CornerWithoutTrimming", u"FILLET|t|n|r|2|8,0|0,6",
+     u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,8,0;ARC 2,2,0 r2 180..270", kAngle},
+    {"CornersUndone", u"FILLET|u|t|t|r|2|m|8,0|0,6|u|8,0|l|",
+     u"LINE 2,0,0 10,0,0;LINE 0,2,0 0,8,0;ARC 2,2,0 r2 180..270", kAngle},
+    {"CornersAcross", u"FILLET|r|1|m|8,0|0,6|-8,0|0,-6|",
+     u"LINE -10,0,0 10,0,0;LINE 0,-8,0 0,8,0;ARC 1,1,0 r1 180..270;ARC -1,-1,0 r1 0..90",
+     u"TRIMMODE|0|LINE|-10,0|10,0||LINE|0,-8|0,8|"},
+    {"CornerTooShort", u"FILLET|r|20|8,0|0,6|", u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,8,0", kAngle},
+    {"CornerOfParallels", u"FILLET|5,0|5,3|", u"LINE 0,0,0 10,0,0;LINE 0,3,0 10,3,0",
+     u"LINE|0,0|10,0||LINE|0,3|10,3|"},
+    {"CornerAtOtherHeights", u"FILLET|r|2|8,0|0,6|", u"LINE 0,0,5 10,0,5;LINE 0,0,0 0,8,0",
+     u"LINE|0,0,5|10,0,5||LINE|0,0|0,8|"},
+    {"CornerOfLineAndArc", u"FILLET|r|1|8,0|0,5",
+     u"LINE 5.9161,0,0 10,0,0;ARC 0,0,0 r5 9.5941..180;ARC 5.9161,1,0 r1 189.5941..270",
+     u"LINE|-10,0|10,0||ARC|c|0,0|5,0|-5,0"},
+    {"CornerOfLineAndCircle", u"FILLET|r|2|12,0|9,6",
+     u"LINE 9.4721,0,0 20,0,0;CIRCLE 5,6,0 r4;ARC 9.4721,2,0 r2 138.1897..270",
+     u"LINE|0,0|20,0||CIRCLE|5,6|4"},
+    {"CornerOfArcs", u"FILLET|r|1|0,5|6,5",
+     u"ARC 0,0,0 r5 60..180;ARC 6,0,0 r5 0..120;ARC 3,5.1962,0 r1 240..300",
+     u"ARC|c|0,0|5,0|-5,0|ARC|c|6,0|11,0|1,0"},
+    {"CornerOfArcsWithoutRadius", u"FILLET|r|0|0,5|6,5",
+     u"ARC 0,0,0 r5 53.1301..180;ARC 6,0,0 r5 0..126.8699",
+     u"ARC|c|0,0|5,0|-5,0|ARC|c|6,0|11,0|1,0"},
+    {"CornerOfSides", u"FILLET|r|2|5,0|10,4",
+     u"PLINE closed: 0,0 / 8,0 b0.4142 / 10,2 / 10,8 / 0,8", kBox},
+    {"CornerAtTheStart", u"FILLET|r|2|5,0|0,4",
+     u"PLINE closed: 0,2 b0.4142 / 2,0 / 10,0 / 10,8 / 0,8", kBox},
+    {"CornerOfOppositeSides", u"FILLET|r|2|5,0|5,8|", u"PLINE closed: 0,0 / 10,0 / 10,8 / 0,8",
+     kBox},
+    {"CornersOfAPolyline", u"FILLET|r|2|p|l",
+     u"PLINE closed: 0,2 b0.4142 / 2,0 / 8,0 b0.4142 / 10,2 / 10,6 b0.4142 / 8,8 / 2,8 b0.4142 / "
+     u"0,6",
+     kBox},
+    {"CornersOfAnOpenPolyline", u"FILLET|r|2|p|l", u"PLINE: 0,0 / 8,0 b0.4142 / 10,2 / 10,8",
+     u"PLINE|0,0|10,0|10,8|"},
+    {"CornersOfNoPolyline", u"FILLET|p|l||", u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,8,0", kAngle},
+    {"CornersThatUseSidesUp", u"FILLET|r|5|p|5,0",
+     u"PLINE closed: 0,0 / 10,0 / 10,3 b0.4142 / 5,8 b0.4142 / 0,3", kBox},
+    {"CornersThatLeaveNothing", u"FILLET|r|4|p|4,0",
+     u"PLINE closed: 4,0 b0.4142 / 8,4 b0.4142 / 4,8 b0.4142 / 0,4 b0.4142", u"RECTANG|0,0|8,8"},
+    {"CornersWithoutRoom", u"FILLET|r|9|p|5,0", u"PLINE closed: 0,0 / 10,0 / 10,8 / 0,8", kBox},
+    {"CornerOnALayer", u"FILLET|r|2|8,0|0,6", u"Walls;Walls;Walls",
+     u"LAYER|m|Walls||LINE|0,0|10,0||LINE|0,0|0,8||LAYER|s|0|", describeLayersOfEntities},
+    {"CornerOfTwoLayers", u"FILLET|r|2|8,0|0,6", u"0;Walls;0",
+     u"LINE|0,0|10,0||LAYER|m|Walls||LINE|0,0|0,8||LAYER|s|0|", describeLayersOfEntities},
+    {"CornerOff", u"CHAMFER|d|2|1|8,0|0,6", u"LINE 2,0,0 10,0,0;LINE 0,1,0 0,8,0;LINE 2,0,0 0,1,0",
+     kAngle},
+    {"CornerOffByOneDistance", u"CHAMFER|d|2||t|n|m|8,0|0,6|u|t|t|l|8,0|",
+     u"LINE 2,0,0 10,0,0;LINE 0,2,0 0,8,0;LINE 0,2,0 2,0,0", kAngle},
+    {"CornerOffSides", u"CHAMFER|d|2|1|5,0|10,4", u"PLINE closed: 0,0 / 8,0 / 10,1 / 10,8 / 0,8",
+     kBox},
+    {"CornersOff", u"CHAMFER|d|1||p|l",
+     u"PLINE closed: 0,1 / 1,0 / 9,0 / 10,1 / 10,7 / 9,8 / 1,8 / 0,7", kBox},
+    {"CornerOffAnArc", u"CHAMFER|d|1||8,0|0,5|", u"LINE -10,0,0 10,0,0;ARC 0,0,0 r5 0..180",
+     u"LINE|-10,0|10,0||ARC|c|0,0|5,0|-5,0"},
     {"ExtendLine", u"EXTEND||9,0|", u"LINE 20,-5,0 20,5,0;LINE 0,0,0 20,0,0", kWall},
     {"ExtendNothingThatWay", u"EXTEND||1,0|", u"LINE 20,-5,0 20,5,0;LINE 0,0,0 10,0,0", kWall},
     {"ExtendUndo", u"EXTEND||9,0|u|", u"LINE 20,-5,0 20,5,0;LINE 0,0,0 10,0,0", kWall},

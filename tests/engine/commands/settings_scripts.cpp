@@ -54,6 +54,7 @@ OdString describeVariables(OdDbDatabase& database) {
 }
 
 constexpr Script kVariables[] = {
+    {"Measured", u"DIST|0,0|3,4", u""},
     {"Real", u"SETVAR|LTSCALE|2.5", u"2.5 0 0,0,0 256 ", nullptr, describeVariables},
     {"NameInAnyCase", u"SETVAR|ltscale|2.5", u"2.5 0 0,0,0 256 ", nullptr, describeVariables},
     {"Integer", u"SETVAR|PDMODE|34", u"1 34 0,0,0 256 ", nullptr, describeVariables},
