@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalog/catalog.h"
+#include "catalog/file_stamp.h"
 #include "catalog/pending_palettes.h"
 #include "catalog/tool_palette.h"
 #include "catalog/unread_file.h"
@@ -115,6 +116,7 @@ class OdTcCatalogImpl : public OdTcCatalogItemImplBase<OdTcCatalog>, private OdT
   OdString m_fileRevision;
   OdString m_path;
   UnreadFile m_unread;
+  FileStamp m_stamp;
   bool m_isDefault = false;
 };
 

@@ -12,6 +12,7 @@ bool OdTcCatalogImpl::beginLoad(const OdString& path) {
   // What waits is to be found beside the file that named it.
   if (!isThere) complete();
   m_path = path;
+  m_stamp.note(path);
   m_unread.note(path, OdString());
   if (!isThere) return false;
   clearContent();

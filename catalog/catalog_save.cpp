@@ -43,11 +43,14 @@ CatalogSave::~CatalogSave() {
 bool CatalogSave::run() {
   m_catalog.complete();
   m_catalog.m_unread.keepBefore(m_path);
+  m_catalog.m_stamp.keepBefore(m_path);
   m_catalog.m_path = m_path;
   for (const OdTcToolPalettePtr& palette : m_catalog.m_palettes)
     if (!palette->isDeleted()) updateLoader(*palette);
   m_isDone = write();
-  if (m_isDone) m_catalog.m_unread.noteWritten(m_path);
+  if (!m_isDone) return false;
+  m_catalog.m_unread.noteWritten(m_path);
+  m_catalog.m_stamp.note(m_path);
   return m_isDone;
 }
 

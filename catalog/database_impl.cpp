@@ -69,6 +69,7 @@ bool OdTcDatabaseImpl::loadForeign(const OdString& path, OdTcForeignContent& con
 
 bool OdTcDatabaseImpl::readWith(const OdTcFilerPtr& filer, const OdString& path) {
   m_path = path;
+  m_stamp.note(path);
   m_unread.note(path, OdString());
   OdRxSystemServices* const services = odrxSystemServices();
   if (services->folderExists(path)) {
@@ -100,6 +101,7 @@ bool OdTcDatabaseImpl::writeBy(const std::function<bool()>& write) {
   m_unsavedPictures.clear();
   try {
     m_unread.keepBefore(m_path);
+    m_stamp.keepBefore(m_path);
     m_saveProblem = write() ? OdString() : m_path;
   } catch (const OdFileError& error) {
     m_saveProblem = error.description();
@@ -123,6 +125,7 @@ bool OdTcDatabaseImpl::saveAs(const OdString& path) {
     m_path = former;
     return false;
   }
+  m_stamp.note(path);
   m_attached = {};
   return true;
 }
@@ -137,8 +140,10 @@ bool OdTcDatabaseImpl::saveAtOnce() {
                        &OdTcFiler::openPalette);
     });
   });
-  if (isWritten) m_attached = {};
-  return isWritten;
+  if (!isWritten) return false;
+  m_stamp.note(m_path);
+  m_attached = {};
+  return true;
 }
 
 bool OdTcDatabaseImpl::saveCopy(const OdString& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalog/database.h"
+#include "catalog/file_stamp.h"
 #include "catalog/palette_ui.h"
 #include "catalog/tool_list.h"
 #include "catalog/unread_file.h"
@@ -81,6 +82,7 @@ class OdTcDatabaseImpl : public OdTcCatalogItemImplBase<OdTcDatabase> {
   std::vector<OdTcPersistPtr> m_attached;
   OdSmartPtr<OdTcPaletteUi> m_ui;
   UnreadFile m_unread;
+  FileStamp m_stamp;
   OdString m_saveProblem;
   QStringList m_unsavedPictures;
   bool m_isExporting = false;

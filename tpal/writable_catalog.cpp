@@ -76,19 +76,14 @@ void WritableCatalog::load(const OdString& folder, bool mayBeNew) {
     if (!m_stamps.contains(palette->getPath())) noteWritten(palette->getPath());
 }
 
-WritableCatalog::Stamp WritableCatalog::stampOf(const OdString& file) {
-  const QFileInfo info(odpath::toPlatform(file));
-  return info.exists() ? Stamp{info.size(), info.lastModified()} : Stamp{};
-}
-
 OdString WritableCatalog::whyNotWritable(const OdString& file) const {
   const auto known = m_stamps.constFind(file);
-  if (known == m_stamps.constEnd() || *known == stampOf(file)) return {};
+  if (known == m_stamps.constEnd() || !known->isChanged(file)) return {};
   return QStringLiteral("another program has written %1 since it was read; start again")
       .arg(odpath::toPlatform(file));
 }
 
-void WritableCatalog::noteWritten(const OdString& file) { m_stamps.insert(file, stampOf(file)); }
+void WritableCatalog::noteWritten(const OdString& file) { m_stamps[file].note(file); }
 
 OdString WritableCatalog::save(tc::OdTcToolPalette& palette) {
   const OdString problem = whyNotWritable(palette.getPath());

@@ -1,10 +1,10 @@
 // Catalogs that a command of the tool writes.
 #pragma once
 
+#include "catalog/file_stamp.h"
 #include "tpal/catalog_lock.h"
 #include "tpal/loaded_catalog.h"
 
-#include <QDateTime>
 #include <QHash>
 
 #include <optional>
@@ -37,17 +37,11 @@ class WritableCatalog {
   OdString save(tc::OdTcToolPalette& palette);
 
  private:
-  struct Stamp {
-    qint64 bytes = -1; ///< below 0 without a file
-    QDateTime time;
-    bool operator==(const Stamp&) const = default;
-  };
-  static Stamp stampOf(const OdString& file);
   void load(const OdString& folder, bool mayBeNew);
 
   std::optional<CatalogLock> m_lock;
   LoadedCatalog m_loaded;
-  QHash<OdString, Stamp> m_stamps;
+  QHash<OdString, tc::FileStamp> m_stamps;
   bool m_isOpen = false;
 };
 

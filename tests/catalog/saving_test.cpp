@@ -28,6 +28,9 @@ struct SavingTest : CatalogFixture {
   QStringList kept() const {
     return QDir(platform(u"user/ToolPalette/Unread"_s)).entryList(QDir::Files, QDir::Name);
   }
+  QStringList replaced() const {
+    return QDir(platform(u"user/ToolPalette/Replaced"_s)).entryList(QDir::Files, QDir::Name);
+  }
 };
 
 TEST_F(SavingTest, FilesAreOpenedForReadingAsTheyAre) {
@@ -140,6 +143,70 @@ TEST_F(SavingTest, OneCopyOfAnUnreadFileIsEnoughHoweverOftenTheSaveFails) {
   EXPECT_TRUE(read->save());
   EXPECT_TRUE(catalog->save());
   EXPECT_EQ(kept(), QStringList({u"DrfTcCatalog.dtc"_s, u"p.dtc"_s}));
+}
+
+TEST_F(SavingTest, WhatAnotherProgramWroteIntoAPaletteIsKeptBeforeItIsSavedOver) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  OdTcToolPalette* const palette = catalog->findPalette(u"A"_s);
+  writeFile(u"c\\Palettes\\a.dtc"_s, "another's");
+  EXPECT_TRUE(palette->save());
+  EXPECT_TRUE(readFile(u"c\\Palettes\\a.dtc"_s).contains("Alpha"));
+  const QStringList copies = replaced();
+  ASSERT_EQ(copies.size(), 1);
+  EXPECT_TRUE(copies[0].startsWith(u"a 2"_s) && copies[0].endsWith(u".dtc"_s)) << text(copies[0]);
+  EXPECT_EQ(readFile(u"user\\ToolPalette\\Replaced\\"_s + copies[0]), QByteArray("another's"));
+  EXPECT_TRUE(wasTold({u"another program has written"_s, copies[0]}));
+  EXPECT_TRUE(palette->save());
+  EXPECT_TRUE(palette->getDatabase()->saveAtOnce());
+  EXPECT_EQ(replaced(), copies) << "what was written here is nobody else's";
+  writeFile(u"c\\Palettes\\a.dtc"_s, "once more");
+  EXPECT_TRUE(palette->getDatabase()->saveAtOnce());
+  EXPECT_EQ(replaced().size(), 2);
+}
+
+TEST_F(SavingTest, WhatAnotherProgramWroteIntoACatalogIsKeptBeforeItIsSavedOver) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  EXPECT_TRUE(catalog->save());
+  EXPECT_TRUE(replaced().isEmpty());
+  writeFile(u"c\\DrfTcCatalog.dtc"_s, "another's");
+  EXPECT_TRUE(catalog->save());
+  ASSERT_EQ(replaced().size(), 1);
+  EXPECT_EQ(readFile(u"user\\ToolPalette\\Replaced\\"_s + replaced()[0]), QByteArray("another's"));
+  EXPECT_TRUE(catalog->save());
+  EXPECT_EQ(replaced().size(), 1);
+}
+
+TEST_F(SavingTest, AChangeThatLeavesTheSizeIsToldByItsTime) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  QFile palette(platform(u"c\\Palettes\\a.dtc"_s));
+  ASSERT_TRUE(palette.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(palette.setFileTime(QDateTime::currentDateTime().addSecs(60),
+                                  QFileDevice::FileModificationTime));
+  palette.close();
+  EXPECT_TRUE(catalog->findPalette(u"A"_s)->save());
+  EXPECT_EQ(replaced().size(), 1);
+}
+
+TEST_F(SavingTest, ACopyElsewhereLeavesThePaletteItsOwnFile) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  OdTcToolPalette* const palette = catalog->findPalette(u"A"_s);
+  EXPECT_TRUE(palette->saveCopy(stored(u"c\\copy.dtc"_s)));
+  EXPECT_TRUE(palette->save());
+  EXPECT_TRUE(replaced().isEmpty());
+  writeFile(u"c\\Palettes\\a.dtc"_s, "another's");
+  EXPECT_TRUE(palette->saveCopy(stored(u"c\\copy2.dtc"_s)));
+  EXPECT_TRUE(replaced().isEmpty()) << "nothing was written over";
+  EXPECT_TRUE(palette->save());
+  EXPECT_EQ(replaced().size(), 1);
+}
+
+TEST_F(SavingTest, WhatCannotBeKeptIsNotWrittenOver) {
+  const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
+  writeFile(u"user\\ToolPalette\\Replaced"_s, "a file where the folder is to be");
+  writeFile(u"c\\Palettes\\a.dtc"_s, "another's");
+  EXPECT_FALSE(catalog->findPalette(u"A"_s)->save());
+  EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), QByteArray("another's"));
+  EXPECT_TRUE(wasTold({u"Cannot save the palette"_s, u"Replaced"_s}));
 }
 
 TEST_F(SavingTest, AFailedSaveGivesALoaderItsFirstFieldsBack) {

@@ -3848,6 +3848,10 @@
         <translation>Die Datei %1, die nicht lesbar war, ist als %2 aufgehoben</translation>
     </message>
     <message>
+        <source>The file %1, which another program has written since it was read, is kept as %2</source>
+        <translation>Die Datei %1, die ein anderes Programm geschrieben hat, seit sie gelesen wurde, liegt nun als Kopie in %2</translation>
+    </message>
+    <message>
         <source>the folder cannot be made</source>
         <translation>der Ordner kann nicht angelegt werden</translation>
     </message>
