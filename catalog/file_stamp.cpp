@@ -18,7 +18,7 @@ constexpr qint64 kTolerance = 2000; // milliseconds
 
 /// A path for the copy that no file has yet: when the file was last written tells copies apart.
 OdString copyFor(const OdString& path, const QDateTime& written, const OdString& folder) {
-  const OdString time = written.toString(QStringLiteral("yyyy-MM-dd hhmmss"));
+  const OdString time = written.toString(QStringLiteral("yyyyMMddThhmmss"));
   OdString copy;
   int number = 0;
   do {
