@@ -171,6 +171,8 @@ constexpr ActionRow kActions[] = {
     {.name = u"ROTATE", .menu = M::kModify, .toolbar = T::kModify},
     {.name = u"SCALE", .menu = M::kModify, .toolbar = T::kModify},
     {.name = u"MIRROR", .menu = M::kModify, .toolbar = T::kModify},
+    {.name = u"STRETCH", .menu = M::kModify},
+    {.name = u"ARRAY", .menu = M::kModify},
     {.name = u"OFFSET", .menu = M::kModify, .toolbar = T::kModify, .startsGroup = true},
     {.name = u"TRIM", .menu = M::kModify, .toolbar = T::kModify},
     {.name = u"EXTEND", .menu = M::kModify, .toolbar = T::kModify},

@@ -1,6 +1,7 @@
 #include "drafton/desktop/canvas.h"
 
 #include "drafton/desktop/canvas_overlay.h"
+#include "drafton/engine/value_parser.h"
 
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -75,6 +76,20 @@ bool Canvas::giveUp() {
   if (!gaveUp && (!isIdle() || m_document->preselection().empty())) return false;
   if (!gaveUp) m_chooser.clear();
   follow();
+  return true;
+}
+
+bool Canvas::takeWord(const OdString& word) {
+  if (!m_grips.isDragging()) return false;
+  const OdGePoint3d from = m_grips.dragged().grip.at;
+  const PointOrigins origins{from, from, from.z,
+                             m_place ? std::optional(m_place->point) : std::nullopt};
+  std::optional<OdGePoint3d> point = parsePoint(word, origins);
+  if (!point) point = parseDistanceToCursor(word, origins);
+  if (point)
+    m_grips.end(m_desktop, *point);
+  else
+    m_desktop.engine().print(translated(u"Invalid point."));
   return true;
 }
 

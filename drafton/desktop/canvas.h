@@ -32,6 +32,9 @@ class Canvas : public QWidget {
   /// Ends a box or a grip that is being drawn; else chooses nothing any more. False if there was
   /// nothing to give up.
   bool giveUp();
+  /// Takes a typed word as the place of a grip that is being moved: a point, or a distance towards
+  /// the cursor. False if there is no such grip.
+  bool takeWord(const OdString& word);
   /// The drawing is about to go; nothing is painted from now on.
   void beginClosing();
 

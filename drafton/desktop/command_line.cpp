@@ -120,6 +120,7 @@ void CommandLine::submit() {
   if (!text.isEmpty() && (m_typed.isEmpty() || m_typed.last() != text)) m_typed << text;
   if (m_typed.size() > kMostTyped) m_typed.removeFirst();
   m_recalled = m_typed.size();
+  if (!m_desktop.isBusy() && m_wordTaker && m_wordTaker(text)) return;
   if (text.isEmpty() && !m_desktop.isBusy()) return m_desktop.repeat();
   m_desktop.type(text + u'\n');
 }

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -27,6 +29,10 @@ class CommandLine : public QWidget {
   bool takeKey(QKeyEvent* event);
   QLineEdit& edit() { return *m_edit; }
 
+  /// Takes a word that is typed while no command runs, before it is one; false if it is not taken.
+  using WordTaker = std::function<bool(const OdString& word)>;
+  void setWordTaker(WordTaker taker) { m_wordTaker = std::move(taker); }
+
  Q_SIGNALS:
   /// Esc was pressed on the empty line while no command ran.
   void gaveUp();
@@ -48,6 +54,7 @@ class CommandLine : public QWidget {
   QLabel* m_prompt;
   QLineEdit* m_edit;
   CommandOffers* m_offers;
+  WordTaker m_wordTaker;
   QStringList m_typed;      ///< the latest last
   qsizetype m_recalled = 0; ///< in m_typed; its size for the new line
 };

@@ -3,7 +3,7 @@
 
 #include "drafton/desktop/canvas_view.h"
 #include "drafton/desktop/desktop.h"
-#include "drafton/desktop/grips.h"
+#include "drafton/engine/grips.h"
 
 namespace drafton {
 

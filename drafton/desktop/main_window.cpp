@@ -72,6 +72,10 @@ MainWindow::MainWindow(Desktop& desktop, UserDialogs& dialogs)
   });
   connect(m_documents, &DocumentArea::actionWanted, this,
           [this](const OdString& name) { m_actions->find(name)->trigger(); });
+  m_commandLine->setWordTaker([this](const OdString& word) {
+    Canvas* const canvas = m_documents->canvas();
+    return canvas && canvas->takeWord(word);
+  });
   connect(m_commandLine, &CommandLine::gaveUp, this, [this] {
     if (Canvas* const canvas = m_documents->canvas()) canvas->giveUp();
   });

@@ -20,6 +20,8 @@ constexpr MenuRow kMenu[] = {
     {u"ROTATE", u"Rotate", u"&Rotate objects", u"^C^C_ROTATE "},
     {u"SCALE", u"Scale", u"Make objects larger or &smaller", u"^C^C_SCALE "},
     {u"MIRROR", u"Mirror", u"M&irror objects", u"^C^C_MIRROR "},
+    {u"STRETCH", u"Stretch", u"Stretch ob&jects by a part of them", u"^C^C_STRETCH "},
+    {u"ARRAY", u"Array", u"Copy objects in rows or around a ce&nter", u"^C^C_ARRAY "},
     {u"OFFSET", u"Offset", u"Draw parallels to &objects", u"^C^C_OFFSET "},
     {u"TRIM", u"Trim", u"&Trim objects at others", u"^C^C_TRIM "},
     {u"EXTEND", u"Extend", u"Exten&d objects to others", u"^C^C_EXTEND "},

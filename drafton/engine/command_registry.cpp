@@ -13,6 +13,7 @@ struct Alias {
 constexpr Alias kAliases[] = {
     {u"A", u"ARC"},
     {u"ADDSEL", u"ADDSELECTED"},
+    {u"AR", u"ARRAY"},
     {u"ATT", u"ATTDEF"},
     {u"BH", u"BHATCH"},
     {u"BO", u"BOUNDARY"},
@@ -54,6 +55,7 @@ constexpr Alias kAliases[] = {
     {u"QUIT", u"Exit"},
     {u"REC", u"RECTANG"},
     {u"RO", u"ROTATE"},
+    {u"S", u"STRETCH"},
     {u"SC", u"SCALE"},
     {u"SPL", u"SPLINE"},
     {u"ST", u"STYLE"},

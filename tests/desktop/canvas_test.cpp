@@ -204,6 +204,24 @@ TEST_F(CanvasTest, AMiddleGripMovesAndEscLeavesItWhereItWas) {
   EXPECT_NEAR(only<OdDbLine>()->endPoint().y, 3, 0.06);
 }
 
+TEST_F(CanvasTest, AGripGoesWhereIsTyped) {
+  set(Aid::kOrtho, true);
+  type("LINE 0,0 4,0  ");
+  click(1, 0);
+  click(4, 0);
+  moveTo(4, 3);
+  type("7 ");
+  EXPECT_EQ(only<OdDbLine>()->endPoint(), OdGePoint3d(4, 7, 0)) << "towards the cursor";
+  click(0, 0);
+  type("@-2,1 ");
+  EXPECT_EQ(only<OdDbLine>()->startPoint(), OdGePoint3d(-2, 1, 0)) << "from where it was";
+  type("U ");
+  EXPECT_EQ(only<OdDbLine>()->startPoint(), OdGePoint3d(0, 0, 0)) << "a command again";
+  click(0, 0);
+  type("nowhere ");
+  EXPECT_TRUE(history().contains(QStringLiteral("Invalid point.")));
+}
+
 // --- aids
 
 TEST_F(CanvasTest, AClickGoesToTheSnapNotToTheCursor) {

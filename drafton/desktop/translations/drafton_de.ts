@@ -5133,5 +5133,77 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Delta X = %1, Y = %2, Z = %3</source>
         <translation>Delta X = %1, Y = %2, Z = %3</translation>
     </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>Reihe</translation>
+    </message>
+    <message>
+        <source>Stretch ob&amp;jects by a part of them</source>
+        <translation>Ob&amp;jekte an einem Teil strecken</translation>
+    </message>
+    <message>
+        <source>Copy objects in rows or around a ce&amp;nter</source>
+        <translation>Objekte in &amp;Reihen oder um einen Mittelpunkt kopieren</translation>
+    </message>
+    <message>
+        <source>Specify first corner of a box around what is to move</source>
+        <translation>Erste Ecke eines Rahmens um das angeben, was sich bewegen soll</translation>
+    </message>
+    <message>
+        <source>%1 could not be stretched.</source>
+        <translation>%1 konnten nicht gestreckt werden.</translation>
+    </message>
+    <message>
+        <source>More than %1 copies are not made at once.</source>
+        <translation>Mehr als %1 Kopien werden nicht auf einmal gemacht.</translation>
+    </message>
+    <message>
+        <source>Enter the number of rows</source>
+        <translation>Anzahl der Zeilen eingeben</translation>
+    </message>
+    <message>
+        <source>Enter the number of columns</source>
+        <translation>Anzahl der Spalten eingeben</translation>
+    </message>
+    <message>
+        <source>Specify the distance between rows</source>
+        <translation>Abstand der Zeilen angeben</translation>
+    </message>
+    <message>
+        <source>Specify the distance between columns</source>
+        <translation>Abstand der Spalten angeben</translation>
+    </message>
+    <message>
+        <source>Specify center point of array</source>
+        <translation>Mittelpunkt der Reihe angeben</translation>
+    </message>
+    <message>
+        <source>Enter the number of items</source>
+        <translation>Anzahl der Elemente eingeben</translation>
+    </message>
+    <message>
+        <source>Specify the angle to fill</source>
+        <translation>Auszufüllenden Winkel angeben</translation>
+    </message>
+    <message>
+        <source>Rotate arrayed objects?</source>
+        <translation>Objekte mitdrehen?</translation>
+    </message>
+    <message>
+        <source>Enter the type of array</source>
+        <translation>Art der Reihe eingeben</translation>
+    </message>
+    <message>
+        <source>Rectangular</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Polar</source>
+        <translation>Polar</translation>
+    </message>
 </context>
 </TS>

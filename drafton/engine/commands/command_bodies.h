@@ -20,6 +20,8 @@ Task<void> scale(CommandContext& context);
 Task<void> mirror(CommandContext& context);
 Task<void> trim(CommandContext& context);
 Task<void> extend(CommandContext& context);
+Task<void> stretch(CommandContext& context);
+Task<void> array(CommandContext& context);
 Task<void> fillet(CommandContext& context);
 Task<void> chamfer(CommandContext& context);
 Task<void> explode(CommandContext& context);

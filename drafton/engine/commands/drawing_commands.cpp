@@ -22,6 +22,8 @@ constexpr NativeCommand kCommands[] = {
     {u"OFFSET", kOrdinary, offset},
     {u"TRIM", kOrdinary, trim},
     {u"EXTEND", kOrdinary, extend},
+    {u"STRETCH", kOrdinary, stretch},
+    {u"ARRAY", kOrdinary, array},
     {u"FILLET", kOrdinary, fillet},
     {u"CHAMFER", kOrdinary, chamfer},
     {u"MTEXT", kOrdinary, multilineText},

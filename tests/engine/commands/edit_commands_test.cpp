@@ -619,3 +619,28 @@ TEST_F(EditCommands, ACornerThatCannotBeIsToldWithItsReason) {
     EXPECT_EQ(describeEntities(database()), before) << row.told;
   }
 }
+
+TEST_F(EditCommands, DimensionsFollowWhatIsStretched) {
+  runScript(u"LINE|0,0|10,0||DLI|0,0|10,0|5,3|STRETCH|9,-1|11,1|0,0|5,0");
+  const auto dimension = entityAt(1).openAs<OdDbAlignedDimension>();
+  EXPECT_EQ(dimension->xLine2Point(), OdGePoint3d(15, 0, 0));
+  EXPECT_NEAR(dimension->getMeasurement(), 15, 1e-9);
+  std::vector<OdDbEntityPtr> pieces;
+  ASSERT_TRUE(dimension->explode(pieces));
+  OdGeExtents3d box;
+  for (const OdDbEntityPtr& piece : pieces)
+    if (OdGeExtents3d own; piece->getGeomExtents(own)) box.addExt(own);
+  EXPECT_GT(box.maxPoint().x, 14.9) << "its picture does, too";
+}
+
+TEST_F(EditCommands, ArraysBeyondAllMeasureAreRefused) {
+  runScript(u"LINE|0,0|10,0||ARRAY|l||r|100000|100000");
+  EXPECT_TRUE(console().shows(QStringLiteral("More than 100000 copies are not made at once.")));
+  EXPECT_FALSE(isRunning());
+}
+
+TEST_F(EditCommands, StretchingNothingSaysSo) {
+  runScript(u"LINE|0,0|10,0||STRETCH|20,20|30,30");
+  EXPECT_TRUE(console().shows(QStringLiteral("Nothing was found there.")));
+  EXPECT_FALSE(isRunning());
+}

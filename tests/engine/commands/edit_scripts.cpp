@@ -1,4 +1,4 @@
-// ROTATE, SCALE, MIRROR, OFFSET, TRIM, EXTEND, FILLET, CHAMFER and EXPLODE.
+// ROTATE, SCALE, MIRROR, STRETCH, ARRAY, OFFSET, TRIM, EXTEND, FILLET, CHAMFER and EXPLODE.
 
 #include "engine/commands/scripts.h"
 
@@ -113,6 +113,32 @@ constexpr Script kEdits[] = {
     {"TrimNothingThere", u"TRIM||20,4|",
      u"LINE 3,-5,0 3,5,0;LINE 7,-5,0 7,5,0;LINE 0,0,0 10,0,0;LINE 20,0,0 20,9,0",
      u"LINE|3,-5|3,5||LINE|7,-5|7,5||LINE|0,0|10,0||LINE|20,0|20,9|"},
+    {"StretchEnds", u"STRETCH|5,-1|20,3|0,0|3,0", u"LINE 0,0,0 13,0,0;PLINE: 0,2 / 13,2 / 10,9",
+     u"LINE|0,0|10,0||PLINE|0,2|10,2|10,9|"},
+    {"StretchByADisplacement", u"STRETCH|20,3|5,-1|d|0,1", u"LINE 0,0,0 10,1,0", kLine},
+    {"StretchMovesWhatLiesInside", u"STRETCH|9,-3|30,3|0,0|5,0",
+     u"LINE 0,0,0 15,0,0;CIRCLE 25,0,0 r2", kTwo},
+    {"StretchLeavesCirclesBehind", u"STRETCH|21,-3|30,3|0,0|5,0",
+     u"LINE 0,0,0 10,0,0;CIRCLE 20,0,0 r2", kTwo},
+    {"StretchOneCornerOfMany", u"STRETCH|9,7|11,9|0,0|2,1",
+     u"PLINE closed: 0,0 / 10,0 / 12,9 / 0,8", kBox},
+    {"StretchEllipses", u"STRETCH|-9,-9|9,9|0,0|5,0", u"ELLIPSE 5,0,0 axis5,0,0 ratio0.6 0..360",
+     u"ELLIPSE|c|0,0|5,0|3"},
+    {"StretchCutEllipsesStay", u"STRETCH|0,-9|9,9|0,0|5,0",
+     u"ELLIPSE 0,0,0 axis5,0,0 ratio0.6 0..360", u"ELLIPSE|c|0,0|5,0|3"},
+    {"StretchInserts", u"STRETCH|9,-1|30,1|0,0|5,0", u"INSERT Door at 5,0,0;INSERT Door at 25,0,0",
+     u"LINE|0,0|10,0||BLOCK|Door|0,0|l||INSERT|Door|5,0||||INSERT|Door|20,0|||"},
+    {"ArrayOfRows", u"ARRAY|l||r|2|3|5|-20",
+     u"LINE 0,0,0 10,0,0;LINE -20,0,0 -10,0,0;LINE -40,0,0 -30,0,0;LINE 0,5,0 10,5,0;"
+     u"LINE -20,5,0 -10,5,0;LINE -40,5,0 -30,5,0",
+     kLine},
+    {"ArrayOfOneRow", u"ARRAY|l||||2|0|12", u"LINE 0,0,0 10,0,0;LINE 12,0,0 22,0,0", kLine},
+    {"ArrayOfNothing", u"ARRAY|l||||", u"LINE 0,0,0 10,0,0", kLine},
+    {"ArrayAllAround", u"ARRAY|l||p|0,0|4||",
+     u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,10,0;LINE 0,0,0 -10,0,0;LINE 0,0,0 0,-10,0", kLine},
+    {"ArrayOverAnAngle", u"ARRAY|l||p|0,0|3|-180|y",
+     u"LINE 0,0,0 10,0,0;LINE 0,0,0 0,-10,0;LINE 0,0,0 -10,0,0", kLine},
+    {"ArrayUpright", u"ARRAY|l||p|0,0|2|360|n", u"LINE 0,0,0 10,0,0;LINE -10,0,0 0,0,0", kLine},
     {"CornerOfLines", u"FILLET|r|2|8,0|0,6",
      u"LINE 2,0,0 10,0,0;LINE 0,2,0 0,8,0;ARC 2,2,0 r2 180..270", kAngle},
     {"CornerWithTheLast", u"FILLET|r|2|l|8,0",

@@ -1,9 +1,10 @@
-#include "drafton/desktop/grips.h"
+#include "drafton/engine/grips.h"
 
 #include "drafton/engine/commands/arc_path.h"
 #include "drawing/entities/arc.h"
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/mtext.h"
 #include "drawing/entities/point.h"
@@ -32,7 +33,8 @@ bool liesFlat(const OdGeVector3d& normal) { return normal.x == 0 && normal.y == 
 std::vector<Grip> lineGrips(const OdDbEntity& entity) {
   const auto& line = as<OdDbLine>(entity);
   const OdGePoint3d a = line.startPoint(), b = line.endPoint();
-  return {{{(a.x + b.x) / 2, (a.y + b.y) / 2, (a.z + b.z) / 2}, kWhole}, {a, 1}, {b, 2}};
+  return {
+      {{(a.x + b.x) / 2, (a.y + b.y) / 2, (a.z + b.z) / 2}, kWhole}, {a, 1, true}, {b, 2, true}};
 }
 
 bool stretchLine(OdDbEntity& entity, int number, const OdGePoint3d& to) {
@@ -69,7 +71,8 @@ std::vector<Grip> arcGrips(const OdDbEntity& entity) {
   const auto& arc = as<OdDbArc>(entity);
   std::vector<Grip> grips{{arc.center(), kWhole}};
   if (liesFlat(arc.normal()))
-    grips.insert(grips.end(), {{arc.startPoint(), 1}, {arc.endPoint(), 2}, {middleOf(arc), 3}});
+    grips.insert(grips.end(),
+                 {{arc.startPoint(), 1, true}, {arc.endPoint(), 2, true}, {middleOf(arc), 3}});
   return grips;
 }
 
@@ -93,13 +96,29 @@ std::vector<Grip> polylineGrips(const OdDbEntity& entity) {
   std::vector<Grip> grips;
   if (!liesFlat(polyline.normal())) return grips;
   for (unsigned i = 0; i < polyline.numVerts(); ++i)
-    grips.push_back({polyline.worldPointAt(i), static_cast<int>(i) + 1});
+    grips.push_back({polyline.worldPointAt(i), static_cast<int>(i) + 1, true});
   return grips;
 }
 
 bool stretchPolyline(OdDbEntity& entity, int number, const OdGePoint3d& to) {
   as<OdDbPolyline>(entity).setPointAt(static_cast<unsigned>(number - 1), {to.x, to.y});
   return true;
+}
+
+std::vector<Grip> dimensionGrips(const OdDbEntity& entity) {
+  const auto& dimension = as<OdDbAlignedDimension>(entity);
+  return {{dimension.xLine1Point(), 1, true},
+          {dimension.xLine2Point(), 2, true},
+          {dimension.dimLinePoint(), 3, true}};
+}
+
+bool stretchDimension(OdDbEntity& entity, int number, const OdGePoint3d& to) {
+  auto& dimension = as<OdDbAlignedDimension>(entity);
+  if (number == 1) dimension.setXLine1Point(to);
+  if (number == 2) dimension.setXLine2Point(to);
+  if (number == 3) dimension.setDimLinePoint(to);
+  // Without a drawing it has no block of its own.
+  return !dimension.database() || dimension.recomputeDimBlock();
 }
 
 template <class T>
@@ -119,6 +138,7 @@ const Row kRows[] = {
     {OdDbCircle::desc, circleGrips, stretchCircle},
     {OdDbArc::desc, arcGrips, stretchArc},
     {OdDbPolyline::desc, polylineGrips, stretchPolyline},
+    {OdDbAlignedDimension::desc, dimensionGrips, stretchDimension},
     {OdDbBlockReference::desc, atPosition<OdDbBlockReference>, nullptr},
     {OdDbText::desc, atPosition<OdDbText>, nullptr},
     {OdDbPoint::desc, atPosition<OdDbPoint>, nullptr},

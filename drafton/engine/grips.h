@@ -10,6 +10,8 @@ namespace drafton {
 struct Grip {
   OdGePoint3d at;
   int number = 0; ///< for moveGrip()
+  /// True for an end or a corner: entities are stretched by moving some of these.
+  bool isCorner = false;
 };
 
 /// Ends, corners, middles, centres and insertion points, by the kind of the entity; empty for kinds

@@ -1,7 +1,8 @@
-#include "drafton/desktop/grips.h"
+#include "drafton/engine/grips.h"
 
 #include "drawing/entities/arc.h"
 #include "drawing/entities/circle.h"
+#include "drawing/entities/dimension_kinds.h"
 #include "drawing/entities/line.h"
 #include "drawing/entities/point.h"
 #include "drawing/entities/polyline.h"
@@ -60,6 +61,16 @@ TEST(Grips, KindsWithoutGripsHaveNoneAndDoNotMove) {
   const auto solid = odrxMake<OdDbSolid>();
   EXPECT_TRUE(gripsOf(*solid).empty());
   EXPECT_FALSE(moveGrip(*solid, 0, {1, 1, 0}));
+}
+
+TEST(Grips, OfADimensionAreItsPoints) {
+  const auto dimension = odrxMake<OdDbRotatedDimension>(
+      0.0, OdGePoint3d{0, 0, 0}, OdGePoint3d{10, 0, 0}, OdGePoint3d{10, 4, 0});
+  EXPECT_EQ(gripsOf(*dimension).size(), 3u);
+  EXPECT_TRUE(moved(*dimension, {10, 0, 0}, {12, 0, 0}));
+  EXPECT_EQ(dimension->xLine2Point(), OdGePoint3d(12, 0, 0));
+  EXPECT_TRUE(moved(*dimension, {10, 4, 0}, {10, 7, 0}));
+  EXPECT_EQ(dimension->dimLinePoint(), OdGePoint3d(10, 7, 0));
 }
 
 } // namespace
