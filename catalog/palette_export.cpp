@@ -9,6 +9,9 @@
 #include "images/image_home.h"
 #include "images/image_list.h"
 #include "images/picture_file.h"
+#include "persistence/path_operations.h"
+#include "tools/action_agent.h"
+#include "tools/tool_source.h"
 
 #include <QSet>
 
@@ -38,6 +41,32 @@ class AtTarget {
  private:
   OdTcToolPalette& m_palette;
   const OdString m_former;
+};
+
+/// Lets tools name their sources by whole paths for as long as it lives: those that start from the
+/// palette's folder lead nowhere from another one.
+class WholeSources {
+ public:
+  WholeSources() = default;
+  WholeSources(const WholeSources&) = delete;
+  WholeSources& operator=(const WholeSources&) = delete;
+  ~WholeSources() {
+    for (const auto& [agent, former] : m_former) agent->setSourcePath(former);
+  }
+
+  void resolve(OdTcToolActionAgent* agent) {
+    const OdString former = agent ? agent->sourcePath() : OdString();
+    OdString whole = former.isEmpty() ? OdString() : sourceFromPalette(*agent, former);
+    // What is not found stays as it is written.
+    if (odpath::isRelative(whole)) return;
+    if (whole.contains(QLatin1String("\\..\\"))) normalizePath(whole);
+    if (whole == former) return;
+    m_former.emplace_back(agent, former);
+    agent->setSourcePath(whole);
+  }
+
+ private:
+  std::vector<std::pair<OdTcToolActionAgent*, OdString>> m_former;
 };
 
 /// Files that are put in the place of others, and those put back unless all went through.
@@ -106,8 +135,14 @@ class Exporter {
     try {
       gather(m_palette);
       const OdTcEnumPtr<OdTcTool> tools = m_palette.enumTools();
-      while (OdTcTool* const tool = tools->next()) gather(*tool);
+      WholeSources sources;
+      while (OdTcTool* const tool = tools->next()) {
+        gather(*tool);
+        sources.resolve(tool->getActionAgent());
+      }
       MadeFolders folders(m_report.imageFolder + QLatin1String("\\Images"));
+      // Without pictures nobody else makes it; a failure is told when the file is written.
+      odrxSystemServices()->createFolder(odpath::folderOf(m_report.file));
       Replacement replacement;
       const AtTarget atTarget(m_palette, m_report.file);
       for (const auto& [image, file] : m_pictures) copyPicture(*image, file, replacement);

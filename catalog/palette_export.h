@@ -15,7 +15,8 @@ struct OdTcExportReport {
   OdString problem; ///< why the file was not written; empty if it was
 };
 
-/// Writes the palette as an exchange file with its pictures beside it. Pictures of a former export
+/// Writes the palette as an exchange file with its pictures beside it; sources that are found from
+/// the palette's folder go with their whole paths. Pictures of a former export
 /// are replaced; nothing but the file and what lies in its folder of pictures is touched, and the
 /// palette stays where it is.
 OdTcExportReport exportPalette(OdTcToolPalette& palette, const OdString& target);

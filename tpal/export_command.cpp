@@ -3,6 +3,7 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "tpal/command.h"
+#include "tpal/console_host.h"
 #include "tpal/loaded_catalog.h"
 
 #include <QFileInfo>
@@ -44,7 +45,9 @@ ExitCode exportCommand(const Arguments& arguments, Console& console) {
     return kUsage;
   }
   const ModuleClasses classes;
-  const LoadedCatalog loaded = loadCatalog(arguments.words[0]);
+  // Sources that start from the catalog are to be found from anywhere.
+  const LoadedCatalog loaded =
+      loadCatalog(QFileInfo(odpath::toPlatform(arguments.words[0])).absoluteFilePath());
   for (const OdString& message : loaded.messages) console.err << "tpal: " << message << "\n";
   if (!loaded.isRead) return kFailed;
   OdString problem;
@@ -53,6 +56,8 @@ ExitCode exportCommand(const Arguments& arguments, Console& console) {
     console.err << "tpal: " << problem << "\n";
     return kFailed;
   }
+  // Others know nothing of the macro for this folder.
+  ConsoleHost::instance().setToolPaletteFolders({});
   const tc::OdTcExportReport report =
       tc::exportPalette(*palette, odpath::fromPlatform(target.absoluteFilePath()));
   print(report, arguments.json, console);

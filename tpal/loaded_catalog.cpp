@@ -47,6 +47,7 @@ LoadedCatalog openOrNewCatalog(const OdString& folder) {
   target.catalog->setId(odrxSystemServices()->createGuid());
   target.catalog->setName(QStringLiteral("Tool Palettes"));
   target.isRead = true;
+  target.messages.clear(); // of a file that is not there, as it is to be made
   return target;
 }
 

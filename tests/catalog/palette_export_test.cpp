@@ -1,6 +1,7 @@
 #include "catalog/palette_export.h"
 
 #include "catalog/import_fixture.h"
+#include "tools/action_agent.h"
 
 #include <QXmlStreamReader>
 
@@ -55,6 +56,19 @@ TEST_F(PaletteExportTest, HasTheFormThatOtherProgramsLookFor) {
   EXPECT_TRUE(bytes.contains("src=\".\\Images\\a.png\""));
   EXPECT_TRUE(bytes.contains("<Tool idValue="));
   EXPECT_EQ(readFile(u"out\\q\\Images\\a.png"_s), png());
+}
+
+TEST_F(PaletteExportTest, LeavesThePaletteItsOwnSources) {
+  writeFile(u"c\\Palettes\\near.dwg"_s, "a drawing");
+  OdTcToolActionAgent* agent = nullptr;
+  const auto tools = palette->enumTools();
+  while (OdTcTool* const tool = tools->next())
+    if (tool->name() == u"B"_s) agent = tool->getActionAgent();
+  ASSERT_TRUE(agent);
+  agent->setSourcePath(u"near.dwg"_s);
+  EXPECT_EQ(text(exportTo(u"out\\q.xtp"_s).problem), "");
+  EXPECT_TRUE(readFile(u"out\\q.xtp"_s).contains("\\c\\Palettes\\near.dwg</SourceFile>"));
+  EXPECT_EQ(agent->sourcePath(), u"near.dwg"_s);
 }
 
 TEST_F(PaletteExportTest, ComesBackAsItWasButForIdsAndTimes) {

@@ -1,6 +1,7 @@
 #include "tpal/writable_catalog.h"
 
 #include "catalog/database.h"
+#include "frame/file_path.h"
 #include "tpal/tool_fixture.h"
 
 #include <QLockFile>
@@ -152,6 +153,33 @@ TEST_F(WritableCatalogTest, ExportsNothingOfAPaletteThatCannotBeRead) {
   EXPECT_TRUE(out().contains(u"not written: the palette could not be read: "_s))
       << qPrintable(out());
   EXPECT_EQ(read(u"out.xtp"_s), former);
+}
+
+TEST_F(WritableCatalogTest, IsMadeWithoutAWordOfWhatIsNotThereYet) {
+  write(u"plan.dxf"_s, "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+  run({u"make"_s, path(u"new"_s), u"P"_s, path(u"plan.dxf"_s)});
+  EXPECT_TRUE(QFile::exists(path(u"new/DrfTcCatalog.dtc"_s)));
+  EXPECT_TRUE(err().isEmpty()) << qPrintable(err());
+}
+
+TEST_F(WritableCatalogTest, ExportsSourcesThatAreFoundFromAnywhere) {
+  write(u"c/lib/door.dwg"_s, "a drawing");
+  write(u"blocks/desk.dwg"_s, "a drawing");
+  const QByteArray block = "<Block><BlockType>2</BlockType><SourceFile>";
+  writeCatalog(tool("{1}", "Door",
+                    block + "%UserProfileSamplesFolder%\\lib\\door.dwg</SourceFile></Block>") +
+               tool("{2}", "Desk", block + "..\\..\\blocks\\desk.dwg</SourceFile></Block>") +
+               tool("{3}", "Gone", block + "..\\gone.dwg</SourceFile></Block>"));
+  const QByteArray before = read(u"c/Palettes/p.dtc"_s);
+  const QString folder = QDir::current().relativeFilePath(path(u"c"_s));
+  EXPECT_EQ(run({u"export"_s, folder, u"P"_s, path(u"x/out.xtp"_s)}), tpal::kOk)
+      << qPrintable(out() + err());
+  const QByteArray exported = read(u"x/out.xtp"_s);
+  for (const QString& file : {u"c/lib/door.dwg"_s, u"blocks/desk.dwg"_s})
+    EXPECT_TRUE(exported.contains("<SourceFile>" + odpath::fromPlatform(path(file)).toUtf8() + "<"))
+        << exported.data();
+  EXPECT_TRUE(exported.contains("<SourceFile>..\\gone.dwg<"));
+  EXPECT_EQ(read(u"c/Palettes/p.dtc"_s), before);
 }
 
 TEST_F(WritableCatalogTest, ClaimsNothingOfWhatIsNotWritten) {
