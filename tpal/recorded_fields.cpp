@@ -5,6 +5,8 @@
 #include "images/image_list.h"
 #include "persistence/filer.h"
 #include "persistence/path_operations.h"
+#include "tools/action_agent.h"
+#include "tools/tool_source.h"
 #include "tpal/loaded_catalog.h"
 
 #include <algorithm>
@@ -62,6 +64,7 @@ class FieldRecorder final : public tc::OdTcFiler {
 
   QMap<OdString, OdString> fields;
   OdString home;
+  const tc::OdTcToolActionAgent* agent = nullptr; ///< whose source it is
 
  private:
   static bool isPassedOver(const OdString& name) {
@@ -86,13 +89,17 @@ class FieldRecorder final : public tc::OdTcFiler {
     OdString place = m_place + name;
     for (int number = 2; fields.contains(place); ++number)
       place = m_place + name + QStringLiteral(" %1").arg(number);
-    fields.insert(place, fromHome(value));
+    fields.insert(place, name == QLatin1String("SourceFile") ? fromHome(value) : value);
   }
   OdString fromHome(const OdString& value) const {
-    const OdString path = tc::expandedStoredPath(value);
+    OdString path = tc::expandedStoredPath(value);
+    if (agent) path = tc::sourceFromPalette(*agent, path);
+    if (odpath::isRelative(path)) return value; // none, or one that is not found
+    tc::normalizePath(path);
     OdString relative;
-    return tc::isInsideFolder(path, home) && tc::makeRelativePath(path, home, relative) ? relative
-                                                                                        : value;
+    const bool isBelow =
+        tc::isInsideFolder(path, home) && tc::makeRelativePath(path, home, relative);
+    return isBelow ? relative : path;
   }
 
   OdString m_place;
@@ -101,10 +108,11 @@ class FieldRecorder final : public tc::OdTcFiler {
 
 } // namespace
 
-QMap<OdString, OdString> fieldsOf(tc::OdTcPersist& item, const OdString& home) {
+QMap<OdString, OdString> fieldsOf(tc::OdTcTool& tool, const OdString& home) {
   const auto recorder = odrxMake<FieldRecorder>();
   recorder->home = home;
-  item.write(recorder.get());
+  recorder->agent = tool.getActionAgent();
+  tool.write(recorder.get());
   return recorder->fields;
 }
 

@@ -1,10 +1,15 @@
 // tpal resave: a catalog read and written anew.
 #include "catalog/catalog_save.h"
 #include "catalog/database.h"
+#include "catalog/inside_folder.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
+#include "tools/action_agent.h"
+#include "tools/tool_source.h"
+#include "tpal/brought_file.h"
 #include "tpal/command.h"
+#include "tpal/console_host.h"
 #include "tpal/loaded_catalog.h"
 #include "tpal/writable_catalog.h"
 
@@ -12,6 +17,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 #include <optional>
@@ -36,11 +42,16 @@ class Resaver {
   Resaver(WritableCatalog& catalog, const OdString& target)
     : m_catalog(catalog)
     , m_sourceFolder(odpath::folderOf(catalog.file()))
-    , m_targetFolder(target.isEmpty() ? m_sourceFolder : odpath::fromPlatform(target))
+    , m_targetFolder(target.isEmpty() ? m_sourceFolder : wholePath(target))
     , m_inPlace(target.isEmpty()) {}
 
   std::vector<Outcome> run() {
     dropMissing();
+    if (!m_inPlace) {
+      for (const tc::OdTcToolPalette* palette : palettesOf(*m_catalog)) bringSources(*palette);
+      // From here on the macro for the folder of catalogs stands for the new one.
+      ConsoleHost::instance().setToolPaletteFolders({m_targetFolder});
+    }
     for (tc::OdTcToolPalette* palette : palettesOf(*m_catalog)) resave(*palette);
     saveCatalog(m_targetFolder + u'\\' + OdString::fromUtf16(tc::kCatalogFileName));
     return std::move(m_outcomes);
@@ -92,11 +103,49 @@ class Resaver {
       return;
     }
     const OdString target = m_targetFolder + u'\\' + relative;
-    odrxSystemServices()->createFolder(odpath::folderOf(target));
-    copyPictures(odpath::folderOf(file), odpath::folderOf(target));
-    const bool isWritten = palette.saveCopy(target);
-    noteSave(target, isWritten, palette.getDatabase()->saveProblem());
+    bringPictures(odpath::folderOf(file), odpath::folderOf(target));
+    const OdString problem = saveCopy(palette, target);
+    noteSave(target, problem.isEmpty(), problem);
     notePictures(palette, target);
+  }
+
+  /// Writes the copy in one step: the former one may be in use. Gives why that failed.
+  static OdString saveCopy(tc::OdTcToolPalette& palette, const OdString& target) {
+    OdRxSystemServices* const services = odrxSystemServices();
+    services->createFolder(odpath::folderOf(target));
+    const OdString fresh = target + QLatin1String(".new");
+    const bool isWritten = palette.saveCopy(fresh);
+    if (isWritten && services->replaceFile(fresh, target)) return {};
+    if (services->fileExists(fresh)) services->removeFile(fresh);
+    return isWritten ? QStringLiteral("the file cannot be replaced")
+                     : palette.getDatabase()->saveProblem();
+  }
+
+  /// What tools bring in from the catalog's folder goes with it; what lies elsewhere stays there,
+  /// and is found by its whole path.
+  void bringSources(const tc::OdTcToolPalette& palette) {
+    for (const tc::OdTcTool* tool : toolsOf(palette)) {
+      tc::OdTcToolActionAgent* const agent = tool->getActionAgent();
+      const OdString former = agent ? agent->sourcePath() : OdString();
+      OdString source = former.isEmpty() ? OdString() : tc::sourceFromPalette(*agent, former);
+      if (odpath::isRelative(source)) continue; // none, or one that is not found
+      tc::normalizePath(source);
+      OdString inside;
+      if (!tc::isInsideFolder(source, m_sourceFolder) ||
+          !tc::makeRelativePath(source, m_sourceFolder, inside)) {
+        agent->setSourcePath(source);
+        continue;
+      }
+      const OdString target = m_targetFolder + u'\\' + inside;
+      bring(source, target);
+      if (!odpath::isRelative(former)) agent->setSourcePath(target);
+    }
+  }
+  void bring(const OdString& source, const OdString& target) {
+    if (m_brought.contains(target) || !odrxSystemServices()->fileExists(source)) return;
+    m_brought << target;
+    const OdString problem = bringFile(source, target);
+    if (!problem.isEmpty()) noteSave(target, false, problem);
   }
 
   void notePictures(const tc::OdTcToolPalette& palette, const OdString& file) {
@@ -114,21 +163,19 @@ class Resaver {
   }
 
   /// The pictures go first, so that writing the palette finds them in place.
-  void copyPictures(const OdString& from, const OdString& to) {
-    const OdString source = from + QLatin1String("\\Images");
-    const OdString target = to + QLatin1String("\\Images");
-    const QStringList names = odrxSystemServices()->filesIn(source);
-    if (names.isEmpty()) return;
-    odrxSystemServices()->createFolder(target);
-    for (const OdString& name : names)
-      if (!odrxSystemServices()->fileExists(target + u'\\' + name))
-        odrxSystemServices()->copyFile(source + u'\\' + name, target + u'\\' + name);
+  void bringPictures(const OdString& from, const OdString& to) {
+    for (const OdString& name : odrxSystemServices()->filesIn(from + QLatin1String("\\Images")))
+      bring(from + QLatin1String("\\Images\\") + name, to + QLatin1String("\\Images\\") + name);
+  }
+  static OdString wholePath(const OdString& folder) {
+    return odpath::fromPlatform(QFileInfo(odpath::toPlatform(folder)).absoluteFilePath());
   }
 
   WritableCatalog& m_catalog;
   OdString m_sourceFolder;
   OdString m_targetFolder;
   bool m_inPlace;
+  QSet<OdString> m_brought; ///< files of the copy
   std::vector<Outcome> m_outcomes;
 };
 

@@ -52,7 +52,7 @@ WritableCatalog::WritableCatalog(const OdString& folder, Writes writes, const Ar
     m_lock.emplace(place, arguments, console);
     if (!m_lock->isHeld()) return;
   }
-  load(mayBeNew ? place : folder, mayBeNew);
+  load(mayBeNew || writes == Writes::kElsewhere ? place : folder, mayBeNew);
   for (const OdString& message : m_loaded.messages) console.err << "tpal: " << message << "\n";
   if (!m_loaded.isRead) return;
   const auto missing = missingPalettes(*m_loaded.catalog);

@@ -43,9 +43,12 @@ TEST_F(DiffCommand, FindsNothingBetweenACatalogAndItsCopy) {
   write(u"c/lib/doors.dwg"_s, "a drawing");
   const QByteArray source = odpath::fromPlatform(path(u"c/lib/doors.dwg"_s)).toUtf8();
   const QByteArray block = "<Block><BlockType>2</BlockType><SourceFile>";
-  writeCatalog(line() + tool("{2}", "Door", block + source + "</SourceFile></Block>"));
-  ASSERT_EQ(run({u"resave"_s, path(u"c"_s), u"--to"_s, path(u"old"_s)}), tpal::kOk);
-  EXPECT_EQ(diff(), tpal::kOk) << qPrintable(out() + err());
+  write(u"far/plan.dwg"_s, "a drawing");
+  writeCatalog(line() + tool("{2}", "Door", block + source + "</SourceFile></Block>") +
+               tool("{3}", "Plan", block + "..\\..\\far\\plan.dwg</SourceFile></Block>"));
+  ASSERT_EQ(run({u"resave"_s, path(u"c"_s), u"--to"_s, path(u"deep/old"_s)}), tpal::kOk);
+  EXPECT_EQ(run({u"diff"_s, path(u"deep/old"_s), path(u"c"_s)}), tpal::kOk)
+      << qPrintable(out() + err());
   EXPECT_TRUE(out().isEmpty());
 }
 

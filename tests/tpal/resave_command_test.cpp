@@ -33,6 +33,56 @@ TEST_F(ResaveCommand, WritesElsewhereAndLeavesTheSourceAlone) {
   EXPECT_EQ(read(QStringLiteral("d/Palettes/Images/a.png")), QByteArray("picture"));
 }
 
+TEST_F(ResaveCommand, TakesWhatToolsBringInFromTheCatalogsFolderAlong) {
+  const QByteArray block = "<Block><BlockType>2</BlockType><SourceFile>";
+  write(QStringLiteral("c/lib/door.dwg"), "a door");
+  write(QStringLiteral("c/lib/desk.dwg"), "a desk");
+  write(QStringLiteral("far/plan.dwg"), "a plan");
+  writeCatalog(tool("{1}", "Door",
+                    block + "%UserProfileSamplesFolder%\\lib\\door.dwg</SourceFile></Block>") +
+               tool("{2}", "Desk", block + "..\\lib\\desk.dwg</SourceFile></Block>") +
+               tool("{3}", "Plan", block + "..\\..\\far\\plan.dwg</SourceFile></Block>"));
+  const QByteArray before = read(QStringLiteral("c/Palettes/p.dtc"));
+  const QStringList to{QStringLiteral("--to"), path(QStringLiteral("deep/er/d"))};
+  ASSERT_EQ(resave(to), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(read(QStringLiteral("deep/er/d/lib/door.dwg")), QByteArray("a door"));
+  EXPECT_EQ(read(QStringLiteral("deep/er/d/lib/desk.dwg")), QByteArray("a desk"));
+  const QByteArray palette = read(QStringLiteral("deep/er/d/Palettes/p.dtc"));
+  EXPECT_TRUE(palette.contains(">%UserProfileSamplesFolder%\\lib\\door.dwg<")) << palette.data();
+  EXPECT_TRUE(palette.contains(">..\\lib\\desk.dwg<")) << palette.data();
+  EXPECT_TRUE(palette.contains("\\far\\plan.dwg<")) << palette.data();
+  EXPECT_EQ(read(QStringLiteral("c/Palettes/p.dtc")), before);
+  QDir(path(QStringLiteral("c"))).removeRecursively();
+  EXPECT_EQ(run({QStringLiteral("check"), path(QStringLiteral("deep/er/d"))}), tpal::kOk)
+      << qPrintable(out());
+}
+
+TEST_F(ResaveCommand, BringsAFormerCopyUpToDate) {
+  const QByteArray block = "<Block><BlockType>2</BlockType><SourceFile>..\\door.dwg</SourceFile>";
+  writeCatalog(tool("{1}", "Door", block + "</Block>"));
+  write(QStringLiteral("c/door.dwg"), "a door");
+  write(QStringLiteral("c/Palettes/Images/a.png"), "old picture");
+  const QStringList to{QStringLiteral("--to"), path(QStringLiteral("d"))};
+  ASSERT_EQ(resave(to), tpal::kOk) << qPrintable(out() + err());
+  write(QStringLiteral("c/door.dwg"), "A door");
+  write(QStringLiteral("c/Palettes/Images/a.png"), "new picture");
+  ASSERT_EQ(resave(to), tpal::kOk) << qPrintable(out() + err());
+  EXPECT_EQ(read(QStringLiteral("d/door.dwg")), QByteArray("A door"));
+  EXPECT_EQ(read(QStringLiteral("d/Palettes/Images/a.png")), QByteArray("new picture"));
+  EXPECT_EQ(QDir(path(QStringLiteral("d"))).entryList(QDir::Files).size(), 2)
+      << "nothing is left of the way there";
+}
+
+TEST_F(ResaveCommand, NamesASourceThatCannotBeCopied) {
+  writeCatalog(
+      tool("{1}", "Door",
+           "<Block><BlockType>2</BlockType><SourceFile>..\\door.dwg</SourceFile></Block>"));
+  write(QStringLiteral("c/door.dwg"), "a door");
+  QDir().mkpath(path(QStringLiteral("d/door.dwg"))); // a folder stands in its place
+  EXPECT_EQ(resave({QStringLiteral("--to"), path(QStringLiteral("d"))}), tpal::kFailed);
+  EXPECT_TRUE(out().contains(QStringLiteral("d/door.dwg: not written: "))) << qPrintable(out());
+}
+
 TEST_F(ResaveCommand, LeavesAloneWhatItCannotRead) {
   write(QStringLiteral("c/Palettes/p.dtc"), "<Palette><Tools>");
   EXPECT_EQ(resave(), tpal::kFindings);
