@@ -159,7 +159,7 @@ constexpr ActionRow kActions[] = {
     {.name = u"ELLIPSE", .menu = M::kDraw, .toolbar = T::kDraw},
     {.name = u"SPLINE", .menu = M::kDraw, .toolbar = T::kDraw},
     {.name = u"DONUT", .menu = M::kDraw},
-    {.name = u"POINT", .menu = M::kDraw, .toolbar = T::kDraw},
+    {.name = u"POINT", .menu = M::kDraw},
     {.name = u"BHATCH", .menu = M::kDraw, .toolbar = T::kDraw, .startsGroup = true},
     {.name = u"BOUNDARY", .menu = M::kDraw},
     {.name = u"TEXT", .menu = M::kDraw, .toolbar = T::kDraw, .startsGroup = true},
@@ -215,6 +215,7 @@ constexpr ActionRow kActions[] = {
 
     {.name = u"DIMLINEAR", .menu = M::kDimension, .toolbar = T::kDraw},
     {.name = u"DIMALIGNED", .menu = M::kDimension},
+    {.name = u"DIMCONTINUE", .menu = M::kDimension},
     {.name = u"DIMRADIUS", .menu = M::kDimension},
     {.name = u"DIMDIAMETER", .menu = M::kDimension},
     {.name = u"LEADER", .menu = M::kDimension, .startsGroup = true},

@@ -5,6 +5,7 @@
 #include "drafton/engine/translator.h"
 
 #include <QMenuBar>
+#include <QToolButton>
 
 namespace drafton {
 namespace {
@@ -61,6 +62,9 @@ void WindowActions::addToolbars(QMainWindow& window) {
     bar->setObjectName(OdString::fromUtf16(title.name));
     for (const ActionRow& row : actionTable())
       if (row.toolbar == title.toolbar) bar->addAction(find(row.name));
+    // Qt shows it where there is no room for all of them, and gives it no name.
+    if (auto* const more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+      more->setAccessibleName(translated(u"More commands"));
   }
 }
 

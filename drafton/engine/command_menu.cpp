@@ -54,6 +54,8 @@ constexpr MenuRow kMenu[] = {
      u"^C^C_DIMLINEAR "},
     {u"DIMALIGNED", u"Aligned Dimension", u"Dimension the distance of t&wo points",
      u"^C^C_DIMALIGNED "},
+    {u"DIMCONTINUE", u"Continue Dimension", u"Dimension &on from where the last dimension ends",
+     u"^C^C_DIMCONTINUE "},
     {u"DIMRADIUS", u"Radius Dimension", u"Dimension a rad&ius", u"^C^C_DIMRADIUS "},
     {u"DIMDIAMETER", u"Diameter Dimension", u"Dimension a dia&meter", u"^C^C_DIMDIAMETER "},
     {u"INSERT", u"Insert", u"&Insert a block", u"^C^C_INSERT "},

@@ -26,6 +26,7 @@ constexpr Alias kAliases[] = {
     {u"CP", u"COPY"},
     {u"D", u"DIMSTYLE"},
     {u"DAL", u"DIMALIGNED"},
+    {u"DCO", u"DIMCONTINUE"},
     {u"DDI", u"DIMDIAMETER"},
     {u"DI", u"DIST"},
     {u"DLI", u"DIMLINEAR"},

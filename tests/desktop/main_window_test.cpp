@@ -13,6 +13,8 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 #include <QUrl>
 
 using namespace drafton;
@@ -247,6 +249,20 @@ TEST_F(MainWindowTest, TheStatusBarTellsWhereTheCursorIs) {
   ASSERT_EQ(parts.size(), 2);
   EXPECT_NEAR(parts[0].toDouble(), 3, 0.06);
   EXPECT_NEAR(parts[1].toDouble(), -4, 0.06);
+}
+
+TEST_F(MainWindowTest, TheButtonForWhatAToolbarHasNoRoomForHasAName) {
+  int buttons = 0;
+  for (const drafton::ToolbarTitle& title : drafton::toolbarTitles()) {
+    const auto* const bar = window().findChild<QToolBar*>(OdString::fromUtf16(title.name));
+    ASSERT_TRUE(bar);
+    for (const QToolButton* const button : bar->findChildren<QToolButton*>())
+      if (!button->defaultAction()) {
+        ++buttons;
+        EXPECT_EQ(button->accessibleName(), QStringLiteral("More commands"));
+      }
+  }
+  EXPECT_EQ(buttons, 4);
 }
 
 TEST_F(MainWindowTest, EachDrawingHasItsTabAndItsOwnCommands) {

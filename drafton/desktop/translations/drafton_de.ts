@@ -5205,5 +5205,29 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Polar</source>
         <translation>Polar</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>Weitere Befehle</translation>
+    </message>
+    <message>
+        <source>Continue Dimension</source>
+        <translation>Bemaßung fortsetzen</translation>
+    </message>
+    <message>
+        <source>Dimension &amp;on from where the last dimension ends</source>
+        <translation>V&amp;om Ende der letzten Bemaßung an weiterbemaßen</translation>
+    </message>
+    <message>
+        <source>Select the dimension to go on from</source>
+        <translation>Bemaßung wählen, von der es weitergeht</translation>
+    </message>
+    <message>
+        <source>Only linear and aligned dimensions can be continued.</source>
+        <translation>Nur lineare und ausgerichtete Bemaßungen können fortgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>Specify next extension line origin</source>
+        <translation>Ursprung der nächsten Hilfslinie angeben</translation>
+    </message>
 </context>
 </TS>

@@ -42,6 +42,7 @@ Task<void> spline(CommandContext& context);
 Task<void> leader(CommandContext& context);
 Task<void> linearDimension(CommandContext& context);
 Task<void> alignedDimension(CommandContext& context);
+Task<void> continueDimension(CommandContext& context);
 Task<void> radiusDimension(CommandContext& context);
 Task<void> diameterDimension(CommandContext& context);
 Task<void> dimensionStyle(CommandContext& context);

@@ -46,6 +46,7 @@ constexpr NativeCommand kCommands[] = {
     {u"LEADER", kOrdinary, leader},
     {u"DIMLINEAR", kOrdinary, linearDimension},
     {u"DIMALIGNED", kOrdinary, alignedDimension},
+    {u"DIMCONTINUE", kOrdinary, continueDimension},
     {u"DIMRADIUS", kOrdinary, radiusDimension},
     {u"DIMDIAMETER", kOrdinary, diameterDimension},
     {u"DIMSTYLE", kOrdinary, dimensionStyle},

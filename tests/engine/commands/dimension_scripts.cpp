@@ -1,4 +1,4 @@
-// DIMLINEAR, DIMALIGNED, DIMRADIUS, DIMDIAMETER.
+// DIMLINEAR, DIMALIGNED, DIMCONTINUE, DIMRADIUS, DIMDIAMETER.
 
 #include "drafton/engine/value_parser.h"
 #include "drawing/entities/dimension_kinds.h"
@@ -82,6 +82,18 @@ constexpr Script kDimensions[] = {
     {"List", u"DIMSTYLE|?|*", u"*Standard 2.5;new 2.5", nullptr, describeStyles},
     {"TextWithCodes", u"DIMLINEAR|0,0|10,5|m|about <>|4,9",
      u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = about 10", nullptr, describeDimensions},
+    {"Row", u"DIMCONTINUE|14,0|20,1|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10;rotated 0: 10,5,0 14,0,0 line 14,9,0 = 4;"
+     u"rotated 0: 14,0,0 20,1,0 line 20,9,0 = 6",
+     u"DIMLINEAR|0,0|10,5|4,9", describeDimensions},
+    {"RowUndone", u"DIMCONTINUE|u|14,0|20,1|u|14,0|18,0|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10;rotated 0: 10,5,0 14,0,0 line 14,9,0 = 4;"
+     u"rotated 0: 14,0,0 18,0,0 line 18,9,0 = 4",
+     u"DIMLINEAR|0,0|10,5|4,9", describeDimensions},
+    {"RowOfAnAlignedOne", u"DIMCONTINUE|s|l|30,0|",
+     u"aligned: 0,0,0 10,10,0 line 0,20,0 = 14,14;rotated 45: 10,10,0 30,0,0 line 5,25,0 = 7,07",
+     u"DIMALIGNED|0,0|10,10|0,20", describeDimensions},
+    {"RowWithoutAStart", u"DIMCONTINUE|l|", u"", u"LINE|0,0|10,0|", describeDimensions},
     {"Above", u"DIMLINEAR|0,0|10,5|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr,
      describeDimensions},
     {"Beside", u"DIMLINEAR|0,0|10,5|12,3", u"rotated 90: 0,0,0 10,5,0 line 12,5,0 = 5", nullptr,
