@@ -1,6 +1,7 @@
 // tpal check: what is wrong with a catalog.
 #include "frame/file_path.h"
 #include "tpal/command.h"
+#include "tpal/csv.h"
 #include "tpal/finding.h"
 
 #include <QJsonArray>
@@ -39,7 +40,12 @@ ExitCode checkCommand(const Arguments& arguments, Console& console) {
     for (Finding& finding : examine(loadCatalog(folder)))
       if (isWanted(arguments, finding.kind)) findings.push_back(std::move(finding));
 
-  if (arguments.json) {
+  if (arguments.csv) {
+    CsvWriter table(console.out, {QStringLiteral("File"), QStringLiteral("Code"),
+                                  QStringLiteral("Kind"), QStringLiteral("Text")});
+    for (const Finding& f : findings)
+      table.row({odpath::toPlatform(f.file), codeOf(f.kind), wordOf(f.kind), f.text});
+  } else if (arguments.json) {
     QJsonArray rows;
     for (const Finding& f : findings)
       rows.append(QJsonObject{{QStringLiteral("code"), codeOf(f.kind)},

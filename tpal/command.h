@@ -26,6 +26,7 @@ struct Arguments {
   /// --map, in the order of the command line
   tc::OdTcFolderMap map;
   bool json = false;            ///< --json
+  bool csv = false;             ///< --csv
   bool dryRun = false;          ///< --dry-run
   bool convertCommands = false; ///< --convert-commands
   bool missing = false;         ///< --missing

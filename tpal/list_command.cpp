@@ -1,6 +1,7 @@
 // tpal list: the tree of catalogs, groups, palettes and tools.
 #include "frame/file_path.h"
 #include "tpal/command.h"
+#include "tpal/csv.h"
 #include "tpal/loaded_catalog.h"
 
 #include <QJsonArray>
@@ -96,6 +97,32 @@ void print(QTextStream& out, const QJsonObject& node, int depth) {
   for (const QJsonValue& child : children) print(out, child.toObject(), depth + 1);
 }
 
+/// A row for each tool, and for each palette without any; `groups` lead there.
+void addRows(CsvWriter& table, const QJsonObject& node, const OdString& catalog,
+             const QStringList& groups, const OdString& palette) {
+  const auto text = [&](const char* name) { return node[QLatin1String(name)].toString(); };
+  const OdString type = text("type");
+  const QJsonArray children = node[QStringLiteral("children")].toArray();
+  const bool isGroup = type == QLatin1String("group");
+  const bool isPalette = type.endsWith(QLatin1String("palette"));
+  if (type == QLatin1String("tool"))
+    table.row({catalog, groups.join(u'/'), palette, text("name"), text("kind"), text("command"),
+               text("id")});
+  else if (isPalette && children.isEmpty())
+    table.row({catalog, groups.join(u'/'), text("name"), {}, type, {}, text("id")});
+  for (const QJsonValue& child : children)
+    addRows(table, child.toObject(), catalog, isGroup ? groups + QStringList(text("name")) : groups,
+            isPalette ? text("name") : palette);
+}
+
+void printTable(const QJsonArray& trees, QTextStream& out) {
+  CsvWriter table(out, {QStringLiteral("Catalog"), QStringLiteral("Group"),
+                        QStringLiteral("Palette"), QStringLiteral("Tool"), QStringLiteral("Kind"),
+                        QStringLiteral("Command"), QStringLiteral("Id")});
+  for (const QJsonValue& tree : trees)
+    addRows(table, tree.toObject(), tree[QStringLiteral("file")].toString(), {}, {});
+}
+
 } // namespace
 
 ExitCode listCommand(const Arguments& arguments, Console& console) {
@@ -113,7 +140,9 @@ ExitCode listCommand(const Arguments& arguments, Console& console) {
     if (!loaded.messages.isEmpty()) result = std::max(result, kFindings);
     trees.append(TreeBuilder(*loaded.catalog).build(odpath::toPlatform(loaded.file)));
   }
-  if (arguments.json)
+  if (arguments.csv)
+    printTable(trees, console.out);
+  else if (arguments.json)
     console.out << OdString::fromUtf8(QJsonDocument(trees).toJson());
   else
     for (const QJsonValue& tree : trees) print(console.out, tree.toObject(), 0);

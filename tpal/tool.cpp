@@ -15,12 +15,12 @@ constexpr int kAnyNumber = 1 << 20;
 constexpr Command kCommands[] = {
     {"list", "list DIR...",
      "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.",
-     "--json ", 1, kAnyNumber, false, listCommand},
+     "--csv --json ", 1, kAnyNumber, false, listCommand},
     {"check", "check DIR...",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
      "references, ids that stand twice, tools that do nothing, paths that lead nowhere, unknown\n"
      "patterns, and files of palettes and pictures that belong to nothing.",
-     "--only --ignore --json ", 1, kAnyNumber, true, checkCommand},
+     "--only --ignore --csv --json ", 1, kAnyNumber, true, checkCommand},
     {"diff", "diff DIR DIR",
      "Says what the second catalog has that the first has not, what it lacks, and what differs,\n"
      "value by value. Palettes and tools are told by their ids.",
@@ -137,6 +137,8 @@ constexpr Option kOptions[] = {
      takeKinds<&Arguments::only>},
     {"--ignore", "CODE,...", "codes of findings", "says nothing of these",
      takeKinds<&Arguments::ignored>},
+    {"--csv", nullptr, nullptr, "the result as a table for spreadsheets",
+     takeSwitch<&Arguments::csv>},
     {"--json", nullptr, nullptr, "the result as JSON on standard output",
      takeSwitch<&Arguments::json>},
 };

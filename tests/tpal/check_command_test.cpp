@@ -53,6 +53,15 @@ TEST_F(CheckCommand, NamesTheFileThatDiffersInUpperAndLowerCaseAlone) {
   EXPECT_TRUE(out().contains(QStringLiteral("PALETTES/p.dtc"))) << qPrintable(out());
 }
 
+TEST_F(CheckCommand, GivesATableForSpreadsheets) {
+  writeCatalog(tool("{1}", "Idle", {}));
+  run({QStringLiteral("check"), path(QStringLiteral("c")), QStringLiteral("--csv")});
+  EXPECT_TRUE(out().contains(QStringLiteral("File,Code,Kind,Text\r\n"))) << qPrintable(out());
+  EXPECT_TRUE(out().endsWith(QStringLiteral(
+      "/c/Palettes/p.dtc,C105,tool-without-agent,\"tool \"\"Idle\"\" does nothing\"\r\n")))
+      << qPrintable(out());
+}
+
 TEST_F(CheckCommand, NamesFilesAsTheSystemDoes) {
   writeCatalog(tool("{1}", "Idle", {}));
   EXPECT_EQ(codes(), QStringList{QStringLiteral("C105")});

@@ -38,6 +38,24 @@ TEST_F(ListCommand, GivesTheSameTreeAsJson) {
   EXPECT_EQ(line[QStringLiteral("command")].toString(), QStringLiteral("_LINE"));
 }
 
+TEST_F(ListCommand, GivesATableForSpreadsheets) {
+  writeCatalog(tool("{1}", "Say &quot;no&quot;, twice", "<Command Macro=\"_A&#x0A;_B\"/>") +
+               tool("{2}", "Line", "<Command Macro=\"_LINE\"/>"));
+  ASSERT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c")), QStringLiteral("--csv")}),
+            tpal::kOk);
+  const QString file = path(QStringLiteral("c/DrfTcCatalog.dtc"));
+  EXPECT_EQ(out(), QChar(QChar::ByteOrderMark) +
+                       QStringLiteral("Catalog,Group,Palette,Tool,Kind,Command,Id\r\n") + file +
+                       QStringLiteral(",G,P,\"Say \"\"no\"\", twice\",command,\"_A\n_B\",{1}\r\n") +
+                       file + QStringLiteral(",G,P,Line,command,_LINE,{2}\r\n"));
+}
+
+TEST_F(ListCommand, ShowsPalettesWithoutToolsInTheTable) {
+  writeCatalog({});
+  run({QStringLiteral("list"), path(QStringLiteral("c")), QStringLiteral("--csv")});
+  EXPECT_TRUE(out().endsWith(QStringLiteral(",G,P,,palette,,{P}\r\n"))) << qPrintable(out());
+}
+
 TEST_F(ListCommand, NamesACatalogThatIsNotThereAndGoesOnWithTheNext) {
   writeCatalog({});
   EXPECT_EQ(
