@@ -199,7 +199,8 @@ class Examination {
     } else {
       add(FindingKind::kUnresolvedPath, file,
           QStringLiteral("tool \"%1\": there is no file %2 beside the palette")
-              .arg(tool.name(), source));
+                  .arg(tool.name(), source) +
+              m_spelling.hint(tc::combinePath(source, file)));
     }
   }
 

@@ -197,6 +197,30 @@ bool isSameFolder(const OdString& a, const OdString& b) {
   return !place.isEmpty() && place == QFileInfo(odpath::toPlatform(b)).canonicalFilePath();
 }
 
+/// The catalog that a copy would take the place of.
+struct Former {
+  OdString file, id, name, problem;
+
+  explicit Former(const OdString& folder) {
+    const LoadedCatalog loaded = loadCatalog(folder);
+    file = loaded.file;
+    if (!odrxSystemServices()->fileExists(file)) return;
+    id = loaded.catalog->id();
+    name = loaded.catalog->name();
+    problem = loaded.catalog->readProblem();
+  }
+  /// Why it must stay: it is no former copy; empty if it may go.
+  OdString whyToStay(const OdString& copied) const {
+    const OdString place = odpath::toPlatform(file);
+    if (!problem.isEmpty())
+      return QStringLiteral("%1 cannot be read, and may be another catalog: %2")
+          .arg(place, problem);
+    if (!id.isEmpty() && id != copied)
+      return QStringLiteral("%1 is another catalog, \"%2\"").arg(place, name);
+    return {};
+  }
+};
+
 } // namespace
 
 ExitCode resaveCommand(const Arguments& arguments, Console& console) {
@@ -208,10 +232,16 @@ ExitCode resaveCommand(const Arguments& arguments, Console& console) {
     targetLock.emplace(arguments.to, arguments, console);
     if (!targetLock->isHeld()) return kFailed;
   }
+  const auto former = inPlace ? std::nullopt : std::optional<Former>(arguments.to);
   WritableCatalog catalog(
       source, inPlace ? WritableCatalog::Writes::kCatalog : WritableCatalog::Writes::kElsewhere,
       arguments, console);
   if (!catalog.isOpen()) return kFailed;
+  const OdString reason = former ? former->whyToStay(catalog->id()) : OdString();
+  if (!reason.isEmpty()) {
+    console.err << "tpal: " << reason << "; nothing is written\n";
+    return kFailed;
+  }
   try {
     const std::vector<Outcome> outcomes =
         Resaver(catalog, inPlace ? OdString() : arguments.to).run();

@@ -53,6 +53,17 @@ TEST_F(CheckCommand, NamesTheFileThatDiffersInUpperAndLowerCaseAlone) {
   EXPECT_TRUE(out().contains(QStringLiteral("PALETTES/p.dtc"))) << qPrintable(out());
 }
 
+TEST_F(CheckCommand, NamesTheSourceThatIsSpelledOtherwise) {
+  writeCatalog(tool("{1}", "Door",
+                    "<Block><BlockType>2</BlockType><SourceFile>..\\Lib\\door.dwg</SourceFile>"
+                    "</Block>"));
+  write(QStringLiteral("c/lib/Door.DWG"), "a drawing");
+  if (QFile::exists(path(QStringLiteral("c/Lib")))) return; // here case is the same
+  EXPECT_EQ(codes(), QStringList{QStringLiteral("C106")});
+  EXPECT_TRUE(out().contains(QStringLiteral("it is spelled otherwise: "))) << qPrintable(out());
+  EXPECT_TRUE(out().contains(QStringLiteral("/lib/Door.DWG"))) << qPrintable(out());
+}
+
 TEST_F(CheckCommand, GivesATableForSpreadsheets) {
   writeCatalog(tool("{1}", "Idle", {}));
   run({QStringLiteral("check"), path(QStringLiteral("c")), QStringLiteral("--csv")});

@@ -57,6 +57,22 @@ TEST_F(ResaveCommand, TakesWhatToolsBringInFromTheCatalogsFolderAlong) {
       << qPrintable(out());
 }
 
+TEST_F(ResaveCommand, WritesOverNoOtherCatalog) {
+  const QStringList to{QStringLiteral("--to"), path(QStringLiteral("d"))};
+  const QByteArray others[] = {"<Catalog><ItemID idValue=\"{OTHER}\"/><Properties><ItemName>Theirs"
+                               "</ItemName></Properties></Catalog>",
+                               "<Catalog><Pal"};
+  for (const QByteArray& other : others) {
+    write(QStringLiteral("d/DrfTcCatalog.dtc"), other);
+    EXPECT_EQ(resave(to), tpal::kFailed);
+    EXPECT_TRUE(err().contains(QStringLiteral("another catalog"))) << qPrintable(err());
+    EXPECT_EQ(read(QStringLiteral("d/DrfTcCatalog.dtc")), other);
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("d/Palettes"))));
+  }
+  EXPECT_TRUE(QFile::remove(path(QStringLiteral("d/DrfTcCatalog.dtc"))));
+  EXPECT_EQ(resave(to), tpal::kOk) << qPrintable(err());
+}
+
 TEST_F(ResaveCommand, BringsAFormerCopyUpToDate) {
   const QByteArray block = "<Block><BlockType>2</BlockType><SourceFile>..\\door.dwg</SourceFile>";
   writeCatalog(tool("{1}", "Door", block + "</Block>"));
