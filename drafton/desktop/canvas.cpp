@@ -60,8 +60,15 @@ void Canvas::beginClosing() {
 
 void Canvas::showAll() {
   if (!m_document) return;
+  m_view.keepFormer();
   m_view.showAll();
   viewMoved();
+}
+
+bool Canvas::showFormer() {
+  if (!m_document || !m_view.showFormer()) return false;
+  viewMoved();
+  return true;
 }
 
 void Canvas::viewMoved() {

@@ -29,6 +29,8 @@ class Canvas : public QWidget {
   QPointF widgetPointOf(const OdGePoint3d& point) const;
   /// Shows all of the drawing.
   void showAll();
+  /// Goes back to before showAll(); false if the view was given by something else since.
+  bool showFormer();
   /// Ends a box or a grip that is being drawn; else chooses nothing any more. False if there was
   /// nothing to give up.
   bool giveUp();

@@ -110,6 +110,22 @@ void CanvasView::zoom(double factor, const QPointF& pixel) {
   m_document.setPixelSize(pixelSize());
 }
 
+void CanvasView::keepFormer() {
+  constexpr std::size_t kMost = 100;
+  if (m_former.size() == kMost) m_former.erase(m_former.begin());
+  m_former.push_back(m_view);
+}
+
+bool CanvasView::showFormer() {
+  if (m_former.empty()) return false;
+  const QSizeF size = m_view.size;
+  m_view = m_former.back();
+  m_view.size = size;
+  m_former.pop_back();
+  m_document.setPixelSize(pixelSize());
+  return true;
+}
+
 bool CanvasView::followTab() {
   const OdDbDatabase& database = *m_document.database();
   const OdDbObjectId tab = oddb::activeLayout(database);
@@ -118,6 +134,7 @@ bool CanvasView::followTab() {
   m_isSheet = isSheet;
   m_block = isSheet ? layout->getBlockTableRecordId() : database.getModelSpaceId();
   if (tab == m_tab) return false;
+  m_former.clear();
   if (m_isShown) m_others[m_tab] = m_view;
   m_tab = tab;
   if (const auto known = m_others.find(tab); known != m_others.end()) {
@@ -138,6 +155,7 @@ bool CanvasView::follow() {
   if (now == m_told) return isOtherTab;
   m_told = now;
   if (isOtherTab) return true;
+  m_former.clear();
   m_view = viewFrom(now);
   m_document.setPixelSize(pixelSize());
   return true;

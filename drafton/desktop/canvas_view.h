@@ -44,6 +44,12 @@ class CanvasView {
   /// Shows all of the drawing, or of the layout its sheet.
   void showAll();
 
+  /// Keeps what is in view for showFormer().
+  void keepFormer();
+  /// Shows what was kept last, once; false if nothing was, or it was before a ZOOM or in another
+  /// tab.
+  bool showFormer();
+
   /// Goes to another tab or view where the drawing has a new one (by ZOOM, undo or LAYOUT). True if
   /// anything moved.
   bool follow();
@@ -64,6 +70,7 @@ class CanvasView {
   OdDbObjectId m_block;
   OdDbObjectId m_tab; ///< its layout
   bool m_isSheet = false;
+  std::vector<View> m_former;            ///< the latest last
   std::map<OdDbObjectId, View> m_others; ///< of tabs that are not shown
   DrawingView m_told;                    ///< what the drawing's record says
   DrawingView m_left;                    ///< what it said when it was opened

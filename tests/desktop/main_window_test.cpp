@@ -233,6 +233,34 @@ TEST_F(MainWindowTest, DoubleMiddleClickShowsEverything) {
   EXPECT_FALSE(canvas().rect().contains(at(900, 900)));
 }
 
+TEST_F(MainWindowTest, ShowingAllAndGoingBackLeavesCommandsAndTheDrawingAlone) {
+  type("LINE 1000,1000 1010,1010  ");
+  database().setSaved();
+  const std::size_t steps = database().undoDepth();
+  const QPoint before = at(0, 0);
+  type("LINE 0,0 ");
+  window().actions().find(u"zoomExtents")->trigger();
+  EXPECT_TRUE(canvas().rect().adjusted(4, 4, -4, -4).contains(at(1000, 1000))) << "with room";
+  EXPECT_FALSE(canvas().rect().contains(at(900, 900)));
+  window().actions().find(u"zoomPrevious")->trigger();
+  EXPECT_LE((at(0, 0) - before).manhattanLength(), 2);
+  EXPECT_TRUE(desktop().isBusy()) << "the line waits for its next point";
+  press(Qt::Key_Escape);
+  EXPECT_EQ(database().undoDepth(), steps);
+  EXPECT_FALSE(database().isModified());
+}
+
+TEST_F(MainWindowTest, GoingBackFindsTheViewBeforeZoomWhereThatWasLater) {
+  type("LINE 0,0 5,5  ");
+  const QPoint before = at(0, 0);
+  window().actions().find(u"zoomExtents")->trigger();
+  const QPoint shown = at(5, 5);
+  type("ZOOM Center 100,100 10 ");
+  window().actions().find(u"zoomPrevious")->trigger();
+  EXPECT_LE((at(5, 5) - shown).manhattanLength(), 2);
+  EXPECT_GT((at(0, 0) - before).manhattanLength(), 2) << "one step back, not two";
+}
+
 TEST_F(MainWindowTest, ZoomAndItsUndoMoveTheCanvas) {
   type("LINE 0,0 1,1  ");
   const QPoint before = at(0, 0);
