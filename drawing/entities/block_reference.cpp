@@ -64,8 +64,8 @@ std::optional<OdCmColor> pieceColor(const OdDbEntity& attribute,
   const OdCmColor color = attribute.color();
   if (color.isByBlock()) return std::nullopt;
   if (!color.isByLayer()) return color;
-  // Layer 0 is that of whatever stands around.
-  if (!layer || layer->objectId() == attribute.database()->getLayerZeroId()) return std::nullopt;
+  // Layer 0 is that of whatever stands around. Copies that are shown at a cursor are in no drawing.
+  if (!layer || layer->objectId() == layer->database()->getLayerZeroId()) return std::nullopt;
   return layer->color();
 }
 

@@ -167,6 +167,19 @@ TEST_F(CanvasTest, EachEditingCommandShowsWhatBecomesOfTheChoice) {
   EXPECT_EQ(only<OdDbLine>()->startPoint().x, 1) << "nothing of it was done";
 }
 
+TEST_F(CanvasTest, AnInsertWithAttributesIsShownWhileItIsMoved) {
+  type("LAYER Make Tags  ATTDEF \nNo\nNumber?\n1\n0,0 3 0 BLOCK Tag 0,0 Last  ");
+  type("INSERT Tag 2,2 1 1 0 42\n");
+  ASSERT_EQ(entities().size(), 1u);
+  moveTo(-5, -5);
+  const QImage before = grabbed();
+  type("MOVE Last  0,0 ");
+  moveTo(5, 5);
+  EXPECT_EQ(shown(5, 5).size(), 1u);
+  EXPECT_NE(grabbed(), before);
+  press(Qt::Key_Escape);
+}
+
 TEST_F(CanvasTest, ABlockHangsAtTheCursorThenTurns) {
   type("CIRCLE 0,0 1 BLOCK dot 0,0 Last\n\n");
   type("INSERT dot\n");
