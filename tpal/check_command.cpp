@@ -23,7 +23,7 @@ bool isWanted(const Arguments& arguments, FindingKind kind) {
          !isAmong(arguments.ignored, kind);
 }
 
-/// How many of each kind, beside the result: a long list hides the rare ones.
+/// How many of each kind, for who looks on: a long list hides the rare ones.
 void printCounts(const std::vector<Finding>& findings, QTextStream& err) {
   std::map<FindingKind, int> counts;
   for (const Finding& f : findings) ++counts[f.kind];
@@ -59,7 +59,7 @@ ExitCode checkCommand(const Arguments& arguments, Console& console) {
                   << ": " << f.text << "\n";
   }
   console.out.flush();
-  printCounts(findings, console.err);
+  if (console.showsProgress) printCounts(findings, console.err);
   return findings.empty() ? kOk : kFindings;
 }
 

@@ -128,12 +128,8 @@ bool BatchRun::drawPicture(Engine& engine) {
 
 int BatchRun::runScript(Engine& engine, ScriptSource& script) {
   while (!script.isEnded() && !engine.isExiting() && script.waitForInput()) engine.run();
-  QStringList waiting;
   for (const auto& document : engine.documents().documents())
-    waiting << document->processor().runningCommands();
-  waiting << engine.currentProcessor().runningCommands();
-  if (!script.isEnded() && !waiting.isEmpty())
-    script.fail(translated(u"The script ends while %1 waits for input.").arg(waiting.first()));
+    if (!script.isEnded()) script.missInput(document->processor());
   engine.cancelAll();
   if (script.isEnded()) return failLine(script.failure());
   return script.hasFailed() ? kExitScriptFailed : kExitOk;

@@ -27,7 +27,13 @@ bool ScriptSource::readPiece(OdString& piece, bool& endsLine) {
 bool ScriptSource::waitForInput() {
   OdString piece;
   bool endsLine = false;
-  if (isEnded() || m_engine->isExiting() || !readPiece(piece, endsLine)) return false;
+  if (isEnded() || m_engine->isExiting()) return false;
+  if (!readPiece(piece, endsLine)) {
+    // A command that was run by another is given up as soon as nothing more comes, and would be
+    // gone once the script is at its end.
+    missInput(m_engine->currentProcessor());
+    return false;
+  }
   const bool startsLine = !std::exchange(m_inLine, !endsLine);
   if (startsLine) {
     ++m_lineNumber;
@@ -62,6 +68,12 @@ void ScriptSource::activate(const OdString& name) {
   for (const auto& document : m_engine->documents().documents())
     if (document->name() == name) return m_engine->documents().activate(*document);
   fail(translated(u"There is no open drawing \"%1\".").arg(name.left(kShownText)));
+}
+
+void ScriptSource::missInput(const CommandProcessor& processor) {
+  const QStringList waiting = processor.runningCommands();
+  if (waiting.isEmpty() || std::exchange(m_missesInput, true)) return;
+  fail(translated(u"The script ends while %1 waits for input.").arg(waiting.last()));
 }
 
 void ScriptSource::fail(const OdString& reason) {

@@ -23,6 +23,8 @@ class ScriptSource : public InputSource {
   /// Types the next piece, at most one line. False at the end of the script and after a failure.
   bool waitForInput() override;
 
+  /// Fails the script if a command waits that nothing more comes for; once, whatever waits.
+  void missInput(const CommandProcessor& processor);
   /// Ends the script at the current line; one that goes on tells of it and goes on.
   void fail(const OdString& reason);
   /// From here on the script goes on behind lines that fail; `tell` is given what failure() gives.
@@ -47,6 +49,7 @@ class ScriptSource : public InputSource {
   qint64 m_lineNumber = 0;
   OdString m_lineText; // the beginning of the line, for messages
   bool m_hasFailed = false;
+  bool m_missesInput = false;
   OdString m_reason;
   std::function<void(const OdString& failure)> m_tell;
 };

@@ -54,6 +54,31 @@ TEST_F(ScriptTest, AToolRunsByItsLine) {
   EXPECT_EQ(m_script.failure(), QStringLiteral("line 3: TOOL:Other\nThere is no tool \"Other\"."));
 }
 
+TEST_F(ScriptTest, ACommandInsideAnotherThatGetsNothingMoreFailsTheScript) {
+  // So do tools whose command runs one of the host's: that one is given up before the script ends.
+  m_engine.completion().registerSource(
+      QStringLiteral("tools"), [&](const HostEdCompletion::Callback& offer) {
+        auto entry = std::make_shared<HostEdCompletion::Entry>();
+        entry->displayText = QStringLiteral("TOOL:Asks");
+        entry->action = std::make_shared<HostEdCompletion::CallFunction>(
+            [&] { m_engine.currentProcessor().run(QStringLiteral("ASKTEXT"), nullptr); });
+        offer(entry);
+      });
+  run("TOOL:Asks\nabc\nTOOL:Asks\n");
+  EXPECT_TRUE(m_console.shows(QStringLiteral("got <abc>")));
+  EXPECT_TRUE(m_script.hasFailed());
+  EXPECT_EQ(m_script.failure(), QStringLiteral("line 3: TOOL:Asks\nThe script ends while ASKTEXT "
+                                               "waits for input."));
+}
+
+TEST_F(ScriptTest, TellsOnceThatAtItsEndACommandWaits) {
+  QStringList failures;
+  m_script.keepGoing([&](const OdString& failure) { failures << failure; });
+  run("ASKTEXT\n");
+  m_script.missInput(m_engine.currentProcessor());
+  EXPECT_EQ(failures.size(), 1) << failures.join(u'\n').toStdString();
+}
+
 TEST_F(ScriptTest, GoesOnBehindLinesThatFailIfToldSo) {
   QStringList failures;
   m_script.keepGoing([&](const OdString& failure) { failures << failure; });

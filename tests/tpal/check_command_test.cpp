@@ -103,6 +103,9 @@ TEST_F(CheckCommand, LooksForWhatIsWantedAlone) {
   writeCatalog(tool("{1}", "One", "<Command Macro=\"_LINE\"/>") + tool("{1}", "Two", {}));
   const QStringList check{QStringLiteral("check"), path(QStringLiteral("c"))};
   EXPECT_EQ(run(check), tpal::kFindings);
+  EXPECT_TRUE(err().isEmpty()) << "a script takes that for an error";
+  m_isTerminal = true;
+  EXPECT_EQ(run(check), tpal::kFindings);
   EXPECT_EQ(out().count(u'\n'), 2) << qPrintable(out());
   EXPECT_EQ(err(),
             QStringLiteral("tpal: C104 duplicate-id: 1\ntpal: C105 tool-without-agent: 1\n"));

@@ -17,7 +17,7 @@ class ToolFixture : public testing::Test {
     m_err.clear();
     QTextStream out(&m_out);
     QTextStream err(&m_err);
-    tpal::Console console{out, err};
+    tpal::Console console{out, err, m_isTerminal};
     return tpal::runTool(arguments, console);
   }
   const QString& out() const { return m_out; }
@@ -53,6 +53,8 @@ class ToolFixture : public testing::Test {
     return "<Tool><ItemID idValue=\"" + id + "\"/><Properties><ItemName>" + name +
            "</ItemName></Properties><ToolType>1</ToolType><Data>" + data + "</Data></Tool>";
   }
+
+  bool m_isTerminal = false;
 
  private:
   QTemporaryDir m_folder;
