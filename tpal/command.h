@@ -46,7 +46,8 @@ struct Console {
 /// One command of the tool.
 struct Command {
   const char* name;
-  const char* synopsis;
+  const char*
+      synopsis; ///< with the options that it does not work without or that exclude each other
   const char* description;
   /// The options that it takes, each followed by a blank.
   const char* options;

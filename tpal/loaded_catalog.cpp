@@ -3,6 +3,7 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "module/entry/class_table.h"
+#include "module/string_table.h"
 #include "persistence/path_operations.h"
 #include "properties/property_bag.h"
 #include "tools/action_agent.h"
@@ -37,6 +38,8 @@ LoadedCatalog loadCatalog(const OdString& folder) {
   }
   result.isRead = result.catalog->load(result.file) && !result.catalog->isUnread();
   result.messages = ConsoleHost::instance().takeMessages();
+  // What a window shows of it names neither the file nor the reason; the line before it does.
+  result.messages.removeAll(tc::stringText(tc::StringId::kPaletteReadError));
   return result;
 }
 

@@ -13,10 +13,10 @@ namespace {
 constexpr int kAnyNumber = 1 << 20;
 
 constexpr Command kCommands[] = {
-    {"list", "list DIR...",
+    {"list", "list DIR... [--csv | --json]",
      "Shows the tree: catalogs, groups, palettes, and tools with their kind and command.",
      "--csv --json ", 1, kAnyNumber, false, listCommand},
-    {"check", "check DIR...",
+    {"check", "check DIR... [--csv | --json]",
      "Looks for files that cannot be read, palettes and pictures that are missing, dangling\n"
      "references, ids that stand twice, tools that do nothing, paths that lead nowhere, unknown\n"
      "patterns, and files of palettes and pictures that belong to nothing.",
@@ -28,12 +28,12 @@ constexpr Command kCommands[] = {
     {"resave", "resave DIR",
      "Reads a catalog with its palettes and writes them anew, in place or into another folder.",
      "--to --drop-missing --wait --json ", 1, 1, false, resaveCommand},
-    {"relocate", "relocate DIR",
+    {"relocate", "relocate DIR --map OLD=NEW...",
      "Lets the tools of a catalog find their source files in folders that have moved. Says of "
      "each\n"
      "tool where it looks from now on, and whether the file is there.",
      "--map --dry-run --wait --json ", 1, 1, false, relocateCommand},
-    {"import", "import FILE...",
+    {"import", "import FILE... --into DIR",
      "Takes palettes of AutoCAD into a catalog: exported ones (.xtp), palettes and catalogs of "
      "its\n"
      "stores (.atc), and all of these in a folder. Says of each tool what became of it.",
@@ -48,7 +48,7 @@ constexpr Command kCommands[] = {
      "they\n"
      "are not there.",
      "--blocks --group --dry-run --wait --json ", 3, kAnyNumber, true, makeCommand},
-    {"images", "images DIR",
+    {"images", "images DIR [--missing | --rebuild]",
      "Says which tools lack a picture at which size; makes those that are missing, or all anew.",
      "--missing --rebuild --wait --json ", 1, 1, true, imagesCommand},
 };
@@ -62,7 +62,6 @@ struct Option {
   const char* need;  ///< what that is, in words
   const char* help;
   TakeValue take;
-  bool isNeeded = false; ///< commands that take it do not work without
   bool isRepeated = false;
 };
 
@@ -113,13 +112,12 @@ constexpr Option kOptions[] = {
     {"--to", "DIR", "a folder", "where to write instead", takeText<&Arguments::to>},
     {"--into", "DIR", "a folder",
      "the folder of the catalog that takes the palettes; a new one is made if there is none",
-     takeText<&Arguments::into>, true},
+     takeText<&Arguments::into>},
     {"--group", "NAME", "a name", "the group that is to hold them; made if it is not there",
      takeText<&Arguments::group>},
     {"--dry-run", nullptr, nullptr, "only looks and reports", takeSwitch<&Arguments::dryRun>},
     {"--map", "OLD=NEW", "OLD=NEW",
-     "source files below the folder OLD are looked for below NEW from now on", takeMap, false,
-     true},
+     "source files below the folder OLD are looked for below NEW from now on", takeMap, true},
     {"--convert-commands", nullptr, nullptr,
      "makes command tools of other products' tools that are but a macro",
      takeSwitch<&Arguments::convertCommands>},
@@ -165,9 +163,9 @@ OdString usageOf(const Command& command) {
   OdString usage = QStringLiteral("tpal ") + QLatin1String(command.synopsis);
   qsizetype length = usage.size();
   for (const Option& option : kOptions) {
-    if (!isOffered(command, option)) continue;
-    OdString word = withValue(option);
-    if (!option.isNeeded) word = u'[' + word + u']';
+    const bool isSaidAlready = QLatin1String(command.synopsis).contains(QLatin1String(option.name));
+    if (!isOffered(command, option) || isSaidAlready) continue;
+    OdString word = u'[' + withValue(option) + u']';
     if (option.isRepeated) word += QLatin1String("...");
     if (length + 1 + word.size() > kWidth) {
       usage += indent;
@@ -277,7 +275,10 @@ ExitCode runTool(const QStringList& words, Console& console) {
     return kUsage;
   }
   Arguments arguments;
-  if (const auto wrong = parse(*command, words.mid(1), arguments)) {
+  auto wrong = parse(*command, words.mid(1), arguments);
+  if (!wrong && arguments.csv && arguments.json)
+    wrong = QStringLiteral("--csv and --json exclude each other");
+  if (wrong) {
     console.err << "tpal: " << *wrong << "; usage: " << usageOf(*command) << "\n";
     return kUsage;
   }

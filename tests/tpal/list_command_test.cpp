@@ -70,6 +70,7 @@ TEST_F(ListCommand, TellsOfPalettesThatCannotBeRead) {
   write(QStringLiteral("c/Palettes/p.dtc"), "<Palette><Tools>");
   EXPECT_EQ(run({QStringLiteral("list"), path(QStringLiteral("c"))}), tpal::kFindings);
   EXPECT_TRUE(err().contains(QStringLiteral("p.dtc"))) << qPrintable(err());
+  EXPECT_EQ(err().count(u'\n'), 1) << qPrintable(err());
 }
 
 TEST_F(ListCommand, CallsAMissingPaletteByItsName) {

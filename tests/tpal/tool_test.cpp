@@ -15,7 +15,8 @@ TEST_F(Tool, ExplainsOneCommand) {
   for (const QStringList& words : {QStringList{QStringLiteral("check"), QStringLiteral("--help")},
                                    QStringList{QStringLiteral("help"), QStringLiteral("check")}}) {
     EXPECT_EQ(run(words), tpal::kOk);
-    EXPECT_TRUE(out().startsWith(QStringLiteral("usage: tpal check DIR... [--only CODE,...]")))
+    EXPECT_TRUE(out().startsWith(
+        QStringLiteral("usage: tpal check DIR... [--csv | --json] [--only CODE,...]")))
         << qPrintable(out());
     EXPECT_TRUE(out().contains(QStringLiteral("--ignore")));
     EXPECT_FALSE(out().contains(QStringLiteral("--rebuild")));
@@ -62,6 +63,9 @@ INSTANTIATE_TEST_SUITE_P(
         WrongUsage{{QStringLiteral("check"), QStringLiteral("x"), QStringLiteral("--only"),
                     QStringLiteral("C101,C999")},
                    "there is no finding \"C999\""},
+        WrongUsage{{QStringLiteral("list"), QStringLiteral("x"), QStringLiteral("--csv"),
+                    QStringLiteral("--json")},
+                   "exclude each other"},
         WrongUsage{{QStringLiteral("resave"), QStringLiteral("x"), QStringLiteral("--wait"),
                     QStringLiteral("-1")},
                    "--wait needs seconds"},
