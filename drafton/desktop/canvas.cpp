@@ -65,6 +65,28 @@ void Canvas::showAll() {
   viewMoved();
 }
 
+void Canvas::beginZoomBox() {
+  if (!m_document) return;
+  m_boxCorner.reset();
+  m_grips.cancel();
+  m_zoomsToBox = true;
+  m_desktop.engine().print(translated(u"Draw a box around what is to be seen."));
+}
+
+void Canvas::pressZoomBox() {
+  if (m_zoomCorner) return endZoomBox();
+  m_zoomCorner = m_cursor;
+  update();
+}
+
+void Canvas::endZoomBox() {
+  m_zoomsToBox = false;
+  const QPointF corner = *std::exchange(m_zoomCorner, std::nullopt);
+  m_view.keepFormer();
+  if (!m_view.showBetween(corner, *m_cursor)) m_view.showFormer();
+  viewMoved();
+}
+
 bool Canvas::showFormer() {
   if (!m_document || !m_view.showFormer()) return false;
   viewMoved();
@@ -103,6 +125,8 @@ bool Canvas::takeWord(const OdString& word) {
 void Canvas::follow() {
   if (!m_document || !m_document->database() || !isVisible()) return;
   m_view.follow();
+  m_zoomsToBox = false;
+  m_zoomCorner.reset();
   if (!isIdle()) {
     m_boxCorner.reset();
     m_grips.cancel();
@@ -171,7 +195,11 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
   } else if (event->button() == Qt::LeftButton) {
     moveCursor();
     m_pressed = *m_cursor;
-    press(event->modifiers());
+    m_zoomsToBox ? pressZoomBox() : press(event->modifiers());
+  } else if (event->button() == Qt::RightButton && m_zoomsToBox) {
+    m_zoomsToBox = false;
+    m_zoomCorner.reset();
+    update();
   } else if (event->button() == Qt::RightButton) {
     const InputRequest* const asked = request();
     const bool wantsSnap = (event->modifiers() & Qt::ShiftModifier) && asked &&
@@ -233,7 +261,9 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event) {
   const QPointF way = *m_cursor - m_pressed;
   if (std::hypot(way.x(), way.y()) < kDragDistance * devicePixelRatioF()) return;
   const InputRequest* const asked = request();
-  if (m_boxCorner)
+  if (m_zoomCorner)
+    endZoomBox();
+  else if (m_boxCorner)
     endBox(event->modifiers());
   else if (m_grips.isDragging())
     m_grips.end(m_desktop, m_place->point);
@@ -354,6 +384,7 @@ void Canvas::paintOver(QPainter& painter) {
   }
   if (!m_cursor || !m_place) return;
   if (m_boxCorner) overlay.selectionBox(*m_boxCorner, *m_cursor);
+  if (m_zoomCorner) overlay.box(*m_zoomCorner, *m_cursor);
   if (base && asked->takesPoints()) {
     const QPointF from = m_view.pixelOf(*base), to = m_view.pixelOf(m_place->point);
     if (asked->band() == RubberBand::kSelection)

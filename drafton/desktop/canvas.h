@@ -29,7 +29,11 @@ class Canvas : public QWidget {
   QPointF widgetPointOf(const OdGePoint3d& point) const;
   /// Shows all of the drawing.
   void showAll();
-  /// Goes back to before showAll(); false if the view was given by something else since.
+  /// The next two clicks, or a drag, are corners of what is to be seen. The right button gives up,
+  /// and so does whatever is typed.
+  void beginZoomBox();
+  /// Goes back to before showAll() or such a box; false if the view was given by something else
+  /// since.
   bool showFormer();
   /// Ends a box or a grip that is being drawn; else chooses nothing any more. False if there was
   /// nothing to give up.
@@ -74,6 +78,8 @@ class Canvas : public QWidget {
   void press(Qt::KeyboardModifiers modifiers);
   void pressIdle(Qt::KeyboardModifiers modifiers);
   void endBox(Qt::KeyboardModifiers modifiers);
+  void pressZoomBox();
+  void endZoomBox();
   PreviewShapes transientShapes() const;
   CanvasLook look() const;
   void paintOver(QPainter& painter);
@@ -90,6 +96,8 @@ class Canvas : public QWidget {
   std::optional<QPointF> m_cursor; ///< pixels; nothing while it is elsewhere
   std::optional<CursorPlace> m_place;
   std::optional<QPointF> m_boxCorner; ///< of a box that is being drawn while no command runs
+  bool m_zoomsToBox = false;
+  std::optional<QPointF> m_zoomCorner; ///< the first one of that box
   QPointF m_pressed;
   bool m_bandAtPress = false;
   Selection m_hovered; ///< what a click or the box would choose

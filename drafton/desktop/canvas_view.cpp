@@ -110,6 +110,19 @@ void CanvasView::zoom(double factor, const QPointF& pixel) {
   m_document.setPixelSize(pixelSize());
 }
 
+bool CanvasView::showBetween(const QPointF& corner, const QPointF& opposite) {
+  constexpr double kLeast = 4; // pixels
+  const QPointF way = opposite - corner;
+  if (std::max(std::abs(way.x()), std::abs(way.y())) < kLeast) return false;
+  OdGeExtents3d box;
+  box.addPoint(pointAt(corner));
+  box.addPoint(pointAt(opposite));
+  m_view = m_view.fitted(box, 0);
+  m_view.scale = std::min(m_view.scale, kLargestScale);
+  m_document.setPixelSize(pixelSize());
+  return true;
+}
+
 void CanvasView::keepFormer() {
   constexpr std::size_t kMost = 100;
   if (m_former.size() == kMost) m_former.erase(m_former.begin());

@@ -44,6 +44,8 @@ class CanvasView {
   /// Shows all of the drawing, or of the layout its sheet.
   void showAll();
 
+  /// Shows what lies between two pixels; false if that is next to nothing.
+  bool showBetween(const QPointF& corner, const QPointF& opposite);
   /// Keeps what is in view for showFormer().
   void keepFormer();
   /// Shows what was kept last, once; false if nothing was, or it was before a ZOOM or in another

@@ -181,6 +181,9 @@ void MainWindow::connectActions() {
   m_actions->connectTo(u"zoomExtents", [this] {
     if (Canvas* const canvas = m_documents->canvas()) canvas->showAll();
   });
+  m_actions->connectTo(u"zoomWindow", [this] {
+    if (Canvas* const canvas = m_documents->canvas()) canvas->beginZoomBox();
+  });
   m_actions->connectTo(u"zoomPrevious", [this] {
     Canvas* const canvas = m_documents->canvas();
     if (canvas && !canvas->showFormer()) m_desktop.runMacro(QStringLiteral("^C^C_ZOOM _Previous "));
@@ -258,9 +261,9 @@ void MainWindow::follow() {
     m_actions->find(row.name)->setChecked(m_aids.isOn(row.aid));
   }
   m_actions->find(u"lineWeights")->setChecked(m_desktop.variable("LWDISPLAY").toBool());
-  for (const char16_t* name :
-       {u"save", u"saveAs", u"close", u"pageSetup", u"print", u"exportPdf", u"selectAll",
-        u"selectNone", u"zoomIn", u"zoomOut", u"zoomExtents", u"zoomPrevious", u"lineWeights"})
+  for (const char16_t* name : {u"save", u"saveAs", u"close", u"pageSetup", u"print", u"exportPdf",
+                               u"selectAll", u"selectNone", u"zoomIn", u"zoomOut", u"zoomExtents",
+                               u"zoomWindow", u"zoomPrevious", u"lineWeights"})
     m_actions->find(name)->setEnabled(hasDocument);
   if (m_desktop.engine().isExiting() && !m_isClosing) QTimer::singleShot(0, this, &QWidget::close);
 }

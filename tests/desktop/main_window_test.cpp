@@ -250,6 +250,33 @@ TEST_F(MainWindowTest, ShowingAllAndGoingBackLeavesCommandsAndTheDrawingAlone) {
   EXPECT_FALSE(database().isModified());
 }
 
+TEST_F(MainWindowTest, ABoxZoomsWhileACommandWaits) {
+  type("LINE 0,0 ");
+  const QPoint before = at(0, 0);
+  window().actions().find(u"zoomWindow")->trigger();
+  click(2, 2);
+  click(6, 4);
+  EXPECT_TRUE(canvas().rect().adjusted(-2, -2, 2, 2).contains(at(2, 2)));
+  EXPECT_TRUE(canvas().rect().adjusted(-2, -2, 2, 2).contains(at(6, 4)));
+  EXPECT_FALSE(canvas().rect().contains(at(0, 0)));
+  window().actions().find(u"zoomPrevious")->trigger();
+  EXPECT_LE((at(0, 0) - before).manhattanLength(), 2);
+  window().actions().find(u"zoomWindow")->trigger();
+  drag(-3, -3, 3, 3);
+  EXPECT_GT((at(0, 0) - at(3, 0)).manhattanLength(), 60) << "by dragging";
+  window().actions().find(u"zoomWindow")->trigger();
+  QTest::mouseClick(&canvas(), Qt::RightButton, Qt::NoModifier, at(1, 1));
+  ASSERT_TRUE(desktop().isBusy()) << "the right button has given the box up, not the line";
+  click(1, 1);
+  type(" ");
+  EXPECT_NEAR(only<OdDbLine>()->endPoint().x, 1, 0.1);
+  document().preselection() = {only<OdDbLine>()->objectId()};
+  window().actions().find(u"zoomWindow")->trigger();
+  drag(0, 0, 1, 0);
+  EXPECT_EQ(document().preselection().size(), 1u)
+      << "what is chosen stays so; a line is a box, too";
+}
+
 TEST_F(MainWindowTest, GoingBackFindsTheViewBeforeZoomWhereThatWasLater) {
   type("LINE 0,0 5,5  ");
   const QPoint before = at(0, 0);

@@ -5229,5 +5229,9 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Specify next extension line origin</source>
         <translation>Ursprung der nächsten Hilfslinie angeben</translation>
     </message>
+    <message>
+        <source>Draw a box around what is to be seen.</source>
+        <translation>Einen Rahmen um das ziehen, was zu sehen sein soll.</translation>
+    </message>
 </context>
 </TS>
