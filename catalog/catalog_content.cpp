@@ -4,12 +4,12 @@
 #include "catalog/database.h"
 #include "catalog/group_tree.h"
 #include "catalog/inside_folder.h"
-#include "catalog/owner_link.h"
 #include "catalog/palette_loader_impl.h"
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "host/host_locator.h"
+#include "module/owner_link.h"
 #include "module/string_table.h"
 
 #include <algorithm>

@@ -4,10 +4,10 @@
 #include "catalog/database.h"
 #include "catalog/group_lists_impl.h"
 #include "catalog/group_tree.h"
-#include "catalog/owner_link.h"
 #include "catalog/palette_loader_impl.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
+#include "module/owner_link.h"
 #include "persistence/path_operations.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 #include "catalog/database_impl.h"
 
-#include "catalog/owner_link.h"
 #include "catalog/palette_ui_impl.h"
 #include "catalog/read_file.h"
 #include "catalog/tool.h"
 #include "catalog/tool_list_impl.h"
 #include "catalog/write_file.h"
 #include "host/host_locator.h"
+#include "module/owner_link.h"
 #include "module/persist_cast.h"
 #include "module/string_table.h"
 #include "persistence/unread_original.h"

@@ -3,10 +3,10 @@
 #include "catalog/catalog.h"
 #include "catalog/group_lists_impl.h"
 #include "catalog/group_tree.h"
-#include "catalog/owner_link.h"
 #include "catalog/palette_soft_ref_impl.h"
 #include "catalog/tool_palette.h"
 #include "host/host_locator.h"
+#include "module/owner_link.h"
 
 namespace tc {
 

@@ -1,7 +1,7 @@
 #include "catalog/group_lists_impl.h"
 
-#include "catalog/owner_link.h"
 #include "catalog/tool_palette.h"
+#include "module/owner_link.h"
 
 #include <utility>
 #include <vector>

@@ -1,10 +1,10 @@
 #include "catalog/palette_loader_impl.h"
 
 #include "catalog/catalog.h"
-#include "catalog/owner_link.h"
 #include "catalog/tool_palette_impl.h"
 #include "frame/file_path.h"
 #include "frame/system_services.h"
+#include "module/owner_link.h"
 #include "persistence/path_operations.h"
 
 namespace tc {

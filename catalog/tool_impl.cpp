@@ -1,8 +1,8 @@
 #include "catalog/tool_impl.h"
 
 #include "catalog/multitool_conversion.h"
-#include "catalog/owner_link.h"
 #include "host/host_locator.h"
+#include "module/owner_link.h"
 #include "persistence/filer.h"
 #include "properties/property.h"
 #include "tools/action_agent.h"

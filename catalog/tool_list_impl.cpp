@@ -1,10 +1,10 @@
 #include "catalog/tool_list_impl.h"
 
-#include "catalog/owner_link.h"
 #include "frame/error.h"
 #include "host/host_locator.h"
 #include "images/image_home.h"
 #include "images/image_list.h"
+#include "module/owner_link.h"
 #include "tools/tool_guard.h"
 
 namespace tc {

@@ -1,10 +1,10 @@
 #include "catalog/tool_palette_impl.h"
 
 #include "catalog/catalog.h"
-#include "catalog/owner_link.h"
 #include "catalog/tool.h"
 #include "frame/file_path.h"
 #include "host/host_locator.h"
+#include "module/owner_link.h"
 #include "module/string_table.h"
 #include "persistence/filer.h"
 #include "persistence/path_operations.h"

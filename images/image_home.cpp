@@ -50,10 +50,11 @@ OdString imageHomePath(const OdTcDatabase* database) {
 }
 
 std::uint32_t imageHomeNumber(const OdString& palettePath) {
+  if (palettePath.isEmpty()) return 0;
   // Images come in runs from one file, so the last path is nearly always the one.
   std::size_t number = g_numbered.size() - 1;
   while (number > 0 && g_numbered[number] != palettePath) --number;
-  if (number == 0 && !palettePath.isEmpty()) {
+  if (number == 0) {
     number = g_numbered.size();
     g_numbered.push_back(palettePath);
   }

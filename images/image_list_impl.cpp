@@ -10,12 +10,19 @@
 #include <utility>
 
 namespace tc {
+namespace {
+
+constexpr std::string_view kAttributes[] = {"cx", "cy", "src", "resource"};
+
+} // namespace
+
+const OdTcPlainElement OdTcImageListImpl::kPlain{"Images", "Image", kAttributes};
 
 // --- reading when asked for
 
 bool OdTcImageListImpl::readElements(OdTcFiler* filer) {
   // Pictures that are asked for later still come from where the list was read from.
-  if (m_home == 0) m_home = imageHomeNumber(imageHomePath(database()));
+  if (!m_home) m_home = imageHomeNumber(imageHomePath(database()));
   m_deferred = filer->takeDeferred();
   return !m_deferred.isEmpty() || OdTcPersistImpl::readElements(filer);
 }
@@ -55,11 +62,6 @@ OdTcEnumPtr<OdTcImage> OdTcImageListImpl::enumImages() const {
   return odrxMake<Enum>(this, images());
 }
 
-std::uint32_t OdTcImageListImpl::options() const {
-  images(); // among which it may stand as an element
-  return m_options;
-}
-
 OdTcImage* OdTcImageListImpl::findBySize(std::int32_t sizeKind) const {
   for (const OdTcImagePtr& image : images())
     if (image->sizeKind() == sizeKind) return image;
@@ -90,7 +92,7 @@ bool OdTcImageListImpl::setFrom(const std::function<bool(OdTcImage& image)>& mak
 }
 
 void OdTcImageListImpl::writeFields(OdTcFiler* filer) {
-  filer->writeAttribute(QStringLiteral("option"), OdString::number(options()));
+  filer->writeAttribute(QStringLiteral("option"), OdString::number(m_options));
   for (const OdTcImagePtr& image : images()) filer->writeObject(image);
 }
 
@@ -106,7 +108,7 @@ bool OdTcImageListImpl::readField(const OdString& name, const OdVariant& value) 
 
 OdRxObjectPtr OdTcImageListImpl::clone() const {
   auto copy = odrxMake<OdTcImageListImpl>();
-  copy->m_options = options();
+  copy->m_options = m_options;
   copy->m_images.reserve(m_images.size());
   for (const OdTcImagePtr& image : images()) copy->m_images.push_back(clonePart(image, copy));
   return copy;

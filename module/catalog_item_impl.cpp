@@ -1,6 +1,7 @@
 #include "module/catalog_item_impl.h"
 
 #include "module/item_order_list_impl.h"
+#include "module/owner_link.h"
 #include "persistence/filer.h"
 
 #include <algorithm>
@@ -37,6 +38,11 @@ void OdTcCatalogItemRecord::setTag2(const OdString& text) {
 OdTcProperties* OdTcCatalogItemRecord::properties(OdTcPersist* owner) const {
   if (!m_properties) m_properties = makeOwned<OdTcProperties>(owner);
   return m_properties;
+}
+
+void OdTcCatalogItemRecord::forget(const OdTcPersist* owner) const {
+  forgetOwner(m_properties, owner);
+  forgetOwner(m_orderList, owner);
 }
 
 OdTcCatalogItemOrderList* OdTcCatalogItemRecord::orderList(OdTcPersist* owner) const {

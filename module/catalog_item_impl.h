@@ -29,6 +29,8 @@ class OdTcCatalogItemRecord {
   void setProperties(const OdTcPropertiesPtr& properties) { m_properties = properties; }
   OdTcCatalogItemOrderList* orderList(OdTcPersist* owner) const;
   void setOrderList(const OdTcCatalogItemOrderListPtr& list) { m_orderList = list; }
+  /// Takes `owner`, which is going, off the parts.
+  void forget(const OdTcPersist* owner) const;
   bool hasOrderList() const { return !m_orderList.isNull(); }
 
   void addReactor(OdTcCatalogItemReactor* reactor);
@@ -73,6 +75,8 @@ template <class T>
 class OdTcCatalogItemImplBase : public OdTcPersistImpl<T> {
  public:
   using Base = OdTcPersistImpl<T>;
+
+  ~OdTcCatalogItemImplBase() override { m_item.forget(this); }
 
   void setName(const OdString& name) override {
     this->properties()->setName(name);

@@ -4,7 +4,6 @@
 #include "frame/string.h"
 
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,9 +18,17 @@ struct OdTcPassedOver {
   std::span<const std::string_view> unlessTheyHold;
 };
 
+/// An element in which nothing stands but children of one name, with some of these attributes, each
+/// once, and with blanks between them. Whatever reads such a content, nothing can go wrong.
+struct OdTcPlainElement {
+  std::string_view name;
+  std::string_view child;
+  std::span<const std::string_view> attributes;
+};
+
 /// Elements whose content is not parsed with the document, since of many it is never asked for.
 struct OdTcDeferral {
-  std::span<const std::string> elements;
+  std::span<const OdTcPlainElement> elements;
   /// In a document that has an element of this name, all is parsed at once.
   std::string_view unlessThereIs;
 };
@@ -59,8 +66,8 @@ inline constexpr qsizetype kMaxDocumentBytes = qsizetype{1} << 30;
 /// - What follows the last element is left out, with a remark.
 /// - What stands in an element that is passed over is checked like all else and then left out, from
 ///   its first child element on: the parser would make many small objects of it for nobody.
-/// - What stands in an element that is deferred is checked as well. It is simple: elements with
-///   attributes and nothing else. If the content of one of them is not, nothing is deferred.
+/// - What stands in an element that is deferred is checked as well. If the content of one of them
+///   is not plain, nothing in the document is deferred.
 OdTcCheckedDocument checkDocument(QByteArray bytes, const OdTcPassedOver* passedOver = nullptr,
                                   const OdTcDeferral& deferral = {});
 

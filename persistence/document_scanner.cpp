@@ -10,6 +10,8 @@
 namespace tc {
 namespace {
 
+/// A piece is kept as it stands, and is to take no more memory than what it says.
+constexpr std::ptrdiff_t kMostDeferredBlanks = 256;
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 constexpr std::string_view kEntities[] = {"&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
 // The parser passes over these as if they were blanks: the byte-order mark and two numbers that are
@@ -116,7 +118,7 @@ QByteArray OdTcDocumentScanner::takeText() {
 bool OdTcDocumentScanner::scanContent() {
   const char* const tag = findChar(m_at, m_end, '<');
   if (tag == m_end) return failUnclosed();
-  if (m_deferring && !std::all_of(m_at, tag, isBlank)) m_canDefer = false;
+  if (m_deferring) checkDeferred(tag);
   checkReferences(m_at, tag);
   m_at = tag;
   return scanMarkup();
@@ -189,7 +191,7 @@ bool OdTcDocumentScanner::scanEndTag() {
                 tr(QStringLiteral("the end of the element \"%1\" is broken")).arg(shortName(name)));
   ++m_at;
   if (m_passage && m_passage->depth == m_open.size()) endPassingOver(start);
-  if (m_deferring && m_deferring->depth == m_open.size()) endDeferring(start);
+  if (m_deferring && m_deferring->passage.depth == m_open.size()) endDeferring(start);
   m_open.pop_back();
   return true;
 }
@@ -202,6 +204,7 @@ bool OdTcDocumentScanner::scanElement() {
   ++m_at;
   const std::string_view name = scanName();
   if (!m_deferral.elements.empty() && name == m_deferral.unlessThereIs) m_canDefer = false;
+  if (m_deferring) checkDeferredChild(name);
   return scanAttributes(name);
 }
 
@@ -237,7 +240,9 @@ bool OdTcDocumentScanner::scanAttribute(std::string_view element) {
         start,
         tr(QStringLiteral("an attribute of the element \"%1\" is broken")).arg(shortName(element)));
   };
-  if (scanName().empty()) return broken();
+  const std::string_view name = scanName();
+  if (name.empty()) return broken();
+  if (m_deferring) checkDeferredAttribute(name);
   skipBlanks();
   if (m_at == m_end || *m_at != '=') return broken();
   ++m_at;
@@ -322,16 +327,31 @@ void OdTcDocumentScanner::endPassingOver(const char* at) {
 }
 
 void OdTcDocumentScanner::beginDeferring(std::string_view name) {
-  if (m_deferring) {
-    m_canDefer = false;
-    return;
-  }
-  const auto& names = m_deferral.elements;
-  if (std::find(names.begin(), names.end(), name) != names.end()) m_deferring = passageFromHere();
+  if (m_deferring) m_canDefer = false; // a child with a content of its own
+  if (!m_canDefer) return;
+  for (const OdTcPlainElement& element : m_deferral.elements)
+    if (name == element.name) m_deferring = Deferring{passageFromHere(), &element};
+}
+
+void OdTcDocumentScanner::checkDeferred(const char* tag) {
+  if (tag - m_at > kMostDeferredBlanks || !std::all_of(m_at, tag, isBlank)) m_canDefer = false;
+}
+
+void OdTcDocumentScanner::checkDeferredChild(std::string_view name) {
+  if (name != m_deferring->element->child) m_canDefer = false;
+  m_deferring->attributes = 0;
+}
+
+void OdTcDocumentScanner::checkDeferredAttribute(std::string_view name) {
+  const auto& known = m_deferring->element->attributes;
+  const auto at = std::find(known.begin(), known.end(), name);
+  const unsigned bit = 1u << (at - known.begin());
+  if (at == known.end() || (m_deferring->attributes & bit)) m_canDefer = false;
+  m_deferring->attributes |= bit;
 }
 
 void OdTcDocumentScanner::endDeferring(const char* at) {
-  const Passage passage = *std::exchange(m_deferring, std::nullopt);
+  const Passage passage = std::exchange(m_deferring, std::nullopt)->passage;
   if (std::all_of(passage.from, at, isBlank)) return;
   replacePassage(passage, at, std::to_string(m_deferred.size()));
   m_deferred.emplace_back(passage.from, at - passage.from);

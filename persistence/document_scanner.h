@@ -66,6 +66,9 @@ class OdTcDocumentScanner {
   void beginPassingOver();
   void endPassingOver(const char* at);
   void beginDeferring(std::string_view name);
+  void checkDeferred(const char* tag);
+  void checkDeferredChild(std::string_view name);
+  void checkDeferredAttribute(std::string_view name);
   void endDeferring(const char* at);
   void replace(const char* at, const char* end, std::string_view by);
 
@@ -95,7 +98,13 @@ class OdTcDocumentScanner {
   std::optional<Passage> m_passage;
 
   const OdTcDeferral m_deferral;
-  std::optional<Passage> m_deferring;
+  /// The content that is being deferred.
+  struct Deferring {
+    Passage passage;
+    const OdTcPlainElement* element;
+    unsigned attributes = 0; ///< of the child that is open: bit n for attribute number n
+  };
+  std::optional<Deferring> m_deferring;
   bool m_canDefer = true;
   std::vector<QByteArray> m_deferred;
 

@@ -27,11 +27,9 @@ void OdTcElementTable::setBuilder(Builder builder) {
   g_isBuilt = false;
 }
 
-void OdTcElementTable::add(const OdString& element, Creator creator, Reading reading) {
+void OdTcElementTable::add(const OdString& element, Creator creator) {
   if (!m_creators.contains(element)) m_names.append(element);
   m_creators.insert(element, creator);
-  std::erase(m_deferredNames, element.toStdString());
-  if (reading == Reading::kWhenAskedFor) m_deferredNames.push_back(element.toStdString());
 }
 
 bool OdTcElementTable::contains(const OdString& element) const {

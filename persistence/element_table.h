@@ -2,10 +2,10 @@
 #pragma once
 
 #include "module/persist.h"
+#include "persistence/document_check.h"
 
 #include <QHash>
 
-#include <string>
 #include <vector>
 
 namespace tc {
@@ -17,9 +17,6 @@ class OdTcElementTable {
   /// Makes a new object with a reference count of 1.
   using Creator = OdTcPersist* (*)();
   using Builder = void (*)(OdTcElementTable& table);
-  /// When a palette's reader parses what stands in an element. An object that is read when asked
-  /// for takes the markup from the filer in its readElements(): see OdTcFiler::takeDeferred().
-  enum class Reading { kAtOnce, kWhenAskedFor };
 
   /// The table of the process, built by the builder at the first lookup and kept from then on.
   static OdTcElementTable& instance();
@@ -27,7 +24,10 @@ class OdTcElementTable {
   static void setBuilder(Builder builder);
 
   /// Enters a row; a later row of the same name takes the place of the earlier one.
-  void add(const OdString& element, Creator creator, Reading reading = Reading::kAtOnce);
+  void add(const OdString& element, Creator creator);
+  /// Says of an element that palettes are read without its content if that is plain. Its object
+  /// takes the markup from the filer in readElements(): see OdTcFiler::takeDeferred().
+  void defer(const OdTcPlainElement& element) { m_deferred.push_back(element); }
   bool contains(const OdString& element) const;
   /// What makes the object of that element, or null if the name is not in the table.
   Creator creatorOf(const OdString& element) const;
@@ -35,13 +35,13 @@ class OdTcElementTable {
   OdTcPersistPtr create(const OdString& element) const;
   /// The names in the order in which they were first entered.
   const QStringList& names() const { return m_names; }
-  /// The names, in UTF-8, of what is read when asked for.
-  const std::vector<std::string>& deferredNames() const { return m_deferredNames; }
+  /// The elements whose content is read when it is asked for.
+  const std::vector<OdTcPlainElement>& deferred() const { return m_deferred; }
 
  private:
   QHash<OdString, Creator> m_creators;
   QStringList m_names;
-  std::vector<std::string> m_deferredNames;
+  std::vector<OdTcPlainElement> m_deferred;
 };
 
 } // namespace tc

@@ -59,7 +59,7 @@ bool OdTcPalettePropertiesFilerImpl::findPalette() {
 OdTcDeferral OdTcPalettePropertiesFilerImpl::deferral() const {
   // Palettes from elsewhere are looked at from end to end while they are read.
   if (m_foreign) return {};
-  return {OdTcElementTable::instance().deferredNames(), kContentFromElsewhere};
+  return {OdTcElementTable::instance().deferred(), kContentFromElsewhere};
 }
 
 void OdTcPalettePropertiesFilerImpl::readPiece(const QByteArray& markup, OdTcPersist* object) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "images/image_list.h"
+#include "module/owner_link.h"
 #include "module/persist_impl.h"
 #include "module/properties.h"
 #include "properties/compact_text.h"
@@ -13,6 +14,8 @@ namespace tc {
 /// Element `Properties`. Every item has one, so what few of them have stands apart.
 class OdTcPropertiesImpl final : public OdTcPersistImpl<OdTcProperties> {
  public:
+  ~OdTcPropertiesImpl() override { forgetOwner(m_images, this); }
+
   OdString elementName() const override { return QStringLiteral("Properties"); }
 
   OdString getName() const override;

@@ -40,7 +40,6 @@ namespace {
 struct Row {
   QStringView element;
   OdTcElementTable::Creator creator;
-  OdTcElementTable::Reading reading = OdTcElementTable::Reading::kAtOnce;
 };
 
 template <class Impl>
@@ -52,7 +51,7 @@ OdTcPersist* make() {
 // `ToolPalette` are what a catalog says of a palette; the palette itself is never made from here.
 constexpr Row kRows[] = {
     {u"Properties", make<OdTcPropertiesImpl>},
-    {u"Images", make<OdTcImageListImpl>, OdTcElementTable::Reading::kWhenAskedFor},
+    {u"Images", make<OdTcImageListImpl>},
     {u"Image", make<OdTcImageImpl>},
     {u"Tools", make<OdTcToolListImpl>},
     {u"Tool", make<OdTcToolImpl>},
@@ -123,7 +122,8 @@ constexpr Row kRows[] = {
 } // namespace
 
 void enterElementRows(OdTcElementTable& table) {
-  for (const Row& row : kRows) table.add(row.element.toString(), row.creator, row.reading);
+  table.defer(OdTcImageListImpl::kPlain);
+  for (const Row& row : kRows) table.add(row.element.toString(), row.creator);
 }
 
 } // namespace tc

@@ -136,8 +136,6 @@ TEST_F(UnaskedTest, EveryWayToAskGivesThem) {
   load("<Image cx=\"16\"/>");
   const OdRxObjectPtr copy = read().clone();
   EXPECT_EQ(dynamic_cast<OdTcImageList*>(copy.get())->count(), 1);
-  load("<Image cx=\"16\"/><option option=\"7\"/>");
-  EXPECT_EQ(read().options(), 7u) << "which may stand among them";
 }
 
 TEST_F(UnaskedTest, PicturesStandBeforeThoseThatAreAdded) {
@@ -193,6 +191,32 @@ TEST_F(UnaskedTest, PicturesOfAnExchangeFileLieInTheFolderNamedLikeIt) {
   palette->setPath(stored(QStringLiteral("palette.dtc")));
   EXPECT_EQ(read().findBySize(1)->getBitmap().pixelColor(1, 1), QColor(0, 0, 255));
   EXPECT_EQ(read().findBySize(1)->src(), text(u"\\pictures\\a.png"));
+}
+
+TEST_F(UnaskedTest, APaletteWithAPictureThatIsNotPlainIsReadAtOnceOrNotAtAll) {
+  load("<Image cx=\"16\"/><option option=\"7\"/>");
+  EXPECT_EQ(read().options(), 7u);
+  EXPECT_EQ(read().count(), 1);
+  EXPECT_EQ(asked(), 0);
+  for (const char* const broken :
+       {"<Image cx=\"16\" cx=\"16\"/>", "<x Image=\"y\"/>", "<Tool Data=\"1\"/>"}) {
+    QFile file(folder.filePath(QStringLiteral("broken.dtc")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("<Palette><Properties><Images><Image cx=\"16\"/>") + broken +
+               "</Images></Properties></Palette>");
+    file.close();
+    const OdTcDatabasePtr other = tc::OdTcDatabase::createObject();
+    EXPECT_FALSE(other->load(stored(QStringLiteral("broken.dtc")))) << broken;
+    EXPECT_TRUE(other->isUnread()) << broken;
+  }
+}
+
+TEST_F(UnaskedTest, AListThatIsHeldForLongerThanItsPaletteHasItsPictures) {
+  const OdTcImageListPtr held(&read());
+  palette = nullptr;
+  EXPECT_EQ(held->count(), 2);
+  EXPECT_EQ(held->owner(), nullptr);
+  EXPECT_EQ(held->findBySize(1)->getBitmap().pixelColor(1, 1), QColor(255, 0, 0));
 }
 
 TEST_F(ImageListTest, StandsInAFileAsTheGoldenOne) {

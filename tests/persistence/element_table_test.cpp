@@ -39,18 +39,6 @@ TEST(ElementTable, LetsALaterRowTakeThePlaceOfAnEarlier) {
   EXPECT_EQ(table.names(), QStringList({QStringLiteral("Data"), QStringLiteral("Other")}));
 }
 
-TEST(ElementTable, SaysWhatIsReadWhenAskedForAsTheLastRowOfItsNameHasIt) {
-  OdTcElementTable table;
-  const auto later = OdTcElementTable::Reading::kWhenAskedFor;
-  table.add(QStringLiteral("A"), &makeFirst);
-  table.add(QStringLiteral("B"), &makeFirst, later);
-  table.add(QStringLiteral("C"), &makeFirst, later);
-  EXPECT_EQ(table.deferredNames(), std::vector<std::string>({"B", "C"}));
-  table.add(QStringLiteral("B"), &makeSecond);
-  table.add(QStringLiteral("C"), &makeSecond, later);
-  EXPECT_EQ(table.deferredNames(), std::vector<std::string>({"C"}));
-}
-
 int g_built = 0;
 void countedBuilder(OdTcElementTable& table) {
   ++g_built;

@@ -35,7 +35,9 @@ OdTcPersist* makeLate() { return new LateRecord(QStringLiteral("Late")); }
 
 template <const char16_t*... Elements>
 void buildTable(OdTcElementTable& table) {
-  table.add(QStringLiteral("Late"), &makeLate, OdTcElementTable::Reading::kWhenAskedFor);
+  static constexpr std::string_view kAttributes[] = {"a", "b", "c"};
+  table.add(QStringLiteral("Late"), &makeLate);
+  table.defer({"Late", "Node", kAttributes});
   (table.add(OdString::fromUtf16(Elements), &makeRecord<Elements>), ...);
 }
 
