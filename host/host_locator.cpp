@@ -122,7 +122,10 @@ KVPtr<IProfile> profileSection(const OdString& name, bool create) {
   return root ? root->openSection(ownText(name), create) : nullptr;
 }
 
-OdString ownText(const OdString& text) { return OdString(text.constData(), text.size()); }
+OdString ownText(OdString text) {
+  text.detach();
+  return text;
+}
 
 OdString translate(const OdString& text) {
   OdString translated;

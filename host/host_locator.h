@@ -57,10 +57,10 @@ IHostApplication* application();
 /// A section of the host's settings store; null if the host has no store.
 KVPtr<IProfile> profileSection(const OdString& name, bool create = true);
 
-/// A copy that shares no memory with `text`. What the host keeps beyond a call (names under which
+/// The text in memory that it shares with nobody. What the host keeps beyond a call (names under which
 /// something is registered, keys and values of settings) must not point at a literal of this
 /// library: the library can be unloaded, the host lives on.
-OdString ownText(const OdString& text);
+OdString ownText(OdString text);
 
 /// The text in the user's language, or the text itself.
 OdString translate(const OdString& text);

@@ -6,10 +6,11 @@
 #include <QCompleter>
 
 class QLineEdit;
-class QStandardItemModel;
 class QWidget;
 
 namespace drafton {
+
+class OfferModel;
 
 /// The names of commands, and what modules offer (tools, say), while no command runs.
 class CommandOffers : public QObject {
@@ -28,15 +29,17 @@ class CommandOffers : public QObject {
   void hide();
 
  private:
-  /// Takes what begins with a letter anew.
-  void update(QChar first);
+  bool eventFilter(QObject* object, QEvent* event) override;
+  /// Takes all that begins with a letter.
+  void gather(QChar first);
   void take(const QModelIndex& index);
 
   Desktop& m_desktop;
   QLineEdit& m_edit;
-  QStandardItemModel* m_model;
+  OfferModel* m_model;
   QCompleter* m_completer;
-  QChar m_first; ///< of the words in the model
+  QChar m_first;      ///< of the words in the model
+  OdString m_deadEnd; ///< with which nothing begins
 };
 
 } // namespace drafton

@@ -23,24 +23,23 @@ QStringList CompletionRegistry::sourceNames() const {
   return names;
 }
 
-std::vector<std::shared_ptr<HostEdCompletion::Entry>>
-CompletionRegistry::offers(const OdString& source) const {
-  std::vector<std::shared_ptr<HostEdCompletion::Entry>> result;
+void CompletionRegistry::ask(const HostEdCompletion::Callback& callback) const {
   for (const Source& s : m_sources)
-    if (s.name == source)
-      s.provider([&](std::shared_ptr<HostEdCompletion::Entry> entry) {
-        if (entry) result.push_back(std::move(entry));
-      });
-  return result;
+    s.provider([&](std::shared_ptr<HostEdCompletion::Entry> entry) {
+      if (entry) callback(std::move(entry));
+    });
 }
 
 bool CompletionRegistry::runOffer(const OdString& source, const OdString& displayText) const {
-  for (const auto& entry : offers(source))
-    if (entry->displayText == displayText && entry->action) {
-      entry->action->run();
-      return true;
-    }
-  return false;
+  std::shared_ptr<HostEdCompletion::Entry> found;
+  for (const Source& s : m_sources)
+    if (s.name == source)
+      s.provider([&](std::shared_ptr<HostEdCompletion::Entry> entry) {
+        if (!found && entry && entry->action && entry->displayText == displayText)
+          found = std::move(entry);
+      });
+  if (found) found->action->run();
+  return found != nullptr;
 }
 
 void CompletionRegistry::drop(int owner) {

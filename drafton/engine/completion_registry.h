@@ -17,8 +17,8 @@ class CompletionRegistry : public HostEdCompletion::Registry {
   void registerSource(const OdString& name, HostEdCompletion::Provider provider) override;
 
   QStringList sourceNames() const;
-  /// All offers of one source; empty if there is no such source.
-  std::vector<std::shared_ptr<HostEdCompletion::Entry>> offers(const OdString& source) const;
+  /// Calls back once for each offer of every source, with an entry that is never null.
+  void ask(const HostEdCompletion::Callback& callback) const;
   /// Runs the first offer of `source` with that display text; false if there is none or it has no
   /// action.
   bool runOffer(const OdString& source, const OdString& displayText) const;

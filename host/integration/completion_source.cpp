@@ -22,6 +22,27 @@ constexpr std::array<std::pair<OdTcSizeKind, int>, 4> kSizes = {{{OdTcSizeKind::
                                                                  {OdTcSizeKind::kNormal, 32},
                                                                  {OdTcSizeKind::kLarge, 64}}};
 
+/// What an offer holds of its tool, in one piece: there may be a hundred thousand of them.
+struct HeldTool {
+  explicit HeldTool(OdTcTool* tool)
+    : image(tool)
+    , action([this] { run(); }) {}
+  HeldTool(const HeldTool&) = delete;
+  HeldTool& operator=(const HeldTool&) = delete;
+
+  void run() const {
+    IHostDocument* const document = host::curDocument();
+    if (!document) return;
+    // The host may let go of the offer meanwhile.
+    const OdTcToolPtr running(&image.tool());
+    running->execute(document);
+    tellUserRan(*running);
+  }
+
+  ToolImage image;
+  HostEdCompletion::CallFunction action;
+};
+
 /// One walk over everything that is offered.
 class ToolWalk {
  public:
@@ -57,16 +78,12 @@ class ToolWalk {
   }
 
   void offer(OdTcTool* tool) {
+    const auto held = std::make_shared<HeldTool>(tool);
     auto entry = std::make_shared<HostEdCompletion::Entry>();
     entry->text = host::ownText(tool->name());
     entry->displayText = QLatin1String("TOOL:") + entry->text;
-    entry->pictogram = std::make_shared<ToolImage>(tool);
-    entry->action = std::make_shared<HostEdCompletion::CallFunction>([held = OdTcToolPtr(tool)] {
-      IHostDocument* const document = host::curDocument();
-      if (!document) return;
-      held->execute(document);
-      tellUserRan(*held);
-    });
+    entry->pictogram = {held, &held->image};
+    entry->action = {held, &held->action};
     m_callback(std::move(entry));
   }
 

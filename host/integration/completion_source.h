@@ -28,6 +28,7 @@ class ToolImage : public HostEdCompletion::Pictogram {
   explicit ToolImage(OdTcToolPtr tool)
     : m_tool(std::move(tool)) {}
   QImage image(int pixels) override;
+  OdTcTool& tool() const { return *m_tool; }
 
  private:
   OdTcToolPtr m_tool;

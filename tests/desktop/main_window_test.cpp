@@ -361,33 +361,6 @@ TEST_F(MainWindowTest, CommandsThatBeginWithTheTextAreOfferedAndChosen) {
   EXPECT_FALSE(list->isVisible());
 }
 
-TEST_F(MainWindowTest, WhatAModuleHasWhenAWordBeginsIsOfferedByItsName) {
-  QStringList names, chosen;
-  desktop().engine().completion().registerSource(
-      QStringLiteral("test"), [&](const HostEdCompletion::Callback& offer) {
-        for (const OdString& name : names) {
-          const auto entry = std::make_shared<HostEdCompletion::Entry>();
-          entry->text = name;
-          entry->displayText = QLatin1String("TOOL:") + name;
-          entry->action =
-              std::make_shared<HostEdCompletion::CallFunction>([&chosen, name] { chosen << name; });
-          offer(entry);
-        }
-      });
-  names << QStringLiteral("Zebra crossing");
-  const auto& completer = *window().commandLine().findChild<QCompleter*>();
-  type("zeb");
-  ASSERT_TRUE(completer.popup()->isVisible());
-  EXPECT_EQ(completer.popup()->model()->index(0, 0).data().toString(), u"TOOL:Zebra crossing");
-  QTest::keyClick(completer.popup(), Qt::Key_Down);
-  QTest::keyClick(completer.popup(), Qt::Key_Return);
-  EXPECT_EQ(chosen, QStringList{QStringLiteral("Zebra crossing")});
-  names.clear();
-  type("zeb");
-  EXPECT_FALSE(completer.popup()->isVisible()) << "the tool has gone";
-  desktop().engine().completion().registerSource(QStringLiteral("test"), {});
-}
-
 TEST_F(MainWindowTest, KeysOfEditingAreThoseOfTheDrawingWhereThereIsNoText) {
   type("LINE 0,0 1,1  ");
   window().commandLine().edit().setFocus();
