@@ -110,6 +110,8 @@ bool Canvas::giveUp() {
 
 bool Canvas::takeWord(const OdString& word) {
   if (!m_grips.isDragging()) return false;
+  // Enter alone would run the last command again.
+  if (word.isEmpty()) return true;
   const OdGePoint3d from = m_grips.dragged().grip.at;
   const PointOrigins origins{from, from, from.z,
                              m_place ? std::optional(m_place->point) : std::nullopt};

@@ -231,6 +231,8 @@ TEST_F(CanvasTest, AGripGoesWhereIsTyped) {
   type("U ");
   EXPECT_EQ(only<OdDbLine>()->startPoint(), OdGePoint3d(0, 0, 0)) << "a command again";
   click(0, 0);
+  type("\n");
+  EXPECT_FALSE(desktop().isBusy()) << "Enter repeats no command now";
   type("nowhere ");
   EXPECT_TRUE(history().contains(QStringLiteral("Invalid point.")));
 }
