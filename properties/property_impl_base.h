@@ -14,13 +14,6 @@ class OdTcPropertyImplBase : public OdTcPersistImpl<T> {
   OdString displayName() const override { return this->getDisplayName(); }
   bool isVisible() const override { return true; }
   bool isEnabled() const override { return true; }
-
-  /// The inspector's editor has built its record.
-  bool isEditorCreated() const { return m_editorCreated; }
-  void setEditorCreated(bool created) { m_editorCreated = created; }
-
- private:
-  bool m_editorCreated = false;
 };
 
 } // namespace tc

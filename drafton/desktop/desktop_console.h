@@ -20,8 +20,6 @@ class DesktopConsole : public QObject, public Console {
 
   /// The lines that were shown, the latest last; older ones are forgotten.
   const QStringList& history() const { return m_history; }
-  /// What is asked now; empty if nothing is.
-  const OdString& currentPrompt() const { return m_prompt; }
   /// Takes a prompt that nobody answers any more into the history.
   void dropPrompt();
 

@@ -155,7 +155,6 @@ void FileActions::remember(const OdString& path) {
   files.prepend(path);
   for (int i = 1; i <= kMostRecent && i <= files.size(); ++i)
     m_desktop.setSetting(recentKey(i).toLatin1().constData(), files[i - 1]);
-  Q_EMIT recentFilesChanged();
 }
 
 } // namespace drafton

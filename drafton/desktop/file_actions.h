@@ -30,9 +30,6 @@ class FileActions : public QObject {
   /// The latest first.
   QStringList recentFiles();
 
- Q_SIGNALS:
-  void recentFilesChanged();
-
  private:
   bool saveTo(Document& document, const OdString& path);
   void remember(const OdString& path);

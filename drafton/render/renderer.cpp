@@ -65,24 +65,4 @@ void render(QPainter& painter, Scene& scene, OdDbObjectId block, const View& vie
   painter.restore();
 }
 
-QImage renderEntities(std::span<const OdDbObjectId> entities, const QSize& size, double margin,
-                      const RenderOptions& options) {
-  std::vector<OdDbEntityPtr> opened;
-  OdGeExtents3d box;
-  for (const OdDbObjectId id : entities) {
-    const OdDbEntityPtr entity = odrxCast<OdDbEntity>(id.openObject().get());
-    if (!entity) continue;
-    opened.push_back(entity);
-    if (OdGeExtents3d own; entity->getGeomExtents(own)) box.addExt(own);
-  }
-  if (opened.empty() || box.isEmpty() || size.isEmpty()) return {};
-  QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-  picture.fill(QColor::fromRgba(options.ground.color()));
-  Scene scene(*opened.front()->database());
-  View view;
-  view.size = size;
-  render(picture, scene, OdDbObjectId(), view.fitted(box, margin), options, opened);
-  return picture;
-}
-
 } // namespace drafton

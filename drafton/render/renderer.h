@@ -29,9 +29,4 @@ void render(QPainter& painter, Scene& scene, OdDbObjectId block, const View& vie
 void renderTransient(QImage& picture, Scene& scene, const View& view, const RenderOptions& options,
                      TransientEntities transient);
 
-/// A picture of some entities of one drawing, all of them seen: for previews. Null if there is
-/// nothing to see. `margin` is the part of the picture that stays free all around.
-QImage renderEntities(std::span<const OdDbObjectId> entities, const QSize& size, double margin,
-                      const RenderOptions& options);
-
 } // namespace drafton

@@ -31,7 +31,6 @@ class StyleTables {
   /// The number of a layer; that of layer 0 for what is none.
   std::uint32_t layerNumber(OdDbObjectId layer);
   const LayerState& layer(std::uint32_t number) const { return m_layers[number]; }
-  std::size_t layerCount() const { return m_layers.size(); }
   /// The number of a line type; kByLayer for what is none.
   std::uint32_t linetypeNumber(OdDbObjectId linetype);
   const DashPattern& linetype(std::uint32_t number) const { return *m_linetypes[number].pattern; }

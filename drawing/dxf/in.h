@@ -66,8 +66,6 @@ class OdDbDxfIn {
     if (m_subclass.size() == N - 1) return std::memcmp(m_subclass.data(), subclass, N - 1) == 0;
     return m_subclass.empty() && m_plain;
   }
-  /// True before the first subclass.
-  bool beforeSubclasses() const { return m_subclass.empty(); }
   /// Files of R12 have no subclasses.
   bool isPlain() const { return m_plain; }
   void setPlain(bool plain, bool hasHandles) {
@@ -102,7 +100,6 @@ class OdDbDxfIn {
   void damage(const OdString& what);
   /// Tells what was mended.
   void note(const OdString& what);
-  bool valueWasBad() const { return m_head.hasBadValue; }
 
   /// Reads the tags of an object up to the next tag of code 0, and enters it in the drawing under
   /// `owner`, or under the owner that the file names if `owner` is null. False if it was left out.

@@ -97,7 +97,7 @@ class OdDbDimension : public OdDbEntity {
     double rotation = 0, oblique = 0, leaderLength = 0;
     // Of arc lengths.
     double arcStart = 0, arcEnd = 0;
-    int isPartial = 0, hasLeader = 0, arcSymbol = 0;
+    int isPartial = 0, hasLeader = 0;
     OdGePoint3d leaderFirst, leaderSecond;
   };
   const Data& dimensionData() const { return m_dimension; }
@@ -117,8 +117,6 @@ class OdDbDimension : public OdDbEntity {
   virtual bool layOut(oddb::DimensionBlock& block, Data& drawn) const = 0;
   /// Before a change that the picture does not follow by itself.
   void aboutToChange();
-  /// Takes over what was read, whatever the kind.
-  void takeData(const OdDbDimension& read);
   Data m_dimension;
 
  private:

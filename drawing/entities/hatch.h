@@ -121,8 +121,8 @@ class OdDbHatch : public OdDbEntity {
     OdGePoint3d elevation; ///< only z says something
     OdGeVector3d normal = OdGeVector3d::zAxis();
     OdString patternName = QStringLiteral("SOLID");
-    int solid = 1, associative = 0, style = 0, patternType = 1, patternDouble = 0, mpolygon = 0;
-    double patternAngle = 0, patternScale = 1, pixelSize = 0, offsetVector = 0;
+    int solid = 1, associative = 0, style = 0, patternType = 1, patternDouble = 0;
+    double patternAngle = 0, patternScale = 1, pixelSize = 0;
     std::vector<OdDbHatchLoop> loops;
     std::vector<OdHatchPatternLine> lines;
     std::vector<OdGePoint2d> seeds;

@@ -41,8 +41,6 @@ class OdDbRawEntity : public OdDbEntity {
   void assignFrom(const OdDbObject& other) override;
   /// Raises OdError(eNotApplicable): what such an entity refers to cannot be told.
   OdRxObjectPtr clone() const override;
-  /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
-  const std::vector<OdDbObjectId>& followers() const { return m_followers; }
   bool takesFollowers() const override { return !m_followers.empty(); }
   void addFollower(OdDbEntity& follower) override { m_followers.push_back(follower.objectId()); }
   void dxfOutFollowers(OdDbDxfOut& out) const override;
@@ -69,5 +67,6 @@ class OdDbRawEntity : public OdDbEntity {
   bool move(const OdGeMatrix3d& shape, const OdGeMatrix3d& letters);
 
   QByteArray m_name;
+  /// The vertices or attributes that belong to it, and their end mark, in the order of the file.
   std::vector<OdDbObjectId> m_followers;
 };

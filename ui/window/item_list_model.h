@@ -24,7 +24,6 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   /// Shows what is in the item; null shows nothing.
   void fill(OdTcCatalogItem* item);
   void clear() { fill(nullptr); }
-  OdTcCatalogItem* shownItem() const { return m_shown; }
   /// Adds one row behind the others.
   void append(OdTcCatalogItem* item);
   bool remove(const OdTcCatalogItem* item);

@@ -107,7 +107,7 @@ void PlanarGraph::addEdges(const OdGeCurveSegment& curve, Index index, std::vect
       // Back at the same node: nothing, or a ring of its own.
       if (length <= 8 * m_tolerance || !isRing || curve.isLine()) continue;
     }
-    Edge edge{curve.between(last, parts[i]), from, to, index, last, parts[i]};
+    Edge edge{curve.between(last, parts[i]), from, to, index};
     edge.piece.start = m_nodes[from];
     edge.piece.end = m_nodes[to];
     last = parts[i];

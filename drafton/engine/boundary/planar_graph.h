@@ -18,10 +18,9 @@ class PlanarGraph {
 
   /// A piece of one of the curves.
   struct Edge {
-    OdGeCurveSegment piece;     ///< its ends are those of its nodes
-    Index from, to;             ///< nodes
-    Index curve;                ///< the first curve that runs here
-    double firstPart, lastPart; ///< of the curve
+    OdGeCurveSegment piece; ///< its ends are those of its nodes
+    Index from, to;         ///< nodes
+    Index curve;            ///< the first curve that runs here
     bool isAlive = true;
   };
 

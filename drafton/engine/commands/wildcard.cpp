@@ -93,10 +93,4 @@ bool matchesWildcard(QStringView name, QStringView patterns) {
   return false;
 }
 
-bool isWildcard(QStringView text) {
-  for (const QChar c : text)
-    if (QStringView(u"*?#@.~[]`").contains(c)) return true;
-  return false;
-}
-
 } // namespace drafton

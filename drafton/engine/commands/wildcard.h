@@ -12,7 +12,4 @@ namespace drafton {
 /// special meaning from the character behind it.
 bool matchesWildcard(QStringView name, QStringView patterns);
 
-/// True if the text has a sign that means more than itself.
-bool isWildcard(QStringView text);
-
 } // namespace drafton
