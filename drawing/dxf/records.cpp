@@ -1,5 +1,6 @@
 // How the records of symbol tables stand in files.
 #include "drawing/database_data.h"
+#include "drawing/dxf/colors.h"
 #include "drawing/dxf/in.h"
 #include "drawing/dxf/out.h"
 #include "drawing/tables/reference_flags.h"
@@ -14,6 +15,37 @@ constexpr int kDashUcsOriented = 1;
 constexpr int kDashUpright = 8;
 constexpr int kDashText = 2;
 constexpr int kDashShape = 4;
+
+/// What tells of a dash before there is one. False if the tag tells of none.
+bool passOverStray(const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  static constexpr int kOfDashes[] = {9, 44, 45, 46, 50, 74, 75, 340};
+  const bool isStray = std::ranges::find(kOfDashes, tag.code) != std::end(kOfDashes);
+  if (isStray)
+    in.note(QStringLiteral("a line type tells of a dash before its first one (%1)").arg(tag.code));
+  return isStray;
+}
+
+/// The font of a text style stands in extended data: its name, then one number for all else.
+bool takeFont(OdDbFontDescriptor& font, const OdDbDxfTag& tag, OdDbDxfIn& in) {
+  switch (tag.code) {
+  case 1001:
+    return true;
+  case 1000:
+    font.typeFace = in.text(tag.text);
+    return true;
+  case 1071: {
+    const int bits = in.integer(tag, 0);
+    font.bold = bits & kBold;
+    font.italic = bits & kItalic;
+    font.charSet = bits >> 8 & 0xFF;
+    font.pitchAndFamily = bits & 0xFF;
+    return true;
+  }
+  default:
+    return false;
+  }
+}
+
 } // namespace
 
 bool OdDbSymbolTable::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
@@ -60,18 +92,12 @@ bool OdDbLayerTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     if (!m_layer.color.isByColor()) m_layer.color.setColorIndex(std::abs(index));
     return true;
   }
-  case 420: {
-    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
-    m_layer.color.setRGB(static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
-                         static_cast<std::uint8_t>(rgb));
+  case 420:
+    oddxf::setTrueColor(m_layer.color, in.longInteger(tag, 0));
     return true;
-  }
-  case 430: {
-    const OdString names = in.text(tag.text);
-    const qsizetype at = names.indexOf(QLatin1Char('$'));
-    m_layer.color.setNames(names.mid(at + 1), at < 0 ? OdString() : names.left(at));
+  case 430:
+    oddxf::setColorNames(m_layer.color, in.text(tag.text));
     return true;
-  }
   case 6:
     m_layer.linetype = in.linetype(tag.text);
     return true;
@@ -102,7 +128,7 @@ void OdDbLayerTableRecord::dxfOutFields(OdDbDxfOut& out) const {
   if (m_layer.color.isByColor() && out.version() >= OdDb::kR2004)
     out.integer(420, m_layer.color.color() & 0xFFFFFF);
   if (m_layer.color.hasNames() && out.version() >= OdDb::kR2004)
-    out.text(430, m_layer.color.bookName() + QLatin1Char('$') + m_layer.color.colorName());
+    out.text(430, oddxf::colorNames(m_layer.color));
   out.recordName(6, m_layer.linetype, "Continuous");
   if (!m_layer.plottable) out.integer(290, 0);
   out.integer(370, m_layer.lineWeight);
@@ -130,14 +156,7 @@ bool OdDbLinetypeTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   default:
     break;
   }
-  if (dashes.empty()) {
-    static constexpr int kOfDashes[] = {9, 44, 45, 46, 50, 74, 75, 340};
-    const bool isStray = std::ranges::find(kOfDashes, tag.code) != std::end(kOfDashes);
-    if (isStray)
-      in.note(
-          QStringLiteral("a line type tells of a dash before its first one (%1)").arg(tag.code));
-    return isStray;
-  }
+  if (dashes.empty()) return passOverStray(tag, in);
   Dash& dash = dashes.back();
   switch (tag.code) {
   case 74: {
@@ -203,28 +222,8 @@ void OdDbLinetypeTableRecord::dxfOutFields(OdDbDxfOut& out) const {
 
 bool OdDbTextStyleTableRecord::dxfInTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
   if (OdDbSymbolTableRecord::dxfInTag(tag, in)) return true;
-  if (tag.code >= 1000) {
-    // The font stands in extended data: its name, then one number for all else.
-    switch (tag.code) {
-    case 1001:
-      m_inFontData = tag.text == kFontApplication;
-      return m_inFontData;
-    case 1000:
-      if (m_inFontData) m_style.font.typeFace = in.text(tag.text);
-      return m_inFontData;
-    case 1071:
-      if (m_inFontData) {
-        const int bits = in.integer(tag, 0);
-        m_style.font.bold = bits & kBold;
-        m_style.font.italic = bits & kItalic;
-        m_style.font.charSet = bits >> 8 & 0xFF;
-        m_style.font.pitchAndFamily = bits & 0xFF;
-      }
-      return m_inFontData;
-    default:
-      return false;
-    }
-  }
+  if (tag.code == 1001) m_inFontData = tag.text == kFontApplication;
+  if (tag.code >= 1000) return m_inFontData && takeFont(m_style.font, tag, in);
   if (!in.in(dxfSubclass())) return false;
   switch (tag.code) {
   case 40:

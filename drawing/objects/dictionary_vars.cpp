@@ -1,6 +1,7 @@
 #include "drawing/objects/dictionary_vars.h"
 
 #include "drawing/database_data.h"
+#include "drawing/dxf/colors.h"
 
 namespace {
 
@@ -8,10 +9,13 @@ const QLatin1String kVariables("AcDbVariableDictionary");
 const QLatin1String kExactColor("OD_CECOLOR");
 const QLatin1String kExactTransparency("OD_CETRANSPARENCY");
 
+/// Digits of a whole value.
+constexpr qsizetype kDigits = 8;
+
 /// What a text begins with, as the whole value of a colour or transparency.
 std::optional<std::uint32_t> wholeValue(const OdString& text) {
   bool ok = false;
-  const std::uint32_t value = QStringView(text).left(8).toUInt(&ok, 16);
+  const std::uint32_t value = QStringView(text).left(kDigits).toUInt(&ok, 16);
   return ok ? std::optional(value) : std::nullopt;
 }
 
@@ -33,7 +37,7 @@ class AsVariable {
 };
 
 OdString shownValue(std::uint32_t value) {
-  return OdString::number(value, 16).toUpper().rightJustified(8, u'0');
+  return OdString::number(value, 16).toUpper().rightJustified(kDigits, u'0');
 }
 
 } // namespace
@@ -71,7 +75,7 @@ void oddb::keepExactColor(OdDbDatabase& database) {
   const OdCmColor color = database.currentColor();
   OdString text;
   if (color.isByColor() || color.hasNames()) text = shownValue(color.color());
-  if (color.hasNames()) text += u' ' + color.bookName() + u'$' + color.colorName();
+  if (color.hasNames()) text += u' ' + oddxf::colorNames(color);
   setDictionaryVar(database, kExactColor, text);
 }
 
@@ -81,11 +85,8 @@ OdCmColor oddb::exactColor(const OdDbDatabase& database, const OdCmColor& byInde
   if (!value) return byIndex;
   OdCmColor exact;
   exact.setColor(*value);
-  if (text.size() > 9) {
-    const OdString names = text.mid(9);
-    const qsizetype at = names.indexOf(u'$');
-    exact.setNames(names.mid(at + 1), names.left(std::max<qsizetype>(at, 0)));
-  }
+  // Behind a blank.
+  if (text.size() > kDigits + 1) oddxf::setColorNames(exact, text.mid(kDigits + 1));
   return exact.colorIndex() == byIndex.colorIndex() ? exact : byIndex;
 }
 

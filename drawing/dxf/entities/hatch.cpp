@@ -1,5 +1,6 @@
 // How HATCH stands in files.
 #include "drawing/entities/hatch.h"
+#include "drawing/dxf/colors.h"
 #include "drawing/dxf/fields.h"
 
 namespace {
@@ -351,12 +352,9 @@ bool OdDbHatch::readGradientTag(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     (m_secondColor ? m_hatch.colorIndex2 : m_hatch.colorIndex1) = index;
     return true;
   }
-  case 421: {
-    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
-    color.setRGB(static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
-                 static_cast<std::uint8_t>(rgb));
+  case 421:
+    oddxf::setTrueColor(color, in.longInteger(tag, 0));
     return true;
-  }
   default:
     return oddxf::takeTag<Data>(kGradient, m_hatch, tag, in) ||
            oddxf::takeTag<Data>({&kGradientName, 1}, m_hatch, tag, in);

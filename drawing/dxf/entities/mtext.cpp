@@ -1,5 +1,6 @@
 // How MTEXT stands in files.
 #include "drawing/entities/mtext.h"
+#include "drawing/dxf/colors.h"
 #include "drawing/dxf/fields.h"
 #include "drawing/dxf/mtext_columns.h"
 #include "drawing/dxf/residue.h"
@@ -70,16 +71,12 @@ bool OdDbMText::takeField(const OdDbDxfTag& tag, OdDbDxfIn& in) {
     break;
   }
   if (tag.code >= 420 && tag.code <= 429) {
-    const auto rgb = static_cast<std::uint32_t>(in.longInteger(tag, 0));
     m_mtext.hasFillColor = true;
-    m_mtext.fillColor.setRGB(static_cast<std::uint8_t>(rgb >> 16),
-                             static_cast<std::uint8_t>(rgb >> 8), static_cast<std::uint8_t>(rgb));
+    oddxf::setTrueColor(m_mtext.fillColor, in.longInteger(tag, 0));
     return true;
   }
   if (tag.code >= 430 && tag.code <= 439) {
-    const OdString names = in.text(tag.text);
-    const qsizetype at = names.indexOf(QLatin1Char('$'));
-    m_mtext.fillColor.setNames(names.mid(at + 1), at < 0 ? OdString() : names.left(at));
+    oddxf::setColorNames(m_mtext.fillColor, in.text(tag.text));
     return true;
   }
   return oddxf::takeTag<Data>(kFields, m_mtext, tag, in) ||
@@ -195,7 +192,7 @@ void OdDbMText::putFields(OdDbDxfOut& out) const {
   const OdCmColor& color = m_mtext.fillColor;
   out.integer(63, m_mtext.fillIndex >= 0 ? m_mtext.fillIndex : color.colorIndex());
   if (color.isByColor()) out.integer(421, color.color() & 0xFFFFFF);
-  if (color.hasNames()) out.text(431, color.bookName() + QLatin1Char('$') + color.colorName());
+  if (color.hasNames()) out.text(431, oddxf::colorNames(color));
   oddxf::putFields<Data>(kFill, m_mtext, out);
 }
 
