@@ -42,6 +42,13 @@ class Cloner {
     OdDbObjectId dictionary; ///< of the target, where it stands under newName
   };
 
+  /// How a record comes into the target.
+  struct RecordPlace {
+    OdString name = {};         ///< of the copy, or of the target's own record that serves
+    OdDbObjectId existing = {}; ///< the target's own record that serves; null: a copy is made
+    OdDbObjectId replaced = {}; ///< the record that takes over what is copied
+  };
+
   bool isAcross() const { return &m_source != &m_target; }
   OdDbHandle reserveHandle();
   Item& addItem(OdDbObjectId source, OdDbObjectId owner, ObjectEntry entry);
@@ -50,6 +57,8 @@ class Cloner {
   void followName(const OdDbKeptTags::Tag& tag, const NameReference& reference);
   void followHandle(OdDbHandle handle, ReferenceKind kind, OdDbObjectId ownerOfOwned);
   OdDbObjectId addRecord(const OdDbSymbolTableRecord& record, OdDbDatabaseData::Table table);
+  RecordPlace placeOf(const OdDbSymbolTableRecord& record, OdDbDatabaseData::Table table,
+                      const OdDbSymbolTable& records);
   OdDbObjectId addToDictionary(const OdDbObject& object, const OdDbDictionary& dictionary);
   OdDbObjectId targetDictionary(OdDbObjectId dictionary);
   void addBlockContents(const OdDbBlockTableRecord& block, OdDbObjectId newBlock);

@@ -170,66 +170,57 @@ OdString oddb::Cloner::freeName(const OdString& name,
   }
 }
 
+oddb::Cloner::RecordPlace oddb::Cloner::placeOf(const OdDbSymbolTableRecord& record,
+                                                Data::Table table, const OdDbSymbolTable& records) {
+  const OdString name = record.getName();
+  const bool isBlock = table == Data::kBlocks;
+  if (name.isEmpty()) return {.existing = sameShapeFile(records, record)};
+  if (isBlock && isAnonymous(name)) {
+    const OdDbObjectId made = addAnonymousBlock(m_target, name.size() > 1 ? name[1] : u'U');
+    // The name is taken from now on; what the block is comes with the copy.
+    return {.name = made.openAs<OdDbBlockTableRecord>()->getName(), .replaced = made};
+  }
+  const OdDbObjectId existing = records.getAt(name);
+  if (isCommon(name, table)) return {.name = name, .existing = existing};
+  const auto isTaken = [&](const OdString& wanted) {
+    if (records.has(wanted)) return true;
+    return std::any_of(m_items.begin(), m_items.end(), [&](const Item& item) {
+      return item.newName.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
+  };
+  if (isReserved(name, table)) return {.name = freeName(name, isTaken)};
+  if (m_policy == OdDb::kDrcXrefMangleName) {
+    const OdString mangled = m_prefix + u'|' + name;
+    const OdDbObjectId former = records.getAt(mangled);
+    if (isBlock) return {.name = mangled, .replaced = former};
+    // What the user has changed of a layer since stays.
+    return {.name = mangled, .existing = former};
+  }
+  if (existing.isNull()) return {.name = name};
+  if (m_policy == OdDb::kDrcIgnore) return {.name = name, .existing = existing};
+  if (m_policy == OdDb::kDrcReplace) return {.name = name, .replaced = existing};
+  return {.name = freeName(name, isTaken)};
+}
+
 OdDbObjectId oddb::Cloner::addRecord(const OdDbSymbolTableRecord& record, Data::Table table) {
   const auto block = odrxCast<OdDbBlockTableRecord>(&record);
   // The spaces are where blocks come from; what refers to them is left without.
   if (block && block->isLayout()) return {};
   const auto records = m_target.data().tables[table].openAs<OdDbSymbolTable>(OdDb::kForWrite);
   const OdString name = record.getName();
-  OdString newName = name;
-  OdDbObjectId existing = records->getAt(name);
-  const auto isTaken = [&](const OdString& wanted) {
-    if (records->has(wanted)) return true;
-    return std::any_of(m_items.begin(), m_items.end(), [&](const Item& item) {
-      return item.newName.compare(wanted, Qt::CaseInsensitive) == 0;
-    });
-  };
-  OdDbObjectId replaced;
-  if (name.isEmpty()) {
-    existing = sameShapeFile(*records, record);
-    if (!existing.isNull()) {
-      m_mapping.assign({record.objectId(), existing, false});
-      return existing;
-    }
-  } else if (block && isAnonymous(name)) {
-    const OdDbObjectId made = addAnonymousBlock(m_target, name.size() > 1 ? name[1] : u'U');
-    // The name is taken from now on; what the block is comes with the copy.
-    newName = made.openAs<OdDbBlockTableRecord>()->getName();
-    replaced = made;
-  } else if (isCommon(name, table)) {
-    if (!existing.isNull()) {
-      m_mapping.assign({record.objectId(), existing, false});
-      return existing;
-    }
-  } else if (isReserved(name, table)) {
-    newName = freeName(name, isTaken);
-  } else if (m_policy == OdDb::kDrcXrefMangleName) {
-    newName = m_prefix + u'|' + name;
-    existing = records->getAt(newName);
-    // What the user has changed of a layer since stays.
-    if (!existing.isNull() && !block) {
-      m_names[{table, name.toCaseFolded()}] = newName;
-      m_mapping.assign({record.objectId(), existing, false});
-      return existing;
-    }
-    replaced = existing;
-  } else if (!existing.isNull()) {
-    if (m_policy == OdDb::kDrcIgnore) {
-      m_mapping.assign({record.objectId(), existing, false});
-      return existing;
-    }
-    if (m_policy == OdDb::kDrcReplace)
-      replaced = existing;
-    else
-      newName = freeName(name, isTaken);
+  const RecordPlace place = placeOf(record, table, *records);
+  if (!place.existing.isNull()) {
+    if (place.name != name) m_names[{table, name.toCaseFolded()}] = place.name;
+    m_mapping.assign({record.objectId(), place.existing, false});
+    return place.existing;
   }
   std::vector<ObjectEntry> entries = entriesOf(record);
   Item& item = addItem(record.objectId(), records->objectId(), std::move(entries.front()));
-  item.newName = newName;
-  item.replaced = replaced;
-  if (!replaced.isNull()) m_mapping.assign({record.objectId(), replaced, true});
+  item.newName = place.name;
+  item.replaced = place.replaced;
+  if (!place.replaced.isNull()) m_mapping.assign({record.objectId(), place.replaced, true});
   const OdDbObjectId copy = m_mapping.find(record.objectId());
-  m_names[{table, name.toCaseFolded()}] = newName;
+  m_names[{table, name.toCaseFolded()}] = place.name;
   if (block) addBlockContents(*block, copy);
   return copy;
 }

@@ -60,42 +60,13 @@ void OdDbDxfReader::readSections() {
   m_in.next();
   while (!m_in.isDamaged() && !m_in.tag().is(0, "EOF")) {
     if (!m_in.tag().is(0, "SECTION")) {
-      if (m_in.tag().code != 0)
-        m_in.damage(QStringLiteral("a tag stands outside of every section"));
-      else
-        m_in.damage(
-            QStringLiteral("%1 stands where a section is expected").arg(shown(m_in.tag().text)));
-      while (m_in.next() && m_in.tag().code != 0) {
-      }
+      passOverStray();
       continue;
     }
     m_in.next();
-    if (m_in.tag().code != 2) {
-      // An empty section says nothing.
-      if (m_in.tag().is(0, "ENDSEC")) m_in.next();
-      continue;
-    }
-    const std::string name(m_in.tag().text);
-    const bool contents = name == "BLOCKS" || name == "ENTITIES" || name == "OBJECTS";
-    if (m_ahead && (!contents || name == "OBJECTS")) m_ahead->end();
-    if (contents) ensureTables();
-    if (name == "HEADER") {
-      readHeader();
-    } else if (name == "TABLES") {
-      readTables();
-    } else if (name == "BLOCKS") {
-      readBlocks();
-    } else if (name == "ENTITIES") {
-      m_trustworthy = true;
-      m_in.next();
-      readEntities({});
-    } else if (name == "OBJECTS") {
-      readObjects();
-    } else if (name == "CLASSES") {
-      readClasses();
-    } else {
-      keepSection(name);
-    }
+    // An empty section says nothing.
+    const bool hasName = m_in.tag().code == 2;
+    if (hasName) readSection(std::string(m_in.tag().text));
     if (m_in.tag().is(0, "ENDSEC")) m_in.next();
   }
   if (!m_in.isDamaged()) return;
@@ -104,6 +75,40 @@ void OdDbDxfReader::readSections() {
     OdString why = m_data.unknownContent.isEmpty() ? OdString() : m_data.unknownContent.last();
     why.remove(0, why.indexOf(QLatin1String(": ")) + 2);
     m_in.fail(why);
+  }
+}
+
+/// Passes over what stands outside of every section.
+void OdDbDxfReader::passOverStray() {
+  if (m_in.tag().code != 0)
+    m_in.damage(QStringLiteral("a tag stands outside of every section"));
+  else
+    m_in.damage(
+        QStringLiteral("%1 stands where a section is expected").arg(shown(m_in.tag().text)));
+  while (m_in.next() && m_in.tag().code != 0) {
+  }
+}
+
+void OdDbDxfReader::readSection(const std::string& name) {
+  const bool contents = name == "BLOCKS" || name == "ENTITIES" || name == "OBJECTS";
+  if (m_ahead && (!contents || name == "OBJECTS")) m_ahead->end();
+  if (contents) ensureTables();
+  if (name == "HEADER") {
+    readHeader();
+  } else if (name == "TABLES") {
+    readTables();
+  } else if (name == "BLOCKS") {
+    readBlocks();
+  } else if (name == "ENTITIES") {
+    m_trustworthy = true;
+    m_in.next();
+    readEntities({});
+  } else if (name == "OBJECTS") {
+    readObjects();
+  } else if (name == "CLASSES") {
+    readClasses();
+  } else {
+    keepSection(name);
   }
 }
 

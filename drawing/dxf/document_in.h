@@ -26,6 +26,8 @@ class OdDbDxfReader {
 
  private:
   void readSections();
+  void readSection(const std::string& name);
+  void passOverStray();
   void readHeader();
   void readClasses();
   void readTables();

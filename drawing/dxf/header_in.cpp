@@ -25,6 +25,40 @@ const OdDbHeaderVarInfo* rowOf(std::string_view name, std::size_t expected) {
   return oddbFindHeaderVar(OdString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
 }
 
+/// Takes a value, or one coordinate of a point, as its variable's type has it.
+void takeValue(OdDbVarValue& value, OdDbHeaderVarInfo::Type type, const OdDbDxfTag& tag,
+               OdDbDxfIn& in) {
+  switch (type) {
+  case OdDbHeaderVarInfo::kInt:
+    value = in.longInteger(tag, 0);
+    break;
+  case OdDbHeaderVarInfo::kReal:
+  case OdDbHeaderVarInfo::kTime:
+    value = in.real(tag, 0);
+    break;
+  case OdDbHeaderVarInfo::kPoint3d:
+  case OdDbHeaderVarInfo::kPoint2d: {
+    if (!std::holds_alternative<OdGePoint3d>(value)) value = OdGePoint3d();
+    auto& point = std::get<OdGePoint3d>(value);
+    double& part = tag.code == 10 ? point.x : (tag.code == 20 ? point.y : point.z);
+    part = in.real(tag, part);
+    break;
+  }
+  case OdDbHeaderVarInfo::kColor: {
+    const int index = in.integer(tag, OdCmColor::kACIbyLayer);
+    if (index >= 0 && index <= OdCmColor::kACInone) value = OdCmColor::fromColorIndex(index);
+    break;
+  }
+  case OdDbHeaderVarInfo::kHandle:
+    value = in.reference(tag);
+    break;
+  // Records are found by name when all of them are there.
+  default:
+    value = in.text(tag.text);
+    break;
+  }
+}
+
 } // namespace
 
 void OdDbDxfReader::readHeader() {
@@ -57,37 +91,8 @@ void OdDbDxfReader::readHeader() {
     const auto i = static_cast<std::size_t>(entry->known);
     // Some variables changed their code between versions.
     if (entry->code == 0) entry->code = static_cast<std::int16_t>(tag.code);
-    OdDbVarValue& value = m_data.vars[i];
     m_data.varPresent[i] = true;
-    switch (vars[i].type) {
-    case OdDbHeaderVarInfo::kInt:
-      value = m_in.longInteger(tag, 0);
-      break;
-    case OdDbHeaderVarInfo::kReal:
-    case OdDbHeaderVarInfo::kTime:
-      value = m_in.real(tag, 0);
-      break;
-    case OdDbHeaderVarInfo::kPoint3d:
-    case OdDbHeaderVarInfo::kPoint2d: {
-      if (!std::holds_alternative<OdGePoint3d>(value)) value = OdGePoint3d();
-      auto& point = std::get<OdGePoint3d>(value);
-      double& part = tag.code == 10 ? point.x : (tag.code == 20 ? point.y : point.z);
-      part = m_in.real(tag, part);
-      break;
-    }
-    case OdDbHeaderVarInfo::kColor: {
-      const int index = m_in.integer(tag, OdCmColor::kACIbyLayer);
-      if (index >= 0 && index <= OdCmColor::kACInone) value = OdCmColor::fromColorIndex(index);
-      break;
-    }
-    case OdDbHeaderVarInfo::kHandle:
-      value = m_in.reference(tag);
-      break;
-    // Records are found by name when all of them are there.
-    default:
-      value = m_in.text(tag.text);
-      break;
-    }
+    takeValue(m_data.vars[i], vars[i].type, tag, m_in);
   }
 }
 

@@ -10,68 +10,73 @@
 #include <cmath>
 #include <cstring>
 
+namespace {
+
+struct CodePage {
+  const char* name;
+  const char* encoding;
+};
+// The platform knows many more, and some of them would spoil every text: in UTF-16 or EBCDIC not
+// even the letters of group codes are where they are here.
+constexpr CodePage kCodePages[] = {
+    {"ANSI_1252", "windows-1252"},
+    {"ANSI_1250", "windows-1250"},
+    {"ANSI_1251", "windows-1251"},
+    {"ANSI_1253", "windows-1253"},
+    {"ANSI_1254", "windows-1254"},
+    {"ANSI_1255", "windows-1255"},
+    {"ANSI_1256", "windows-1256"},
+    {"ANSI_1257", "windows-1257"},
+    {"ANSI_1258", "windows-1258"},
+    {"ANSI_874", "windows-874"},
+    {"ANSI_932", "windows-932"},
+    {"ANSI_936", "GBK"},
+    {"ANSI_949", "windows-949"},
+    {"ANSI_950", "Big5"},
+    {"ANSI_1361", oddxf::kJohab},
+    {"ASCII", "ISO-8859-1"},
+    {"ISO8859-1", "ISO-8859-1"},
+    {"ISO8859-2", "ISO-8859-2"},
+    {"ISO8859-3", "ISO-8859-3"},
+    {"ISO8859-4", "ISO-8859-4"},
+    {"ISO8859-5", "ISO-8859-5"},
+    {"ISO8859-6", "ISO-8859-6"},
+    {"ISO8859-7", "ISO-8859-7"},
+    {"ISO8859-8", "ISO-8859-8"},
+    {"ISO8859-9", "ISO-8859-9"},
+    {"DOS437", "IBM437"},
+    {"DOS708", "ISO-8859-6"},
+    {"DOS720", "IBM720"},
+    {"DOS737", "IBM737"},
+    {"DOS775", "IBM775"},
+    {"DOS850", "IBM850"},
+    {"DOS852", "IBM852"},
+    {"DOS855", "IBM855"},
+    {"DOS857", "IBM857"},
+    {"DOS860", "IBM860"},
+    {"DOS861", "IBM861"},
+    {"DOS862", "IBM862"},
+    {"DOS863", "IBM863"},
+    {"DOS864", "IBM864"},
+    {"DOS865", "IBM865"},
+    {"DOS866", "IBM866"},
+    {"DOS869", "IBM869"},
+    {"DOS932", "IBM932"},
+    {"MACINTOSH", "macintosh"},
+    {"MAC-ROMAN", "macintosh"},
+    {"BIG5", "Big5"},
+    {"GB2312", "GBK"},
+    {"JOHAB", oddxf::kJohab},
+    {"KSC5601", "windows-949"},
+    {"UTF-8", "UTF-8"},
+};
+
+} // namespace
+
 QByteArray oddxf::encodingOf(std::string_view codePage) {
-  struct Row {
-    const char* name;
-    const char* encoding;
-  };
-  // The platform knows many more, and some of them would spoil every text: in UTF-16 or EBCDIC not
-  // even the letters of group codes are where they are here.
-  static constexpr Row kRows[] = {
-      {"ANSI_1252", "windows-1252"},
-      {"ANSI_1250", "windows-1250"},
-      {"ANSI_1251", "windows-1251"},
-      {"ANSI_1253", "windows-1253"},
-      {"ANSI_1254", "windows-1254"},
-      {"ANSI_1255", "windows-1255"},
-      {"ANSI_1256", "windows-1256"},
-      {"ANSI_1257", "windows-1257"},
-      {"ANSI_1258", "windows-1258"},
-      {"ANSI_874", "windows-874"},
-      {"ANSI_932", "windows-932"},
-      {"ANSI_936", "GBK"},
-      {"ANSI_949", "windows-949"},
-      {"ANSI_950", "Big5"},
-      {"ANSI_1361", kJohab},
-      {"ASCII", "ISO-8859-1"},
-      {"ISO8859-1", "ISO-8859-1"},
-      {"ISO8859-2", "ISO-8859-2"},
-      {"ISO8859-3", "ISO-8859-3"},
-      {"ISO8859-4", "ISO-8859-4"},
-      {"ISO8859-5", "ISO-8859-5"},
-      {"ISO8859-6", "ISO-8859-6"},
-      {"ISO8859-7", "ISO-8859-7"},
-      {"ISO8859-8", "ISO-8859-8"},
-      {"ISO8859-9", "ISO-8859-9"},
-      {"DOS437", "IBM437"},
-      {"DOS708", "ISO-8859-6"},
-      {"DOS720", "IBM720"},
-      {"DOS737", "IBM737"},
-      {"DOS775", "IBM775"},
-      {"DOS850", "IBM850"},
-      {"DOS852", "IBM852"},
-      {"DOS855", "IBM855"},
-      {"DOS857", "IBM857"},
-      {"DOS860", "IBM860"},
-      {"DOS861", "IBM861"},
-      {"DOS862", "IBM862"},
-      {"DOS863", "IBM863"},
-      {"DOS864", "IBM864"},
-      {"DOS865", "IBM865"},
-      {"DOS866", "IBM866"},
-      {"DOS869", "IBM869"},
-      {"DOS932", "IBM932"},
-      {"MACINTOSH", "macintosh"},
-      {"MAC-ROMAN", "macintosh"},
-      {"BIG5", "Big5"},
-      {"GB2312", "GBK"},
-      {"JOHAB", kJohab},
-      {"KSC5601", "windows-949"},
-      {"UTF-8", "UTF-8"},
-  };
   const QByteArray upper =
       QByteArray(codePage.data(), static_cast<qsizetype>(codePage.size())).trimmed().toUpper();
-  for (const Row& row : kRows)
+  for (const CodePage& row : kCodePages)
     if (upper == row.name) return row.encoding;
   return {};
 }

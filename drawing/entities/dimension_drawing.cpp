@@ -81,6 +81,97 @@ OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimensio
   return middle;
 }
 
+/// A dimension line that is straight, in the dimension's plane.
+struct Straight {
+  OdGePoint3d from, to;
+  OdGeVector3d along; ///< of length 1
+};
+
+/// A text beside or in a dimension line.
+struct Label {
+  OdGePoint2d size;
+  double turn = 0;
+  OdGePoint3d middle = {};
+};
+
+double gapOf(const oddb::DimensionBlock& block) {
+  return std::abs(block.scaled(block.vars().dimgap));
+}
+
+/// The length of an arrow, or of the tick in its place.
+double arrowOf(const oddb::DimensionBlock& block) {
+  const double tick = block.vars().dimtsz;
+  return tick > 0 ? block.scaled(tick) : block.arrowSize();
+}
+
+/// What stands between the extension lines, and not outside.
+struct Fit {
+  bool textIsInside, arrowsAreInside;
+};
+
+/// `length` is that of the dimension line.
+Fit fitBetween(const oddb::DimensionBlock& block, double length, double textWidth) {
+  // Of two arrows, with a little of a line between them.
+  constexpr double kArrowsRoom = 2.5;
+  const OdDbDimVarValues& v = block.vars();
+  const double gap = gapOf(block), arrow = arrowOf(block);
+  const bool isTick = v.dimtsz > 0;
+  const bool textFits = length >= textWidth + 2 * gap || v.dimtix;
+  const bool arrowsFit = length >= kArrowsRoom * arrow || isTick;
+  const bool bothFit = length >= textWidth + 2 * gap + 2 * arrow;
+  Fit fit{bothFit || v.dimtix, bothFit || isTick};
+  // Where not both have room, the style says what goes out first: arrows (1), text (2), the one
+  // that does not fit (3), or both (0).
+  if (!bothFit) {
+    if (v.dimatfit == 1 || v.dimatfit == 3) fit.textIsInside = textFits;
+    if (v.dimatfit == 2 || (v.dimatfit == 3 && !textFits)) fit.arrowsAreInside = arrowsFit;
+  }
+  return fit;
+}
+
+/// Where the style has the middle of the text.
+OdGePoint3d usualMiddle(const oddb::DimensionBlock& block, const Straight& line, const Fit& fit,
+                        const Label& label, bool isLevel) {
+  const OdDbDimVarValues& v = block.vars();
+  const double gap = gapOf(block), arrow = arrowOf(block);
+  const double half = label.size.x / 2 + gap;
+  OdGePoint3d middle = between(line.from, line.to);
+  if (!fit.textIsInside)
+    middle = line.to + line.along * (half + (fit.arrowsAreInside ? 0 : 2 * arrow));
+  else if (v.dimjust == 1)
+    middle = line.from + line.along * (half + arrow);
+  else if (v.dimjust == 2)
+    middle = line.to - line.along * (half + arrow);
+  const OdGeVector3d up = unit(label.turn + kOdaPi / 2);
+  // Above the line, or a part of its height away from it.
+  if (v.dimtad != 0 && !isLevel)
+    return middle + up * ((v.dimtad == 4 ? -1 : 1) * (label.size.y / 2 + gap));
+  if (v.dimtad == 0 && v.dimtvp != 0) return middle + up * (v.dimtvp * block.textHeight());
+  return middle;
+}
+
+void drawLine(oddb::DimensionBlock& block, const Straight& line, const Fit& fit,
+              const Label& label) {
+  const OdDbDimVarValues& v = block.vars();
+  const OdGeVector3d& along = line.along;
+  if (fit.arrowsAreInside) {
+    const double back1 = block.arrow(line.from, -along, true);
+    const double back2 = block.arrow(line.to, along, false);
+    block.dimensionLine(line.from + along * (back1 - block.scaled(back1 > 0 ? 0 : v.dimdle)),
+                        line.to - along * (back2 - block.scaled(back2 > 0 ? 0 : v.dimdle)),
+                        label.middle, label.size, label.turn);
+    return;
+  }
+  block.arrow(line.from, along, true);
+  block.arrow(line.to, -along, false);
+  if (!v.dimsoxd) {
+    const double arrow = arrowOf(block);
+    block.dimensionLine(line.from - along * arrow, line.from - along * (2 * arrow));
+    block.dimensionLine(line.to + along * arrow, line.to + along * (2 * arrow));
+  }
+  if (v.dimtofl) block.dimensionLine(line.from, line.to, label.middle, label.size, label.turn);
+}
+
 } // namespace
 
 bool OdDbAlignedDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
@@ -97,67 +188,28 @@ bool OdDbAlignedDimension::layOut(oddb::DimensionBlock& block, Data& drawn) cons
   const auto foot = [&](const OdGePoint3d& p) {
     return p + e * ((at - p).dotProduct(n) / e.dotProduct(n));
   };
-  OdGePoint3d q1 = foot(p1);
-  OdGePoint3d q2 = foot(p2);
-  block.extensionLine(p1, q1, true);
-  block.extensionLine(p2, q2, false);
+  Straight line{foot(p1), foot(p2), d};
+  const OdGeVector3d way = line.to - line.from;
+  const double length = way.length();
+  if (length > 0) line.along = way * (1 / length);
+  block.extensionLine(p1, line.from, true);
+  block.extensionLine(p2, line.to, false);
 
   const OdString text = displayedText();
-  const OdGePoint2d size = block.textSize(text);
-  const double gap = std::abs(block.scaled(v.dimgap));
-  const double arrow = v.dimtsz > 0 ? block.scaled(v.dimtsz) : block.arrowSize();
-  const OdGeVector3d way = q2 - q1;
-  const double length = way.length();
-  const OdGeVector3d along = length > 0 ? way * (1 / length) : d;
-  const bool textFits = length >= size.x + 2 * gap || v.dimtix;
-  const bool arrowsFit = length >= 2.5 * arrow || v.dimtsz > 0;
-  const bool bothFit = length >= size.x + 2 * gap + 2 * arrow;
-  // Where not both have room, the style says what goes out first: arrows (1), text (2), or both
-  // (0).
-  bool textInside = bothFit || v.dimtix;
-  bool arrowsInside = bothFit || v.dimtsz > 0;
-  if (!bothFit) {
-    if (v.dimatfit == 1 || v.dimatfit == 3) textInside = textFits;
-    if (v.dimatfit == 2 || (v.dimatfit == 3 && !textFits)) arrowsInside = arrowsFit;
-  }
-  const bool isLevel = textInside ? v.dimtih : v.dimtoh;
-  const double turn = textRotation() != 0 ? textRotation()
-                      : isLevel           ? 0
-                                          : readableAngle(std::atan2(along.y, along.x));
-  OdGePoint3d middle = m_dimension.textMiddle;
-  if (isUsingDefaultTextPosition()) {
-    middle = between(q1, q2);
-    const double half = size.x / 2 + gap;
-    if (textInside && v.dimjust == 1) middle = q1 + along * (half + arrow);
-    if (textInside && v.dimjust == 2) middle = q2 - along * (half + arrow);
-    if (!textInside) middle = q2 + along * (half + (arrowsInside ? 0 : 2 * arrow));
-    const OdGeVector3d up = unit(turn + kOdaPi / 2);
-    // Above the line, or a part of its height away from it.
-    if (v.dimtad != 0 && !isLevel)
-      middle = middle + up * ((v.dimtad == 4 ? -1 : 1) * (size.y / 2 + gap));
-    else if (v.dimtad == 0 && v.dimtvp != 0)
-      middle = middle + up * (v.dimtvp * block.textHeight());
-  }
-  if (arrowsInside) {
-    const double back1 = block.arrow(q1, -along, true);
-    const double back2 = block.arrow(q2, along, false);
-    block.dimensionLine(q1 + along * (back1 - block.scaled(back1 > 0 ? 0 : v.dimdle)),
-                        q2 - along * (back2 - block.scaled(back2 > 0 ? 0 : v.dimdle)), middle, size,
-                        turn);
-  } else {
-    block.arrow(q1, along, true);
-    block.arrow(q2, -along, false);
-    if (!v.dimsoxd) {
-      block.dimensionLine(q1 - along * arrow, q1 - along * (2 * arrow));
-      block.dimensionLine(q2 + along * arrow, q2 + along * (2 * arrow));
-    }
-    if (v.dimtofl) block.dimensionLine(q1, q2, middle, size, turn);
-  }
-  block.text(text, middle, turn);
-  for (const OdGePoint3d& p : {p1, p2, q2}) block.definitionPoint(p);
+  Label label{block.textSize(text)};
+  const Fit fit = fitBetween(block, length, label.size.x);
+  const bool isLevel = fit.textIsInside ? v.dimtih : v.dimtoh;
+  label.turn = textRotation() != 0 ? textRotation()
+               : isLevel           ? 0
+                                   : readableAngle(std::atan2(line.along.y, line.along.x));
+  label.middle = isUsingDefaultTextPosition() ? usualMiddle(block, line, fit, label, isLevel)
+                                              : m_dimension.textMiddle;
+  drawLine(block, line, fit, label);
+  block.text(text, label.middle, label.turn);
+  for (const OdGePoint3d& p : {p1, p2, line.to}) block.definitionPoint(p);
 
-  drawn.definition = OdGeMatrix3d::planeToWorld(normal()) * q2;
-  drawn.textMiddle = middle;
+  drawn.definition = OdGeMatrix3d::planeToWorld(normal()) * line.to;
+  drawn.textMiddle = label.middle;
   return true;
 }
 

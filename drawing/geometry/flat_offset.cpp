@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <optional>
 
 namespace {
@@ -234,51 +235,61 @@ class Offsetter {
   std::vector<Path> stitch() {
     std::vector<Path> paths;
     std::vector<char> used(m_kept.size());
-    const double near = 1000 * m_slack;
-    const auto follower = [&](const OdGePoint2d& end) {
-      std::size_t best = m_kept.size();
-      double bestGap = near;
-      for (std::size_t i = 0; i < m_kept.size(); ++i) {
-        if (used[i]) continue;
-        if (const double gap = m_kept[i].start.distanceTo(end); gap <= bestGap) {
-          best = i;
-          bestGap = gap;
-        }
-      }
-      return best;
-    };
-    // A piece that nothing leads to begins an open path; those are looked for first.
-    std::vector<std::size_t> order;
-    for (const bool wanted : {true, false})
-      for (std::size_t i = 0; i < m_kept.size(); ++i) {
-        const bool begins = std::none_of(m_kept.begin(), m_kept.end(), [&](const Piece& p) {
-          return p.end.distanceTo(m_kept[i].start) <= near;
-        });
-        if (begins == wanted) order.push_back(i);
-      }
-    for (const std::size_t first : order) {
+    for (const std::size_t first : beginnings()) {
       if (used[first]) continue;
-      Path path;
-      std::size_t at = first;
-      const OdGePoint2d start = m_kept[first].start;
-      for (;;) {
-        used[at] = 1;
-        append(path, m_kept[at]);
-        const OdGePoint2d end = m_kept[at].end;
-        if (end.distanceTo(start) <= near && path.corners.size() > 1) {
-          path.closed = true;
-          break;
-        }
-        at = follower(end);
-        if (at == m_kept.size()) {
-          path.corners.push_back({end, 0});
-          break;
-        }
-      }
+      Path path = pathFrom(first, used);
       if (path.closed) mergeOverStart(path);
       paths.push_back(std::move(path));
     }
     return paths;
+  }
+
+  /// Ends no further apart than this belong together.
+  double nearness() const { return 1000 * m_slack; }
+
+  /// All pieces; a piece that nothing leads to begins an open path and stands before the others.
+  std::vector<std::size_t> beginnings() const {
+    std::vector<std::size_t> order(m_kept.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_partition(order.begin(), order.end(), [&](std::size_t i) {
+      return std::none_of(m_kept.begin(), m_kept.end(), [&](const Piece& p) {
+        return p.end.distanceTo(m_kept[i].start) <= nearness();
+      });
+    });
+    return order;
+  }
+
+  /// The unused piece that begins nearest to an end; one behind the last if none is near.
+  std::size_t follower(const OdGePoint2d& end, const std::vector<char>& used) const {
+    std::size_t best = m_kept.size();
+    double bestGap = nearness();
+    for (std::size_t i = 0; i < m_kept.size(); ++i) {
+      if (used[i]) continue;
+      if (const double gap = m_kept[i].start.distanceTo(end); gap <= bestGap) {
+        best = i;
+        bestGap = gap;
+      }
+    }
+    return best;
+  }
+
+  Path pathFrom(std::size_t first, std::vector<char>& used) const {
+    Path path;
+    const OdGePoint2d start = m_kept[first].start;
+    for (std::size_t at = first;;) {
+      used[at] = 1;
+      append(path, m_kept[at]);
+      const OdGePoint2d end = m_kept[at].end;
+      if (end.distanceTo(start) <= nearness() && path.corners.size() > 1) {
+        path.closed = true;
+        return path;
+      }
+      at = follower(end, used);
+      if (at == m_kept.size()) {
+        path.corners.push_back({end, 0});
+        return path;
+      }
+    }
   }
 
   /// Adds a piece; one that only goes on with the piece before is joined with it.

@@ -74,6 +74,22 @@ void evaluate(const OdGeNurbs& n, double t, int derivs, std::array<Weighted, 3>&
   }
 }
 
+/// Where the function has its least value between two parameters, if it has one valley there.
+template <class Function>
+double goldenSection(const Function& function, double low, double high) {
+  constexpr double kGolden = 0.6180339887498949;
+  constexpr int kSteps = 60;
+  for (int i = 0; i < kSteps; ++i) {
+    const double a = high - (high - low) * kGolden;
+    const double b = low + (high - low) * kGolden;
+    if (function(a) < function(b))
+      high = b;
+    else
+      low = a;
+  }
+  return (low + high) / 2;
+}
+
 } // namespace
 
 bool OdGeNurbs::isValid() const {
@@ -187,19 +203,9 @@ double OdGeNurbs::closestTo(const OdGePoint3d& point) const {
         reach = step;
       }
     }
-  double low = std::max(best - reach, start());
-  double high = std::min(best + reach, end());
   // The golden section works for corners, too; what it finds is made exact by steps.
-  constexpr double kGolden = 0.6180339887498949;
-  for (int i = 0; i < 60; ++i) {
-    const double a = high - (high - low) * kGolden;
-    const double b = low + (high - low) * kGolden;
-    if (distance(a) < distance(b))
-      high = b;
-    else
-      low = a;
-  }
-  double t = (low + high) / 2;
+  double t =
+      goldenSection(distance, std::max(best - reach, start()), std::min(best + reach, end()));
   for (int i = 0; i < 4; ++i) {
     OdGeVector3d second;
     const OdGeVector3d first = derivAt(t, &second);

@@ -323,18 +323,28 @@ class LayOut {
     return place * (c.width + c.gutter);
   }
 
+  /// By attachment means as the whole text is fastened.
+  Paragraph::Align alignOf(const Paragraph& paragraph) const {
+    if (paragraph.align != Paragraph::kByAttachment) return paragraph.align;
+    constexpr Paragraph::Align kAligns[] = {Paragraph::kLeft, Paragraph::kCenter,
+                                            Paragraph::kRight};
+    return kAligns[(std::clamp(m_frame.attachment, 1, 9) - 1) % 3];
+  }
+
+  /// How much wider each blank of a line becomes that is to fill its room.
+  static double spreadOf(const Line& line, double room, double used) {
+    const auto blanks = std::count_if(line.items.begin(), line.items.end(),
+                                      [](const Item& i) { return i.isBlank; }) -
+                        (line.items.back().isBlank ? 1 : 0);
+    return blanks > 0 && room > used ? (room - used) / static_cast<double>(blanks) : 0;
+  }
+
   void placeLine(const Line& line, int column, double y, double lineHeight) {
     m_line.paragraph = line.paragraph;
     m_line.first = line.first;
-    const Paragraph& p = line.paragraph;
     const double used = widthOf(line.items);
-    const double room = m_width > 0 ? m_width - indent() - p.rightIndent : used;
-    Paragraph::Align align = p.align;
-    if (align == Paragraph::kByAttachment) {
-      constexpr Paragraph::Align kAligns[] = {Paragraph::kLeft, Paragraph::kCenter,
-                                              Paragraph::kRight};
-      align = kAligns[(std::clamp(m_frame.attachment, 1, 9) - 1) % 3];
-    }
+    const double room = m_width > 0 ? m_width - indent() - line.paragraph.rightIndent : used;
+    const Paragraph::Align align = alignOf(line.paragraph);
     double x = indent() + (m_inColumns ? columnLeft(column) : 0);
     double spread = 0;
     if (m_width <= 0) {
@@ -345,18 +355,22 @@ class LayOut {
     } else if (align == Paragraph::kRight) {
       x += room - used;
     } else if (align == Paragraph::kDistributed || (align == Paragraph::kJustified && !line.last)) {
-      const auto blanks = std::count_if(line.items.begin(), line.items.end(),
-                                        [](const Item& i) { return i.isBlank; }) -
-                          (line.items.back().isBlank ? 1 : 0);
-      if (blanks > 0 && room > used) spread = (room - used) / static_cast<double>(blanks);
+      spread = spreadOf(line, room, used);
     }
-    const double start = x;
+    placeItems(line.items, x, y, lineHeight, spread);
+    m_right = std::max(m_right, x + used);
+    m_left = std::min(m_left, x);
+  }
+
+  void placeItems(const std::vector<Item>& items, double start, double y, double lineHeight,
+                  double spread) {
+    double x = start;
     m_lineStart = m_layout.runs.size();
-    for (std::size_t i = 0; i < line.items.size(); ++i) {
-      const Item& item = line.items[i];
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      const Item& item = items[i];
       switch (item.kind) {
       case Piece::kTab:
-        x = start + behindTab(line.items, i, x - start);
+        x = start + behindTab(items, i, x - start);
         break;
       case Piece::kStack:
         placeStack(item, x, y, lineHeight);
@@ -373,8 +387,6 @@ class LayOut {
       }
       }
     }
-    m_right = std::max(m_right, start + used);
-    m_left = std::min(m_left, start);
   }
 
   void put(const OdString& text, const OdMTextFormat& format, double x, double y, double width,

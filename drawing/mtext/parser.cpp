@@ -310,6 +310,50 @@ class Parser {
   }
 
   void readParagraphPart(const OdString& part, bool& inTabs) {
+    const char16_t first = part[0].unicode();
+    const OdString rest = part.mid(1);
+    if (first == u't') {
+      inTabs = true;
+      m_paragraph.tabs.clear();
+      return addTab(rest);
+    }
+    if (inTabs &&
+        (part[0].isDigit() || first == u'.' || first == u'c' || first == u'r' || first == u'd'))
+      return addTab(part);
+    inTabs = false;
+    if (first == u'q')
+      readAlignment(rest);
+    else if (first == u's')
+      readSpacing(rest);
+    else
+      readParagraphLength(first, rest);
+  }
+
+  void readAlignment(const OdString& letter) {
+    struct Align {
+      char16_t letter;
+      Paragraph::Align align;
+    };
+    static constexpr Align kAligns[] = {
+        {u'l', Paragraph::kLeft},        {u'c', Paragraph::kCenter},
+        {u'r', Paragraph::kRight},       {u'j', Paragraph::kJustified},
+        {u'd', Paragraph::kDistributed}, {u'*', Paragraph::kByAttachment}};
+    for (const Align& a : kAligns)
+      if (!letter.isEmpty() && letter[0].unicode() == a.letter) m_paragraph.align = a.align;
+  }
+
+  void readSpacing(const OdString& text) {
+    const char16_t kind = text.isEmpty() ? u'*' : text[0].unicode();
+    const auto value = number(QStringView(text).mid(1));
+    m_paragraph.spacingKind = Paragraph::kAsText;
+    if (!value) return;
+    if (kind == u'm') m_paragraph.spacingKind = Paragraph::kMultiple;
+    if (kind == u'e') m_paragraph.spacingKind = Paragraph::kExact;
+    if (kind == u'a') m_paragraph.spacingKind = Paragraph::kAtLeast;
+    m_paragraph.spacing = kind == u'm' ? *value : *value * m_unit;
+  }
+
+  void readParagraphLength(char16_t letter, const OdString& text) {
     struct Length {
       char16_t letter;
       double Paragraph::*member;
@@ -319,48 +363,10 @@ class Parser {
                                           {u'r', &Paragraph::rightIndent},
                                           {u'b', &Paragraph::before},
                                           {u'a', &Paragraph::after}};
-    struct Align {
-      char16_t letter;
-      Paragraph::Align align;
-    };
-    static constexpr Align kAligns[] = {
-        {u'l', Paragraph::kLeft},        {u'c', Paragraph::kCenter},
-        {u'r', Paragraph::kRight},       {u'j', Paragraph::kJustified},
-        {u'd', Paragraph::kDistributed}, {u'*', Paragraph::kByAttachment}};
-    const char16_t first = part[0].unicode();
-    const OdString rest = part.mid(1);
-    if (first == u't') {
-      inTabs = true;
-      m_paragraph.tabs.clear();
-      addTab(rest);
-      return;
-    }
-    if (inTabs &&
-        (part[0].isDigit() || first == u'.' || first == u'c' || first == u'r' || first == u'd')) {
-      addTab(part);
-      return;
-    }
-    inTabs = false;
-    if (first == u'q') {
-      for (const Align& a : kAligns)
-        if (!rest.isEmpty() && rest[0].unicode() == a.letter) m_paragraph.align = a.align;
-      return;
-    }
-    if (first == u's') {
-      const char16_t kind = rest.isEmpty() ? u'*' : rest[0].unicode();
-      const auto value = number(QStringView(rest).mid(1));
-      m_paragraph.spacingKind = Paragraph::kAsText;
-      if (!value) return;
-      if (kind == u'm') m_paragraph.spacingKind = Paragraph::kMultiple;
-      if (kind == u'e') m_paragraph.spacingKind = Paragraph::kExact;
-      if (kind == u'a') m_paragraph.spacingKind = Paragraph::kAtLeast;
-      m_paragraph.spacing = kind == u'm' ? *value : *value * m_unit;
-      return;
-    }
     for (const Length& length : kLengths) {
-      if (first != length.letter) continue;
-      const auto value = number(rest);
-      if (value || rest == QLatin1String("*"))
+      if (letter != length.letter) continue;
+      const auto value = number(text);
+      if (value || text == QLatin1String("*"))
         m_paragraph.*length.member = value.value_or(0) * m_unit;
     }
   }

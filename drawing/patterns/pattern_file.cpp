@@ -15,6 +15,15 @@ OdGePoint2d turned(OdGePoint2d p, double angle) {
   return {p.x * c - p.y * s, p.x * s + p.y * c};
 }
 
+OdHatchPatternLine patternLine(const std::vector<double>& numbers) {
+  OdHatchPatternLine line;
+  line.angle = numbers[0] * kDegree;
+  line.base = {numbers[1], numbers[2]};
+  line.offset = turned({numbers[3], numbers[4]}, line.angle);
+  line.dashes.assign(numbers.begin() + kFixedNumbers, numbers.end());
+  return line;
+}
+
 } // namespace
 
 std::vector<OdHatchPatternLine> OdHatchPattern::placed(double scale, double angle,
@@ -62,21 +71,12 @@ OdHatchPatternFile OdHatchPatternFile::parse(const QByteArray& bytes) {
       continue;
     }
     const auto numbers = odpattern::numbers(line.text);
-    if (!numbers || numbers->size() < kFixedNumbers) {
+    if (!numbers || numbers->size() < kFixedNumbers)
       complain(line, QStringLiteral("a pattern line needs at least five numbers"));
-      continue;
-    }
-    const std::vector<double>& n = *numbers;
-    OdHatchPatternLine made;
-    made.angle = n[0] * kDegree;
-    made.base = {n[1], n[2]};
-    made.offset = turned({n[3], n[4]}, made.angle);
-    made.dashes.assign(n.begin() + kFixedNumbers, n.end());
-    if (n[4] == 0) {
+    else if ((*numbers)[4] == 0)
       complain(line, QStringLiteral("lines of a pattern that lie upon each other"));
-      continue;
-    }
-    file.m_patterns.back().lines.push_back(std::move(made));
+    else
+      file.m_patterns.back().lines.push_back(patternLine(*numbers));
   }
   std::erase_if(file.m_patterns, [&](const OdHatchPattern& pattern) {
     if (!pattern.lines.empty()) return false;
