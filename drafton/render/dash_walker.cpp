@@ -14,6 +14,17 @@ constexpr double kAstray = 1e-6;
 
 } // namespace
 
+/// A straight part of the path.
+struct DashWalker::Stretch {
+  OdGePoint3d from;
+  OdGeVector3d along; ///< of length 1
+  QPointF a, b;       ///< its ends on the picture
+  double length;
+  double position; ///< of its beginning along the path
+
+  QPointF pixelAt(double at) const { return a + (b - a) * (at / length); }
+};
+
 DashWalker::DashWalker(Surface& surface, const Projection& projection, const DashPattern& pattern,
                        double scale, double reach, DrawOrnament drawOrnament, DrawDash drawDash)
   : m_surface(surface)
@@ -102,56 +113,62 @@ bool DashWalker::isTooFine(double length, double pixels) const {
 void DashWalker::segment(const OdGePoint3d& from, const OdGePoint3d& to) {
   const double length = from.distanceTo(to);
   if (!(length > 0)) return;
-  const QPointF a = m_projection(from), b = m_projection(to);
+  const Stretch stretch{
+      from, (to - from) * (1 / length), m_projection(from), m_projection(to), length, m_position};
   double enters = 0, leaves = 1;
-  if (!clipLine(m_seen, a, b, enters, leaves)) {
-    endDash();
-    m_position += length;
-    seek(m_position);
-    return;
-  }
-  const double start = m_position;
-  double at = 0;
+  if (!clipLine(m_seen, stretch.a, stretch.b, enters, leaves)) return goOnBehind(stretch);
   if (enters > 0) {
     endDash();
-    at = enters * length;
-    seek(start + at);
+    seek(m_position + enters * length);
   }
-  const double last = leaves * length;
-  if (isTooFine(last - at, QLineF(a, b).length() * (leaves - enters))) {
-    endDash();
-    if (m_drawDash)
-      m_drawDash(start + at, start + last);
-    else
-      m_surface.line(a + (b - a) * (at / length), a + (b - a) * (last / length));
-    m_position = start + length;
-    return seek(m_position);
+  const double first = enters * length, last = leaves * length;
+  if (isTooFine(last - first, QLineF(stretch.a, stretch.b).length() * (leaves - enters))) {
+    solid(stretch, first, last);
+    return goOnBehind(stretch);
   }
-  const OdGeVector3d along = (to - from) * (1 / length);
-  addPoint(a + (b - a) * (at / length), start + at);
+  dashes(stretch, first, last);
+  if (leaves < 1) return goOnBehind(stretch);
+  m_position += length;
+}
+
+/// Leaves out what was not walked of it.
+void DashWalker::goOnBehind(const Stretch& stretch) {
+  endDash();
+  m_position = stretch.position + stretch.length;
+  seek(m_position);
+}
+
+/// Dashes that cannot be told from each other.
+void DashWalker::solid(const Stretch& stretch, double first, double last) {
+  endDash();
+  if (m_drawDash)
+    m_drawDash(stretch.position + first, stretch.position + last);
+  else
+    m_surface.line(stretch.pixelAt(first), stretch.pixelAt(last));
+}
+
+void DashWalker::dashes(const Stretch& stretch, double first, double last) {
+  double at = first;
+  addPoint(stretch.pixelAt(at), stretch.position + at);
   while (at + m_left <= last) {
     at += m_left;
     const DashPattern::Dash& dash = m_pattern.dashes()[m_dash];
-    const QPointF point = a + (b - a) * (at / length);
+    const QPointF point = stretch.pixelAt(at);
+    const double position = stretch.position + at;
     if (dash.length == 0 && m_drawDash)
-      m_drawDash(start + at, start + at);
+      m_drawDash(position, position);
     else if (dash.length == 0)
       m_surface.dot(point);
-    addPoint(point, start + at);
+    addPoint(point, position);
     endDash();
     if (dash.ornament >= 0 && m_drawOrnament)
       m_drawOrnament(m_pattern.ornaments()[static_cast<std::size_t>(dash.ornament)],
-                     from + along * at, along);
-    startDash((m_dash + 1) % m_pattern.dashes().size(), start + at);
-    addPoint(point, start + at);
+                     stretch.from + stretch.along * at, stretch.along);
+    startDash((m_dash + 1) % m_pattern.dashes().size(), position);
+    addPoint(point, position);
   }
   m_left -= last - at;
-  addPoint(a + (b - a) * (last / length), start + last);
-  m_position = start + length;
-  if (leaves < 1) {
-    endDash();
-    seek(m_position);
-  }
+  addPoint(stretch.pixelAt(last), stretch.position + last);
 }
 
 } // namespace drafton

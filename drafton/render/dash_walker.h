@@ -31,7 +31,11 @@ class DashWalker {
   void draw(std::span<const OdGePoint3d> points, bool closed);
 
  private:
+  struct Stretch;
   void segment(const OdGePoint3d& from, const OdGePoint3d& to);
+  void dashes(const Stretch& stretch, double first, double last);
+  void solid(const Stretch& stretch, double first, double last);
+  void goOnBehind(const Stretch& stretch);
   bool isTooFine(double length, double pixels) const;
   void seek(double position);
   void startDash(std::size_t dash, double position);

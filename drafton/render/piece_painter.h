@@ -7,6 +7,8 @@
 
 namespace drafton {
 
+struct TextShape;
+
 /// How points look, and how line types are scaled, as the drawing's variables tell.
 struct DrawingScales {
   double linetypeScale = 1;
@@ -32,7 +34,6 @@ class PiecePainter {
   void setStyle(const Style& style, const DashPattern& linetype);
   /// In a window that line types do not grow with, their lengths are multiplied by this.
   void setWindowScale(double factor) { m_windowScale = factor; }
-  double windowScale() const { return m_windowScale; }
   /// In pixels; points without a size are a part of it.
   void setPictureHeight(double height) { m_pictureHeight = height; }
   /// Draws all lines in one colour and wider by some pixels; 0 ends that.
@@ -56,6 +57,8 @@ class PiecePainter {
   void plainLine(std::span<const OdGePoint3d> points, bool closed);
   void arc(const OdGiArc& arc);
   void smoothArc(const OdGiArc& arc);
+  void seenArc(const OdGiArc& arc);
+  void chordArc(const OdGiArc& arc, int count);
   void arcPart(const OdGiArc& arc, double from, double to, const QPointF& a, const QPointF& b,
                int depth);
   bool isDashed() const;
@@ -71,7 +74,13 @@ class PiecePainter {
   void pattern(const ShapeList& list, const PatternPiece& pattern);
   bool seenStrokes(const PatternPiece& pattern);
   void strokes(const ShapeList& list, const Piece& piece, const QRectF& itemBox);
+  struct TextPlace;
   void text(const OdGiTextRun& run, double advance);
+  QRgb textColor(const OdGiTextRun& run) const;
+  void textStrip(const TextPlace& place, double advance, QRgb color);
+  void textContours(const TextShape& shape, const TextPlace& place);
+  void textLetters(const TextShape& shape, const TextPlace& place, QRgb color);
+  void textOutline(const TextShape& shape, const TextPlace& place, const OdGiTextRun& run);
   void mark(const PointPiece& point);
   void drawPicture(const QImage& picture, const QTransform& placed, const OdDbRasterImage& image,
                    std::span<const OdGePoint3d> edge);

@@ -8,6 +8,10 @@
 
 namespace drafton {
 
+inline QRgb withAlpha(QRgb color, std::uint8_t alpha) {
+  return (color & 0xFFFFFFu) | QRgb{alpha} << 24;
+}
+
 /// Goes the part `ink` / 256 of the way from one colour to another.
 inline QRgb mixed(QRgb from, QRgb to, unsigned ink) {
   constexpr QRgb kOdd = 0xFF00FFu;
