@@ -257,52 +257,38 @@ void limit(benchmark::State& state, double seconds) {
   for (auto _ : state) state.SetIterationTime(seconds);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  const QStringList arguments = QCoreApplication::arguments();
-  const bool isQuick = arguments.contains(QStringLiteral("--quick"));
-  const Amount& amount = isQuick ? kQuick : kWhole;
-  if (arguments.value(1) == QLatin1String("--write"))
-    return writeCatalogs(arguments.value(2), amount);
-  if (arguments.value(1) == QLatin1String("--start"))
+/// What the program does as a process of its own, when it is told to; its exit code.
+std::optional<int> runPart(const QStringList& arguments, const Amount& amount) {
+  const OdString part = arguments.value(1);
+  if (part == QLatin1String("--write")) return writeCatalogs(arguments.value(2), amount);
+  if (part == QLatin1String("--start"))
     return startAndLeave(arguments.value(2), arguments.value(3));
-  if (arguments.value(1) == QLatin1String("--rest"))
+  if (part == QLatin1String("--rest"))
     return loadRestAndLeave(arguments.value(2), arguments.value(3),
                             amount.palettes * amount.toolsEach);
+  return std::nullopt;
+}
 
-  const QTemporaryDir folder;
+void writeCatalogsApart(const QString& folder, const QString& quick) {
   for (const char* const name : {"many", "large", "none"})
-    QDir(folder.path()).mkdir(QString::fromLatin1(name));
+    QDir(folder).mkdir(QString::fromLatin1(name));
   if (QProcess::execute(QCoreApplication::applicationFilePath(),
-                        {QStringLiteral("--write"), folder.path(),
-                         isQuick ? QStringLiteral("--quick") : QString()}) != 0)
+                        {QStringLiteral("--write"), folder, quick}) != 0)
     qFatal("there are no catalogs");
+}
 
-  const QString many = folder.filePath(QStringLiteral("many"));
-  const QString none = folder.filePath(QStringLiteral("none"));
-  WindowSession session(many + u';' + folder.filePath(QStringLiteral("large")),
-                        folder.filePath(QStringLiteral("settings.ini")));
-  loadRest(session, amount.palettes * amount.toolsEach + amount.tools);
-  if (!session.tree() || !session.list() || !session.selectPalette(kLarge))
-    qFatal("the palettes do not open");
-  const Rest rest =
-      restOfStart(folder.path(), many, isQuick ? QStringLiteral("--quick") : QString());
-  const double idleCost = idle(isQuick ? 100 : 5000);
-
-  const auto add = [](const char* name, auto&& run, auto... arguments_) {
-    return benchmark::RegisterBenchmark(name, run, arguments_...)->Unit(benchmark::kMillisecond);
+void addBenchmarks(WindowSession& session, const Amount& amount, const QString& folder) {
+  const auto add = [](const char* name, auto&& run, auto... arguments) {
+    return benchmark::RegisterBenchmark(name, run, arguments...)->Unit(benchmark::kMillisecond);
   };
-  const auto timedBySteps = [&](const char* name, auto&& run, auto... arguments_) {
-    add(name, run, arguments_...)->UseManualTime();
+  const auto timedBySteps = [&](const char* name, auto&& run, auto... arguments) {
+    add(name, run, arguments...)->UseManualTime();
   };
   timedBySteps("frame of 16 ms", limit, 0.016);
   timedBySteps("frame of 33 ms", limit, 0.033);
   timedBySteps("50 ms", limit, 0.050);
-  add("start without tools", start, folder.path(), none)->UseRealTime();
-  add("start with 10,000 tools", start, folder.path(), many)->UseRealTime();
+  add("start without tools", start, folder, folder + QLatin1String("/none"))->UseRealTime();
+  add("start with 10,000 tools", start, folder, folder + QLatin1String("/many"))->UseRealTime();
   timedBySteps("click", click, std::ref(session));
   timedBySteps("size", switchTo, std::ref(session), 1, 3);
   timedBySteps("style", switchTo, std::ref(session), 2, 3);
@@ -313,6 +299,30 @@ int main(int argc, char** argv) {
   };
   timedBySteps("pan", drawn, pan);
   timedBySteps("zoom", drawn, zoom);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  const QStringList arguments = QCoreApplication::arguments();
+  const bool isQuick = arguments.contains(QStringLiteral("--quick"));
+  const Amount& amount = isQuick ? kQuick : kWhole;
+  if (const std::optional<int> code = runPart(arguments, amount)) return *code;
+
+  const QTemporaryDir folder;
+  const QString quick = isQuick ? QStringLiteral("--quick") : QString();
+  writeCatalogsApart(folder.path(), quick);
+  const QString many = folder.filePath(QStringLiteral("many"));
+  WindowSession session(many + u';' + folder.filePath(QStringLiteral("large")),
+                        folder.filePath(QStringLiteral("settings.ini")));
+  loadRest(session, amount.palettes * amount.toolsEach + amount.tools);
+  if (!session.tree() || !session.list() || !session.selectPalette(kLarge))
+    qFatal("the palettes do not open");
+  const Rest rest = restOfStart(folder.path(), many, quick);
+  const double idleCost = idle(isQuick ? 100 : 5000);
+  addBenchmarks(session, amount, folder.path());
   return bench::run(
       argc, argv,
       {{"start with 10,000 tools / without any", "start with 10,000 tools", "start without tools",

@@ -50,10 +50,57 @@ const ValueOption* findOption(QStringView name) {
   return nullptr;
 }
 
+/// Reads the option at `i`, and its value if that stands behind it. Gives what is wrong with it.
+OdString readOption(const QStringList& arguments, qsizetype& i, Reading& result) {
+  const OdString& argument = arguments[i];
+  if (argument == kExtents) {
+    result.picture.extents = true;
+    return {};
+  }
+  if (argument == kKeepGoing) {
+    result.options.keepsGoing = true;
+    return {};
+  }
+  const qsizetype equals = argument.indexOf(u'=');
+  const OdString name = equals < 0 ? argument : argument.left(equals);
+  const ValueOption* const option = findOption(name);
+  if (!option) return QStringLiteral("unknown option %1").arg(name);
+  if (equals < 0 && i + 1 >= arguments.size()) return QStringLiteral("%1 needs a value").arg(name);
+  option->store(result, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
+  return {};
+}
+
+/// Takes what is no option: the one drawing.
+OdString readName(const OdString& argument, Reading& result) {
+  if (!result.options.drawing.isEmpty())
+    return QStringLiteral("more than one drawing: %1 and %2").arg(result.options.drawing, argument);
+  if (argument.isEmpty()) return QStringLiteral("the name of the drawing is empty");
+  result.options.drawing = argument;
+  return {};
+}
+
+/// Reads all behind the first word. Gives what is wrong; empty if nothing is.
+OdString read(const QStringList& arguments, Reading& result) {
+  bool onlyNames = false;
+  for (qsizetype i = 1; i < arguments.size(); ++i) {
+    const OdString& argument = arguments[i];
+    OdString error;
+    if (!onlyNames && argument == QLatin1String("--"))
+      onlyNames = true;
+    else if (!onlyNames && argument.startsWith(QLatin1String("--")))
+      error = readOption(arguments, i, result);
+    else if (!onlyNames && argument.size() > 1 && argument.startsWith(u'-'))
+      error = QStringLiteral("unknown option %1").arg(argument);
+    else
+      error = readName(argument, result);
+    if (!error.isEmpty()) return error;
+  }
+  return {};
+}
+
 } // namespace
 
 BatchArguments parseArguments(const QStringList& arguments) {
-  Reading result;
   for (const OdString& argument : arguments) {
     if (argument == QLatin1String("--help") || argument == QLatin1String("-h"))
       return {.wish = BatchArguments::Wish::kHelp, .options = {}, .error = {}};
@@ -63,38 +110,8 @@ BatchArguments parseArguments(const QStringList& arguments) {
   if (arguments.isEmpty()) return {.wish = BatchArguments::Wish::kHelp, .options = {}, .error = {}};
   if (arguments.first() != QLatin1String("batch"))
     return wrong(QStringLiteral("'%1' is not known; use 'drafton batch'").arg(arguments.first()));
-  bool onlyNames = false;
-  for (qsizetype i = 1; i < arguments.size(); ++i) {
-    const OdString& argument = arguments[i];
-    if (!onlyNames && argument == QLatin1String("--")) {
-      onlyNames = true;
-    } else if (!onlyNames && argument.startsWith(QLatin1String("--"))) {
-      const qsizetype equals = argument.indexOf(u'=');
-      const OdString name = equals < 0 ? argument : argument.left(equals);
-      if (argument == kExtents) {
-        result.picture.extents = true;
-        continue;
-      }
-      if (argument == kKeepGoing) {
-        result.options.keepsGoing = true;
-        continue;
-      }
-      const ValueOption* const option = findOption(name);
-      if (!option) return wrong(QStringLiteral("unknown option %1").arg(name));
-      if (equals < 0 && i + 1 >= arguments.size())
-        return wrong(QStringLiteral("%1 needs a value").arg(name));
-      option->store(result, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
-    } else if (!onlyNames && argument.size() > 1 && argument.startsWith(u'-')) {
-      return wrong(QStringLiteral("unknown option %1").arg(argument));
-    } else if (!result.options.drawing.isEmpty()) {
-      return wrong(
-          QStringLiteral("more than one drawing: %1 and %2").arg(result.options.drawing, argument));
-    } else if (argument.isEmpty()) {
-      return wrong(QStringLiteral("the name of the drawing is empty"));
-    } else {
-      result.options.drawing = argument;
-    }
-  }
+  Reading result;
+  if (const OdString error = read(arguments, result); !error.isEmpty()) return wrong(error);
   if (const OdString& version = result.options.dxfVersion; !version.isEmpty()) {
     if (!dxfVersionNamed(version))
       return wrong(QStringLiteral("--dxf-version needs one of: %1").arg(dxfVersionNames()));

@@ -17,6 +17,12 @@ namespace {
 
 /// From here a press that moves is a drag, on the screen.
 constexpr double kDragDistance = 6;
+/// A grip is taken from so far away, on the screen.
+constexpr double kGripReach = 6;
+/// Of the wheel.
+constexpr double kStepsOfNotch = int{QWheelEvent::DefaultDeltasPerStep};
+constexpr double kZoomOfNotch = 1.2;
+constexpr double kMillimetresOfInch = 25.4;
 
 } // namespace
 
@@ -152,8 +158,8 @@ void Canvas::wheelEvent(QWheelEvent* event) {
   if (isPad && !event->pixelDelta().isNull() && !(event->modifiers() & Qt::ControlModifier)) {
     m_view.pan(QPointF(event->pixelDelta()) * devicePixelRatioF());
   } else {
-    const double turns = event->angleDelta().y() / 120.0;
-    m_view.zoom(std::pow(1.2, turns), pixelAt(event->position()));
+    const double notches = event->angleDelta().y() / kStepsOfNotch;
+    m_view.zoom(std::pow(kZoomOfNotch, notches), pixelAt(event->position()));
   }
   m_cursor = pixelAt(event->position());
   viewMoved();
@@ -227,7 +233,7 @@ void Canvas::press(Qt::KeyboardModifiers modifiers) {
 void Canvas::pressIdle(Qt::KeyboardModifiers modifiers) {
   if (m_grips.isDragging()) return m_grips.end(m_desktop, m_place->point);
   if (m_boxCorner) return endBox(modifiers);
-  const double reach = 6 * devicePixelRatioF();
+  const double reach = kGripReach * devicePixelRatioF();
   if (const GripTool::Place* const grip = m_grips.at(*m_cursor, m_view, reach)) {
     m_grips.begin(*grip);
     return viewMoved();
@@ -235,17 +241,23 @@ void Canvas::pressIdle(Qt::KeyboardModifiers modifiers) {
   const Selection found = m_chooser.at(*m_cursor);
   if (found.empty())
     m_boxCorner = m_cursor;
-  else if (modifiers & Qt::ShiftModifier)
+  else
+    choose(found, modifiers);
+  follow();
+}
+
+/// With Shift what is chosen already is let go.
+void Canvas::choose(const Selection& found, Qt::KeyboardModifiers modifiers) {
+  if (modifiers & Qt::ShiftModifier)
     m_chooser.remove(found);
   else
     m_chooser.add(found);
-  follow();
 }
 
 void Canvas::endBox(Qt::KeyboardModifiers modifiers) {
   const Selection found = m_chooser.between(*m_boxCorner, *m_cursor);
   m_boxCorner.reset();
-  modifiers& Qt::ShiftModifier ? m_chooser.remove(found) : m_chooser.add(found);
+  choose(found, modifiers);
   follow();
 }
 
@@ -345,7 +357,7 @@ PreviewShapes Canvas::transientShapes() const {
 CanvasLook Canvas::look() const {
   CanvasLook look;
   look.isDark = isDark(palette());
-  look.pixelsPerMillimetre = logicalDpiX() * devicePixelRatioF() / 25.4;
+  look.pixelsPerMillimetre = logicalDpiX() * devicePixelRatioF() / kMillimetresOfInch;
   look.highlighted.insert(m_hovered.begin(), m_hovered.end());
   const Selection& chosen = isIdle() ? m_document->preselection() : m_document->chosen();
   look.highlighted.insert(chosen.begin(), chosen.end());
@@ -381,7 +393,7 @@ void Canvas::paintOver(QPainter& painter) {
   const std::optional<OdGePoint3d> base = asked ? asked->base() : std::nullopt;
   if (isIdle()) {
     const GripTool::Place* hot = m_grips.isDragging() ? &m_grips.dragged() : nullptr;
-    if (!hot && m_cursor) hot = m_grips.at(*m_cursor, m_view, 6 * devicePixelRatioF());
+    if (!hot && m_cursor) hot = m_grips.at(*m_cursor, m_view, kGripReach * devicePixelRatioF());
     overlay.grips(m_grips.places(), hot);
   }
   if (!m_cursor || !m_place) return;

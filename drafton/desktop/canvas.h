@@ -80,6 +80,7 @@ class Canvas : public QWidget {
   void endBox(Qt::KeyboardModifiers modifiers);
   void pressZoomBox();
   void endZoomBox();
+  void choose(const Selection& found, Qt::KeyboardModifiers modifiers);
   PreviewShapes transientShapes() const;
   CanvasLook look() const;
   void paintOver(QPainter& painter);
@@ -102,7 +103,6 @@ class Canvas : public QWidget {
   bool m_bandAtPress = false;
   Selection m_hovered; ///< what a click or the box would choose
   std::optional<QPointF> m_panFrom;
-  double m_wheelRest = 0;
 };
 
 } // namespace drafton

@@ -21,6 +21,10 @@ double roundStep(double least) {
   return 10 * power;
 }
 
+void addLine(QPainterPath& path, std::initializer_list<QPointF> points) {
+  path.addPolygon(QPolygonF(QList<QPointF>(points)));
+}
+
 /// The shape of a snap's marker around 0, with a size of 1 to each side.
 QPainterPath markerShape(SnapKind kind) {
   QPainterPath path;
@@ -29,50 +33,37 @@ QPainterPath markerShape(SnapKind kind) {
     path.addRect(-1, -1, 2, 2);
     break;
   case SnapKind::kMiddle:
-    path.addPolygon(QPolygonF{{-1, 0.8}, {1, 0.8}, {0, -1}, {-1, 0.8}});
+    addLine(path, {{-1, 0.8}, {1, 0.8}, {0, -1}, {-1, 0.8}});
     break;
   case SnapKind::kCenter:
     path.addEllipse(QPointF(0, 0), 1, 1);
-    path.moveTo(-0.3, 0);
-    path.lineTo(0.3, 0);
-    path.moveTo(0, -0.3);
-    path.lineTo(0, 0.3);
+    addLine(path, {{-0.3, 0}, {0.3, 0}});
+    addLine(path, {{0, -0.3}, {0, 0.3}});
     break;
   case SnapKind::kNode:
     path.addEllipse(QPointF(0, 0), 1, 1);
-    path.moveTo(-1, -1);
-    path.lineTo(1, 1);
-    path.moveTo(-1, 1);
-    path.lineTo(1, -1);
+    [[fallthrough]];
+  case SnapKind::kIntersection:
+    addLine(path, {{-1, -1}, {1, 1}});
+    addLine(path, {{-1, 1}, {1, -1}});
     break;
   case SnapKind::kQuadrant:
-    path.addPolygon(QPolygonF{{0, -1}, {1, 0}, {0, 1}, {-1, 0}, {0, -1}});
-    break;
-  case SnapKind::kIntersection:
-    path.moveTo(-1, -1);
-    path.lineTo(1, 1);
-    path.moveTo(-1, 1);
-    path.lineTo(1, -1);
+    addLine(path, {{0, -1}, {1, 0}, {0, 1}, {-1, 0}, {0, -1}});
     break;
   case SnapKind::kInsertion:
     path.addRect(-1, -1, 1.3, 1.3);
     path.addRect(-0.3, -0.3, 1.3, 1.3);
     break;
   case SnapKind::kPerpendicular:
-    path.moveTo(-1, -1);
-    path.lineTo(-1, 1);
-    path.lineTo(1, 1);
-    path.moveTo(-1, 0);
-    path.lineTo(0, 0);
-    path.lineTo(0, 1);
+    addLine(path, {{-1, -1}, {-1, 1}, {1, 1}});
+    addLine(path, {{-1, 0}, {0, 0}, {0, 1}});
     break;
   case SnapKind::kTangent:
     path.addEllipse(QPointF(0, 0.2), 0.8, 0.8);
-    path.moveTo(-1, -0.8);
-    path.lineTo(1, -0.8);
+    addLine(path, {{-1, -0.8}, {1, -0.8}});
     break;
   case SnapKind::kNearest:
-    path.addPolygon(QPolygonF{{-1, -1}, {1, -1}, {-1, 1}, {1, 1}, {-1, -1}});
+    addLine(path, {{-1, -1}, {1, -1}, {-1, 1}, {1, 1}, {-1, -1}});
     break;
   }
   return path;

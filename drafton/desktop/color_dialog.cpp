@@ -104,7 +104,7 @@ ColorDialog::ColorDialog(const OdCmColor& now, bool takesBy, std::span<const OdC
   showPageOf(now);
 }
 
-QWidget* ColorDialog::indexPage(bool takesBy) {
+void ColorDialog::makePalette() {
   m_palette = new QTableWidget(kShades + 1, kColumns, this);
   m_palette->setObjectName(QStringLiteral("palette"));
   m_palette->setAccessibleName(translated(u"Palette"));
@@ -134,7 +134,10 @@ QWidget* ColorDialog::indexPage(bool takesBy) {
   connect(m_palette, &QTableWidget::currentCellChanged, this, &ColorDialog::takeIndex);
   connect(m_palette, &QTableWidget::cellClicked, this, &ColorDialog::takeIndex);
   connect(m_palette, &QTableWidget::cellDoubleClicked, this, &ColorDialog::accept);
+}
 
+QWidget* ColorDialog::indexPage(bool takesBy) {
+  makePalette();
   auto* const page = new QWidget(this);
   auto* const column = new QVBoxLayout(page);
   column->addWidget(m_palette);

@@ -36,6 +36,7 @@ class ColorDialog : public QDialog {
   const OdCmColor& color() const { return m_color; }
 
  private:
+  void makePalette();
   QWidget* indexPage(bool takesBy);
   QWidget* truePage();
   QWidget* bookPage();

@@ -157,6 +157,14 @@ void MainWindow::followChoice() {
 }
 
 void MainWindow::connectActions() {
+  connectFiles();
+  connectView();
+  connectMenus();
+  m_actions->connectTo(u"help", [this] { showManual(*this, kManualStart); });
+  m_actions->connectTo(u"about", [this] { showAbout(*this); });
+}
+
+void MainWindow::connectFiles() {
   const auto onDocument = [this](bool (FileActions::*run)(Document&)) {
     return [this, run] {
       m_files->whenSettled([this, run] {
@@ -176,8 +184,9 @@ void MainWindow::connectActions() {
   m_actions->connectTo(u"saveAs", onDocument(&FileActions::saveAs));
   m_actions->connectTo(u"close", onDocument(&FileActions::close));
   m_actions->connectTo(u"exit", [this] { close(); });
-  m_actions->connectTo(u"help", [this] { showManual(*this, kManualStart); });
-  m_actions->connectTo(u"about", [this] { showAbout(*this); });
+}
+
+void MainWindow::connectView() {
   m_actions->connectTo(u"zoomExtents", [this] {
     if (Canvas* const canvas = m_documents->canvas()) canvas->showAll();
   });
@@ -209,6 +218,9 @@ void MainWindow::connectActions() {
       follow();
       if (Canvas* const canvas = m_documents->canvas()) canvas->follow();
     });
+}
+
+void MainWindow::connectMenus() {
   auto* const recent = new QMenu(this);
   m_actions->find(u"recent")->setMenu(recent);
   connect(recent, &QMenu::aboutToShow, this, &MainWindow::fillRecent);

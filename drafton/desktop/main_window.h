@@ -48,6 +48,9 @@ class MainWindow : public QMainWindow {
 
  private:
   void connectActions();
+  void connectFiles();
+  void connectView();
+  void connectMenus();
   QDockWidget* addPane(const char* name, const char16_t* title, QWidget* content,
                        Qt::DockWidgetArea area);
   void addPanes();

@@ -57,6 +57,34 @@ Task<void> askLength(CommandContext& context, PolylineDraft& draft) {
   draft.add({from, pointAlong(from, draft.direction(), length.value), 0});
 }
 
+/// The next piece to a point; none for an arc that cannot be.
+std::optional<ArcPath> pieceTo(const OdGePoint3d& to, const PolylineDraft& draft, bool asArc) {
+  if (!asArc) return ArcPath{draft.end(), to, 0};
+  return arcByDirection(draft.end(), to, draft.direction());
+}
+
+void add(CommandContext& context, PolylineDraft& draft, const std::optional<ArcPath>& path) {
+  if (path)
+    draft.add(*path);
+  else
+    printNoArc(context);
+}
+
+Task<Answer<OdGePoint3d>> askNextPoint(CommandContext& context, const PolylineDraft& draft,
+                                       bool inArcs) {
+  context.setLastPoint(draft.end());
+  const auto nextPiece = [&](const OdGePoint3d& to) -> PreviewShapes {
+    const std::optional<ArcPath> path = pieceTo(to, draft, inArcs);
+    return path ? PreviewShapes{draft.shown(*path)} : PreviewShapes();
+  };
+  co_return co_await context.input().point(
+      {.text = inArcs ? u"Specify endpoint of arc" : u"Specify next point",
+       .keywords = keywordsFor(inArcs, draft.pieces()),
+       .base = draft.end(),
+       .allowEmpty = true,
+       .preview = nextPiece});
+}
+
 } // namespace
 
 Task<void> polyline(CommandContext& context) {
@@ -66,39 +94,16 @@ Task<void> polyline(CommandContext& context) {
   context.print(translated(u"Current line-width is %1").arg(shownReal(width)));
 
   PolylineDraft draft(context.database(), first.value, {width, width});
-  const auto addArc = [&](const std::optional<ArcPath>& path) {
-    if (path)
-      draft.add(*path);
-    else
-      printNoArc(context);
-  };
   for (bool inArcs = false;;) {
-    const QStringView question = inArcs ? u"Specify endpoint of arc" : u"Specify next point";
-    const QStringView keywords = keywordsFor(inArcs, draft.pieces());
-    const OdGePoint3d from = draft.end();
-    context.setLastPoint(from);
-    const auto nextPiece = [&](const OdGePoint3d& to) -> PreviewShapes {
-      const std::optional<ArcPath> path =
-          inArcs ? arcByDirection(from, to, draft.direction()) : ArcPath{from, to, 0};
-      return path ? PreviewShapes{draft.shown(*path)} : PreviewShapes();
-    };
-    const Answer<OdGePoint3d> next = co_await input.point({.text = question,
-                                                           .keywords = keywords,
-                                                           .base = from,
-                                                           .allowEmpty = true,
-                                                           .preview = nextPiece});
+    const Answer<OdGePoint3d> next = co_await askNextPoint(context, draft, inArcs);
     if (next.isEmpty()) co_return;
     if (next.isValue()) {
-      if (inArcs)
-        addArc(arcByDirection(from, next.value, draft.direction()));
-      else
-        draft.add({from, next.value, 0});
+      add(context, draft, pieceTo(next.value, draft, inArcs));
     } else if (next.is(u"Close")) {
       draft.close(0);
       co_return;
     } else if (next.is(u"CLose")) {
-      const auto path = arcByDirection(from, draft.start(), draft.direction());
-      if (path) {
+      if (const auto path = pieceTo(draft.start(), draft, true)) {
         draft.close(path->bulge);
         co_return;
       }
@@ -112,8 +117,8 @@ Task<void> polyline(CommandContext& context) {
     } else if (next.is(u"Undo")) {
       if (!draft.takeBack()) context.print(translated(u"All segments already undone."));
     } else if (const PolylineArcOption* option = findPolylineArcOption(next.keyword)) {
-      const std::optional<ArcPath> path = co_await option->ask(context, from);
-      addArc(path);
+      const std::optional<ArcPath> path = co_await option->ask(context, draft.end());
+      add(context, draft, path);
     }
   }
 }
