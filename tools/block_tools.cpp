@@ -1,6 +1,7 @@
 // Tools from blocks of open drawings and of drawing files.
 #include "drawing/database.h"
 #include "drawing/objects/xref_manager.h"
+#include "drawing/tables/standard_arrows.h"
 #include "frame/system_services.h"
 #include "host/document.h"
 #include "host/host_locator.h"
@@ -10,34 +11,14 @@
 #include "tools/block_tool.h"
 #include "tools/tool_maker.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tc {
 namespace {
-
-constexpr int kNoBlocks = 2;
-constexpr int kUnreadable = 3;
-constexpr int kNotSaved = 5;
 
 /// False for what a drawing keeps for itself: its layouts, blocks that programs have named, and
 /// what came with an external reference. None of these can be brought in by its name.
 bool canBeInserted(const OdDbBlockTableRecord& block) {
   return !block.isLayout() && !block.isAnonymous() && !block.getName().startsWith(u'*') &&
          !OdDbXRefMan::owns(block);
-}
-
-/// The arrows of dimensions stand in many drawings; nobody wants them on a palette.
-constexpr std::array<QStringView, 20> kArrows = {
-    u"_ClosedFilled", u"_ClosedBlank", u"_Closed",      u"_Dot",      u"_ArchTick",
-    u"_Oblique",      u"_Open",        u"_Origin",      u"_Origin2",  u"_Open90",
-    u"_Open30",       u"_DotSmall",    u"_DotBlank",    u"_Small",    u"_BoxBlank",
-    u"_BoxFilled",    u"_DatumBlank",  u"_DatumFilled", u"_Integral", u"_None"};
-
-bool isArrow(const OdDbBlockTableRecord& block) {
-  return std::ranges::any_of(kArrows, [&](QStringView arrow) {
-    return arrow.compare(block.getName(), Qt::CaseInsensitive) == 0;
-  });
 }
 
 OdDbBlockTableRecordPtr findBlock(const OdDbDatabase& drawing, const OdString& name) {
@@ -50,9 +31,10 @@ OdDbBlockTableRecordPtr findBlock(const OdDbDatabase& drawing, const OdString& n
 QStringList insertableBlocks(const OdDbDatabase& drawing) {
   QStringList names;
   const OdDbBlockTablePtr blocks = drawing.getBlockTableId().openObject();
+  // The arrows of dimensions stand in many drawings; nobody wants them on a palette.
   for (const auto at = blocks->newIterator(); !at->done(); at->step())
     if (const OdDbBlockTableRecordPtr block = at->getRecord();
-        canBeInserted(*block) && !isArrow(*block))
+        canBeInserted(*block) && !oddb::isStandardArrowBlock(block->getName()))
       names << block->getName();
   return names;
 }
@@ -63,7 +45,7 @@ OdDbDatabase* OdTcToolMaker::open(const OdString& file) {
   m_problem.clear();
   OdDbDatabase* const drawing = m_sources.drawing(file);
   if (!drawing) {
-    showMessage(kUnreadable, true);
+    showMessage(StringId::kFileReadError, true);
     fail(m_sources.problem());
   }
   return drawing;
@@ -73,7 +55,7 @@ QStringList OdTcToolMaker::blocksOf(const OdString& file) {
   const OdDbDatabase* const drawing = open(file);
   if (!drawing) return {};
   const QStringList names = insertableBlocks(*drawing);
-  if (names.isEmpty()) failWith(kNoBlocks);
+  if (names.isEmpty()) failWith(StringId::kNoBlockDefinitions);
   return names;
 }
 
@@ -81,7 +63,7 @@ bool OdTcToolMaker::fromBlock(OdTcTool& tool, const OdString& name, IHostDocumen
   m_problem.clear();
   const OdDbDatabase* const drawing = document ? document->database() : nullptr;
   if (!drawing) return fail(host::translate(QStringLiteral("there is no drawing")));
-  if (!host::isSaved(*document)) return failWith(kNotSaved);
+  if (!host::isSaved(*document)) return failWith(StringId::kSaveDrawingFirst);
   const OdDbBlockTableRecordPtr block = findBlock(*drawing, name);
   if (!block) return fail(host::translate(QStringLiteral("there is no such block")));
   return takeBlock(tool, *block, document->path());
@@ -92,7 +74,7 @@ bool OdTcToolMaker::fromDrawingBlock(OdTcTool& tool, const OdString& file, const
   if (!drawing) return false;
   if (const OdDbBlockTableRecordPtr block = findBlock(*drawing, name))
     return takeBlock(tool, *block, file);
-  if (insertableBlocks(*drawing).isEmpty()) return failWith(kNoBlocks);
+  if (insertableBlocks(*drawing).isEmpty()) return failWith(StringId::kNoBlockDefinitions);
   return fail(host::translate(QStringLiteral("there is no such block")));
 }
 

@@ -128,7 +128,7 @@ bool OdTcToolMaker::takeInsert(OdTcTool& tool, OdDbObjectId insert) {
   // Of a drawing that is not the active one only itself can tell whether it is saved.
   const OdString file = block->database()->fileName();
   const bool isSaved = !file.isEmpty() && !block->database()->isModified();
-  return isSaved ? takeBlock(tool, *block, file) : failWith(5);
+  return isSaved ? takeBlock(tool, *block, file) : failWith(StringId::kSaveDrawingFirst);
 }
 
 bool OdTcToolMaker::takeDrawnBy(OdTcTool& tool, const OdDbEntity& entity) {

@@ -45,7 +45,9 @@ bool OdTcToolMaker::fail(const OdString& problem) {
   return false;
 }
 
-bool OdTcToolMaker::failWith(int message) { return fail(showMessage(message, true).trimmed()); }
+bool OdTcToolMaker::failWith(StringId message) {
+  return fail(showMessage(message, true).trimmed());
+}
 
 bool OdTcToolMaker::setPictures(OdTcTool& tool, const std::function<bool(OdTcImage& image)>& make) {
   const bool isMade = freshImages(tool).setFrom(make);

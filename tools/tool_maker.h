@@ -15,6 +15,7 @@ class OdDbRasterImage;
 namespace tc {
 
 class OdTcImage;
+enum class StringId : int;
 
 /// Fills new tools. Every road is false if no tool comes of it: the tool that it was given is then
 /// good for nothing. A picture that cannot be made does not stop a tool.
@@ -63,7 +64,8 @@ class OdTcToolMaker {
   OdDbDatabase* open(const OdString& file);
   static bool setPictures(OdTcTool& tool, const std::function<bool(OdTcImage& image)>& make);
   bool fail(const OdString& problem);
-  bool failWith(int message);
+  /// Shows a numbered error.
+  bool failWith(StringId message);
   bool takeBlock(OdTcTool& tool, const OdDbBlockTableRecord& block, const OdString& file);
   bool takeImage(OdTcTool& tool, const OdDbRasterImage& image);
   bool takeHatch(OdTcTool& tool, const OdDbHatch& hatch);

@@ -35,6 +35,9 @@ struct Arrow {
 
 constexpr double kSixth = 1.0 / 6, kSlope30 = 0.2679491924311227, kSlope60 = 0.5773502691896258;
 
+/// It needs no block, but other programs make one.
+constexpr char kFilledArrow[] = "_ClosedFilled";
+
 constexpr Arrow kArrows[] = {
     {"_ArchTick", true, {{Piece::kStroke, {-0.5, -0.5, 0.5, 0.5, 0.15}}}},
     {"_BoxBlank", false, {{Piece::kSquare, {0.5}}, {Piece::kLine, {-0.5, 0, -1, 0}}}},
@@ -150,8 +153,14 @@ void draw(const Arrow& arrow, OdDbBlockTableRecord& block) {
 } // namespace
 
 bool oddb::isFilledArrow(const OdString& name) {
-  return name.isEmpty() || name == u"." || areEqual(name, "_ClosedFilled") ||
-         areEqual(name, "ClosedFilled");
+  return name.isEmpty() || name == u"." || areEqual(name, kFilledArrow) ||
+         areEqual(name, kFilledArrow + 1);
+}
+
+bool oddb::isStandardArrowBlock(const OdString& name) {
+  return areEqual(name, kFilledArrow) || std::ranges::any_of(kArrows, [&](const Arrow& arrow) {
+           return areEqual(name, arrow.name);
+         });
 }
 
 bool oddb::lineReachesTip(const OdString& arrowName) {

@@ -1,4 +1,4 @@
-// The arrows that every drawing knows by name. Not for use outside of the library.
+// The arrows that every drawing knows by name.
 #pragma once
 
 #include "drawing/object_id.h"
@@ -9,6 +9,9 @@ namespace oddb {
 
 /// True for the names of the filled arrow, which needs no block: nothing, ".", "_ClosedFilled".
 bool isFilledArrow(const OdString& name);
+/// True for the names of the blocks that standard arrows are made as, "_Dot" and the like, upper
+/// and lower case being the same; for that of the filled one as well.
+bool isStandardArrowBlock(const OdString& name);
 /// True for arrows that the dimension line runs through up to the tip.
 bool lineReachesTip(const OdString& arrowName);
 

@@ -47,7 +47,7 @@ bool importOne(OdTcCatalog& catalog, const OdString& file, const OdString& group
     printLine(translated(u"%1 is now the palette \"%2\".").arg(file, report.palette));
     return true;
   }
-  if (!report.isReported) showMessage(static_cast<int>(StringId::kPaletteReadError), true);
+  if (!report.isReported) showMessage(StringId::kPaletteReadError, true);
   printLine(translated(u"%1 is not imported: %2.").arg(file, report.problem));
   return false;
 }

@@ -322,10 +322,11 @@ TEST_F(ToolMakerTest, BlocksOfAFileAreThoseThatCanBeInserted) {
   addBlock(u"*D1"_s);
   addBlock(u"Ref|Chair"_s);
   addBlock(u"_OBLIQUE"_s);
-  addBlock(u"Window"_s);
+  addBlock(u"_ClosedFilled"_s);
+  addBlock(u"Dot"_s);
   save(u"lib.dxf"_s);
   OdTcToolMaker maker;
-  EXPECT_EQ(maker.blocksOf(stored(u"lib.dxf"_s)), QStringList({u"Door"_s, u"Window"_s}));
+  EXPECT_EQ(maker.blocksOf(stored(u"lib.dxf"_s)), QStringList({u"Door"_s, u"Dot"_s}));
   EXPECT_TRUE(maker.blocksOf(stored(u"none.dxf"_s)).isEmpty());
   EXPECT_TRUE(maker.problem().contains(u"none.dxf"_s)) << qPrintable(maker.problem());
 }
