@@ -1,16 +1,28 @@
 # One static library a layer. What a layer may include is what it links; tests/architecture checks
 # the same rule by reading the includes.
 
-# drafton_layer(<target> FOLDER <dir> [SHARED] LINKS <targets...>)
-# Collects the sources of one folder. Include paths start at the top of the tree, so that an include
-# line always names the layer that it reaches into.
+# drafton_layer(<target> [SHARED] [RECURSE] [FOLDERS <dir>...] [EXCEPT <file>...] [SOURCES <file>...]
+#               LINKS <targets...>)
+# Collects the sources of the folders, without FOLDERS of the one that calls; with RECURSE of those
+# below as well. SOURCES come beside them. Include paths start at the top of the tree, so that an
+# include line always names the layer that it reaches into.
 function(drafton_layer target)
-  cmake_parse_arguments(ARG "SHARED" "FOLDER" "LINKS;SOURCES" ${ARGN})
-  if(ARG_SOURCES)
-    set(sources ${ARG_SOURCES})
-  else()
-    file(GLOB sources CONFIGURE_DEPENDS ${ARG_FOLDER}/*.cpp ${ARG_FOLDER}/*.h)
+  cmake_parse_arguments(ARG "SHARED;RECURSE" "" "FOLDERS;EXCEPT;SOURCES;LINKS" ${ARGN})
+  if(NOT ARG_FOLDERS)
+    set(ARG_FOLDERS .)
   endif()
+  if(ARG_RECURSE)
+    set(glob GLOB_RECURSE)
+  else()
+    set(glob GLOB)
+  endif()
+  set(sources ${ARG_SOURCES})
+  foreach(folder ${ARG_FOLDERS})
+    file(${glob} found RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS
+         ${folder}/*.cpp ${folder}/*.h)
+    list(APPEND sources ${found})
+  endforeach()
+  list(REMOVE_ITEM sources "" ${ARG_EXCEPT})
   if(ARG_SHARED)
     add_library(${target} SHARED ${sources})
     if(UNIX AND NOT APPLE)
@@ -29,8 +41,10 @@ function(drafton_layer target)
   drafton_use_precompiled(${target})
 endfunction()
 
-# drafton_test(<name> [FOLDER <dir>] LINKS <targets...> [ENV <name=value>...])
-# One test program for one folder of tests.
+# drafton_test(<name> [FOLDER <dir>] [SOURCES <file>...] LINKS <targets...> [ENV <name=value>...]
+#              [LABELS <label>...] [TIMEOUT <seconds>])
+# One test program for one folder of tests, by default the one that calls; with SOURCES of these files
+# alone.
 function(drafton_test name)
   cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "LINKS;SOURCES;ENV;LABELS" ${ARGN})
   if(NOT ARG_FOLDER)

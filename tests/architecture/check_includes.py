@@ -25,7 +25,6 @@ LAYERS = {
     "tools": 5,
     "catalog": 5,
     "host/integration": 6,
-    "editors": 7,
     "ui": 7,
     "module/entry": 8,
     "module/loadable": 8,
@@ -41,7 +40,7 @@ PROGRAMS = ("drafton", "tpal")
 TPAL_MAY_INCLUDE = ("drafton/icons", "drafton/previews")
 
 PARSER_FOLDER = "persistence"
-WIDGET_FOLDERS = ("editors", "ui", "drafton/desktop")
+WIDGET_FOLDERS = ("ui", "drafton/desktop")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
