@@ -36,7 +36,7 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   /// Name, description or picture of the item are different now.
   void changed(const OdTcCatalogItem& item);
 
-  /// 1, 3 or 4.
+  /// One of TcUiIconSize.
   void setIconSize(std::int32_t size);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -56,7 +56,7 @@ class TcUiItemListModel : public QAbstractTableModel, private OdTcCatalogItemRea
   OdTcCatalogItemPtr m_shown;
   OdTcCatalogItemPtr m_catalog; ///< of a group that is shown: it tells of palettes that come
   std::vector<OdTcCatalogItemPtr> m_rows;
-  std::int32_t m_iconSize = 3;
+  std::int32_t m_iconSize = kNormalIcons;
   QTimer m_late;
 };
 

@@ -62,7 +62,16 @@ QPixmap squared(const QImage& picture, int pixels, qreal ratio) {
 TcUiItemPictures::TcUiItemPictures()
   : m_pixmaps(kBytes) {}
 
-int TcUiItemPictures::pixelsOf(std::int32_t size) { return size == 4 ? 64 : size == 3 ? 32 : 16; }
+int TcUiItemPictures::pixelsOf(std::int32_t size) {
+  switch (size) {
+  case kLargeIcons:
+    return 64;
+  case kNormalIcons:
+    return 32;
+  default:
+    return 16;
+  }
+}
 
 QPixmap TcUiItemPictures::picture(const OdTcCatalogItem& item, std::int32_t size) {
   const int pixels = qRound(pixelsOf(size) * m_ratio);

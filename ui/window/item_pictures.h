@@ -2,6 +2,7 @@
 #pragma once
 
 #include "module/catalog_item.h"
+#include "ui/window/window_commands.h"
 
 #include <QCache>
 #include <QColor>
@@ -17,7 +18,7 @@ class TcUiItemPictures {
  public:
   TcUiItemPictures();
 
-  /// The pixels of an icon size 1, 3 or 4: 16, 32 or 64; any other counts as 16.
+  /// The pixels of a TcUiIconSize: 16, 32 or 64; any other number counts as the smallest.
   static int pixelsOf(std::int32_t size);
 
   /// Catalogs, groups and palettes have pictures of their kind; a tool shows its own, and one for

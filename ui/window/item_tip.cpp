@@ -7,8 +7,6 @@
 namespace tc {
 namespace {
 
-constexpr std::int32_t kLarge = 4;
-
 OdString asData(const QPixmap& picture) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -27,10 +25,10 @@ OdString itemTip(const OdTcCatalogItem& item, TcUiItemPictures& pictures) {
   OdString words = QLatin1String("<b>") + lines(item.name()) + QLatin1String("</b>");
   if (!item.description().isEmpty()) words += QLatin1String("<br>") + lines(item.description());
   if (!odrxCast<OdTcTool>(&item)) return words;
-  const int pixels = TcUiItemPictures::pixelsOf(kLarge);
+  const int pixels = TcUiItemPictures::pixelsOf(kLargeIcons);
   return QStringLiteral("<table><tr><td><img width=\"%2\" height=\"%2\" src=\"%1\"></td>"
                         "<td style=\"padding-left:8px\">%3</td></tr></table>")
-      .arg(asData(pictures.picture(item, kLarge)), OdString::number(pixels), words);
+      .arg(asData(pictures.picture(item, kLargeIcons)), OdString::number(pixels), words);
 }
 
 } // namespace tc

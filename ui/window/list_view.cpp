@@ -28,7 +28,7 @@ constexpr const char16_t* kColumnKeys[] = {u"NameClmn", u"DescClmn"};
 
 std::int32_t iconSizeInForce() {
   const OdTcPaletteManager* const manager = OdTcPaletteManager::instance();
-  return manager ? static_cast<std::int32_t>(manager->viewSetting()) : 3;
+  return manager ? static_cast<std::int32_t>(manager->viewSetting()) : kNormalIcons;
 }
 
 void writeValue(ITcUiStateSaver& store, const OdString& key, OdVariant value) {

@@ -186,9 +186,9 @@ struct TcUiPaletteSet::Command {
 bool TcUiPaletteSet::dispatchCommand(int command) {
   static constexpr Command kCommands[] = {
       {kCommandNothing, &TcUiPaletteSet::nothing},
-      {kCommandSmallIcons, &TcUiPaletteSet::setIconSize, 1},
-      {kCommandNormalIcons, &TcUiPaletteSet::setIconSize, 3},
-      {kCommandLargeIcons, &TcUiPaletteSet::setIconSize, 4},
+      {kCommandSmallIcons, &TcUiPaletteSet::setIconSize, kSmallIcons},
+      {kCommandNormalIcons, &TcUiPaletteSet::setIconSize, kNormalIcons},
+      {kCommandLargeIcons, &TcUiPaletteSet::setIconSize, kLargeIcons},
       {kCommandIconStyle, &TcUiPaletteSet::applyViewStyle, kIconStyle},
       {kCommandSmallIconStyle, &TcUiPaletteSet::applyViewStyle, kSmallIconStyle},
       {kCommandListStyle, &TcUiPaletteSet::applyViewStyle, kListStyle},

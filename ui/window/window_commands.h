@@ -22,6 +22,13 @@ enum TcUiCommand : int {
   kCommandHelp = 40010,
 };
 
+/// How large pictures are shown; the numbers are stored in palettes and settings.
+enum TcUiIconSize : std::int32_t {
+  kSmallIcons = 1,
+  kNormalIcons = 3,
+  kLargeIcons = 4,
+};
+
 /// How the list shows its items; the numbers are stored in palettes and settings.
 enum TcUiViewStyle : std::int32_t {
   kIconStyle = 0,
@@ -36,11 +43,11 @@ struct TcUiValueCommand {
   std::int32_t value;
 };
 
-/// Any size that is not here counts as large.
+/// The menu marks a size that is not here as large.
 inline constexpr std::array kIconSizeCommands = {
-    TcUiValueCommand{kCommandSmallIcons, 1},
-    TcUiValueCommand{kCommandNormalIcons, 3},
-    TcUiValueCommand{kCommandLargeIcons, 4},
+    TcUiValueCommand{kCommandSmallIcons, kSmallIcons},
+    TcUiValueCommand{kCommandNormalIcons, kNormalIcons},
+    TcUiValueCommand{kCommandLargeIcons, kLargeIcons},
 };
 
 inline constexpr std::array kViewStyleCommands = {
