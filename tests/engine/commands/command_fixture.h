@@ -29,6 +29,14 @@ class CommandFixture : public EngineFixture {
   }
   void runScript(const char16_t* words) { typeWords(wordsOf(words)); }
 
+  /// An entity of the model by its place in the order of drawing.
+  OdDbObjectId entityAt(int index) {
+    const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
+    auto at = space->newIterator();
+    while (index-- > 0) at->step();
+    return at->objectId();
+  }
+
   /// The question of the running command; null if none waits.
   const drafton::InputRequest* request() { return document().processor().request(); }
   bool isRunning() { return document().processor().isBusy(); }

@@ -1,4 +1,4 @@
-// Choosing before a command, groups, files of line types, dimension styles.
+// Choosing before a command, groups, copies, files of line types.
 
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/dimension_kinds.h"
@@ -10,10 +10,8 @@
 #include "drawing/id_mapping.h"
 #include "drawing/objects/group.h"
 #include "drawing/objects/named_styles.h"
-#include "drawing/tables/dim_var_values.h"
 #include "drawing/xdata.h"
 #include "engine/commands/command_fixture.h"
-#include "engine/commands/hatch_text.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -22,12 +20,6 @@ namespace {
 
 class EditCommands : public CommandFixture {
  protected:
-  OdDbObjectId entityAt(int index) {
-    const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
-    auto at = space->newIterator();
-    while (index-- > 0) at->step();
-    return at->objectId();
-  }
   OdDbDictionaryPtr groups() {
     return oddb::createNamedDictionary(database(), oddb::NamedKind::kGroup)
         .safeOpenObject(OdDb::kForWrite);
@@ -323,243 +315,6 @@ TEST_F(EditCommands, LinetypesAreLoadedFromFiles) {
   type(load.arg(QStringLiteral("NONE")) + u'\n');
   EXPECT_TRUE(console().shows(QStringLiteral("The file has no line type \"NONE\".")));
   EXPECT_FALSE(isRunning());
-}
-
-TEST_F(EditCommands, DimensionStylesAreSavedAndRestored) {
-  runScript(u"DIMTXT|9|DIMSTYLE|s|Large|DIMSTYLE|r|Standard");
-  EXPECT_EQ(database().sysVarReal("DIMTXT"), 2.5);
-  runScript(u"DIMSTYLE|r|Large");
-  EXPECT_EQ(database().sysVarReal("DIMTXT"), 9);
-  EXPECT_EQ(database().sysVarText("DIMSTYLE"), QStringLiteral("Large"));
-}
-
-TEST_F(EditCommands, NewDimensionsHaveWhatWasSetBesideTheStyle) {
-  runScript(u"DIMTXT|9|DIMLINEAR|0,0|10,5|4,9");
-  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
-  EXPECT_EQ(dimension->dimVars().dimtxt, 9);
-  const OdDbDimStyleTableRecordPtr style = dimension->dimensionStyle().safeOpenObject();
-  EXPECT_EQ(style->dimtxt(), 2.5);
-}
-
-/// Another value than the variable has, as it is typed.
-OdString otherValue(const OdDbDimVarInfo& row, const OdDbVarValue& now) {
-  if (const auto* const real = std::get_if<double>(&now)) return OdString::number(*real + 0.25);
-  const auto* const whole = std::get_if<std::int64_t>(&now);
-  if (std::holds_alternative<bool OdDbDimVarValues::*>(row.member))
-    return OdString::number(1 - *whole);
-  if (std::holds_alternative<OdDb::LineWeight OdDbDimVarValues::*>(row.member))
-    return QStringLiteral("25");
-  if (whole) return QStringLiteral("%1").arg(*whole == 1 ? 2 : 1);
-  if (std::holds_alternative<OdString OdDbDimVarValues::*>(row.member))
-    return QStringLiteral("<>x");
-  return row.code == 340   ? QStringLiteral("Notes")
-         : row.code <= 344 ? QStringLiteral("_DOT")
-                           : QStringLiteral("Ours");
-}
-
-TEST_F(EditCommands, EveryVariableCanBeSetBesideAStyleOfFewWords) {
-  runScript(u"STYLE|Notes|txt|0|1|0|n|n|n|STYLE|Standard|txt|0|1|0|n|n|n|LINETYPE|c|Ours||1,-1|");
-  // Files of many programs do not tell the text style.
-  database().currentDimStyle().openAs<OdDbDimStyleTableRecord>(OdDb::kForWrite)->setDimtxsty({});
-  runScript(u"DIMLINEAR|0,0|10,5|4,9");
-  EXPECT_FALSE(isRunning()) << output().toStdString();
-  const OdDbDimensionPtr plain = entityAt(0).safeOpenObject();
-  EXPECT_FALSE(database().writeDxf().contains("DSTYLE"));
-  int set = 0;
-  for (const OdDbDimVarInfo& row : oddbDimVars()) {
-    const OdString name = QLatin1String(row.name);
-    const auto now = database().getSysVar(name);
-    if (!now) continue;
-    const OdString value = otherValue(row, *now);
-    type(name + u'\n' + value + u'\n');
-    ASSERT_FALSE(isRunning()) << row.name << ' ' << value.toStdString() << output().toStdString();
-    ++set;
-    runScript(u"DIMLINEAR|0,0|10,5|4,9");
-    const OdDbDimensionPtr made = entityAt(set).openObject();
-    ASSERT_TRUE(made) << row.name << output().toStdString();
-    OdDbDimVarValues wanted;
-    ASSERT_TRUE(oddb::setDimVar(wanted, row, *database().getSysVar(name), &database()));
-    std::visit(
-        [&](auto member) {
-          EXPECT_EQ(made->dimVars().*member, wanted.*member) << row.name;
-          EXPECT_FALSE(plain->dimVars().*member == wanted.*member) << row.name;
-        },
-        row.member);
-  }
-  EXPECT_GT(set, 60);
-  runScript(u"DIMALIGNED|0,0|10,5|4,9|CIRCLE|50,0|5|DIMRADIUS|55,0|60,0|DIMDIAMETER|50,-5|50,-20");
-  runScript(u"LEADER|0,0|5,5||note||DIMSTYLE|a|all|");
-  EXPECT_FALSE(isRunning()) << output().toStdString();
-  const OdDbLeaderPtr leader(odrxCast<OdDbLeader>(entityAt(set + 5).openObject().get()));
-  ASSERT_TRUE(leader) << output().right(3000).toStdString();
-  EXPECT_NE(leader->residue(), nullptr);
-  EXPECT_FALSE(console().shows(QStringLiteral("does not fit"))) << output().toStdString();
-}
-
-TEST_F(EditCommands, StandardArrowsAreMadeWhenTheyAreWanted) {
-  constexpr const char* kNames[] = {"_ArchTick",    "_BoxBlank",   "_BoxFilled",   "_Closed",
-                                    "_ClosedBlank", "_DatumBlank", "_DatumFilled", "_Dot",
-                                    "_DotBlank",    "_DotSmall",   "_Integral",    "_None",
-                                    "_Oblique",     "_Open",       "_Open30",      "_Open90",
-                                    "_Origin",      "_Origin2",    "_Small"};
-  const auto blocks = database().getBlockTableId().openAs<OdDbBlockTable>();
-  for (const char* const name : kNames) {
-    const OdString block = QLatin1String(name);
-    // Old drawings leave the underscore out.
-    type(QStringLiteral("DIMBLK\n") + block.mid(1).toUpper() + u'\n');
-    EXPECT_EQ(database().sysVarText("DIMBLK"), block);
-    ASSERT_TRUE(blocks->has(block)) << name;
-    const auto record = blocks->getAt(block).openAs<OdDbBlockTableRecord>();
-    EXPECT_EQ(record->newIterator()->done(), block == u"_None") << name;
-    type(QStringLiteral("DIMLINEAR 0,0 10,5 4,9 DIMSTYLE S A") + block + u'\n');
-    const OdDbDimStyleTableRecordPtr style = database().currentDimStyle().openObject();
-    EXPECT_EQ(style->getName(), u'A' + block) << output().toStdString();
-    EXPECT_EQ(style->dimblk(), record->objectId()) << name;
-  }
-  runScript(u"DIMBLK|.|DIMBLK1|ClosedFilled|DIMLDRBLK|_dot");
-  EXPECT_EQ(database().sysVarText("DIMBLK"), OdString());
-  EXPECT_EQ(database().sysVarText("DIMBLK1"), OdString());
-  EXPECT_EQ(database().sysVarText("DIMLDRBLK"), QStringLiteral("_Dot"));
-}
-
-TEST_F(EditCommands, ARedefinedStyleShowsAtOnce) {
-  runScript(u"DIMLINEAR|0,0|10,5|4,9|DIMPOST|<>mm|DIMSTYLE|s|Standard|y");
-  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
-  EXPECT_EQ(dimension->displayedText(), QStringLiteral("10mm"));
-}
-
-TEST_F(EditCommands, AStyleIsAppliedToDimensions) {
-  runScript(u"DIMLINEAR|0,0|10,5|4,9|DIMTXT|9|DIMSTYLE|s|Large|DIMSTYLE|a|l|");
-  const OdDbDimensionPtr dimension = entityAt(0).safeOpenObject();
-  const OdDbDimStyleTableRecordPtr style = dimension->dimensionStyle().safeOpenObject();
-  EXPECT_EQ(style->getName(), QStringLiteral("Large"));
-}
-
-TEST_F(EditCommands, AddselectedDrawsAnotherOfTheKind) {
-  restart(withProgramFolder());
-  runScript(u"LAYER|m|Walls||COLOR|1|CIRCLE|0,0|5|COLOR|bylayer|LAYER|s|0|");
-  input().lines = {QStringLiteral("20,0"), QStringLiteral("3")};
-  runScript(u"ADDSELECTED|5,0");
-  EXPECT_EQ(describeEntities(database()), QStringLiteral("CIRCLE 0,0,0 r5\nCIRCLE 20,0,0 r3"));
-  EXPECT_FALSE(isRunning());
-  const OdDbEntityPtr made = entityAt(1).safeOpenObject();
-  EXPECT_EQ(made->layer(), QStringLiteral("Walls"));
-  EXPECT_EQ(made->color(), OdCmColor::fromColorIndex(1));
-  EXPECT_EQ(database().currentColor(), OdCmColor());
-  EXPECT_EQ(database().currentLayer(), database().getLayerZeroId());
-}
-
-namespace {
-
-/// What ADDSELECTED draws of the kinds that it knows: the entity, where it is taken, what is
-/// answered, and what stands in the drawing at the end.
-struct Another {
-  const char* name;
-  const char16_t* setup;
-  const char16_t* point;
-  const char16_t* answers;
-  const char* drawn; ///< class of the new entity
-};
-
-constexpr Another kAnother[] = {
-    {"Line", u"LINE|0,0|10,0|", u"5,0", u"0,50|10,50|", "OdDbLine"},
-    {"Polyline", u"PLINE|0,0|10,0|", u"5,0", u"0,50|10,50|", "OdDbPolyline"},
-    {"Circle", u"CIRCLE|0,0|5", u"5,0", u"0,50|5", "OdDbCircle"},
-    {"Arc", u"ARC|0,0|5,5|10,0", u"5,5", u"0,50|5,55|10,50", "OdDbArc"},
-    {"Ellipse", u"ELLIPSE|0,0|10,0|3", u"0,0", u"0,50|10,50|3", "OdDbEllipse"},
-    {"Spline", u"SPLINE|0,0|10,0|20,0||||", u"10,0", u"0,50|10,55|20,50|||", "OdDbSpline"},
-    {"Point", u"POINT|0,0", u"0,0", u"0,50", "OdDbPoint"},
-    {"Text", u"TEXT|0,0|7|0|abc|", u"0,0", u"0,50|||def|", "OdDbText"},
-    {"Mtext", u"MTEXT|0,0|h|7|50,-20|abc|", u"0,0", u"0,50|50,30|def|", "OdDbMText"},
-    {"Attribute", u"ATTDEF||no|||0,0|7|0", u"0,0", u"|name|||0,50||", "OdDbAttributeDefinition"},
-    {"Leader", u"LEADER|0,0|10,10||a||", u"5,5", u"0,50|10,60||b|", "OdDbLeader"},
-    {"Linear", u"DIMLINEAR|0,0|50,0|25,10", u"50,10", u"0,50|50,50|25,60", "OdDbRotatedDimension"},
-    {"Aligned", u"DIMALIGNED|0,0|50,0|25,10", u"50,10", u"0,50|50,50|25,60",
-     "OdDbAlignedDimension"},
-    {"Insert", u"LINE|0,0|10,0||BLOCK|Door|0,0|l||INSERT|Door|0,0||||INSNAME|Other", u"5,0",
-     u"|0,50|||", "OdDbBlockReference"},
-};
-
-} // namespace
-
-TEST_F(EditCommands, AddselectedDrawsEveryKind) {
-  for (const Another& row : kAnother) {
-    SCOPED_TRACE(row.name);
-    restart(withProgramFolder());
-    runScript(u"LAYER|m|Walls|");
-    runScript(row.setup);
-    runScript(u"LAYER|s|0|");
-    for (const OdString& answer : wordsOf(row.answers)) input().lines.push_back(answer);
-    runScript(u"ADDSELECTED");
-    runScript(row.point);
-    EXPECT_FALSE(isRunning()) << prompt().toStdString();
-    EXPECT_TRUE(input().lines.empty());
-    input().lines.clear();
-    const auto space = database().getModelSpaceId().openAs<OdDbBlockTableRecord>();
-    int count = 0;
-    for (auto at = space->newIterator(); !at->done(); at->step()) {
-      const OdDbEntityPtr entity = at->entity();
-      if (entity->isA()->name() != QLatin1String(row.drawn)) continue; // such as a note
-      ++count;
-      EXPECT_EQ(entity->layer(), QStringLiteral("Walls"));
-      if (const auto* const text = odrxCast<OdDbText>(entity)) {
-        EXPECT_EQ(text->height(), 7);
-      }
-      if (const auto* const text = odrxCast<OdDbMText>(entity)) {
-        EXPECT_EQ(text->textHeight(), 7);
-      }
-    }
-    EXPECT_EQ(count, 2) << output().right(1500).toStdString();
-  }
-}
-
-TEST_F(EditCommands, AddselectedHatchesInTheSameWay) {
-  for (const char16_t* const fill : {u"BHATCH|p|p|net|2|30|50,40|", u"BHATCH|p|s|50,40|",
-                                     u"BHATCH|p|g|curved|30|n|1|3|50,40|"}) {
-    restart(withProgramFolder());
-    runScript(u"RECTANG|0,0|100,80|RECTANG|200,0|300,80");
-    runScript(fill);
-    runScript(u"SETVAR|HPNAME|ANSI31|SETVAR|GFNAME|1|SETVAR|GFANG|0");
-    input().lines = {QStringLiteral("250,40"), QString()};
-    runScript(u"ADDSELECTED|l");
-    EXPECT_FALSE(isRunning());
-    const QStringList shown = describeHatches(database()).split(u'\n');
-    ASSERT_EQ(shown.size(), 3) << shown.join(u'\n').toStdString();
-    EXPECT_EQ(shown[2].toStdString(), shown[1].toStdString());
-    EXPECT_EQ(variable("HPNAME").toString(), QStringLiteral("ANSI31"));
-    EXPECT_EQ(variable("GFNAME").toInt32(), 1);
-    EXPECT_EQ(variable("GFANG").toDouble(), 0);
-  }
-}
-
-TEST_F(EditCommands, AddselectedTakesTheStyleOfADimension) {
-  restart(withProgramFolder());
-  runScript(u"DIMTXT|4|DIMSTYLE|s|Large|DIMLINEAR|0,0|50,0|25,10|DIMSTYLE|r|Standard|DIMTXT|3");
-  input().lines = {QStringLiteral("0,50"), QStringLiteral("50,50"), QStringLiteral("25,60")};
-  runScript(u"ADDSELECTED|50,10");
-  EXPECT_FALSE(isRunning());
-  const OdDbDimensionPtr made = entityAt(1).safeOpenObject();
-  const OdDbDimStyleTableRecordPtr style = made->dimensionStyle().safeOpenObject();
-  EXPECT_EQ(style->getName(), QStringLiteral("Large"));
-  EXPECT_EQ(made->dimVars().dimtxt, 4);
-  EXPECT_EQ(database().sysVarReal("DIMTXT"), 3) << "what is set beside the style counts on";
-}
-
-TEST_F(EditCommands, ACancelInAddselectedBringsTheCurrentValuesBack) {
-  restart(withProgramFolder());
-  runScript(u"LAYER|m|Walls||CIRCLE|0,0|5|LAYER|s|0|");
-  const QByteArray before = dxf();
-  input().lines = {QStringLiteral("20,0"), QStringLiteral("^C")};
-  runScript(u"ADDSELECTED|5,0");
-  EXPECT_FALSE(isRunning());
-  EXPECT_EQ(dxf(), before);
-}
-
-TEST_F(EditCommands, AddselectedNeedsACommandForTheKind) {
-  runScript(u"CIRCLE|0,0|5|ADDSELECTED|5,0");
-  EXPECT_TRUE(
-      console().shows(QStringLiteral("There is no command that draws objects of this kind.")));
-  EXPECT_TRUE(isRunning());
 }
 
 TEST_F(EditCommands, ExtendedDataGoesWithItsEntity) {
