@@ -183,7 +183,7 @@ void printOption(QTextStream& out, const OdString& name, const char* help) {
 
 void printExitCodes(QTextStream& out) {
   out << "\nExit codes: 0 all is well; 1 something was found or left out; 2 wrong usage;\n"
-         "3 a catalog cannot be read or written.\n";
+         "3 a catalog or an exchange file cannot be read or written.\n";
 }
 
 void printHelp(const Command& command, QTextStream& out) {
