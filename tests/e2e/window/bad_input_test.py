@@ -40,7 +40,7 @@ class Bench:
 
     def start_on_plan(self):
         program = self.start(self.drawing)
-        self.title(program, "plan.dxf - Drafton")
+        program.find_started("plan.dxf - Drafton")
         program.find("table cell", "Drafton samples")
         return program
 
@@ -294,7 +294,7 @@ def without_a_working_module_drafton_goes_on(bench):
 def two_programs_share_their_settings(bench):
     first = bench.start_on_plan()
     second = bench.start()
-    second.find("frame", lambda name: name.startswith("Drawing"))
+    second.find_started(lambda name: name.startswith("Drawing"))
     second.find("table cell", "Drafton samples")
     # Both write: the second its options, then the first its window.
     bench.screen.key("alt+t", "o")

@@ -34,7 +34,7 @@ class Walk:
         self.program = screen.Program(
             self.screen, self.programs,
             ["--profile", self.profile, "--catalogs", SAMPLES / "catalog"], self.scale)
-        return self.program.find("frame", lambda name: name.endswith("- Drafton"))
+        return self.program.find_started(lambda name: name.endswith("- Drafton"))
 
     def picture(self, what):
         self.step += 1
@@ -84,7 +84,7 @@ class Walk:
 
     def open_by_typing(self):
         self.screen.key("ctrl+o")
-        self.program.find("dialog", "Open Drawing")
+        self.program.find_active("dialog", "Open Drawing")
         self.picture("open-dialog")
         self.screen.type(str(self.drawing))
         self.screen.key("Return")

@@ -66,7 +66,7 @@ class Check:
                 self.nameless.add((where, role, parent.get_role_name(), parent.get_name()))
 
     def run(self):
-        self.program.find("frame", lambda name: name.endswith("- Drafton"))
+        self.program.find_started(lambda name: name.endswith("- Drafton"))
         self.program.find("table cell", "Building")
         self.look("main window")
         for title in ("Layers", "Blocks"):

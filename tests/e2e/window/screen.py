@@ -60,6 +60,9 @@ class Screen:
     def __init__(self):
         self._manager = subprocess.Popen(["openbox"], stdout=subprocess.DEVNULL,
                                          stderr=subprocess.DEVNULL)
+        # Windows that show before there is a manager get no keyboard.
+        wait_for("the window manager", lambda: subprocess.run(
+            ["xdotool", "get_num_desktops"], capture_output=True).returncode == 0)
         self.pictures = os.environ.get("DRAFTON_PICTURES")
 
     def close(self):
@@ -176,6 +179,18 @@ class Program:
             return self._search(role, name)
         return wait_for(f"the {role} {name!r}", look)
 
+    def find_active(self, role, name):
+        """The window of that name, once what is typed goes to it."""
+        return wait_for(f"the keyboard in the {role} {name!r}", lambda: (
+            window := self.find(role, name)) and is_active(window) and window)
+
+    def find_started(self, name):
+        """The main window of that name, once what is typed goes to it or to a pane of its own."""
+        window = self.find("frame", name)
+        wait_for("the keyboard in the program", lambda: any(
+            role == "frame" and is_active(control) for role, _, control in self.controls()))
+        return window
+
     def alive(self):
         return self.process.poll() is None
 
@@ -191,6 +206,10 @@ class Program:
 
     def click(self, role, name, **how):
         self.screen.click(self.middle(self.find(role, name)), **how)
+
+
+def is_active(window):
+    return window.get_state_set().contains(atspi().StateType.ACTIVE)
 
 
 def atspi():
