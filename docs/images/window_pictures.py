@@ -45,6 +45,19 @@ class Window:
             self.place = left + width * x + step, top + height * y
             self.screen.move(self.place)
 
+    def look_up_places(self):
+        """Notes what the status bar says of two places, while no command runs."""
+        self.ends = []
+        for part in (0.03, 0.97):
+            self.over(part, part)
+            said = self.program.find("label", lambda n: n.startswith("Place of the cursor: "))
+            self.ends.append([float(number) for number in said.get_name().split(":")[1].split(",")])
+
+    def over_point(self, x, y):
+        """Moves the cursor over a point of the drawing."""
+        (left, top), (right, bottom) = self.ends
+        self.over(0.03 + 0.94 * (x - left) / (right - left), 0.03 + 0.94 * (y - top) / (bottom - top))
+
     def type(self, text):
         self.screen.type(text)
 
@@ -65,11 +78,11 @@ def block_at_cursor(window):
 
 def chosen_line(window):
     window.screen.key("ctrl+0")
+    window.look_up_places()
     window.type("line 14000,2000 19000,6000 ")
     window.screen.key("Return")
     window.program.find("label", "Command:")
-    # Its middle, where everything is in view.
-    window.over(0.8247, 0.5063)
+    window.over_point(16500, 4000)
     window.screen.click(window.place)
     window.program.find("table cell", "LINE")
     window.picture("desktop-inspector")
@@ -78,7 +91,7 @@ def chosen_line(window):
 def snapped(window):
     window.screen.key("Escape", "Escape")
     window.type("line 12500,-3000 ")
-    window.over(0.684, 0.812)
+    window.over_point(12132, -1450)
     window.picture("desktop-snap")
     window.screen.key("Escape", "Escape")
 
