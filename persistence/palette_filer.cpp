@@ -66,7 +66,6 @@ void OdTcPalettePropertiesFilerImpl::readPiece(const QByteArray& markup, OdTcPer
   if (!parseBytes("<Piece>" + markup + "</Piece>", {})) return;
   m_parent = rootElement();
   m_current = m_parent->FirstChildElement();
-  m_skipNames << QStringLiteral("Palette");
   readRoot(object);
 }
 
