@@ -38,6 +38,37 @@ TEST_F(EntityPictures, CirclesAndArcs) {
   EXPECT_TRUE(looksLike(picture(-110, -80, 110, 80), "circle_arc"));
 }
 
+TEST_F(EntityPictures, ArcsReachTheirEnds) {
+  const OdGeExtents3d box = boxOf(-100, -100, 100, 100);
+  constexpr QSize kSize{400, 400};
+  View view;
+  view.size = kSize;
+  const Projection project = view.fitted(box).projection();
+  for (const double turn : {0.1, 0.7, 2.0, 4.5, 6.2}) {
+    const double start = 0.4;
+    const OdDbArcPtr arc =
+        odrxMake<OdDbArc>(OdGePoint3d{}, OdGeVector3d::zAxis(), 90, start, start + turn);
+    const OdDbObjectId id = add(arc);
+    const QImage image = modelPicture(database(), scene(), box, kSize);
+    const QRgb ground = image.pixel(0, 0);
+    // A little before the end there is a line, a little behind it none.
+    const auto isDrawn = [&](double angle) {
+      const OdGePoint3d point{90 * std::cos(angle), 90 * std::sin(angle), 0};
+      const QPoint at = project(point).toPoint();
+      bool any = false;
+      for (int x = -1; x <= 1; ++x)
+        for (int y = -1; y <= 1; ++y) any |= image.pixel(at + QPoint(x, y)) != ground;
+      return any;
+    };
+    constexpr double kLittle = 0.025;
+    for (const double inside : {start + kLittle, start + turn - kLittle})
+      EXPECT_TRUE(isDrawn(inside)) << turn;
+    for (const double outside : {start - kLittle, start + turn + kLittle})
+      EXPECT_FALSE(isDrawn(outside)) << turn;
+    id.openAs<OdDbEntity>(OdDb::kForWrite)->erase();
+  }
+}
+
 TEST_F(EntityPictures, PolylinesWithBulgesAndWidths) {
   auto plain = odrxMake<OdDbPolyline>();
   plain->addVertexAt(0, {-90, -50}, 1);
