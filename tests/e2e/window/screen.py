@@ -19,9 +19,10 @@ def run_on_own_screen():
     if os.environ.get("DRAFTON_OWN_SCREEN"):
         return
     read, write = os.pipe()
+    # It would start anew when its last program leaves it, and refuse one that comes at that moment.
     display = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write), "-screen", "0", "%dx%dx24" % SIZE, "-nolisten", "tcp"],
-        pass_fds=[write], stderr=subprocess.DEVNULL)
+        ["Xvfb", "-displayfd", str(write), "-screen", "0", "%dx%dx24" % SIZE, "-nolisten", "tcp",
+         "-noreset"], pass_fds=[write], stderr=subprocess.DEVNULL)
     os.close(write)
     number = os.fdopen(read).readline().strip()
     with tempfile.TemporaryDirectory() as home:
