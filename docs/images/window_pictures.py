@@ -100,7 +100,7 @@ def page_setup(window):
     window.program.click("page tab", "Ground_floor_1-50")
     window.program.find("label", "Command:")
     window.screen.key("alt+f", "g")
-    wait_for("the setup", lambda: window.program.has_window("Page Setup: Ground_floor_1-50"))
+    window.program.wait_for_window("Page Setup: Ground_floor_1-50")
     window.picture("desktop-page-setup")
     window.screen.key("Escape")
 

@@ -51,11 +51,8 @@ class Bench:
     def title(self, program, title):
         return program.find("frame", title)
 
-    def history(self, program):
-        return read_text(program.find("text", "Command history"))
-
     def wait_for_history(self, program, text):
-        wait_for(f"{text!r} in the history", lambda: text in self.history(program))
+        wait_for(f"{text!r} in the history", lambda: text in program.history())
 
     def dismiss(self, program, text, title="Drafton"):
         """Reads a message that has to say `text`, and closes it."""
@@ -63,7 +60,7 @@ class Bench:
             return [name for role, name, control in program.controls()
                     if role == "label" and text in name]
         wait_for(f"the message {text!r}", say)
-        wait_for("the message's window", lambda: program.has_window(title))
+        program.wait_for_window(title)
         self.screen.key("Return")
         wait_for("the message to go", lambda: not say())
 
@@ -78,6 +75,7 @@ class Bench:
         self.screen.key("ctrl+q")
         if discard:
             program.find("push button", "Do Not Save")
+            program.wait_for_window("Drafton")
             self.screen.key("alt+d")
         code = program.wait()
         assert code == 0, (code, program.kill())
@@ -89,28 +87,11 @@ class Bench:
         program.click("push button", "Change active view")
         return program.find("list item")
 
-    def wait_for_clicks(self, program):
-        """Until the program has all clicks. The window manager sees them first, and a key would
-        overtake those that it still holds; where the pointer goes next, the program hears in turn."""
-        def cursor_elsewhere(former=""):
-            return program.find("label", lambda name: name.startswith("Place of the cursor: ")
-                                and name != former).get_name()
-        x, y = program.middle(program.find("filler", "Drawing area"))
-        self.screen.move((x + 40, y + 40))
-        former = cursor_elsewhere()
-        self.screen.move((x + 80, y + 80))
-        cursor_elsewhere(former)
-
     def start_tool(self, program):
         """A block hangs at the cursor."""
         self.show_tools(program, "Building", "Furniture")
         program.click("list item", "ARMCHAIR")
         program.find("label", lambda name: "insertion point" in name)
-
-
-def read_text(control):
-    text = screen.atspi().Text
-    return text.get_text(control, 0, text.get_character_count(control))
 
 
 def closing_the_drawing_ends_its_tool(bench):
@@ -120,6 +101,7 @@ def closing_the_drawing_ends_its_tool(bench):
     bench.title(program, "Drafton")
     # A tool without a drawing does nothing.
     program.click("list item", "BED-900")
+    wait_for("the marked tool", lambda: screen.is_selected(program.find("list item", "BED-900")))
     bench.screen.key("ctrl+n")
     program.find("frame", lambda name: name.startswith("Drawing") and name.endswith(" - Drafton"))
     bench.draw(program)
@@ -164,7 +146,11 @@ def a_catalog_that_vanishes_leaves_what_is_shown(bench):
     program.click("table cell", "Windows")
     program.find("page tab", "Windows")
     program.click("push button", "Change active view")
-    program.click("push button", "Change icon size")
+    x, y = program.middle(program.find("push button", "Change icon size"))
+    below = (x, y + 20), (60, 40)
+    former = bench.screen.pixels(*below)
+    bench.screen.click((x, y))
+    wait_for("the menu", lambda: bench.screen.pixels(*below) != former)
     bench.screen.key("Down", "Down", "Down", "Return")
     program.find("list item")
     bench.draw(program)
@@ -228,7 +214,7 @@ def a_thousand_hasty_clicks_do_no_harm(bench):
     for _ in range(50):
         for place in (first, second, canvas, first):
             bench.screen.click(place, count=5, delay=2)
-    bench.wait_for_clicks(program)
+    program.wait_for_clicks()
     # One Esc ends all that was clicked before it.
     bench.screen.key("Escape")
     program.find("label", "Command:")
@@ -246,7 +232,7 @@ def what_is_no_drawing_is_named(bench):
     bench.title(program, "plan.dxf - Drafton")
     # And by a double click on its name.
     bench.screen.key("ctrl+o")
-    wait_for("the dialog", lambda: program.has_window("Open Drawing"))
+    program.wait_for_window("Open Drawing")
     program.click("table cell", "garbage.dxf", count=2)
     bench.dismiss(program, "garbage.dxf cannot be opened")
     bench.title(program, "plan.dxf - Drafton")
@@ -297,7 +283,7 @@ def without_a_working_module_drafton_goes_on(bench):
         program = bench.start(bench.drawing, programs=own)
         bench.title(program, "plan.dxf - Drafton")
         bench.wait_for_history(program, f"{MODULE} is not loaded")
-        assert reason in bench.history(program), bench.history(program)
+        assert reason in program.history(), program.history()
         bench.screen.key("ctrl+3")
         bench.wait_for_history(program, "Unknown command")
         bench.draw(program)
@@ -311,12 +297,12 @@ def two_programs_share_their_settings(bench):
     second.find("table cell", "Drafton samples")
     # Both write: the second its options, then the first its window.
     bench.screen.key("alt+t", "o")
-    wait_for("the options", lambda: second.has_window("Options"))
+    second.wait_for_window("Options")
     bench.screen.key("alt+r")
     bench.screen.key("ctrl+a")
     bench.screen.type("31")
     bench.screen.key("Return")
-    wait_for("the end of the options", lambda: not second.has_window("Options"))
+    second.wait_for_end_of("Options")
     bench.leave(second)
     wait_for("the keys to come back", lambda: bench.title(first, "plan.dxf - Drafton")
              .get_state_set().contains(screen.atspi().StateType.ACTIVE))

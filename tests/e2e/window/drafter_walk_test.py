@@ -84,10 +84,11 @@ class Walk:
 
     def open_by_typing(self):
         self.screen.key("ctrl+o")
-        self.program.find_active("dialog", "Open Drawing")
+        self.program.wait_for_window("Open Drawing")
         self.picture("open-dialog")
         self.screen.type(str(self.drawing))
         self.screen.key("Return")
+        self.program.wait_for_end_of("Open Drawing")
         self.program.find("frame", "plan.dxf - Drafton")
 
     def run(self):
@@ -140,6 +141,7 @@ class Walk:
         wait_for("an empty place again", lambda: self.screen.pixels(*around) == empty)
         self.picture("block-follows")
         self.screen.click(self.on_screen(16500, 4000))
+        self.program.wait_for_clicks()
         self.finish_prompts()
         self.picture("block-placed")
 
@@ -148,7 +150,9 @@ class Walk:
         for _ in range(6):
             if self.prompt() == "Command:":
                 return
+            former = self.program.history()
             self.screen.key("Return")
+            wait_for("the answer", lambda: self.program.history() != former)
         self.wait_until_idle()
 
     def hatch_room(self):
@@ -158,6 +162,7 @@ class Walk:
         self.wait_for_prompt("internal point")
         self.picture("hatch-asked")
         self.screen.click(self.on_screen(10600, 2200))
+        self.program.wait_for_clicks()
         self.finish_prompts()
         self.picture("hatched")
 
@@ -171,6 +176,7 @@ class Walk:
         self.screen.click(self.scroll_to("list item", "Round column 400"))
         self.wait_for_prompt("center")
         self.screen.click(self.on_screen(2500, 11000))
+        self.program.wait_for_clicks()
         self.finish_prompts()
         self.picture("second-tool")
 

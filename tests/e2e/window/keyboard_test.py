@@ -4,7 +4,6 @@ opens a palette, runs a tool, types its point, and saves."""
 import pathlib
 import sys
 import tempfile
-import time
 
 import ezdxf
 
@@ -55,16 +54,20 @@ class Keyboard:
                 faces.add(self.face(role, name, control))
         return faces
 
+    def tab(self):
+        former = self.focused()
+        self.screen.key("Tab")
+        wait_for(f"the focus to leave {former}", lambda: self.focused() != former)
+
     def tab_round(self):
         # Where the program begins may be no place to come back to.
-        self.screen.key("Tab")
+        self.tab()
         seen = set()
         for _ in range(MOST_TABS):
             face = self.focused()
             if face:
                 seen.add(face)
-            self.screen.key("Tab")
-            time.sleep(0.05)
+            self.tab()
         reachable = self.reachable()
         assert seen == reachable, (
             f"Tab does not come to {sorted(reachable - seen)}, and comes to what shows nothing: "
@@ -76,8 +79,7 @@ class Keyboard:
             face = self.focused()
             if face and name in face[1:3]:
                 return
-            self.screen.key("Tab")
-            time.sleep(0.05)
+            self.tab()
         raise AssertionError("Tab does not come to " + name)
 
     def selected(self):

@@ -75,10 +75,10 @@ class Check:
             self.look(title)
         for keys, title, close in WINDOWS:
             self.screen.key(*keys)
-            wait_for(title, lambda t=title: self.program.has_window(t))
+            self.program.wait_for_window(title)
             self.look(title)
             self.screen.key(*close)
-            wait_for("the end of " + title, lambda t=title: not self.program.has_window(t))
+            self.program.wait_for_end_of(title)
 
 
 def main(programs):

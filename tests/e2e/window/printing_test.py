@@ -42,12 +42,12 @@ class Pdf:
 
 def print_to(bench, program, path):
     bench.screen.key("ctrl+p")
-    wait_for("the printer's dialog", lambda: program.has_window("Print"))
+    program.wait_for_window("Print")
     bench.screen.key("alt+f")
     bench.screen.key("ctrl+a")
     bench.screen.type(str(path))
     bench.screen.key("alt+p")
-    wait_for("the end of the dialog", lambda: not program.has_window("Print"))
+    program.wait_for_end_of("Print")
     wait_for("the printed file", lambda: path.exists() and b"%%EOF" in path.read_bytes()[-16:])
     return Pdf(path)
 
@@ -55,8 +55,8 @@ def print_to(bench, program, path):
 def a_sheet_is_printed_on_its_paper(bench):
     program = bench.start_on_plan()
     program.click("page tab", "Ground_floor_1-50")
-    wait_for("the sheet", lambda: "_Set" in bench.history(program) or
-             "Ground_floor" in bench.history(program))
+    wait_for("the sheet", lambda: "_Set" in program.history() or
+             "Ground_floor" in program.history())
     pdf = print_to(bench, program, bench.folder / "sheet.pdf")
     assert pdf.pages() == [(594, 420)], pdf.pages()
     assert pdf.count(b"l") > 2000 and pdf.count(b"Tj") + pdf.count(b"TJ") > 50
@@ -68,7 +68,7 @@ def a_sheet_is_printed_on_its_paper(bench):
 def a_page_is_set_up_and_kept(bench):
     program = bench.start_on_plan()
     bench.screen.key("alt+f", "g")
-    wait_for("the setup", lambda: program.has_window("Page Setup: Model"))
+    program.wait_for_window("Page Setup: Model")
     bench.screen.key("alt+p")
     bench.screen.type("A4")
     bench.screen.key("alt+o")
@@ -79,7 +79,7 @@ def a_page_is_set_up_and_kept(bench):
     bench.screen.type("M")
     bench.screen.picture("page-setup")
     bench.screen.key("Return")
-    wait_for("the end of the setup", lambda: not program.has_window("Page Setup: Model"))
+    program.wait_for_end_of("Page Setup: Model")
     pdf = print_to(bench, program, bench.folder / "model.pdf")
     assert pdf.pages() == [(210, 297)], pdf.pages()
     assert pdf.is_gray()

@@ -169,10 +169,35 @@ class Program:
     def has(self, role, name=None):
         return self.alive() and self._search(role, name) is not None
 
-    def has_window(self, title):
+    def _windows(self):
         root = self._root()
         windows = [root.get_child_at_index(i) for i in range(root.get_child_count())] if root else []
-        return any(w and w.get_name() == title and shows(w) for w in windows)
+        return [window for window in windows if window and shows(window)]
+
+    def has_window(self, title):
+        return any(window.get_name() == title for window in self._windows())
+
+    def wait_for_window(self, title):
+        """Until what is typed goes to the window of that title."""
+        wait_for(f"the keyboard in the window {title!r}", lambda: any(
+            window.get_name() == title and is_active(window) for window in self._windows()))
+
+    def wait_for_end_of(self, title):
+        """Until the window of that title is gone and what is typed goes to another one."""
+        wait_for(f"the end of the window {title!r}", lambda: not self.has_window(title) and any(
+            is_active(window) for window in self._windows()))
+
+    def wait_for_clicks(self):
+        """Until the program has all clicks. The window manager sees them first, and a key would
+        overtake those that it still holds; where the pointer goes next, the program hears in turn."""
+        def cursor_elsewhere(former=""):
+            return self.find("label", lambda name: name.startswith("Place of the cursor: ")
+                             and name != former).get_name()
+        x, y = self.middle(self.find("filler", "Drawing area"))
+        self.screen.move((x + 40, y + 40))
+        former = cursor_elsewhere()
+        self.screen.move((x + 80, y + 80))
+        cursor_elsewhere(former)
 
     def find(self, role, name=None):
         def look():
@@ -180,17 +205,16 @@ class Program:
             return self._search(role, name)
         return wait_for(f"the {role} {name!r}", look)
 
-    def find_active(self, role, name):
-        """The window of that name, once what is typed goes to it."""
-        return wait_for(f"the keyboard in the {role} {name!r}", lambda: (
-            window := self.find(role, name)) and is_active(window) and window)
-
     def find_started(self, name):
         """The main window of that name, once what is typed goes to it or to a pane of its own."""
         window = self.find("frame", name)
         wait_for("the keyboard in the program", lambda: any(
             role == "frame" and is_active(control) for role, _, control in self.controls()))
         return window
+
+    def history(self):
+        """What stands above the command line."""
+        return read_text(self.find("text", "Command history"))
 
     def alive(self):
         return self.process.poll() is None
@@ -211,6 +235,15 @@ class Program:
 
 def is_active(window):
     return window.get_state_set().contains(atspi().StateType.ACTIVE)
+
+
+def read_text(control):
+    text = atspi().Text
+    return text.get_text(control, 0, text.get_character_count(control))
+
+
+def is_selected(item):
+    return item.get_state_set().contains(atspi().StateType.SELECTED)
 
 
 def atspi():
