@@ -10,10 +10,10 @@ class IHostVariables;
 /// Accepts typed text.
 class IHostCommandInput {
  public:
-  /// Queues text on the document's command line, as if it were typed by a macro: `^C` cancels, `^M`
-  /// and ';' are Enter, a blank ends a word (or a text, at a text prompt, does not), `\` pauses for
-  /// the user, `_` and `.` before a command name are passed over. Returns at once; the text is
-  /// taken up when control is back in the host.
+  /// Queues text on the document's command line, as if it were typed by a macro: `^C` cancels, `^M`,
+  /// ';' and a line break are Enter, a blank ends a word (at a text prompt it does not), `\` pauses
+  /// for the user, `_` and `.` before a command name are passed over. Returns at once; the text is
+  /// taken up, all pieces as one, when control is back in the host.
   virtual void sendText(const OdString& text) = 0;
 
  protected:
