@@ -15,7 +15,6 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(ROOT / "tests" / "e2e" / "window"))
 
 import screen  # noqa: E402
-from screen import wait_for  # noqa: E402
 
 
 class Window:

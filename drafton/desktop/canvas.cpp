@@ -194,8 +194,7 @@ void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
 void Canvas::mousePressEvent(QMouseEvent* event) {
   // A tool that was clicked just before may be what asks for the point.
   const QPointer<Canvas> self(this);
-  m_desktop.catchUp();
-  if (!self || !m_document) return;
+  if (m_desktop.putBehind(*this, *event) || !self || !m_document) return;
   m_cursor = pixelAt(event->position());
   if (event->button() == Qt::MiddleButton) {
     m_panFrom = m_cursor;

@@ -133,7 +133,7 @@ void CommandLine::recall(int step) {
 }
 
 bool CommandLine::handleKey(QKeyEvent* event) {
-  if (endsOrCancels(*event)) m_desktop.catchUp();
+  if (endsOrCancels(*event) && m_desktop.putBehind(*m_edit, *event)) return true;
   switch (event->key()) {
   case Qt::Key_Return:
   case Qt::Key_Enter:

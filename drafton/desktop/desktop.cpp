@@ -80,24 +80,35 @@ OdDbDatabase* Desktop::database() {
   return current ? current->database() : nullptr;
 }
 
-void Desktop::catchUp() {
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-  if (m_input.isQueued()) m_input.takeUp();
+bool Desktop::putBehind(QObject& receiver, const QInputEvent& event) {
+  m_input.collect();
+  if (!m_input.isQueued()) return false;
+  // Where a command waits on the stack the engine goes on once this event is done. What is typed
+  // queues up behind what was sent; a click would still answer what was asked before.
+  const bool isWaiting = m_input.isWaiting();
+  const bool isLater = !isWaiting || event.type() != QEvent::KeyPress;
+  // The engine may come to a command that waits in an event loop of its own.
+  const QPointer<QObject> alive(&receiver);
+  if (isLater) QCoreApplication::postEvent(&receiver, event.clone());
+  m_input.takeUp();
+  if (!isWaiting && alive) QCoreApplication::sendPostedEvents(alive, event.type());
+  return isLater;
 }
 
 void Desktop::type(const OdString& text, KeyQueue::Giver giver) {
-  catchUp();
+  m_input.collect();
   Q_EMIT aboutToTake();
   m_engine->type(text, giver);
   m_input.takeUp();
 }
 
 void Desktop::runMacro(const OdString& macro) {
-  catchUp();
+  m_input.collect();
   Q_EMIT aboutToTake();
   OdString text = macro;
   // With nothing to cancel it would take away what is chosen.
-  while (!isBusy() && text.startsWith(QLatin1String("^C"))) text.remove(0, 2);
+  while (!isBusy() && !m_input.isQueued() && text.startsWith(QLatin1String("^C")))
+    text.remove(0, 2);
   m_engine->currentProcessor().typeMacro(text);
   m_input.takeUp();
 }

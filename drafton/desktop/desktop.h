@@ -6,6 +6,8 @@
 #include "drafton/engine/engine.h"
 #include "host/repetition.h"
 
+#include <QInputEvent>
+
 namespace drafton {
 
 /// Owns the engine, types into it, and tells the widgets what has happened. Lives as long as the
@@ -30,10 +32,10 @@ class Desktop : public QObject {
   /// True while a command runs in the active document.
   bool isBusy() { return m_engine->currentProcessor().isBusy(); }
 
-  /// Has done what was asked before and still waits in the event loop, as what modules put off.
-  /// Keys and clicks that come behind would overtake it: an Esc what it is to end, an answer its
-  /// question.
-  void catchUp();
+  /// Lets what was asked before and still waits in the event loop, as what modules put off, go
+  /// first. A key or click that comes behind would overtake it: an Esc what it is to end, an answer
+  /// its question. True if the event is not to be handled now: the receiver gets it again.
+  bool putBehind(QObject& receiver, const QInputEvent& event);
   /// Types as a user does: a blank ends a word, a line break is Enter. What is typed for the
   /// program is not repeated.
   void type(const OdString& text, KeyQueue::Giver giver = KeyQueue::Giver::kUser);

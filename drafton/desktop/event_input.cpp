@@ -2,6 +2,9 @@
 
 #include "drafton/engine/engine.h"
 
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
 namespace drafton {
 
 void EventInput::takeUp() {
@@ -12,6 +15,11 @@ void EventInput::takeUp() {
   Q_EMIT settled();
 }
 
+void EventInput::collect() {
+  const QScopedValueRollback collecting(m_isCollecting, true);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+}
+
 void EventInput::stop() {
   m_isStopped = true;
   for (QEventLoop* const loop : m_loops) loop->quit();
@@ -20,6 +28,7 @@ void EventInput::stop() {
 bool EventInput::waitForInput() {
   if (m_isStopped || !m_engine || m_engine->isExiting()) return false;
   Q_EMIT settled();
+  const QScopedValueRollback collecting(m_isCollecting, false);
   QEventLoop loop;
   m_loops.push_back(&loop);
   loop.exec();
@@ -31,7 +40,13 @@ bool EventInput::waitForInput() {
 
 void EventInput::inputQueued() {
   if (std::exchange(m_isQueued, true)) return;
-  QMetaObject::invokeMethod(this, &EventInput::takeUp, Qt::QueuedConnection);
+  // Whoever collects takes up what has come.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (!m_isCollecting) takeUp();
+      },
+      Qt::QueuedConnection);
 }
 
 } // namespace drafton

@@ -22,6 +22,8 @@ class EventInput : public QObject, public InputSource {
 
   /// Has the engine take up what was typed: at once, or by ending the wait of what is on the stack.
   void takeUp();
+  /// Has modules type what they have put off, and the engine not yet take it up.
+  void collect();
   /// True if something was sent that the engine has not begun to take up.
   bool isQueued() const { return m_isQueued; }
   /// True while a command waits on the stack: the program cannot end yet.
@@ -41,6 +43,7 @@ class EventInput : public QObject, public InputSource {
   std::vector<QEventLoop*> m_loops; // innermost last
   bool m_isStopped = false;
   bool m_isQueued = false;
+  bool m_isCollecting = false;
 };
 
 } // namespace drafton
