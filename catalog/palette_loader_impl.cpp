@@ -5,11 +5,13 @@
 #include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "module/owner_link.h"
+#include "persistence/path_macros.h"
 #include "persistence/path_operations.h"
 
 namespace tc {
 
 OdString resolvedHref(const OdString& href, const OdString& baseFolder) {
+  const HeldPathMacros heldMacros(baseFolder + u'\\');
   OdString path = odpath::fromPlatform(expandedStoredPath(href));
   if (path.isEmpty()) return {};
   if (isRelativePath(path) && !baseFolder.isEmpty()) return combinePath(path, baseFolder + u'\\');

@@ -8,7 +8,7 @@ namespace tc {
 
 ReadOutcome readFile(const OdString& path, OdTcFiler& filer, OdTcPersist* root,
                      bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool)) {
-  const HeldPathMacros heldMacros;
+  const HeldPathMacros heldMacros(path);
   ReadOutcome outcome;
   try {
     const OdStreamBufPtr stream = odrxSystemServices()->createFile(

@@ -47,7 +47,7 @@ class FileAtFirstByte final : public OdStreamBuf {
 
 bool writeFile(const OdString& path, Oda::FileCreationDisposition creation, OdTcFiler& filer,
                OdTcPersist* root, bool (OdTcFiler::*open)(OdStreamBuf*, OdTcPersist*, bool)) {
-  const HeldPathMacros heldMacros;
+  const HeldPathMacros heldMacros(path);
   const auto file = odrxMake<FileAtFirstByte>(path, creation);
   if (!(filer.*open)(file, root, true)) return false;
   filer.flush();

@@ -27,6 +27,7 @@ constexpr Source kSources[] = {
 using PathMacros = std::optional<std::vector<OdTcPathMacro>>;
 
 bool g_isHeld = false;
+OdString g_file;
 std::optional<PathMacros> g_held;
 
 PathMacros macrosOfThisMoment() {
@@ -49,13 +50,19 @@ std::optional<std::vector<OdTcPathMacro>> pathMacros() {
   return *g_held;
 }
 
-HeldPathMacros::HeldPathMacros()
-  : m_isOutermost(!std::exchange(g_isHeld, true)) {}
+HeldPathMacros::HeldPathMacros(const OdString& file)
+  : m_isOutermost(!std::exchange(g_isHeld, true))
+  , m_file(file) {
+  g_file.swap(m_file);
+}
 
 HeldPathMacros::~HeldPathMacros() {
+  g_file.swap(m_file);
   if (!m_isOutermost) return;
   g_isHeld = false;
   g_held.reset();
 }
+
+const OdString& fileOfPathMacros() { return g_file; }
 
 } // namespace tc

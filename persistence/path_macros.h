@@ -22,13 +22,18 @@ std::optional<std::vector<OdTcPathMacro>> pathMacros();
 /// is read or written with the same folders from beginning to end, and the host is asked once.
 class HeldPathMacros {
  public:
-  HeldPathMacros();
+  /// `file` is the stored path of what is read or written, or of anything else in its folder.
+  explicit HeldPathMacros(const OdString& file);
   ~HeldPathMacros();
   HeldPathMacros(const HeldPathMacros&) = delete;
   HeldPathMacros& operator=(const HeldPathMacros&) = delete;
 
  private:
   const bool m_isOutermost;
+  OdString m_file;
 };
+
+/// The file that is being read or written; empty if none is.
+const OdString& fileOfPathMacros();
 
 } // namespace tc

@@ -36,6 +36,50 @@ QStringList segmentsOf(const OdString& path) {
   return text.split(kSeparator);
 }
 
+/// The innermost of the folders that the file lies in or below; empty if it lies in none of them.
+OdString folderAround(const OdString& file, const QStringList& folders) {
+  const QStringList place = segmentsOf(file);
+  OdString innermost;
+  qsizetype depth = 0;
+  for (const OdString& folder : folders) {
+    const QStringList around = segmentsOf(folder);
+    if (around.size() <= depth || place.mid(0, around.size()) != around) continue;
+    innermost = folder;
+    depth = around.size();
+  }
+  return innermost;
+}
+
+/// The folder that a macro stands for in a file. A setting that lists several is one value, which
+/// no path begins with: of these it is the one that the file itself lies in, else the first one
+/// that has what is behind the macro, else the first.
+OdString folderOf(const OdTcPathMacro& macro, const OdString& behind) {
+  const OdString& value = macro.values.first();
+  const QStringList folders = splitPathList(value);
+  if (folders.size() < 2) return value;
+  if (const OdString own = folderAround(fileOfPathMacros(), folders); !own.isEmpty()) return own;
+  const auto found = std::find_if(folders.begin(), folders.end(), [&](const OdString& folder) {
+    return odrxSystemServices()->fileExists(folder + behind);
+  });
+  return found == folders.end() ? folders.first() : *found;
+}
+
+/// A path in one of several folders that a macro stands for, if that is the one which the file lies
+/// in, with the macro; else nothing.
+std::optional<OdString> collapsedBesideFile(const OdString& path) {
+  const auto macros = pathMacros();
+  if (!macros) return std::nullopt;
+  for (const OdTcPathMacro& macro : *macros) {
+    const QStringList folders =
+        macro.values.isEmpty() ? QStringList() : splitPathList(macro.values.first());
+    const OdString own =
+        folders.size() < 2 ? OdString() : folderAround(fileOfPathMacros(), folders);
+    if (!own.isEmpty() && path.startsWith(inFolder(own, OdString())))
+      return macro.text + path.mid(own.size());
+  }
+  return std::nullopt;
+}
+
 } // namespace
 
 bool expandPath(const OdString& in, OdString& out) {
@@ -68,15 +112,18 @@ OdString expandedStoredPath(const OdString& stored) {
   const auto macros = pathMacros();
   if (!macros) return stored;
   for (const OdTcPathMacro& macro : *macros)
-    if (!macro.values.isEmpty() && stored.startsWith(macro.text))
-      return macro.values.first() + stored.mid(macro.text.size());
+    if (!macro.values.isEmpty() && stored.startsWith(macro.text)) {
+      const OdString behind = stored.mid(macro.text.size());
+      return folderOf(macro, behind) + behind;
+    }
   return stored;
 }
 
 OdString collapsedStoredPath(const OdString& path) {
   OdString collapsed;
+  if (!collapsePath(path, collapsed)) collapsed = collapsedBesideFile(path).value_or(path);
   // A folder that is met in mid-path, or is not the first of its macro, would not come back.
-  return collapsePath(path, collapsed) && expandedStoredPath(collapsed) == path ? collapsed : path;
+  return expandedStoredPath(collapsed) == path ? collapsed : path;
 }
 
 OdString combinePath(const OdString& relative, const OdString& baseFile) {

@@ -59,6 +59,33 @@ class MovedCatalog(unittest.TestCase):
         self.assertEqual(pathlib.PurePath(space.query("IMAGE")[0].image_def.dxf.filename.replace(
             "\\", "/")), moved / "more" / "photo.png")
 
+    def test_works_beside_other_catalogs(self):
+        """Tools that were made while the catalog was the only one find their drawing among several."""
+        blocks, others = self.bench.path("c") / "blocks" / "all.dxf", self.bench.path("a")
+        made = self.tpal("make", self.bench.path("c"), "Made", blocks, "--blocks", "--group", "G")
+        self.assertEqual(made.returncode, 0, made.stdout[-1000:] + made.stderr)
+        palette, = (self.bench.path("c") / "Palettes").glob("Made*.dtc")
+        macro = "%UserProfileSamplesFolder%\\blocks\\all.dxf"
+        self.assertEqual(palette.read_text().count(macro), COUNT)
+        self.tpal("make", others, "Others", "LINE")
+        moved = self.bench.path("elsewhere")
+        shutil.move(self.bench.path("c"), moved)
+        palette = moved / "Palettes" / palette.name
+
+        script = "TOOL:B7\n5,6\nToolPalettesMake\nMade\nC\nCIRCLE\n"
+        for folders in (f"{others};{moved}", f"{moved};{others}"):
+            run = subprocess.run(
+                [pathlib.Path(PROGRAMS) / "drafton", "batch", "--profile",
+                 self.bench.path("profile.ini"), "--catalogs", folders, "--out",
+                 self.bench.path("out.dxf")],
+                input=script, text=True, capture_output=True, timeout=120)
+            self.assertEqual(run.returncode, 0, run.stdout[-1000:] + run.stderr)
+            self.assertEqual([i.dxf.name for i in self.bench.read().modelspace().query("INSERT")],
+                             ["B7"])
+        text = palette.read_text()
+        self.assertEqual(text.count("<Tool "), COUNT + 2, "it was saved, twice")
+        self.assertEqual(text.count(macro), COUNT)
+
     def tpal(self, *words):
         return subprocess.run([pathlib.Path(PROGRAMS) / "tpal", *words], text=True,
                               capture_output=True, timeout=120)

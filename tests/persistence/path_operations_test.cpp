@@ -59,17 +59,17 @@ TEST_F(Paths, ExpandTheUsersFolder) {
 TEST_F(Paths, OfOneFileHaveTheSameFoldersFromBeginningToEnd) {
   set("Shx", u"C:\\fonts");
   {
-    const HeldPathMacros file;
+    const HeldPathMacros file{OdString()};
     EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+C:\\fonts\\x");
     set("Shx", u"D:\\fonts");
     {
-      const HeldPathMacros inner;
+      const HeldPathMacros inner{OdString()};
       EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+C:\\fonts\\x");
     }
     EXPECT_EQ(collapsed(u"C:\\fonts\\x"), "+%ShxFolder%\\x");
   }
   EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+D:\\fonts\\x");
-  const HeldPathMacros next;
+  const HeldPathMacros next{OdString()};
   set("Shx", u"E:\\fonts");
   EXPECT_EQ(expanded(u"%ShxFolder%\\x"), "+E:\\fonts\\x");
 }
@@ -144,6 +144,40 @@ TEST_F(Paths, OfFilesExpandOnlyFromTheirStart) {
             QStringLiteral("a\\%UserProfileFolder%\\x"));
   EXPECT_EQ(expandedStoredPath(QStringLiteral("%Other%\\x")), QStringLiteral("%Other%\\x"));
   EXPECT_EQ(expandedStoredPath(OdString()), OdString());
+}
+
+TEST_F(Paths, OfFilesExpandToTheCatalogThatTheFileIsIn) {
+  set("ToolPaletteDir", u"C:\\a;C:/b;C:\\b\\inner\\;C:\\bb");
+  const auto inFileAt = [](const char16_t* file) {
+    const HeldPathMacros held{OdString::fromUtf16(file)};
+    return expandedStoredPath(QStringLiteral("%UserProfileSamplesFolder%\\x")).toStdString();
+  };
+  EXPECT_EQ(inFileAt(u"C:\\b\\Palettes\\p.dtc"), "C:/b\\x");
+  EXPECT_EQ(inFileAt(u"C:\\bb\\Palettes\\p.dtc"), "C:\\bb\\x");
+  EXPECT_EQ(inFileAt(u"C:\\b\\inner\\Palettes\\p.dtc"), "C:\\b\\inner\\\\x");
+  EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\a\\x") << "the first, where nothing tells";
+  EXPECT_EQ(inFileAt(u""), "C:\\a\\x");
+}
+
+TEST_F(Paths, OfFilesInNoCatalogExpandToTheOneThatHasWhatTheyName) {
+  QTemporaryDir one, two;
+  ASSERT_TRUE(QFile(two.filePath(QStringLiteral("door.dxf"))).open(QIODevice::WriteOnly));
+  set("ToolPaletteDir", (one.path() + u';' + two.path()).toStdU16String().c_str());
+  EXPECT_EQ(expandedStoredPath(QStringLiteral("%UserProfileSamplesFolder%\\door.dxf")),
+            two.path() + QStringLiteral("\\door.dxf"));
+}
+
+TEST_F(Paths, OfFilesInOneOfSeveralCatalogsKeepTheMacro) {
+  set("ToolPaletteDir", u"C:\\a;C:\\b");
+  const HeldPathMacros held{QStringLiteral("C:\\b\\Palettes\\p.dtc")};
+  for (const char16_t* path : {u"C:\\b\\x", u"C:\\a\\x", u"C:\\bb\\x", u"C:\\b", u"x\\C:\\b\\x"}) {
+    const OdString text = OdString::fromUtf16(path);
+    EXPECT_EQ(expandedStoredPath(collapsedStoredPath(text)), text);
+  }
+  EXPECT_EQ(collapsedStoredPath(QStringLiteral("C:\\b\\x")),
+            QStringLiteral("%UserProfileSamplesFolder%\\x"));
+  EXPECT_EQ(collapsedStoredPath(QStringLiteral("C:\\a\\x")), QStringLiteral("C:\\a\\x"))
+      << "from here the macro would lead to the other folder";
 }
 
 TEST_F(Paths, OfFilesCollapseOnlyToWhatComesBack) {
