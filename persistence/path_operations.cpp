@@ -36,6 +36,17 @@ QStringList segmentsOf(const OdString& path) {
   return text.split(kSeparator);
 }
 
+/// The folders that a macro stands for in a file, as stored paths: those of its first value, which
+/// is a whole setting as somebody has typed it.
+QStringList foldersOf(const OdTcPathMacro& macro) {
+  QStringList folders;
+  if (macro.values.isEmpty()) return folders;
+  for (const OdString& part : splitPathList(macro.values.first()))
+    if (const OdString folder = part.trimmed(); !folder.isEmpty())
+      folders << odpath::fromPlatform(folder);
+  return folders;
+}
+
 /// The innermost of the folders that the file lies in or below; empty if it lies in none of them.
 OdString folderAround(const OdString& file, const QStringList& folders) {
   const QStringList place = segmentsOf(file);
@@ -50,13 +61,10 @@ OdString folderAround(const OdString& file, const QStringList& folders) {
   return innermost;
 }
 
-/// The folder that a macro stands for in a file. A setting that lists several is one value, which
-/// no path begins with: of these it is the one that the file itself lies in, else the first one
-/// that has what is behind the macro, else the first.
-OdString folderOf(const OdTcPathMacro& macro, const OdString& behind) {
-  const OdString& value = macro.values.first();
-  const QStringList folders = splitPathList(value);
-  if (folders.size() < 2) return value;
+/// Of several folders the one that the file itself lies in, else the first one that has what is
+/// behind the macro, else the first.
+OdString folderFor(const QStringList& folders, const OdString& behind) {
+  if (folders.size() == 1) return folders.first();
   if (const OdString own = folderAround(fileOfPathMacros(), folders); !own.isEmpty()) return own;
   const auto found = std::find_if(folders.begin(), folders.end(), [&](const OdString& folder) {
     return odrxSystemServices()->fileExists(folder + behind);
@@ -64,16 +72,13 @@ OdString folderOf(const OdTcPathMacro& macro, const OdString& behind) {
   return found == folders.end() ? folders.first() : *found;
 }
 
-/// A path in one of several folders that a macro stands for, if that is the one which the file lies
-/// in, with the macro; else nothing.
+/// A path in a folder that a macro stands for, if that is the one which the file lies in, with the
+/// macro; else nothing.
 std::optional<OdString> collapsedBesideFile(const OdString& path) {
   const auto macros = pathMacros();
   if (!macros) return std::nullopt;
   for (const OdTcPathMacro& macro : *macros) {
-    const QStringList folders =
-        macro.values.isEmpty() ? QStringList() : splitPathList(macro.values.first());
-    const OdString own =
-        folders.size() < 2 ? OdString() : folderAround(fileOfPathMacros(), folders);
+    const OdString own = folderAround(fileOfPathMacros(), foldersOf(macro));
     if (!own.isEmpty() && path.startsWith(inFolder(own, OdString())))
       return macro.text + path.mid(own.size());
   }
@@ -111,11 +116,11 @@ OdString expandedStoredPath(const OdString& stored) {
   if (!stored.startsWith(u'%')) return stored;
   const auto macros = pathMacros();
   if (!macros) return stored;
-  for (const OdTcPathMacro& macro : *macros)
-    if (!macro.values.isEmpty() && stored.startsWith(macro.text)) {
-      const OdString behind = stored.mid(macro.text.size());
-      return folderOf(macro, behind) + behind;
-    }
+  for (const OdTcPathMacro& macro : *macros) {
+    const QStringList folders = stored.startsWith(macro.text) ? foldersOf(macro) : QStringList();
+    const OdString behind = stored.mid(macro.text.size());
+    if (!folders.isEmpty()) return folderFor(folders, behind) + behind;
+  }
   return stored;
 }
 

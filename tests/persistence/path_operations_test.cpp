@@ -147,16 +147,18 @@ TEST_F(Paths, OfFilesExpandOnlyFromTheirStart) {
 }
 
 TEST_F(Paths, OfFilesExpandToTheCatalogThatTheFileIsIn) {
-  set("ToolPaletteDir", u"C:\\a;C:/b;C:\\b\\inner\\;C:\\bb");
+  set("ToolPaletteDir", u"C:\\a; C:/b;;C:\\b\\inner\\;C:\\bb");
   const auto inFileAt = [](const char16_t* file) {
     const HeldPathMacros held{OdString::fromUtf16(file)};
     return expandedStoredPath(QStringLiteral("%UserProfileSamplesFolder%\\x")).toStdString();
   };
-  EXPECT_EQ(inFileAt(u"C:\\b\\Palettes\\p.dtc"), "C:/b\\x");
+  EXPECT_EQ(inFileAt(u"C:\\b\\Palettes\\p.dtc"), "C:\\b\\x");
   EXPECT_EQ(inFileAt(u"C:\\bb\\Palettes\\p.dtc"), "C:\\bb\\x");
   EXPECT_EQ(inFileAt(u"C:\\b\\inner\\Palettes\\p.dtc"), "C:\\b\\inner\\\\x");
   EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\a\\x") << "the first, where nothing tells";
   EXPECT_EQ(inFileAt(u""), "C:\\a\\x");
+  set("ToolPaletteDir", u"C:/b");
+  EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\b\\x") << "a setting may be typed as the system has paths";
 }
 
 TEST_F(Paths, OfFilesInNoCatalogExpandToTheOneThatHasWhatTheyName) {
@@ -164,12 +166,13 @@ TEST_F(Paths, OfFilesInNoCatalogExpandToTheOneThatHasWhatTheyName) {
   ASSERT_TRUE(QFile(two.filePath(QStringLiteral("door.dxf"))).open(QIODevice::WriteOnly));
   set("ToolPaletteDir", (one.path() + u';' + two.path()).toStdU16String().c_str());
   EXPECT_EQ(expandedStoredPath(QStringLiteral("%UserProfileSamplesFolder%\\door.dxf")),
-            two.path() + QStringLiteral("\\door.dxf"));
+            odpath::fromPlatform(two.filePath(QStringLiteral("door.dxf"))));
 }
 
 TEST_F(Paths, OfFilesInOneOfSeveralCatalogsKeepTheMacro) {
   set("ToolPaletteDir", u"C:\\a;C:\\b");
   const HeldPathMacros held{QStringLiteral("C:\\b\\Palettes\\p.dtc")};
+  EXPECT_EQ(collapsedStoredPath(QStringLiteral("C:\\b")), QStringLiteral("C:\\b"));
   for (const char16_t* path : {u"C:\\b\\x", u"C:\\a\\x", u"C:\\bb\\x", u"C:\\b", u"x\\C:\\b\\x"}) {
     const OdString text = OdString::fromUtf16(path);
     EXPECT_EQ(expandedStoredPath(collapsedStoredPath(text)), text);
