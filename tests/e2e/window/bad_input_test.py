@@ -205,13 +205,12 @@ def palettes_that_are_still_read_hold_nobody_up(bench):
     bench.leave(program, discard=True)
 
 
-def a_thousand_hasty_clicks_do_no_harm(bench):
+def click_hastily(bench, palette, *tools):
     program = bench.start_on_plan()
-    bench.show_tools(program, "Building", "Rooms")
-    first = program.middle(program.find("list item", "Column 300"))
-    second = program.middle(program.find("list item", "Round column 400"))
+    bench.show_tools(program, "Building", palette)
+    first, second = (program.middle(program.find("list item", name)) for name in tools)
     canvas = program.middle(program.find("filler", "Drawing area"))
-    for _ in range(50):
+    for _ in range(25):
         for place in (first, second, canvas, first):
             bench.screen.click(place, count=5, delay=2)
     program.wait_for_clicks()
@@ -220,6 +219,15 @@ def a_thousand_hasty_clicks_do_no_harm(bench):
     program.find("label", "Command:")
     bench.draw(program)
     bench.leave(program, discard=True)
+
+
+def hasty_clicks_on_tools_of_commands_do_no_harm(bench):
+    click_hastily(bench, "Rooms", "Column 300", "Round column 400")
+
+
+def hasty_clicks_on_tools_of_blocks_do_no_harm(bench):
+    """Their module waits on the stack."""
+    click_hastily(bench, "Furniture", "ARMCHAIR", "BED-900")
 
 
 def what_is_no_drawing_is_named(bench):
@@ -317,9 +325,10 @@ def two_programs_share_their_settings(bench):
 TESTS = [closing_the_drawing_ends_its_tool, closing_the_window_ends_its_tool,
          ending_the_program_ends_its_command, closing_the_palettes_leaves_the_tool,
          a_catalog_that_vanishes_leaves_what_is_shown,
-         palettes_that_are_still_read_hold_nobody_up, a_thousand_hasty_clicks_do_no_harm,
-         what_is_no_drawing_is_named, settings_that_cannot_be_used_are_told_and_left,
-         without_a_working_module_drafton_goes_on, two_programs_share_their_settings]
+         palettes_that_are_still_read_hold_nobody_up, hasty_clicks_on_tools_of_commands_do_no_harm,
+         hasty_clicks_on_tools_of_blocks_do_no_harm, what_is_no_drawing_is_named,
+         settings_that_cannot_be_used_are_told_and_left, without_a_working_module_drafton_goes_on,
+         two_programs_share_their_settings]
 
 
 def main(programs, names):
