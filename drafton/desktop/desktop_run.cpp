@@ -17,9 +17,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace drafton {
 namespace {
 
@@ -46,6 +43,30 @@ void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
+EngineOptions engineOptionsFor(const DesktopOptions& options) {
+  EngineOptions result;
+  result.settingsFile = options.profile.isEmpty() ? defaultProfile() : options.profile;
+  result.programFolder = odpath::fromPlatform(QApplication::applicationDirPath());
+  return result;
+}
+
+/// Puts the catalogs that were asked for in force; without any, brings the samples at the first
+/// start. Gives the drawing to begin with, if there is one.
+OdString chooseCatalogs(Desktop& desktop, const DesktopOptions& options) {
+  if (!options.catalogs) return bringSamples(desktop, QApplication::applicationDirPath());
+  desktop.engine().application().overrideSetting(QStringLiteral("ToolPaletteDir"),
+                                                 *options.catalogs);
+  return {};
+}
+
+/// Opens the drawings that were named, or the first one, or else a new one.
+void openDrawings(MainWindow& window, const Desktop& desktop, QStringList drawings,
+                  const OdString& firstDrawing) {
+  if (drawings.isEmpty() && !firstDrawing.isEmpty()) drawings << firstDrawing;
+  for (const OdString& drawing : drawings) window.files().openFile(drawing);
+  if (!desktop.document()) window.files().newDrawing();
+}
+
 } // namespace
 
 int runDesktop(int& argc, char** argv) {
@@ -59,16 +80,9 @@ int runDesktop(int& argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(DRAFTON_VERSION));
   const DesktopOptions options = parseDesktopArguments(QApplication::arguments().mid(1));
 
-  EngineOptions engineOptions;
-  engineOptions.settingsFile = options.profile.isEmpty() ? defaultProfile() : options.profile;
-  engineOptions.programFolder = odpath::fromPlatform(QApplication::applicationDirPath());
-  Desktop desktop(std::move(engineOptions));
+  Desktop desktop(engineOptionsFor(options));
   Engine& engine = desktop.engine();
-  OdString firstDrawing;
-  if (options.catalogs)
-    engine.application().overrideSetting(QStringLiteral("ToolPaletteDir"), *options.catalogs);
-  else
-    firstDrawing = bringSamples(desktop, QApplication::applicationDirPath());
+  const OdString firstDrawing = chooseCatalogs(desktop, options);
   offerPictures(engine);
   // What people save by hand carries a picture, for palettes and lists of files.
   engine.sessionValues()[QStringLiteral("RASTERPREVIEW")] = std::int32_t{1};
@@ -89,10 +103,7 @@ int runDesktop(int& argc, char** argv) {
   // With the event loop running, since a file that cannot be opened is told in a dialog.
   QTimer::singleShot(0, &window, [&] {
     recover(autosave, dialogs);
-    for (const OdString& drawing : options.drawings) window.files().openFile(drawing);
-    if (options.drawings.isEmpty() && !firstDrawing.isEmpty())
-      window.files().openFile(firstDrawing);
-    if (!desktop.document()) window.files().newDrawing();
+    openDrawings(window, desktop, options.drawings, firstDrawing);
     engine.runStartupCommands();
     desktop.input().takeUp();
   });

@@ -63,6 +63,30 @@ Circles circlesOf(Form form, double shift) {
   }
 }
 
+/// Over a square of 1, from one edge to the other.
+QBrush linearBrush(Form form, double shift, const QColor& first, const QColor& second) {
+  const bool isCylinder = form == Form::kCylinder;
+  QLinearGradient linear(0, 0, 1, 0);
+  linear.setColorAt(0, first);
+  linear.setColorAt(0.5 - kShiftReach * shift, isCylinder ? second : mixed(first, second, 0.5));
+  linear.setColorAt(1, isCylinder ? first : second);
+  return linear;
+}
+
+/// Over a square of 1, around a middle.
+QBrush radialBrush(Form form, double shift, const QColor& first, const QColor& second) {
+  const Circles circles = circlesOf(form, shift);
+  QRadialGradient radial(circles.middle, circles.outer);
+  for (int i = 0; i <= kSteps; ++i) {
+    const double part = static_cast<double>(i) / kSteps;
+    // A ball is brightest near to its middle and darkens towards its edge.
+    const double tone = form == Form::kCurve ? 1 - part : std::cos(part * kOdaPi / 2);
+    const double at = (circles.inner + (circles.outer - circles.inner) * part) / circles.outer;
+    radial.setColorAt(at, mixed(first, second, tone));
+  }
+  return radial;
+}
+
 } // namespace
 
 QBrush gradientBrush(const OdGiGradient& gradient, const QPolygonF& outline, const QPointF& right,
@@ -88,26 +112,8 @@ QBrush gradientBrush(const OdGiGradient& gradient, const QPolygonF& outline, con
                           QTransform::fromTranslate(box.left(), box.top()) * axes;
 
   const double shift = std::clamp(gradient.shift, 0.0, 1.0);
-  const double middle = 0.5 - kShiftReach * shift;
-  QBrush brush;
-  if (kind.form == Form::kLinear || kind.form == Form::kCylinder) {
-    QLinearGradient linear(0, 0, 1, 0);
-    linear.setColorAt(0, first);
-    linear.setColorAt(middle, kind.form == Form::kLinear ? mixed(first, second, 0.5) : second);
-    linear.setColorAt(1, kind.form == Form::kLinear ? second : first);
-    brush = QBrush(linear);
-  } else {
-    const Circles circles = circlesOf(kind.form, shift);
-    QRadialGradient radial(circles.middle, circles.outer);
-    for (int i = 0; i <= kSteps; ++i) {
-      const double part = static_cast<double>(i) / kSteps;
-      // A ball is brightest near to its middle and darkens towards its edge.
-      const double tone = kind.form == Form::kCurve ? 1 - part : std::cos(part * kOdaPi / 2);
-      const double at = (circles.inner + (circles.outer - circles.inner) * part) / circles.outer;
-      radial.setColorAt(at, mixed(first, second, tone));
-    }
-    brush = QBrush(radial);
-  }
+  const bool isLinear = kind.form == Form::kLinear || kind.form == Form::kCylinder;
+  QBrush brush = (isLinear ? linearBrush : radialBrush)(kind.form, shift, first, second);
   brush.setTransform(unit);
   return brush;
 }

@@ -42,6 +42,10 @@ class Test {
   void line(const QPointF& a, const QPointF& b);
   void lines(std::span<const OdGePoint3d> points, bool closed, const Projection& projection);
   void polygon(const QPolygonF& polygon);
+  void arc(const OdGiArc& arc, const Projection& projection);
+  void wide(std::span<const OdGiWidePoint> points, const Projection& projection);
+  void endless(std::span<const OdGePoint3d> points, bool bothWays, const Projection& projection);
+  void frame(const ObjectPiece& piece, bool isFilled, const Projection& projection);
   void rings(const ShapeList& list, const AreaPiece& area, const Projection& projection);
   void text(const OdGiTextRun& run, const Projection& projection);
   void block(const BlockPiece& block, const Projection& projection, const Style& style);
@@ -81,6 +85,38 @@ void Test::polygon(const QPolygonF& polygon) {
   for (qsizetype i = 0; i < polygon.size(); ++i)
     line(polygon[i], polygon[(i + 1) % polygon.size()]);
   m_touches = m_touches || polygon.containsPoint(m_rect.center(), Qt::OddEvenFill);
+}
+
+void Test::arc(const OdGiArc& arc, const Projection& projection) {
+  const double longest = std::max(arc.u.length(), arc.v.length());
+  std::vector<OdGePoint3d> chords;
+  // A quarter of a pixel from the arc.
+  odgi::appendChords(arc, longest / std::max(projection.scale() * longest, 1.0) / 4, chords);
+  lines(chords, false, projection);
+}
+
+void Test::wide(std::span<const OdGiWidePoint> points, const Projection& projection) {
+  std::vector<OdGePoint3d> ring;
+  while (!points.empty()) {
+    points = points.subspan(odgi::outlineOf(points, ring));
+    QPolygonF outline;
+    for (const OdGePoint3d& p : ring) outline << projection(p);
+    polygon(outline);
+  }
+}
+
+void Test::endless(std::span<const OdGePoint3d> points, bool bothWays,
+                   const Projection& projection) {
+  m_leaves = true;
+  m_touches = m_touches || seenPart(points[0], points[1] - points[0], bothWays, projection, m_rect);
+}
+
+void Test::frame(const ObjectPiece& piece, bool isFilled, const Projection& projection) {
+  QPolygonF outline;
+  for (const OdGePoint3d& p : frameOf(piece)) outline << projection(p);
+  if (isFilled) return polygon(outline);
+  for (qsizetype i = 0; i < outline.size(); ++i)
+    line(outline[i], outline[(i + 1) % outline.size()]);
 }
 
 void Test::rings(const ShapeList& list, const AreaPiece& area, const Projection& projection) {
@@ -150,35 +186,15 @@ void Test::piece(const ShapeList& list, const Piece& piece, const Projection& pr
   case PieceKind::kPolyline:
   case PieceKind::kRing:
     return lines(list.pointsOf(piece), piece.kind == PieceKind::kRing, projection);
-  case PieceKind::kArc: {
-    const OdGiArc& arc = list.arcs[piece.first];
-    const double radius = projection.scale() * std::max(arc.u.length(), arc.v.length());
-    std::vector<OdGePoint3d> chords;
-    odgi::appendChords(arc, std::max(arc.u.length(), arc.v.length()) / std::max(radius, 1.0) / 4,
-                       chords);
-    return lines(chords, false, projection);
-  }
-  case PieceKind::kWide: {
-    std::span<const OdGiWidePoint> points = list.pointsOf(list.wides[piece.first]);
-    std::vector<OdGePoint3d> ring;
-    while (!points.empty()) {
-      points = points.subspan(odgi::outlineOf(points, ring));
-      QPolygonF outline;
-      for (const OdGePoint3d& p : ring) outline << projection(p);
-      polygon(outline);
-    }
-    return;
-  }
+  case PieceKind::kArc:
+    return arc(list.arcs[piece.first], projection);
+  case PieceKind::kWide:
+    return wide(list.pointsOf(list.wides[piece.first]), projection);
   case PieceKind::kArea:
     return rings(list, list.areas[piece.first], projection);
   case PieceKind::kXline:
-  case PieceKind::kRay: {
-    const auto points = list.pointsOf(piece);
-    m_leaves = true;
-    m_touches = m_touches || seenPart(points[0], points[1] - points[0],
-                                      piece.kind == PieceKind::kXline, projection, m_rect);
-    return;
-  }
+  case PieceKind::kRay:
+    return endless(list.pointsOf(piece), piece.kind == PieceKind::kXline, projection);
   case PieceKind::kGradient:
     return rings(list, list.gradients[piece.first].area, projection);
   case PieceKind::kPattern:
@@ -196,15 +212,9 @@ void Test::piece(const ShapeList& list, const Piece& piece, const Projection& pr
     return line(at, at);
   }
   case PieceKind::kImage:
-  case PieceKind::kViewport: {
-    QPolygonF outline;
-    for (const OdGePoint3d& p : frameOf(list.objects[piece.first])) outline << projection(p);
+  case PieceKind::kViewport:
     // Windows are taken by their edge: what is seen in them is in the way otherwise.
-    if (piece.kind == PieceKind::kImage) return polygon(outline);
-    for (qsizetype i = 0; i < outline.size(); ++i)
-      line(outline[i], outline[(i + 1) % outline.size()]);
-    return;
-  }
+    return frame(list.objects[piece.first], piece.kind == PieceKind::kImage, projection);
   case PieceKind::kBlock:
     return;
   }

@@ -13,6 +13,9 @@ struct Bow {
   OdGePoint3d center;
   double radius = 0, from = 0, sweep = 0;
   std::optional<OdGePoint3d> first, second; ///< none: no extension line
+
+  double to() const { return from + sweep; }
+  OdGePoint3d pointAt(double angle) const { return center + unit(angle) * radius; }
 };
 
 /// How far a text reaches from its middle along a direction, with a gap.
@@ -21,66 +24,102 @@ double reach(const OdGePoint2d& size, double gap, double turn, const OdGeVector3
          std::abs(direction.dotProduct(unit(turn + kOdaPi / 2))) * (size.y / 2 + gap);
 }
 
-/// Draws it; gives the middle of the text.
-OdGePoint3d drawBow(oddb::DimensionBlock& block, const OdDbDimension& dimension, const Bow& bow,
-                    const OdString& text, const OdGePoint3d& placed) {
+/// The text of an arc, as the style and the dimension have it.
+struct Label {
+  OdGePoint2d size;
+  double turn;
+  OdGePoint3d middle;
+  double angle; ///< at which it stands, seen from the centre
+
+  OdGeVector3d out() const { return unit(angle); }
+};
+
+/// What stands between the extension lines, and not outside.
+struct Fit {
+  bool textIsInside, arrowsAreInside;
+};
+
+Fit fitOf(const oddb::DimensionBlock& block, const Bow& bow, double textWidth, bool isPlaced) {
+  // Of two arrows, with a little of a line between them.
+  constexpr double kArrowsRoom = 2.5;
   const OdDbDimVarValues& v = block.vars();
-  const double r = bow.radius, to = bow.from + bow.sweep;
-  const OdGePoint3d ends[] = {bow.center + unit(bow.from) * r, bow.center + unit(to) * r};
-  if (bow.first) block.extensionLine(*bow.first, ends[0], true);
-  if (bow.second) block.extensionLine(*bow.second, ends[1], false);
+  const double length = bow.radius * bow.sweep, room = textWidth + 2 * block.gap();
+  const bool textFits = length >= room || v.dimtix || isPlaced;
+  const bool arrowsFit =
+      v.dimtsz > 0 || length >= (textFits ? room : 0) + kArrowsRoom * block.arrowSize();
+  return {textFits, arrowsFit};
+}
 
-  const OdGePoint2d size = block.textSize(text);
-  const double gap = std::abs(block.scaled(v.dimgap)), arrow = block.arrowSize();
-  const double length = r * bow.sweep;
+Label labelOf(const oddb::DimensionBlock& block, const OdDbDimension& dimension, const Bow& bow,
+              const Fit& fit, const OdGePoint2d& size) {
+  const OdDbDimVarValues& v = block.vars();
+  const OdGePoint3d& placed = dimension.dimensionData().textMiddle;
   const bool isPlaced = !dimension.isUsingDefaultTextPosition();
-  const bool textFits = length >= size.x + 2 * gap || v.dimtix || isPlaced;
-  const bool arrowsFit = v.dimtsz > 0 || length >= (textFits ? size.x + 2 * gap : 0) + 2.5 * arrow;
-  double middleAngle = bow.from + bow.sweep / 2;
-  if (isPlaced && placed.distanceTo(bow.center) > 0) middleAngle = directionOf(placed - bow.center);
-  const OdGeVector3d out = unit(middleAngle);
-  const bool isLevel = textFits ? v.dimtih : v.dimtoh;
-  const double turn = dimension.textRotation() != 0 ? dimension.textRotation()
-                      : isLevel                     ? 0
-                                                    : oddb::readableAngle(middleAngle - kOdaPi / 2);
-  OdGePoint3d middle = placed;
-  if (!isPlaced) {
-    middle = bow.center + out * r;
-    if (!textFits)
-      middle = middle + out * reach(size, gap, turn, out);
-    else if (v.dimtad != 0 && !isLevel)
-      middle = middle + unit(turn + kOdaPi / 2) * ((v.dimtad == 4 ? -1 : 1) * (size.y / 2 + gap));
-  }
+  double angle = bow.from + bow.sweep / 2;
+  if (isPlaced && placed.distanceTo(bow.center) > 0) angle = directionOf(placed - bow.center);
+  const bool isLevel = fit.textIsInside ? v.dimtih : v.dimtoh;
+  Label label{size, oddb::textTurn(dimension, isLevel, angle - kOdaPi / 2), placed, angle};
+  if (isPlaced) return label;
+  label.middle = bow.center + label.out() * bow.radius;
+  const double gap = block.gap();
+  if (!fit.textIsInside)
+    label.middle = label.middle + label.out() * reach(size, gap, label.turn, label.out());
+  else if (v.dimtad != 0 && !isLevel)
+    label.middle = label.middle +
+                   unit(label.turn + kOdaPi / 2) * ((v.dimtad == 4 ? -1 : 1) * (size.y / 2 + gap));
+  return label;
+}
 
+/// Draws the arrows, and what leads to them from outside. Gives the angles that the arc leaves to
+/// them at its ends.
+std::pair<double, double> drawArrows(oddb::DimensionBlock& block, const Bow& bow, bool areInside) {
+  const double r = bow.radius;
   // An arrow is a chord of the arc.
-  const double step = arrow / r;
+  const double step = block.arrowSize() / r;
   double backs[2] = {0, 0};
   for (const int end : {0, 1}) {
-    const double angle = end == 0 ? bow.from : to;
-    const double inward = (end == 0 ? step : -step) * (arrowsFit ? 1 : -1);
+    const double angle = end == 0 ? bow.from : bow.to();
+    const double inward = (end == 0 ? step : -step) * (areInside ? 1 : -1);
     const OdGeVector3d way = unit(angle + inward / 2 + (inward > 0 ? -kOdaPi / 2 : kOdaPi / 2));
-    backs[end] = block.arrow(ends[end], way, end == 0) / r;
-    if (!arrowsFit && !v.dimsoxd) block.dimensionArc(bow.center, r, angle + inward, inward);
+    backs[end] = block.arrow(bow.pointAt(angle), way, end == 0) / r;
+    if (!areInside && !block.vars().dimsoxd)
+      block.dimensionArc(bow.center, r, angle + inward, inward);
   }
-  if (!arrowsFit && !v.dimtofl) {
-    block.text(text, middle, turn);
-    return middle;
-  }
-  const double begin = bow.from + (arrowsFit ? backs[0] : 0);
-  const double end = to - (arrowsFit ? backs[1] : 0);
-  // The arc leaves room for the text that stands on it.
-  const double across = std::abs(middle.distanceTo(bow.center) - r);
-  const double half = reach(size, gap, turn, {-out.y, out.x, 0}) / r;
-  const double at = bow.from + odgeNormalAngle(middleAngle - bow.from);
-  if (size.x > 0 && across < reach(size, gap, turn, out) - 1e-9 && at - half < end &&
-      at + half > begin) {
+  return {backs[0], backs[1]};
+}
+
+/// Draws the arc between two angles. It leaves room for the text that stands on it.
+void drawArc(oddb::DimensionBlock& block, const Bow& bow, const Label& label, double begin,
+             double end) {
+  const double r = bow.radius, gap = block.gap();
+  const double across = std::abs(label.middle.distanceTo(bow.center) - r);
+  const double half = reach(label.size, gap, label.turn, {-label.out().y, label.out().x, 0}) / r;
+  const double at = bow.from + odgeNormalAngle(label.angle - bow.from);
+  const bool isOnArc =
+      label.size.x > 0 && across < reach(label.size, gap, label.turn, label.out()) - 1e-9;
+  if (isOnArc && at - half < end && at + half > begin) {
     block.dimensionArc(bow.center, r, begin, at - half - begin);
     block.dimensionArc(bow.center, r, at + half, end - at - half);
   } else {
     block.dimensionArc(bow.center, r, begin, end - begin);
   }
-  block.text(text, middle, turn);
-  return middle;
+}
+
+/// Draws it; gives the middle of the text.
+OdGePoint3d drawBow(oddb::DimensionBlock& block, const OdDbDimension& dimension, const Bow& bow,
+                    const OdString& text) {
+  if (bow.first) block.extensionLine(*bow.first, bow.pointAt(bow.from), true);
+  if (bow.second) block.extensionLine(*bow.second, bow.pointAt(bow.to()), false);
+  const OdGePoint2d size = block.textSize(text);
+  const Fit fit = fitOf(block, bow, size.x, !dimension.isUsingDefaultTextPosition());
+  const Label label = labelOf(block, dimension, bow, fit, size);
+  const auto [back1, back2] = drawArrows(block, bow, fit.arrowsAreInside);
+  if (fit.arrowsAreInside)
+    drawArc(block, bow, label, bow.from + back1, bow.to() - back2);
+  else if (block.vars().dimtofl)
+    drawArc(block, bow, label, bow.from, bow.to());
+  block.text(text, label.middle, label.turn);
+  return label.middle;
 }
 
 /// From a centre with two points and one on the arc.
@@ -136,14 +175,14 @@ bool canBeDrawn(const Bow& bow) { return bow.radius > 0 && std::isfinite(bow.rad
 /// The drawing of a dimension that is told by a vertex, a point on either side and one on its bow.
 template <class Dimension>
 bool layOutBow(oddb::DimensionBlock& block, const Dimension& dimension, const OdString& text,
-               const OdGePoint3d& textMiddle, OdGePoint3d& drawnMiddle) {
+               OdGePoint3d& drawnMiddle) {
   const OdGeMatrix3d toPlane = OdGeMatrix3d::planeToWorld(dimension.normal()).inverse();
   const OdGePoint3d points[] = {toPlane * dimension.centerPoint(),
                                 toPlane * dimension.xLine1Point(),
                                 toPlane * dimension.xLine2Point(), toPlane * dimension.arcPoint()};
   const Bow bow = bowOf(points[0], points[1], points[2], points[3]);
   if (!canBeDrawn(bow)) return false;
-  drawnMiddle = drawBow(block, dimension, bow, text, textMiddle);
+  drawnMiddle = drawBow(block, dimension, bow, text);
   for (const OdGePoint3d& p : points) block.definitionPoint(p);
   return true;
 }
@@ -156,18 +195,18 @@ bool OdDb2LineAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn)
                                 toPlane * xLine2Start(), toPlane * xLine2End()};
   const auto bow = bowOfLines(points[0], points[1], points[2], points[3], m_dimension.arcPoint);
   if (!bow || !canBeDrawn(*bow)) return false;
-  drawn.textMiddle = drawBow(block, *this, *bow, displayedText(), m_dimension.textMiddle);
+  drawn.textMiddle = drawBow(block, *this, *bow, displayedText());
   for (const OdGePoint3d& p : points) block.definitionPoint(p);
   block.definitionPoint(m_dimension.arcPoint);
   return true;
 }
 
 bool OdDb3PointAngularDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
-  return layOutBow(block, *this, displayedText(), m_dimension.textMiddle, drawn.textMiddle);
+  return layOutBow(block, *this, displayedText(), drawn.textMiddle);
 }
 
 bool OdDbArcDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
-  return layOutBow(block, *this, displayedText(), m_dimension.textMiddle, drawn.textMiddle);
+  return layOutBow(block, *this, displayedText(), drawn.textMiddle);
 }
 
 bool OdDbOrdinateDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const {
@@ -194,8 +233,7 @@ bool OdDbOrdinateDimension::layOut(oddb::DimensionBlock& block, Data& drawn) con
   const OdGePoint2d size = block.textSize(text);
   const double turn = textRotation() != 0 ? textRotation() : oddb::readableAngle(directionOf(way));
   if (isUsingDefaultTextPosition())
-    drawn.textMiddle =
-        end + way * reach(size, std::abs(block.scaled(block.vars().dimgap)), turn, way);
+    drawn.textMiddle = end + way * reach(size, block.gap(), turn, way);
   block.text(text, drawn.textMiddle, turn);
   for (const OdGePoint3d& p : {toPlane * origin(), start, end}) block.definitionPoint(p);
   return true;

@@ -34,6 +34,11 @@ double oddb::readableAngle(double angle) {
              : angle;
 }
 
+double oddb::textTurn(const OdDbDimension& dimension, bool isLevel, double lineAngle) {
+  if (dimension.textRotation() != 0) return dimension.textRotation();
+  return isLevel ? 0 : readableAngle(lineAngle);
+}
+
 oddb::DimensionBlock::DimensionBlock(const OdDbDimension& dimension)
   : m_dimension(dimension)
   , m_database(*dimension.database())
@@ -106,9 +111,8 @@ void oddb::DimensionBlock::dimensionLine(const OdGePoint3d& from, const OdGePoin
   const double length = way.length();
   if (!(length > 0)) return;
   const OdGeVector3d d = way * (1 / length);
-  const double gap = std::abs(scaled(m_vars.dimgap));
-  const double halfWidth = size.x / 2 + gap;
-  const double halfHeight = size.y / 2 + gap;
+  const double halfWidth = size.x / 2 + gap();
+  const double halfHeight = size.y / 2 + gap();
   // A text that stands just its gap above the line leaves it whole, be the last digits as they may.
   constexpr double kTouching = 1 - 1e-6;
   // The line in the coordinates of the text's box.
@@ -198,11 +202,10 @@ void oddb::DimensionBlock::text(const OdString& text, const OdGePoint3d& middle,
   if (!(m_vars.dimgap < 0)) return;
   // A gap below 0 asks for a frame.
   const OdGePoint2d size = textSize(text);
-  const double gap = std::abs(scaled(m_vars.dimgap));
   const OdGeMatrix3d place = OdGeMatrix3d::translation(middle.asVector()) *
                              OdGeMatrix3d::rotation(angle, OdGeVector3d::zAxis());
-  const double x = size.x / 2 + gap;
-  const double y = size.y / 2 + gap;
+  const double x = size.x / 2 + gap();
+  const double y = size.y / 2 + gap();
   const OdGePoint3d corners[] = {{-x, -y, 0}, {x, -y, 0}, {x, y, 0}, {-x, y, 0}};
   for (std::size_t i = 0; i < 4; ++i)
     line(place * corners[i], place * corners[(i + 1) % 4], lineLook());

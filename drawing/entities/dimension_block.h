@@ -8,6 +8,9 @@ namespace oddb {
 
 /// An angle at which a text can be read from below or from the right.
 double readableAngle(double angle);
+/// How the text of a dimension is turned: as the dimension itself says, or else level or along a
+/// line.
+double textTurn(const OdDbDimension& dimension, bool isLevel, double lineAngle);
 
 /// Collects the pieces of a dimension in its plane and puts them into its block. Lengths are
 /// drawing units, with the style's overall scale already in them.
@@ -19,6 +22,8 @@ class DimensionBlock {
   /// A length of the style in drawing units.
   double scaled(double length) const { return length * m_scale; }
   double arrowSize() const { return scaled(m_vars.dimasz); }
+  /// The room around a text.
+  double gap() const { return std::abs(scaled(m_vars.dimgap)); }
   double textHeight() const;
   OdDbObjectId textStyle() const;
   /// The size of the text as it would be laid out.

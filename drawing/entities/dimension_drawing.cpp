@@ -5,87 +5,9 @@
 
 namespace {
 
-using oddb::readableAngle;
-
 OdGeVector3d unit(double angle) { return {std::cos(angle), std::sin(angle), 0}; }
 
 OdGePoint3d between(const OdGePoint3d& a, const OdGePoint3d& b) { return a + (b - a) * 0.5; }
-
-/// What a radius and a diameter have in common.
-struct Round {
-  OdGePoint3d center, tip;
-  double radius = 0;
-  bool isDiameter = false;
-};
-
-/// Draws it; gives the middle of the text.
-OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimension,
-                      const Round& round, const OdString& text, const OdGePoint3d& placed) {
-  const OdDbDimVarValues& v = block.vars();
-  const OdGePoint2d size = block.textSize(text);
-  const OdGeVector3d out = (round.tip - round.center).normal();
-  const double arrow = block.arrowSize();
-  const double gap = std::abs(block.scaled(v.dimgap));
-  const double room = (round.isDiameter ? 2 : 1) * round.radius;
-  const bool isPlaced = !dimension.isUsingDefaultTextPosition();
-  bool inside = room > size.x + 2 * gap + (round.isDiameter ? 2 : 1) * arrow * 1.5;
-  // A leader says that the text was put outside, be there room inside or not.
-  if (isPlaced)
-    inside = placed.distanceTo(round.center) < round.radius;
-  else if (dimension.dimensionData().leaderLength > 0)
-    inside = false;
-  // The text stands level outside, and along the line inside unless the style says otherwise.
-  const bool isLevel = inside ? v.dimtih : true;
-  const double lineAngle = std::atan2(out.y, out.x);
-  const double turn = dimension.textRotation() != 0 ? dimension.textRotation()
-                      : isLevel                     ? 0
-                                                    : readableAngle(lineAngle);
-  const OdGePoint3d far = round.center - out * round.radius;
-  OdGePoint3d middle = placed;
-  if (inside) {
-    const OdGePoint3d from = round.isDiameter ? far : round.center;
-    const bool isAbove = v.dimtad != 0 && !isLevel;
-    if (!isPlaced) {
-      middle = between(from, round.tip);
-      if (isAbove) middle = middle + unit(turn + kOdaPi / 2) * (size.y / 2 + gap);
-    }
-    const double back = block.arrow(round.tip, out, true);
-    const double front = round.isDiameter ? block.arrow(far, -out, false) : 0;
-    block.dimensionLine(from + out * front, round.tip - out * back, middle, size, turn);
-  } else {
-    const double side = out.x < -1e-9 ? -1 : 1;
-    const OdGeVector3d level{side, 0, 0};
-    const double leader = dimension.dimensionData().leaderLength > 0
-                              ? dimension.dimensionData().leaderLength
-                              : 2 * arrow;
-    OdGePoint3d knee = round.tip + out * std::max(leader, arrow);
-    if (isPlaced) {
-      const double toText = placed.x < round.tip.x ? -1 : 1;
-      knee = placed - OdGeVector3d{toText, 0, 0} * (size.x / 2 + gap + arrow);
-      block.dimensionLine(knee, knee + OdGeVector3d{toText, 0, 0} * arrow);
-    } else {
-      block.dimensionLine(knee, knee + level * arrow);
-      middle = knee + level * (arrow + gap + size.x / 2);
-    }
-    const OdGeVector3d towards = (round.tip - knee).normal();
-    const double back = block.arrow(round.tip, towards, true);
-    block.dimensionLine(knee, round.tip - towards * back);
-    if (v.dimtofl) {
-      const OdGePoint3d from = round.isDiameter ? far : round.center;
-      const double front = round.isDiameter ? block.arrow(far, -out, false) : 0;
-      block.dimensionLine(from + out * front, round.tip);
-    }
-    block.centerMark(round.center, round.radius);
-  }
-  block.text(text, middle, turn);
-  return middle;
-}
-
-/// A dimension line that is straight, in the dimension's plane.
-struct Straight {
-  OdGePoint3d from, to;
-  OdGeVector3d along; ///< of length 1
-};
 
 /// A text beside or in a dimension line.
 struct Label {
@@ -94,9 +16,121 @@ struct Label {
   OdGePoint3d middle = {};
 };
 
-double gapOf(const oddb::DimensionBlock& block) {
-  return std::abs(block.scaled(block.vars().dimgap));
+/// What a radius and a diameter have in common.
+struct Round {
+  OdGePoint3d center, tip;
+  double radius = 0;
+  bool isDiameter = false;
+
+  OdGeVector3d out() const { return (tip - center).normal(); }
+  OdGePoint3d far() const { return center - out() * radius; }
+  /// Where a line through the circle to the tip begins.
+  OdGePoint3d beginning() const { return isDiameter ? far() : center; }
+  int arrows() const { return isDiameter ? 2 : 1; }
+};
+
+/// True if the text stands within the circle.
+bool isTextWithin(const oddb::DimensionBlock& block, const OdDbDimension& dimension,
+                  const Round& round, double textWidth) {
+  // Of an arrow, with a little of a line behind it.
+  constexpr double kArrowRoom = 1.5;
+  const OdDbDimension::Data& data = dimension.dimensionData();
+  if (!dimension.isUsingDefaultTextPosition())
+    return data.textMiddle.distanceTo(round.center) < round.radius;
+  // A leader says that the text was put outside, be there room inside or not.
+  if (data.leaderLength > 0) return false;
+  return round.arrows() * round.radius >
+         textWidth + 2 * block.gap() + round.arrows() * block.arrowSize() * kArrowRoom;
 }
+
+/// Where a text within the circle stands that nobody placed: in the line or above it.
+OdGePoint3d middleWithin(const oddb::DimensionBlock& block, const Round& round, const Label& label,
+                         bool isAbove) {
+  const OdGePoint3d middle = between(round.beginning(), round.tip);
+  if (!isAbove) return middle;
+  return middle + unit(label.turn + kOdaPi / 2) * (label.size.y / 2 + block.gap());
+}
+
+/// The arrow across the circle, if it is a diameter's; gives how far lines stay away from it.
+double farArrow(oddb::DimensionBlock& block, const Round& round) {
+  return round.isDiameter ? block.arrow(round.far(), -round.out(), false) : 0;
+}
+
+/// Draws the line within the circle, with the text in it.
+void drawWithin(oddb::DimensionBlock& block, const Round& round, const Label& label) {
+  const OdGeVector3d out = round.out();
+  const double back = block.arrow(round.tip, out, true);
+  const double front = farArrow(block, round);
+  block.dimensionLine(round.beginning() + out * front, round.tip - out * back, label.middle,
+                      label.size, label.turn);
+}
+
+/// The level end of a leader, before the text.
+struct Landing {
+  OdGePoint3d knee;
+  OdGeVector3d towardsText; ///< of length 1
+};
+
+/// Before a text that was placed.
+Landing landingBefore(const oddb::DimensionBlock& block, const Round& round, const Label& label) {
+  const OdGeVector3d way{label.middle.x < round.tip.x ? -1.0 : 1.0, 0, 0};
+  return {label.middle - way * (label.size.x / 2 + block.gap() + block.arrowSize()), way};
+}
+
+/// Where the leader comes to by itself.
+Landing usualLanding(const oddb::DimensionBlock& block, const OdDbDimension& dimension,
+                     const Round& round) {
+  const OdGeVector3d out = round.out();
+  const double arrow = block.arrowSize(), told = dimension.dimensionData().leaderLength;
+  const double leader = told > 0 ? told : 2 * arrow;
+  return {round.tip + out * std::max(leader, arrow), {out.x < -1e-9 ? -1.0 : 1.0, 0, 0}};
+}
+
+/// Draws the leader from outside to the tip, and the centre that it points to.
+void drawOutside(oddb::DimensionBlock& block, const Round& round, const Landing& landing) {
+  block.dimensionLine(landing.knee, landing.knee + landing.towardsText * block.arrowSize());
+  const OdGeVector3d towards = (round.tip - landing.knee).normal();
+  const double back = block.arrow(round.tip, towards, true);
+  block.dimensionLine(landing.knee, round.tip - towards * back);
+  if (block.vars().dimtofl) {
+    const double front = farArrow(block, round);
+    block.dimensionLine(round.beginning() + round.out() * front, round.tip);
+  }
+  block.centerMark(round.center, round.radius);
+}
+
+/// Draws it; gives the middle of the text.
+OdGePoint3d drawRound(oddb::DimensionBlock& block, const OdDbDimension& dimension,
+                      const Round& round, const OdString& text) {
+  const OdDbDimVarValues& v = block.vars();
+  const bool isPlaced = !dimension.isUsingDefaultTextPosition();
+  Label label{block.textSize(text)};
+  const bool isWithin = isTextWithin(block, dimension, round, label.size.x);
+  // The text stands level outside, and along the line inside unless the style says otherwise.
+  const bool isLevel = isWithin ? v.dimtih : true;
+  const OdGeVector3d out = round.out();
+  label.turn = oddb::textTurn(dimension, isLevel, std::atan2(out.y, out.x));
+  label.middle = dimension.dimensionData().textMiddle;
+  if (isWithin) {
+    if (!isPlaced) label.middle = middleWithin(block, round, label, v.dimtad != 0 && !isLevel);
+    drawWithin(block, round, label);
+  } else {
+    const Landing landing =
+        isPlaced ? landingBefore(block, round, label) : usualLanding(block, dimension, round);
+    if (!isPlaced)
+      label.middle =
+          landing.knee + landing.towardsText * (block.arrowSize() + block.gap() + label.size.x / 2);
+    drawOutside(block, round, landing);
+  }
+  block.text(text, label.middle, label.turn);
+  return label.middle;
+}
+
+/// A dimension line that is straight, in the dimension's plane.
+struct Straight {
+  OdGePoint3d from, to;
+  OdGeVector3d along; ///< of length 1
+};
 
 /// The length of an arrow, or of the tick in its place.
 double arrowOf(const oddb::DimensionBlock& block) {
@@ -114,7 +148,7 @@ Fit fitBetween(const oddb::DimensionBlock& block, double length, double textWidt
   // Of two arrows, with a little of a line between them.
   constexpr double kArrowsRoom = 2.5;
   const OdDbDimVarValues& v = block.vars();
-  const double gap = gapOf(block), arrow = arrowOf(block);
+  const double gap = block.gap(), arrow = arrowOf(block);
   const bool isTick = v.dimtsz > 0;
   const bool textFits = length >= textWidth + 2 * gap || v.dimtix;
   const bool arrowsFit = length >= kArrowsRoom * arrow || isTick;
@@ -133,7 +167,7 @@ Fit fitBetween(const oddb::DimensionBlock& block, double length, double textWidt
 OdGePoint3d usualMiddle(const oddb::DimensionBlock& block, const Straight& line, const Fit& fit,
                         const Label& label, bool isLevel) {
   const OdDbDimVarValues& v = block.vars();
-  const double gap = gapOf(block), arrow = arrowOf(block);
+  const double gap = block.gap(), arrow = arrowOf(block);
   const double half = label.size.x / 2 + gap;
   OdGePoint3d middle = between(line.from, line.to);
   if (!fit.textIsInside)
@@ -199,9 +233,7 @@ bool OdDbAlignedDimension::layOut(oddb::DimensionBlock& block, Data& drawn) cons
   Label label{block.textSize(text)};
   const Fit fit = fitBetween(block, length, label.size.x);
   const bool isLevel = fit.textIsInside ? v.dimtih : v.dimtoh;
-  label.turn = textRotation() != 0 ? textRotation()
-               : isLevel           ? 0
-                                   : readableAngle(std::atan2(line.along.y, line.along.x));
+  label.turn = oddb::textTurn(*this, isLevel, std::atan2(line.along.y, line.along.x));
   label.middle = isUsingDefaultTextPosition() ? usualMiddle(block, line, fit, label, isLevel)
                                               : m_dimension.textMiddle;
   drawLine(block, line, fit, label);
@@ -218,7 +250,7 @@ bool OdDbRadialDimension::layOut(oddb::DimensionBlock& block, Data& drawn) const
   const Round round{toPlane * center(), toPlane * chordPoint(), getMeasurement(), false};
   const OdString text = oddb::dimensionText(dimensionText(), getMeasurement(), false, block.vars(),
                                             QStringLiteral("R"));
-  drawn.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
+  drawn.textMiddle = drawRound(block, *this, round, text);
   for (const OdGePoint3d& p : {round.center, round.tip}) block.definitionPoint(p);
   return true;
 }
@@ -230,7 +262,7 @@ bool OdDbDiametricDimension::layOut(oddb::DimensionBlock& block, Data& drawn) co
   const Round round{between(tip, far), tip, getMeasurement() / 2, true};
   const OdString text = oddb::dimensionText(dimensionText(), getMeasurement(), false, block.vars(),
                                             QStringLiteral("%%c"));
-  drawn.textMiddle = drawRound(block, *this, round, text, m_dimension.textMiddle);
+  drawn.textMiddle = drawRound(block, *this, round, text);
   for (const OdGePoint3d& p : {tip, far}) block.definitionPoint(p);
   return true;
 }

@@ -48,32 +48,29 @@ class LineChain {
   std::vector<OdDbObjectId> m_lines;
 };
 
+/// Asks where to begin; Enter goes on from what was drawn last.
+Task<DrawnEnd> askStart(CommandContext& context) {
+  for (;;) {
+    const Answer<OdGePoint3d> first =
+        co_await context.input().point({.text = u"Specify first point", .allowEmpty = true});
+    if (first.isValue()) co_return DrawnEnd{.point = first.value};
+    if (const auto last = lastDrawnEnd(context.database(), context.lastPoint())) co_return *last;
+    context.print(translated(u"There is no line or arc to continue."));
+  }
+}
+
 } // namespace
 
 Task<void> line(CommandContext& context) {
   CommandInput& input = context.input();
-  OdGePoint3d start;
-  std::optional<DrawnEnd> continued;
-  for (;;) {
-    const Answer<OdGePoint3d> first =
-        co_await input.point({.text = u"Specify first point", .allowEmpty = true});
-    start = first.value;
-    if (first.isValue()) break;
-    continued = lastDrawnEnd(context.database(), context.lastPoint());
-    if (continued) {
-      start = continued->point;
-      break;
-    }
-    context.print(translated(u"There is no line or arc to continue."));
-  }
-
-  LineChain chain(context, start);
-  context.setLastPoint(start);
-  if (continued && continued->isCurved) {
+  const DrawnEnd begin = co_await askStart(context);
+  LineChain chain(context, begin.point);
+  context.setLastPoint(begin.point);
+  if (begin.isCurved) {
     // A line that goes on from an arc keeps its direction, only the length is free.
     const Answer<double> length = co_await input.distance(
-        {.text = u"Length of line", .base = start, .range = NumberRange::kNotZero});
-    chain.lineTo(pointAlong(start, continued->direction, length.value));
+        {.text = u"Length of line", .base = begin.point, .range = NumberRange::kNotZero});
+    chain.lineTo(pointAlong(begin.point, begin.direction, length.value));
   }
   const auto nextLine = [&](const OdGePoint3d& to) {
     return lineShape(context.database(), chain.end(), to);
