@@ -24,6 +24,7 @@ constexpr ArgumentRow kRows[] = {
     {"batch", Wish::kRun, ""},
     {"batch|a.dxf", Wish::kRun, ""},
     {"batch|--|--odd.dxf", Wish::kRun, ""},
+    {"batch|-", Wish::kRun, ""},
     {"batch|--keep-going|--script|a.scr", Wish::kRun, ""},
     {"batch|--keep-going=yes", Wish::kWrong, "unknown option --keep-going"},
     {"open", Wish::kWrong, "'open' is not known"},

@@ -2,6 +2,7 @@
 
 #include "drafton/previews/preview_service.h"
 #include "drawing/database.h"
+#include "drawing/dxf/binary_source.h"
 #include "drawing/entities/text.h"
 #include "frame/file_path.h"
 
@@ -131,11 +132,16 @@ TEST_F(StoredPreviews, AreFoundBehindManyTextsAndLinesWithoutEnd) {
 TEST_F(StoredPreviews, AreFoundAcrossThePiecesThatTheSearchReads) {
   drawingWith(bitmapOf(picture()))->writeFile(path());
   const QByteArray bytes = read();
-  const qsizetype at = bytes.indexOf("THUMBNAILIMAGE");
-  QByteArray comment;
-  while (comment.size() < (1 << 20) - at - 7 - 6) comment += "999\nx\n";
-  write(comment + bytes);
-  EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20));
+  const qsizetype name = sizeof("THUMBNAILIMAGE") - 1, at = bytes.indexOf("THUMBNAILIMAGE");
+  // The first piece ends a million bytes behind the mark of binary files, which is looked for
+  // first.
+  constexpr qsizetype kEnd = (1 << 20) + OdDbDxfBinarySource::kMark.size();
+  for (const qsizetype before : {qsizetype{1}, name / 2, name - 1}) {
+    const QByteArray line("999\n"), filler(kEnd - before - at - line.size() - 1, 'x');
+    write(line + filler + '\n' + bytes);
+    ASSERT_EQ(read().indexOf("THUMBNAILIMAGE"), kEnd - before);
+    EXPECT_EQ(readStoredPreview(path()).size(), QSize(40, 20)) << before;
+  }
 }
 
 TEST_F(StoredPreviews, OfSixteenColorsAndWithAlphaAreReadToo) {

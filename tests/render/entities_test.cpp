@@ -12,6 +12,8 @@
 #include "drawing/entities/spline.h"
 #include "render/picture_fixture.h"
 
+#include <algorithm>
+
 namespace render_test {
 namespace {
 
@@ -138,6 +140,57 @@ TEST_F(EntityPictures, PointsInEveryMode) {
     }
   }
   EXPECT_TRUE(looksLike(sheet, "point"));
+}
+
+/// The columns of pixels in which something is drawn, from the first to the last.
+int inkWidth(const QImage& image) {
+  const QRgb ground = image.pixel(0, 0);
+  int first = image.width(), last = -1;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) == ground) continue;
+      first = std::min(first, x);
+      last = std::max(last, x);
+    }
+  return last - first + 1;
+}
+
+TEST_F(EntityPictures, PointsWithoutASizeArePartsOfThePicture) {
+  constexpr std::int64_t kCircleAlone = 33;
+  database().setSysVar(QStringLiteral("PDMODE"), kCircleAlone);
+  add(odrxMake<OdDbPoint>(OdGePoint3d{0, 0, 0}));
+  struct Row {
+    double size;
+    int pixels; ///< of 240
+  };
+  // Below 0 it is a percentage; 0 stands for a twentieth.
+  for (const Row& row : {Row{0, 12}, Row{-5, 12}, Row{-20, 48}, Row{-50, 120}}) {
+    database().setSysVar(QStringLiteral("PDSIZE"), row.size);
+    EXPECT_NEAR(inkWidth(picture(-2, -2, 2, 2)), row.pixels, 2) << row.size;
+  }
+}
+
+TEST_F(EntityPictures, LargeCirclesShowTheEdgeOfTheirLineWhereTheirMiddleIsOutside) {
+  // The circle itself passes three pixels below the picture.
+  const auto circle =
+      odrxMake<OdDbCircle>(OdGePoint3d{160, -1e6 - 3, 0}, OdGeVector3d::zAxis(), 1e6);
+  circle->setLineWeight(OdDb::kLnWt211);
+  add(circle);
+  RenderOptions options;
+  options.pixelsPerMillimetre = 6;
+  const QImage image = picture(0, 0, 320, 240, {320, 240}, options);
+  EXPECT_NE(image.pixel(160, 238), image.pixel(160, 0));
+  EXPECT_EQ(image.pixel(160, 230), image.pixel(160, 0));
+}
+
+TEST_F(EntityPictures, AreasThinnerThanAPixelAreLines) {
+  add(odrxMake<OdDbSolid>(OdGePoint3d{-100, 0, 0}, OdGePoint3d{100, 0, 0},
+                          OdGePoint3d{-100, 0.02, 0}, OdGePoint3d{100, 0.02, 0},
+                          OdGeVector3d::zAxis()));
+  const QImage image = picture(-110, -80, 110, 80);
+  int darkest = 255;
+  for (int y = 110; y < 130; ++y) darkest = std::min(darkest, qGray(image.pixel(160, y)));
+  EXPECT_LT(darkest, 140);
 }
 
 TEST_F(EntityPictures, SolidsAndOldPolylines) {

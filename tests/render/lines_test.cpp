@@ -86,9 +86,9 @@ TEST(ThinLines, AClippedLineIsTheSameWhereItIsSeen) {
   EXPECT_FALSE(clipLine(QRectF(0, 0, 10, 10), {-5, 4}, {4, -6}, enters, leaves));
 }
 
-/// The drawn parts of a line along x, as runs of dark pixels.
-std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double length,
-                                          double away = 0) {
+/// The drawn parts of a path along x, as runs of dark pixels.
+std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern,
+                                          std::span<const OdGePoint3d> points) {
   QImage image = white(200, 5);
   {
     QPainter painter(&image);
@@ -96,7 +96,6 @@ std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double len
     surface.setPen(qRgb(0, 0, 0), 1);
     const Projection projection({1, 0, 0, 0}, {0, -1, 0, 2.5});
     DashWalker walker(surface, projection, pattern, 1, 10, {});
-    const OdGePoint3d points[] = {{0, 0, 0}, {length / 3, 0, away / 3}, {length, 0, away}};
     walker.draw(points, false);
   }
   std::vector<std::pair<int, int>> runs;
@@ -108,6 +107,12 @@ std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double len
       runs.emplace_back(x, x + 1);
   }
   return runs;
+}
+
+std::vector<std::pair<int, int>> dashesOf(const DashPattern& pattern, double length,
+                                          double away = 0) {
+  const OdGePoint3d points[] = {{0, 0, 0}, {length / 3, 0, away / 3}, {length, 0, away}};
+  return dashesOf(pattern, points);
 }
 
 TEST(DashWalker, BothEndsOfALineShowTheFirstDash) {
@@ -127,6 +132,15 @@ TEST(DashWalker, ALineThatRunsAwayFromWhoLooksIsContinuous) {
   for (const double away : {1e4, 1e9, 1e17, 1e300})
     EXPECT_EQ(dashesOf(pattern, 60, away), (std::vector<std::pair<int, int>>{{0, 60}})) << away;
   EXPECT_EQ(dashesOf(pattern, 60, 20).size(), 5U);
+}
+
+TEST(DashWalker, GoesOnInThePatternBehindWhatIsTooFine) {
+  const DashPattern pattern({{10, -1}, {-5, -1}});
+  // The first part is 2001 patterns and half a dash long, and seen from its end.
+  const double away = std::sqrt(30020.0 * 30020 - 20 * 20);
+  const OdGePoint3d points[] = {{0, 0, 0}, {20, 0, away}, {85, 0, away}};
+  EXPECT_EQ(dashesOf(pattern, points),
+            (std::vector<std::pair<int, int>>{{0, 25}, {30, 40}, {45, 55}, {60, 70}, {75, 85}}));
 }
 
 TEST(DashWalker, ALineWithoutAnEndIsDrawn) {

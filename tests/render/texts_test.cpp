@@ -94,6 +94,36 @@ TEST_F(TextPictures, OfSeveralLinesFastenedAtAllTheirPoints) {
   EXPECT_TRUE(looksLike(picture(0, 0, 270, 210, {480, 373}), "mtext_attachments"));
 }
 
+TEST_F(TextPictures, CodesOfNoColourMeanThatOfTheText) {
+  const auto shown = [&](const char16_t* contents) {
+    const OdDbMTextPtr text = addMText(OdString::fromUtf16(contents), 5, 40);
+    text->setColor(OdCmColor::fromColorIndex(1));
+    const QImage image = picture(0, 0, 100, 75);
+    text->erase();
+    return image;
+  };
+  const QImage red = shown(u"Words");
+  EXPECT_EQ(shown(u"\\C0;Words"), red);
+  EXPECT_EQ(shown(u"\\C256;Words"), red);
+  EXPECT_NE(shown(u"\\C5;Words"), red);
+}
+
+TEST_F(TextPictures, VerticalOnesAreSeenWhereOnlyTheirEndIs) {
+  const auto style = odrxMake<OdDbTextStyleTableRecord>();
+  style->setName(QStringLiteral("Column"));
+  style->setFileName(QStringLiteral("txt.shx"));
+  style->setIsVertical(true);
+  const OdDbObjectId id =
+      database().getTextStyleTableId().openAs<OdDbTextStyleTable>(OdDb::kForWrite)->add(style);
+  addText(OdString(20, u'H'), 0, 0, 10)->setTextStyle(id);
+  const QImage image = picture(-20, -220, 20, -190, {320, 240});
+  const QRgb ground = image.pixel(0, 0);
+  bool isDrawn = false;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) isDrawn |= image.pixel(x, y) != ground;
+  EXPECT_TRUE(isDrawn);
+}
+
 TEST_F(TextPictures, OnAreasOfAColourOrOfTheGround) {
   for (int i = 0; i < 12; ++i)
     add(odrxMake<OdDbLine>(OdGePoint3d{0, i * 8.0, 0}, OdGePoint3d{200, i * 8.0 + 10, 0}));

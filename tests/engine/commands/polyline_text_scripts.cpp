@@ -19,6 +19,8 @@ constexpr Script kPolylines[] = {
     {"Halfwidth", u"PLINE|0,0|h|1|2|10,0|", u"PLINE: 0,0 w2-4 / 10,0 w4-4"},
     {"WidthIsKept", u"PLINE|0,5|10,5|", u"PLINE: 0,0 w1-2 / 10,0 w2-2;PLINE: 0,5 w2-2 / 10,5 w2-2",
      u"PLINE|0,0|w|1|2|10,0|"},
+    {"HalfwidthIsKeptWhole", u"PLINE|0,5|10,5|",
+     u"PLINE: 0,0 w2-4 / 10,0 w4-4;PLINE: 0,5 w4-4 / 10,5 w4-4", u"PLINE|0,0|h|1|2|10,0|"},
     {"UndoTakesTheWidthBack", u"PLINE|0,0|w|1|2|10,0|u|10,0|", u"PLINE: 0,0 w1-2 / 10,0 w2-2"},
     {"ArcGoesOnInItsDirection", u"PLINE|0,0|10,0|a|10,10|", u"PLINE: 0,0 / 10,0 b1 / 10,10"},
     {"ArcFirstGoesAlongX", u"PLINE|0,0|a|0,10|", u"PLINE: 0,0 b1 / 0,10"},
