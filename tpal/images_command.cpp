@@ -11,6 +11,7 @@
 #include "tools/tool_source.h"
 #include "tpal/command.h"
 #include "tpal/console_host.h"
+#include "tpal/tool_place.h"
 #include "tpal/writable_catalog.h"
 
 #include <QDir>
@@ -39,7 +40,8 @@ std::int32_t codeOf(const Size& size) { return static_cast<std::int32_t>(size.ki
 
 /// A tool that lacks pictures, or was given some.
 struct Row {
-  OdString palette, file, tool, id, kind;
+  ToolPlace place;
+  OdString kind;
   std::vector<int> missing, made; ///< pixels
   OdString reason;                ///< why pictures are still missing
 };
@@ -240,8 +242,7 @@ class ImagesRun {
     const std::vector<Size> wanted =
         m_arguments.rebuild ? std::vector<Size>(kSizes.begin(), kSizes.end()) : missing;
     if (wanted.empty()) return false;
-    Row row{palette.name(),       palette.getPath(), tool.name(), tool.id(),
-            summarize(tool).kind, pixelsOf(missing), {},          {}};
+    Row row{{palette, tool}, summarize(tool).kind, pixelsOf(missing), {}, {}};
     const bool hasChanged = makes() && m_maker.make(tool, wanted, palette.getPath(), m_use);
     if (makes()) {
       row.missing = pixelsOf(missingSizes(tool));
@@ -262,7 +263,7 @@ class ImagesRun {
       return;
     }
     for (const Row& row : m_rows) {
-      m_console.out << row.palette << ": " << row.tool << " (" << row.kind << ")";
+      m_console.out << row.place.palette << ": " << row.place.tool << " (" << row.kind << ")";
       if (!row.made.empty()) m_console.out << ": made " << words(row.made);
       if (!row.missing.empty()) m_console.out << ": lacks " << words(row.missing);
       if (!row.reason.isEmpty()) m_console.out << ": " << row.reason;
@@ -281,15 +282,14 @@ class ImagesRun {
   }
   QJsonArray asJson() const {
     QJsonArray rows;
-    for (const Row& row : m_rows)
-      rows.append(QJsonObject{{QStringLiteral("palette"), row.palette},
-                              {QStringLiteral("file"), odpath::toPlatform(row.file)},
-                              {QStringLiteral("tool"), row.tool},
-                              {QStringLiteral("id"), row.id},
-                              {QStringLiteral("kind"), row.kind},
-                              {QStringLiteral("missing"), numbers(row.missing)},
-                              {QStringLiteral("made"), numbers(row.made)},
-                              {QStringLiteral("reason"), row.reason}});
+    for (const Row& row : m_rows) {
+      QJsonObject object = row.place.asJson();
+      object.insert(QStringLiteral("kind"), row.kind);
+      object.insert(QStringLiteral("missing"), numbers(row.missing));
+      object.insert(QStringLiteral("made"), numbers(row.made));
+      object.insert(QStringLiteral("reason"), row.reason);
+      rows.append(object);
+    }
     return rows;
   }
 

@@ -6,6 +6,7 @@
 #include "tools/action_agent.h"
 #include "tools/tool_source.h"
 #include "tpal/command.h"
+#include "tpal/tool_place.h"
 #include "tpal/writable_catalog.h"
 
 #include <QJsonArray>
@@ -20,7 +21,8 @@ namespace {
 
 /// A tool that looks for its source elsewhere from now on.
 struct Row {
-  OdString palette, file, tool, id, from, to;
+  ToolPlace place;
+  OdString from, to;
   bool isThere;
 };
 
@@ -61,7 +63,7 @@ class Relocation {
     m_console.err << "tpal: " << odpath::toPlatform(palette.getPath())
                   << ": not written: " << problem << "\n";
     m_hasFailed = true;
-    m_rows.resize(first);
+    m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(first), m_rows.end());
   }
 
   void relocate(const tc::OdTcToolPalette& palette, tc::OdTcTool& tool) {
@@ -73,8 +75,7 @@ class Relocation {
     if (!moved || *moved == source) return;
     agent->setSourcePath(*moved);
     tool.setModified();
-    m_rows.push_back({palette.name(), palette.getPath(), tool.name(), tool.id(), source, *moved,
-                      isThere(*agent, *moved)});
+    m_rows.push_back({{palette, tool}, source, *moved, isThere(*agent, *moved)});
   }
 
   /// A folder that was mistyped would go unnoticed.
@@ -92,8 +93,8 @@ class Relocation {
       return;
     }
     for (const Row& row : m_rows)
-      m_console.out << row.palette << ": " << row.tool << ": " << row.from << " -> " << row.to
-                    << (row.isThere ? "" : ": there is no such file") << "\n";
+      m_console.out << row.place.palette << ": " << row.place.tool << ": " << row.from << " -> "
+                    << row.to << (row.isThere ? "" : ": there is no such file") << "\n";
     const auto missing = std::ranges::count(m_rows, false, &Row::isThere);
     m_console.out << "Tools that " << (m_arguments.dryRun ? "would look" : "look")
                   << " elsewhere: " << m_rows.size() << "; without a file there: " << missing
@@ -101,14 +102,13 @@ class Relocation {
   }
   QJsonArray asJson() const {
     QJsonArray rows;
-    for (const Row& row : m_rows)
-      rows.append(QJsonObject{{QStringLiteral("palette"), row.palette},
-                              {QStringLiteral("file"), odpath::toPlatform(row.file)},
-                              {QStringLiteral("tool"), row.tool},
-                              {QStringLiteral("id"), row.id},
-                              {QStringLiteral("from"), row.from},
-                              {QStringLiteral("to"), row.to},
-                              {QStringLiteral("found"), row.isThere}});
+    for (const Row& row : m_rows) {
+      QJsonObject object = row.place.asJson();
+      object.insert(QStringLiteral("from"), row.from);
+      object.insert(QStringLiteral("to"), row.to);
+      object.insert(QStringLiteral("found"), row.isThere);
+      rows.append(object);
+    }
     return rows;
   }
 

@@ -60,7 +60,7 @@ OdString chooseCatalogs(Desktop& desktop, const DesktopOptions& options) {
 }
 
 /// Opens the drawings that were named, or the first one, or else a new one.
-void openDrawings(MainWindow& window, const Desktop& desktop, QStringList drawings,
+void openDrawings(MainWindow& window, Desktop& desktop, QStringList drawings,
                   const OdString& firstDrawing) {
   if (drawings.isEmpty() && !firstDrawing.isEmpty()) drawings << firstDrawing;
   for (const OdString& drawing : drawings) window.files().openFile(drawing);

@@ -17,12 +17,6 @@ void CompletionRegistry::registerSource(const OdString& name, HostEdCompletion::
   }
 }
 
-QStringList CompletionRegistry::sourceNames() const {
-  QStringList names;
-  for (const Source& s : m_sources) names << s.name;
-  return names;
-}
-
 void CompletionRegistry::ask(const HostEdCompletion::Callback& callback) const {
   for (const Source& s : m_sources)
     s.provider([&](std::shared_ptr<HostEdCompletion::Entry> entry) {

@@ -16,7 +16,6 @@ class CompletionRegistry : public HostEdCompletion::Registry {
 
   void registerSource(const OdString& name, HostEdCompletion::Provider provider) override;
 
-  QStringList sourceNames() const;
   /// Calls back once for each offer of every source, with an entry that is never null.
   void ask(const HostEdCompletion::Callback& callback) const;
   /// Runs the first offer of `source` with that display text; false if there is none or it has no
