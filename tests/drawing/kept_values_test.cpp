@@ -265,6 +265,23 @@ const Oddity kOddities[] = {
     {"no columns", OdDb::kR2018, head("MTEXT", "AcDbMText") + kMtext + kMtextEnd + kEmbedded},
 };
 
+/// The lines of the one entity in model space.
+QByteArray entityIn(const QByteArray& file) {
+  const qsizetype begin = file.indexOf("  2\nENTITIES\n") + 13;
+  return file.mid(begin, file.indexOf("  0\nENDSEC\n", begin) - begin);
+}
+
+template <class T>
+OdSmartPtr<T> only(const OdDbDatabase& db) {
+  const auto space = db.getModelSpaceId().openAs<OdDbBlockTableRecord>();
+  return space->newIterator()->entity(OdDb::kForWrite);
+}
+
+template <class T>
+void append(OdDbDatabase& db, const OdSmartPtr<T>& entity) {
+  db.getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(entity);
+}
+
 } // namespace
 
 TEST(KeptOddities, ComeBackTagByTag) {
@@ -292,6 +309,34 @@ TEST(KeptOddities, IndexBesideATrueColorGoesWithIt) {
   EXPECT_TRUE(db->writeDxf().contains(" 62\n3\n420\n65280\n"));
 }
 
+TEST(KeptOddities, NameOfAColourMayStandWithoutItsBook) {
+  const auto nameIn = [](const char* tag) {
+    const OdDbDatabasePtr db = OdDbDatabase::readDxf(
+        drawingWith(head("CIRCLE", "AcDbCircle", QByteArray("420|255|430|") + tag + "|") + kCircle,
+                    OdDb::kR2018),
+        QStringLiteral("x.dxf"));
+    const OdCmColor color = only<OdDbEntity>(*db)->color();
+    return color.bookName() + QStringLiteral(" / ") + color.colorName();
+  };
+  EXPECT_EQ(nameIn("Signal"), QStringLiteral(" / Signal"));
+  EXPECT_EQ(nameIn("$Signal"), QStringLiteral(" / Signal"));
+  EXPECT_EQ(nameIn("Book$Signal"), QStringLiteral("Book / Signal"));
+  EXPECT_EQ(nameIn("Book$"), QStringLiteral("Book / "));
+}
+
+TEST(KeptOddities, IndicesGoUpToThatOfNoColour) {
+  const auto read = [](const char* index) {
+    return OdDbDatabase::readDxf(
+        drawingWith(head("CIRCLE", "AcDbCircle", QByteArray(" 62|") + index + "|") + kCircle,
+                    OdDb::kR2018),
+        QStringLiteral("x.dxf"));
+  };
+  for (const int index : {1, 255, 257})
+    EXPECT_EQ(only<OdDbEntity>(*read(QByteArray::number(index)))->color().colorIndex(), index);
+  // What means nothing is kept for others, and the colour stays that of the layer.
+  EXPECT_TRUE(only<OdDbEntity>(*read("258"))->color().isByLayer());
+}
+
 TEST(KeptOddities, ScaleInTheHeadOfASolidHatchStaysThroughEverySave) {
   QByteArray file =
       drawingWith(head("HATCH", "AcDbHatch|") + kSplineEdge + kSplineEnd, OdDb::kR2018);
@@ -311,27 +356,6 @@ TEST(KeptOddities, FitDataOfNewerFilesAreNotToldToOldOnes) {
   lines.replace('|', '\n');
   EXPECT_TRUE(db->writeDxf(OdDb::kR2004).contains(lines));
 }
-
-namespace {
-
-/// The lines of the one entity in model space.
-QByteArray entityIn(const QByteArray& file) {
-  const qsizetype begin = file.indexOf("  2\nENTITIES\n") + 13;
-  return file.mid(begin, file.indexOf("  0\nENDSEC\n", begin) - begin);
-}
-
-template <class T>
-OdSmartPtr<T> only(const OdDbDatabase& db) {
-  const auto space = db.getModelSpaceId().openAs<OdDbBlockTableRecord>();
-  return space->newIterator()->entity(OdDb::kForWrite);
-}
-
-template <class T>
-void append(OdDbDatabase& db, const OdSmartPtr<T>& entity) {
-  db.getModelSpaceId().openAs<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(entity);
-}
-
-} // namespace
 
 TEST_F(KeptValues, TrueColourMayStandAloneAndStaysSo) {
   const auto line = odrxMake<OdDbPolyline>();
@@ -359,6 +383,30 @@ TEST_F(KeptValues, TrueColourMayStandAloneAndStaysSo) {
   const OdDbDatabasePtr changed = read(alone);
   only<OdDbEntity>(*changed)->setColor(OdCmColor::fromRgb(10, 20, 31));
   EXPECT_TRUE(entityIn(changed->writeDxf()).contains(" 62\n"));
+}
+
+TEST_F(KeptValues, LayersTellTheIndexThatStoodBesideTheirTrueColour) {
+  layerZero()->setColor(OdCmColor::fromRgb(255, 0, 0));
+  const QByteArray own = m_db->writeDxf();
+  // Without one of a file it is the nearest.
+  ASSERT_EQ(own.count(" 62\n1\n420\n16711680\n"), 1);
+  QByteArray other = own;
+  other.replace(" 62\n1\n420\n16711680\n", " 62\n5\n420\n16711680\n");
+  EXPECT_EQ(OdDbDatabase::readDxf(other, QStringLiteral("x.dxf"))->writeDxf(), other);
+}
+
+TEST_F(KeptValues, LineTypesThatTellOfADashBeforeTheFirstSaySo) {
+  const QByteArray whole = m_db->writeDxf();
+  // The first line type has no dashes.
+  const qsizetype at = whole.indexOf(" 40\n", whole.indexOf("AcDbLinetypeTableRecord"));
+  for (const char* tag : {"  9\nX\n", " 44\n1.0\n", " 45\n1.0\n", " 46\n1.0\n", " 50\n1.0\n",
+                          " 74\n2\n", " 75\n132\n", "340\n0\n"}) {
+    QByteArray odd = whole;
+    odd.insert(at, tag);
+    const OdDbDatabasePtr read = OdDbDatabase::readDxf(odd, QStringLiteral("x.dxf"));
+    ASSERT_EQ(read->readNotes().size(), 1) << tag;
+    EXPECT_TRUE(read->readNotes()[0].contains(QStringLiteral("before its first one")));
+  }
 }
 
 TEST_F(KeptValues, PolylineThatTellsNoFlagsGetsNone) {
