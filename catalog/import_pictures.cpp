@@ -205,8 +205,9 @@ bool ImportPictures::bringOne(const Picture& picture, OdTcImage& ours, OdTcImpor
   try {
     odrxSystemServices()->copyFile(picture.file, target);
   } catch (const OdFileError& error) {
+    // Where one size cannot be written, the others often cannot: the first shows why.
+    if (row.picture != OdTcPictureFate::kMissing) remark(row, error.description());
     worsen(row, OdTcPictureFate::kMissing, picture.name);
-    remark(row, error.description());
     return false;
   }
   ours.setResource(QStringLiteral("\\Images\\") + name, picture.image->resource());

@@ -48,7 +48,7 @@ struct OdTcImportReport {
   OdString palette; ///< its name in the catalog
   OdString id;
   OdString problem;        ///< why nothing came in; empty if the palette is in, or would be
-  bool isReported = false; ///< true if a message box has told the user of the problem
+  bool isUnreadable = false; ///< true if the file itself is at fault, and no message box has said so
   /// What is worth knowing of the file as a whole.
   QStringList notes;
   std::vector<OdTcImportedTool> tools;

@@ -106,12 +106,13 @@ bool PaletteImport::read() {
   OdTcDatabaseImpl& content = m_palette->content();
   const bool isRead = content.loadForeign(m_path, m_foreign);
   const OdString remark = content.readProblem();
-  m_report.isReported = m_foreign.isReported;
   // From here on the palette lies nowhere: what is done to it must not reach the files of others.
   content.setPath(OdString());
+  m_report.isUnreadable = !m_foreign.isReported;
   if (isForeignCatalog(m_foreign.root))
     return fail(translated(u"it is a catalog, which only points to palettes"));
   if (!isRead) return fail(remark.isEmpty() ? translated(u"there is no such file") : remark);
+  m_report.isUnreadable = false;
   if (!remark.isEmpty()) m_report.notes << remark;
   noteContent();
   return true;

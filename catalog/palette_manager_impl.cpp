@@ -264,7 +264,7 @@ OdTcToolPalette* OdTcPaletteManagerImpl::importPalette(OdTcCatalog* catalog, con
   OdTcImportReport report;
   const OdTcToolPalettePtr palette = target->importPalette(path, {}, report);
   if (palette) return palette;
-  if (!report.isReported) showMessage(StringId::kPaletteReadError, true);
+  if (report.isUnreadable) showMessage(StringId::kPaletteReadError, true);
   host::print(
       formatText(host::translate(QStringLiteral("\nCannot import %s: %s")), path, report.problem));
   return nullptr;

@@ -41,13 +41,15 @@ bool importOne(OdTcCatalog& catalog, const OdString& file, const OdString& group
   options.group = group;
   OdTcImportReport report;
   const OdTcToolPalettePtr palette = catalog.importPalette(file, options, report);
-  for (const OdTcImportedTool& tool : report.tools) printTool(tool);
+  // Of what did not come in, only the reason is of use.
+  if (palette)
+    for (const OdTcImportedTool& tool : report.tools) printTool(tool);
   for (const OdString& note : report.notes) printLine(note);
   if (palette) {
     printLine(translated(u"%1 is now the palette \"%2\".").arg(file, report.palette));
     return true;
   }
-  if (!report.isReported) showMessage(StringId::kPaletteReadError, true);
+  if (report.isUnreadable) showMessage(StringId::kPaletteReadError, true);
   printLine(translated(u"%1 is not imported: %2.").arg(file, report.problem));
   return false;
 }

@@ -3,10 +3,12 @@
 #include "catalog/catalog.h"
 #include "catalog/palette_manager.h"
 #include "frame/file_path.h"
+#include "support/failing_services.h"
 #include "support/module_fixture.h"
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 using namespace tc;
@@ -92,6 +94,52 @@ TEST_F(ExchangeCommandsTest, FailsForAFileOrACatalogThatIsNotThereAndForNoAnswer
   EXPECT_NE(run(&makeImportCommand, {QString()}), 0);
   EXPECT_NE(run(&makeImportCommand, {stored(u"p.xtp"_s)}), 0) << "cancelled at the second prompt";
   EXPECT_EQ(catalog()->findPaletteByName(u"p"_s), nullptr);
+}
+
+TEST_F(ExchangeCommandsTest, ACatalogThatCannotBeWrittenIsToldWithoutBlamingTheFile) {
+  testhost::FailingServices readOnly;
+  readOnly.deniedFolder = stored(u"c"_s);
+  EXPECT_NE(run(&makeImportCommand, {stored(u"p.xtp"_s), {}, {}}), 0);
+  EXPECT_TRUE(host().messages.boxes.empty()) << "the file can be read";
+  EXPECT_TRUE(host().messages.printed.last().contains(u"is not imported: "_s));
+  EXPECT_TRUE(host().messages.printed.last().contains(u"Permission denied"_s));
+  write(u"bad.xtp"_s, "Dear reader");
+  EXPECT_NE(run(&makeImportCommand, {stored(u"bad.xtp"_s), {}, {}}), 0);
+  EXPECT_EQ(host().messages.boxes.size(), 1u);
+}
+
+TEST_F(ExchangeCommandsTest, PicturesThatCannotBeWrittenAreToldOnceForEachTool) {
+  OdString images;
+  for (const int size : {16, 32, 64}) {
+    const QString name = u"Door%1.png"_s.arg(size);
+    write(u"q/Images/"_s + name, {});
+    ASSERT_TRUE(QImage(size, size, QImage::Format_RGB32)
+                    .save(odpath::toPlatform(stored(u"q/Images/"_s + name))));
+    images += u"<Image cx=\"%1\" cy=\"%1\" src=\"Images\\%2\"/>"_s.arg(size).arg(name);
+  }
+  write(u"q.xtp"_s, "<Palette><ItemID idValue=\"{Q}\"/><Tools><Tool><Properties><ItemName>Door"
+                    "</ItemName><Images>" +
+                        images.toUtf8() +
+                        "</Images></Properties><ToolType>1</ToolType><Data>"
+                        "<Command Macro=\"_LINE\"/></Data></Tool></Tools></Palette>");
+  const auto import = [&] {
+    host().messages.printed.clear();
+    return run(&makeImportCommand, {stored(u"q.xtp"_s), {}, {}});
+  };
+  struct : testhost::FailingServices {
+    void copyFile(const OdString&, const OdString& to) override {
+      throw OdFileError(eFileAccess, to, u"Permission denied"_s);
+    }
+  } readOnly;
+  readOnly.deniedFolder = stored(u"c"_s);
+  EXPECT_NE(import(), 0);
+  EXPECT_FALSE(host().messages.printed.join(u'\n').contains(u"Door"_s)) << "nothing came in";
+
+  readOnly.deniedFolder.clear();
+  EXPECT_EQ(import(), 0);
+  EXPECT_EQ(host().messages.printed.filter(u"Door: "_s).size(), 2)
+      << "the reason, and the picture that is missing";
+  EXPECT_EQ(host().messages.printed.join(u'\n').count(u"Permission denied"_s), 1);
 }
 
 TEST_F(ExchangeCommandsTest, WithoutADocumentNothingCanBeAsked) {
