@@ -13,6 +13,7 @@
 #include "module/string_table.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace tc {
@@ -22,12 +23,31 @@ void printKept(const char16_t* text, const OdString& file) {
   host::print(formatText(host::translate(OdString::fromUtf16(text)), file));
 }
 
-/// The name of a palette's file, as the palette is named. A name that holds separators would lead
-/// out of the folder, and so would an id, which can come from anybody's file.
+/// Without what a file of a catalog cannot have in its name on one system or another. Separators
+/// would even lead out of the folder.
+OdString inFileNames(OdString text) {
+  constexpr QStringView kForbidden = u"\\/:*?\"<>|";
+  return text.removeIf(
+      [=](QChar c) { return kForbidden.contains(c) || c.category() == QChar::Other_Control; });
+}
+
+/// The beginning of the text that takes at most so many bytes.
+OdString beginning(const OdString& text, qsizetype bytes) {
+  QByteArray utf8 = text.toUtf8();
+  if (utf8.size() <= bytes) return text;
+  const auto isInside = [&](qsizetype at) { return (utf8[at] & 0xC0) == 0x80; };
+  qsizetype end = std::max<qsizetype>(bytes, 0);
+  while (end > 0 && isInside(end)) --end;
+  return OdString::fromUtf8(utf8.left(end));
+}
+
+/// The name of a palette's file, as the palette is named. The id as well can come from anybody's
+/// file.
 OdString fileNameFor(const OdTcToolPalette& palette) {
-  OdString name = formatText(QStringLiteral("%s_%s"), palette.displayName(), palette.id());
-  name.removeIf([](QChar c) { return c == u'\\' || c == u'/'; });
-  return name + QLatin1String(".dtc");
+  // What systems allow, less the ending of the file that a save writes beside it.
+  constexpr qsizetype kMostBytes = 255 - std::string_view(".new").size();
+  const OdString end = formatText(QStringLiteral("_%s.dtc"), inFileNames(palette.id()));
+  return beginning(inFileNames(palette.displayName()), kMostBytes - end.toUtf8().size()) + end;
 }
 
 /// The list in which an item of a group stands.
