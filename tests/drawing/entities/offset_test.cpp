@@ -136,6 +136,47 @@ TEST(Offset, OpenPathsAreTrimmedWhereTheyComeTooNear) {
   for (const double d : {0.5, -0.5, 1.5, -1.5}) expectBeside(*loop, loop->getOffsetCurves(d), d);
 }
 
+TEST(Offset, OpenPathsStayAwayFromTheirOwnEnds) {
+  // The last piece passes the start, and crosses nothing there.
+  const OdDbPolylinePtr hook =
+      polyline({{5, 3.5, 0}, {5, 20, 0}, {-20, 20, 0}, {-20, 0, 0}, {30, 0, 0}}, false);
+  const auto inner = hook->getOffsetCurves(-2);
+  ASSERT_EQ(inner.size(), 2U);
+  expectBeside(*hook, inner, 2);
+  const double reach = std::sqrt(4 - 1.5 * 1.5);
+  expectNear(OdDbPolylinePtr(inner[0])->getEndPoint(), {5 - reach, 2, 0}, 1e-6);
+  expectNear(OdDbPolylinePtr(inner[1])->getStartPoint(), {5 + reach, 2, 0}, 1e-6);
+}
+
+TEST(Offset, AStartWithinAnEdgeLeavesNoCorner) {
+  const OdDbPolylinePtr square =
+      polyline({{5, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}, {0, 0, 0}}, true);
+  for (const double distance : {2, -2}) {
+    const auto beside = square->getOffsetCurves(distance);
+    ASSERT_EQ(beside.size(), 1U);
+    EXPECT_EQ(OdDbPolylinePtr(beside[0])->numVerts(), 4U);
+  }
+}
+
+TEST(Offset, NeedlesAreCutOff) {
+  const OdDbPolylinePtr needle = polyline({{0, 0, 0}, {100, 0, 0}, {0, 1, 0}}, false);
+  const auto outer = needle->getOffsetCurves(1);
+  ASSERT_EQ(outer.size(), 1U);
+  OdGeExtents3d box;
+  ASSERT_TRUE(outer[0]->getGeomExtents(box));
+  EXPECT_NEAR(box.maxPoint().x, 101, 0.01);
+}
+
+TEST(Offset, CirclesOfTwoArcsStayTwoArcs) {
+  const OdDbPolylinePtr round = polyline({{0, 0, 1}, {10, 0, 1}}, true);
+  for (const double distance : {1, -1}) {
+    const auto beside = round->getOffsetCurves(distance);
+    ASSERT_EQ(beside.size(), 1U);
+    EXPECT_EQ(OdDbPolylinePtr(beside[0])->numVerts(), 2U);
+    EXPECT_NEAR(areaOf(beside), kOdaPi * (5 + distance) * (5 + distance), 1e-6);
+  }
+}
+
 TEST(Offset, RandomPathsKeepTheirDistance) {
   unsigned state = 12345;
   const auto random = [&] { return (state = state * 1103515245U + 12345U) % 1000 / 1000.0; };
