@@ -1,27 +1,16 @@
 #include "tools/tool_maker.h"
 
-#include "catalog/palette_manager.h"
 #include "catalog/tool_palette.h"
-#include "drawing/database.h"
 #include "drawing/entities/block_reference.h"
-#include "drawing/entities/circle.h"
-#include "drawing/entities/hatch.h"
 #include "drawing/entities/line.h"
-#include "drawing/entities/raster_image.h"
-#include "frame/file_path.h"
-#include "images/image_list.h"
 #include "module/properties.h"
 #include "properties/general_property_kind.h"
-#include "properties/property_bag.h"
-#include "support/module_fixture.h"
+#include "tool_maker_fixture.h"
 #include "tools/block_tool.h"
 #include "tools/command_tool.h"
-#include "tools/hatch_tool.h"
 #include "tools/raster_tool.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace tc;
 using namespace Qt::StringLiterals;
@@ -29,94 +18,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using testhost::host;
+using ToolMakerTest = testhost::ToolMakerFixture;
 
 constexpr auto kRoutes = R"(<Entries><Entry><OdRxClassInfo className="OdDbLine"/>
 <Command name="ADDSELECTED"><StartCommand name="LINE"/></Command></Entry></Entries>)";
-
-struct ToolMakerTest : testhost::ModuleFixture {
-  ToolMakerTest() {
-    document.databaseOfDocument = drawing;
-    host().menu.entries = {{.isCommand = false,
-                            .commandName = u"LINE"_s,
-                            .label = u"Draw"_s,
-                            .shortText = {},
-                            .macro = {}},
-                           {.isCommand = true,
-                            .commandName = u"LINE"_s,
-                            .label = u"Line"_s,
-                            .shortText = u"&Draw a line"_s,
-                            .macro = u"^C^C_LINE "_s}};
-  }
-
-  OdTcPaletteManager& manager() { return *OdTcPaletteManager::instance(); }
-  OdString stored(const QString& name) const { return odpath::fromPlatform(folder.filePath(name)); }
-  OdString write(const QString& name, const QByteArray& bytes) const {
-    QFile file(folder.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return stored(name);
-  }
-  OdString writePicture(const QString& name) const {
-    QImage picture(40, 20, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    EXPECT_TRUE(picture.save(folder.filePath(name)));
-    return stored(name);
-  }
-  OdDbBlockTableRecordPtr addBlock(const OdString& name, bool hasContents = true) const {
-    const auto block = odrxMake<OdDbBlockTableRecord>();
-    block->setName(name);
-    drawing->getBlockTableId().openAs<OdDbBlockTable>(OdDb::kForWrite)->add(block);
-    if (hasContents)
-      block->appendOdDbEntity(odrxMake<OdDbCircle>(OdGePoint3d(), OdGeVector3d::zAxis(), 5.0));
-    return block;
-  }
-  OdDbObjectId add(OdDbEntity* entity) const {
-    return drawing->getModelSpaceId()
-        .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
-        ->appendOdDbEntity(entity);
-  }
-  /// An image of a picture with the name "Site".
-  OdDbRasterImagePtr addImage(const OdString& path) const {
-    const auto definition = odrxMake<OdDbRasterImageDef>();
-    definition->setSourceFileName(path);
-    const auto image = odrxMake<OdDbRasterImage>();
-    image->setImageDefId(OdDbRasterImageDef::createImageDictionary(*drawing)
-                             .openAs<OdDbDictionary>(OdDb::kForWrite)
-                             ->setAt(u"Site"_s, definition));
-    add(image);
-    return image;
-  }
-  /// The document gets a file, and its drawing is that of the file.
-  void save(const QString& name = u"plan.dxf"_s) {
-    document.filePath = stored(name);
-    drawing->writeFile(document.filePath);
-    drawing->setFileName(document.filePath);
-  }
-  template <class Agent>
-  const Agent& agentOf(const OdTcToolPtr& tool) {
-    return dynamic_cast<const Agent&>(*tool->getActionAgent());
-  }
-  static QStringList sizesOf(const OdTcToolPtr& tool) {
-    QStringList sizes;
-    if (!tool->images()) return sizes;
-    const auto all = tool->images()->enumImages();
-    while (const OdTcImage* image = all->next()) sizes << OdString::number(image->cx());
-    return sizes;
-  }
-  QStringList boxes() const {
-    QStringList texts;
-    for (const auto& box : host().messages.boxes) texts << box.caption + u": "_s + box.text;
-    return texts;
-  }
-  static OdString general(const OdTcToolPtr& tool, const OdString& label) {
-    return tool->getGeneralProperties()->findByName(label)->getValue().toString();
-  }
-
-  const QStringList kThree{u"16"_s, u"32"_s, u"64"_s};
-  QTemporaryDir folder;
-  OdDbDatabasePtr drawing = OdDbDatabase::createDatabase();
-  testhost::TestDocument& document = host().documents.open(u"plan.dxf"_s);
-};
 
 // --- files
 
@@ -436,84 +341,6 @@ TEST_F(ToolMakerTest, ImageIsFoundBesideTheDrawingOrToldToBeMissing) {
   ASSERT_TRUE(tool);
   EXPECT_EQ(agentOf<OdTcToolRasterCommandImpl>(tool).getSourceFile(), path);
   EXPECT_EQ(boxes().size(), 1);
-}
-
-// --- hatches
-
-struct HatchMakerTest : ToolMakerTest {
-  OdTcToolPtr toolOfHatch() { return manager().createToolFromEntity(add(hatch)); }
-  const OdTcToolHatchCommandImpl& agent() { return agentOf<OdTcToolHatchCommandImpl>(tool); }
-  OdSmartPtr<OdDbHatch> hatch = odrxMake<OdDbHatch>();
-  OdTcToolPtr tool;
-};
-
-TEST_F(HatchMakerTest, PatternIsTakenWithAngleScaleAndSpacing) {
-  hatch->setPattern(OdDbHatch::kPreDefined, u"ACAD_ISO02W100"_s, std::vector<OdHatchPatternLine>());
-  hatch->setPatternAngle(0.5);
-  hatch->setPatternScale(2.5);
-  host().customPatterns[u"ISO02W100"_s] = u"C:\\mine.pat"_s;
-  tool = toolOfHatch();
-  ASSERT_TRUE(tool);
-  EXPECT_TRUE(tool->isRegular());
-  EXPECT_EQ(tool->name(), u"ISO02W100"_s);
-  EXPECT_EQ(agent().fields().hatchObjectType, 0);
-  EXPECT_EQ(agent().getHatchType(), 1);
-  EXPECT_EQ(agent().getPatternName(), u"ISO02W100"_s);
-  EXPECT_EQ(agent().getSourceFile(), u"C:\\mine.pat"_s);
-  EXPECT_EQ(agent().getAngle(), 0.5);
-  EXPECT_EQ(agent().getScale(), 2.5);
-  EXPECT_FALSE(agent().getIsCrosswise());
-  EXPECT_EQ(sizesOf(tool), kThree);
-  const OdString src = tool->images()->findBySize(1)->src();
-  EXPECT_TRUE(src.startsWith(u"\\Images\\Hatch tool instrument_"_s)) << qPrintable(src);
-}
-
-TEST_F(HatchMakerTest, PatternThatIsNobodysOwnStandsInTheDefaultFile) {
-  hatch->setPattern(OdDbHatch::kCustomDefined, u"MINE"_s, std::vector<OdHatchPatternLine>());
-  tool = toolOfHatch();
-  EXPECT_EQ(agent().getHatchType(), 2);
-  EXPECT_EQ(agent().getSourceFile(), u"draftoniso.pat"_s);
-}
-
-TEST_F(HatchMakerTest, LinesAndGradientsNeedNoPattern) {
-  host().previews.canRender = false;
-  hatch->setPattern(OdDbHatch::kUserDefined, u"_USER"_s, OdHatchPattern::userDefined(1, true));
-  ASSERT_TRUE(toolOfHatch());
-  hatch = odrxMake<OdDbHatch>();
-  hatch->setGradient(true);
-  ASSERT_TRUE(toolOfHatch());
-  EXPECT_EQ(host().messages.printed, QStringList());
-}
-
-TEST_F(HatchMakerTest, HatchOfLinesHasTheTranslatedNameAndIsUserDefined) {
-  host().translations[u"From lines"_s] = u"Aus Linien"_s;
-  hatch->setPattern(OdDbHatch::kUserDefined, u"_USER"_s, OdHatchPattern::userDefined(1, true));
-  hatch->setPatternSpace(6);
-  hatch->setPatternDouble(true);
-  tool = toolOfHatch();
-  ASSERT_TRUE(tool);
-  EXPECT_EQ(agent().getPatternName(), u"Aus Linien"_s);
-  EXPECT_EQ(agent().getHatchType(), 0);
-  EXPECT_EQ(agent().getSpacing(), 6);
-  EXPECT_TRUE(agent().getIsCrosswise());
-}
-
-TEST_F(HatchMakerTest, GradientIsTakenWithItsColors) {
-  hatch->setGradient(true);
-  hatch->setGradientName(u"INVSPHERICAL"_s);
-  hatch->setGradientColors(OdCmColor::fromRgb(1, 2, 3), OdCmColor::fromRgb(4, 5, 6));
-  hatch->setGradientAngle(0.25);
-  hatch->setGradientShift(0);
-  tool = toolOfHatch();
-  ASSERT_TRUE(tool);
-  EXPECT_EQ(agent().fields().hatchObjectType, 1);
-  EXPECT_EQ(agent().fields().gradientName, u"INVSPHERICAL"_s);
-  EXPECT_EQ(tool->name(), u"Inversed-spherical"_s);
-  EXPECT_EQ(agent().getGradientColor1(), OdCmColor::fromRgb(1, 2, 3));
-  EXPECT_EQ(agent().getGradientColor2(), OdCmColor::fromRgb(4, 5, 6));
-  EXPECT_EQ(agent().getGradientAngle(), 0.25);
-  EXPECT_TRUE(agent().getIsGradientCentered());
-  EXPECT_EQ(sizesOf(tool), kThree);
 }
 
 TEST(ForeignPrefix, GoesWithAllThatStandsBeforeIt) {
