@@ -212,6 +212,23 @@ TEST(DrawingFiles, VerticesAndAttributesBelongToTheirLeader) {
   EXPECT_FALSE(text.contains("\nSEQEND\n"));
 }
 
+TEST(DrawingFiles, ABlockWithoutItsEndGetsOne) {
+  const OdDbDatabasePtr db = OdDbDatabase::readDxf(
+      "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n"
+      "  0\nSECTION\n  2\nTABLES\n  0\nTABLE\n  2\nBLOCK_RECORD\n  5\n9\n"
+      "100\nAcDbSymbolTable\n 70\n1\n  0\nBLOCK_RECORD\n  5\nF0\n100\nAcDbSymbolTableRecord\n"
+      "100\nAcDbBlockTableRecord\n  2\nHALF\n  0\nENDTAB\n  0\nENDSEC\n"
+      "  0\nSECTION\n  2\nBLOCKS\n  0\nBLOCK\n  5\nF1\n330\nF0\n100\nAcDbEntity\n  8\n0\n"
+      "100\nAcDbBlockBegin\n  2\nHALF\n 70\n0\n 10\n0\n 20\n0\n  0\nENDSEC\n  0\nEOF\n",
+      QStringLiteral("half.dxf"));
+  const auto block = db->getBlockTableId()
+                         .openAs<OdDbBlockTable>()
+                         ->getAt(QStringLiteral("HALF"))
+                         .openAs<OdDbBlockTableRecord>();
+  EXPECT_EQ(block->blockBeginId().getHandle(), OdDbHandle(0xF1));
+  EXPECT_FALSE(block->blockEndId().isNull());
+}
+
 TEST(DrawingFiles, SavingOverAFileKeepsItsPermissions) {
   QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("kept.dxf"));

@@ -393,6 +393,21 @@ TEST_F(KeptValues, LayersTellTheIndexThatStoodBesideTheirTrueColour) {
   QByteArray other = own;
   other.replace(" 62\n1\n420\n16711680\n", " 62\n5\n420\n16711680\n");
   EXPECT_EQ(OdDbDatabase::readDxf(other, QStringLiteral("x.dxf"))->writeDxf(), other);
+  // No layer has the colour of its block: that is as good as none.
+  other.replace(" 62\n5\n420\n16711680\n", " 62\n0\n420\n16711680\n");
+  EXPECT_EQ(OdDbDatabase::readDxf(other, QStringLiteral("x.dxf"))->writeDxf(), own);
+}
+
+TEST_F(KeptValues, IndicesOfLayersGoUpToThatOfNoColour) {
+  layerZero()->setColor(OdCmColor::fromColorIndex(123));
+  const auto read = [&](const char* index) {
+    QByteArray text = m_db->writeDxf();
+    text.replace(" 62\n123\n", QByteArray(" 62\n") + index + "\n");
+    const OdDbDatabasePtr db = OdDbDatabase::readDxf(text, QStringLiteral("x.dxf"));
+    return db->getLayerZeroId().openAs<OdDbLayerTableRecord>()->color().colorIndex();
+  };
+  EXPECT_EQ(read("257"), 257);
+  EXPECT_EQ(read("258"), OdCmColor::kACIforeground);
 }
 
 TEST_F(KeptValues, LineTypesThatTellOfADashBeforeTheFirstSaySo) {

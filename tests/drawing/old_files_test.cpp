@@ -71,3 +71,12 @@ TEST(OldFiles, ArrowsThatR12DrawsByItselfAreNotMissing) {
                                        "TICKS\n 70\n0\n  5\nARCHTICK\n  0\nENDTAB\n"));
   EXPECT_EQ(db->readNotes().filter(QStringLiteral("ARCHTICK")), QStringList());
 }
+
+TEST(OldFiles, TheWindowOfAnR12FileReplacesThatOfTheNewDrawing) {
+  const OdDbDatabasePtr db =
+      read("AC1009", section("TABLES", "  0\nTABLE\n  2\nVPORT\n 70\n1\n  0\nVPORT\n  2\n*ACTIVE\n"
+                                       " 70\n0\n 40\n77\n  0\nENDTAB\n"));
+  const auto windows = db->getViewportTableId().openAs<OdDbViewportTable>();
+  ASSERT_EQ(windows->recordIds().size(), 1U);
+  EXPECT_EQ(windows->recordIds()[0].openAs<OdDbViewportTableRecord>()->height(), 77);
+}

@@ -104,6 +104,30 @@ TEST(MTextCodes, EscapedTextComesBack) {
   EXPECT_EQ(odmtext::plainText(odmtext::escaped(hard)), hard);
 }
 
+TEST(MTextCodes, DistancesOfLinesAreTimesTheUsualOrInHeightsOfTheText) {
+  struct Row {
+    const char16_t* contents;
+    OdMTextParagraph::SpacingKind kind;
+    double spacing; ///< of a text that is two units high
+  };
+  for (const Row& row : {Row{u"\\psm1.5;a", OdMTextParagraph::kMultiple, 1.5},
+                         Row{u"\\pse1.5;a", OdMTextParagraph::kExact, 3},
+                         Row{u"\\psa1.5;a", OdMTextParagraph::kAtLeast, 3}}) {
+    const OdMTextParagraph p = parse(row.contents).back().paragraph;
+    EXPECT_EQ(p.spacingKind, row.kind);
+    EXPECT_EQ(p.spacing, row.spacing);
+  }
+}
+
+TEST(MTextCodes, TabsEndWhereSomethingElseIsTold) {
+  const auto tabsOf = [](const char16_t* contents) {
+    return parse(contents).back().paragraph.tabs.size();
+  };
+  EXPECT_EQ(tabsOf(u"\\pt4,c8,5;a"), 3U);
+  EXPECT_EQ(tabsOf(u"\\pt4,l2,5;a"), 1U);
+  EXPECT_EQ(tabsOf(u"\\pl2,5;a"), 0U);
+}
+
 TEST(MTextLayout, LinesStandApartByFiveThirds) {
   const OdMTextLayout two = layOut(u"ab\\Pcd");
   EXPECT_EQ(shown(two), "ab@0,-1 cd@0,-2.66667 ");
