@@ -71,9 +71,10 @@ bool writeBeside(const OdString& path, const std::function<bool(const OdString& 
       dropFresh();
       return false;
     }
-  } catch (const OdFileError&) {
+  } catch (const OdFileError& error) {
     dropFresh();
-    throw;
+    // The user knows the file by its own name.
+    throw OdFileError(error.code(), path, error.reason());
   }
   if (services->replaceFile(fresh, target)) return true;
   dropFresh();

@@ -88,7 +88,8 @@ TEST_F(SavingTest, APaletteThatIsSavedAtOnceIsThereAsItWasOrWhole) {
   }
   EXPECT_EQ(readFile(u"c\\Palettes\\a.dtc"_s), before);
   EXPECT_FALSE(exists(u"c\\Palettes\\a.dtc.new"_s));
-  EXPECT_TRUE(palette->getDatabase()->saveProblem().contains(u"No space left on device"_s));
+  EXPECT_EQ(palette->getDatabase()->saveProblem(),
+            odpath::toPlatform(palette->getPath()) + u": No space left on device"_s);
   EXPECT_TRUE(palette->getDatabase()->saveAtOnce());
   EXPECT_TRUE(readFile(u"c\\Palettes\\a.dtc"_s).contains("Renamed"));
   EXPECT_EQ(palette->getDatabase()->attachedCount(), 0);
