@@ -28,7 +28,7 @@ class BatchRun {
   int run();
 
  private:
-  bool openScript();
+  OdString openScript();
   int runScript(Engine& engine, ScriptSource& script);
   bool openDrawing(Engine& engine);
   bool saveDrawing(Engine& engine);
@@ -49,11 +49,17 @@ int BatchRun::failWith(int code, const OdString& text) {
   return code;
 }
 
-bool BatchRun::openScript() {
-  if (m_options.script.isEmpty() || m_options.script == QLatin1String("-"))
-    return m_script.open(stdin, QIODevice::ReadOnly);
-  m_script.setFileName(m_options.script);
-  return !QFileInfo(m_options.script).isDir() && m_script.open(QIODevice::ReadOnly);
+/// What is wrong with the script; empty once it is open.
+OdString BatchRun::openScript() {
+  bool isOpen = false;
+  if (m_options.script.isEmpty() || m_options.script == QLatin1String("-")) {
+    isOpen = m_script.open(stdin, QIODevice::ReadOnly);
+  } else {
+    if (QFileInfo(m_options.script).isDir()) return translated(u"it is a folder");
+    m_script.setFileName(m_options.script);
+    isOpen = m_script.open(QIODevice::ReadOnly);
+  }
+  return isOpen ? OdString() : m_script.errorString();
 }
 
 bool BatchRun::openDrawing(Engine& engine) {
@@ -142,10 +148,9 @@ int BatchRun::failLine(const OdString& failure) {
 }
 
 int BatchRun::run() {
-  if (!openScript())
-    return failWith(
-        kExitScriptFailed,
-        translated(u"%1 cannot be read: %2").arg(m_options.script, m_script.errorString()));
+  if (const OdString fault = openScript(); !fault.isEmpty())
+    return failWith(kExitScriptFailed,
+                    translated(u"%1 cannot be read: %2").arg(m_options.script, fault));
   ScriptSource script(m_script);
   EngineOptions options;
   options.settingsFile = m_options.profile.isEmpty() ? defaultProfile() : m_options.profile;

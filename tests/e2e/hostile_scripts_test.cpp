@@ -83,6 +83,9 @@ TEST(HostileScripts, AFolderOrNoFileIsNamed) {
     EXPECT_FALSE(run.crashed);
     EXPECT_NE(run.exitCode, 0);
     EXPECT_TRUE(run.err.contains(script)) << qPrintable(run.err);
+    const bool isFolder = script == bench.path(QString());
+    EXPECT_EQ(run.err.contains(QLatin1String("it is a folder")), isFolder) << qPrintable(run.err);
+    EXPECT_FALSE(run.err.contains(QLatin1String("Unknown error"))) << qPrintable(run.err);
   }
 }
 
