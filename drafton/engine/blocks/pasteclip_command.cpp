@@ -8,21 +8,27 @@
 #include "drafton/engine/engine.h"
 #include "drafton/engine/translator.h"
 #include "drawing/id_mapping.h"
+#include "drawing/objects/file_references.h"
 #include "host/clipboard.h"
 #include "host/clipboard_payload.h"
 
 namespace drafton {
 namespace {
 
-/// The drawing that holds what was copied.
+/// The drawing that holds what was copied. Its references and pictures are told as they are found
+/// from where they are put down: relative paths count from the folder that they were copied in.
 OdDbDatabasePtr copiedDrawing(CommandContext& context) {
   KVPtr<IHostClipboard> clipboard = kvQuery<IHostClipboard>(&context.engine().services());
   if (!clipboard) throw CommandFailure(translated(u"There is no clipboard."));
   const QByteArray bytes =
       clipboard->data(clipboard->registerFormat(kHostClipboardFormat.toString()));
-  const OdString path = hostclipboard::fromBytes(bytes).drawing;
-  if (path.isEmpty()) throw CommandFailure(translated(u"There are no objects on the clipboard."));
-  return readDrawing(path);
+  const HostClipboardPayload payload = hostclipboard::fromBytes(bytes);
+  if (payload.drawing.isEmpty())
+    throw CommandFailure(translated(u"There are no objects on the clipboard."));
+  const OdDbDatabasePtr drawing = readDrawing(payload.drawing);
+  drawing->setFileName(payload.source);
+  oddbRebaseFileReferences(*drawing, context.document().path());
+  return drawing;
 }
 
 /// The corner from above by which copied objects are put down; their heights stay.

@@ -1,6 +1,10 @@
 #include "engine/blocks/block_fixture.h"
 
 #include "drafton/engine/document_manager.h"
+#include "drawing/entities/raster_image.h"
+
+#include <QDir>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -38,6 +42,40 @@ TEST_F(PasteTest, ScalesToTheUnitsOfTheDrawing) {
   EXPECT_NEAR(circles[0]->radius(), 2000, 1e-6);
   EXPECT_NEAR(circles[0]->center().distanceTo({2100, 2100, 0}), 0, 1e-6);
   EXPECT_NEAR(circles[1]->center().distanceTo({3000, 3000, 0}), 0, 1e-6);
+}
+
+TEST_F(PasteTest, FindsPicturesAndReferencesFromWhereTheyArePutDown) {
+  for (const char* folder : {"from", "to"}) ASSERT_TRUE(QDir().mkpath(path(folder)));
+  QImage picture(40, 20, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(path("from/photo.png")));
+  writeDrawing("from/wheel.dxf", 3);
+  words("INSERTRASTER|" + path("from/photo.png") + "|1,2|4|0");
+  words("XATTACH|" + path("from/wheel.dxf") + "|a|10,0|||");
+  // As other programs write them, to be moved with the drawing.
+  const auto pictureOf = [this] {
+    return OdDbRasterImageDefPtr(
+        all<OdDbRasterImage>().at(0)->imageDefId().safeOpenObject(OdDb::kForWrite));
+  };
+  const auto blockOf = [this] { return opened(inserts().at(0)->blockTableRecord()); };
+  pictureOf()->setSourceFileName(QStringLiteral("photo.png"));
+  blockOf()->setPathName(QStringLiteral("wheel.dxf"));
+  words("SaveAs|" + path("from/plan.dxf"));
+  type(QStringLiteral("COPYCLIP ALL \n"));
+  words("NewDocument|SaveAs|" + path("to/other.dxf") + "|PASTECLIP|o");
+  const OdString photo = odpath::fromPlatform(path("from/photo.png"));
+  ASSERT_EQ(inserts().size(), 1u) << output().toStdString();
+  EXPECT_TRUE(odpath::samePlace(pictureOf()->activeFileName(), photo))
+      << pictureOf()->sourceFileName().toStdString();
+  EXPECT_TRUE(
+      odpath::samePlace(blockOf()->pathName(), odpath::fromPlatform(path("from/wheel.dxf"))))
+      << blockOf()->pathName().toStdString();
+  EXPECT_FALSE(blockOf()->entityIds().empty()) << "it is shown";
+
+  words("NewDocument|SaveAs|" + path("from/beside.dxf") + "|PASTECLIP|o");
+  EXPECT_EQ(pictureOf()->sourceFileName(), QStringLiteral("photo.png"))
+      << "beside the files the path stays short";
+  EXPECT_TRUE(odpath::samePlace(pictureOf()->activeFileName(), photo));
 }
 
 TEST_F(PasteTest, ShowsTheObjectsAtTheCursorAndLeavesNoBlockBehind) {
