@@ -1,6 +1,7 @@
 #include "drafton/desktop/canvas.h"
 
 #include "drafton/desktop/canvas_overlay.h"
+#include "drafton/engine/edited_texts.h"
 #include "drafton/engine/value_parser.h"
 
 #include <QMouseEvent>
@@ -33,7 +34,8 @@ Canvas::Canvas(Desktop& desktop, Document& document)
   , m_view(document, m_scene)
   , m_picture(m_scene)
   , m_chooser(document, m_scene, m_view)
-  , m_aids(desktop) {
+  , m_aids(desktop)
+  , m_editor(new TextEditor(desktop, *this)) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::BlankCursor);
@@ -101,6 +103,7 @@ bool Canvas::showFormer() {
 
 void Canvas::viewMoved() {
   moveCursor();
+  followText();
   update();
 }
 
@@ -141,8 +144,15 @@ void Canvas::follow() {
   }
   m_grips.setEntities(isIdle() ? m_chooser.chosen() : Selection());
   moveCursor();
+  followText();
   update();
   Q_EMIT choiceChanged();
+}
+
+void Canvas::followText() {
+  const InputRequest* const asked = request();
+  const std::optional<OdGePoint3d> place = asked ? asked->editedPlace() : std::nullopt;
+  m_editor->follow(asked, place ? widgetPointOf(*place) : QPointF());
 }
 
 // --- looking around
@@ -185,10 +195,35 @@ void Canvas::changeEvent(QEvent* event) {
 // --- the mouse
 
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::MiddleButton)
-    showAll();
-  else
-    mousePressEvent(event);
+  if (event->button() == Qt::MiddleButton) return showAll();
+  const QPointer<Canvas> self(this);
+  m_desktop.catchUp();
+  if (!self || !m_document) return;
+  m_cursor = pixelAt(event->position());
+  const bool isPlain = event->button() == Qt::LeftButton && !event->modifiers();
+  // A box or a zoom that the first of the two clicks began goes on.
+  const bool isFree = isIdle() && !m_boxCorner && !m_zoomsToBox;
+  if (!isPlain || !isFree || !openAtCursor()) mousePressEvent(event);
+}
+
+/// Lets the text under the cursor be edited; of what has none, shows what is known. False if
+/// nothing is there.
+bool Canvas::openAtCursor() {
+  const Selection found = m_chooser.at(*m_cursor);
+  if (found.empty()) return false;
+  m_grips.cancel();
+  moveCursor();
+  const OdDbObjectId top = m_chooser.topmost(*m_cursor);
+  const double reach = m_desktop.variable("PICKBOX").toDouble() * m_view.pixelSize();
+  if (editedTexts(top, m_place->point, reach).empty()) {
+    m_chooser.add(found);
+    follow();
+    Q_EMIT propertiesWanted();
+  } else {
+    m_document->preselection() = {top};
+    m_desktop.runMacro(QStringLiteral("^C^C_TEXTEDIT "));
+  }
+  return true;
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
@@ -199,6 +234,8 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) {
     m_panFrom = m_cursor;
     setCursor(Qt::ClosedHandCursor);
+  } else if (event->button() == Qt::LeftButton && m_editor->isOpen()) {
+    m_editor->submit();
   } else if (event->button() == Qt::LeftButton) {
     moveCursor();
     m_pressed = *m_cursor;

@@ -5,6 +5,7 @@
 #include "drafton/desktop/drafting_aids.h"
 #include "drafton/desktop/entity_chooser.h"
 #include "drafton/desktop/grip_tool.h"
+#include "drafton/desktop/text_editor.h"
 
 #include <QWidget>
 
@@ -23,6 +24,7 @@ class Canvas : public QWidget {
 
   Document* document() const { return m_document; }
   CanvasView& view() { return m_view; }
+  TextEditor& textEditor() { return *m_editor; }
   /// Where a click would go now; nothing while the cursor is elsewhere.
   const std::optional<CursorPlace>& cursorPlace() const { return m_place; }
   /// A drawing's place in the widget's own coordinates.
@@ -51,6 +53,8 @@ class Canvas : public QWidget {
   /// The user asked for the menu of what is under the cursor; while a command asks for a point, for
   /// that of the snaps.
   void menuWanted(const QPoint& globalPosition);
+  /// The user wants to see what is known of what was just chosen.
+  void propertiesWanted();
 
  public Q_SLOTS:
   /// Takes over what the engine did.
@@ -77,6 +81,8 @@ class Canvas : public QWidget {
   void viewMoved();
   void press(Qt::KeyboardModifiers modifiers);
   void pressIdle(Qt::KeyboardModifiers modifiers);
+  bool openAtCursor();
+  void followText();
   void endBox(Qt::KeyboardModifiers modifiers);
   void pressZoomBox();
   void endZoomBox();
@@ -93,6 +99,7 @@ class Canvas : public QWidget {
   EntityChooser m_chooser;
   DraftingAids m_aids;
   GripTool m_grips;
+  TextEditor* m_editor;
 
   std::optional<QPointF> m_cursor; ///< pixels; nothing while it is elsewhere
   std::optional<CursorPlace> m_place;

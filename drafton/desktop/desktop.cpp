@@ -130,6 +130,13 @@ bool Desktop::click(const OdGePoint3d& point) {
   return true;
 }
 
+bool Desktop::giveText(const OdString& text) {
+  Q_EMIT aboutToTake();
+  if (!m_engine->currentProcessor().giveText(text)) return false;
+  m_input.takeUp();
+  return true;
+}
+
 bool Desktop::change(const OdString& step, const std::function<void(OdDbDatabase&)>& change) {
   Document* const current = document();
   if (!current || !current->database()) return false;

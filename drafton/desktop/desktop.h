@@ -45,6 +45,8 @@ class Desktop : public QObject {
   void cancel();
   /// Answers the prompt with a point; false if none waits for one.
   bool click(const OdGePoint3d& point);
+  /// Answers the prompt with a text that was edited in the drawing; false if none waits for one.
+  bool giveText(const OdString& text);
   /// Does something to the active drawing as one undo step of its own, unless a command runs: then
   /// nothing is done, and the command line says so. False if nothing was done.
   bool change(const OdString& step, const std::function<void(OdDbDatabase&)>& change);

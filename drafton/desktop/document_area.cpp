@@ -82,6 +82,7 @@ void DocumentArea::activate(Document* document) {
     connect(made, &Canvas::cursorMoved, this, &DocumentArea::cursorMoved);
     connect(made, &Canvas::choiceChanged, this, &DocumentArea::choiceChanged);
     connect(made, &Canvas::menuWanted, this, &DocumentArea::menuWanted);
+    connect(made, &Canvas::propertiesWanted, this, &DocumentArea::propertiesWanted);
     m_stack->addWidget(made);
     tab = m_tabs->addTab(tabText(*document));
     m_tabs->setTabData(tab, QVariant::fromValue(made));

@@ -27,6 +27,7 @@ class DocumentArea : public QWidget {
   void cursorMoved();
   void choiceChanged();
   void menuWanted(const QPoint& globalPosition);
+  void propertiesWanted();
   void closeWanted(drafton::Document* document);
   /// The user chose what the page without drawings offers: the name of an action.
   void actionWanted(const QString& name);

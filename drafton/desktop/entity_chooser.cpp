@@ -34,6 +34,13 @@ Selection EntityChooser::at(const QPointF& pixel) const {
   return {};
 }
 
+OdDbObjectId EntityChooser::topmost(const QPointF& pixel) const {
+  Picker picker(m_scene, m_view.block(), m_view.view());
+  for (const OdDbObjectId id : picker.at(pixel, pickReach(m_document)))
+    if (!reachable({id}).empty()) return id;
+  return {};
+}
+
 std::vector<OdDbEntityPtr> EntityChooser::near(const QPointF& pixel, double reach) const {
   std::vector<OdDbEntityPtr> found;
   Picker picker(m_scene, m_view.block(), m_view.view());

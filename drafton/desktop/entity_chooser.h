@@ -17,6 +17,8 @@ class EntityChooser {
 
   /// The topmost entity at a pixel with those of its group; empty if there is none.
   Selection at(const QPointF& pixel) const;
+  /// That entity alone; null if there is none.
+  OdDbObjectId topmost(const QPointF& pixel) const;
   /// All entities at a pixel, topmost first, for object snaps. At most some.
   std::vector<OdDbEntityPtr> near(const QPointF& pixel, double reach) const;
   /// What two corners choose: to the right what is inside, to the left what is met.

@@ -149,6 +149,12 @@ void MainWindow::connectPanes() {
   m_actions->connectTo(u"blocks", [this] { showPane("blocks"); });
   m_actions->connectTo(u"options", [this] { OptionsDialog(m_desktop, this).exec(); });
   connect(m_documents, &DocumentArea::choiceChanged, this, &MainWindow::followChoice);
+  // What is typed next still goes to the command line.
+  connect(m_documents, &DocumentArea::propertiesWanted, this, [this] {
+    auto* const dock = findChild<QDockWidget*>(QStringLiteral("inspector"));
+    dock->show();
+    dock->raise();
+  });
 }
 
 void MainWindow::followChoice() {

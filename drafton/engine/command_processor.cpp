@@ -209,6 +209,17 @@ bool CommandProcessor::givePoint(const OdGePoint3d& point) {
   return true;
 }
 
+bool CommandProcessor::giveText(const OdString& text) {
+  if (!isWaiting()) return false;
+  InputRequest& asked = *m_frames.back()->input.m_request;
+  if (asked.kind() != InputRequest::Kind::kString) return false;
+  m_word.clear();
+  m_engine.console().echo(text);
+  settleAnswer(asked.acceptText(text));
+  deliverChanges();
+  return true;
+}
+
 void CommandProcessor::settleAnswer(InputRequest::Outcome outcome) {
   Frame& frame = *m_frames.back();
   if (outcome != InputRequest::Outcome::kAnswered) {

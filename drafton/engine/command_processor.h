@@ -47,9 +47,12 @@ class CommandProcessor : public IHostCommandInput, public IHostUserInput {
   /// A click into the drawing: answers a prompt for a point, distance or angle. False if none
   /// waits.
   bool givePoint(const OdGePoint3d& point);
+  /// A text that was edited in the drawing: answers a prompt for a text. False if none waits.
+  bool giveText(const OdString& text);
   /// Where a click would go now; none while the cursor is elsewhere. A number that is typed at a
   /// prompt for a point is a distance towards it.
   void setCursor(const std::optional<OdGePoint3d>& cursor) { m_cursor = cursor; }
+  const std::optional<OdGePoint3d>& cursor() const { return m_cursor; }
 
   bool isBusy() const { return !m_frames.empty(); }
   /// True if the innermost command waits for input.

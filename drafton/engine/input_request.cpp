@@ -29,6 +29,9 @@ constexpr KindTexts kTexts[] = {
     {Kind::kKeyword, u"Invalid option.", u"An option is needed."},
 };
 
+/// Of a text that is to be changed; the prompt is one line.
+constexpr qsizetype kLongestShown = 60;
+
 struct RangeText {
   NumberRange range;
   const char16_t* refusal;
@@ -108,9 +111,15 @@ InputRequest::InputRequest(const RealPrompt& prompt)
 InputRequest::InputRequest(const StringPrompt& prompt)
   : InputRequest(Kind::kString, prompt.text, prompt.keywords, prompt.allowEmpty) {
   m_allowBlanks = prompt.allowBlanks;
+  m_editing = prompt.edits;
+  m_editedPlace = prompt.place;
   if (!prompt.defaultValue) return;
   m_shownDefault = prompt.defaultValue->toString();
   m_default = m_shownDefault;
+  if (m_editing == TextEditing::kNone) return;
+  m_editedText = m_shownDefault;
+  if (m_shownDefault.size() > kLongestShown)
+    m_shownDefault = m_shownDefault.left(kLongestShown) + QStringLiteral("...");
 }
 
 InputRequest::InputRequest(const KeywordPrompt& prompt)
@@ -219,6 +228,11 @@ InputRequest::Outcome InputRequest::accept(const OdString& word, PointOrigins or
     }
   }
   return refuse(translated(textsOf(m_kind).invalid));
+}
+
+InputRequest::Outcome InputRequest::acceptText(const OdString& text) {
+  if (m_kind != Kind::kString) return refuse(translated(textsOf(m_kind).invalid));
+  return acceptValue(text);
 }
 
 InputRequest::Outcome InputRequest::acceptPoint(const OdGePoint3d& point) {

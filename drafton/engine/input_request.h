@@ -44,6 +44,12 @@ class InputRequest {
   std::optional<int> snapKinds() const { return m_snapKinds; }
   /// True if the point chooses entities.
   bool picks() const { return m_picks; }
+  /// What of the drawing the answer changes.
+  TextEditing editing() const { return m_editing; }
+  /// The text that is to be changed.
+  const OdString& editedText() const { return m_editedText; }
+  /// The upper left corner of the text that is to be changed.
+  const std::optional<OdGePoint3d>& editedPlace() const { return m_editedPlace; }
   /// True if a point answers it.
   bool takesPoints() const;
   /// What the command would make of a point, had it been given; empty if it shows nothing.
@@ -58,6 +64,9 @@ class InputRequest {
   Outcome accept(const OdString& word, PointOrigins origins);
   /// Takes a point that was clicked.
   Outcome acceptPoint(const OdGePoint3d& point);
+  /// Takes a text as it stands, for a prompt for texts: no quotes are taken off, and an empty one
+  /// stands for itself.
+  Outcome acceptText(const OdString& text);
   const OdString& message() const { return m_message; }
 
   /// The answer once it is there.
@@ -104,6 +113,9 @@ class InputRequest {
   bool m_allowText = false;
   RubberBand m_band = RubberBand::kLine;
   bool m_picks = false;
+  TextEditing m_editing = TextEditing::kNone;
+  OdString m_editedText;
+  std::optional<OdGePoint3d> m_editedPlace;
   std::optional<int> m_snapKinds;
   Preview<OdGePoint3d> m_pointPreview;
   Preview<double> m_numberPreview;

@@ -118,6 +118,13 @@ struct RealPrompt {
   bool allowEmpty = false;
 };
 
+/// What of the drawing a prompt for a text changes.
+enum class TextEditing {
+  kNone,
+  kLine,
+  kLines, ///< with formatting codes: `\P` parts the lines
+};
+
 struct StringPrompt {
   QStringView text;
   QStringView keywords = {};
@@ -126,6 +133,11 @@ struct StringPrompt {
   bool allowBlanks = false;
   std::optional<QStringView> defaultValue = {};
   bool allowEmpty = false;
+  /// The default is a text of the drawing that is to be changed: a window shows it where it stands,
+  /// and lets it be edited there.
+  TextEditing edits = TextEditing::kNone;
+  /// The upper left corner of that text.
+  std::optional<OdGePoint3d> place = {};
 };
 
 struct KeywordPrompt {

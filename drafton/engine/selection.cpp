@@ -201,8 +201,10 @@ Task<PickedEntity> selectEntity(CommandContext& context, QStringView prompt, QSt
     if (!answer.isValue() && !answer.is(u"Last")) co_return PickedEntity{{}, {}, answer.keyword};
     const Selection picked = answer.isValue() ? picker.at(answer.value) : picker.last();
     if (!picked.empty())
-      co_return PickedEntity{
-          picked.front(), answer.isValue() ? answer.value : context.lastPoint(), {}};
+      co_return PickedEntity{picked.front(),
+                             answer.isValue() ? answer.value : context.lastPoint(),
+                             {},
+                             answer.isValue()};
     context.print(translated(u"Nothing was found there."));
   }
 }

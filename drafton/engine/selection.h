@@ -23,7 +23,8 @@ Task<Selection> selectObjects(CommandContext& context, QStringView prompt = u"Se
 struct PickedEntity {
   OdDbObjectId id; ///< null if Enter or a keyword was given
   OdGePoint3d point;
-  OdString keyword; ///< empty if none was given
+  OdString keyword;       ///< empty if none was given
+  bool isPointed = false; ///< at the point; false for Last
 };
 
 /// Asks for one entity: a point on it, or Last. Enter ends without one. `keywords` are those of the

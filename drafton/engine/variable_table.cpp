@@ -67,6 +67,29 @@ bool setTransparency(Engine&, Document* document, const OdVariant& value) {
   return true;
 }
 
+/// The sizes of corners are those of the drawing until one is set. From then on that one counts,
+/// whatever becomes of the command that it was set for: who gives a corner up or undoes it still
+/// wants the next one to be like it.
+constexpr const char* kCornerSizes[] = {"CHAMFERA", "CHAMFERB", "FILLETRAD"};
+
+template <int kSize>
+OdVariant cornerSize(Engine&, Document* document) {
+  const char* const name = kCornerSizes[kSize];
+  if (!document) return 0.0;
+  if (const auto at = document->values().find(QLatin1String(name)); at != document->values().end())
+    return at->second;
+  const OdDbDatabase* const database = document->database();
+  return database ? database->sysVarReal(name) : 0.0;
+}
+template <int kSize>
+bool setCornerSize(Engine&, Document* document, const OdVariant& value) {
+  OdDbDatabase* const database = document ? document->database() : nullptr;
+  const OdString name = QLatin1String(kCornerSizes[kSize]);
+  if (!database || !database->setSysVar(name, value.toDouble())) return false;
+  document->values()[name] = value;
+  return true;
+}
+
 // Sorted by name.
 constexpr VariableRow kVariables[] = {
     {u"AFLAGS", Type::kInteger, Scope::kSession, u"16", 0, 31},
@@ -76,6 +99,10 @@ constexpr VariableRow kVariables[] = {
     {u"AUTOSNAP", Type::kInteger, Scope::kProfile, u"63", 0, 63},
     {u"CETRANSPARENCY", Type::kText, Scope::kComputed, u"BYLAYER", -kNoLimit, kNoLimit,
      transparency, setTransparency},
+    {u"CHAMFERA", Type::kReal, Scope::kComputed, u"0", 0, kNoLimit, cornerSize<0>,
+     setCornerSize<0>},
+    {u"CHAMFERB", Type::kReal, Scope::kComputed, u"0", 0, kNoLimit, cornerSize<1>,
+     setCornerSize<1>},
     {u"CIRCLERAD", Type::kReal, Scope::kDocument, u"0", 0, kNoLimit},
     {u"CMDECHO", Type::kInteger, Scope::kSession, u"1", 0, 1},
     {u"CMDNAMES", Type::kText, Scope::kComputed, u"", 0, 0, runningCommands},
@@ -87,6 +114,8 @@ constexpr VariableRow kVariables[] = {
     {u"DWGTITLED", Type::kInteger, Scope::kComputed, u"0", 0, 1, isTitled},
     {u"DXFVERSION", Type::kText, Scope::kComputed, u"R2018", 0, 0, dxfVersion, setDxfVersion},
     {u"FILEDIA", Type::kInteger, Scope::kProfile, u"1", 0, 1},
+    {u"FILLETRAD", Type::kReal, Scope::kComputed, u"0", 0, kNoLimit, cornerSize<2>,
+     setCornerSize<2>},
     {u"GFANG", Type::kReal, Scope::kSession, u"0"},
     {u"GFCLR1", Type::kColor, Scope::kSession, u"3271557125"},
     {u"GFCLR2", Type::kColor, Scope::kSession, u"3271557122"},

@@ -5233,5 +5233,173 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Draw a box around what is to be seen.</source>
         <translation>Einen Rahmen um das ziehen, was zu sehen sein soll.</translation>
     </message>
+    <message>
+        <source>Break</source>
+        <translation>Bruch</translation>
+    </message>
+    <message>
+        <source>&amp;Break a piece out of an object, or part it</source>
+        <translation>Ein Stück aus einem Objekt &amp;brechen oder es teilen</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Join objects into one</source>
+        <translation>Ob&amp;jekte zu einem verbinden</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit te&amp;xts</source>
+        <translation>Te&amp;xte bearbeiten</translation>
+    </message>
+    <message>
+        <source>Baseline Dimension</source>
+        <translation>Basisbemaßung</translation>
+    </message>
+    <message>
+        <source>Dimension from where the last dimension begin&amp;s</source>
+        <translation>Vom Anfang der letzten Bemaßung au&amp;s bemaßen</translation>
+    </message>
+    <message>
+        <source>Angular Dimension</source>
+        <translation>Winkelbemaßung</translation>
+    </message>
+    <message>
+        <source>Dimension an an&amp;gle</source>
+        <translation>Einen &amp;Winkel bemaßen</translation>
+    </message>
+    <message>
+        <source>Measure an a&amp;rea and its perimeter</source>
+        <translation>Eine Fläche und ihren &amp;Umfang messen</translation>
+    </message>
+    <message>
+        <source>Specify next corner</source>
+        <translation>Nächste Ecke angeben</translation>
+    </message>
+    <message>
+        <source>Select object to measure</source>
+        <translation>Objekt zum Messen wählen</translation>
+    </message>
+    <message>
+        <source>The object encloses no area.</source>
+        <translation>Das Objekt umschließt keine Fläche.</translation>
+    </message>
+    <message>
+        <source>An area needs three corners.</source>
+        <translation>Eine Fläche braucht drei Ecken.</translation>
+    </message>
+    <message>
+        <source>Area = %1</source>
+        <translation>Fläche = %1</translation>
+    </message>
+    <message>
+        <source>Area = %1, perimeter = %2</source>
+        <translation>Fläche = %1, Umfang = %2</translation>
+    </message>
+    <message>
+        <source>Area = %1, length = %2</source>
+        <translation>Fläche = %1, Länge = %2</translation>
+    </message>
+    <message>
+        <source>Select object to break</source>
+        <translation>Objekt zum Brechen wählen</translation>
+    </message>
+    <message>
+        <source>Only lines, arcs, circles and polylines can be broken.</source>
+        <translation>Nur Linien, Bögen, Kreise und Polylinien lassen sich brechen.</translation>
+    </message>
+    <message>
+        <source>Specify second break point, or @ for the same</source>
+        <translation>Zweiten Bruchpunkt angeben, oder @ für denselben</translation>
+    </message>
+    <message>
+        <source>Specify first break point</source>
+        <translation>Ersten Bruchpunkt angeben</translation>
+    </message>
+    <message>
+        <source>Specify break point</source>
+        <translation>Bruchpunkt angeben</translation>
+    </message>
+    <message>
+        <source>The object cannot be broken there.</source>
+        <translation>Das Objekt lässt sich dort nicht brechen.</translation>
+    </message>
+    <message>
+        <source>%1 joined into %2</source>
+        <translation>%1 zu %2 verbunden</translation>
+    </message>
+    <message>
+        <source>%1 could not be joined.</source>
+        <translation>%1 ließen sich nicht verbinden.</translation>
+    </message>
+    <message>
+        <source>Only linear and aligned dimensions have a baseline.</source>
+        <translation>Nur lineare und ausgerichtete Bemaßungen haben eine Basis.</translation>
+    </message>
+    <message>
+        <source>Select arc, circle or line; Enter for a vertex and two points</source>
+        <translation>Bogen, Kreis oder Linie wählen; Enter für Scheitel und zwei Punkte</translation>
+    </message>
+    <message>
+        <source>Specify angle vertex</source>
+        <translation>Scheitel des Winkels angeben</translation>
+    </message>
+    <message>
+        <source>Specify first angle endpoint</source>
+        <translation>Ersten Endpunkt des Winkels angeben</translation>
+    </message>
+    <message>
+        <source>Specify second angle endpoint</source>
+        <translation>Zweiten Endpunkt des Winkels angeben</translation>
+    </message>
+    <message>
+        <source>Select second line</source>
+        <translation>Zweite Linie wählen</translation>
+    </message>
+    <message>
+        <source>The lines are parallel.</source>
+        <translation>Die Linien sind parallel.</translation>
+    </message>
+    <message>
+        <source>The object is no line.</source>
+        <translation>Das Objekt ist keine Linie.</translation>
+    </message>
+    <message>
+        <source>The object is no arc, circle or line.</source>
+        <translation>Das Objekt ist kein Bogen, kein Kreis und keine Linie.</translation>
+    </message>
+    <message>
+        <source>Select text to edit</source>
+        <translation>Text zum Bearbeiten wählen</translation>
+    </message>
+    <message>
+        <source>The object has no text of its own.</source>
+        <translation>Das Objekt hat keinen eigenen Text.</translation>
+    </message>
+    <message>
+        <source>Text of the drawing</source>
+        <translation>Text der Zeichnung</translation>
+    </message>
+    <message>
+        <source>Enter takes the text, Esc leaves it as it was.</source>
+        <translation>Enter übernimmt den Text, Esc lässt ihn, wie er war.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter or a click into the drawing takes the text, Esc leaves it as it was.</source>
+        <translation>Strg+Enter oder ein Klick in die Zeichnung übernimmt den Text, Esc lässt ihn, wie er war.</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Erster</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Teilen</translation>
+    </message>
 </context>
 </TS>

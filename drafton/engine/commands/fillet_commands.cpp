@@ -43,6 +43,12 @@ constexpr Way kFillet = {u"Radius = %1", u"Undo Polyline Radius Trim Multiple", 
 constexpr Way kChamfer = {u"Distances = %1, %2", u"Undo Polyline Distance Trim Multiple",
                           kDistances, cutCorner};
 
+/// The drawing gets the sizes that count, also those that were set for a corner that was given up.
+void takeSizes(const CommandContext& context, const Way& way) {
+  for (const Size& size : way.sizes)
+    context.variables().set(size.variable, variable(context, size.variable));
+}
+
 void printSettings(const CommandContext& context, const Way& way) {
   OdString sizes = translated(way.settings);
   for (const Size& size : way.sizes) sizes = sizes.arg(shownReal(variable(context, size.variable)));
@@ -109,6 +115,7 @@ Task<void> treat(CommandContext& context, const Way& way) {
   OdDbDatabase& database = context.database();
   std::vector<OdDbUndoMark> marks;
   bool isMultiple = false;
+  takeSizes(context, way);
   printSettings(context, way);
   for (;;) {
     const QStringView keywords = way.keywords;

@@ -1,4 +1,4 @@
-// DIMLINEAR, DIMALIGNED, DIMCONTINUE, DIMRADIUS, DIMDIAMETER.
+// DIMLINEAR, DIMALIGNED, DIMCONTINUE, DIMBASELINE, DIMRADIUS, DIMDIAMETER, DIMANGULAR.
 
 #include "drafton/engine/value_parser.h"
 #include "drawing/entities/dimension_kinds.h"
@@ -27,6 +27,12 @@ OdString describe(const OdDbDimension& dimension) {
     line = QStringLiteral("diameter: %1 to %2 leader %3")
                .arg(shownPoint(diameter->chordPoint()), shownPoint(diameter->farChordPoint()),
                     shownReal(diameter->leaderLength()));
+  if (const auto* angle = odrxCast<OdDb2LineAngularDimension>(&dimension))
+    line = QStringLiteral("angle of lines: at %1").arg(shownPoint(angle->arcPoint()));
+  if (const auto* angle = odrxCast<OdDb3PointAngularDimension>(&dimension))
+    line = QStringLiteral("angle: %1 %2 %3 at %4")
+               .arg(shownPoint(angle->centerPoint()), shownPoint(angle->xLine1Point()),
+                    shownPoint(angle->xLine2Point()), shownPoint(angle->arcPoint()));
   line += QStringLiteral(" = ") + dimension.displayedText();
   if (dimension.textRotation() != 0)
     line += QStringLiteral(" turned ") + shownAngle(dimension.textRotation());
@@ -94,6 +100,39 @@ constexpr Script kDimensions[] = {
      u"aligned: 0,0,0 10,10,0 line 0,20,0 = 14,14;rotated 45: 10,10,0 30,0,0 line 5,25,0 = 7,07",
      u"DIMALIGNED|0,0|10,10|0,20", describeDimensions},
     {"RowWithoutAStart", u"DIMCONTINUE|l|", u"", u"LINE|0,0|10,0|", describeDimensions},
+    {"Baseline", u"DIMBASELINE|14,0|20,1|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10;rotated 0: 0,0,0 14,0,0 line 14,12.75,0 = 14;"
+     u"rotated 0: 0,0,0 20,1,0 line 20,16.5,0 = 20",
+     u"DIMLINEAR|0,0|10,5|4,9", describeDimensions},
+    {"BaselineBelow", u"DBA|14,0|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,-9,0 = 10;rotated 0: 0,0,0 14,0,0 line 14,-16.5,0 = 14",
+     u"DIMSCALE|2|DIMLINEAR|0,0|10,5|4,-9", describeDimensions},
+    {"BaselineUndone", u"DIMBASELINE|u|14,0|u|20,0|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10;rotated 0: 0,0,0 20,0,0 line 20,12.75,0 = 20",
+     u"DIMLINEAR|0,0|10,5|4,9", describeDimensions},
+    {"BaselineOfASelectedOne", u"DIMBASELINE|s|l|14,0|",
+     u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10;rotated 0: 0,0,0 14,0,0 line 14,12.75,0 = 14",
+     u"DIMLINEAR|0,0|10,5|4,9", describeDimensions},
+    {"BaselineWithoutAStart", u"DIMBASELINE|l|", u"", u"LINE|0,0|10,0|", describeDimensions},
+    {"AngleAtAVertex", u"DIMANGULAR||0,0|10,0|0,10|3,3",
+     u"angle: 0,0,0 10,0,0 0,10,0 at 3,3,0 = 90%%d", nullptr, describeDimensions},
+    {"AngleOutside", u"DIMANGULAR||0,0|0,0|10,0|0,10|-3,-3",
+     u"angle: 0,0,0 10,0,0 0,10,0 at -3,-3,0 = 270%%d", nullptr, describeDimensions},
+    {"AngleOfLines", u"DAN|5,0|0,5|4,4", u"angle of lines: at 4,4,0 = 90%%d",
+     u"LINE|0,0|10,0||LINE|0,0|0,8|", describeDimensions},
+    {"AngleBesideLines", u"DIMANGULAR|5,0|4,4|-4,4", u"angle of lines: at -4,4,0 = 135%%d",
+     u"LINE|0,0|10,0||LINE|0,0|8,8|", describeDimensions},
+    {"AngleOfSides", u"DIMANGULAR|5,0|10,4|t|right|6,3", u"angle of lines: at 6,3,0 = right",
+     u"RECTANG|0,0|10,8", describeDimensions},
+    {"AngleOfAnArc", u"DIMANGULAR|l|60,6", u"angle: 50,0,0 55,0,0 50,5,0 at 60,6,0 = 90%%d",
+     kShapes, describeDimensions},
+    {"AngleOfACircle", u"DIMANGULAR|35,0|30,0|30,9|37,7",
+     u"angle: 30,0,0 35,0,0 30,9,0 at 37,7,0 = 90%%d", kShapes, describeDimensions},
+    {"AngleOfParallels", u"DIMANGULAR|5,0|5,3||", u"", u"LINE|0,0|10,0||LINE|0,3|10,3|",
+     describeDimensions},
+    {"AngleOfALineAndAnArc", u"DIMANGULAR|5,2|l||", u"", kShapes, describeDimensions},
+    {"AngleOfAnEllipse", u"DIMANGULAR|l||0,0|5,0|0,5|3,3",
+     u"angle: 0,0,0 5,0,0 0,5,0 at 3,3,0 = 90%%d", u"ELLIPSE|c|0,20|5,20|3", describeDimensions},
     {"Above", u"DIMLINEAR|0,0|10,5|4,9", u"rotated 0: 0,0,0 10,5,0 line 10,9,0 = 10", nullptr,
      describeDimensions},
     {"Beside", u"DIMLINEAR|0,0|10,5|12,3", u"rotated 90: 0,0,0 10,5,0 line 12,5,0 = 5", nullptr,

@@ -1,4 +1,4 @@
-// Choosing before a command, groups, copies, files of line types.
+// Choosing before a command, groups, copies, files of line types, measuring, editing texts.
 
 #include "drawing/entities/block_reference.h"
 #include "drawing/entities/dimension_kinds.h"
@@ -398,4 +398,94 @@ TEST_F(EditCommands, StretchingNothingSaysSo) {
   runScript(u"LINE|0,0|10,0||STRETCH|20,20|30,30");
   EXPECT_TRUE(console().shows(QStringLiteral("Nothing was found there.")));
   EXPECT_FALSE(isRunning());
+}
+
+TEST_F(EditCommands, ARadiusThatWasSetStaysSetWhenTheCornerIsGivenUp) {
+  const auto size = [this](const char* name) {
+    OdVariant value;
+    variables().get(QLatin1String(name), value);
+    return value.toDouble();
+  };
+  runScript(u"LINE|0,0|10,0||LINE|0,0|0,8||FILLET|r|3|^C");
+  EXPECT_EQ(size("FILLETRAD"), 3);
+  EXPECT_EQ(database().sysVarReal("FILLETRAD"), 10) << "the drawing is as it was";
+  runScript(u"CHAMFER|d|2|1|^C");
+  EXPECT_EQ(size("CHAMFERA"), 2);
+  EXPECT_EQ(size("CHAMFERB"), 1);
+  runScript(u"FILLET|8,0|0,6");
+  EXPECT_TRUE(describeEntities(database()).contains(QLatin1String("ARC 3,3,0 r3")));
+  EXPECT_EQ(database().sysVarReal("FILLETRAD"), 3) << "it is saved with the corner";
+  runScript(u"U|FILLETRAD|0|FILLET|^C");
+  EXPECT_EQ(size("FILLETRAD"), 0) << "what was set last counts";
+}
+
+TEST_F(EditCommands, AreasAreToldInTheUnitsAndThePrecisionOfTheDrawing) {
+  runScript(u"AREA|0,0|4000,0|4000,3000|");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 6000000 mm\u00b2 (6 m\u00b2), "
+                                             "perimeter = 12000 mm")));
+  runScript(u"INSUNITS|6|LUPREC|1|AREA|0,0|1,0|1,0.75|");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 0.4 m\u00b2, perimeter = 3 m")));
+  runScript(u"INSUNITS|1|LUNITS|4|AREA|0,0|36,0|36,48|");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 864 in\u00b2 (6 ft\u00b2), perimeter = 12'")))
+      << output().toStdString();
+  runScript(u"INSUNITS|0|LUNITS|2|LUPREC|4|AREA|0,0|1,0|");
+  EXPECT_TRUE(console().shows(QStringLiteral("An area needs three corners.")));
+  runScript(u"CIRCLE|0,0|1|ARC|c|9,0|10,0|8,0|LINE|0,5|9,5|");
+  database().setSaved();
+  runScript(u"AREA|o|1,0");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 3.1416, perimeter = 6.2832")));
+  runScript(u"AREA||10,0");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 1.5708, length = 3.1416")));
+  runScript(u"AREA||3,5||");
+  EXPECT_TRUE(console().shows(QStringLiteral("The object encloses no area.")));
+  EXPECT_FALSE(database().isModified()) << "nothing was changed";
+}
+
+TEST_F(EditCommands, HatchesTellTheirArea) {
+  runScript(u"INSUNITS|0|RECTANG|0,0|10,8|BHATCH|p|s|5,4||AREA|o|l");
+  EXPECT_TRUE(console().shows(QStringLiteral("Area = 80"))) << output().toStdString();
+}
+
+TEST_F(EditCommands, ValuesOfAnInsertAreEditedOneByOneOrTheOneThatIsPointedAt) {
+  makeInsert();
+  const auto value = [this] {
+    return entityAt(0).openAs<OdDbBlockReference>()->attributes().front()->textString();
+  };
+  runScript(u"TEXTEDIT|l|kitchen|");
+  EXPECT_EQ(value(), QStringLiteral("kitchen"));
+  runScript(u"TEXTEDIT|20,5|bath and hall|");
+  EXPECT_EQ(value(), QStringLiteral("bath and hall"));
+  const auto attribute = entityAt(0).openAs<OdDbBlockReference>()->attributes().front();
+  OdGeExtents3d box;
+  ASSERT_TRUE(attribute->getGeomExtents(box));
+  EXPECT_NEAR((box.minPoint().x + box.maxPoint().x) / 2, 20, 1) << "it stays in the middle";
+  runScript(u"TEXTEDIT|l|\"\"|");
+  EXPECT_EQ(value(), OdString()) << "a value can be empty";
+  runScript(u"U|TEXTEDIT|l|^C");
+  EXPECT_EQ(value(), QStringLiteral("bath and hall"));
+}
+
+TEST_F(EditCommands, TheTextOfADimensionIsEditedAndShown) {
+  runScript(u"DLI|0,0|10,0|5,3|TEXTEDIT|l|about <>|");
+  const auto shown = [this] { return entityAt(0).openAs<OdDbAlignedDimension>()->displayedText(); };
+  EXPECT_EQ(shown(), QStringLiteral("about 10"));
+  std::vector<OdDbEntityPtr> pieces;
+  ASSERT_TRUE(entityAt(0).openAs<OdDbAlignedDimension>()->explode(pieces));
+  OdString drawn;
+  for (const OdDbEntityPtr& piece : pieces)
+    if (const auto* const text = odrxCast<OdDbMText>(piece)) drawn = text->contents();
+  EXPECT_TRUE(drawn.contains(QLatin1String("about 10"))) << drawn.toStdString();
+  runScript(u"TEXTEDIT|l|<>|");
+  EXPECT_EQ(shown(), QStringLiteral("10"));
+  EXPECT_TRUE(entityAt(0).openAs<OdDbDimension>()->dimensionText().isEmpty());
+}
+
+TEST_F(EditCommands, OneTextThatWasChosenBeforeIsEditedAlone) {
+  runScript(u"TEXT|0,0|||one|");
+  document().preselection() = {entityAt(0)};
+  runScript(u"TEXTEDIT|two");
+  EXPECT_FALSE(isRunning());
+  EXPECT_EQ(entityAt(0).openAs<OdDbText>()->textString(), QStringLiteral("two"));
+  runScript(u"U");
+  EXPECT_EQ(entityAt(0).openAs<OdDbText>()->textString(), QStringLiteral("one")) << "one step";
 }

@@ -16,7 +16,7 @@ std::vector<Script> drawingScripts() {
                  zoomScripts(),      setvarScripts(),   layerScripts(),     editScripts(),
                  selectionScripts(), propertyScripts(), shapeScripts(),     dimensionScripts(),
                  hatchScripts(),     boundaryScripts(), blockScripts(),     referenceScripts(),
-                 layoutScripts()});
+                 layoutScripts(),    joiningScripts()});
 }
 
 std::vector<Script> allScripts() {

@@ -31,6 +31,7 @@ std::span<const Script> zoomScripts();
 std::span<const Script> setvarScripts();
 std::span<const Script> layerScripts();
 std::span<const Script> editScripts();
+std::span<const Script> joiningScripts();
 std::span<const Script> selectionScripts();
 std::span<const Script> propertyScripts();
 std::span<const Script> shapeScripts();

@@ -55,6 +55,9 @@ OdString describeVariables(OdDbDatabase& database) {
 
 constexpr Script kVariables[] = {
     {"Measured", u"DIST|0,0|3,4", u""},
+    {"MeasuredArea", u"AREA|0,0|3,0|9,9|u|3,4|", u""},
+    {"MeasuredObject", u"AREA|o|0,0", u"", u"CIRCLE|5,0|5",
+     [](OdDbDatabase&) { return OdString(); }},
     {"Real", u"SETVAR|LTSCALE|2.5", u"2.5 0 0,0,0 256 ", nullptr, describeVariables},
     {"NameInAnyCase", u"SETVAR|ltscale|2.5", u"2.5 0 0,0,0 256 ", nullptr, describeVariables},
     {"Integer", u"SETVAR|PDMODE|34", u"1 34 0,0,0 256 ", nullptr, describeVariables},
