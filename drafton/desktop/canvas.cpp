@@ -197,8 +197,7 @@ void Canvas::changeEvent(QEvent* event) {
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) return showAll();
   const QPointer<Canvas> self(this);
-  m_desktop.catchUp();
-  if (!self || !m_document) return;
+  if (m_desktop.putBehind(*this, *event) || !self || !m_document) return;
   m_cursor = pixelAt(event->position());
   const bool isPlain = event->button() == Qt::LeftButton && !event->modifiers();
   // A box or a zoom that the first of the two clicks began goes on.
