@@ -1,5 +1,6 @@
 #include "persistence/path_macros.h"
 
+#include "frame/file_path.h"
 #include "frame/system_services.h"
 #include "persistence/path_operations.h"
 #include "persistence/value_storage.h"
@@ -37,6 +38,8 @@ PathMacros macrosOfThisMoment() {
   for (const Source& source : kSources) {
     QStringList values = source.values(*storage);
     values.removeAll(OdString());
+    // Settings come as somebody has typed them.
+    for (OdString& value : values) value = odpath::fromPlatform(value);
     macros.push_back({OdString::fromUtf16(source.macro), values});
   }
   return macros;

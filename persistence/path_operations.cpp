@@ -36,14 +36,13 @@ QStringList segmentsOf(const OdString& path) {
   return text.split(kSeparator);
 }
 
-/// The folders that a macro stands for in a file, as stored paths: those of its first value, which
-/// is a whole setting as somebody has typed it.
+/// The folders that a macro stands for in a file: those of its first value, which is a whole
+/// setting as somebody has typed it.
 QStringList foldersOf(const OdTcPathMacro& macro) {
   QStringList folders;
   if (macro.values.isEmpty()) return folders;
   for (const OdString& part : splitPathList(macro.values.first()))
-    if (const OdString folder = part.trimmed(); !folder.isEmpty())
-      folders << odpath::fromPlatform(folder);
+    if (const OdString folder = part.trimmed(); !folder.isEmpty()) folders << folder;
   return folders;
 }
 

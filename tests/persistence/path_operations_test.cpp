@@ -79,6 +79,14 @@ TEST_F(Paths, ExpandTheFirstMacroInOrderOfText) {
   EXPECT_EQ(expanded(u"%UserProfileFolder%\\%ShxFolder%"), "+%UserProfileFolder%\\C:\\f1");
 }
 
+TEST_F(Paths, OfMacrosHaveTheSeparatorsOfFilesHoweverTheSettingIsTyped) {
+  set("ToolPaletteDir", u"/home/me/tools");
+  set("Shx", u"/usr/fonts;/home/me/fonts");
+  EXPECT_EQ(expanded(u"%UserProfileSamplesFolder%\\x"), "+\\home\\me\\tools\\x");
+  EXPECT_EQ(collapsed(u"\\home\\me\\tools\\x"), "+%UserProfileSamplesFolder%\\x");
+  EXPECT_EQ(collapsed(u"\\home\\me\\fonts\\x"), "+%ShxFolder%\\x");
+}
+
 TEST_F(Paths, ExpandTheSamplesFolderAsOneText) {
   set("ToolPaletteDir", u"C:\\a;C:\\b");
   EXPECT_EQ(expanded(u"%UserProfileSamplesFolder%\\x"), "+C:\\a;C:\\b\\x");
