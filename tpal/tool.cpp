@@ -85,7 +85,10 @@ OdString placeOf(const OdString& folder) {
 
 OdString takeMap(Arguments& arguments, const OdString& value) {
   const qsizetype at = value.indexOf(u'=');
-  if (at <= 0) return QStringLiteral("--map needs OLD=NEW, not \"%1\"").arg(value);
+  // Nothing behind it is a variable that the shell does not know: all sources would lie at the
+  // root.
+  if (at <= 0 || at + 1 == value.size())
+    return QStringLiteral("--map needs OLD=NEW, not \"%1\"").arg(value);
   arguments.map.emplace_back(value.left(at), placeOf(value.mid(at + 1)));
   return {};
 }
