@@ -63,6 +63,7 @@ struct Option {
   const char* help;
   TakeValue take;
   bool isRepeated = false;
+  bool isNamed = false; ///< an empty value is none
 };
 
 template <OdString Arguments::*Member>
@@ -112,10 +113,10 @@ OdString takeKinds(Arguments& arguments, const OdString& value) {
 }
 
 constexpr Option kOptions[] = {
-    {"--to", "DIR", "a folder", "where to write instead", takeText<&Arguments::to>},
+    {"--to", "DIR", "a folder", "where to write instead", takeText<&Arguments::to>, false, true},
     {"--into", "DIR", "a folder",
      "the folder of the catalog that takes the palettes; a new one is made if there is none",
-     takeText<&Arguments::into>},
+     takeText<&Arguments::into>, false, true},
     {"--group", "NAME", "a name", "the group that is to hold them; made if it is not there",
      takeText<&Arguments::group>},
     {"--dry-run", nullptr, nullptr, "only looks and reports", takeSwitch<&Arguments::dryRun>},
@@ -222,13 +223,16 @@ std::optional<OdString> parse(const Command& command, const QStringList& words,
     }
     const Option* const option = findOption(command, word);
     if (!option) return QStringLiteral("unknown option %1").arg(word);
-    if (option->value && ++i == words.size())
+    if (option->value && (++i == words.size() || (option->isNamed && words[i].isEmpty())))
       return QStringLiteral("%1 needs %2").arg(word, QLatin1String(option->need));
     const OdString wrong = option->take(arguments, option->value ? words[i] : OdString());
     if (!wrong.isEmpty()) return wrong;
   }
   const qsizetype count = arguments.words.size();
   if (count == 0) return QStringLiteral("a folder is missing");
+  // A variable that the shell does not know must not stand for the root of all files.
+  if (arguments.words.first().isEmpty() || arguments.words.last().isEmpty())
+    return QStringLiteral("an empty word stands for no file or folder");
   if (count < command.leastWords) return QStringLiteral("something is missing");
   if (count > command.mostWords && command.mostWords == 1)
     return QStringLiteral("one folder only, not %1").arg(count);
