@@ -20,13 +20,14 @@ void storePicture(Reading& reading, const char16_t* option, const OdString& file
 struct ValueOption {
   const char16_t* name;
   void (*store)(Reading& reading, const OdString& value);
+  bool isFile = false; ///< an empty value is none
 };
 
 constexpr ValueOption kOptions[] = {
     {u"--catalogs", [](Reading& r, const OdString& value) { r.options.catalogs = value; }},
-    {u"--profile", [](Reading& r, const OdString& value) { r.options.profile = value; }},
-    {u"--script", [](Reading& r, const OdString& value) { r.options.script = value; }},
-    {u"--out", [](Reading& r, const OdString& value) { r.options.out = value; }},
+    {u"--profile", [](Reading& r, const OdString& value) { r.options.profile = value; }, true},
+    {u"--script", [](Reading& r, const OdString& value) { r.options.script = value; }, true},
+    {u"--out", [](Reading& r, const OdString& value) { r.options.out = value; }, true},
     {u"--dxf-version", [](Reading& r, const OdString& value) { r.options.dxfVersion = value; }},
     {u"--png", [](Reading& r, const OdString& value) { storePicture(r, u"--png", value); }},
     {u"--pdf", [](Reading& r, const OdString& value) { storePicture(r, u"--pdf", value); }},
@@ -66,7 +67,11 @@ OdString readOption(const QStringList& arguments, qsizetype& i, Reading& result)
   const ValueOption* const option = findOption(name);
   if (!option) return QStringLiteral("unknown option %1").arg(name);
   if (equals < 0 && i + 1 >= arguments.size()) return QStringLiteral("%1 needs a value").arg(name);
-  option->store(result, equals < 0 ? arguments[++i] : argument.mid(equals + 1));
+  const OdString value = equals < 0 ? arguments[++i] : argument.mid(equals + 1);
+  // A variable that the shell does not know must not do without the file.
+  if (option->isFile && value.isEmpty())
+    return QStringLiteral("%1 needs the name of a file").arg(name);
+  option->store(result, value);
   return {};
 }
 
