@@ -36,16 +36,6 @@ QStringList segmentsOf(const OdString& path) {
   return text.split(kSeparator);
 }
 
-/// The folders that a macro stands for in a file: those of its first value, which is a whole
-/// setting as somebody has typed it.
-QStringList foldersOf(const OdTcPathMacro& macro) {
-  QStringList folders;
-  if (macro.values.isEmpty()) return folders;
-  for (const OdString& part : splitPathList(macro.values.first()))
-    if (const OdString folder = part.trimmed(); !folder.isEmpty()) folders << folder;
-  return folders;
-}
-
 /// The innermost of the folders that the file lies in or below; empty if it lies in none of them.
 OdString folderAround(const OdString& file, const QStringList& folders) {
   const QStringList place = segmentsOf(file);
@@ -58,6 +48,19 @@ OdString folderAround(const OdString& file, const QStringList& folders) {
     depth = around.size();
   }
   return innermost;
+}
+
+/// The folders that a macro stands for in a file: those of its first value, which is a whole
+/// setting as somebody has typed it.
+QStringList foldersOf(const OdTcPathMacro& macro) {
+  QStringList folders;
+  if (macro.values.isEmpty()) return folders;
+  // A folder may have a semicolon in its name, where it is the only one.
+  const QStringList whole(macro.values.first());
+  if (!folderAround(fileOfPathMacros(), whole).isEmpty()) return whole;
+  for (const OdString& part : splitPathList(macro.values.first()))
+    if (const OdString folder = part.trimmed(); !folder.isEmpty()) folders << folder;
+  return folders;
 }
 
 /// Of several folders the one that the file itself lies in, else the first one that has what is

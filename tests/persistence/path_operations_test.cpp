@@ -165,6 +165,8 @@ TEST_F(Paths, OfFilesExpandToTheCatalogThatTheFileIsIn) {
   EXPECT_EQ(inFileAt(u"C:\\b\\inner\\Palettes\\p.dtc"), "C:\\b\\inner\\\\x");
   EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\a\\x") << "the first, where nothing tells";
   EXPECT_EQ(inFileAt(u""), "C:\\a\\x");
+  set("ToolPaletteDir", u"C:\\a;b");
+  EXPECT_EQ(inFileAt(u"C:\\a;b\\Palettes\\p.dtc"), "C:\\a;b\\x") << "one folder of that name";
   set("ToolPaletteDir", u"C:/b");
   EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\b\\x") << "a setting may be typed as the system has paths";
 }
