@@ -134,7 +134,8 @@ std::vector<EditedText> editedTexts(OdDbObjectId id, const std::optional<OdGePoi
     edited.question = QStringLiteral("Enter dimension text");
     edited.now =
         dimension->dimensionText().isEmpty() ? OdString(kMeasured) : dimension->dimensionText();
-    edited.form = TextEditing::kLines;
+    // Hardly ever there are several lines.
+    if (edited.now.contains(QLatin1String("\\P"))) edited.form = TextEditing::kLines;
     edited.place = dimension->textPosition();
   } else {
     return {};

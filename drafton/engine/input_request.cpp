@@ -257,8 +257,11 @@ PreviewShapes InputRequest::preview(const OdGePoint3d& point) const {
   if (!m_numberPreview || !from) return {};
   // As the point would be taken, but for the messages.
   InputRequest asked = *this;
-  if (asked.acceptPoint(point) != Outcome::kAnswered) return {};
-  return m_numberPreview(std::get<double>(asked.m_value));
+  if (asked.acceptPoint(point) == Outcome::kAnswered)
+    return m_numberPreview(std::get<double>(asked.m_value));
+  // On the base the point tells nothing yet, and what Enter takes is shown.
+  const auto* const usual = std::get_if<double>(&m_default);
+  return usual && point == *from ? m_numberPreview(*usual) : PreviewShapes();
 }
 
 } // namespace drafton

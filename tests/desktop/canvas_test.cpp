@@ -188,6 +188,7 @@ TEST_F(CanvasTest, ABlockHangsAtTheCursorThenTurns) {
   picture("insert");
   type("3,4 1\n\n");
   EXPECT_NEAR(onlyShown<OdDbBlockReference>(3, 9)->rotation(), kOdaPi / 2, 1e-9);
+  EXPECT_EQ(onlyShown<OdDbBlockReference>(3, 4)->rotation(), 0) << "as Enter would turn it";
 }
 
 // --- grips

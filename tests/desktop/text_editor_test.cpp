@@ -113,6 +113,19 @@ TEST_F(TextEditorTest, LinesOfAnMTextAreShownAsLines) {
   EXPECT_EQ(text(), QStringLiteral("third"));
 }
 
+TEST_F(TextEditorTest, EnterTakesTheTextOfADimension) {
+  type("DIMLINEAR -5,0 5,0 0,3 ");
+  const auto dimension = [this] { return only<OdDbDimension>(); };
+  const OdGePoint3d middle = dimension()->textPosition();
+  doubleClick(middle.x, middle.y);
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(edit().toPlainText(), QStringLiteral("<>"));
+  QTest::keyClicks(&edit(), QStringLiteral("about <>"));
+  press(Qt::Key_Return);
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(dimension()->displayedText(), QStringLiteral("about 10"));
+}
+
 TEST_F(TextEditorTest, AValueOfAnInsertIsEditedByItselfAndElsewhereAllOfThem) {
   makeInsert();
   doubleClick(6, 6);

@@ -5401,5 +5401,9 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <source>Split</source>
         <translation>Teilen</translation>
     </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
 </context>
 </TS>

@@ -10,6 +10,12 @@
 namespace drafton {
 namespace {
 
+/// The name of a step as users know it. Commands that nobody types, by which tools run, have names
+/// that begin with two underscores.
+OdString shownName(const OdString& step) {
+  return step.startsWith(QLatin1String("__")) ? translated(u"Tool") : step;
+}
+
 /// One command's walk along the undo history.
 class UndoWalk {
  public:
@@ -54,7 +60,7 @@ void UndoWalk::goBack(int count) {
 void UndoWalk::goBackTo(std::size_t target) {
   const std::size_t from = depth();
   while (depth() > target) {
-    m_taken << m_database.undoName();
+    m_taken << shownName(m_database.undoName());
     m_database.undo();
   }
   m_marks.wentBack(from, depth());
@@ -66,7 +72,7 @@ void UndoWalk::goForward() {
   if (!m_database.hasRedo()) return m_context.print(translated(u"There is nothing to redo."));
   const std::size_t target = m_marks.takeRedoTarget(depth());
   while (depth() < target && m_database.hasRedo()) {
-    m_taken << m_database.redoName();
+    m_taken << shownName(m_database.redoName());
     m_database.redo();
   }
   m_marks.settle(depth());

@@ -1,3 +1,4 @@
+#include "drawing/entities/line.h"
 #include "engine/commands/command_fixture.h"
 
 namespace {
@@ -26,6 +27,18 @@ TEST_F(UndoCommands, UndoGoesBackByNumber) {
   EXPECT_TRUE(console().shows(QStringLiteral("LINE LINE LINE")));
   type(QStringLiteral("UNDO \n"));
   EXPECT_EQ(lines(), 1) << "one by default";
+}
+
+TEST_F(UndoCommands, StepsOfToolsAreToldAsThat) {
+  database().startUndoRecord(QStringLiteral("__executetool"));
+  database()
+      .getModelSpaceId()
+      .openAs<OdDbBlockTableRecord>(OdDb::kForWrite)
+      ->appendOdDbEntity(odrxMake<OdDbLine>(OdGePoint3d(), OdGePoint3d(1, 0, 0)));
+  database().endUndoRecord();
+  type(QStringLiteral("U\nREDO\n"));
+  EXPECT_TRUE(console().shows(QStringLiteral("Tool"))) << output().toStdString();
+  EXPECT_FALSE(console().shows(QStringLiteral("__"))) << output().toStdString();
 }
 
 TEST_F(UndoCommands, UndoRefusesNumbersBelowOne) {
