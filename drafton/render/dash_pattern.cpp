@@ -1,25 +1,11 @@
 #include "drafton/render/dash_pattern.h"
 
-#include "drawing/database.h"
+#include "drawing/entities/text_font.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace drafton {
-
-OdGiFont fontOf(OdDbObjectId textStyle) {
-  OdGiFont font;
-  const OdDbObjectPtr object = textStyle.openObject();
-  const auto* style = odrxCast<OdDbTextStyleTableRecord>(object);
-  if (style == nullptr) return font;
-  font.file = style->fileName();
-  font.bigFile = style->bigFontFileName();
-  font.typeface = style->font().typeFace;
-  font.bold = style->font().bold;
-  font.italic = style->font().italic;
-  font.vertical = style->isVertical();
-  return font;
-}
 
 DashPattern::DashPattern(const OdDbLinetypeTableRecord& linetype) {
   for (int i = 0; i < linetype.numDashes(); ++i) {
@@ -28,7 +14,7 @@ DashPattern::DashPattern(const OdDbLinetypeTableRecord& linetype) {
     if (const OdString& text = linetype.textAt(i); !text.isEmpty() || shape != 0) {
       dash.ornament = static_cast<int>(m_ornaments.size());
       m_ornaments.push_back({.text = text,
-                             .font = fontOf(linetype.shapeStyleAt(i)),
+                             .font = oddbFontOf(linetype.shapeStyleAt(i)),
                              .shape = shape,
                              .scale = linetype.shapeScaleAt(i),
                              .angle = linetype.shapeRotationAt(i),

@@ -50,7 +50,4 @@ class DashPattern {
   double m_length = 0;
 };
 
-/// The font of a text style; of no style the usual one.
-OdGiFont fontOf(OdDbObjectId textStyle);
-
 } // namespace drafton

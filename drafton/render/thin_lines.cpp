@@ -21,10 +21,8 @@ bool isFar(const QPointF& p) { return !(std::abs(p.x()) < kFar && std::abs(p.y()
 
 } // namespace
 
-bool clipLine(const QRectF& rect, const QPointF& from, const QPointF& to, double& enters,
+bool narrowTo(const QRectF& rect, const QPointF& from, const QPointF& way, double& enters,
               double& leaves) {
-  enters = 0;
-  leaves = 1;
   const auto cut = [&](double start, double delta, double low, double high) {
     if (delta == 0) return start >= low && start <= high;
     double t0 = (low - start) / delta, t1 = (high - start) / delta;
@@ -33,8 +31,15 @@ bool clipLine(const QRectF& rect, const QPointF& from, const QPointF& to, double
     leaves = std::min(leaves, t1);
     return enters <= leaves;
   };
-  return cut(from.x(), to.x() - from.x(), rect.left(), rect.right()) &&
-         cut(from.y(), to.y() - from.y(), rect.top(), rect.bottom());
+  return cut(from.x(), way.x(), rect.left(), rect.right()) &&
+         cut(from.y(), way.y(), rect.top(), rect.bottom());
+}
+
+bool clipLine(const QRectF& rect, const QPointF& from, const QPointF& to, double& enters,
+              double& leaves) {
+  enters = 0;
+  leaves = 1;
+  return narrowTo(rect, from, to - from, enters, leaves);
 }
 
 bool roundLine(QPointF from, QPointF to, ThinLine& line) {

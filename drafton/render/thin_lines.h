@@ -49,6 +49,10 @@ class ThinLines {
   QRgb m_color = 0; // opaque
 };
 
+/// Narrows the part of a line through `from` that lies between two factors of `way` to what is
+/// inside of a rectangle. False if nothing is.
+bool narrowTo(const QRectF& rect, const QPointF& from, const QPointF& way, double& enters,
+              double& leaves);
 /// Cuts a line at a rectangle. False if nothing of it is inside; else the parts of the way, 0 to 1,
 /// at which it enters and leaves.
 bool clipLine(const QRectF& rect, const QPointF& from, const QPointF& to, double& enters,

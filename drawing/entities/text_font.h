@@ -1,8 +1,8 @@
-// The font of a text style. Not for use outside of the library.
+// The font of a text style.
 #pragma once
 
 #include "drawing/graphics/text_metrics.h"
 #include "drawing/object_id.h"
 
-/// The font that texts of a style are written in; that of the style Standard for a null id.
+/// The font that texts of a style are written in; without a style the usual one, txt.
 OdGiFont oddbFontOf(OdDbObjectId style);
