@@ -1,3 +1,4 @@
+// The root of one catalog file: the implementation.
 #pragma once
 
 #include "catalog/catalog.h"

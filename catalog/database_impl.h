@@ -1,3 +1,4 @@
+// The content of a palette and its file: the implementation.
 #pragma once
 
 #include "catalog/database.h"

@@ -1,3 +1,4 @@
+// What a tool of a foreign palette carries besides its data: the implementation.
 #pragma once
 
 #include "catalog/foreign_tool_records.h"

@@ -1,3 +1,4 @@
+// The tree of groups and what stands in it: the implementation.
 #pragma once
 
 #include "catalog/group.h"

@@ -1,3 +1,4 @@
+// The lists of a group: of groups, and of references to palettes.
 #pragma once
 
 #include "catalog/group.h"

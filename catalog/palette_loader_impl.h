@@ -1,3 +1,4 @@
+// Palette files that a catalog knows of: the implementation.
 #pragma once
 
 #include "catalog/palette_loader.h"

@@ -1,3 +1,4 @@
+// The owner of all loaded catalogs: the implementation.
 #pragma once
 
 #include "catalog/catalog.h"

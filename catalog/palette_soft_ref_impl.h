@@ -1,3 +1,4 @@
+// A reference to a palette, by which it stands in a group.
 #pragma once
 
 #include "catalog/group.h"

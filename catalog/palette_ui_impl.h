@@ -1,3 +1,4 @@
+// The display records of a palette: the implementation.
 #pragma once
 
 #include "catalog/palette_ui.h"

@@ -1,3 +1,4 @@
+// Elements of foreign catalogs that are passed over: the implementation.
 #pragma once
 
 #include "catalog/source.h"

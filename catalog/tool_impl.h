@@ -1,3 +1,4 @@
+// One entry on a palette: the implementation.
 #pragma once
 
 #include "catalog/foreign_tool_records.h"

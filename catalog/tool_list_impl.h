@@ -1,3 +1,4 @@
+// The tools of a palette in storage order: the implementation.
 #pragma once
 
 #include "catalog/tool.h"

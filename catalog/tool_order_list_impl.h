@@ -1,3 +1,4 @@
+// The ids of a palette's tools in the user's order.
 #pragma once
 
 #include "catalog/palette_ui.h"

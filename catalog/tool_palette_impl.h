@@ -1,3 +1,4 @@
+// A palette as the catalog tree shows it: the implementation.
 #pragma once
 
 #include "catalog/database_impl.h"

@@ -9,7 +9,7 @@
 
 namespace tc {
 
-/// Sizes and names of the size kinds.
+/// The width in pixels of a size kind.
 int pixelsOfKind(std::int32_t kind);
 /// The size kind of a width in pixels; 0 if no kind has it.
 std::int32_t kindOfPixels(std::uint32_t pixels);

@@ -14,7 +14,7 @@ struct OdDbVertexData {
     kSplineFrame = 16,    ///< a control point, not shown
     k3dVertex = 32,       ///< of a polyline in space
     k3dMesh = 64,         ///< of a mesh
-    kPolyfaceVertex = 128 ///< of a polyface: with kMeshVertex a place, without it a face
+    kPolyfaceVertex = 128 ///< of a polyface: with k3dMesh a place, without it a face
   };
 
   /// In the plane's coordinates for flat polylines, in the world's for all others.

@@ -52,57 +52,78 @@ std::vector<OdGeVector3d> slopes(const std::vector<OdGePoint3d>& points,
   return right;
 }
 
-} // namespace
-
-OdGeNurbs OdGeNurbs::through(const std::vector<OdGePoint3d>& given,
-                             const OdGeVector3d& startTangent, const OdGeVector3d& endTangent,
-                             bool closed) {
+/// The points without those that repeat the one before; of a closed curve the first ends it.
+std::vector<OdGePoint3d> pathOf(const std::vector<OdGePoint3d>& given, bool closed) {
   std::vector<OdGePoint3d> points;
   for (const OdGePoint3d& p : given)
     if (points.empty() || !(p == points.back())) points.push_back(p);
   if (closed && points.size() > 2 && !(points.front() == points.back()))
     points.push_back(points.front());
-  const std::size_t n = points.size();
-  OdGeNurbs curve;
-  if (n < 2) return curve;
+  return points;
+}
+
+/// The parameters of the points: how far each lies along the chords.
+std::vector<double> chordParams(const std::vector<OdGePoint3d>& points) {
   std::vector<double> params{0};
-  for (std::size_t i = 1; i < n; ++i)
+  for (std::size_t i = 1; i < points.size(); ++i)
     params.push_back(params.back() + points[i].distanceTo(points[i - 1]));
-  std::vector<OdGeVector3d> at;
-  if (closed && n > 3) {
-    // Some neighbours beyond the seam on both sides make the curve go on smoothly there.
-    const std::size_t around = std::min<std::size_t>(n - 1, 8);
-    std::vector<OdGePoint3d> more;
-    std::vector<double> moreParams;
-    const double whole = params.back();
-    for (std::size_t i = n - 1 - around; i + 1 < n; ++i) {
-      more.push_back(points[i]);
-      moreParams.push_back(params[i] - whole);
-    }
-    more.insert(more.end(), points.begin(), points.end());
-    moreParams.insert(moreParams.end(), params.begin(), params.end());
-    for (std::size_t i = 1; i <= around; ++i) {
-      more.push_back(points[i]);
-      moreParams.push_back(params[i] + whole);
-    }
-    const auto all = slopes(more, moreParams, {}, {});
-    at.assign(all.begin() + static_cast<std::ptrdiff_t>(around),
-              all.begin() + static_cast<std::ptrdiff_t>(around + n));
-    at.back() = at.front();
-  } else {
-    at = slopes(points, params, startTangent, endTangent);
+  return params;
+}
+
+/// The slopes of a curve that goes on smoothly where its ends meet.
+std::vector<OdGeVector3d> closedSlopes(const std::vector<OdGePoint3d>& points,
+                                       const std::vector<double>& params) {
+  // Some neighbours beyond the seam on both sides see to that.
+  constexpr std::size_t kNeighbours = 8;
+  const std::size_t n = points.size(), around = std::min(n - 1, kNeighbours);
+  const double whole = params.back();
+  std::vector<OdGePoint3d> more;
+  std::vector<double> moreParams;
+  for (std::size_t i = n - 1 - around; i + 1 < n; ++i) {
+    more.push_back(points[i]);
+    moreParams.push_back(params[i] - whole);
   }
-  // Bezier pieces that share their ends: every knot inside stands twice, since the curve is smooth.
+  more.insert(more.end(), points.begin(), points.end());
+  moreParams.insert(moreParams.end(), params.begin(), params.end());
+  for (std::size_t i = 1; i <= around; ++i) {
+    more.push_back(points[i]);
+    moreParams.push_back(params[i] + whole);
+  }
+  const auto all = slopes(more, moreParams, {}, {});
+  std::vector<OdGeVector3d> at(all.begin() + static_cast<std::ptrdiff_t>(around),
+                               all.begin() + static_cast<std::ptrdiff_t>(around + n));
+  at.back() = at.front();
+  return at;
+}
+
+/// Bezier pieces that share their ends: every knot inside stands twice, since the curve is smooth.
+OdGeNurbs piecesThrough(const std::vector<OdGePoint3d>& points, const std::vector<double>& params,
+                        const std::vector<OdGeVector3d>& at) {
+  OdGeNurbs curve;
   curve.degree = 3;
   curve.knots.assign(4, params.front());
   curve.points.push_back(points.front());
-  for (std::size_t i = 0; i + 1 < n; ++i) {
+  for (std::size_t i = 0; i + 1 < points.size(); ++i) {
     const double third = (params[i + 1] - params[i]) / 3;
     curve.points.push_back(points[i] + at[i] * third);
     curve.points.push_back(points[i + 1] - at[i + 1] * third);
-    if (i + 2 < n) curve.knots.insert(curve.knots.end(), 2, params[i + 1]);
+    if (i + 2 < points.size()) curve.knots.insert(curve.knots.end(), 2, params[i + 1]);
   }
   curve.points.push_back(points.back());
   curve.knots.insert(curve.knots.end(), 4, params.back());
   return curve;
+}
+
+} // namespace
+
+OdGeNurbs OdGeNurbs::through(const std::vector<OdGePoint3d>& given,
+                             const OdGeVector3d& startTangent, const OdGeVector3d& endTangent,
+                             bool closed) {
+  const std::vector<OdGePoint3d> points = pathOf(given, closed);
+  if (points.size() < 2) return {};
+  const std::vector<double> params = chordParams(points);
+  const bool hasSeam = closed && points.size() > 3;
+  return piecesThrough(points, params,
+                       hasSeam ? closedSlopes(points, params)
+                               : slopes(points, params, startTangent, endTangent));
 }

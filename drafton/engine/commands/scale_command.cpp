@@ -26,44 +26,49 @@ Task<double> askReference(CommandContext& context, OdGePoint3d base) {
   co_return wanted.value / reference.value;
 }
 
+struct Scaling {
+  double factor;
+  bool copies;
+};
+
+Task<Scaling> askScaling(CommandContext& context, const Selection& chosen, OdGePoint3d base) {
+  const auto scaled = [&](double value) {
+    return movedShapes(chosen, by(OdGeMatrix3d::scaling(value, base)));
+  };
+  for (bool copies = false;;) {
+    const Answer<double> answer =
+        co_await context.input().distance({.text = u"Specify scale factor",
+                                           .keywords = u"Copy Reference",
+                                           .base = base,
+                                           .defaultValue = DrawingSession::of(context).scale,
+                                           .range = NumberRange::kPositive,
+                                           .preview = scaled});
+    if (answer.isValue()) co_return Scaling{answer.value, copies};
+    if (answer.is(u"Reference")) {
+      const double factor = co_await askReference(context, base);
+      co_return Scaling{factor, copies};
+    }
+    copies = true;
+    context.print(translated(u"Scaling a copy of the selected objects."));
+  }
+}
+
 } // namespace
 
 Task<void> scale(CommandContext& context) {
   const Selection chosen = co_await selectObjects(context);
   if (chosen.empty()) co_return;
   const Answer<OdGePoint3d> base = co_await context.input().point({.text = u"Specify base point"});
-  double& last = DrawingSession::of(context).scale;
-  bool copies = false;
-  std::optional<double> factor;
-  const auto scaled = [&](double value) {
-    return movedShapes(chosen, by(OdGeMatrix3d::scaling(value, base.value)));
-  };
-  while (!factor) {
-    const Answer<double> answer =
-        co_await context.input().distance({.text = u"Specify scale factor",
-                                           .keywords = u"Copy Reference",
-                                           .base = base.value,
-                                           .defaultValue = last,
-                                           .range = NumberRange::kPositive,
-                                           .preview = scaled});
-    if (answer.is(u"Copy")) {
-      copies = true;
-      context.print(translated(u"Scaling a copy of the selected objects."));
-    } else if (answer.is(u"Reference")) {
-      factor = co_await askReference(context, base.value);
-    } else {
-      factor = answer.value;
-    }
-  }
-  last = *factor;
+  const Scaling wanted = co_await askScaling(context, chosen, base.value);
+  DrawingSession::of(context).scale = wanted.factor;
   int tables = 0;
-  const auto grow = [&tables,
-                     scaling = by(OdGeMatrix3d::scaling(*factor, base.value))](OdDbEntity& entity) {
+  const auto grow = [&tables, scaling = by(OdGeMatrix3d::scaling(wanted.factor, base.value))](
+                        OdDbEntity& entity) {
     const bool grows = scaling(entity);
     if (!grows && qstrcmp(entity.dxfName(), "ACAD_TABLE") == 0) ++tables;
     return grows;
   };
-  if (copies)
+  if (wanted.copies)
     copyEntities(context, chosen, grow, u"%1 could not be scaled.");
   else
     moveEntities(context, chosen, grow, u"%1 could not be scaled.");
