@@ -45,7 +45,8 @@ void OdTcExchangeFilerImpl::writeObject(OdTcPersist* object) {
 void OdTcExchangeFilerImpl::writeAttribute(const OdString& name, const OdVariant& value) {
   const bool isPicture =
       m_target && m_target->ValueStr() == "Image" && name == QLatin1String("src");
-  const OdString path = isPicture ? value.toString() : OdString();
+  // Others would take a path that begins with "/" for one from the root.
+  const OdString path = isPicture ? value.toString().replace(u'/', u'\\') : OdString();
   if (path.startsWith(QLatin1String("\\Images\\")))
     OdTcPalettePropertiesFilerImpl::writeAttribute(name, OdVariant(u'.' + path));
   else

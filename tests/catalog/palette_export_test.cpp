@@ -58,6 +58,21 @@ TEST_F(PaletteExportTest, HasTheFormThatOtherProgramsLookFor) {
   EXPECT_EQ(readFile(u"out\\q\\Images\\a.png"_s), png());
 }
 
+TEST_F(PaletteExportTest, PicturesAreFoundHoweverTheirSeparatorsAreWritten) {
+  const auto tools = palette->enumTools();
+  OdTcImageListPtr images;
+  while (OdTcTool* const tool = tools->next())
+    if (tool->name() == u"A"_s) images = tool->images();
+  ASSERT_TRUE(images);
+  const auto all = images->enumImages();
+  while (OdTcImage* const image = all->next())
+    image->setResource(image->src().replace(u'\\', u'/'), {});
+  EXPECT_EQ(text(exportTo(u"out\\q.xtp"_s).problem), "");
+  EXPECT_FALSE(readFile(u"out\\q.xtp"_s).contains("src=\"/"));
+  ASSERT_TRUE(import(stored(u"out\\q.xtp"_s)));
+  EXPECT_EQ(row(u"A"_s).picture, OdTcPictureFate::kFound);
+}
+
 TEST_F(PaletteExportTest, LeavesThePaletteItsOwnSources) {
   writeFile(u"c\\Palettes\\near.dwg"_s, "a drawing");
   OdTcToolActionAgent* agent = nullptr;
