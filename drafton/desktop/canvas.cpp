@@ -34,8 +34,7 @@ Canvas::Canvas(Desktop& desktop, Document& document)
   , m_view(document, m_scene)
   , m_picture(m_scene)
   , m_chooser(document, m_scene, m_view)
-  , m_aids(desktop)
-  , m_editor(new TextEditor(desktop, *this)) {
+  , m_aids(desktop) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::BlankCursor);
@@ -152,7 +151,12 @@ void Canvas::follow() {
 void Canvas::followText() {
   const InputRequest* const asked = request();
   const std::optional<OdGePoint3d> place = asked ? asked->editedPlace() : std::nullopt;
+  if (!m_editor && asked && asked->editing() != TextEditing::kNone)
+    m_editor = new TextEditor(m_desktop, *this);
+  if (!m_editor) return;
   m_editor->follow(asked, place ? widgetPointOf(*place) : QPointF());
+  // It may be what the answer came from.
+  if (!m_editor->isOpen()) std::exchange(m_editor, nullptr)->deleteLater();
 }
 
 // --- looking around
@@ -233,7 +237,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) {
     m_panFrom = m_cursor;
     setCursor(Qt::ClosedHandCursor);
-  } else if (event->button() == Qt::LeftButton && m_editor->isOpen()) {
+  } else if (event->button() == Qt::LeftButton && m_editor) {
     m_editor->submit();
   } else if (event->button() == Qt::LeftButton) {
     moveCursor();

@@ -24,7 +24,8 @@ class Canvas : public QWidget {
 
   Document* document() const { return m_document; }
   CanvasView& view() { return m_view; }
-  TextEditor& textEditor() { return *m_editor; }
+  /// Null while no text is being changed.
+  TextEditor* textEditor() { return m_editor; }
   /// Where a click would go now; nothing while the cursor is elsewhere.
   const std::optional<CursorPlace>& cursorPlace() const { return m_place; }
   /// A drawing's place in the widget's own coordinates.
@@ -99,7 +100,7 @@ class Canvas : public QWidget {
   EntityChooser m_chooser;
   DraftingAids m_aids;
   GripTool m_grips;
-  TextEditor* m_editor;
+  TextEditor* m_editor = nullptr; ///< only while it is open: the canvas has no other parts
 
   std::optional<QPointF> m_cursor; ///< pixels; nothing while it is elsewhere
   std::optional<CursorPlace> m_place;

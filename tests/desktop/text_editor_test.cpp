@@ -21,9 +21,9 @@ class TextEditorTest : public DesktopFixture {
     click(x, y, keys);
     QTest::mouseDClick(&canvas(), Qt::LeftButton, keys, at(x, y));
   }
-  TextEditor& editor() { return canvas().textEditor(); }
+  TextEditor& editor() { return *canvas().textEditor(); }
   QPlainTextEdit& edit() { return editor().edit(); }
-  bool isOpen() { return editor().isOpen() && editor().isVisibleTo(&canvas()); }
+  bool isOpen() { return canvas().textEditor() && editor().isVisibleTo(&canvas()); }
   void press(Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
     QTest::keyClick(&edit(), key, keys);
   }
