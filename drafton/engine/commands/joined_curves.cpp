@@ -7,6 +7,7 @@
 #include "drawing/entities/polyline.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <ranges>
 
@@ -93,7 +94,8 @@ class LinkEnds {
     if (box.isEmpty()) return;
     const OdGePoint3d& low = box.minPoint();
     const OdGePoint3d& high = box.maxPoint();
-    m_near = kNear * (high - low).length();
+    // Numbers too large to calculate with touch only where they are equal.
+    if (const double near = kNear * (high - low).length(); std::isfinite(near)) m_near = near;
     for (Link& link : links) {
       m_ends.emplace(link.sides.front().start.x, &link);
       m_ends.emplace(link.sides.back().end.x, &link);
@@ -152,7 +154,7 @@ std::optional<JoinedCurve> joinedLine(const Selection& curves) {
   if (lines.size() < 2) return std::nullopt;
   const OdGePoint3d origin = lines.front()->startPoint();
   const OdGeVector3d whole = lines.front()->endPoint() - origin;
-  if (whole.isZeroLength()) return std::nullopt;
+  if (whole.isZeroLength() || !std::isfinite(whole.length())) return std::nullopt;
   const OdGeVector3d along = whole.normal();
   double low = 0, high = whole.length();
   for (const OdDbLinePtr& line : lines) {
@@ -162,6 +164,7 @@ std::optional<JoinedCurve> joinedLine(const Selection& curves) {
       high = std::max(high, at);
     }
   }
+  if (!std::isfinite(high - low)) return std::nullopt;
   for (const OdDbLinePtr& line : lines)
     for (const OdGePoint3d& end : {line->startPoint(), line->endPoint()})
       if ((end - origin).crossProduct(along).length() > kNear * (high - low)) return std::nullopt;
