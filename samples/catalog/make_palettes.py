@@ -90,7 +90,7 @@ class Palette:
                 f"<Tools>{''.join(rows)}</Tools></Palette>")
 
 
-def blocks(module, name, description, group, turned=True):
+def blocks(module, name, description, group, turned=True, auxiliary_scale="NONE"):
     """A palette with a tool for each block of a library."""
     library = importlib.import_module(module).LIBRARY
     return Palette(name, description, group, [
@@ -99,7 +99,7 @@ def blocks(module, name, description, group, turned=True):
                    SourceFile=f"..\\..\\blocks\\{library.file}.dxf", InsertAs=1, Scale=1,
                    PromptRotation="TRUE" if turned else "FALSE",
                    PromptAttributes="TRUE" if block.values else "FALSE",
-                   AuxiliaryScale="NONE"))
+                   AuxiliaryScale=auxiliary_scale))
         for block in library.blocks])
 
 
@@ -195,7 +195,8 @@ def all_palettes():
         blocks("windows", "Windows", "Windows of a plan at 1:50", "Building"),
         blocks("furniture", "Furniture", "Furniture and kitchens", "Building"),
         blocks("sanitary", "Sanitary", "Baths, basins and laundry", "Building"),
-        blocks("symbols", "Plan symbols", "Levels, grids, sections, north", "Building"),
+        blocks("symbols", "Plan symbols", "Levels, grids, sections, north; as large as dimensions are",
+               "Building", auxiliary_scale="DIMSCALE"),
         blocks("trees", "Trees", "Trees and shrubs in plan", "Site", turned=False),
         blocks("fasteners", "Fasteners", "Screws, nuts and washers", "Mechanical"),
         blocks("titles", "Title blocks", "Sheets and title blocks with attributes", "Sheets",
