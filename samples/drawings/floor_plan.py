@@ -411,5 +411,7 @@ def script():
     s.layer("A-SYMBOL")
     s.insert("LEVEL-FINISHED", (2200, 1050), 50, values=("%%p0.00",))
     sheets(s)
+    # What is drawn and dimensioned next is as large as what is there.
+    use_dimension_style(s, "MODEL-50")
     s.layer("0")
     return s.text_of()
