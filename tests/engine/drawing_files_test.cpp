@@ -1,6 +1,7 @@
 // Drawings that are converted by other programs.
 #include "drafton/engine/drawing_files.h"
 
+#include "drafton/engine/dwg_converter.h"
 #include "drawing/entities/line.h"
 #include "drawing/objects/layout.h"
 #include "engine/support/engine_fixture.h"
@@ -231,6 +232,18 @@ TEST_F(DrawingFilesTest, AConverterThatIsNotThereIsNamed) {
   open("plan.dwg");
   EXPECT_TRUE(console().shows(QStringLiteral("the converter no-such-converter does not start")))
       << output().toStdString();
+}
+
+TEST(DwgConverterTest, PathsMayLookLikeThePlacesForThem) {
+  const QTemporaryDir folder;
+  const QString from = folder.filePath(QStringLiteral("{output} {input}.dwg"));
+  const QString to = folder.filePath(QStringLiteral("made.dxf"));
+  QFile file(from);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("drawing");
+  file.close();
+  EXPECT_EQ(DwgConverter(QStringLiteral("cp {input} {output}")).convert(from, to, {}), OdString());
+  EXPECT_TRUE(QFile::exists(to));
 }
 
 TEST_F(DrawingFilesTest, ACommandLineWithoutBothFilesIsRefused) {

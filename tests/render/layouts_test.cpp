@@ -1,3 +1,4 @@
+#include "drafton/render/pick.h"
 #include "drafton/render/sheet.h"
 #include "drawing/entities/circle.h"
 #include "drawing/entities/line.h"
@@ -172,6 +173,17 @@ TEST_F(LayoutPictures, SheetsTurnWithTheirMargins) {
   layout->setPlotRotation(OdDbPlotSettings::k0degrees);
   layout->setPlotPaperUnits(OdDbPlotSettings::kInches);
   EXPECT_NEAR(paperOf(*layout).maxPoint().x, 287 / 25.4, 1e-9);
+}
+
+TEST_F(LayoutPictures, WindowsArePickedByTheirEdges) {
+  const OdDbLayoutPtr layout = sheet();
+  const OdDbObjectId frame = window(*layout, 100, 100, 60, 40)->objectId();
+  View view;
+  view.size = {400, 400};
+  view.center = {100, 100};
+  Picker picker(scene(), layout->getBlockTableRecordId(), view);
+  EXPECT_EQ(picker.at(view.projection()(OdGePoint3d{130, 100, 0}), 2), std::vector{frame});
+  EXPECT_TRUE(picker.at(view.projection()(OdGePoint3d{110, 95, 0}), 2).empty());
 }
 
 TEST_F(LayoutPictures, HiddenFramesOfWindowsDoNotHideTheModel) {
