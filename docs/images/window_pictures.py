@@ -64,6 +64,16 @@ class Window:
         self.program.kill()
 
 
+def text_editing(window):
+    window.look_up_places()
+    window.over_point(10850, 3260)
+    window.screen.click(window.place, count=2)
+    window.program.find("text", "Text of the drawing")
+    window.picture("desktop-text")
+    window.screen.key("Escape", "Escape")
+    window.program.find("label", "Command:")
+
+
 def block_at_cursor(window):
     window.program.click("table cell", "Building", count=2)
     window.program.click("table cell", "Furniture")
@@ -95,16 +105,6 @@ def snapped(window):
     window.screen.key("Escape", "Escape")
 
 
-def text_editing(window):
-    window.screen.key("Escape", "Escape")
-    window.over_point(10850, 3260)
-    window.screen.click(window.place, count=2)
-    window.program.find("text", "Text of the drawing")
-    window.picture("desktop-text")
-    window.screen.key("Escape", "Escape")
-    window.program.find("label", "Command:")
-
-
 def page_setup(window):
     window.program.click("page tab", "Ground_floor_1-50")
     window.program.find("label", "Command:")
@@ -118,9 +118,8 @@ def whole(name):
     return lambda window: (window.over(0.9, 0.3), window.picture(name))
 
 
-PICTURES = [("Light", [whole("desktop"), block_at_cursor, chosen_line, snapped,
-                       text_editing, page_setup]),
-            ("Dark", [whole("desktop-dark")])]
+PICTURES = [("Light", [whole("desktop"), block_at_cursor, chosen_line, snapped, page_setup]),
+            ("Light", [text_editing]), ("Dark", [whole("desktop-dark")])]
 
 
 def main(programs):
