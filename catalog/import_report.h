@@ -47,8 +47,9 @@ struct OdTcImportReport {
   OdString file;
   OdString palette; ///< its name in the catalog
   OdString id;
-  OdString problem;        ///< why nothing came in; empty if the palette is in, or would be
-  bool isUnreadable = false; ///< true if the file itself is at fault, and no message box has said so
+  OdString problem; ///< why nothing came in; empty if the palette is in, or would be
+  bool isUnreadable =
+      false; ///< true if the file itself is at fault, and no message box has said so
   /// What is worth knowing of the file as a whole.
   QStringList notes;
   std::vector<OdTcImportedTool> tools;

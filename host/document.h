@@ -10,7 +10,8 @@ class IHostVariables;
 /// Accepts typed text.
 class IHostCommandInput {
  public:
-  /// Queues text on the document's command line, as if it were typed by a macro: `^C` cancels, `^M`,
+  /// Queues text on the document's command line, as if it were typed by a macro: `^C` cancels,
+  /// `^M`,
   /// ';' and a line break are Enter, a blank ends a word (at a text prompt it does not), `\` pauses
   /// for the user, `_` and `.` before a command name are passed over. Returns at once; the text is
   /// taken up, all pieces as one, when control is back in the host.

@@ -225,6 +225,8 @@ bool Canvas::openAtCursor() {
   } else {
     m_document->preselection() = {top};
     m_desktop.runMacro(QStringLiteral("^C^C_TEXTEDIT "));
+    // Where what is chosen first does not count, it is chosen now.
+    if (const InputRequest* const asked = request(); asked && asked->picks()) press({});
   }
   return true;
 }
@@ -237,7 +239,7 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) {
     m_panFrom = m_cursor;
     setCursor(Qt::ClosedHandCursor);
-  } else if (event->button() == Qt::LeftButton && m_editor) {
+  } else if (m_editor) {
     m_editor->submit();
   } else if (event->button() == Qt::LeftButton) {
     moveCursor();

@@ -29,6 +29,8 @@ bool EventInput::waitForInput() {
   if (m_isStopped || !m_engine || m_engine->isExiting()) return false;
   Q_EMIT settled();
   const QScopedValueRollback collecting(m_isCollecting, false);
+  // What was to take it up may have come while input was collected.
+  if (std::exchange(m_isQueued, false)) inputQueued();
   QEventLoop loop;
   m_loops.push_back(&loop);
   loop.exec();

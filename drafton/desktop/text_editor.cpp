@@ -32,7 +32,23 @@ OdString linesOf(const OdString& codes) {
   return lines;
 }
 
-OdString codesOf(OdString lines) { return lines.replace(u'\n', QStringLiteral("\\P")); }
+/// A `\` that stands alone at the end of a line would make a letter of the line break's code.
+OdString codesOf(const OdString& lines) {
+  QStringList codes = lines.split(u'\n');
+  for (OdString& line : codes) {
+    const auto other =
+        std::find_if(line.crbegin(), line.crend(), [](QChar c) { return c != u'\\'; });
+    if ((other - line.crbegin()) % 2 == 1) line += u'\\';
+  }
+  return codes.join(QLatin1String("\\P"));
+}
+
+/// What stands in it, with the blanks as they are; a plain text would not tell those that hold
+/// words together.
+OdString textOf(const QPlainTextEdit& edit) {
+  OdString text = edit.document()->toRawText();
+  return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
 
 } // namespace
 
@@ -66,7 +82,7 @@ TextEditor::TextEditor(Desktop& desktop, QWidget& canvas)
 
 void TextEditor::follow(const InputRequest* asked, const QPointF& corner) {
   if (!asked || asked->editing() == TextEditing::kNone) return close();
-  if (!m_isOpen || m_asked != asked->shown()) open(*asked);
+  if (!m_isOpen || m_asked != asked->shown() || m_former != asked->editedText()) open(*asked);
   fit(corner);
 }
 
@@ -74,6 +90,7 @@ void TextEditor::open(const InputRequest& asked) {
   m_isOpen = true;
   m_hasLines = asked.editing() == TextEditing::kLines;
   m_asked = asked.shown();
+  m_former = asked.editedText();
   // Without the text itself.
   m_question->setText(m_asked.section(QStringLiteral(" <"), 0, 0));
   m_hint->setText(m_hasLines ? translated(u"Ctrl+Enter or a click into the drawing takes the text, "
@@ -112,14 +129,15 @@ void TextEditor::fit(const QPointF& corner) {
                                                    : layout()->sizeHint().height();
   resize(width, height);
   const auto within = [](double wanted, int size, int whole) {
-    return std::max(kGap, std::min(qRound(wanted), whole - kGap - size));
+    return std::max(kGap, std::min(qRound(std::min<double>(whole, std::max(0.0, wanted))),
+                                   whole - kGap - size));
   };
   move(within(corner.x(), width, parentWidget()->width()),
        within(corner.y(), height, parentWidget()->height()));
 }
 
 void TextEditor::submit() {
-  const OdString text = m_edit->toPlainText();
+  const OdString text = textOf(*m_edit);
   close();
   m_desktop.giveText(m_hasLines ? codesOf(text) : OdString(text).replace(u'\n', u' '));
 }

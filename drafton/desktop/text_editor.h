@@ -40,7 +40,8 @@ class TextEditor : public QFrame {
   QLabel* m_hint;
   bool m_isOpen = false;
   bool m_hasLines = false;
-  OdString m_asked; ///< what it was opened for
+  OdString m_asked;  ///< what it was opened for
+  OdString m_former; ///< the text then
 };
 
 } // namespace drafton

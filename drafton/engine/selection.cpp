@@ -139,7 +139,8 @@ bool picksGroups(CommandContext& context) {
   return context.variables().get(QStringLiteral("PICKSTYLE"), style) && (style.toInt32() & 1);
 }
 
-/// What was chosen before the command; empty if nothing was, or it shall not count.
+} // namespace
+
 Selection takePreselection(CommandContext& context) {
   const Selection before = std::exchange(context.document().preselection(), {});
   OdVariant counts;
@@ -147,8 +148,6 @@ Selection takePreselection(CommandContext& context) {
     return {};
   return SelectionPicker(context.document()).amongst(before);
 }
-
-} // namespace
 
 Task<Selection> selectObjects(CommandContext& context, QStringView prompt) {
   const OdString question = prompt.toString();

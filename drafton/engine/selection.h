@@ -19,6 +19,10 @@ namespace drafton {
 /// Empty if nothing was chosen. What is chosen becomes "Previous".
 Task<Selection> selectObjects(CommandContext& context, QStringView prompt = u"Select objects");
 
+/// What was chosen before the command, which is not chosen any more; empty if nothing was, or it
+/// shall not count.
+Selection takePreselection(CommandContext& context);
+
 /// One entity, and where it was pointed at.
 struct PickedEntity {
   OdDbObjectId id; ///< null if Enter or a keyword was given

@@ -90,6 +90,9 @@ OdString oddb::lengthText(double value, int unit, int decimals, int zeros,
   const QChar separator(vars.dimdsep > 0 ? vars.dimdsep : u'.');
   const OdString sign = value < 0 ? QStringLiteral("-") : OdString();
   const double size = std::abs(value);
+  // Larger numbers have no fractions, and as decimal ones they are told exactly.
+  constexpr double kMostParts = 1e12;
+  if (unit != kScientific && !(size <= kMostParts)) unit = kDecimal;
   switch (unit) {
   case kScientific:
     return sign + OdString::number(size, 'E', std::clamp(decimals, 0, 15)).replace(u'.', separator);

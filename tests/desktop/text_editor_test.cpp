@@ -113,6 +113,59 @@ TEST_F(TextEditorTest, LinesOfAnMTextAreShownAsLines) {
   EXPECT_EQ(text(), QStringLiteral("third"));
 }
 
+TEST_F(TextEditorTest, AClickWithTheOtherButtonTakesItToo) {
+  type("TEXT 0,0 2 0\none\n\n");
+  doubleClick(1, 1);
+  ASSERT_TRUE(isOpen());
+  QTest::keyClicks(&edit(), QStringLiteral("two"));
+  QTest::mouseClick(&canvas(), Qt::RightButton, {}, at(15, -10));
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(text(), QStringLiteral("two"));
+}
+
+TEST_F(TextEditorTest, ADoubleClickEditsWhereWhatIsChosenFirstDoesNotCount) {
+  type("TEXT 0,0 2 0\none\n\nPICKFIRST 0 ");
+  doubleClick(1, 1);
+  ASSERT_TRUE(isOpen());
+  QTest::keyClicks(&edit(), QStringLiteral("two"));
+  press(Qt::Key_Return);
+  EXPECT_EQ(text(), QStringLiteral("two"));
+}
+
+TEST_F(TextEditorTest, BlanksThatHoldWordsTogetherStay) {
+  const OdString words = QStringLiteral("10\u00a0mm");
+  desktop().type(QStringLiteral("TEXT 0,0 2 0\n%1\n\n").arg(words));
+  const auto steps = database().undoDepth();
+  doubleClick(1, 1);
+  ASSERT_TRUE(isOpen());
+  press(Qt::Key_Return);
+  EXPECT_EQ(text(), words);
+  EXPECT_EQ(database().undoDepth(), steps);
+}
+
+TEST_F(TextEditorTest, ASlashAtTheEndOfALineLeavesTheLineBreakOne) {
+  type("MTEXT -5,5 5,0\none\n\n");
+  doubleClick(-4.5, 4);
+  ASSERT_TRUE(isOpen());
+  edit().setPlainText(QStringLiteral("C:\\\nD:\\\\\nend"));
+  press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(text(), QStringLiteral("C:\\\\\\PD:\\\\\\Pend"));
+}
+
+TEST_F(TextEditorTest, WhatWasTypedIsThereAgainAfterALookAtAnotherDrawing) {
+  type("TEXT 0,0 2 0\none\n\n");
+  doubleClick(1, 1);
+  ASSERT_TRUE(isOpen());
+  QTest::keyClicks(&edit(), QStringLiteral("two"));
+  window().files().newDrawing();
+  type("LINE 0,0 1,1  ");
+  window().documents().documentTabs().setCurrentIndex(0);
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(edit().toPlainText(), QStringLiteral("two"));
+  press(Qt::Key_Return);
+  EXPECT_EQ(text(), QStringLiteral("two"));
+}
+
 TEST_F(TextEditorTest, EnterTakesTheTextOfADimension) {
   type("DIMLINEAR -5,0 5,0 0,3 ");
   const auto dimension = [this] { return only<OdDbDimension>(); };

@@ -5290,6 +5290,10 @@ Der Block "%s" der Zeichnung enthält sich selbst
         <translation>Das Objekt umschließt keine Fläche.</translation>
     </message>
     <message>
+        <source>The area is too large to calculate with.</source>
+        <translation>Die Fläche ist zu groß, um mit ihr zu rechnen.</translation>
+    </message>
+    <message>
         <source>An area needs three corners.</source>
         <translation>Eine Fläche braucht drei Ecken.</translation>
     </message>

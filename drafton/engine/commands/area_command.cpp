@@ -21,6 +21,8 @@ OdDbPolylinePtr around(const std::vector<OdGePoint3d>& corners) {
 
 void tell(CommandContext& context, const OdDbCurve& curve) {
   const OdDbDatabase& database = context.database();
+  if (!std::isfinite(curve.getArea()) || !std::isfinite(curve.length()))
+    return context.print(translated(u"The area is too large to calculate with."));
   const char16_t* const text =
       curve.isClosed() ? u"Area = %1, perimeter = %2" : u"Area = %1, length = %2";
   context.print(translated(text).arg(shownArea(database, curve.getArea()),

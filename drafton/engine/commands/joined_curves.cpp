@@ -8,14 +8,20 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <ranges>
+#include <utility>
 
 namespace drafton {
 namespace {
 
 /// Places that differ by less, measured by how large things are, are one.
 constexpr double kNear = 1e-8;
+/// Ends that differ by less, measured by the largest coordinate, touch: what numbers lose on their
+/// way through calculations and files, and no gap that somebody has drawn.
+constexpr double kTouching = 1e-11;
 
 template <class Entity>
 std::vector<OdSmartPtr<Entity>> allOf(const Selection& curves) {
@@ -87,18 +93,14 @@ struct Link {
 class LinkEnds {
  public:
   explicit LinkEnds(std::vector<Link>& links) {
-    OdGeExtents3d box;
+    double largest = 0;
     for (const Link& link : links)
       for (const OdGePoint3d& end : {link.sides.front().start, link.sides.back().end})
-        box.addPoint(end);
-    if (box.isEmpty()) return;
-    const OdGePoint3d& low = box.minPoint();
-    const OdGePoint3d& high = box.maxPoint();
-    // Numbers too large to calculate with touch only where they are equal.
-    if (const double near = kNear * (high - low).length(); std::isfinite(near)) m_near = near;
+        largest = std::max({largest, std::abs(end.x), std::abs(end.y), std::abs(end.z)});
+    m_near = kTouching * largest;
     for (Link& link : links) {
-      m_ends.emplace(link.sides.front().start.x, &link);
-      m_ends.emplace(link.sides.back().end.x, &link);
+      m_ends.emplace(cellOf(link.sides.front().start), &link);
+      m_ends.emplace(cellOf(link.sides.back().end), &link);
     }
   }
 
@@ -107,8 +109,26 @@ class LinkEnds {
   }
   /// One that is not used yet and begins or ends at a point, turned so that it begins there.
   Link* takeFrom(const OdGePoint3d& point) {
-    const auto last = m_ends.upper_bound(point.x + m_near);
-    for (auto at = m_ends.lower_bound(point.x - m_near); at != last;) {
+    const Cell middle = cellOf(point);
+    for (std::int64_t x = middle.first - 1; x <= middle.first + 1; ++x)
+      for (std::int64_t y = middle.second - 1; y <= middle.second + 1; ++y)
+        if (Link* const link = takeFrom({x, y}, point)) return link;
+    return nullptr;
+  }
+
+ private:
+  using Cell = std::pair<std::int64_t, std::int64_t>;
+
+  /// Of a grid so wide that points which are one lie in the same cell or in neighbours.
+  Cell cellOf(const OdGePoint3d& point) const {
+    const auto across = [&](double value) {
+      return m_near > 0 ? static_cast<std::int64_t>(std::floor(value / (2 * m_near))) : 0;
+    };
+    return {across(point.x), across(point.y)};
+  }
+  Link* takeFrom(const Cell& cell, const OdGePoint3d& point) {
+    const auto [first, last] = m_ends.equal_range(cell);
+    for (auto at = first; at != last;) {
       Link& link = *at->second;
       if (link.isUsed) {
         at = m_ends.erase(at);
@@ -125,10 +145,30 @@ class LinkEnds {
     return nullptr;
   }
 
- private:
-  std::multimap<double, Link*> m_ends; ///< by x
+  std::multimap<Cell, Link*> m_ends;
   double m_near = 0;
 };
+
+/// Angles from the start of the first of several arcs.
+struct Reach {
+  double from, to;
+};
+
+/// Of arcs that are joined counterclockwise from the first, over the gaps between them. What runs
+/// into the first from before its start is joined in front of it.
+Reach joinedReach(std::vector<Reach> reaches) {
+  constexpr double kRound = 2 * kOdaPi;
+  std::ranges::sort(reaches, std::greater(), &Reach::to);
+  Reach whole{kRound, 0};
+  for (const Reach& reach : reaches) {
+    if (reach.to >= whole.from - kNear)
+      whole.from = std::min(whole.from, reach.from);
+    else
+      whole.to = std::max(whole.to, reach.to);
+    whole.to = std::max(whole.to, reach.to - kRound);
+  }
+  return {whole.from - kRound, std::min(whole.to, whole.from)};
+}
 
 OdDbPolylinePtr polylineAlong(const Sides& sides, bool isClosed) {
   const OdDbPolylinePtr polyline = odrxMake<OdDbPolyline>();
@@ -179,7 +219,7 @@ std::optional<JoinedCurve> joinedArc(const Selection& curves) {
   if (arcs.size() < 2) return std::nullopt;
   const OdDbArcPtr& first = arcs.front();
   const double start = first->startAngle(), radius = first->radius();
-  double sweep = 0;
+  std::vector<Reach> reaches;
   for (const OdDbArcPtr& arc : arcs) {
     if (arc->center().distanceTo(first->center()) > kNear * radius ||
         std::abs(arc->radius() - radius) > kNear * radius ||
@@ -187,16 +227,18 @@ std::optional<JoinedCurve> joinedArc(const Selection& curves) {
       return std::nullopt;
     double from = odgeNormalAngle(arc->startAngle() - start);
     if (2 * kOdaPi - from <= kNear) from = 0;
-    sweep = std::max(sweep, from + odgeNormalAngle(arc->endAngle() - arc->startAngle()));
+    reaches.push_back({from, from + odgeNormalAngle(arc->endAngle() - arc->startAngle())});
   }
-  if (sweep >= 2 * kOdaPi - kNear) {
+  const Reach whole = joinedReach(std::move(reaches));
+  if (whole.to - whole.from >= 2 * kOdaPi - kNear) {
     const auto circle = odrxMake<OdDbCircle>(first->center(), first->normal(), radius);
     circle->setThickness(first->thickness());
     circle->setPropertiesFrom(*first);
     return JoinedCurve{circle, curves};
   }
   const OdDbArcPtr joined = first->clone();
-  joined->setEndAngle(odgeNormalAngle(start + sweep));
+  joined->setStartAngle(odgeNormalAngle(start + whole.from));
+  joined->setEndAngle(odgeNormalAngle(start + whole.to));
   return JoinedCurve{joined, curves};
 }
 

@@ -44,8 +44,10 @@ OdString squared(double area, int decimals, const UnitSign& unit) {
 OdString shownLength(const OdDbDatabase& database, double length) {
   OdDbDimVarValues point;
   point.dimdsep = u'.';
-  return oddb::lengthText(length, static_cast<int>(database.sysVarInt("LUNITS")),
-                          static_cast<int>(database.sysVarInt("LUPREC")), kNoTrailingZeros, point);
+  const OdString shown =
+      oddb::lengthText(length, static_cast<int>(database.sysVarInt("LUNITS")),
+                       static_cast<int>(database.sysVarInt("LUPREC")), kNoTrailingZeros, point);
+  return shown == QLatin1String("-0") ? QStringLiteral("0") : shown;
 }
 
 OdString shownLengthWithUnit(const OdDbDatabase& database, double length) {

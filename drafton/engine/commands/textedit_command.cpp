@@ -32,13 +32,10 @@ Task<void> editAll(CommandContext& context, std::vector<EditedText> texts) {
 
 /// The texts of the one entity that was chosen before, at the cursor of a window.
 std::vector<EditedText> preselected(CommandContext& context) {
-  Selection& before = context.document().preselection();
-  const double reach = SelectionPicker(context.document()).reach();
+  const Selection before = takePreselection(context);
   if (before.size() != 1) return {};
-  const std::vector<EditedText> texts =
-      editedTexts(before.front(), context.document().processor().cursor(), reach);
-  if (!texts.empty()) before.clear();
-  return texts;
+  return editedTexts(before.front(), context.document().processor().cursor(),
+                     SelectionPicker(context.document()).reach());
 }
 
 } // namespace

@@ -480,6 +480,30 @@ TEST_F(EditCommands, TheTextOfADimensionIsEditedAndShown) {
   EXPECT_TRUE(entityAt(0).openAs<OdDbDimension>()->dimensionText().isEmpty());
 }
 
+TEST_F(EditCommands, NumbersBeyondAllFractionsAreToldWhole) {
+  runScript(u"AREA|-1e308,-1e308|1e308,-1e308|1e308,1e308|");
+  EXPECT_TRUE(console().shows(QStringLiteral("The area is too large to calculate with.")));
+  runScript(u"DIST|0,0|1e-9,-1e-9");
+  EXPECT_TRUE(console().shows(QStringLiteral("Delta X = 0, Y = 0, Z = 0")));
+  for (const char16_t* script :
+       {u"LUNITS|3|DIST|0,0|1e19,0", u"LUNITS|4|DIST|0,0|1e19,0", u"LUNITS|5|DIST|0,0|1e19,0"}) {
+    console().clear();
+    runScript(script);
+    EXPECT_TRUE(console().shows(QStringLiteral("Distance = 10000000000000000000, ")))
+        << output().toStdString();
+  }
+}
+
+TEST_F(EditCommands, ATextOnALockedLayerIsNotEditedThoughItWasChosenBefore) {
+  runScript(u"TEXT|0,0|||one||LAYER|LO|0|");
+  for (const char16_t* script : {u"TEXTEDIT|two|", u"LAYER|U|0||PICKFIRST|0|TEXTEDIT|two|"}) {
+    document().preselection() = {entityAt(0)};
+    runScript(script);
+    runScript(u"^C");
+    EXPECT_EQ(entityAt(0).openAs<OdDbText>()->textString(), QStringLiteral("one"));
+  }
+}
+
 TEST_F(EditCommands, OneTextThatWasChosenBeforeIsEditedAlone) {
   runScript(u"TEXT|0,0|||one|");
   document().preselection() = {entityAt(0)};
