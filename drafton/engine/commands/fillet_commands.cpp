@@ -1,6 +1,7 @@
 // FILLET and CHAMFER.
 
 #include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/command_steps.h"
 #include "drafton/engine/commands/corner_joining.h"
 #include "drafton/engine/translator.h"
 #include "drafton/engine/value_parser.h"
@@ -122,12 +123,7 @@ Task<void> treat(CommandContext& context, const Way& way) {
     const PickedEntity picked = co_await selectEntity(context, u"Select first object", keywords);
     bool isDone = false;
     if (picked.keyword == QLatin1String("Undo")) {
-      if (marks.empty()) {
-        context.print(translated(u"There is nothing to undo."));
-      } else {
-        database.rollbackTo(marks.back());
-        marks.pop_back();
-      }
+      takeBackStep(context, marks);
     } else if (picked.keyword == QLatin1String("Multiple")) {
       isMultiple = true;
     } else if (picked.keyword == QLatin1String("Trim")) {

@@ -1,6 +1,7 @@
 // TEXTEDIT.
 
 #include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/command_steps.h"
 #include "drafton/engine/document.h"
 #include "drafton/engine/edited_texts.h"
 #include "drafton/engine/selection.h"
@@ -41,7 +42,6 @@ std::vector<EditedText> preselected(CommandContext& context) {
 } // namespace
 
 Task<void> editText(CommandContext& context) {
-  OdDbDatabase& database = context.database();
   if (const std::vector<EditedText> texts = preselected(context); !texts.empty()) {
     co_await editAll(context, texts);
     co_return;
@@ -51,12 +51,7 @@ Task<void> editText(CommandContext& context) {
   for (;;) {
     const PickedEntity picked = co_await selectEntity(context, u"Select text to edit", u"Undo");
     if (picked.keyword == QLatin1String("Undo")) {
-      if (marks.empty()) {
-        context.print(translated(u"There is nothing to undo."));
-        continue;
-      }
-      database.rollbackTo(marks.back());
-      marks.pop_back();
+      takeBackStep(context, marks);
     } else if (picked.id.isNull()) {
       co_return;
     } else if (const auto texts = editedTexts(
@@ -64,7 +59,7 @@ Task<void> editText(CommandContext& context) {
                texts.empty()) {
       context.print(translated(u"The object has no text of its own."));
     } else {
-      marks.push_back(database.undoMark());
+      marks.push_back(context.database().undoMark());
       co_await editAll(context, texts);
     }
   }

@@ -1,6 +1,7 @@
 // TRIM and EXTEND.
 
 #include "drafton/engine/commands/command_bodies.h"
+#include "drafton/engine/commands/command_steps.h"
 #include "drafton/engine/commands/curve_cutting.h"
 #include "drafton/engine/selection.h"
 #include "drafton/engine/translator.h"
@@ -52,12 +53,7 @@ Task<void> changeMany(CommandContext& context, const Way& way) {
   for (;;) {
     const PickedEntity picked = co_await selectEntity(context, way.object, u"Undo");
     if (picked.keyword == QLatin1String("Undo")) {
-      if (marks.empty()) {
-        context.print(translated(u"There is nothing to undo."));
-        continue;
-      }
-      database.rollbackTo(marks.back());
-      marks.pop_back();
+      takeBackStep(context, marks);
       continue;
     }
     if (picked.id.isNull()) co_return;

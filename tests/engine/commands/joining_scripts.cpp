@@ -78,6 +78,8 @@ constexpr Script kJoining[] = {
      u"TEXT|j|r|20,0|5|0|ab|"},
     {"EditTextUndone", u"TEXTEDIT|l|two|l|three|u|", u"TEXT \"two\" at 0,0,0 h2.5",
      u"TEXT|0,0|||one|"},
+    {"EditTextUndoneTwice", u"TEXTEDIT|l|two|l|three|u|u|", u"TEXT \"one\" at 0,0,0 h2.5",
+     u"TEXT|0,0|||one|"},
     {"EditTextNothingToUndo", u"TEXTEDIT|u|", u"TEXT \"one\" at 0,0,0 h2.5", u"TEXT|0,0|||one|"},
     {"EditLines", u"TEXTEDIT|l|one\\Ptwo|", u"MTEXT \"one\\Ptwo\" at 0,10,0 h2.5 w20 1",
      u"MTEXT|0,0|20,10|abc|"},
