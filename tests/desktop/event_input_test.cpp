@@ -112,6 +112,16 @@ TEST_F(WaitingModuleTest, IsAnsweredWhereWhatWasPutOffWaits) {
   EXPECT_EQ(g_answer, QStringLiteral("sent"));
 }
 
+TEST_F(WaitingModuleTest, HearsOfWhatIsSentThoughSomethingWasSentBeforeItWaited) {
+  document().processor().sendText(QStringLiteral(" "));
+  QMetaObject::invokeMethod(
+      qApp, [&] { document().processor().run(QStringLiteral("ASKME"), nullptr); },
+      Qt::QueuedConnection);
+  later([&] { document().processor().sendText(QStringLiteral("sent ")); });
+  press(Qt::Key_Escape);
+  EXPECT_EQ(g_answer, QStringLiteral("sent"));
+}
+
 TEST_F(WaitingModuleTest, WhatItRunsGetsTheClickRightBehindIt) {
   RegisteredCommand command;
   command.name = QStringLiteral("RUNLINE");

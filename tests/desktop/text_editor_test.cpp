@@ -209,6 +209,23 @@ TEST_F(TextEditorTest, AValueOfAnInsertIsEditedByItselfAndElsewhereAllOfThem) {
   EXPECT_EQ(values(), (QStringList{QStringLiteral("hall"), QStringLiteral("12 m2")})) << "one step";
 }
 
+TEST_F(TextEditorTest, TheNextTextIsShownThoughItIsAskedForInTheSameWords) {
+  const OdString start(70, u'x');
+  TextEditor own(desktop(), canvas());
+  const auto follow = [&](const OdString& text) {
+    const InputRequest asked(StringPrompt{
+        .text = u"Value", .defaultValue = QStringView(text), .edits = TextEditing::kLine});
+    own.follow(&asked, {});
+    return asked.shown();
+  };
+  const OdString shown = follow(start + u'1');
+  own.edit().setPlainText(QStringLiteral("typed"));
+  EXPECT_EQ(follow(start + u'1'), shown);
+  EXPECT_EQ(own.edit().toPlainText(), QStringLiteral("typed")) << "it is still the same text";
+  EXPECT_EQ(follow(start + u'2'), shown) << "of a long text the beginning is shown";
+  EXPECT_EQ(own.edit().toPlainText(), start + u'2');
+}
+
 TEST_F(TextEditorTest, OfWhatHasNoTextTheInspectorIsShown) {
   type("LINE -5,0 5,0  ");
   auto* const inspector = window().findChild<QDockWidget*>(QStringLiteral("inspector"));

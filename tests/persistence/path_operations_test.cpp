@@ -163,6 +163,8 @@ TEST_F(Paths, OfFilesExpandToTheCatalogThatTheFileIsIn) {
   EXPECT_EQ(inFileAt(u"C:\\b\\Palettes\\p.dtc"), "C:\\b\\x");
   EXPECT_EQ(inFileAt(u"C:\\bb\\Palettes\\p.dtc"), "C:\\bb\\x");
   EXPECT_EQ(inFileAt(u"C:\\b\\inner\\Palettes\\p.dtc"), "C:\\b\\inner\\\\x");
+  set("ToolPaletteDir", u"C:\\a;C:\\b\\inner\\;C:\\b");
+  EXPECT_EQ(inFileAt(u"C:\\b\\inner\\Palettes\\p.dtc"), "C:\\b\\inner\\\\x");
   EXPECT_EQ(inFileAt(u"D:\\p.xtp"), "C:\\a\\x") << "the first, where nothing tells";
   EXPECT_EQ(inFileAt(u""), "C:\\a\\x");
   set("ToolPaletteDir", u"C:\\a;b");
